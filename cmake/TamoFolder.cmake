@@ -1,0 +1,27 @@
+# One folder, one library. A folder sees its own headers and those of the folders it links, and nothing
+# else: each target's include path holds a single link to its own folder, so an include that points up a
+# floor does not compile.
+#
+#   tamo_folder(NAME [LINKS target...] [WITHOUT regex...])
+function(tamo_folder name)
+  cmake_parse_arguments(ARG "" "" "LINKS;WITHOUT" ${ARGN})
+  set(dir ${CMAKE_CURRENT_SOURCE_DIR}/${name})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${dir}/*.cpp)
+  foreach(regex ${ARG_WITHOUT})
+    list(FILTER sources EXCLUDE REGEX ${regex})
+  endforeach()
+  set(gate ${CMAKE_BINARY_DIR}/include/${name})
+  file(MAKE_DIRECTORY ${gate})
+  if(NOT EXISTS ${gate}/${name})
+    file(CREATE_LINK ${dir} ${gate}/${name} SYMBOLIC)
+  endif()
+  set(scope PUBLIC)
+  if(sources)
+    add_library(tamo_${name} STATIC ${sources})
+  else()
+    add_library(tamo_${name} INTERFACE)
+    set(scope INTERFACE)
+  endif()
+  target_include_directories(tamo_${name} ${scope} ${gate})
+  target_link_libraries(tamo_${name} ${scope} ${ARG_LINKS})
+endfunction()
