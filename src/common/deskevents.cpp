@@ -1,0 +1,228 @@
+#include <algorithm>
+#include <cstdio>
+#include <new>
+
+#include "common/desk.h"
+#include "common/failure.h"
+#include "common/paths.h"
+
+// Where events enter the forms.
+
+namespace tamo {
+
+void Desk::Dispatch(const std::function<void()>& event) {
+  struct Depth {
+    int& depth;
+    explicit Depth(int& d) : depth(d) { ++depth; }
+    ~Depth() { --depth; }
+  };
+  {
+    const Depth guard(depth_);
+    const int moves = moves_;
+    Form* const leaving = leaving_;
+    try {
+      event();
+    } catch (const RunTimeFailure& failure) {
+      moves_ = moves;
+      leaving_ = leaving;
+      messages_.Tell(failure.text);
+    } catch (const std::bad_alloc&) {
+      moves_ = moves;
+      leaving_ = leaving;
+      messages_.Tell(QStringLiteral(
+          "There is not enough memory for this. Close other programs, or take less at once."));
+    }
+  }
+  if (depth_ == 0 && onSettled) onSettled();
+}
+
+bool Desk::HandleKey(Control& control, Key key) {
+  bool done = false;
+  Dispatch([&] {
+    if (control.Owner().onKeyPreview) control.Owner().onKeyPreview(key);
+    if (!key.dropped && control.onKey) control.onKey(key);
+    done = key.dropped;
+  });
+  return done;
+}
+
+namespace {
+
+void EditWithKey(TextField& field, const Key& key) {
+  switch (key.name) {
+    case Key::Name::Character:
+    case Key::Name::Space:
+      field.ReplaceSelection(QString(key.character));
+      break;
+    case Key::Name::Backspace:
+      field.DeleteBackward();
+      break;
+    case Key::Name::Delete:
+      field.DeleteForward();
+      break;
+    default:
+      break;
+  }
+}
+
+void MoveInList(OrderedList& list, const Key& key) {
+  if (list.Empty()) return;
+  if (key.Is(Key::Name::Down)) list.SetIndex(std::min(list.Index() + 1, list.Count() - 1));
+  if (key.Is(Key::Name::Up)) list.SetIndex(std::max(list.Index() - 1, 0));
+}
+
+}  // namespace
+
+void Desk::PressKey(Control& control, Key key) {
+  if (HandleKey(control, key)) return;
+  Dispatch([&] {
+    if (key.Is(Key::Name::Tab) || key.Is(Key::Name::BackTab)) {
+      MoveFocus(key.Is(Key::Name::Tab));
+    } else if (auto* field = dynamic_cast<TextField*>(&control)) {
+      EditWithKey(*field, key);
+    } else if (auto* list = dynamic_cast<OrderedList*>(&control)) {
+      auto* checks = dynamic_cast<CheckList*>(list);
+      if (checks != nullptr && key.Is(Key::Name::Space) && list->Index() >= 0) {
+        checks->TickByUser(list->Index());
+      } else {
+        MoveInList(*list, key);
+      }
+    } else if (key.Is(Key::Name::Space) ||
+               (key.IsEnter() && dynamic_cast<Button*>(&control) != nullptr)) {
+      ClickInto(control);
+    }
+  });
+}
+
+void Desk::TypeText(Control& control, const QString& text) {
+  Control* target = &control;
+  for (const QChar c : text) {
+    PressKey(*target, Key::Typed(c));
+    if (Control* now = Focused()) target = now;
+  }
+}
+
+void Desk::Paste(TextField& field, const QString& text) {
+  Dispatch([&] { field.ReplaceSelection(text); });
+}
+
+void Desk::EditedByUser(TextField& field, const QString& text, int caret) {
+  Dispatch([&] { field.SetByUser(text, caret); });
+}
+
+void Desk::UserFocus(Control& control) {
+  Dispatch([&] { Focus(control); });
+}
+
+void Desk::UserActivate(Form& form) {
+  Dispatch([&] {
+    if (form.Visible()) Activate(form, true);
+  });
+}
+
+void Desk::ClickInto(Control& control) {
+  Dispatch([&] {
+    if (control.takesFocus) Focus(control);
+    if (auto* box = dynamic_cast<CheckBox*>(&control)) box->SetValue(box->Value() == 0 ? 1 : 0);
+    if (auto* option = dynamic_cast<Option*>(&control)) option->SetSelected(true);
+    if (control.onClick) control.onClick();
+  });
+}
+
+void Desk::DoubleClick(Control& control) {
+  Dispatch([&] {
+    if (control.takesFocus) Focus(control);
+    if (control.onDoubleClick) control.onDoubleClick();
+  });
+}
+
+void Desk::RightClick(Control& control) {
+  Dispatch([&] {
+    if (control.takesFocus) Focus(control);
+    if (control.onRightClick) control.onRightClick();
+  });
+}
+
+void Desk::ClickRow(OrderedList& list, int row) {
+  Dispatch([&] {
+    if (list.takesFocus) Focus(list);
+    list.ClickRow(row);
+    if (list.onClick) list.onClick();
+  });
+}
+
+void Desk::DoubleClickRow(OrderedList& list, int row) {
+  Dispatch([&] {
+    if (list.takesFocus) Focus(list);
+    list.ClickRow(row);
+    if (list.onDoubleClick) list.onDoubleClick();
+  });
+}
+
+void Desk::RightClickRow(OrderedList& list, int row) {
+  Dispatch([&] {
+    if (list.takesFocus) Focus(list);
+    list.SetIndex(row);
+    if (list.onRightClick) list.onRightClick();
+  });
+}
+
+void Desk::TickRow(CheckList& list, int row) {
+  Dispatch([&] {
+    if (list.takesFocus) Focus(list);
+    list.TickByUser(row);
+  });
+}
+
+void Desk::ScrollTo(OrderedList& list, int row) {
+  Dispatch([&] {
+    list.SetTop(row);
+    if (list.onUserScroll) list.onUserScroll();
+  });
+}
+
+void Desk::ChooseMenu(MenuEntry& entry) {
+  Dispatch([&] {
+    entry.Owner().openPopup = nullptr;
+    if (entry.Choosable() && entry.onClick) entry.onClick();
+  });
+}
+
+void Desk::CloseBox(Form& form) {
+  Dispatch([&] {
+    if (form.onClose && !form.onClose()) return;
+    Hide(form);
+  });
+}
+
+void Desk::Pick(FileBrowser& browser, const QString& path, bool twice) {
+  Dispatch([&] {
+    if (browser.GetKind() == FileBrowser::Kind::File) {
+      const QString folder = FolderOf(path);
+      if (!folder.isEmpty()) browser.SetFolder(folder);
+      browser.SetFile(FileNameOf(path));
+    } else {
+      browser.SetFolder(path);
+    }
+    if (browser.onPick) browser.onPick();
+    if (twice && browser.onDoublePick) browser.onDoublePick();
+  });
+}
+
+void Desk::MoveFocus(bool forward) {
+  Dispatch([&] {
+    if (active_ == nullptr) return;
+    std::vector<Control*> stops;
+    for (Control* control : active_->controls_) {
+      if (control->takesFocus && control->inTabOrder && (control->Usable() || control == focused_))
+        stops.push_back(control);
+    }
+    if (stops.empty()) return;
+    const auto here = std::find(stops.begin(), stops.end(), focused_);
+    const auto count = static_cast<long>(stops.size());
+    const long at = here == stops.end() ? (forward ? -1 : 0) : here - stops.begin();
+    Focus(*stops[static_cast<size_t>((at + (forward ? 1 : count - 1)) % count)]);
+  });
+}
+
+}  // namespace tamo

@@ -1,0 +1,165 @@
+#include "common/disk.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+
+#include "common/failure.h"
+
+// Plain system calls: every write, sync and rename is checked, nothing is buffered behind our back.
+
+namespace tamo {
+namespace {
+
+QByteArray Native(const QString& path) {
+  return QFile::encodeName(path);
+}
+
+int NumberOf(int error, const QString& path) {
+  switch (error) {
+    case ENOENT: {
+      const QString folder = QFileInfo(path).path();
+      return folder.isEmpty() || QFileInfo(folder).isDir() ? kFileNotFound : kPathNotFound;
+    }
+    case ENOTDIR:
+      return kPathNotFound;
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EISDIR:
+    case EEXIST:
+    case ETXTBSY:
+      return kNoAccess;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return kDiskFull;
+    default:
+      return kFileOther;
+  }
+}
+
+int Result(int returned, const QString& path) {
+  return returned < 0 ? NumberOf(errno, path) : kNoError;
+}
+
+}  // namespace
+
+int RealDisk::Read(const QString& path, QByteArray& bytes) {
+  bytes.clear();
+  const int handle = ::open(Native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (handle < 0) return NumberOf(errno, path);
+  struct stat info {};
+  int error = kNoError;
+  if (::fstat(handle, &info) != 0 || !S_ISREG(info.st_mode)) {
+    error = kNoAccess;
+  } else {
+    bytes.reserve(static_cast<qsizetype>(info.st_size) + 1);
+    char block[65536];
+    for (;;) {
+      const ssize_t got = ::read(handle, block, sizeof block);
+      if (got < 0 && errno == EINTR) continue;
+      if (got < 0) error = NumberOf(errno, path);
+      if (got <= 0) break;
+      bytes.append(block, static_cast<qsizetype>(got));
+    }
+  }
+  ::close(handle);
+  return error;
+}
+
+int RealDisk::OpenNew(const QString& path, int& handle) {
+  handle =
+      ::open(Native(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW, 0666);
+  return Result(handle, path);
+}
+
+int RealDisk::OpenAtEnd(const QString& path, int& handle) {
+  handle = ::open(Native(path).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
+  return Result(handle, path);
+}
+
+int RealDisk::Write(int handle, const QByteArray& bytes) {
+  qsizetype done = 0;
+  while (done < bytes.size()) {
+    const ssize_t wrote =
+        ::write(handle, bytes.constData() + done, static_cast<size_t>(bytes.size() - done));
+    if (wrote < 0 && errno == EINTR) continue;
+    if (wrote < 0) return NumberOf(errno, {});
+    done += wrote;
+  }
+  return kNoError;
+}
+
+int RealDisk::Truncate(int handle, qint64 size) {
+  return Result(::ftruncate(handle, size), {});
+}
+int RealDisk::Sync(int handle) {
+  return Result(::fdatasync(handle), {});
+}
+int RealDisk::Close(int handle) {
+  return Result(::close(handle), {});
+}
+
+int RealDisk::Rename(const QString& from, const QString& to) {
+  return Result(std::rename(Native(from).constData(), Native(to).constData()), to);
+}
+
+int RealDisk::SyncFolder(const QString& folder) {
+  const int handle = ::open(Native(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (handle < 0) return NumberOf(errno, folder);
+  const int error = Result(::fsync(handle), folder);
+  ::close(handle);
+  return error;
+}
+
+int RealDisk::MakeFolder(const QString& path) {
+  return Result(::mkdir(Native(path).constData(), 0777), path);
+}
+int RealDisk::RemoveFile(const QString& path) {
+  return Result(::unlink(Native(path).constData()), path);
+}
+int RealDisk::RemoveFolder(const QString& path) {
+  return Result(::rmdir(Native(path).constData()), path);
+}
+
+bool RealDisk::Exists(const QString& path) {
+  struct stat info {};
+  return ::stat(Native(path).constData(), &info) == 0;
+}
+
+bool RealDisk::IsFolder(const QString& path) {
+  struct stat info {};
+  return ::stat(Native(path).constData(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
+bool RealDisk::IsLink(const QString& path) {
+  struct stat info {};
+  return ::lstat(Native(path).constData(), &info) == 0 && S_ISLNK(info.st_mode);
+}
+
+bool RealDisk::CanWrite(const QString& path) {
+  if (Exists(path)) return ::access(Native(path).constData(), W_OK) == 0;
+  return ::access(Native(QFileInfo(path).path()).constData(), W_OK) == 0;
+}
+
+qint64 RealDisk::Size(const QString& path) {
+  struct stat info {};
+  return ::stat(Native(path).constData(), &info) == 0 ? static_cast<qint64>(info.st_size) : -1;
+}
+
+QStringList RealDisk::Names(const QString& folder) {
+  QStringList names =
+      QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+}  // namespace tamo

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+namespace tamo {
+
+// The file system, one call a step, so that a test can make any step fail. Every call that can fail
+// returns an error number: 0, 53 file not found, 76 path not found, 75 access, 61 disk full, 57
+// other. Paths are whole paths in the platform's form.
+class Disk {
+ public:
+  virtual ~Disk() = default;
+
+  virtual int Read(const QString& path, QByteArray& bytes) = 0;
+
+  // A new file for writing, replacing one of that name. `handle` is valid until Close.
+  virtual int OpenNew(const QString& path, int& handle) = 0;
+  // An existing file for adding at its end, or for cutting (Truncate).
+  virtual int OpenAtEnd(const QString& path, int& handle) = 0;
+  // All of `bytes`, unbuffered, or an error.
+  virtual int Write(int handle, const QByteArray& bytes) = 0;
+  virtual int Truncate(int handle, qint64 size) = 0;
+  // Returns when the bytes are on the device.
+  virtual int Sync(int handle) = 0;
+  virtual int Close(int handle) = 0;
+  // `to` is replaced in one step: whoever opens it sees the old file or the new one, whole.
+  virtual int Rename(const QString& from, const QString& to) = 0;
+  // Makes a rename in `folder` last.
+  virtual int SyncFolder(const QString& folder) = 0;
+
+  virtual int MakeFolder(const QString& path) = 0;  // one level; 75 when it exists already
+  virtual int RemoveFile(const QString& path) = 0;
+  virtual int RemoveFolder(const QString& path) = 0;  // only an empty one
+
+  virtual bool Exists(const QString& path) = 0;
+  virtual bool IsFolder(const QString& path) = 0;
+  virtual bool IsLink(const QString& path) = 0;
+  // Whether a file could be written there: the file's own right, or its folder's when it does not
+  // exist.
+  virtual bool CanWrite(const QString& path) = 0;
+  virtual qint64 Size(const QString& path) = 0;  // -1 when there is none
+  // The names in a folder, sorted: files and folders, without "." and "..".
+  virtual QStringList Names(const QString& folder) = 0;
+};
+
+// The machine's own file system.
+class RealDisk : public Disk {
+ public:
+  int Read(const QString& path, QByteArray& bytes) override;
+  int OpenNew(const QString& path, int& handle) override;
+  int OpenAtEnd(const QString& path, int& handle) override;
+  int Write(int handle, const QByteArray& bytes) override;
+  int Truncate(int handle, qint64 size) override;
+  int Sync(int handle) override;
+  int Close(int handle) override;
+  int Rename(const QString& from, const QString& to) override;
+  int SyncFolder(const QString& folder) override;
+  int MakeFolder(const QString& path) override;
+  int RemoveFile(const QString& path) override;
+  int RemoveFolder(const QString& path) override;
+  bool Exists(const QString& path) override;
+  bool IsFolder(const QString& path) override;
+  bool IsLink(const QString& path) override;
+  bool CanWrite(const QString& path) override;
+  qint64 Size(const QString& path) override;
+  QStringList Names(const QString& folder) override;
+};
+
+}  // namespace tamo

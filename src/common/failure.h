@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <stdexcept>
+
+namespace tamo {
+
+// What stops an event in the middle: a division by zero, a column that would need a negative number
+// of blanks, a row that does not exist. `number` is the failure's number (the k...Error constants
+// below); `text` says in plain words what failed, where, and what to do. Everything done before it
+// stands.
+//
+// It is thrown wherever a rule has no answer of its own and caught at one place, Desk::Dispatch,
+// which shows the text in a message box and goes on with the next event.
+class RunTimeFailure : public std::runtime_error {
+ public:
+  RunTimeFailure(int failureNumber, const QString& failureText)
+      : std::runtime_error(failureText.toStdString()), number(failureNumber), text(failureText) {}
+
+  int number;
+  QString text;
+};
+
+inline constexpr int kNoError = 0;
+inline constexpr int kInvalidArgument =
+    5;                                // a negative width, a text shorter than what is asked of it
+inline constexpr int kOverflow = 6;   // a result that no number holds
+inline constexpr int kSubscript = 9;  // a row that does not exist
+inline constexpr int kDivisionByZero = 11;
+inline constexpr int kFileNotFound = 53;
+inline constexpr int kFileOther = 57;  // any other failure of the device
+inline constexpr int kDiskFull = 61;
+inline constexpr int kPastEnd = 62;   // a read past the end of a file
+inline constexpr int kNoAccess = 75;  // no right to read or write, or a folder in the file's place
+inline constexpr int kPathNotFound = 76;  // the folder of the file does not exist
+
+}  // namespace tamo

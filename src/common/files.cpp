@@ -1,0 +1,183 @@
+#include "common/files.h"
+
+#include <algorithm>
+
+#include "common/failure.h"
+#include "common/paths.h"
+#include "common/textlines.h"
+
+namespace tamo {
+
+QString ReasonText(int number) {
+  switch (number) {
+    case kFileNotFound:
+    case kPathNotFound:
+      return QStringLiteral("its folder does not exist");
+    case kNoAccess:
+      return QStringLiteral("there is no right to write it");
+    case kDiskFull:
+      return QStringLiteral("the disk is full");
+    default:
+      return QStringLiteral("the device reports a failure");
+  }
+}
+
+QString Files::Resolved(const QString& path) {
+  if (disk_.Exists(path)) return path;
+  const QString folder = FolderOf(path);
+  const QString name = FileNameOf(path);
+  if (folder.isEmpty() || name.isEmpty()) return path;
+  for (const QString& other : disk_.Names(folder)) {
+    if (other.compare(name, Qt::CaseInsensitive) == 0) return folder + PlatformSeparator() + other;
+  }
+  return path;
+}
+
+Files::Pending* Files::FindPending(const QString& path) {
+  for (Pending& pending : pending_) {
+    if (pending.path.compare(path, Qt::CaseInsensitive) == 0) return &pending;
+  }
+  return nullptr;
+}
+
+int Files::ReadText(const QString& path, QString& text) {
+  text.clear();
+  if (!pending_.empty()) {
+    if (const Pending* pending = FindPending(path)) {
+      text = pending->text;
+      return kNoError;
+    }
+  }
+  QByteArray bytes;
+  int error = disk_.Read(path, bytes);
+  if (error == kFileNotFound) {
+    const QString other = Resolved(path);
+    if (other != path) error = disk_.Read(other, bytes);
+  }
+  if (error == kNoError) text = DecodedText(bytes);
+  return error;
+}
+
+int Files::ReadLines(const QString& path, QStringList& lines) {
+  QString text;
+  const int error = ReadText(path, text);
+  lines = WholeLines(text);
+  return error;
+}
+
+int Files::ReadFields(const QString& path, QStringList& fields) {
+  QString text;
+  const int error = ReadText(path, text);
+  fields = DelimitedFields(text);
+  return error;
+}
+
+int Files::SaveLines(const QString& path, const QStringList& lines) {
+  return SaveText(path, JoinedLines(lines));
+}
+
+int Files::SaveText(const QString& path, const QString& text) {
+  if (!pending_.empty()) RetryPending(path);
+  const int error = Replace(path, text.toUtf8());
+  Pending* known = FindPending(path);
+  if (error != kNoError) {
+    if (known != nullptr) {
+      known->text = text;
+      known->reason = error;
+    } else {
+      pending_.push_back({path, text, error});
+    }
+    if (onPendingChanged) onPendingChanged();
+  } else if (known != nullptr) {
+    pending_.erase(pending_.begin() + (known - pending_.data()));
+    if (onPendingChanged) onPendingChanged();
+  }
+  return error;
+}
+
+int Files::Replace(const QString& path, const QByteArray& bytes) {
+  const QString target = Resolved(path);
+  if (disk_.Exists(target) && !disk_.CanWrite(target)) return kNoAccess;
+  if (disk_.IsFolder(target)) return kNoAccess;
+  const QString unfinished = target + QLatin1String(kUnfinishedEnding);
+  int error = WriteWhole(unfinished, bytes);
+  if (error == kNoError) error = disk_.Rename(unfinished, target);
+  if (error != kNoError) {
+    disk_.RemoveFile(unfinished);
+    return error;
+  }
+  return disk_.SyncFolder(FolderOf(target));
+}
+
+int Files::WriteWhole(const QString& path, const QByteArray& bytes) {
+  int handle = -1;
+  int error = disk_.OpenNew(path, handle);
+  if (error == kFileNotFound) error = kPathNotFound;
+  if (error != kNoError) return error;
+  error = disk_.Write(handle, bytes);
+  if (error == kNoError) error = disk_.Sync(handle);
+  const int closing = disk_.Close(handle);
+  return error != kNoError ? error : closing;
+}
+
+void Files::RetryPending(const QString& except) {
+  const auto before = pending_.size();
+  std::erase_if(pending_, [&](Pending& pending) {
+    if (pending.path.compare(except, Qt::CaseInsensitive) == 0) return false;
+    pending.reason = Replace(pending.path, pending.text.toUtf8());
+    return pending.reason == kNoError;
+  });
+  if (pending_.size() != before && onPendingChanged) onPendingChanged();
+}
+
+bool Files::TryAgain() {
+  RetryPending({});
+  return pending_.empty();
+}
+
+QString Files::Notice() const {
+  if (pending_.empty()) return {};
+  const Pending& last = pending_.back();
+  QString text =
+      QStringLiteral(
+          "Not saved: %1, because %2. The file on disk is unchanged; your entry is kept here.")
+          .arg(last.path, ReasonText(last.reason));
+  if (pending_.size() > 1)
+    text += QStringLiteral(" (%1 files wait to be saved.)").arg(pending_.size());
+  return text + QStringLiteral(" Click here to try again.");
+}
+
+bool Files::Exists(const QString& path) {
+  return FindPending(path) != nullptr || disk_.Exists(Resolved(path));
+}
+
+int Files::Remove(const QString& path) {
+  const Pending* known = FindPending(path);
+  if (known != nullptr) {
+    pending_.erase(pending_.begin() + (known - pending_.data()));
+    if (onPendingChanged) onPendingChanged();
+  }
+  return disk_.RemoveFile(Resolved(path));
+}
+
+int Files::MakeFolder(const QString& path) {
+  QString bare = path;
+  while (bare.size() > 1 && EndsInSeparator(bare)) bare.chop(1);
+  return disk_.MakeFolder(bare);
+}
+
+void Files::MakeFolders(const QString& path) {
+  for (const QString& level : FolderLevels(path)) disk_.MakeFolder(level);
+  if (!EndsInSeparator(path)) disk_.MakeFolder(path);
+}
+
+void Files::Sweep(const QString& folder) {
+  QString bare = folder;
+  while (bare.size() > 1 && EndsInSeparator(bare)) bare.chop(1);
+  for (const QString& name : disk_.Names(bare)) {
+    if (name.endsWith(QLatin1String(kUnfinishedEnding)))
+      disk_.RemoveFile(bare + PlatformSeparator() + name);
+  }
+}
+
+}  // namespace tamo

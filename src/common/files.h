@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <vector>
+
+#include "common/disk.h"
+
+namespace tamo {
+
+// The file statements of the program. Error numbers as in Disk; nothing here throws or shows a
+// message.
+//
+// A name finds its file whatever its case: the exact spelling first, then a name that differs only
+// in case; saving under another case replaces that file.
+//
+// A save that fails becomes a pending save: the text is kept, reading the file gives the kept text,
+// and it is tried again at every later save and by TryAgain, until it is on the disk. The old file
+// stays whole meanwhile.
+class Files {
+ public:
+  explicit Files(Disk& disk) : disk_(disk) {}
+  Files(const Files&) = delete;
+  Files& operator=(const Files&) = delete;
+
+  Disk& GetDisk() { return disk_; }
+
+  int ReadText(const QString& path, QString& text);
+  int ReadLines(const QString& path, QStringList& lines);
+  int ReadFields(const QString& path, QStringList& fields);  // the delimited read
+
+  // Replaces the file by `text`, atomically and durably: a new file in the same folder, synced,
+  // renamed over the old one, the folder synced. On failure the text becomes pending and the number
+  // is returned.
+  int SaveText(const QString& path, const QString& text);
+  int SaveLines(const QString& path, const QStringList& lines);  // CR LF behind each
+
+  bool Exists(const QString& path);  // also true for a pending file
+  int Remove(const QString& path);   // a pending text of that file is dropped, too
+  int MakeFolder(const QString& path);
+  // Every level of `path`, outermost first; failures are passed over.
+  void MakeFolders(const QString& path);
+
+  // The path of the existing file that `path` means (last part compared without case when there is
+  // no exact match), or `path` itself.
+  QString Resolved(const QString& path);
+
+  struct Pending {
+    QString path;
+    QString text;
+    int reason = 0;
+  };
+  const std::vector<Pending>& PendingSaves() const { return pending_; }
+  // Tries every pending save once more. True when nothing is left.
+  bool TryAgain();
+  // One sentence or two for the strip at the foot of every window, "" when nothing is pending.
+  QString Notice() const;
+  std::function<void()> onPendingChanged;  // set by whoever shows the notice
+
+  // Removes what a crash left of half-made saves directly in `folder`.
+  void Sweep(const QString& folder);
+
+ private:
+  int Replace(const QString& path, const QByteArray& bytes);
+  int WriteWhole(const QString& path, const QByteArray& bytes);
+  void RetryPending(const QString& except);
+  Pending* FindPending(const QString& path);
+
+  Disk& disk_;
+  std::vector<Pending> pending_;
+};
+
+// The ending of the temporary files of half-made saves.
+inline constexpr char kUnfinishedEnding[] = ".tamo-unfinished";
+
+// What an error number of a save means, in words: "the disk is full".
+QString ReasonText(int number);
+
+}  // namespace tamo

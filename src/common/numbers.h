@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+namespace tamo {
+
+// The number that a text begins with: leading blanks are skipped, then a sign (plus or minus),
+// digits and one point are read as far as they go. No exponent, no thousands comma, no hexadecimal:
+// "1e3" is 1, "1,500.0" is 1. A text with no number is 0. A number beyond what a double holds
+// raises a RunTimeFailure (kOverflow).
+double Value(QStringView text);
+
+// The same, but a comma that stands between a digit and exactly three digits is skipped, so that a
+// measured "1,500.0" counts as 1500. Only the takeoff's number fields read their text this way.
+double GroupedValue(QStringView text);
+
+// The shortest plain decimal text of at most 15 significant digits: no exponent, no zero before the
+// point (.5, -.5), no zeros at the end, zeros after the 15 digits of a larger number. Infinity and
+// not-a-number raise a RunTimeFailure (kOverflow): they are never printed.
+QString NumberText(double number);
+
+// NumberText with one blank before a number that is not negative: the place of its sign.
+QString SignedNumberText(double number);
+
+// `number` after a trip through NumberText: cut to 15 significant digits.
+double CutTo15Digits(double number);
+
+double Rounded(double number);    // floor(x + 0.5): dollars
+double Raised(double number);     // floor(x + 0.9): what must be ordered whole
+double Truncated(double number);  // floor(x), also below zero
+
+// dividend / divisor; a divisor of 0 raises a RunTimeFailure (kDivisionByZero) with `what`, a plain
+// sentence that names the system, the material or the line and what to do.
+double Divided(double dividend, double divisor, const QString& what);
+
+}  // namespace tamo

@@ -1,0 +1,150 @@
+#include <algorithm>
+
+#include "common/control.h"
+#include "common/failure.h"
+#include "common/form.h"
+
+namespace tamo {
+
+OrderedList::OrderedList(Form& form, const QString& name) : Control(form, name) {
+  form.Register(this);
+}
+
+void OrderedList::Check(int at) const {
+  if (at < 0 || at >= Count()) {
+    throw RunTimeFailure(
+        kSubscript,
+        QStringLiteral(
+            "No line is selected in %1, or it is not there any more. Select a line first.")
+            .arg(Name()));
+  }
+}
+
+void OrderedList::RowsChanged() {
+  ++rowsRevision_;
+  Changed();
+}
+
+const QString& OrderedList::Row(int at) const {
+  Check(at);
+  return rows_[at];
+}
+
+void OrderedList::SetRow(int at, const QString& text) {
+  Check(at);
+  rows_[at] = text;
+  RowsChanged();
+}
+
+void OrderedList::Add(const QString& text) {
+  rows_.append(text);
+  RowInserted(Count() - 1);
+  RowsChanged();
+}
+
+void OrderedList::AddAll(const QStringList& rows) {
+  for (const QString& row : rows) {
+    rows_.append(row);
+    RowInserted(Count() - 1);
+  }
+  RowsChanged();
+}
+
+void OrderedList::Insert(int at, const QString& text) {
+  if (at != Count()) Check(at);
+  rows_.insert(at, text);
+  if (index_ >= at) ++index_;
+  RowInserted(at);
+  RowsChanged();
+}
+
+void OrderedList::Remove(int at) {
+  Check(at);
+  rows_.removeAt(at);
+  if (index_ == at) {
+    index_ = -1;
+  } else if (index_ > at) {
+    --index_;
+  }
+  top_ = std::clamp(top_, 0, std::max(0, Count() - 1));
+  RowRemoved(at);
+  RowsChanged();
+}
+
+void OrderedList::Clear() {
+  if (rows_.isEmpty() && index_ == -1 && top_ == 0) return;
+  rows_.clear();
+  index_ = -1;
+  top_ = 0;
+  RowsCleared();
+  RowsChanged();
+}
+
+void OrderedList::SetRows(const QStringList& rows) {
+  Clear();
+  AddAll(rows);
+}
+
+void OrderedList::SetIndex(int index) {
+  if (index == index_) return;
+  if (index != -1) Check(index);
+  index_ = index;
+  Changed();
+  if (onSelect) onSelect();
+}
+
+void OrderedList::SetTop(int row) {
+  row = std::clamp(row, 0, std::max(0, Count() - 1));
+  if (row == top_) return;
+  top_ = row;
+  Changed();
+}
+
+int OrderedList::Find(const QString& text) const {
+  return static_cast<int>(rows_.indexOf(text));
+}
+
+int OrderedList::FindAnyCase(const QString& text) const {
+  const QString upper = text.toUpper();
+  for (int i = 0; i < Count(); ++i) {
+    if (rows_[i].toUpper() == upper) return i;
+  }
+  return -1;
+}
+
+void OrderedList::ClickRow(int row) {
+  SetIndex(row);
+}
+
+void OrderedList::RowInserted(int) {}
+void OrderedList::RowRemoved(int) {}
+void OrderedList::RowsCleared() {}
+
+bool CheckList::Ticked(int row) const {
+  return row >= 0 && row < Count() && ticked_[static_cast<size_t>(row)];
+}
+
+void CheckList::SetTicked(int row, bool ticked) {
+  if (row < 0 || row >= Count() || ticked_[static_cast<size_t>(row)] == ticked) return;
+  ticked_[static_cast<size_t>(row)] = ticked;
+  Changed();
+}
+
+void CheckList::TickByUser(int row) {
+  Row(row);
+  ticked_[static_cast<size_t>(row)] = !ticked_[static_cast<size_t>(row)];
+  Changed();
+  if (onTick) onTick(row);
+}
+
+void CheckList::RowInserted(int at) {
+  ticked_.insert(ticked_.begin() + at, false);
+}
+void CheckList::RowRemoved(int at) {
+  ticked_.erase(ticked_.begin() + at);
+}
+void CheckList::RowsCleared() {
+  ticked_.clear();
+}
+
+}  // namespace tamo

@@ -1,0 +1,86 @@
+#include <algorithm>
+
+#include "common/control.h"
+#include "common/form.h"
+
+namespace tamo {
+
+TextField::TextField(Form& form, const QString& name, int maxLength)
+    : Control(form, name), maxLength_(maxLength) {
+  form.Register(this);
+}
+
+void TextField::Take(const QString& text) {
+  text_ = text;
+  Changed();
+  if (onChange) onChange();
+}
+
+void TextField::SetText(const QString& text) {
+  if (text_ == text) return;
+  selectionStart_ = 0;
+  selectionLength_ = 0;
+  Take(text);
+}
+
+void TextField::Select(int start, int length) {
+  const int size = static_cast<int>(text_.size());
+  start = std::clamp(start, 0, size);
+  length = std::clamp(length, 0, size - start);
+  if (start == selectionStart_ && length == selectionLength_) return;
+  selectionStart_ = start;
+  selectionLength_ = length;
+  Changed();
+}
+
+void TextField::ReplaceSelection(const QString& typed) {
+  if (readOnly) return;
+  QString piece = typed;
+  if (!multiLine) {
+    piece.replace(QLatin1String("\r\n"), QLatin1String(" "));
+    for (QChar& c : piece) {
+      if (c == QLatin1Char('\n') || c == QLatin1Char('\r')) c = QLatin1Char(' ');
+    }
+  }
+  QString text = text_;
+  text.remove(selectionStart_, selectionLength_);
+  if (maxLength_ > 0) piece = piece.left(std::max<qsizetype>(0, maxLength_ - text.size()));
+  text.insert(selectionStart_, piece);
+  selectionStart_ += static_cast<int>(piece.size());
+  selectionLength_ = 0;
+  if (text != text_) {
+    Take(text);
+  } else {
+    Changed();
+  }
+}
+
+void TextField::DeleteBackward() {
+  if (readOnly) return;
+  if (selectionLength_ == 0) {
+    if (selectionStart_ == 0) return;
+    // A line end counts as one character to whoever deletes it.
+    const bool lineEnd =
+        selectionStart_ > 1 && text_.mid(selectionStart_ - 2, 2) == QLatin1String("\r\n");
+    selectionLength_ = lineEnd ? 2 : 1;
+    selectionStart_ -= selectionLength_;
+  }
+  ReplaceSelection(QString());
+}
+
+void TextField::DeleteForward() {
+  if (readOnly) return;
+  if (selectionLength_ == 0) {
+    if (selectionStart_ >= text_.size()) return;
+    selectionLength_ = text_.mid(selectionStart_, 2) == QLatin1String("\r\n") ? 2 : 1;
+  }
+  ReplaceSelection(QString());
+}
+
+void TextField::SetByUser(const QString& text, int caret) {
+  selectionStart_ = std::clamp(caret, 0, static_cast<int>(text.size()));
+  selectionLength_ = 0;
+  if (text != text_) Take(text);
+}
+
+}  // namespace tamo

@@ -1,0 +1,36 @@
+#include "plans/mark.h"
+
+#include <algorithm>
+#include <cmath>
+
+QString LengthText(double length) {
+  if (!std::isfinite(length) || std::abs(length) > 1e14) return QStringLiteral("0.0");
+  // Rounding works on the 15 digits a person would see, so 0.25 and 2.45 go up as on paper.
+  const double tenths = std::abs(length) * 10;
+  const double seen = QString::number(tenths, 'g', 15).toDouble();
+  const auto whole = static_cast<qint64>(std::floor(seen + 0.5));
+  QString text = QString::number(whole / 10);
+  for (qsizetype at = text.size() - 3; at > 0; at -= 3) text.insert(at, QLatin1Char(','));
+  text += QLatin1Char('.') + QString::number(whole % 10);
+  return length < 0 && whole != 0 ? QLatin1Char('-') + text : text;
+}
+
+double Distance(PagePoint from, PagePoint to) {
+  return std::hypot(to.x - from.x, to.y - from.y);
+}
+
+bool IsColourCode(const QString& code) {
+  return code.size() == 9 && std::all_of(code.begin(), code.end(), [](QChar c) {
+           return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+         });
+}
+
+unsigned ColourNumber(const QString& code) {
+  if (!IsColourCode(code)) return 0;
+  unsigned colour = 0;
+  for (int part = 0; part < 3; ++part) {
+    const unsigned value = std::min(255U, code.mid(part * 3, 3).toUInt());
+    colour = colour << 8 | value;
+  }
+  return colour;
+}

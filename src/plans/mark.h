@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+// A place on a page in points (1/72 inch of paper) from the top left corner of the page as it is
+// looked at: after the page's own rotation and crop, x to the right, y down.
+struct PagePoint {
+  double x = 0;
+  double y = 0;
+};
+
+// Width and height of a page in points, as it is looked at.
+struct PageSize {
+  double width = 612;
+  double height = 792;
+};
+
+// One mark on a plan: a measured line (two points) or a counting circle (its centre).
+struct Mark {
+  enum class Kind { Line, Circle };
+  Kind kind = Kind::Line;
+  int page = 1;  // from 1
+  std::vector<PagePoint> points;
+  QString colour = QStringLiteral("255000000");  // RRRGGGBBB
+  double width = 0.75;                           // points
+  QString label;                                 // as it stands on the plan: 10.0 feet @ 1/4"=1'
+  QString name;  // the mark's own name inside the file; empty until it has one
+};
+
+// The length as the plan and the takeoff show it: one decimal, a comma at the thousands
+// ("1,500.0"). Half goes up; a length that is no finite number gives "0.0".
+QString LengthText(double length);
+
+// The distance of two places in points.
+double Distance(PagePoint from, PagePoint to);
+
+// The three parts of a colour code RRRGGGBBB as 0xRRGGBB, parts over 255 taken as 255; black for a
+// text that is not nine digits.
+unsigned ColourNumber(const QString& code);
+bool IsColourCode(const QString& code);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+// A painted rectangle of pixels, row by row from the top. A pixel is 0xffRRGGBB in the machine's
+// byte order, the layout that window toolkits call RGB32, so a window can wrap it without a copy.
+struct Picture {
+  int width = 0;
+  int height = 0;
+  std::vector<uint32_t> pixels;  // width * height of them
+};

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "common/desk.h"
+#include "common/files.h"
+#include "common/services.h"
+#include "common/sharedfields.h"
+#include "plans/pdfdraw.h"
+
+namespace tamo {
+
+// The whole program below its windows: makes every form, the menus of both shells with their guards and
+// transitions, and joins the forms' hand-overs. Windows, or the scenario player, stand on top of it.
+class Program {
+ public:
+  // `viewer` is the plan viewer control; it outlives the program.
+  Program(const Platform& platform, PdfDraw& viewer);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  // Runs the start-up and brings up the shell of the mode that the settings name.
+  void Start();
+  bool Running() const;
+  // The last window was closed, or Exit chosen: the display closes its windows and leaves its event loop.
+  std::function<void()> onEnded;
+
+  Desk& GetDesk();
+  Files& GetFiles();
+  SharedFields& Shared();
+  PdfDraw& Viewer();
+  // Form of that name ("Tamo", "Pricing", ...), nullptr when there is none.
+  Form* FindForm(const QString& name);
+  // The text named FORM.NAME that is no control (Tamo.JobID, Form11.IAmHere, RFSForm.Flag), nullptr when there is none.
+  const QString* FindText(const QString& form, const QString& name);
+  // The strip at the foot of every window was clicked.
+  void TrySavesAgain();
+  // Asks, when saves are pending, whether to end all the same; true when the program may end.
+  bool MayEnd();
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace tamo
