@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 #include "plans/pdfdraw.h"
@@ -14,7 +15,7 @@ class DrawingBoard : public PdfDraw {
  public:
   QString ShownFile() const override;
   QString ShownPath() const override { return path_; }
-  bool HasUnsavedMarks() const override { return changed_; }
+  bool HasUnsavedMarks() const override;
   QString Problem() const override { return problem_; }
 
   void SetPage(int page) override;
@@ -73,7 +74,7 @@ class DrawingBoard : public PdfDraw {
   void SetProblem(const QString& text) { problem_ = text; }
   void SetSizeOfPage(int page, PageSize size);
 
-  std::vector<Mark>& BoardMarks() { return marks_; }  // oldest first
+  const std::vector<Mark>& BoardMarks() const { return marks_; }  // oldest first
 
  private:
   struct Step {
@@ -93,6 +94,7 @@ class DrawingBoard : public PdfDraw {
   PagePoint LineEnd(PagePoint at, bool shift) const;
   double PaperLength() const;
   QString PaperUnit() const;
+  QString NextName();
   int CircleCount() const;
   void Repaint();
   void ViewChanged();
@@ -103,7 +105,8 @@ class DrawingBoard : public PdfDraw {
   std::vector<Mark> marks_;
   std::vector<Step> done_;
   std::vector<Step> undone_;
-  bool changed_ = false;
+  QStringList saved_;  // the names of the marks that stand in the file
+  int lastNumber_ = 0;
 
   int page_ = 1;
   int wantedPage_ = 1;
