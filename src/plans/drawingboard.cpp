@@ -38,6 +38,11 @@ QString DrawingBoard::ShownFile() const {
 
 void DrawingBoard::ShowPlan(const QString& path, std::vector<PageSize> sizes,
                             std::vector<Mark> marks) {
+  BeginPlan(path);
+  FillPlan(std::move(sizes), std::move(marks));
+}
+
+void DrawingBoard::BeginPlan(const QString& path) {
   path_ = path;
   wantedPage_ = 1;
   std::fill(std::begin(view_), std::end(view_), 0);
@@ -45,7 +50,7 @@ void DrawingBoard::ShowPlan(const QString& path, std::vector<PageSize> sizes,
   unitName_ = QStringLiteral("feet");
   checkNext_ = false;
   line_ = LineState::None;
-  FillPlan(std::move(sizes), std::move(marks));
+  marks_.clear();
   if (tool_ != NoTool) PickTool(NoTool);
 }
 

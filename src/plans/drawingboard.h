@@ -66,6 +66,9 @@ class DrawingBoard : public PdfDraw {
   // Puts a plan on the board, as OpenFile promises. `path` empty: the blank sheet. `marks` oldest
   // first. Raises the events.
   void ShowPlan(const QString& path, std::vector<PageSize> sizes, std::vector<Mark> marks);
+  // The two halves of it: a plan begins (its pages are not known yet), and its pages and marks
+  // come.
+  void BeginPlan(const QString& path);
   // Takes the pages and marks of a plan that was slow to open; page, view and units stay as they
   // were set meanwhile.
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
