@@ -103,14 +103,12 @@ qint64 BarelyBegun(const FileReader& file, qint64 size) {
   if (at < 0) return -1;
   at += 5;
   const QByteArray head = QByteArray("\n") + kAdditionHead;
-  for (qsizetype ends = 0; ends <= 2 && at + ends <= tail.size(); ++ends) {
+  const qsizetype lineEnd = tail.mid(at, 2) == "\r\n" ? 2 : tail.mid(at, 1) == "\n" ? 1 : 0;
+  for (const qsizetype ends : {lineEnd, qsizetype(0)}) {
     const QByteArray rest = tail.mid(at + ends);
-    if (head.startsWith(rest) && EndsWhole(tail.left(at))) {
-      // Zeros alone are padding of another program unless the state before them is one of ours.
-      const bool ours = rest.size() > 1 || tail.left(at).contains(kAdditionSum);
-      if (ours) return from + at + ends;
-    }
-    if (at + ends < tail.size() && !IsBlank(tail[at + ends])) break;
+    if (!head.startsWith(rest) || !EndsWhole(tail.left(at))) continue;
+    // Zeros alone are padding of another program unless the state before them is one of ours.
+    if (rest.size() > 1 || tail.left(at).contains(kAdditionSum)) return from + at + ends;
   }
   return -1;
 }

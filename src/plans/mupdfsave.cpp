@@ -138,8 +138,7 @@ int MuPdfDraw::Append(const QString& path, const MarkChanges& changes) {
       // What part of it arrived goes again; should that fail, too, the next opening cuts it.
       disk.Truncate(handle, session_->size);
     }
-    const int closing = disk.Close(handle);
-    if (error == kNoError) error = closing;
+    disk.Close(handle);  // all is on the disk already, or taken back
   }
   if (error != kNoError) {
     ForgetAddition();

@@ -20,13 +20,19 @@ void CollectEncrypted(fz_context* context, void* state, const unsigned char* dat
 struct SinkState {
   const std::function<int(const QByteArray&)>* sink = nullptr;
   int error = 0;
+  int64_t written = 0;
 };
+
+int64_t TellSink(fz_context* /*context*/, void* state) {
+  return static_cast<SinkState*>(state)->written;
+}
 
 int Hand(SinkState* state, const void* data, size_t size) {
   if (state->error == 0) {
     state->error =
         (*state->sink)(QByteArray(static_cast<const char*>(data), static_cast<qsizetype>(size)));
   }
+  state->written += static_cast<int64_t>(size);
   return state->error;
 }
 
@@ -255,6 +261,7 @@ int PlanFile::Rewrite(const std::function<int(const QByteArray&)>& sink, QString
   fz_var(out);
   fz_try(context) {
     out = fz_new_output(context, 65536, &state, WriteSink, nullptr, nullptr);
+    out->tell = TellSink;
     pdf_write_document(context, inner_->document, out, &options);
     fz_close_output(context, out);
   }
