@@ -15,6 +15,7 @@ namespace tamo::player {
 class Played {
  public:
   virtual ~Played() = default;
+  virtual void Start() = 0;  // once, after a display was built over it
   virtual Desk& GetDesk() = 0;
   virtual Form* FindForm(const QString& name) = 0;  // nullptr when there is none
   // The text FORM.NAME that is no control; nullptr when there is none.
@@ -27,7 +28,7 @@ class Played {
   virtual Form* Shell() = 0;
 };
 
-// Starts a program on a platform that outlives it.
-using ProgramStarter = std::function<std::unique_ptr<Played>(const Platform&)>;
+// Makes a program on a platform that outlives it.
+using ProgramMaker = std::function<std::unique_ptr<Played>(const Platform&)>;
 
 }  // namespace tamo::player

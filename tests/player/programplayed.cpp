@@ -19,12 +19,13 @@ std::unique_ptr<PdfDraw> MakeViewer(const Platform& platform) {
 }  // namespace
 
 ProgramPlayed::ProgramPlayed(const Platform& platform)
-    : viewer_(MakeViewer(platform)), program_(std::make_unique<Program>(platform, *viewer_)) {
-  program_->Start();
-}
+    : viewer_(MakeViewer(platform)), program_(std::make_unique<Program>(platform, *viewer_)) {}
 
 ProgramPlayed::~ProgramPlayed() = default;
 
+void ProgramPlayed::Start() {
+  program_->Start();
+}
 Desk& ProgramPlayed::GetDesk() {
   return program_->GetDesk();
 }

@@ -7,7 +7,7 @@
 
 namespace tamo::player {
 
-// Starts the program itself. Windows that are built over it get it from here.
+// The program itself. Windows that are built over it get it from here.
 class ProgramPlayed : public Played {
  public:
   explicit ProgramPlayed(const Platform& platform);
@@ -15,6 +15,7 @@ class ProgramPlayed : public Played {
 
   Program& GetProgram() { return *program_; }
 
+  void Start() override;
   Desk& GetDesk() override;
   Form* FindForm(const QString& name) override;
   const QString* FindText(const QString& form, const QString& name) override;

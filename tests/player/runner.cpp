@@ -19,11 +19,11 @@ QString OneLine(const QStringList& lines) {
 
 }  // namespace
 
-Runner::Runner(Machine& machine, Stage& stage, ProgramStarter starter, QTextStream& out,
+Runner::Runner(Machine& machine, Stage& stage, ProgramMaker maker, QTextStream& out,
                QTextStream& err)
     : machine_(machine),
       stage_(stage),
-      starter_(std::move(starter)),
+      maker_(std::move(maker)),
       out_(out),
       err_(err),
       looker_(machine, played_) {}
@@ -90,9 +90,10 @@ void Runner::AfterStep() {
 
 void Runner::Start() {
   if (played_ != nullptr) Fail(QStringLiteral("the program runs already"));
-  program_ = starter_(machine_.GetPlatform());
+  program_ = maker_(machine_.GetPlatform());
   played_ = program_.get();
   stage_.Raise(*played_);
+  played_->Start();
 }
 
 void Runner::TakeDown() {

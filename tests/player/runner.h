@@ -18,8 +18,7 @@ namespace tamo::player {
 class Runner {
  public:
   // `print` writes to `out`. `file` names the scenario in messages, `folder` is where it stands.
-  Runner(Machine& machine, Stage& stage, ProgramStarter starter, QTextStream& out,
-         QTextStream& err);
+  Runner(Machine& machine, Stage& stage, ProgramMaker maker, QTextStream& out, QTextStream& err);
   ~Runner();
   Runner(const Runner&) = delete;
   Runner& operator=(const Runner&) = delete;
@@ -49,7 +48,7 @@ class Runner {
 
   Machine& machine_;
   Stage& stage_;
-  ProgramStarter starter_;
+  ProgramMaker maker_;
   QTextStream& out_;
   QTextStream& err_;
   std::unique_ptr<Played> program_;

@@ -282,10 +282,8 @@ plan circle 10 20
 expect focus = OST.picPdfDraw
 plan line 0 0 72 0
 expect tool = 1
-expect marks <<END
-line 1 0 0 72 0 255000000 .75 1.0 feet
-circle 1 10 20 255000000
-END
+expect marks contains line 1 0 0 72 0 255000000 .75 1.0
+expect marks contains ^M^Jcircle 1 10 20 255000000
 expect pen = 255000000
 expect zoom = 100
 expect page = 1

@@ -16,7 +16,7 @@ class Stage {
  public:
   virtual ~Stage() = default;
 
-  virtual void Raise(Played& played) = 0;  // the program has started
+  virtual void Raise(Played& played) = 0;  // a program was made and is about to start
   virtual void Strike() = 0;               // it is about to be taken down
 
   virtual void ChooseMenu(MenuEntry& entry) = 0;

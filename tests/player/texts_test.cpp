@@ -4,6 +4,7 @@
 #include "player/difftext.h"
 #include "player/values.h"
 
+using namespace tamo;
 using namespace tamo::player;
 
 TEST(Caret, ControlCharactersAreShownWithCarets) {

@@ -61,6 +61,9 @@ ToyProgram::ToyProgram(const Platform& platform)
   Divide_.onClick = [] { Divided(1, 0, QStringLiteral("The toy divides by zero.")); };
   Quit_.onClick = [this] { toy_.Hide(); };
   Box_.Hide();
+}
+
+void ToyProgram::Start() {
   plan_.Show();
   toy_.Show();
 }

@@ -12,6 +12,7 @@ class ToyProgram : public Played {
  public:
   explicit ToyProgram(const Platform& platform);
 
+  void Start() override;
   Desk& GetDesk() override { return desk_; }
   Form* FindForm(const QString& name) override { return desk_.Find(name); }
   const QString* FindText(const QString& form, const QString& name) override;
