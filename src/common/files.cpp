@@ -147,8 +147,7 @@ void Files::RetryPending(const QString& except) {
   const auto before = pending_.size();
   std::erase_if(pending_, [&](Pending& pending) {
     if (pending.path.compare(except, Qt::CaseInsensitive) == 0) return false;
-    pending.reason =
-        pending.save ? pending.save() : Replace(pending.path, pending.text.toUtf8());
+    pending.reason = pending.save ? pending.save() : Replace(pending.path, pending.text.toUtf8());
     return pending.reason == kNoError;
   });
   if (pending_.size() != before && onPendingChanged) onPendingChanged();

@@ -64,9 +64,8 @@ class Bar {
   explicit Bar(Form& form) : form_(form) {}
 
   void Add(const char* name, const char* caption, const char* parent) {
-    entries_.push_back(std::make_unique<MenuEntry>(form_, QLatin1String(name),
-                                                   QLatin1String(caption),
-                                                   form_.FindMenu(QLatin1String(parent))));
+    entries_.push_back(std::make_unique<MenuEntry>(
+        form_, QLatin1String(name), QLatin1String(caption), form_.FindMenu(QLatin1String(parent))));
   }
   void Add(std::span<const Row> rows) {
     for (const Row& row : rows) Add(row.name, row.caption, row.parent);

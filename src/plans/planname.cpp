@@ -20,8 +20,8 @@ bool NamesAbout(const QString& path) {
 
 QString MarkedName(const QString& path, QString& refusal) {
   const QString plain = PlainPlanName(PlanNameOf(path));
-  refusal = NameRefusal(plain.trimmed().isEmpty() ? QString()
-                                                  : plain + QStringLiteral("-Marked.pdf"));
+  refusal =
+      NameRefusal(plain.trimmed().isEmpty() ? QString() : plain + QStringLiteral("-Marked.pdf"));
   return refusal.isEmpty() ? plain + QStringLiteral("-Marked.pdf") : QString();
 }
 

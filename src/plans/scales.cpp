@@ -34,8 +34,8 @@ constexpr ScaleEntry Cm(const char* name, const char* caption, const char* scale
 constexpr ScaleEntry kOneHundred = {"OneHundred", "1\"=100'", "1", "100", nullptr, nullptr, true};
 
 // 1mm:750ft is offered and does nothing. A test holds it.
-constexpr ScaleEntry kNoAction = {
-    "OneSevenHundredFifty", "1mm:750ft", "1", "750", kMillimetreText, nullptr, false};
+constexpr ScaleEntry kNoAction = {"OneSevenHundredFifty", "1mm:750ft", "1",  "750",
+                                  kMillimetreText,        nullptr,     false};
 
 constexpr std::array kInch = {
     Inches("Sixteenth", "1/16\"", "1/16", "1/16\""),
