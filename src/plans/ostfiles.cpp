@@ -181,6 +181,7 @@ void OSTForm::SaveMarked(const QString& id) {
 // A copy that can't be written waits with the other pending saves: the marks stay in the viewer as
 // long as it shows this plan.
 void OSTForm::SaveInto(const QString& target) {
+  if (waitingCopy_ != target) kit_.files.StopTrying(waitingCopy_);
   const int error = viewer_.SaveAs(target);
   if (error == kNoError) {
     PlanSaved(target);
