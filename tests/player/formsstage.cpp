@@ -4,6 +4,14 @@
 #include "player/trouble.h"
 
 namespace tamo::player {
+namespace {
+
+// A double click is a click first, which may put away what was clicked.
+bool Reachable(const Control& control) {
+  return control.Usable() && control.Owner().Visible();
+}
+
+}  // namespace
 
 Key KeyFor(QChar c) {
   switch (c.unicode()) {
@@ -38,12 +46,15 @@ TextField& FormsStage::FocusedField() const {
   return *field;
 }
 
+// Whoever goes to another window of the program brings it to the front first: its routine runs and
+// the focus is where it was there, before it goes on to what was clicked.
 void FormsStage::ChooseMenu(MenuEntry& entry) {
   GetDesk().UserActivate(entry.Owner());
   GetDesk().ChooseMenu(entry);
 }
 
 void FormsStage::Focus(Control& control) {
+  GetDesk().UserActivate(control.Owner());
   GetDesk().UserFocus(control);
 }
 
@@ -70,20 +81,18 @@ void FormsStage::Paste(const QString& text) {
   GetDesk().Paste(FocusedField(), text);
 }
 
-// A click into another window of the program brings that window to the front first, also when what
-// is clicked takes no focus.
 void FormsStage::Click(Control& control) {
-  if (!control.takesFocus) GetDesk().UserActivate(control.Owner());
+  GetDesk().UserActivate(control.Owner());
   GetDesk().ClickInto(control);
 }
 
 void FormsStage::DoubleClick(Control& control) {
-  if (!control.takesFocus) GetDesk().UserActivate(control.Owner());
-  GetDesk().DoubleClick(control);
+  Click(control);
+  if (Reachable(control)) GetDesk().DoubleClick(control);
 }
 
 void FormsStage::RightClick(Control& control) {
-  if (!control.takesFocus) GetDesk().UserActivate(control.Owner());
+  GetDesk().UserActivate(control.Owner());
   GetDesk().RightClick(control);
 }
 
@@ -92,25 +101,27 @@ void FormsStage::ClickNotice() {
 }
 
 void FormsStage::SelectRow(OrderedList& list, int row) {
-  if (!list.takesFocus) GetDesk().UserActivate(list.Owner());
+  GetDesk().UserActivate(list.Owner());
   GetDesk().ClickRow(list, row);
 }
 
 void FormsStage::RightSelectRow(OrderedList& list, int row) {
-  if (!list.takesFocus) GetDesk().UserActivate(list.Owner());
+  GetDesk().UserActivate(list.Owner());
   GetDesk().RightClickRow(list, row);
 }
 
 void FormsStage::DoubleSelectRow(OrderedList& list, int row) {
-  if (!list.takesFocus) GetDesk().UserActivate(list.Owner());
-  GetDesk().DoubleClickRow(list, row);
+  SelectRow(list, row);
+  if (Reachable(list) && row < list.Count()) GetDesk().DoubleClickRow(list, row);
 }
 
 void FormsStage::TickRow(CheckList& list, int row) {
+  GetDesk().UserActivate(list.Owner());
   GetDesk().TickRow(list, row);
 }
 
 void FormsStage::ScrollTo(OrderedList& list, int row) {
+  GetDesk().UserActivate(list.Owner());
   GetDesk().ScrollTo(list, row);
 }
 
