@@ -50,7 +50,45 @@ int Result(int returned, const QString& path) {
   return returned < 0 ? NumberOf(errno, path) : kNoError;
 }
 
+class RealReader : public FileReader {
+ public:
+  RealReader(int handle, qint64 size) : handle_(handle), size_(size) {}
+  ~RealReader() override { ::close(handle_); }
+  RealReader(const RealReader&) = delete;
+  RealReader& operator=(const RealReader&) = delete;
+
+  qint64 Size() const override { return size_; }
+  int ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const override {
+    got = 0;
+    while (got < count) {
+      const ssize_t part =
+          ::pread(handle_, into + got, static_cast<size_t>(count - got), offset + got);
+      if (part < 0 && errno == EINTR) continue;
+      if (part < 0) return NumberOf(errno, {});
+      if (part == 0) break;
+      got += part;
+    }
+    return kNoError;
+  }
+
+ private:
+  int handle_;
+  qint64 size_;
+};
+
 }  // namespace
+
+int RealDisk::OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) {
+  const int handle = ::open(Native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (handle < 0) return NumberOf(errno, path);
+  struct stat info {};
+  if (::fstat(handle, &info) != 0 || !S_ISREG(info.st_mode)) {
+    ::close(handle);
+    return kNoAccess;
+  }
+  reader = std::make_shared<RealReader>(handle, static_cast<qint64>(info.st_size));
+  return kNoError;
+}
 
 int RealDisk::Read(const QString& path, QByteArray& bytes) {
   bytes.clear();

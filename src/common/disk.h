@@ -3,8 +3,19 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <memory>
 
 namespace tamo {
+
+// An open file that is read in parts, at any place and from any thread, until it is destroyed. It
+// goes on reading the file it opened, also when another file has taken its name since.
+class FileReader {
+ public:
+  virtual ~FileReader() = default;
+  virtual qint64 Size() const = 0;  // when it was opened
+  // Up to `count` bytes from `offset`; `got` is less only at the end of the file.
+  virtual int ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const = 0;
+};
 
 // The file system, one call a step, so that a test can make any step fail. Every call that can fail
 // returns an error number: 0, 53 file not found, 76 path not found, 75 access, 61 disk full, 57
@@ -14,6 +25,8 @@ class Disk {
   virtual ~Disk() = default;
 
   virtual int Read(const QString& path, QByteArray& bytes) = 0;
+  // For files too large to be read whole.
+  virtual int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) = 0;
 
   // A new file for writing, replacing one of that name. `handle` is valid until Close.
   virtual int OpenNew(const QString& path, int& handle) = 0;
@@ -49,6 +62,7 @@ class Disk {
 class RealDisk : public Disk {
  public:
   int Read(const QString& path, QByteArray& bytes) override;
+  int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
   int OpenAtEnd(const QString& path, int& handle) override;
   int Write(int handle, const QByteArray& bytes) override;

@@ -6,6 +6,8 @@
 
 #include "plans/fraction.h"
 
+namespace tamo {
+
 namespace {
 
 template <typename Event, typename... Args>
@@ -232,3 +234,5 @@ void DrawingBoard::Repaint() {
 void DrawingBoard::ViewChanged() {
   Raise(onViewChanged);
 }
+
+}  // namespace tamo

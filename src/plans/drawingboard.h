@@ -5,6 +5,8 @@
 
 #include "plans/pdfdraw.h"
 
+namespace tamo {
+
 // Everything of the viewer that needs no PDF: the tools, the marks with taking back and bringing
 // back, pages, zoom, view and units. The real viewer and the test double both stand on it, so they
 // behave alike.
@@ -121,3 +123,5 @@ class DrawingBoard : public PdfDraw {
   PagePoint to_;
   PagePoint crossHair_ = {306, 396};
 };
+
+}  // namespace tamo

@@ -4,6 +4,8 @@
 
 #include "plans/drawingboard.h"
 
+namespace tamo {
+
 // The tools of the drawing board: what the mouse and the keys do on the plan.
 
 namespace {
@@ -238,3 +240,5 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
   }
   return false;
 }
+
+}  // namespace tamo

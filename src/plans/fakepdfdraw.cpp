@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace tamo {
+
 int FakePdfDraw::OpenFile(const QString& path, const QString& /*password*/) {
   calls.push_back(QStringLiteral("open ") + path);
   if (openResult != 0) {
@@ -47,3 +49,5 @@ void FakePdfDraw::Print() {
   calls.push_back(QStringLiteral("print"));
   DrawingBoard::Print();
 }
+
+}  // namespace tamo

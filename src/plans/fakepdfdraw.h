@@ -4,6 +4,8 @@
 
 #include "plans/drawingboard.h"
 
+namespace tamo {
+
 // A viewer without a PDF, for tests and for playing forms without an engine: it behaves as the real
 // one and keeps its "files" in memory. What a test wants of it is set through the public members.
 class FakePdfDraw : public DrawingBoard {
@@ -28,3 +30,5 @@ class FakePdfDraw : public DrawingBoard {
   // What was asked of it, in order: "open PATH", "save PATH", "print".
   std::vector<QString> calls;
 };
+
+}  // namespace tamo

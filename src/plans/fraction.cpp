@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+namespace tamo {
+
 namespace {
 
 // Digits with at most one point, no sign, no exponent.
@@ -54,3 +56,5 @@ double FractionValue(const QString& text, bool* ok) {
   if (ok) *ok = good;
   return good ? value : 0;
 }
+
+}  // namespace tamo

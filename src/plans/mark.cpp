@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace tamo {
+
 QString LengthText(double length) {
   if (!std::isfinite(length) || std::abs(length) > 1e14) return QStringLiteral("0.0");
   // Rounding works on the 15 digits a person would see, so 0.25 and 2.45 go up as on paper.
@@ -34,3 +36,5 @@ unsigned ColourNumber(const QString& code) {
   }
   return colour;
 }
+
+}  // namespace tamo

@@ -3,6 +3,8 @@
 #include <QString>
 #include <vector>
 
+namespace tamo {
+
 // A place on a page in points (1/72 inch of paper) from the top left corner of the page as it is
 // looked at: after the page's own rotation and crop, x to the right, y down.
 struct PagePoint {
@@ -39,3 +41,5 @@ double Distance(PagePoint from, PagePoint to);
 // text that is not nine digits.
 unsigned ColourNumber(const QString& code);
 bool IsColourCode(const QString& code);
+
+}  // namespace tamo

@@ -6,6 +6,8 @@
 
 #include "plans/mark.h"
 
+namespace tamo {
+
 // A key on the plan. Left to Down move the cross hair while a tool is in hand (9 points a step,
 // with Ctrl half a point) and scroll the page otherwise; Space places a point or a circle at the
 // cross hair; Escape drops the line in work; Backspace drops its last point; Enter gives the focus
@@ -141,3 +143,5 @@ class PdfDraw {
   std::function<void()> onViewChanged;   // zoom, position, rotation or page: paint again
   std::function<void(const QString& text)> onProblem;  // a failure found after OpenFile came back
 };
+
+}  // namespace tamo

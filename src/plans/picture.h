@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace tamo {
+
 // A painted rectangle of pixels, row by row from the top. A pixel is 0xffRRGGBB in the machine's
 // byte order, the layout that window toolkits call RGB32, so a window can wrap it without a copy.
 struct Picture {
@@ -10,3 +12,5 @@ struct Picture {
   int height = 0;
   std::vector<uint32_t> pixels;  // width * height of them
 };
+
+}  // namespace tamo

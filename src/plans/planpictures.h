@@ -6,6 +6,8 @@
 
 #include "plans/picture.h"
 
+namespace tamo {
+
 // What a window looks at. Device pixels throughout.
 struct PlanView {
   int page = 1;
@@ -55,3 +57,5 @@ class PlanPictures {
 inline double PixelsPerPoint(int zoomPerCent, double devicePixelRatio) {
   return zoomPerCent / 100.0 * 96.0 / 72.0 * devicePixelRatio;
 }
+
+}  // namespace tamo

@@ -11,8 +11,9 @@
 
 namespace tamo {
 
-// The whole program below its windows: makes every form, the menus of both shells with their guards and
-// transitions, and joins the forms' hand-overs. Windows, or the scenario player, stand on top of it.
+// The whole program below its windows: makes every form, the menus of both shells with their guards
+// and transitions, and joins the forms' hand-overs. Windows, or the scenario player, stand on top
+// of it.
 class Program {
  public:
   // `viewer` is the plan viewer control; it outlives the program.
@@ -24,7 +25,8 @@ class Program {
   // Runs the start-up and brings up the shell of the mode that the settings name.
   void Start();
   bool Running() const;
-  // The last window was closed, or Exit chosen: the display closes its windows and leaves its event loop.
+  // The last window was closed, or Exit chosen: the display closes its windows and leaves its event
+  // loop.
   std::function<void()> onEnded;
 
   Desk& GetDesk();
@@ -33,7 +35,8 @@ class Program {
   PdfDraw& Viewer();
   // Form of that name ("Tamo", "Pricing", ...), nullptr when there is none.
   Form* FindForm(const QString& name);
-  // The text named FORM.NAME that is no control (Tamo.JobID, Form11.IAmHere, RFSForm.Flag), nullptr when there is none.
+  // The text named FORM.NAME that is no control (Tamo.JobID, Form11.IAmHere, RFSForm.Flag), nullptr
+  // when there is none.
   const QString* FindText(const QString& form, const QString& name);
   // The strip at the foot of every window was clicked.
   void TrySavesAgain();

@@ -5,6 +5,8 @@
 #include "plans/fakepdfdraw.h"
 #include "plans/fraction.h"
 
+using namespace tamo;
+
 // --- Fractions of scales
 
 TEST(Fraction, TakesWholeNumbersFractionsAndBoth) {

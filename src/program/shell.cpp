@@ -1,0 +1,116 @@
+#include "program/shell.h"
+
+namespace tamo {
+
+void Shell::Join(TamoForm& main, SettingsForm& settings, Form& ost) {
+  main_ = &main;
+  settings_ = &settings;
+  ost_ = &ost;
+  main.onClose = [this] { return CloseMain(); };
+  ost.onClose = [this] { return CloseOst(); };
+}
+
+void Shell::ShowMenus(Form& form, std::initializer_list<const char*> names, bool shown) {
+  for (const char* name : names) {
+    if (MenuEntry* entry = form.FindMenu(QLatin1String(name))) entry->SetShown(shown);
+  }
+}
+
+void Shell::EnterMode(int mode) {
+  const bool online = mode == 2;
+  kit_.shared.GUIText = online ? QStringLiteral("2") : QStringLiteral("1");
+  ShowMenus(
+      *ost_,
+      {"ProjectS", "Pricing2", "Estimate", "Reports1", "Settings1", "Spacer1", "Documentation"},
+      online);
+  ShowMenus(*ost_, {"Spacer2"}, !online);
+  if (online) ShowMenus(*ost_, {"Exit"}, true);
+  ost_->SetCaption(online ? QStringLiteral("Digital Sheetwell Beta 1.4")
+                          : QStringLiteral("Digital Plan Takeoff"));
+  ShowMenus(*main_,
+            {"Project", "Pricing2", "Estimate", "Reports1", "Settings1", "Docs1", "Exit", "OST1"},
+            !online);
+  main_->SetCaption(online ? QStringLiteral("Projects") : QStringLiteral("Estimating Beta 1.4"));
+  BringUpShell();
+  if (!online && settings_->Visible()) settings_->Show(main_);
+}
+
+// The shell is shown before the other form goes, so that no third window comes to the front in
+// between.
+void Shell::BringUpShell() {
+  if (Online()) {
+    ost_->Show();
+    main_->Hide();
+  } else {
+    main_->Show(ost_);
+    ost_->Hide();
+  }
+}
+
+void Shell::ShowMainForm() {
+  main_->Show(ost_);
+}
+void Shell::HideMainForm() {
+  main_->Hide();
+}
+Form& Shell::ShellForm() const {
+  return Online() ? *ost_ : static_cast<Form&>(*main_);
+}
+
+void Shell::AskForEstimatorNumber() {
+  settings_->Show(&ShellForm());
+  kit_.desk.Focus(settings_->EstimatorNumber);
+}
+
+void Shell::EndProgram() {
+  if (!running_) return;
+  running_ = false;
+  if (onEnded) onEnded();
+}
+
+bool Shell::MayEnd() {
+  const auto& pending = kit_.files.PendingSaves();
+  if (pending.empty() || kit_.files.TryAgain()) return true;
+  QString files;
+  for (const Files::Pending& save : pending) files += QStringLiteral("\n") + save.path;
+  return kit_.desk.GetMessages().Ask(
+      QStringLiteral("These files could not be saved, because %1:%2\n\nEnd the program and lose "
+                     "what they would hold?")
+          .arg(ReasonText(pending.back().reason), files));
+}
+
+void Shell::ExitMain() {
+  if (Online()) {
+    ost_->Show();
+    main_->Hide();
+  } else if (MayEnd()) {
+    EndProgram();
+  }
+}
+
+void Shell::ExitOst() {
+  if (!Online()) {
+    BringUpShell();
+  } else if (MayEnd()) {
+    EndProgram();
+  }
+}
+
+bool Shell::CloseMain() {
+  if (Online()) return true;
+  if (!MayEnd()) return false;
+  EndProgram();
+  return true;
+}
+
+bool Shell::CloseOst() {
+  if (!Online()) {
+    main_->Show();
+    return true;
+  }
+  if (!MayEnd()) return false;
+  EndProgram();
+  return true;
+}
+
+}  // namespace tamo

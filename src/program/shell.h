@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+
+#include "common/form.h"
+#include "common/kit.h"
+#include "workspace/modeshell.h"
+#include "workspace/tamoform.h"
+
+namespace tamo {
+
+// The two shells: which menus stand where, which form is in front, and how the program ends.
+class Shell : public ModeShell {
+ public:
+  explicit Shell(const Kit& kit) : kit_(kit) {}
+
+  // Set once the forms exist.
+  void Join(TamoForm& main, SettingsForm& settings, Form& ost);
+
+  void EnterMode(int mode) override;
+  void BringUpShell() override;
+  void ShowMainForm() override;
+  void HideMainForm() override;
+  void AskForEstimatorNumber() override;
+  void EndProgram() override;
+
+  bool Online() const { return kit_.shared.GUIText == QLatin1String("2"); }
+  // The form that carries the menus in the mode in force.
+  Form& ShellForm() const;
+  // Exit of either menu bar, and the close boxes of both shells.
+  void ExitMain();
+  void ExitOst();
+  bool CloseMain();
+  bool CloseOst();
+  bool MayEnd();
+
+  bool Running() const { return running_; }
+  std::function<void()> onEnded;
+
+ private:
+  void ShowMenus(Form& form, std::initializer_list<const char*> names, bool shown);
+
+  const Kit kit_;
+  TamoForm* main_ = nullptr;
+  SettingsForm* settings_ = nullptr;
+  Form* ost_ = nullptr;
+  bool running_ = true;
+};
+
+}  // namespace tamo

@@ -1,0 +1,196 @@
+#include "workspace/tamoform.h"
+
+#include <array>
+
+#include "common/columns.h"
+#include "common/failure.h"
+#include "common/paths.h"
+#include "workspace/projectnumber.h"
+
+// Start, the panel's chain of fields, the project list and the numbers.
+
+namespace tamo {
+
+void TamoForm::SetUpChain() {
+  const std::array<TextField*, 9> chain = {&JobName,    &BidDate,    &Addenda,   &Phase, &BidItems,
+                                           &Inclusions, &Exclusions, &Architect, &Notes};
+  Notes.multiLine = true;
+  for (size_t i = 0; i < chain.size(); ++i) {
+    TextField* field = chain[i];
+    TextField* next = chain[(i + 1) % chain.size()];
+    field->PutInto(JobNFOFrame);
+    field->onGotFocus = [field] { field->SelectAll(); };
+    field->onKey = [this, field, next](Key& key) {
+      if (field == &JobName && QStringLiteral("\\,\"/").contains(key.character) &&
+          !key.character.isNull())
+        key.Drop();
+      if (field == &Notes && key.Is(Key::Name::LineFeed)) {
+        key.Drop();
+        Notes.ReplaceSelection(QStringLiteral("\r\n"));
+      }
+      if (!key.IsEnter()) return;
+      key.Drop();
+      field->ClearSelection();
+      kit_.desk.Focus(*next);
+    };
+  }
+  Command1.PutInto(JobNFOFrame);
+  JobNFOFrame.Hide();
+  JobsList.Hide();
+  JobsList.takesFocus = false;
+  JobName.onChange = [this] { kit_.shared.JobName = JobName.Text(); };
+  JobsList.onSelect = [this] {
+    if (JobsList.Index() >= 0) OpenSelected();
+  };
+  Command1.onClick = [this] { ClosePanel(); };
+}
+
+void TamoForm::Init() {
+  if (kit_.shared.DriveBy == QLatin1String("True")) return;
+  kit_.shared.zDir = kit_.platform.programFolder;
+  settings_.LoadSettings();
+  work_.InitPricing();
+  kit_.shared.DriveBy = QStringLiteral("False");
+  MakeDataFolders();
+  SeedProjectNumber();
+  SweepFolders();
+  kit_.shared.JobID.clear();
+  kit_.shared.Locked = QStringLiteral("False");
+  if (kit_.shared.GUIText == QLatin1String("2")) {
+    shell_.EnterMode(2);
+  } else {
+    shell_.EnterMode(1);
+  }
+}
+
+void TamoForm::MakeDataFolders() {
+  const QString& path = kit_.shared.DataPath;
+  kit_.files.MakeFolders(path);
+  for (const char* name : {"Projects", "Systems", "Plans"})
+    kit_.files.MakeFolder(path + QLatin1String(name));
+}
+
+// What a crash in the middle of a save left behind.
+void TamoForm::SweepFolders() {
+  Disk& disk = kit_.files.GetDisk();
+  const QString& separator = kit_.shared.Separator;
+  const QString projects = kit_.shared.DataPath + QStringLiteral("Projects");
+  kit_.files.Sweep(kit_.shared.zDir);
+  kit_.files.Sweep(kit_.shared.DataPath);
+  kit_.files.Sweep(kit_.shared.SystemsPath());
+  for (const QString& project : disk.Names(projects)) {
+    const QString folder = projects + separator + project;
+    kit_.files.Sweep(folder);
+    for (const char* name : {"Systems", "Rooms", "ATOs", "Plans", "PM"}) {
+      kit_.files.Sweep(folder + separator + QLatin1String(name));
+    }
+  }
+}
+
+// Only a number that is not there at all is begun anew.
+void TamoForm::SeedProjectNumber() {
+  const QString path = kit_.shared.DataPath + QStringLiteral("Project.num");
+  QStringList lines;
+  if (kit_.files.ReadLines(path, lines) == kFileNotFound) {
+    kit_.files.SaveLines(path, {SeedNumber(kit_.platform.clock.Today())});
+  }
+}
+
+void TamoForm::LoadProjectNumber() {
+  QStringList lines;
+  kit_.files.ReadLines(kit_.shared.DataPath + QStringLiteral("Project.num"), lines);
+  if (!lines.isEmpty()) numberLine_ = lines.first();
+  const NextNumber next = NumberAfter(numberLine_, kit_.platform.clock.Today());
+  kit_.shared.JobID = next.number;
+  if (next.newMonth) {
+    SaveProjectNumber();
+    numberLine_ = next.number;
+  }
+  kit_.shared.JobID = settings_.EstimatorNumber.Text() + QLatin1Char('-') + next.number;
+}
+
+void TamoForm::SaveProjectNumber() {
+  if (kit_.shared.JobID.isEmpty()) return;
+  kit_.files.SaveLines(kit_.shared.DataPath + QStringLiteral("Project.num"), {kit_.shared.JobID});
+}
+
+void TamoForm::LoadJobsList() {
+  QStringList lines;
+  kit_.files.ReadLines(kit_.shared.DataPath + QStringLiteral("Jobs.lst"), lines);
+  JobsList.SetRows(lines);
+}
+
+void TamoForm::SaveJobsList() {
+  const QString& id = kit_.shared.JobID;
+  if (JobName.Empty() || id.isEmpty()) return;
+  if (kit_.shared.OPN == QLatin1String("1")) {
+    LoadJobsList();
+    JobsList.Add(id + Blanks(3) + JobName.Text());
+    SaveProjectNumber();
+    const QString folder =
+        kit_.shared.DataPath + QStringLiteral("Projects") + kit_.shared.Separator + id;
+    kit_.files.MakeFolder(folder);
+    for (const char* name : {"Systems", "Rooms", "ATOs", "Plans", "PM"}) {
+      kit_.files.MakeFolder(folder + kit_.shared.Separator + QLatin1String(name));
+    }
+  }
+  kit_.files.SaveLines(kit_.shared.DataPath + QStringLiteral("Jobs.lst"), JobsList.Rows());
+}
+
+void TamoForm::OpenSelected() {
+  const QString entry = JobsList.Selected();
+  const QString id = TrimmedBlanks(entry.left(10));
+  const QString refusal = NameRefusal(id);
+  if (!refusal.isEmpty()) {
+    JobsList.Hide();
+    kit_.desk.GetMessages().Tell(
+        QStringLiteral(
+            "This line of the project list has no project id that can be opened: \"%1\".")
+            .arg(entry.left(60)));
+    return;
+  }
+  kit_.shared.JobID = id;
+  JobName.SetText(From(entry, 14));
+  JobsList.Hide();
+  kit_.shared.LoadingJobNFO = QStringLiteral("False");
+  work_.ForgetProject();
+  LoadJobNFO();
+  LoadLocked();
+  plan_.LoadPlanNotes();
+  plan_.SetProjectName(JobName.Text());
+  if (!plan_.Fields().planLocation.isEmpty()) plan_.LoadPDF();
+  shell_.BringUpShell();
+}
+
+void TamoForm::ToggleJobsList() {
+  if (JobsList.Shown()) {
+    JobsList.Hide();
+    HidePanel();
+  } else if (!JobsList.Empty()) {
+    ShowPanel();
+    JobsList.Show();
+  }
+}
+
+bool TamoForm::NeedProject() {
+  if (!kit_.shared.JobID.isEmpty()) return true;
+  LoadJobsList();
+  if (kit_.shared.GUIText == QLatin1String("2")) shell_.ShowMainForm();
+  ToggleJobsList();
+  return false;
+}
+
+bool TamoForm::NeedUnlocked() {
+  if (kit_.shared.Locked != QLatin1String("True")) return true;
+  kit_.desk.GetMessages().Tell(QStringLiteral("Project is locked."));
+  return false;
+}
+
+void TamoForm::ShowPanel() {
+  JobNFOFrame.Show();
+}
+void TamoForm::HidePanel() {
+  JobNFOFrame.Hide();
+}
+
+}  // namespace tamo
