@@ -48,6 +48,14 @@ bool Desk::HandleKey(Control& control, Key key) {
 
 namespace {
 
+// Escape puts away what popped up under the field and changes nothing else.
+void HideDropLists(TextField& field) {
+  for (Control* control : field.Owner().Controls()) {
+    auto* list = dynamic_cast<OrderedList*>(control);
+    if (list != nullptr && list->dropsFrom == &field) list->Hide();
+  }
+}
+
 void EditWithKey(TextField& field, const Key& key) {
   switch (key.name) {
     case Key::Name::Character:
@@ -59,6 +67,13 @@ void EditWithKey(TextField& field, const Key& key) {
       break;
     case Key::Name::Delete:
       field.DeleteForward();
+      break;
+    case Key::Name::Enter:
+    case Key::Name::LineFeed:
+      if (field.multiLine) field.ReplaceSelection(QStringLiteral("\r\n"));
+      break;
+    case Key::Name::Escape:
+      HideDropLists(field);
       break;
     default:
       break;
@@ -74,11 +89,14 @@ void MoveInList(OrderedList& list, const Key& key) {
 }  // namespace
 
 void Desk::PressKey(Control& control, Key key) {
+  // No chain of fields ever sees a tab: it only walks.
+  if (key.Is(Key::Name::Tab) || key.Is(Key::Name::BackTab)) {
+    MoveFocus(key.Is(Key::Name::Tab));
+    return;
+  }
   if (HandleKey(control, key)) return;
   Dispatch([&] {
-    if (key.Is(Key::Name::Tab) || key.Is(Key::Name::BackTab)) {
-      MoveFocus(key.Is(Key::Name::Tab));
-    } else if (auto* field = dynamic_cast<TextField*>(&control)) {
+    if (auto* field = dynamic_cast<TextField*>(&control)) {
       EditWithKey(*field, key);
     } else if (auto* list = dynamic_cast<OrderedList*>(&control)) {
       auto* checks = dynamic_cast<CheckList*>(list);

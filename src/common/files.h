@@ -39,6 +39,7 @@ class Files {
 
   bool Exists(const QString& path);  // also true for a pending file
   int Remove(const QString& path);   // a pending text of that file is dropped, too
+  // A folder that can't be made is remembered and made before the pending saves are tried again.
   int MakeFolder(const QString& path);
   // Every level of `path`, outermost first; failures are passed over.
   void MakeFolders(const QString& path);
@@ -51,7 +52,14 @@ class Files {
     QString path;
     QString text;
     int reason = 0;
+    // Set for a file that is no text (a marked plan): writes it once more.
+    std::function<int()> save;
   };
+  // A save of a file that is no text failed with `reason`: the notice names it, and `save` (which
+  // returns an error number and must not call this object) is tried at every later save.
+  void KeepTrying(const QString& path, int reason, std::function<int()> save);
+  // It was saved after all, or there is nothing left to save.
+  void StopTrying(const QString& path);
   const std::vector<Pending>& PendingSaves() const { return pending_; }
   // Tries every pending save once more. True when nothing is left.
   bool TryAgain();
@@ -65,11 +73,15 @@ class Files {
  private:
   int Replace(const QString& path, const QByteArray& bytes);
   int WriteWhole(const QString& path, const QByteArray& bytes);
+  int ReplaceInItsFolder(const QString& path, const QByteArray& bytes);
+  int MakeMissingFolders();
   void RetryPending(const QString& except);
   Pending* FindPending(const QString& path);
+  Pending* FindPendingText(const QString& path);
 
   Disk& disk_;
   std::vector<Pending> pending_;
+  QStringList missingFolders_;
 };
 
 // The ending of the temporary files of half-made saves.

@@ -36,12 +36,9 @@ void TextField::Select(int start, int length) {
 void TextField::ReplaceSelection(const QString& typed) {
   if (readOnly) return;
   QString piece = typed;
-  if (!multiLine) {
-    piece.replace(QLatin1String("\r\n"), QLatin1String(" "));
-    for (QChar& c : piece) {
-      if (c == QLatin1Char('\n') || c == QLatin1Char('\r')) c = QLatin1Char(' ');
-    }
-  }
+  piece.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  piece.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  piece.replace(QLatin1Char('\n'), QLatin1String(multiLine ? "\r\n" : " "));
   QString text = text_;
   text.remove(selectionStart_, selectionLength_);
   if (maxLength_ > 0) piece = piece.left(std::max<qsizetype>(0, maxLength_ - text.size()));

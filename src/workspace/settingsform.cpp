@@ -1,11 +1,13 @@
 #include "workspace/settingsform.h"
 
+#include <QDir>
 #include <algorithm>
 
 #include "common/columns.h"
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "common/textlines.h"
+#include "workspace/swatches.h"
 
 namespace tamo {
 namespace {
@@ -13,32 +15,6 @@ namespace {
 constexpr int kReserveLines = 11;
 const QString kDefaultColour = QStringLiteral("255000000");
 const QString kWholeQuantities = QStringLiteral("WholeQuantities");
-
-struct SwatchRow {
-  const char* name;
-  const char* caption;
-  const char* painted;
-  const char* stored;  // "" for a swatch that only shows its colour
-};
-
-// Violet is painted lighter in red than the colour it stores; the two light swatches store nothing.
-// Tests hold both.
-constexpr std::array<SwatchRow, 15> kSwatches = {
-    {{"iRed", "", "255000000", "255000000"},
-     {"iGreen", "Green", "000255000", "000255000"},
-     {"iBlue", "Blue", "000000255", "000000255"},
-     {"iYellow", "Yellow", "255255000", "255255000"},
-     {"iOrange", "Orange", "255155000", "255155000"},
-     {"iPurple", "Purple", "125000125", "125000125"},
-     {"iViolet", "Violet", "220150255", "240150255"},
-     {"iDkGreen", "Dk Green", "000150000", "000150000"},
-     {"iNavy", "Navy", "000000175", "000000175"},
-     {"iTeal", "Teal", "000255255", "000255255"},
-     {"iAqua", "Aqua", "000150150", "000150150"},
-     {"iBrown", "Brown", "139069013", "139069013"},
-     {"iMaroon", "Maroon", "185000000", "185000000"},
-     {"iLtBlue", "Lt Blue", "150200255", ""},
-     {"iLtGrn", "Lt Grn", "200255200", ""}}};
 
 int WholeNumber(const QString& text, int least, int most) {
   return static_cast<int>(
@@ -92,7 +68,12 @@ SettingsForm::SettingsForm(const Kit& kit, ModeShell& shell)
   }
   EstimatorNumber.onLostFocus = [this] { NormaliseEstimatorNumber(); };
   DataPath.onLostFocus = [this] { RepairDataPath(); };
-  DataPath.onChange = [this] { kit_.shared.DataPath = DataPath.Text(); };
+  // A data folder that is no whole path counts from the program folder.
+  DataPath.onChange = [this] {
+    const bool whole = QDir::isAbsolutePath(DataPath.Text());
+    kit_.shared.DataPath =
+        whole ? DataPath.Text() : kit_.shared.zDir + kit_.shared.Separator + DataPath.Text();
+  };
   HScroll1.onChange = [this] { Line1.SetWidth(HScroll1.Value()); };
   Line1.SetWidth(HScroll1.Value());
   AutoCheck.onChange = [this] { kit_.shared.AutoCheck = AutoCheck.Value(); };
@@ -142,7 +123,7 @@ void SettingsForm::LoadSettings() {
   kit_.shared.zDir = kit_.platform.programFolder;
   QStringList lines;
   if (kit_.files.ReadLines(SettingsPath(false), lines) != 0) return;
-  wholeQuantities = !lines.isEmpty() && lines.last() == kWholeQuantities;
+  wholeQuantities_ = !lines.isEmpty() && lines.last() == kWholeQuantities;
 
   LineReader reader(lines);
   QString line;
@@ -200,15 +181,28 @@ void SettingsForm::SaveSettings() {
   if (Option3.Selected()) lines += QStringLiteral("3");
   if (Option4.Selected()) lines += QStringLiteral("4");
   for (int i = 1; i < kReserveLines; ++i) lines += QString();
-  lines += wholeQuantities ? kWholeQuantities : QString();
+  lines += wholeQuantities_ ? kWholeQuantities : QString();
   const QString path = SettingsPath(true);
   kit_.files.MakeFolders(FolderOf(path));
   kit_.files.SaveLines(path, lines);
 }
 
+void SettingsForm::SetWholeQuantities(bool on) {
+  wholeQuantities_ = on;
+  QStringList lines;
+  if (kit_.files.ReadLines(SettingsPath(false), lines) != 0) {
+    SaveSettings();
+    return;
+  }
+  if (!lines.isEmpty() && (lines.last().isEmpty() || lines.last() == kWholeQuantities))
+    lines.removeLast();
+  lines += on ? kWholeQuantities : QString();
+  kit_.files.SaveLines(SettingsPath(true), lines);
+}
+
 void SettingsForm::FixDataPath() {
   DataPath.SetText(FixedDataPath(DataPath.Text(), kit_.shared.Separator[0]));
-  for (const QString& level : FolderLevels(DataPath.Text())) kit_.files.MakeFolder(level);
+  for (const QString& level : FolderLevels(kit_.shared.DataPath)) kit_.files.MakeFolder(level);
 }
 
 void SettingsForm::MakeDataFolders() {
