@@ -1,9 +1,11 @@
 #include "player/windowsstage.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QClipboard>
 #include <QPixmap>
 #include <QTest>
+#include <QToolButton>
 
 #include "common/desk.h"
 #include "player/formsstage.h"
@@ -66,6 +68,9 @@ class WindowsStage : public Stage {
   QPointF PlaceOfRow(const OrderedList& list, int row);
   QWidget& FocusWidget() const;
   QWidget& Plan();
+  void PressOnPlan(PagePoint from, PagePoint to);
+  // Clicks the button of the plan's own tool bar; false when there is none.
+  bool ClickTool(const QString& caption);
   void TakeTool(int mode);
 
   int argumentCount_ = 1;
@@ -271,29 +276,46 @@ void WindowsStage::TakeTool(int mode) {
   if (played_->Viewer().Tool() != mode) PlanMode(mode);
 }
 
+bool WindowsStage::ClickTool(const QString& caption) {
+  for (auto* button : Plan().window()->findChildren<QToolButton*>()) {
+    if (!button->isVisible() || button->text() != caption) continue;
+    SendClick(*button, OpenPlace(*button, button->rect(), caption), Qt::LeftButton);
+    return true;
+  }
+  return false;
+}
+
+void WindowsStage::PressOnPlan(PagePoint from, PagePoint to) {
+  auto* area = qobject_cast<QAbstractScrollArea*>(&Plan());
+  QWidget& sheet = area == nullptr ? Plan() : *area->viewport();
+  SendPress(sheet, keeper_->PlanPlace(from), Qt::LeftButton);
+  const QPointF end = keeper_->PlanPlace(to);
+  if (from.x != to.x || from.y != to.y) SendMove(sheet, end, Qt::LeftButton);
+  SendRelease(sheet, end, Qt::LeftButton);
+}
+
 void WindowsStage::PlanMode(int mode) {
-  Plan();
+  static const QString captions[] = {QStringLiteral("Move"), QStringLiteral("Measure"),
+                                     QStringLiteral("Count")};
+  if (ClickTool(captions[mode])) return;
   GetDesk().Dispatch([&] { played_->Viewer().PickTool(mode); });
 }
 
 void WindowsStage::PlanLine(PagePoint from, PagePoint to) {
-  QWidget& plan = Plan();
+  Plan();
   TakeTool(PdfDraw::Measuring);
-  SendPress(plan, keeper_->PlanPlace(from), Qt::LeftButton);
-  const QPointF end = keeper_->PlanPlace(to);
-  SendMove(plan, end, Qt::LeftButton);
-  SendRelease(plan, end, Qt::LeftButton);
+  PressOnPlan(from, to);
 }
 
 void WindowsStage::PlanCircle(PagePoint at) {
-  QWidget& plan = Plan();
+  Plan();
   TakeTool(PdfDraw::Counting);
-  SendClick(plan, keeper_->PlanPlace(at), Qt::LeftButton);
+  PressOnPlan(at, at);
 }
 
 void WindowsStage::PlanPress(PagePoint at) {
-  QWidget& plan = Plan();
-  SendClick(plan, keeper_->PlanPlace(at), Qt::LeftButton);
+  Plan();
+  PressOnPlan(at, at);
 }
 
 void WindowsStage::PlanKey(const PlanStroke& stroke) {
@@ -315,6 +337,7 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
   }
 }
 
+// The wheel and the mouse move whole pixels; a scenario means points.
 void WindowsStage::PlanScroll(double dx, double dy) {
   Plan();
   GetDesk().Dispatch([&] { played_->Viewer().ScrollBy(dx, dy); });
