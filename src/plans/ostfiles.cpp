@@ -103,8 +103,11 @@ void OSTForm::OpenNamedPlan() {
   } else {
     PlanGone();
   }
+  const QString problem = PlanProblem.Caption();
   keeper_.LoadJobNFO(picked_);
   picked_.clear();
+  // Whatever the record brought up: the plan that was asked for could not be shown.
+  if (!problem.isEmpty()) PlanFailed(problem);
 }
 
 void OSTForm::LoadPDF() {
