@@ -91,13 +91,15 @@ void SendDoubleClick(QWidget& widget, QPointF at) {
   SendRelease(widget, at, Qt::LeftButton);
 }
 
-QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name) {
+QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name, bool end) {
   QWidget* window = widget.window();
   const QRect seen = area.intersected(widget.rect());
   if (!widget.isVisible() || seen.isEmpty())
     Fail(QStringLiteral("a person can't see %1 in its window").arg(name));
   const int inset = 3;
-  const QPoint places[] = {seen.center(), QPoint(seen.left() + inset, seen.center().y()),
+  const QPoint corner = seen.bottomRight() - QPoint(inset, inset);
+  const QPoint places[] = {end ? corner : seen.center(), seen.center(),
+                           QPoint(seen.left() + inset, seen.center().y()),
                            QPoint(seen.right() - inset, seen.center().y()),
                            QPoint(seen.left() + inset, seen.top() + inset)};
   QWidget* over = nullptr;

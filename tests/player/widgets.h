@@ -26,9 +26,9 @@ void SendRelease(QWidget& widget, QPointF at, Qt::MouseButton button);
 void SendClick(QWidget& widget, QPointF at, Qt::MouseButton button);
 void SendDoubleClick(QWidget& widget, QPointF at);
 
-// A place within `area` of the widget that no other widget covers. Fails when there is none: `name`
-// says whose.
-QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name);
+// A place within `area` of the widget that no other widget covers: its middle, in a text its end,
+// when these are open. Fails when there is none: `name` says whose.
+QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name, bool end = false);
 
 // Chooses an action through the menus above it, or on a pop-up that is open, by mouse and keys.
 void ChooseAction(QWidget& window, QAction& action, const QList<QAction*>& above);

@@ -60,7 +60,7 @@ class WindowsStage : public Stage {
 
  private:
   Desk& GetDesk() const { return played_->GetDesk(); }
-  QWidget& GoTo(const Form& form);  // its window, in front and active
+  QWidget& GoTo(const Form& form, bool settled = true);  // its window, in front and active
   QWidget& Target(const Control& control);
   QPointF PlaceOf(const Control& control);
   QPointF PlaceOfRow(const OrderedList& list, int row);
@@ -88,7 +88,9 @@ void WindowsStage::Strike() {
   Settle();
 }
 
-QWidget& WindowsStage::GoTo(const Form& form) {
+// A click on what takes the focus comes right behind the activation that it causes; the program
+// hears of the click alone. Before any other click it hears of the window first.
+QWidget& WindowsStage::GoTo(const Form& form, bool settled) {
   keeper_->SyncNow();
   QWidget* window = keeper_->WindowOf(form);
   if (window == nullptr || !window->isVisible())
@@ -96,7 +98,9 @@ QWidget& WindowsStage::GoTo(const Form& form) {
   if (!window->isActiveWindow()) {
     window->raise();
     window->activateWindow();
-    (void)QTest::qWaitForWindowActive(window, 1000);
+    for (int i = 0; i < 20 && !window->isActiveWindow(); ++i) QCoreApplication::processEvents();
+    if (!window->isActiveWindow()) (void)QTest::qWaitForWindowActive(window, 1000);
+    if (!settled) return *window;
     keeper_->SyncNow();
     Settle();
   }
@@ -104,7 +108,7 @@ QWidget& WindowsStage::GoTo(const Form& form) {
 }
 
 QWidget& WindowsStage::Target(const Control& control) {
-  GoTo(control.Owner());
+  GoTo(control.Owner(), !control.takesFocus);
   QWidget* widget = keeper_->ClickTarget(control);
   if (widget == nullptr)
     Fail(QStringLiteral("%1 has no widget in its window").arg(control.FullName()));
@@ -113,7 +117,8 @@ QWidget& WindowsStage::Target(const Control& control) {
 
 QPointF WindowsStage::PlaceOf(const Control& control) {
   QWidget& widget = Target(control);
-  return OpenPlace(widget, widget.rect(), control.FullName());
+  const bool text = dynamic_cast<const TextField*>(&control) != nullptr;
+  return OpenPlace(widget, widget.rect(), control.FullName(), text);
 }
 
 QPointF WindowsStage::PlaceOfRow(const OrderedList& list, int row) {
@@ -146,7 +151,7 @@ void WindowsStage::ChooseMenu(MenuEntry& entry) {
 
 // As the letter underlined in a label does.
 void WindowsStage::Focus(Control& control) {
-  GoTo(control.Owner());
+  GoTo(control.Owner(), false);
   QWidget* widget = keeper_->WidgetOf(control);
   if (widget == nullptr) Fail(QStringLiteral("%1 has no widget").arg(control.FullName()));
   widget->setFocus(Qt::ShortcutFocusReason);
