@@ -190,7 +190,10 @@ void OSTForm::SaveInto(const QString& target) {
     PlanSaved(target);
     return;
   }
-  PlanFailed(viewer_.Problem());
+  const QString why = viewer_.Problem();
+  PlanFailed(why.isEmpty() ? QStringLiteral("The plan was not saved as %1, because %2.")
+                                 .arg(target, ReasonText(error))
+                           : why);
   waitingCopy_ = target;
   kit_.files.KeepTrying(target, error, [this, target] {
     const int again = viewer_.SaveAs(target);
