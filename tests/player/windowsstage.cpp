@@ -2,9 +2,12 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QPixmap>
+#include <QRadioButton>
 #include <QTest>
+#include <QTextStream>
 #include <QToolButton>
 
 #include "common/desk.h"
@@ -18,12 +21,21 @@
 namespace tamo::player {
 namespace {
 
+// What a platform without a screen can't do is no matter of the program.
+void SayWhatMatters(QtMsgType, const QMessageLogContext&, const QString& text) {
+  if (text.startsWith(QStringLiteral("This plugin does not support")) ||
+      text.startsWith(QStringLiteral("QStandardPaths")))
+    return;
+  QTextStream(stderr) << text << '\n';
+}
+
 class WindowsStage : public Stage {
  public:
   WindowsStage() {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
       qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(SayWhatMatters);
     application_ = std::make_unique<QApplication>(argumentCount_, arguments_);
     QApplication::setQuitOnLastWindowClosed(false);
   }
@@ -72,6 +84,7 @@ class WindowsStage : public Stage {
   // Clicks the button of the plan's own tool bar; false when there is none.
   bool ClickTool(const QString& caption);
   void TakeTool(int mode);
+  void GiveBackActivation();
 
   int argumentCount_ = 1;
   char name_[15] = "tamo_scenario";
@@ -122,8 +135,12 @@ QWidget& WindowsStage::Target(const Control& control) {
 
 QPointF WindowsStage::PlaceOf(const Control& control) {
   QWidget& widget = Target(control);
-  const bool text = dynamic_cast<const TextField*>(&control) != nullptr;
-  return OpenPlace(widget, widget.rect(), control.FullName(), text);
+  Spot spot = Spot::Middle;
+  if (dynamic_cast<const TextField*>(&control) != nullptr) spot = Spot::End;
+  if (qobject_cast<QCheckBox*>(&widget) != nullptr ||
+      qobject_cast<QRadioButton*>(&widget) != nullptr)
+    spot = Spot::Start;
+  return OpenPlace(widget, widget.rect(), control.FullName(), spot);
 }
 
 QPointF WindowsStage::PlaceOfRow(const OrderedList& list, int row) {
@@ -348,10 +365,22 @@ void WindowsStage::PlanPage(int page) {
   GetDesk().Dispatch([&] { played_->Viewer().TurnPage(page); });
 }
 
+// On a platform without a screen a menu that closes leaves no window active; a window system gives
+// that back to the window that had it.
+void WindowsStage::GiveBackActivation() {
+  const Form* active = GetDesk().Active();
+  if (active == nullptr || QApplication::activePopupWidget() != nullptr) return;
+  QWidget* window = keeper_->WindowOf(*active);
+  if (window == nullptr || !window->isVisible() || window->isActiveWindow()) return;
+  window->activateWindow();
+  Settle();
+}
+
 QString WindowsStage::Difference() {
   Settle();
   keeper_->SyncNow();
   Settle();
+  GiveBackActivation();
   return FirstDifference(*keeper_, GetDesk());
 }
 
