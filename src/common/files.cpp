@@ -40,10 +40,33 @@ Files::Pending* Files::FindPending(const QString& path) {
   return nullptr;
 }
 
+Files::Pending* Files::FindPendingText(const QString& path) {
+  Pending* known = FindPending(path);
+  return known != nullptr && !known->save ? known : nullptr;
+}
+
+void Files::KeepTrying(const QString& path, int reason, std::function<int()> save) {
+  if (Pending* known = FindPending(path)) {
+    known->reason = reason;
+    known->save = std::move(save);
+  } else {
+    pending_.push_back({path, {}, reason, std::move(save)});
+  }
+  if (onPendingChanged) onPendingChanged();
+}
+
+void Files::StopTrying(const QString& path) {
+  const auto before = pending_.size();
+  std::erase_if(pending_, [&](const Pending& pending) {
+    return pending.path.compare(path, Qt::CaseInsensitive) == 0;
+  });
+  if (pending_.size() != before && onPendingChanged) onPendingChanged();
+}
+
 int Files::ReadText(const QString& path, QString& text) {
   text.clear();
   if (!pending_.empty()) {
-    if (const Pending* pending = FindPending(path)) {
+    if (const Pending* pending = FindPendingText(path)) {
       text = pending->text;
       return kNoError;
     }
@@ -85,7 +108,7 @@ int Files::SaveText(const QString& path, const QString& text) {
       known->text = text;
       known->reason = error;
     } else {
-      pending_.push_back({path, text, error});
+      pending_.push_back({path, text, error, {}});
     }
     if (onPendingChanged) onPendingChanged();
   } else if (known != nullptr) {
@@ -124,7 +147,7 @@ void Files::RetryPending(const QString& except) {
   const auto before = pending_.size();
   std::erase_if(pending_, [&](Pending& pending) {
     if (pending.path.compare(except, Qt::CaseInsensitive) == 0) return false;
-    pending.reason = Replace(pending.path, pending.text.toUtf8());
+    pending.reason = pending.save ? pending.save() : Replace(pending.path, pending.text.toUtf8());
     return pending.reason == kNoError;
   });
   if (pending_.size() != before && onPendingChanged) onPendingChanged();
@@ -148,7 +171,7 @@ QString Files::Notice() const {
 }
 
 bool Files::Exists(const QString& path) {
-  return FindPending(path) != nullptr || disk_.Exists(Resolved(path));
+  return FindPendingText(path) != nullptr || disk_.Exists(Resolved(path));
 }
 
 int Files::Remove(const QString& path) {

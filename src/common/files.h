@@ -51,7 +51,14 @@ class Files {
     QString path;
     QString text;
     int reason = 0;
+    // Set for a file that is no text (a marked plan): writes it once more.
+    std::function<int()> save;
   };
+  // A save of a file that is no text failed with `reason`: the notice names it, and `save` (which
+  // returns an error number and must not call this object) is tried at every later save.
+  void KeepTrying(const QString& path, int reason, std::function<int()> save);
+  // It was saved after all, or there is nothing left to save.
+  void StopTrying(const QString& path);
   const std::vector<Pending>& PendingSaves() const { return pending_; }
   // Tries every pending save once more. True when nothing is left.
   bool TryAgain();
@@ -67,6 +74,7 @@ class Files {
   int WriteWhole(const QString& path, const QByteArray& bytes);
   void RetryPending(const QString& except);
   Pending* FindPending(const QString& path);
+  Pending* FindPendingText(const QString& path);
 
   Disk& disk_;
   std::vector<Pending> pending_;

@@ -29,6 +29,8 @@ class Form {
   Form* OwnerForm() const { return owner_; }
   void Show(Form* owner = nullptr);  // Desk::Show
   void Hide();                       // Desk::Hide
+  // The control that has the focus, or had it when this form was last in front; nullptr for none.
+  Control* ActiveControl() const { return active_; }
 
   const std::vector<Control*>& Controls() const {
     return controls_;

@@ -1,0 +1,100 @@
+#include "plans/ostmenu.h"
+
+#include <span>
+
+#include "plans/scales.h"
+
+namespace tamo {
+namespace {
+
+struct Row {
+  const char* name;
+  const char* caption;
+  const char* parent;  // "" on the bar
+};
+
+constexpr char kSpace[] = "            ";
+
+constexpr Row kShell[] = {
+    {"ProjectS", "P&rojects", ""},
+    {"OpenProject", "&Open Project", "ProjectS"},
+    {"ClearProject", "&Clear Project", "ProjectS"},
+    {"NewProject", "Cr&eate Project", "ProjectS"},
+    {"ProjectInformation", "&Project Information", "ProjectS"},
+    {"CopyProject", "Copy P&roject", "ProjectS"},
+    {"PasteProject", "P&aste Project", "ProjectS"},
+    {"DeleteProject", "&Delete Project", "ProjectS"},
+    {"Pricing2", "Pricing", ""},
+    {"Estimate", "&Estimate", ""},
+    {"RFS", "&Room Finish Schedule", "Estimate"},
+    {"EnterRFS", "&Enter Room Finish Schedule", "RFS"},
+    {"TakeoffRFS", "&Takeoff Room Finish Schedule", "RFS"},
+    {"NRFS", "&Non Room Finish Schedule Items", "Estimate"},
+    {"BottomLine1", "&Bottom Line Items", "Estimate"},
+    {"PriceAdjustment", "&Price Adjustment", "Estimate"},
+    {"Reports1", "Repor&ts", ""},
+    {"ProjectNFO", "Pr&oject Information", "Reports1"},
+    {"Quantities", "&Quantities", "Reports1"},
+    {"Recaps", "&Recap", "Reports1"},
+    {"Recap", "&Recap Overview", "Recaps"},
+    {"DetailedRecap", "&Detailed Recap", "Recaps"},
+    {"BreakDown", "&BreakDown", "Reports1"},
+    {"BillofMaterial", "Bill of &Material", "Reports1"},
+    {"ProjectManager", "&Project Manager", "Reports1"},
+    {"oCopy", "&Office Copy", "ProjectManager"},
+    {"fCopy", "&Field Copy", "ProjectManager"},
+    {"ProjectSupport", "&PM Support", "Reports1"},
+    {"PMOFile", "&Build PMO File", "ProjectSupport"},
+    {"PMFFile", "&Build PMF File", "ProjectSupport"},
+    {"Spacer1", kSpace, ""},
+};
+
+constexpr Row kPlan[] = {
+    {"ZoomOut", "Zoom &Out", ""},      {"ZoomIn", "Zoom I&n", ""},
+    {"ScaleA", "S&cale", ""},          {"GetFiles", "&Files", ""},
+    {"LinesColor", "Line &Color", ""}, {"LastPage", "&Last Page", ""},
+    {"NextPage", "&Next Page", ""},    {"Save", "&Save", ""},
+    {"Printit", "&Print", ""},         {"Spacer2", kSpace, ""},
+    {"Spacer3", kSpace, ""},           {"Documentation", "D&ocumentation", ""},
+    {"Settings1", "&Settings", ""},    {"Exit", "E&xit", ""},
+};
+
+class Bar {
+ public:
+  explicit Bar(Form& form) : form_(form) {}
+
+  void Add(const char* name, const char* caption, const char* parent) {
+    entries_.push_back(std::make_unique<MenuEntry>(
+        form_, QLatin1String(name), QLatin1String(caption), form_.FindMenu(QLatin1String(parent))));
+  }
+  void Add(std::span<const Row> rows) {
+    for (const Row& row : rows) Add(row.name, row.caption, row.parent);
+  }
+  void Add(std::span<const ScaleEntry> scales, const char* parent) {
+    for (const ScaleEntry& scale : scales) Add(scale.name, scale.caption, parent);
+  }
+  std::vector<std::unique_ptr<MenuEntry>> Take() { return std::move(entries_); }
+
+ private:
+  Form& form_;
+  std::vector<std::unique_ptr<MenuEntry>> entries_;
+};
+
+}  // namespace
+
+std::vector<std::unique_ptr<MenuEntry>> MakeOstMenu(Form& form) {
+  Bar bar(form);
+  bar.Add(kShell);
+  bar.Add(kPlan);
+  bar.Add(InchScales(), "ScaleA");
+  bar.Add("Metric", "&Metric", "ScaleA");
+  bar.Add(MillimetreScales(), "Metric");
+  bar.Add(CentimetreScales(), "Metric");
+  // Blank entries only push the rest along the bar: no key leads to them.
+  for (const char* spacer : {"Spacer1", "Spacer2", "Spacer3"}) {
+    form.FindMenu(QLatin1String(spacer))->SetEnabled(false);
+  }
+  return bar.Take();
+}
+
+}  // namespace tamo

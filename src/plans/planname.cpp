@@ -1,0 +1,36 @@
+#include "plans/planname.h"
+
+#include "common/paths.h"
+#include "workspace/jobnfo.h"
+
+namespace tamo {
+
+QString PlanNameOf(const QString& path) {
+  QString name = FileNameOf(path);
+  const qsizetype point = name.lastIndexOf(QLatin1Char('.'));
+  if (point >= 0) name.truncate(point);
+  const QString mark = QStringLiteral("-Marked");
+  if (name.endsWith(mark)) name.chop(mark.size());
+  return name;
+}
+
+bool NamesAbout(const QString& path) {
+  return PlanNameOf(path).compare(QLatin1String("About"), Qt::CaseInsensitive) == 0;
+}
+
+QString MarkedName(const QString& path, QString& refusal) {
+  const QString plain = PlainPlanName(PlanNameOf(path));
+  refusal =
+      NameRefusal(plain.trimmed().isEmpty() ? QString() : plain + QStringLiteral("-Marked.pdf"));
+  return refusal.isEmpty() ? plain + QStringLiteral("-Marked.pdf") : QString();
+}
+
+QString WithoutDoubleMark(QString path) {
+  while (path.endsWith(QLatin1String("-Marked-Marked.pdf"))) {
+    path.chop(11);
+    path += QStringLiteral(".pdf");
+  }
+  return path;
+}
+
+}  // namespace tamo

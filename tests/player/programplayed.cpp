@@ -1,0 +1,57 @@
+#include "player/programplayed.h"
+
+#include "common/disk.h"
+#include "plans/fakepdfdraw.h"
+
+namespace tamo::player {
+namespace {
+
+// A viewer without a PDF, whose saved plans stand on the disk all the same.
+std::unique_ptr<PdfDraw> MakeViewer(const Platform& platform) {
+  auto viewer = std::make_unique<FakePdfDraw>();
+  Disk& disk = platform.disk;
+  viewer->onWriteFile = [&disk](const QString& path, const QByteArray& content) {
+    return Files(disk).SaveText(path, QString::fromLatin1(content));
+  };
+  return viewer;
+}
+
+}  // namespace
+
+ProgramPlayed::ProgramPlayed(const Platform& platform)
+    : viewer_(MakeViewer(platform)), program_(std::make_unique<Program>(platform, *viewer_)) {}
+
+ProgramPlayed::~ProgramPlayed() = default;
+
+void ProgramPlayed::Start() {
+  program_->Start();
+}
+Desk& ProgramPlayed::GetDesk() {
+  return program_->GetDesk();
+}
+Form* ProgramPlayed::FindForm(const QString& name) {
+  return program_->FindForm(name);
+}
+const QString* ProgramPlayed::FindText(const QString& form, const QString& name) {
+  return program_->FindText(form, name);
+}
+PdfDraw& ProgramPlayed::Viewer() {
+  return *viewer_;
+}
+QString ProgramPlayed::Notice() {
+  return program_->GetFiles().Notice();
+}
+void ProgramPlayed::TrySavesAgain() {
+  program_->TrySavesAgain();
+}
+bool ProgramPlayed::Running() {
+  return program_->Running();
+}
+
+// In mode 2 the plan carries the menus and closing it ends the program.
+Form* ProgramPlayed::Shell() {
+  const bool plan = program_->Shared().GUIText == QStringLiteral("2");
+  return program_->FindForm(plan ? QStringLiteral("OST") : QStringLiteral("Tamo"));
+}
+
+}  // namespace tamo::player

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+
+#include "player/played.h"
+#include "program/program.h"
+
+namespace tamo::player {
+
+// The program itself. Windows that are built over it get it from here.
+class ProgramPlayed : public Played {
+ public:
+  explicit ProgramPlayed(const Platform& platform);
+  ~ProgramPlayed() override;
+
+  Program& GetProgram() { return *program_; }
+
+  void Start() override;
+  Desk& GetDesk() override;
+  Form* FindForm(const QString& name) override;
+  const QString* FindText(const QString& form, const QString& name) override;
+  PdfDraw& Viewer() override;
+  QString Notice() override;
+  void TrySavesAgain() override;
+  bool Running() override;
+  Form* Shell() override;
+
+ private:
+  std::unique_ptr<PdfDraw> viewer_;
+  std::unique_ptr<Program> program_;
+};
+
+}  // namespace tamo::player
