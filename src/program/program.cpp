@@ -1,6 +1,9 @@
 #include "program/program.h"
 
 #include "common/paths.h"
+#include "program/menus.h"
+#include "program/planadapters.h"
+#include "program/reportadapters.h"
 #include "program/shell.h"
 #include "workspace/form11.h"
 #include "workspace/settingsform.h"
@@ -9,39 +12,35 @@
 namespace tamo {
 namespace {
 
-class PlanDeskOnOst : public PlanDesk {
+class Work : public WorkDesk,
+             public Desks,
+             public TakeoffFields,
+             public MarkupSource,
+             public BottomLineFigure {
  public:
-  Record Fields() const override { return record_; }
-  void SetPlanLocation(const QString& path) override { record_.planLocation = path; }
-  void SetPageText(const QString& text) override { record_.pageText = text; }
-  void SetZoomLevel(const QString& text) override { record_.zoomLevel = text; }
-  void SetScale(const QString& scale1, const QString& scale2, const QString& text5) override {
-    record_.scale1 = scale1;
-    record_.scale2 = scale2;
-    record_.text5 = text5;
-  }
-  void SetProjectName(const QString&) override {}
-  int ViewValue(int) const override { return 0; }
-  void SetViewValue(int, int) override {}
-  void TurnToPage(int) override {}
-  void SetZoomByLevel(const QString&) override {}
-  void LoadFN() override {}
-  void LoadPDF() override {}
-  void OpenBlank() override {}
-  void LoadPlanNotes() override {}
-  void HideBrowser() override {}
-
- private:
-  Record record_;
-};
-
-class WorkDeskOnForms : public WorkDesk {
- public:
+  ReportsForm* reports = nullptr;
   void InitPricing() override {}
   void RefreshPricingList() override {}
-  void PrintReport() override {}
-  void ClearReports() override {}
-  void ForgetProject() override {}
+  void PrintReport() override { reports->Refresh(); }
+  void ClearReports() override {
+    reports->Reporter.Clear();
+    reports->Hide();
+  }
+  void ForgetProject() override { reports->ForgetProject(); }
+  void ToggleUnitPricing(Form*) override {}
+  void TogglePricing(Form*) override {}
+  void LoadMarkups() override {}
+  void EnterSchedule(Form*) override {}
+  void TakeOffSchedule(Form*) override {}
+  void ShowFreeItems(Form*) override {}
+  void ShowBottomLine(Form*) override {}
+  void ShowAdjustment(Form*) override {}
+  void ToggleDocs(Form*) override {}
+  bool FormVisible(Field) const override { return false; }
+  void SetText(Field, const QString&) override {}
+  void FocusOn(Field) override {}
+  MarkupTexts Texts() const override { return {}; }
+  void SetTotalBL(const QString&) override {}
 };
 
 }  // namespace
@@ -58,9 +57,22 @@ struct Program::Parts {
     shared.zDir = platform.programFolder;
     form11 = std::make_unique<Form11>(kit);
     settings = std::make_unique<SettingsForm>(kit, shell);
-    ost = std::make_unique<Form>(desk, QStringLiteral("OST"));
-    main = std::make_unique<TamoForm>(kit, *settings, shell, planDesk, workDesk);
+    ost = std::make_unique<OSTForm>(kit, viewer, projectKeeper, work);
+    main = std::make_unique<TamoForm>(kit, *settings, shell, planDesk, work);
+    reports = std::make_unique<ReportsForm>(
+        kit, ReportsForm::Joins{work, projectRecord, reportsShell, work, wholeQuantities});
+    Join();
+  }
+
+  void Join() {
     shell.Join(*main, *settings, *ost);
+    planDesk.Join(*ost);
+    projectKeeper.Join(*main);
+    projectRecord.Join(*main);
+    reportsShell.Join(shell, *reports, *ost);
+    wholeQuantities.Join(*settings);
+    work.reports = reports.get();
+    menus = std::make_unique<Menus>(kit, shell, *main, *settings, *ost, *reports, work);
   }
 
   const Platform platform;
@@ -70,12 +82,18 @@ struct Program::Parts {
   SharedFields shared;
   const Kit kit;
   Shell shell;
+  Work work;
   PlanDeskOnOst planDesk;
-  WorkDeskOnForms workDesk;
+  ProjectKeeperOnTamo projectKeeper;
+  ProjectRecordOnTamo projectRecord;
+  ReportsShellOnForms reportsShell;
+  WholeQuantitiesInSettings wholeQuantities;
   std::unique_ptr<Form11> form11;
   std::unique_ptr<SettingsForm> settings;
-  std::unique_ptr<Form> ost;
+  std::unique_ptr<OSTForm> ost;
   std::unique_ptr<TamoForm> main;
+  std::unique_ptr<ReportsForm> reports;
+  std::unique_ptr<Menus> menus;
 };
 
 Program::Program(const Platform& platform, PdfDraw& viewer)
@@ -88,7 +106,10 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
 Program::~Program() = default;
 
 void Program::Start() {
-  parts_->desk.Dispatch([this] { parts_->main->Init(); });
+  parts_->desk.Dispatch([this] {
+    parts_->ost->Load();
+    parts_->main->Init();
+  });
 }
 
 bool Program::Running() const {

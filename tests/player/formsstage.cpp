@@ -4,6 +4,14 @@
 #include "player/trouble.h"
 
 namespace tamo::player {
+namespace {
+
+// A double click is a click first, which may put away what was clicked.
+bool Reachable(const Control& control) {
+  return control.Usable() && control.Owner().Visible();
+}
+
+}  // namespace
 
 Key KeyFor(QChar c) {
   switch (c.unicode()) {
@@ -38,6 +46,12 @@ TextField& FormsStage::FocusedField() const {
   return *field;
 }
 
+// A click into another window of the program brings it to the front. On what takes the focus it
+// goes straight there; otherwise the window comes first, with the focus where it was.
+void FormsStage::GoTo(Control& control) {
+  if (!control.takesFocus) GetDesk().UserActivate(control.Owner());
+}
+
 void FormsStage::ChooseMenu(MenuEntry& entry) {
   GetDesk().UserActivate(entry.Owner());
   GetDesk().ChooseMenu(entry);
@@ -70,20 +84,23 @@ void FormsStage::Paste(const QString& text) {
   GetDesk().Paste(FocusedField(), text);
 }
 
-// A click into another window of the program brings that window to the front first, also when what
-// is clicked takes no focus.
+// A click into the text of the field that has the focus already puts the caret there: at its end.
 void FormsStage::Click(Control& control) {
-  if (!control.takesFocus) GetDesk().UserActivate(control.Owner());
+  GoTo(control);
+  auto* field = dynamic_cast<TextField*>(&control);
+  const bool had = control.HasFocus();
   GetDesk().ClickInto(control);
+  if (field == nullptr || !had || !control.HasFocus()) return;
+  GetDesk().Dispatch([&] { field->Select(static_cast<int>(field->Text().size()), 0); });
 }
 
 void FormsStage::DoubleClick(Control& control) {
-  if (!control.takesFocus) GetDesk().UserActivate(control.Owner());
-  GetDesk().DoubleClick(control);
+  Click(control);
+  if (Reachable(control)) GetDesk().DoubleClick(control);
 }
 
 void FormsStage::RightClick(Control& control) {
-  if (!control.takesFocus) GetDesk().UserActivate(control.Owner());
+  GoTo(control);
   GetDesk().RightClick(control);
 }
 
@@ -92,30 +109,32 @@ void FormsStage::ClickNotice() {
 }
 
 void FormsStage::SelectRow(OrderedList& list, int row) {
-  if (!list.takesFocus) GetDesk().UserActivate(list.Owner());
+  GoTo(list);
   GetDesk().ClickRow(list, row);
 }
 
 void FormsStage::RightSelectRow(OrderedList& list, int row) {
-  if (!list.takesFocus) GetDesk().UserActivate(list.Owner());
+  GoTo(list);
   GetDesk().RightClickRow(list, row);
 }
 
 void FormsStage::DoubleSelectRow(OrderedList& list, int row) {
-  if (!list.takesFocus) GetDesk().UserActivate(list.Owner());
-  GetDesk().DoubleClickRow(list, row);
+  SelectRow(list, row);
+  if (Reachable(list) && row < list.Count()) GetDesk().DoubleClickRow(list, row);
 }
 
 void FormsStage::TickRow(CheckList& list, int row) {
+  GoTo(list);
   GetDesk().TickRow(list, row);
 }
 
 void FormsStage::ScrollTo(OrderedList& list, int row) {
+  GoTo(list);
   GetDesk().ScrollTo(list, row);
 }
 
 void FormsStage::Pick(FileBrowser& browser, const QString& path, bool twice) {
-  GetDesk().UserActivate(browser.Owner());
+  GoTo(browser);
   GetDesk().Pick(browser, path, twice);
 }
 

@@ -23,6 +23,10 @@ ProgramPlayed::ProgramPlayed(const Platform& platform)
 
 ProgramPlayed::~ProgramPlayed() = default;
 
+PlanPictures* ProgramPlayed::Pictures() {
+  return dynamic_cast<PlanPictures*>(viewer_.get());
+}
+
 void ProgramPlayed::Start() {
   program_->Start();
 }

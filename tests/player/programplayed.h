@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "plans/planpictures.h"
 #include "player/played.h"
 #include "program/program.h"
 
@@ -14,6 +15,9 @@ class ProgramPlayed : public Played {
   ~ProgramPlayed() override;
 
   Program& GetProgram() { return *program_; }
+
+  // The viewer as pictures for a window; nullptr when it paints nothing.
+  PlanPictures* Pictures();
 
   void Start() override;
   Desk& GetDesk() override;
