@@ -41,8 +41,7 @@ std::vector<BrowserRow> BrowserRows(Disk& disk, const FileBrowser& browser) {
   const bool folders = browser.GetKind() == FileBrowser::Kind::Folder;
   const QString& folder = browser.Folder();
   std::vector<BrowserRow> rows;
-  if (folders && Above(folder) != folder)
-    rows.push_back({QStringLiteral(".."), Above(folder)});
+  if (folders && Above(folder) != folder) rows.push_back({QStringLiteral(".."), Above(folder)});
   for (const QString& name : disk.Names(folder)) {
     if (name.startsWith(QLatin1Char('.'))) continue;
     const bool match = browser.Pattern().isEmpty() || QDir::match(browser.Pattern(), name);

@@ -56,6 +56,12 @@ RowsView* Builder::DropList(const char* name, const char* field) {
   return view;
 }
 
+RowsView* Builder::PopList(const char* name, const QString& saidName, int columns) {
+  RowsView* view = List(name, saidName, columns, 3);
+  if (view != nullptr) static_cast<ListBinding*>(display_.Of(*Find(name)))->PopUpIn(window_);
+  return view;
+}
+
 QPushButton* Builder::PushButton(const char* name) {
   auto* button = new QPushButton;
   button->setObjectName(QLatin1String(name));
@@ -111,13 +117,11 @@ QSlider* Builder::Bar(const char* name, const QString& saidName) {
 
 BrowserView* Builder::Browser(const char* name, const QString& saidName) {
   auto* control = Find<FileBrowser>(name);
-  auto* view =
-      new BrowserView(control == nullptr ? FileBrowser::Kind::File : control->GetKind());
+  auto* view = new BrowserView(control == nullptr ? FileBrowser::Kind::File : control->GetKind());
   view->setObjectName(QLatin1String(name));
   view->setAccessibleName(saidName);
   view->Rows().setAccessibleName(saidName);
-  if (control != nullptr)
-    Bind<BrowserBinding>(*control, *view, program_.GetFiles().GetDisk());
+  if (control != nullptr) Bind<BrowserBinding>(*control, *view, program_.GetFiles().GetDisk());
   return view;
 }
 

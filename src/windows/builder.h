@@ -20,9 +20,9 @@ namespace tamo {
 class Program;
 class PlanPictures;
 
-// Makes the widgets of one form by the names of its controls, each bound to its control. A name that
-// the form does not have gives a widget that stands alone, and is noted in FormWindow::missing.
-// The widgets belong to the layout they are put into.
+// Makes the widgets of one form by the names of its controls, each bound to its control. A name
+// that the form does not have gives a widget that stands alone, and is noted in
+// FormWindow::missing. The widgets belong to the layout they are put into.
 class Builder {
  public:
   Builder(FormWindow& window, Display& display, Program& program, PlanPictures* pictures);
@@ -33,13 +33,15 @@ class Builder {
   Program& GetProgram() { return program_; }
   PlanPictures* Pictures() { return pictures_; }
 
-  // `columns` is the width in characters; 0 takes all the width there is. `saidName` is the name for
-  // a reader of screens where no caption stands before the field.
+  // `columns` is the width in characters; 0 takes all the width there is. `saidName` is the name
+  // for a reader of screens where no caption stands before the field.
   QLineEdit* Field(const char* name, int columns = 0, const QString& saidName = {});
   QPlainTextEdit* LongField(const char* name, const QString& saidName);
   RowsView* List(const char* name, const QString& saidName, int columns, int rows);
   // A list that pops up under its field. The field must have been made before.
   RowsView* DropList(const char* name, const char* field);
+  // A list that opens where the right click was.
+  RowsView* PopList(const char* name, const QString& saidName, int columns);
   QPushButton* PushButton(const char* name);
   QCheckBox* Check(const char* name);
   QRadioButton* Choice(const char* name);
@@ -96,7 +98,7 @@ class FieldColumn {
   void Add(QLabel* caption, QWidget* field, QLabel* prompt = nullptr);
   // Two pairs in a row.
   void AddPair(QLabel* caption, QWidget* field, QLabel* secondCaption, QWidget* secondField);
-  void AddWide(QWidget* widget);  // across both columns
+  void AddWide(QWidget* widget);   // across both columns
   void AddUnder(QWidget* widget);  // in the column of the fields
   int captionColumns = 16;         // least width of the captions, in characters
 

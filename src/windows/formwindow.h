@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "common/disk.h"
 #include "windows/display.h"
@@ -47,6 +48,9 @@ class FormWindow : public QWidget {
   QHBoxLayout& StatusLine();
   void SetStatus(const QString& project, bool locked, const QString& folder);
   NoticeStrip& Notice() const { return *notice_; }
+
+  // Called after each sync while the window is shown, for what no control tells.
+  std::vector<std::function<void()>> onSynced;
 
   // Names of controls that the layout asked for and the form does not have.
   QStringList missing;

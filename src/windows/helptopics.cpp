@@ -21,8 +21,9 @@ void ShowHelp(Program& program, Form& front) {
        {"Reports", "Reports"},
        {"Docs", "Documentation"}}};
   Form* docs = program.FindForm(QStringLiteral("Docs"));
-  auto* topics =
-      docs == nullptr ? nullptr : dynamic_cast<OrderedList*>(docs->Find(QStringLiteral("MenuList")));
+  auto* topics = docs == nullptr
+                     ? nullptr
+                     : dynamic_cast<OrderedList*>(docs->Find(QStringLiteral("MenuList")));
   if (topics == nullptr) return;
   QString topic;
   for (const auto& [form, name] : kTopics) {

@@ -31,11 +31,19 @@ ListBinding::ListBinding(Display& display, OrderedList& list, RowsView& view)
 void ListBinding::DropFrom(TextField& field, QWidget& fieldWidget, QWidget& window) {
   under_ = &field;
   underWidget_ = &fieldWidget;
+  fieldWidget.installEventFilter(this);
+  Float(window);
+}
+
+void ListBinding::PopUpIn(QWidget& window) {
+  Float(window);
+}
+
+void ListBinding::Float(QWidget& window) {
   window_ = &window;
   view_.setParent(&window);
   view_.hide();
   view_.setProperty("role", QStringLiteral("drop"));
-  fieldWidget.installEventFilter(this);
   window.installEventFilter(this);
 }
 
@@ -64,7 +72,7 @@ void ListBinding::Apply() {
     }
     view_.viewport()->update();
   }
-  if (under_ != nullptr && list_.ShownWithFrames()) Place();
+  if (list_.ShownWithFrames() && (under_ != nullptr || view_.isHidden())) Place();
   Binding::Apply();
   if (!list_.Shown()) view_.SetWalked(-1);
   if (index >= 0 && (index != appliedIndex_ || other)) view_.scrollTo(view_.Model().index(index));
@@ -74,13 +82,22 @@ void ListBinding::Apply() {
 
 // As wide as the field; where the window ends before twelve rows do, what is left scrolls.
 void ListBinding::Place() {
-  if (underWidget_.isNull() || window_.isNull()) return;
-  const QPoint corner = underWidget_->mapTo(window_, QPoint(0, underWidget_->height()));
+  if (window_.isNull()) return;
   const int frame = 2 * view_.frameWidth() + 2;
   const int rows = std::clamp(list_.Count(), 1, kMostDropRows);
-  const int room = window_->height() - corner.y() - kGrid / 2;
-  const int height = std::min(rows * view_.RowHeight() + frame, std::max(room, 4 * kFieldHeight));
-  view_.setGeometry(corner.x(), corner.y(), underWidget_->width(), height);
+  const int whole = rows * view_.RowHeight() + frame;
+  if (underWidget_.isNull()) {
+    const QPoint click = window_->mapFromGlobal(GetDisplay().popupPlace);
+    const int width = view_.WidthOfColumns(view_.wantedColumns);
+    const int left = std::clamp(click.x(), 0, std::max(0, window_->width() - width));
+    const int top = std::clamp(click.y(), 0, std::max(0, window_->height() - whole));
+    view_.setGeometry(left, top, width, whole);
+  } else {
+    const QPoint corner = underWidget_->mapTo(window_, QPoint(0, underWidget_->height()));
+    const int room = window_->height() - corner.y() - kGrid / 2;
+    const int height = std::min(whole, std::max(room, 4 * kFieldHeight));
+    view_.setGeometry(corner.x(), corner.y(), underWidget_->width(), height);
+  }
   view_.raise();
 }
 
@@ -185,8 +202,8 @@ bool ListBinding::TakeMouse(QEvent* event) {
       const bool keys =
           static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard;
       if (keys && list_.onRightClick && row >= 0) {
-        GetDisplay().popupPlace = view_.viewport()->mapToGlobal(
-            view_.visualRect(view_.Model().index(row)).bottomLeft());
+        GetDisplay().popupPlace =
+            view_.viewport()->mapToGlobal(view_.visualRect(view_.Model().index(row)).bottomLeft());
         GetDesk().RightClickRow(list_, row);
       }
       return true;
@@ -199,8 +216,7 @@ bool ListBinding::TakeMouse(QEvent* event) {
 bool ListBinding::eventFilter(QObject* object, QEvent* event) {
   if (object == view_.viewport()) return TakeMouse(event);
   if (object == &view_) {
-    if (event->type() == QEvent::KeyPress &&
-        TakePageKey(static_cast<const QKeyEvent&>(*event)))
+    if (event->type() == QEvent::KeyPress && TakePageKey(static_cast<const QKeyEvent&>(*event)))
       return true;
     if (event->type() == QEvent::ContextMenu) return TakeMouse(event);
     return TakeCommon(event);

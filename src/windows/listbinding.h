@@ -16,6 +16,9 @@ class ListBinding : public Binding {
   // Makes a drop list of it, over `window`, under the widget of `field`.
   void DropFrom(TextField& field, QWidget& fieldWidget, QWidget& window);
 
+  // Makes a list of it that opens over `window` where the last right click was.
+  void PopUpIn(QWidget& window);
+
   OrderedList& List() const { return list_; }
   RowsView& View() const { return view_; }
   TextField* Under() const { return under_; }
@@ -41,6 +44,7 @@ class ListBinding : public Binding {
   bool TakeMouse(QEvent* event);
   void Press(const QPoint& at, Qt::MouseButton button, bool twice);
   bool TakePageKey(const QKeyEvent& event);
+  void Float(QWidget& window);
   void Place();
 
   OrderedList& list_;

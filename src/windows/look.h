@@ -11,8 +11,8 @@ namespace tamo {
 inline constexpr int kGrid = 8;
 inline constexpr int kFieldHeight = 30;
 
-// The colours of the program: calm grounds, one accent. Every pair of text and ground has a contrast
-// of at least 4.5 to 1, the prompts' quieter tone too.
+// The colours of the program: calm grounds, one accent. Every pair of text and ground has a
+// contrast of at least 4.5 to 1, the prompts' quieter tone too.
 struct Look {
   bool dark = false;
   QColor window;        // ground of a window

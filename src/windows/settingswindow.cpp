@@ -11,9 +11,9 @@ QWidget* Palette(Builder& b) {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setHorizontalSpacing(kGrid);
   grid->setVerticalSpacing(kGrid / 2);
-  const char* names[] = {"iRed",  "iGreen",  "iBlue", "iYellow", "iOrange",
-                         "iPurple", "iViolet", "iDkGreen", "iNavy", "iTeal",
-                         "iAqua", "iBrown",  "iMaroon", "iLtBlue", "iLtGrn"};
+  const char* names[] = {"iRed",    "iGreen",  "iBlue",    "iYellow", "iOrange",
+                         "iPurple", "iViolet", "iDkGreen", "iNavy",   "iTeal",
+                         "iAqua",   "iBrown",  "iMaroon",  "iLtBlue", "iLtGrn"};
   int at = 0;
   for (const char* name : names) {
     grid->addWidget(b.Patch(name), at / 8, at % 8);

@@ -61,8 +61,8 @@ void SwatchPatch::paintEvent(QPaintEvent*) {
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
     if (!colour.isValid()) return;
-    painter.setPen(QPen(colour, std::clamp(lineWidth_, 1, height() - 4), Qt::SolidLine,
-                        Qt::FlatCap));
+    painter.setPen(
+        QPen(colour, std::clamp(lineWidth_, 1, height() - 4), Qt::SolidLine, Qt::FlatCap));
     painter.drawLine(QPointF(2 * kGrid, height() / 2.0),
                      QPointF(width() - 2 * kGrid, height() / 2.0));
     return;

@@ -45,10 +45,9 @@ QWidget* ProjectPanel(Builder& b) {
   FieldColumn fields(*column);
   fields.captionColumns = 12;
   const std::pair<const char*, const char*> rows[] = {
-      {"JobName", "Job Name:"},       {"BidDate", "Bid Date:"},
-      {"Addenda", "Addenda:"},        {"Phase", "Phase:"},
-      {"BidItems", "Bid Items:"},     {"Inclusions", "Inclusions:"},
-      {"Exclusions", "Exclusions:"},  {"Architect", "Architect:"},
+      {"JobName", "Job Name:"},      {"BidDate", "Bid Date:"},    {"Addenda", "Addenda:"},
+      {"Phase", "Phase:"},           {"BidItems", "Bid Items:"},  {"Inclusions", "Inclusions:"},
+      {"Exclusions", "Exclusions:"}, {"Architect", "Architect:"},
   };
   for (const auto& [name, caption] : rows)
     fields.Add(FixedCaption(QLatin1String(caption)), b.Field(name));

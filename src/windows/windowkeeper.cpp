@@ -52,9 +52,8 @@ struct WindowKeeper::Parts {
   }
   void RestorePlace(FormWindow& window) const {
     if (placesFile.isEmpty()) return;
-    const QByteArray place = QSettings(placesFile, QSettings::IniFormat)
-                                 .value(window.GetForm().Name())
-                                 .toByteArray();
+    const QByteArray place =
+        QSettings(placesFile, QSettings::IniFormat).value(window.GetForm().Name()).toByteArray();
     if (!place.isEmpty()) window.restoreGeometry(place);
   }
   void TakeReport() {
@@ -104,8 +103,7 @@ FormWindow* WindowKeeper::Window(Form& form) {
     }
     window->Notice().onClick = [this] { parts_->program.TrySavesAgain(); };
     auto* help = new QShortcut(QKeySequence(Qt::Key_F1), window.get());
-    connect(help, &QShortcut::activated, this,
-            [this, &form] { ShowHelp(parts_->program, form); });
+    connect(help, &QShortcut::activated, this, [this, &form] { ShowHelp(parts_->program, form); });
     window->installEventFilter(this);
     parts_->RestorePlace(*window);
     parts_->display->MarkDirty();
@@ -154,10 +152,12 @@ void WindowKeeper::SyncWindows() {
     window->Menus().Apply();
     window->Notice().SetText(notice);
     if (IsShell(*form)) {
-      window->SetStatus(shared.JobID.isEmpty() ? QStringLiteral("No project is open")
-                                               : shared.JobID + QStringLiteral("   ") + shared.JobName,
+      window->SetStatus(shared.JobID.isEmpty()
+                            ? QStringLiteral("No project is open")
+                            : shared.JobID + QStringLiteral("   ") + shared.JobName,
                         shared.Locked == QLatin1String("True"), shared.DataPath);
     }
+    for (const auto& synced : window->onSynced) synced();
     if (window->isVisible()) continue;
     SetOwner(*window, form->OwnerForm() == nullptr ? nullptr : WindowOf(*form->OwnerForm()));
     window->setAttribute(Qt::WA_ShowWithoutActivating, form != desk.Active());
@@ -199,8 +199,7 @@ bool WindowKeeper::eventFilter(QObject* object, QEvent* event) {
   if (event->type() != QEvent::WindowActivate || parts_->display == nullptr) return false;
   auto* window = dynamic_cast<FormWindow*>(object);
   if (window == nullptr) return false;
-  const bool waiting =
-      !parts_->asked.isNull() && parts_->askedSince.elapsed() < kActivationWait;
+  const bool waiting = !parts_->asked.isNull() && parts_->askedSince.elapsed() < kActivationWait;
   if (waiting) {
     if (parts_->asked == window) parts_->asked.clear();
     return false;
