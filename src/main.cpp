@@ -6,23 +6,19 @@
 #include <QTimer>
 
 #include "common/paths.h"
+#include "plans/mupdfdraw.h"
 #include "program/program.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
 #include "windows/reportprinter.h"
 #include "windows/windowkeeper.h"
-#if __has_include("plans/mupdfdraw.h")
-#include "plans/mupdfdraw.h"
-#else
-#include "plans/fakepdfdraw.h"
-#endif
 
 // Starts the toolkit, the program and its windows. There is no command line.
 
 namespace {
 
 // How long the window waits for a plan before it shows a blank sheet and goes on.
-[[maybe_unused]] constexpr int kPatience = 80;
+constexpr int kPatience = 80;
 
 QString HomeFolder() {
 #ifdef Q_OS_WIN
@@ -61,17 +57,11 @@ int main(int argc, char** argv) {
   QApplication::setWindowIcon(QIcon::fromTheme(
       QStringLiteral("tamo"), QIcon(platform.programFolder + QStringLiteral("/desktop/tamo.svg"))));
 
-#if __has_include("plans/mupdfdraw.h")
   tamo::Files planFiles(disk);
   tamo::MuPdfDraw viewer(planFiles);
   viewer.SetPatience(kPatience);
-  tamo::PlanPictures* pictures = &viewer;
-#else
-  tamo::FakePdfDraw viewer;
-  tamo::PlanPictures* pictures = nullptr;
-#endif
   tamo::Program program(platform, viewer);
-  tamo::WindowKeeper windows(program, pictures,
+  tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
   messages.beforeBox = [&windows] { windows.SyncNow(); };
   program.onEnded = [] { QTimer::singleShot(0, [] { QApplication::quit(); }); };

@@ -1,10 +1,10 @@
 #include "windows/planpaint.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
-#include <cmath>
 #include <numbers>
 
+#include "plans/markshape.h"
 #include "windows/swatchpatch.h"
 
 namespace tamo {
@@ -33,16 +33,30 @@ QTransform PageTransform(PageSize page, int turn, double scale) {
 }
 
 void PaintMark(QPainter& painter, const Mark& mark, double markerSize) {
-  const QColor colour = ColourOf(mark.colour);
-  painter.setPen(QPen(colour.isValid() ? colour : QColor(Qt::red), mark.width));
+  const MarkShape shape = ShapeOf(mark, markerSize);
+  const QColor known = ColourOf(mark.colour);
+  const QColor colour = known.isValid() ? known : QColor(Qt::black);
+  painter.setPen(QPen(colour, shape.width));
   painter.setBrush(Qt::NoBrush);
-  if (mark.kind == Mark::Kind::Circle && !mark.points.empty()) {
-    painter.drawEllipse(QPointF(mark.points[0].x, mark.points[0].y), markerSize / 2,
-                        markerSize / 2);
-  } else if (mark.points.size() > 1) {
-    painter.drawLine(QPointF(mark.points[0].x, mark.points[0].y),
-                     QPointF(mark.points[1].x, mark.points[1].y));
-  }
+  for (const MarkShape::Stroke& stroke : shape.strokes)
+    painter.drawLine(QPointF(stroke.from.x, stroke.from.y), QPointF(stroke.to.x, stroke.to.y));
+  if (shape.circle)
+    painter.drawEllipse(QPointF(shape.centre.x, shape.centre.y), shape.radius, shape.radius);
+  if (shape.text.isEmpty()) return;
+  // Fonts have sizes of whole pixels; a hundred of them are fine enough for any place.
+  constexpr int kFine = 100;
+  QFont font(QStringLiteral("Helvetica"));
+  font.setStyleHint(QFont::SansSerif);
+  font.setPixelSize(kFine);
+  const double wide = QFontMetricsF(font).horizontalAdvance(shape.text);
+  if (wide <= 0) return;
+  painter.save();
+  painter.translate(shape.textAt.x, shape.textAt.y);
+  painter.rotate(shape.textAngle * 180 / std::numbers::pi);
+  painter.scale(shape.textWidth / wide, shape.textSize / kFine);
+  painter.setFont(font);
+  painter.drawText(QPointF(-wide / 2, 0), shape.text);
+  painter.restore();
 }
 
 }  // namespace tamo
