@@ -93,7 +93,7 @@ def take_off_room(room):
 
 
 def take_off_areas():
-    """What belongs to no room: partitions, doors, specialties and the heads of the partitions."""
+    """What belongs to no room: partitions, doors, accessories and the heads of the partitions."""
     plan = LARKSPUR
     sound = [14, 14, 14, 14]
     plain = [72, 72, 16.5, 16.5, 16.5, 16.5, 16.5, 18, 9, 7]
@@ -104,7 +104,7 @@ def take_off_areas():
                        ("Furring Exterior", surface([(10, w) for w in (72, 37.5, 72, 37.5)])),
                        ("Fire Caulk", whole_lengths([72, 72]))],
         "Doors": [("Door Single", singles), ("Door Pair", len(plan.doors) - singles)],
-        "Specialties": [("Toilet Partition", 4), ("Grab Bar Set", 2), ("Corner Guard", 14),
+        "Accessories": [("Toilet Partition", 4), ("Grab Bar Set", 2), ("Corner Guard", 14),
                         ("Marker Board 8ft", 3), ("Roller Shade", len(plan.windows)),
                         ("Window Sill", whole_lengths([w.width for w in plan.windows]))],
         "Entry Soffit": [("GWB Ceiling", surface([(4, 18)])),

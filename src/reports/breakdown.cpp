@@ -1,0 +1,128 @@
+#include "reports/breakdown.h"
+
+#include "common/columns.h"
+#include "common/numbers.h"
+#include "reports/merge.h"
+#include "reports/notebook.h"
+#include "reports/projectfiles.h"
+
+namespace tamo {
+
+BreakFigures MakeBreak(const ReportSource& source, const MarkupTexts& markups,
+                       QString& adjustmentText) {
+  BreakFigures figures;
+  QStringList items;
+  LoadoiList(source, items);
+  LoadAdj(source, adjustmentText);
+  const std::vector<MergedRow> rows = Calculate(source);
+  if (rows.empty()) return figures;
+
+  SystemShelf shelf(source);
+  StandingFigures standing;
+  ProjectRollUp sums;
+  ForEachRow(source, rows, [&](const MergedRow& row) {
+    if (row.value == 0) return;
+    shelf.Load(row.name);
+    if (shelf.UnitPrice() != 0) {
+      figures.unitPriced += UnitPricedAmount(shelf.UnitPrice(), row.value);
+      figures.unitItems += row.name;
+      return;
+    }
+    for (const MaterialBlock& block : shelf.Blocks()) {
+      const BlockDollars dollars = PriceBlock(block, row.value, row.name, standing);
+      sums.rawMaterial += dollars.material;
+      sums.rawLabor += Raised(dollars.labor);  // a least charge of a broken wage is raised here
+    }
+  });
+  for (const QString& item : items) sums.rawBottomLine += ItemPrice(item);
+  const double adjustment = Value(adjustmentText);
+  figures.bottomLineListed = adjustment != 0;
+  figures.roll = RollUpProject(sums, adjustment, MarkupFactors(markups));
+  return figures;
+}
+
+namespace {
+
+struct BreakLine {
+  const char* label;
+  int blanks;  // behind the label, before the figure's column
+  int width;
+  double ProjectRollUp::*figure;
+};
+
+constexpr BreakLine kLabor[] = {
+    {"    Total Labor:", 0, 52, &ProjectRollUp::totalLabor},
+    {"        Raw Labor:", 24, 15, &ProjectRollUp::rawLabor},
+    {"        Labor Overhead:", 7, 12, &ProjectRollUp::laborOverhead},
+    {"        Labor Tax:", 9, 15, &ProjectRollUp::laborTax},
+    {"        Labor Markup:", 6, 15, &ProjectRollUp::laborMarkup},
+};
+constexpr BreakLine kMaterial[] = {
+    {"    Total Material:", 0, 49, &ProjectRollUp::totalMaterial},
+    {"        Raw Material:", 21, 15, &ProjectRollUp::rawMaterial},
+    {"        Material Overhead:", 1, 15, &ProjectRollUp::materialOverhead},
+    {"        Material Tax:", 6, 15, &ProjectRollUp::materialTax},
+    {"        Material Markup:", 3, 15, &ProjectRollUp::materialMarkup},
+};
+constexpr BreakLine kBottomLine[] = {
+    {"    Total Bottom Line:", 0, 46, &ProjectRollUp::totalBottomLine},
+    {"        Raw Bottom Line:", 18, 15, &ProjectRollUp::rawBottomLine},
+    {"        Bottom Line Overhead:", 0, 13, &ProjectRollUp::bottomLineOverhead},
+    {"        Bottom Line Tax:", 0, 18, &ProjectRollUp::bottomLineTax},
+    {"        Bottom Line Markup:", 0, 15, &ProjectRollUp::bottomLineMarkup},
+};
+constexpr BreakLine kMisc[] = {
+    {"    Total Miscellaneous:", 0, 44, &ProjectRollUp::totalMisc},
+    {"        Misc. Overhead:", 0, 19, &ProjectRollUp::miscOverhead},
+    {"        Misc. Tax:", 3, 21, &ProjectRollUp::miscTax},
+    {"        Misc. Markup:", 0, 21, &ProjectRollUp::miscMarkup},
+};
+
+template <size_t N>
+void AddGroup(QStringList& lines, const char* heading, const BreakLine (&group)[N],
+              const ProjectRollUp& roll) {
+  lines += QLatin1String(heading);
+  for (const BreakLine& line : group) {
+    lines += QLatin1String(line.label) + Blanks(line.blanks) +
+             GrownLeft(NumberText(roll.*line.figure), line.width) + QStringLiteral(".00");
+  }
+  lines += QString();
+}
+
+QString TotalBid(const ProjectRollUp& roll) {
+  const QString total = NumberText(roll.totalBid);
+  return QStringLiteral("Total Bid Price:") + GrownBlanks(50 - total.size()) +
+         QStringLiteral("$ ") + total + QStringLiteral(".00");
+}
+
+QString Profit(const char* label, int width, double percent) {
+  return QLatin1String(label) + GrownLeft(NumberText(percent), width) + QStringLiteral(" %");
+}
+
+}  // namespace
+
+Report BreakDown(const BreakFigures& figures) {
+  const ProjectRollUp& roll = figures.roll;
+  Report report;
+  QStringList& lines = report.lines;
+  lines = {QStringLiteral("BreakDown"), QString(), TotalBid(roll), QString()};
+  AddGroup(lines, "Labor", kLabor, roll);
+  AddGroup(lines, "Material", kMaterial, roll);
+  AddGroup(lines, "Bottom Line Items", kBottomLine, roll);
+  AddGroup(lines, "Miscellaneous", kMisc, roll);
+  lines += QString(71, QLatin1Char('_'));
+  const int lastTotal = static_cast<int>(lines.size());
+  lines += TotalBid(roll);
+  lines += QString();
+  lines += Profit("    Gross Profit:", 11, roll.grossProfit);
+  lines += Profit("    Net Profit:", 13, roll.netProfit);
+  if (!figures.unitItems.isEmpty()) {
+    report.notes.push_back(
+        {QStringLiteral("Unit-priced items are not part of this bid price: %1. They come to %2.00.")
+             .arg(figures.unitItems.join(QStringLiteral(", ")), NumberText(figures.unitPriced)),
+         {2, lastTotal}});
+  }
+  return report;
+}
+
+}  // namespace tamo

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <vector>
+
+#include "reports/markupsource.h"
+#include "reports/reportsource.h"
+
+namespace tamo {
+
+// A copy of the takeoff, room by room and area by area, with the materials and the labor under each
+// takeoff line.
+struct TakeoffCopy : Report {
+  std::vector<bool> detail;  // for each line: it is a material or labor line
+  double total = 0;          // dollars of all detail lines; Office Copy only
+  double labor = 0;          // of the labor lines among them
+  double material = 0;       // of the others
+};
+
+// For the crew: a rule to tick off before each line, no dollars.
+TakeoffCopy FieldCopy(const ReportSource& source);
+// For the project manager: with dollars and the manhours of the project.
+TakeoffCopy OfficeCopy(const ReportSource& source, const MarkupTexts& markups);
+
+}  // namespace tamo

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+
+namespace tamo {
+
+// The texts of the twelve markup fields: fractions as typed, .10 is ten percent.
+struct MarkupTexts {
+  QString LOH, LTX, LMU;     // labor overhead, tax, markup
+  QString MOH, MTX, MMU;     // material
+  QString BLOH, BLTX, BLMU;  // bottom line
+  QString MIOH, MITX, MIMU;  // miscellaneous
+};
+
+// The same as factors; a text that is no number is 0.
+struct MarkupFactors {
+  MarkupFactors() = default;
+  explicit MarkupFactors(const MarkupTexts& texts);
+  double LOH = 0, LTX = 0, LMU = 0;
+  double MOH = 0, MTX = 0, MMU = 0;
+  double BLOH = 0, BLTX = 0, BLMU = 0;
+  double MIOH = 0, MITX = 0, MIMU = 0;
+
+  double BottomLineSum() const { return BLOH + BLTX + BLMU + MIOH + MITX + MIMU; }
+};
+
+// What the reports need of the form that keeps the markups.
+class MarkupSource {
+ public:
+  virtual ~MarkupSource() = default;
+  virtual void LoadMarkups() = 0;  // the open project's markups into the fields
+  virtual MarkupTexts Texts() const = 0;
+};
+
+}  // namespace tamo

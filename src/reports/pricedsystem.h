@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+#include <memory>
+#include <vector>
+
+#include "reports/nameindex.h"
+#include "reports/reportsource.h"
+
+namespace tamo {
+
+// How a block's order ratio reads: takeoff units per order unit, or order units per takeoff unit.
+enum class OrderTag { None, Upo, Opu };
+// How its manhour ratio reads: takeoff units per manhour, or manhours per takeoff unit.
+enum class LaborTag { None, Upm, Mpu };
+
+// One material of a system, as its twelve lines in the system's file tell it. Figures are read
+// once; a text that is no number is 0.
+struct MaterialBlock {
+  QString material;
+  QString orderUnit;
+  double price = 0;  // dollars for one order unit
+  double ratio = 0;
+  OrderTag orderTag = OrderTag::None;
+  double manhourRatio = 0;
+  LaborTag laborTag = LaborTag::None;
+  double waste = 0;  // percent
+  double wage = 0;   // dollars a manhour
+
+  // Price, a ratio or the wage reads 0: nearly always something forgotten.
+  bool ReadsZero() const { return price == 0 || ratio == 0 || manhourRatio == 0 || wage == 0; }
+};
+
+// The material lines of a system as blocks of twelve. A last block of fewer lines counts, its
+// missing lines empty.
+std::vector<MaterialBlock> MaterialBlocks(const QStringList& lines);
+
+// A system's file in the project, as the reports read it.
+struct PricedSystem {
+  QString name;
+  QString units;
+  QString unitPrice;
+  QString lineColor;
+  QString notes;       // a line end behind each line
+  int scalars = 0;     // how many of name, units, unit price and colour the file held
+  bool found = false;  // there is such a file
+  std::vector<MaterialBlock> blocks;
+};
+
+// Reads the project's copy of the system `name`; the library is never read.
+int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& system);
+
+// The systems of a report: each file is read once, and the texts of the last system stay as they
+// are when the next one has no file. So a system without a file is priced with the unit price of
+// the system before it, and has no materials; a test holds it.
+class SystemShelf {
+ public:
+  explicit SystemShelf(const ReportSource& source) : source_(source) {}
+
+  // Makes `name` the system at hand.
+  void Load(QStringView name);
+
+  const QString& Name() const { return name_; }
+  const QString& Units() const { return units_; }
+  const QString& UnitPriceText() const { return unitPriceText_; }
+  double UnitPrice() const { return unitPrice_; }
+  const QString& Notes() const { return notes_; }
+  const std::vector<MaterialBlock>& Blocks() const { return *blocks_; }
+  bool Found() const { return found_; }
+  // A number for the system at hand, the same for the same name.
+  int Number() const { return number_; }
+
+ private:
+  struct Entry {
+    PricedSystem system;
+    double unitPrice = 0;
+  };
+
+  const ReportSource& source_;
+  NameIndex index_;
+  std::vector<std::unique_ptr<Entry>> entries_;
+  std::vector<MaterialBlock> none_;
+  QString name_;
+  QString units_;
+  QString unitPriceText_;
+  double unitPrice_ = 0;
+  QString notes_;
+  const std::vector<MaterialBlock>* blocks_ = &none_;
+  bool found_ = false;
+  int number_ = -1;
+};
+
+}  // namespace tamo

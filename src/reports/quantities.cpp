@@ -1,0 +1,18 @@
+#include "reports/quantities.h"
+
+#include "common/columns.h"
+#include "reports/merge.h"
+
+namespace tamo {
+
+Report Quantities(const ReportSource& source) {
+  Report report;
+  report.lines = {QStringLiteral("Quantities"), QString()};
+  for (const MergedRow& row : Calculate(source)) {
+    report.lines += row.name + GrownBlanks(32 - row.name.size() - row.quantity.size()) +
+                    row.quantity + QLatin1Char(' ') + row.units;
+  }
+  return report;
+}
+
+}  // namespace tamo

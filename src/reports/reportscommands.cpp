@@ -1,0 +1,141 @@
+#include "common/failure.h"
+#include "common/numbers.h"
+#include "common/textlines.h"
+#include "reports/printpages.h"
+#include "reports/projectinformation.h"
+#include "reports/reportsform.h"
+
+// What is done with a report that stands: printing, copying, ticking, refreshing, leaving.
+
+namespace tamo {
+
+void ReportsForm::PrintReport() {
+  if (!Reporter.Shown()) return;
+  PrintPages(kit_.platform.printer, Reporter.Rows(), kit_.shared.JobID, kit_.shared.JobName);
+}
+
+void ReportsForm::CopyReport() {
+  QString text;
+  const auto copy = [&](const OrderedList& list) {
+    text += JoinedLines(list.Rows());
+    GetDesk().GetMessages().Tell(
+        list.Row(0) + QStringLiteral(" has been copied to the computer clipboard.\n"
+                                     "Use paste on the mouse right click to paste report into\n"
+                                     "other applications such as email."));
+    kit_.platform.clipboard.Clear();
+    kit_.platform.clipboard.SetText(text);
+  };
+  if (Reporter1.Shown() && !Reporter1.Empty()) copy(Reporter1);
+  if (!Reporter.Empty()) copy(Reporter);
+}
+
+void ReportsForm::WriteProjectFile() {
+  const OrderedList& list = Reporter.Empty() ? Reporter1 : Reporter;
+  tamo::MakeProjectFile(kit_.files, kit_.shared.DataPath, kit_.shared.JobID, kit_.shared.JobName,
+                        list.Rows());
+}
+
+void ReportsForm::ExitReports() {
+  if (kit_.shared.GUIText == QLatin1String("1")) {
+    joins_.shell.ShowMainForm();
+  } else if (kit_.shared.GUIText == QLatin1String("2")) {
+    joins_.shell.HideMainForm();
+  }
+  Reporter.Clear();
+  Reporter1.Clear();
+  Hide();
+}
+
+void ReportsForm::ForgetProject() {
+  Adjustment.clear();
+}
+
+void ReportsForm::RunByTitle() {
+  const QString title = Reporter.Rows().value(0);
+  if (title == QLatin1String("  Project Information")) {
+    joins_.record.LoadJobNFO();
+    ProjectInformation();
+  } else if (title == QLatin1String("Quantities")) {
+    Quantities();
+  } else if (title == QLatin1String("Recap Sheet")) {
+    MinimalRecapSheet();
+  } else if (title == QLatin1String("Bill Of Materials")) {
+    BillofMaterial();
+  } else if (title == QLatin1String("BreakDown")) {
+    BreakDown();
+  } else if (title == QLatin1String("Project Manager")) {
+    Flag = QStringLiteral("False");
+    AreaRoomWP();
+  } else if (Reporter1.Rows().value(0) == QLatin1String("Project Manager")) {
+    Flag = QStringLiteral("True");
+    AreaRoomWP();
+    Flag = QStringLiteral("False");
+  }
+}
+
+void ReportsForm::Refresh() {
+  if (kit_.shared.AutoCheck != 1 || !Visible() || running_) return;
+  kit_.shared.TopOfReport = NumberText(Reporter.Top());
+  refreshing_ = true;
+  // The position is forgotten behind every refresh, also one that fails.
+  struct Ending {
+    ReportsForm& form;
+    ~Ending() {
+      form.refreshing_ = false;
+      form.kit_.shared.TopOfReport.clear();
+    }
+  } const ending{*this};
+  RunByTitle();
+  const double top = Value(kit_.shared.TopOfReport);
+  if (top < Reporter.Count()) Reporter.SetTop(static_cast<int>(top));
+}
+
+void ReportsForm::Ticked(int row) {
+  if (running_) return;
+  const bool ticked = Reporter1.Ticked(row);
+  if (row >= static_cast<int>(detail_.size()) || !detail_[static_cast<size_t>(row)]) {
+    Reporter1.SetTicked(row, false);
+    return;
+  }
+  progress_.Tick(Reporter1.Row(row), ticked);
+  ShowProgress();
+}
+
+void ReportsForm::ShowProgress() {
+  ttText.SetText(progress_.ttText);
+  tlText.SetText(progress_.tlText);
+  tmText.SetText(progress_.tmText);
+  tcText.SetText(progress_.tcText);
+  pcText.SetText(progress_.pcText);
+  lcText.SetText(progress_.lcText);
+  lpText.SetText(progress_.lpText);
+  mcText.SetText(progress_.mcText);
+  mpText.SetText(progress_.mpText);
+}
+
+void ReportsForm::NotePicked() {
+  const int note = NotesList.Index();
+  if (note < 0 || note >= static_cast<int>(notes_.size())) return;
+  const std::vector<int>& rows = notes_[static_cast<size_t>(note)].rows;
+  if (rows.empty()) return;
+  OrderedList& list = Reporter1.Shown() ? static_cast<OrderedList&>(Reporter1) : Reporter;
+  if (rows.front() < list.Count()) {
+    list.SetTop(rows.front());
+    list.SetIndex(rows.front());
+  }
+}
+
+void ReportsForm::WholeQuantitiesChanged() {
+  const bool whole = WholeQuantities.Value() == 1;
+  if (whole == joins_.wholeQuantities.WholeQuantities()) return;
+  joins_.wholeQuantities.SetWholeQuantities(whole);
+  if (Reporter.Empty() && Reporter1.Empty()) return;
+  refreshing_ = true;
+  struct Ending {
+    bool& flag;
+    ~Ending() { flag = false; }
+  } const ending{refreshing_};
+  RunByTitle();
+}
+
+}  // namespace tamo

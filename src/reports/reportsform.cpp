@@ -1,0 +1,204 @@
+#include "reports/reportsform.h"
+
+#include "common/failure.h"
+#include "common/numbers.h"
+#include "reports/bill.h"
+#include "reports/breakdown.h"
+#include "reports/notebook.h"
+#include "reports/projectinformation.h"
+#include "reports/quantities.h"
+#include "reports/recap.h"
+
+// The form and its reports. What is done with a report that stands: reportscommands.cpp.
+
+namespace tamo {
+
+ReportsForm::Entries::Entries(ReportsForm& form)
+    : printReport(form, QStringLiteral("printReport"), QStringLiteral("&Print Report")),
+      CopyReport(form, QStringLiteral("CopyReport"), QStringLiteral("Copy Report to ClipBoard")),
+      MakeProjectFile(form, QStringLiteral("MakeProjectFile"), QStringLiteral("&Tamo PM")),
+      ExitReports(form, QStringLiteral("ExitReports"), QStringLiteral("E&xit Reports")) {
+  printReport.onClick = [&form] { form.PrintReport(); };
+  CopyReport.onClick = [&form] { form.CopyReport(); };
+  MakeProjectFile.onClick = [&form] { form.WriteProjectFile(); };
+  ExitReports.onClick = [&form] { form.ExitReports(); };
+  MakeProjectFile.Hide();
+}
+
+ReportsForm::ReportsForm(const Kit& kit, const Joins& joins)
+    : Form(kit.desk, QStringLiteral("Reports")),
+      Reporter(*this, QStringLiteral("Reporter")),
+      Reporter1(*this, QStringLiteral("Reporter1")),
+      prList(*this, QStringLiteral("prList")),
+      NotesList(*this, QStringLiteral("NotesList")),
+      WholeQuantities(*this, QStringLiteral("WholeQuantities"),
+                      QStringLiteral("Read &whole quantities")),
+      Frame1(*this, QStringLiteral("Frame1")),
+      ttText(*this, QStringLiteral("ttText")),
+      tlText(*this, QStringLiteral("tlText")),
+      tmText(*this, QStringLiteral("tmText")),
+      tcText(*this, QStringLiteral("tcText")),
+      pcText(*this, QStringLiteral("pcText")),
+      lcText(*this, QStringLiteral("lcText")),
+      lpText(*this, QStringLiteral("lpText")),
+      mcText(*this, QStringLiteral("mcText")),
+      mpText(*this, QStringLiteral("mpText")),
+      menu(*this),
+      kit_(kit),
+      joins_(joins) {
+  for (TextField* field :
+       {&ttText, &tlText, &tmText, &tcText, &pcText, &lcText, &lpText, &mcText, &mpText}) {
+    field->PutInto(Frame1);
+    field->readOnly = true;
+  }
+  for (Control* control : std::initializer_list<Control*>{&Reporter, &Reporter1, &prList,
+                                                          &NotesList, &WholeQuantities, &Frame1})
+    control->Hide();
+  prList.inTabOrder = false;
+  AddText(QStringLiteral("Flag"), &Flag);
+  AddText(QStringLiteral("Adjustment"), &Adjustment);
+  Reporter1.onTick = [this](int row) { Ticked(row); };
+  NotesList.onSelect = [this] { NotePicked(); };
+  WholeQuantities.onChange = [this] { WholeQuantitiesChanged(); };
+}
+
+void ReportsForm::Clear() {
+  Reporter.Hide();
+  Reporter1.Hide();
+  Frame1.Hide();
+  NotesList.Hide();
+  WholeQuantities.Hide();
+  Reporter.Clear();
+  Reporter1.Clear();
+  NotesList.Clear();
+  notes_.clear();
+  detail_.clear();
+}
+
+void ReportsForm::Make(const std::function<void()>& report) {
+  if (running_) return;
+  struct Running {
+    bool& flag;
+    explicit Running(bool& f) : flag(f) { flag = true; }
+    ~Running() { flag = false; }
+  } const running(running_);
+  Clear();
+  try {
+    report();
+  } catch (const RunTimeFailure& failure) {
+    Clear();
+    if (failure.number != kReportStopped) throw;
+    NotesList.Add(failure.text);
+    NotesList.Show();
+  }
+}
+
+ReportSource ReportsForm::Source() {
+  return {kit_.files,
+          kit_.shared.ProjectPath(),
+          kit_.shared.Separator,
+          &kit_.shared.LineColor,
+          onProgress,
+          joins_.wholeQuantities.WholeQuantities()};
+}
+
+MarkupTexts ReportsForm::LoadedMarkups() {
+  joins_.markups.LoadMarkups();
+  return joins_.markups.Texts();
+}
+
+void ReportsForm::TakeNotes(const Report& report, bool readsQuantities) {
+  notes_ = report.notes;
+  QStringList rows;
+  for (const ReportNote& note : notes_) rows += NoteLine(note);
+  NotesList.SetRows(rows);
+  NotesList.SetShown(!rows.isEmpty());
+  const bool whole = joins_.wholeQuantities.WholeQuantities();
+  WholeQuantities.SetValue(whole ? 1 : 0);
+  WholeQuantities.SetShown(readsQuantities && (report.partlyRead || whole));
+}
+
+void ReportsForm::Fill(const Report& report) {
+  Reporter.SetRows(report.lines);
+  TakeNotes(report, false);
+  Reporter.Show();
+}
+
+void ReportsForm::FillCopy(const TakeoffCopy& report) {
+  Reporter1.SetRows(report.lines);
+  detail_ = report.detail;
+  TakeNotes(report, true);
+  progress_.Begin(report.total, report.labor, report.material);
+  ShowProgress();
+  Reporter1.Show();
+  Frame1.Show();
+}
+
+void ReportsForm::ShowWindow() {
+  // A refresh finds the window open and takes the focus from nobody.
+  if (!refreshing_) joins_.shell.ShowReports();
+}
+
+void ReportsForm::MinimalRecapSheet() {
+  Make([this] {
+    prList.Clear();
+    const MarkupTexts markups = LoadedMarkups();
+    Fill(tamo::MinimalRecapSheet(Source(), markups, kit_.shared.DTText == QLatin1String("True"),
+                                 Adjustment));
+  });
+}
+
+void ReportsForm::DetailedRecapSheet() {
+  Make([this] {
+    const MarkupTexts markups = LoadedMarkups();
+    Fill(tamo::DetailedRecapSheet(Source(), markups));
+  });
+}
+
+void ReportsForm::Quantities() {
+  Make([this] { Fill(tamo::Quantities(Source())); });
+}
+
+void ReportsForm::BillofMaterial() {
+  Make([this] {
+    const Report report = tamo::BillofMaterial(Source());
+    Fill(report);
+    TakeNotes(report, true);
+  });
+}
+
+void ReportsForm::AreaRoomWP() {
+  Make([this] {
+    if (Flag == QLatin1String("True")) {
+      const MarkupTexts markups = LoadedMarkups();
+      FillCopy(OfficeCopy(Source(), markups));
+    } else if (Flag == QLatin1String("False")) {
+      const TakeoffCopy report = FieldCopy(Source());
+      Fill(report);
+      TakeNotes(report, true);
+    }
+  });
+}
+
+void ReportsForm::BreakDown() {
+  Make([this] {
+    const MarkupTexts markups = LoadedMarkups();
+    const BreakFigures figures = MakeBreak(Source(), markups, Adjustment);
+    const Report report = tamo::BreakDown(figures);
+    // The sum is made only when the items are listed behind an adjustment; otherwise the field
+    // shows the sum made before. A test holds it.
+    if (figures.bottomLineListed) bottomLineSum_ = figures.roll.rawBottomLine;
+    joins_.bottomLine.SetTotalBL(NumberText(bottomLineSum_));
+    ShowWindow();
+    Fill(report);
+  });
+}
+
+void ReportsForm::ProjectInformation() {
+  Make([this] {
+    ShowWindow();
+    Fill(tamo::ProjectInformation(kit_.shared.JobID, joins_.record.Facts()));
+  });
+}
+
+}  // namespace tamo

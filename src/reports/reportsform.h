@@ -1,0 +1,107 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <vector>
+
+#include "common/form.h"
+#include "common/kit.h"
+#include "reports/bottomlinefigure.h"
+#include "reports/copies.h"
+#include "reports/markupsource.h"
+#include "reports/projectprogress.h"
+#include "reports/projectrecord.h"
+#include "reports/reportsource.h"
+#include "reports/reportsshell.h"
+#include "reports/wholequantitiessetting.h"
+
+namespace tamo {
+
+// One screen for all reports. A report is a list of lines of fixed width whose first line is its
+// title; it is made from the files of the open project each time, and shown, printed or copied as
+// it stands. While a report is made its lists are hidden; one that stops on a failure leaves them
+// hidden and empty.
+class ReportsForm : public Form {
+ public:
+  // What it is joined to; all of it outlives the form.
+  struct Joins {
+    MarkupSource& markups;
+    ProjectRecord& record;
+    ReportsShell& shell;
+    BottomLineFigure& bottomLine;
+    WholeQuantitiesSetting& wholeQuantities;
+  };
+  ReportsForm(const Kit& kit, const Joins& joins);
+
+  OrderedList Reporter;   // the report
+  CheckList Reporter1;    // the Office Copy, with a box to tick at each line
+  OrderedList prList;     // cleared by the recap, filled by nothing
+  OrderedList NotesList;  // what the columns of the report hide; clicking a note shows its row
+  CheckBox WholeQuantities;
+  Frame Frame1;  // the project manager's figures
+  TextField ttText, tlText, tmText, tcText, pcText, lcText, lpText, mcText, mpText;
+
+  struct Entries {
+    explicit Entries(ReportsForm& form);
+    MenuEntry printReport, CopyReport, MakeProjectFile, ExitReports;
+  };
+  Entries menu;
+
+  QString Flag;        // "True" Office Copy, "False" Field Copy; stays as the last report left it
+  QString Adjustment;  // the adjustment as last read
+
+  // The reports. Each clears both lists first. The commands of the shells show the form, set Flag
+  // or DTText, and show or hide `menu.MakeProjectFile` before them.
+  void MinimalRecapSheet();  // detailed when the shared DTText is "True"
+  void DetailedRecapSheet();
+  void Quantities();
+  void BillofMaterial();
+  void AreaRoomWP();  // the copy that Flag names
+  void BreakDown();
+  void ProjectInformation();
+
+  void PrintReport();  // the report in Reporter; never the Office Copy
+  void CopyReport();
+  void WriteProjectFile();  // of the report in the window, into the data folder
+  void ExitReports();
+
+  // Makes the open report again after its data changed, when AutoCheck is on and the form is
+  // visible; keeps the first visible line where the new report is long enough.
+  void Refresh();
+
+  // Another project is opened, made or cleared: no adjustment of the one before counts.
+  void ForgetProject();
+
+  const std::vector<ReportNote>& Notes() const { return notes_; }
+
+  // Called while a report is made, `done` of `all` sheets or systems; false stops the report. A
+  // display that lets events through here need not care for reports asked for meanwhile: they are
+  // not begun.
+  std::function<bool(int done, int all)> onProgress;
+
+ private:
+  void Make(const std::function<void()>& report);
+  void Fill(const Report& report);
+  void FillCopy(const TakeoffCopy& report);
+  void TakeNotes(const Report& report, bool readsQuantities);
+  void Clear();
+  ReportSource Source();
+  MarkupTexts LoadedMarkups();
+  void ShowWindow();
+  void RunByTitle();
+  void ShowProgress();
+  void Ticked(int row);
+  void NotePicked();
+  void WholeQuantitiesChanged();
+
+  const Kit& kit_;
+  Joins joins_;
+  bool running_ = false;     // a report is being made: ticks do not count, no other begins
+  bool refreshing_ = false;  // the window stays where it is
+  std::vector<ReportNote> notes_;
+  std::vector<bool> detail_;  // of Reporter1: the lines that can be ticked
+  ProjectProgress progress_;
+  double bottomLineSum_ = 0;  // as a breakdown with an adjustment last made it
+};
+
+}  // namespace tamo

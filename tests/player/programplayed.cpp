@@ -1,0 +1,47 @@
+#include "player/programplayed.h"
+
+namespace tamo::player {
+
+ProgramPlayed::ProgramPlayed(const Platform& platform)
+    : planFiles_(platform.disk),
+      viewer_(std::make_unique<MuPdfDraw>(planFiles_)),
+      program_(std::make_unique<Program>(platform, *viewer_)) {}
+
+ProgramPlayed::~ProgramPlayed() = default;
+
+PlanPictures* ProgramPlayed::Pictures() {
+  return viewer_.get();
+}
+
+void ProgramPlayed::Start() {
+  program_->Start();
+}
+Desk& ProgramPlayed::GetDesk() {
+  return program_->GetDesk();
+}
+Form* ProgramPlayed::FindForm(const QString& name) {
+  return program_->FindForm(name);
+}
+const QString* ProgramPlayed::FindText(const QString& form, const QString& name) {
+  return program_->FindText(form, name);
+}
+PdfDraw& ProgramPlayed::Viewer() {
+  return *viewer_;
+}
+QString ProgramPlayed::Notice() {
+  return program_->GetFiles().Notice();
+}
+void ProgramPlayed::TrySavesAgain() {
+  program_->TrySavesAgain();
+}
+bool ProgramPlayed::Running() {
+  return program_->Running();
+}
+
+// In mode 2 the plan carries the menus and closing it ends the program.
+Form* ProgramPlayed::Shell() {
+  const bool plan = program_->Shared().GUIText == QStringLiteral("2");
+  return program_->FindForm(plan ? QStringLiteral("OST") : QStringLiteral("Tamo"));
+}
+
+}  // namespace tamo::player

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+
+#include "common/files.h"
+#include "plans/mupdfdraw.h"
+#include "player/played.h"
+#include "program/program.h"
+
+namespace tamo::player {
+
+// The program itself. Windows that are built over it get it from here.
+class ProgramPlayed : public Played {
+ public:
+  explicit ProgramPlayed(const Platform& platform);
+  ~ProgramPlayed() override;
+
+  Program& GetProgram() { return *program_; }
+
+  // The viewer as pictures for a window.
+  PlanPictures* Pictures();
+
+  void Start() override;
+  Desk& GetDesk() override;
+  Form* FindForm(const QString& name) override;
+  const QString* FindText(const QString& form, const QString& name) override;
+  PdfDraw& Viewer() override;
+  QString Notice() override;
+  void TrySavesAgain() override;
+  bool Running() override;
+  Form* Shell() override;
+
+ private:
+  Files planFiles_;  // of the viewer, which knows no forms
+  std::unique_ptr<MuPdfDraw> viewer_;
+  std::unique_ptr<Program> program_;
+};
+
+}  // namespace tamo::player

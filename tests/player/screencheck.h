@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+#include "common/desk.h"
+#include "windows/windowkeeper.h"
+
+namespace tamo::player {
+
+// What the windows show that is not what the forms say: the first difference, in words; "" when
+// there is none. Looks at every visible window, at every widget in it, at menus and the focus.
+QString FirstDifference(WindowKeeper& keeper, Desk& desk);
+
+}  // namespace tamo::player

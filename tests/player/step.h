@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QDate>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+#include "common/control.h"
+#include "plans/pdfdraw.h"
+
+namespace tamo::player {
+
+enum class Act {
+  Clock,
+  Start,
+  Stop,
+  Menu,
+  Focus,
+  Type,
+  Key,
+  Enter,
+  Paste,
+  Click,
+  DoubleClick,
+  RightClick,
+  Select,
+  RightSelect,
+  DoubleSelect,
+  Tick,
+  ScrollTo,
+  Pick,
+  DoublePick,
+  Close,
+  Answer,
+  PlanMode,
+  PlanLine,
+  PlanCircle,
+  PlanPress,
+  PlanKey,
+  PlanScroll,
+  PlanPage,
+  Write,
+  Copy,
+  Remove,
+  Deny,
+  Allow,
+  Fill,
+  Unfill,
+  Print,
+  Expect
+};
+
+enum class Compare { Exactly, Block, Contains };
+
+// One line of a scenario, with the block behind it. Texts stand as they were written: carets and
+// {home} are taken for what they mean when the step is played.
+struct Step {
+  int line = 0;  // from 1
+  Act act = Act::Start;
+  QString source;  // the line itself
+  QString error;   // why it can't be understood; "" when it can
+
+  QString name;  // FORM.CONTROL, FORM, or "notice"
+  QString text;  // what is typed, a path, or WHAT is looked at
+  int row = 0;   // also the mode and the page of a plan step
+  QDate date;
+  bool yes = false;
+  tamo::Key key;
+  PlanStroke stroke;
+  std::vector<double> points;  // of a plan step: x, y, ...
+
+  Compare compare = Compare::Exactly;
+  QString expected;   // the rest of an `expect` line
+  QStringList block;  // of `write` and `expect`
+};
+
+}  // namespace tamo::player

@@ -1,0 +1,154 @@
+#include "player/widgets.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QTest>
+
+#include "player/trouble.h"
+
+namespace tamo::player {
+namespace {
+
+constexpr int kSettleRounds = 4;
+
+struct KeyCode {
+  Key::Name name;
+  Qt::Key code;
+  Qt::KeyboardModifiers held;
+  const char* text;
+};
+
+constexpr KeyCode kKeyCodes[] = {
+    {Key::Name::Enter, Qt::Key_Return, Qt::NoModifier, "\r"},
+    {Key::Name::LineFeed, Qt::Key_Return, Qt::ControlModifier, "\n"},
+    {Key::Name::Backspace, Qt::Key_Backspace, Qt::NoModifier, "\b"},
+    {Key::Name::Delete, Qt::Key_Delete, Qt::NoModifier, "\x7f"},
+    {Key::Name::Escape, Qt::Key_Escape, Qt::NoModifier, "\x1b"},
+    {Key::Name::Tab, Qt::Key_Tab, Qt::NoModifier, "\t"},
+    {Key::Name::BackTab, Qt::Key_Backtab, Qt::ShiftModifier, ""},
+    {Key::Name::Space, Qt::Key_Space, Qt::NoModifier, " "},
+    {Key::Name::Up, Qt::Key_Up, Qt::NoModifier, ""},
+    {Key::Name::Down, Qt::Key_Down, Qt::NoModifier, ""},
+    {Key::Name::Left, Qt::Key_Left, Qt::NoModifier, ""},
+    {Key::Name::Right, Qt::Key_Right, Qt::NoModifier, ""},
+};
+
+void SendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button,
+               Qt::MouseButtons held) {
+  QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
+  QSpontaneKeyEvent::setSpontaneous(&event);
+  QApplication::sendEvent(&widget, &event);
+}
+
+}  // namespace
+
+void Settle() {
+  for (int i = 0; i < kSettleRounds; ++i) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
+void SendKey(QWidget& widget, const Key& key) {
+  for (const KeyCode& code : kKeyCodes) {
+    if (code.name != key.name) continue;
+    QTest::sendKeyEvent(QTest::Click, &widget, code.code, QString::fromLatin1(code.text),
+                        code.held);
+    return;
+  }
+  SendTyped(widget, QString(key.character));
+}
+
+void SendTyped(QWidget& widget, const QString& character) {
+  const QChar c = character[0];
+  const Qt::Key code =
+      c.unicode() < 256 ? static_cast<Qt::Key>(c.toUpper().unicode()) : Qt::Key_unknown;
+  QTest::sendKeyEvent(QTest::Click, &widget, code, character,
+                      c.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
+}
+
+void SendPress(QWidget& widget, QPointF at, Qt::MouseButton button) {
+  SendMouse(widget, QEvent::MouseButtonPress, at, button, button);
+}
+void SendMove(QWidget& widget, QPointF at, Qt::MouseButtons held) {
+  SendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, held);
+}
+void SendRelease(QWidget& widget, QPointF at, Qt::MouseButton button) {
+  SendMouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+}
+
+void SendClick(QWidget& widget, QPointF at, Qt::MouseButton button) {
+  SendPress(widget, at, button);
+  SendRelease(widget, at, button);
+}
+
+void SendDoubleClick(QWidget& widget, QPointF at) {
+  SendClick(widget, at, Qt::LeftButton);
+  SendMouse(widget, QEvent::MouseButtonDblClick, at, Qt::LeftButton, Qt::LeftButton);
+  SendRelease(widget, at, Qt::LeftButton);
+}
+
+QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name, Spot spot) {
+  QWidget* window = widget.window();
+  const QRect seen = area.intersected(widget.rect());
+  if (!widget.isVisible() || seen.isEmpty())
+    Fail(QStringLiteral("a person can't see %1 in its window").arg(name));
+  const int inset = 3;
+  const int box = 9;  // the middle of a check box at the widget's left edge
+  const QPoint start(seen.left() + box, seen.center().y());
+  const QPoint end = seen.bottomRight() - QPoint(inset, inset);
+  const QPoint first = spot == Spot::Start ? start : spot == Spot::End ? end : seen.center();
+  const QPoint places[] = {first, seen.center(), start,
+                           QPoint(seen.right() - inset, seen.center().y()),
+                           QPoint(seen.left() + inset, seen.top() + inset)};
+  QWidget* over = nullptr;
+  for (const QPoint& place : places) {
+    over = window->childAt(widget.mapTo(window, place));
+    if (over == &widget || (over != nullptr && widget.isAncestorOf(over)) ||
+        (over == nullptr && &widget == window))
+      return place;
+  }
+  Fail(over == nullptr ? QStringLiteral("%1 lies outside its window").arg(name)
+                       : QStringLiteral("a person can't click %1: %2 covers it")
+                             .arg(name, over->accessibleName().isEmpty() ? over->objectName()
+                                                                         : over->accessibleName()));
+}
+
+void ChooseAction(QWidget& window, QAction& action, const QList<QAction*>& above) {
+  QList<QAction*> way = above;
+  way += &action;
+  QWidget* open = QApplication::activePopupWidget();
+  const bool onPopup =
+      !way.isEmpty() && way.first()->menu() != nullptr && open == way.first()->menu();
+  if (onPopup) {
+    way.removeFirst();
+  } else if (auto* bar = window.findChild<QMenuBar*>();
+             bar != nullptr && bar->actions().contains(way.first())) {
+    const QRect place = bar->actionGeometry(way.first());
+    if (place.isEmpty() || !bar->rect().intersects(place)) {
+      bar->setActiveAction(way.first());
+    } else {
+      SendClick(*bar, place.center(), Qt::LeftButton);
+    }
+    way.removeFirst();
+  } else {
+    // A pop-up entry that no right click has brought up.
+    action.trigger();
+    way.clear();
+  }
+  for (QAction* next : way) {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr || !menu->actions().contains(next))
+      Fail(QStringLiteral("the menu above \"%1\" did not open").arg(next->text()));
+    menu->setActiveAction(next);
+    if (next->menu() == nullptr || !next->menu()->isVisible())
+      QTest::keyClick(menu, Qt::Key_Return);
+    Settle();
+  }
+  while (QWidget* left = QApplication::activePopupWidget()) left->close();
+}
+
+}  // namespace tamo::player
