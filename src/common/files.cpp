@@ -101,7 +101,7 @@ int Files::SaveLines(const QString& path, const QStringList& lines) {
 
 int Files::SaveText(const QString& path, const QString& text) {
   if (!pending_.empty()) RetryPending(path);
-  const int error = Replace(path, text.toUtf8());
+  const int error = ReplaceInItsFolder(path, text.toUtf8());
   Pending* known = FindPending(path);
   if (error != kNoError) {
     if (known != nullptr) {
@@ -147,7 +147,8 @@ void Files::RetryPending(const QString& except) {
   const auto before = pending_.size();
   std::erase_if(pending_, [&](Pending& pending) {
     if (pending.path.compare(except, Qt::CaseInsensitive) == 0) return false;
-    pending.reason = pending.save ? pending.save() : Replace(pending.path, pending.text.toUtf8());
+    pending.reason =
+        pending.save ? pending.save() : ReplaceInItsFolder(pending.path, pending.text.toUtf8());
     return pending.reason == kNoError;
   });
   if (pending_.size() != before && onPendingChanged) onPendingChanged();
@@ -186,12 +187,38 @@ int Files::Remove(const QString& path) {
 int Files::MakeFolder(const QString& path) {
   QString bare = path;
   while (bare.size() > 1 && EndsInSeparator(bare)) bare.chop(1);
-  return disk_.MakeFolder(bare);
+  const int error = disk_.MakeFolder(bare);
+  if (error != kNoError && !missingFolders_.contains(bare) && !disk_.Exists(bare)) {
+    missingFolders_ += bare;
+  }
+  return error;
 }
 
 void Files::MakeFolders(const QString& path) {
-  for (const QString& level : FolderLevels(path)) disk_.MakeFolder(level);
-  if (!EndsInSeparator(path)) disk_.MakeFolder(path);
+  for (const QString& level : FolderLevels(path)) MakeFolder(level);
+  if (!EndsInSeparator(path)) MakeFolder(path);
+}
+
+// A folder that could not be made when it was asked for is made now; why it still can't be is the
+// reason of the failed save.
+int Files::ReplaceInItsFolder(const QString& path, const QByteArray& bytes) {
+  const int error = Replace(path, bytes);
+  if (error != kPathNotFound || missingFolders_.isEmpty()) return error;
+  const int folders = MakeMissingFolders();
+  const int again = Replace(path, bytes);
+  return again == kPathNotFound && folders != kNoError ? folders : again;
+}
+
+// The folders that could not be made when they were asked for, outermost first.
+int Files::MakeMissingFolders() {
+  int error = kNoError;
+  missingFolders_.removeIf([&](const QString& folder) {
+    if (disk_.Exists(folder)) return true;
+    const int made = disk_.MakeFolder(folder);
+    if (made != kNoError && error == kNoError) error = made;
+    return made == kNoError;
+  });
+  return error;
 }
 
 void Files::Sweep(const QString& folder) {

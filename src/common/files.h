@@ -39,6 +39,7 @@ class Files {
 
   bool Exists(const QString& path);  // also true for a pending file
   int Remove(const QString& path);   // a pending text of that file is dropped, too
+  // A folder that can't be made is remembered and made before the pending saves are tried again.
   int MakeFolder(const QString& path);
   // Every level of `path`, outermost first; failures are passed over.
   void MakeFolders(const QString& path);
@@ -72,12 +73,15 @@ class Files {
  private:
   int Replace(const QString& path, const QByteArray& bytes);
   int WriteWhole(const QString& path, const QByteArray& bytes);
+  int ReplaceInItsFolder(const QString& path, const QByteArray& bytes);
+  int MakeMissingFolders();
   void RetryPending(const QString& except);
   Pending* FindPending(const QString& path);
   Pending* FindPendingText(const QString& path);
 
   Disk& disk_;
   std::vector<Pending> pending_;
+  QStringList missingFolders_;
 };
 
 // The ending of the temporary files of half-made saves.

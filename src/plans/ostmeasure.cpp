@@ -17,7 +17,10 @@ ScaleTexts OSTForm::Scale() const {
 void OSTForm::ChooseScale(const ScaleEntry& scale) {
   if (!scale.acts) return;
   recordSaved_ = false;
-  if (scale.text5 != nullptr) Text5.SetText(QLatin1String(scale.text5));
+  if (scale.text5 != nullptr) {
+    Text5.SetText(QLatin1String(scale.text5));
+    SetUnitByText5();
+  }
   if (scale.isScale != nullptr) IsScale.SetText(QLatin1String(scale.isScale));
   Scale1.SetText(QLatin1String(scale.scale1));
   Scale2.SetText(QLatin1String(scale.scale2));

@@ -1,51 +1,17 @@
 #include "program/program.h"
 
 #include "common/paths.h"
+#include "program/menus.h"
+#include "program/planadapters.h"
+#include "program/reportadapters.h"
 #include "program/shell.h"
+#include "program/takeoffadapters.h"
+#include "program/work.h"
 #include "workspace/form11.h"
 #include "workspace/settingsform.h"
 #include "workspace/tamoform.h"
 
 namespace tamo {
-namespace {
-
-class PlanDeskOnOst : public PlanDesk {
- public:
-  Record Fields() const override { return record_; }
-  void SetPlanLocation(const QString& path) override { record_.planLocation = path; }
-  void SetPageText(const QString& text) override { record_.pageText = text; }
-  void SetZoomLevel(const QString& text) override { record_.zoomLevel = text; }
-  void SetScale(const QString& scale1, const QString& scale2, const QString& text5) override {
-    record_.scale1 = scale1;
-    record_.scale2 = scale2;
-    record_.text5 = text5;
-  }
-  void SetProjectName(const QString&) override {}
-  int ViewValue(int) const override { return 0; }
-  void SetViewValue(int, int) override {}
-  void TurnToPage(int) override {}
-  void SetZoomByLevel(const QString&) override {}
-  void LoadFN() override {}
-  void LoadPDF() override {}
-  void OpenBlank() override {}
-  void LoadPlanNotes() override {}
-  void HideBrowser() override {}
-
- private:
-  Record record_;
-};
-
-class WorkDeskOnForms : public WorkDesk {
- public:
-  void InitPricing() override {}
-  void RefreshPricingList() override {}
-  void PrintReport() override {}
-  void ClearReports() override {}
-  void ForgetProject() override {}
-};
-
-}  // namespace
-
 struct Program::Parts {
   Parts(const Platform& given, PdfDraw& pdfDraw)
       : platform(given),
@@ -58,9 +24,32 @@ struct Program::Parts {
     shared.zDir = platform.programFolder;
     form11 = std::make_unique<Form11>(kit);
     settings = std::make_unique<SettingsForm>(kit, shell);
-    ost = std::make_unique<Form>(desk, QStringLiteral("OST"));
-    main = std::make_unique<TamoForm>(kit, *settings, shell, planDesk, workDesk);
+    ost = std::make_unique<OSTForm>(kit, viewer, projectKeeper, takeoffFields);
+    main = std::make_unique<TamoForm>(kit, *settings, shell, planDesk, work);
+    pricing = std::make_unique<PricingForm>(kit, links, links, links);
+    rooms = std::make_unique<RFSForm>(kit, planTools, links, links, takeoffShell);
+    areas = std::make_unique<EstimateForm>(kit, planTools, links, links, takeoffShell);
+    bottomLine = std::make_unique<BottomLine>(kit, links);
+    adjustment = std::make_unique<AdjustmentForm>(kit, links);
+    reports = std::make_unique<ReportsForm>(
+        kit, ReportsForm::Joins{links, projectRecord, reportsShell, links, wholeQuantities});
+    docs = std::make_unique<DocsForm>(kit, work);
+    Join();
+  }
+
+  void Join() {
     shell.Join(*main, *settings, *ost);
+    planDesk.Join(*ost);
+    projectKeeper.Join(*main);
+    projectRecord.Join(*main);
+    reportsShell.Join(shell, *reports, *ost);
+    wholeQuantities.Join(*settings);
+    planTools.Join(*ost);
+    takeoffShell.Join(shell, *main, *ost);
+    takeoffFields.Join(*rooms, *areas);
+    links.Join(*pricing, *reports, *settings, *main, *ost);
+    work.Join({*pricing, *rooms, *areas, *bottomLine, *adjustment, *reports, *docs, shell});
+    menus = std::make_unique<Menus>(kit, shell, *main, *settings, *ost, *reports, work);
   }
 
   const Platform platform;
@@ -70,12 +59,28 @@ struct Program::Parts {
   SharedFields shared;
   const Kit kit;
   Shell shell;
+  PricingLinks links;
+  WorkingForms work;
   PlanDeskOnOst planDesk;
-  WorkDeskOnForms workDesk;
+  ProjectKeeperOnTamo projectKeeper;
+  PlanToolsOnOst planTools;
+  TakeoffShellOnForms takeoffShell;
+  TakeoffFieldsOnForms takeoffFields;
+  ProjectRecordOnTamo projectRecord;
+  ReportsShellOnForms reportsShell;
+  WholeQuantitiesInSettings wholeQuantities;
   std::unique_ptr<Form11> form11;
   std::unique_ptr<SettingsForm> settings;
-  std::unique_ptr<Form> ost;
+  std::unique_ptr<OSTForm> ost;
   std::unique_ptr<TamoForm> main;
+  std::unique_ptr<PricingForm> pricing;
+  std::unique_ptr<RFSForm> rooms;
+  std::unique_ptr<EstimateForm> areas;
+  std::unique_ptr<BottomLine> bottomLine;
+  std::unique_ptr<AdjustmentForm> adjustment;
+  std::unique_ptr<ReportsForm> reports;
+  std::unique_ptr<DocsForm> docs;
+  std::unique_ptr<Menus> menus;
 };
 
 Program::Program(const Platform& platform, PdfDraw& viewer)
@@ -88,7 +93,10 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
 Program::~Program() = default;
 
 void Program::Start() {
-  parts_->desk.Dispatch([this] { parts_->main->Init(); });
+  parts_->desk.Dispatch([this] {
+    parts_->ost->Load();
+    parts_->main->Init();
+  });
 }
 
 bool Program::Running() const {

@@ -1,5 +1,6 @@
 #include "workspace/settingsform.h"
 
+#include <QDir>
 #include <algorithm>
 
 #include "common/columns.h"
@@ -67,7 +68,12 @@ SettingsForm::SettingsForm(const Kit& kit, ModeShell& shell)
   }
   EstimatorNumber.onLostFocus = [this] { NormaliseEstimatorNumber(); };
   DataPath.onLostFocus = [this] { RepairDataPath(); };
-  DataPath.onChange = [this] { kit_.shared.DataPath = DataPath.Text(); };
+  // A data folder that is no whole path counts from the program folder.
+  DataPath.onChange = [this] {
+    const bool whole = QDir::isAbsolutePath(DataPath.Text());
+    kit_.shared.DataPath =
+        whole ? DataPath.Text() : kit_.shared.zDir + kit_.shared.Separator + DataPath.Text();
+  };
   HScroll1.onChange = [this] { Line1.SetWidth(HScroll1.Value()); };
   Line1.SetWidth(HScroll1.Value());
   AutoCheck.onChange = [this] { kit_.shared.AutoCheck = AutoCheck.Value(); };
@@ -117,7 +123,7 @@ void SettingsForm::LoadSettings() {
   kit_.shared.zDir = kit_.platform.programFolder;
   QStringList lines;
   if (kit_.files.ReadLines(SettingsPath(false), lines) != 0) return;
-  wholeQuantities = !lines.isEmpty() && lines.last() == kWholeQuantities;
+  wholeQuantities_ = !lines.isEmpty() && lines.last() == kWholeQuantities;
 
   LineReader reader(lines);
   QString line;
@@ -175,15 +181,28 @@ void SettingsForm::SaveSettings() {
   if (Option3.Selected()) lines += QStringLiteral("3");
   if (Option4.Selected()) lines += QStringLiteral("4");
   for (int i = 1; i < kReserveLines; ++i) lines += QString();
-  lines += wholeQuantities ? kWholeQuantities : QString();
+  lines += wholeQuantities_ ? kWholeQuantities : QString();
   const QString path = SettingsPath(true);
   kit_.files.MakeFolders(FolderOf(path));
   kit_.files.SaveLines(path, lines);
 }
 
+void SettingsForm::SetWholeQuantities(bool on) {
+  wholeQuantities_ = on;
+  QStringList lines;
+  if (kit_.files.ReadLines(SettingsPath(false), lines) != 0) {
+    SaveSettings();
+    return;
+  }
+  if (!lines.isEmpty() && (lines.last().isEmpty() || lines.last() == kWholeQuantities))
+    lines.removeLast();
+  lines += on ? kWholeQuantities : QString();
+  kit_.files.SaveLines(SettingsPath(true), lines);
+}
+
 void SettingsForm::FixDataPath() {
   DataPath.SetText(FixedDataPath(DataPath.Text(), kit_.shared.Separator[0]));
-  for (const QString& level : FolderLevels(DataPath.Text())) kit_.files.MakeFolder(level);
+  for (const QString& level : FolderLevels(kit_.shared.DataPath)) kit_.files.MakeFolder(level);
 }
 
 void SettingsForm::MakeDataFolders() {

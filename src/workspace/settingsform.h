@@ -26,9 +26,10 @@ class SettingsForm : public Form {
   // owner.
   void Toggle(Form* owner);
 
-  // Whether the report strip's switch "Read whole quantities" is on; kept in the last line of the
-  // file.
-  bool wholeQuantities = false;
+  // Whether the report strip's switch "Read whole quantities" is on. It is kept as one word in the
+  // last line of the file, which is rewritten at once; the other fields' changes stay unsaved.
+  bool WholeQuantities() const { return wholeQuantities_; }
+  void SetWholeQuantities(bool on);
 
   TextField EstimatorNumber, EstimatorName, CompanyName, Telephone, DataPath;
   Swatch Line1;  // the sample line
@@ -50,6 +51,7 @@ class SettingsForm : public Form {
 
   const Kit kit_;
   ModeShell& shell_;
+  bool wholeQuantities_ = false;
   QString lineColor_ = QStringLiteral("255000000");
 };
 

@@ -129,6 +129,18 @@ TEST_F(FilesTest, TheNewestPendingTextCounts) {
   EXPECT_EQ(OnDisk("a.txt"), QStringLiteral("2"));
 }
 
+// A folder that could not be made is made before what belongs into it is tried again.
+TEST_F(FilesTest, MissingFoldersAreMadeBeforePendingSaves) {
+  disk.SetFull(true);
+  EXPECT_NE(files.MakeFolder(Path("job/")), 0);
+  EXPECT_EQ(files.SaveText(Path("job/a.txt"), QStringLiteral("kept")), kDiskFull);
+  disk.SetFull(false);
+  EXPECT_TRUE(files.TryAgain());
+  EXPECT_EQ(OnDisk("job/a.txt"), QStringLiteral("kept"));
+  EXPECT_EQ(files.SaveText(Path("other/a.txt"), QStringLiteral("x")), kPathNotFound)
+      << "nobody asked for that folder";
+}
+
 TEST_F(FilesTest, LeftoversAreSweptAndNeverRead) {
   RealDisk real;
   int handle = 0;

@@ -61,15 +61,26 @@ QString Respelled(const QString& written) {
   return written == QLatin1String(kNoLineEnd) ? written : Shown(Unshown(written));
 }
 
-QStringList ShownLines(const QString& text) {
+namespace {
+
+QStringList Pieces(const QString& text) {
   QStringList lines;
   if (text.isEmpty()) return lines;
   for (const QString& line : text.split(QStringLiteral("\r\n"))) lines += Shown(line);
   return lines;
 }
 
+}  // namespace
+
+// A line end closes its line and begins no other, as in a block.
+QStringList ShownLines(const QString& text) {
+  QStringList lines = Pieces(text);
+  if (lines.size() > 1 && lines.last().isEmpty()) lines.removeLast();
+  return lines;
+}
+
 QStringList ShownFileLines(const QString& content) {
-  QStringList lines = ShownLines(content);
+  QStringList lines = Pieces(content);
   if (lines.isEmpty()) return lines;
   if (lines.last().isEmpty()) {
     lines.removeLast();

@@ -1,0 +1,128 @@
+#include "docs/docsform.h"
+
+#include "common/failure.h"
+#include "common/paths.h"
+#include "docs/topics.h"
+
+namespace tamo {
+namespace {
+
+const QString kEnding = QStringLiteral(".tamo");
+
+}  // namespace
+
+DocsForm::DocsForm(const Kit& kit, DocShell& shell)
+    : Form(kit.desk, QStringLiteral("Docs")),
+      ExitDocs(*this, QStringLiteral("ExitDocs"), QStringLiteral("  &Exit Docs")),
+      MenuList(*this, QStringLiteral("MenuList")),
+      Text1(*this, QStringLiteral("Text1")),
+      Command2(*this, QStringLiteral("Command2"), QStringLiteral("Load")),
+      Command1(*this, QStringLiteral("Command1"), QStringLiteral("Save")),
+      DocText(*this, QStringLiteral("DocText")),
+      DocList(*this, QStringLiteral("DocList")),
+      kit_(kit),
+      shell_(shell) {
+  SetCaption(QStringLiteral("Documentation"));
+  for (const Topic& topic : Topics()) MenuList.Add(QLatin1String(topic.row));
+  DocText.multiLine = true;
+  // A click on the row that is selected already shows its topic again.
+  MenuList.onSelect = [this] { ChooseTopic(); };
+  MenuList.onClick = [this] { ChooseTopic(); };
+  Text1.onKey = [this](Key& key) {
+    if (!key.IsEnter()) return;
+    key.Drop();
+    TakeFileName();
+  };
+  Command2.onClick = [this] { LoadDocs(); };
+  Command1.onClick = [this] { SaveDocs(); };
+  ExitDocs.onClick = [this] { Leave(); };
+}
+
+QString DocsForm::ProgramDocs() const {
+  return kit_.shared.zDir + kit_.shared.Separator + QStringLiteral("Docs");
+}
+
+QString DocsForm::UserDocs() const {
+  return kit_.platform.configFolder + kit_.shared.Separator + QStringLiteral("Docs");
+}
+
+void DocsForm::ChooseTopic() {
+  const QString file = FileOfTopic(MenuList.Selected());
+  if (file.isEmpty()) return;
+  fileName_ = file;
+  LoadDocs();
+  if (fileName_.endsWith(kEnding)) Text1.SetText(fileName_.chopped(kEnding.size()).toLower());
+}
+
+void DocsForm::TakeFileName() {
+  const QString refusal = NameRefusal(Text1.Text());
+  if (!refusal.isEmpty()) {
+    kit_.desk.GetMessages().Tell(refusal);
+    return;
+  }
+  fileName_ = Text1.Text() + kEnding;
+}
+
+void DocsForm::LoadDocs() {
+  DocText.Clear();
+  DocList.Clear();
+  DocText.Hide();
+  DocList.Hide();
+  QStringList lines;
+  if (!fileName_.isEmpty()) {
+    const QString own = UserDocs() + kit_.shared.Separator + fileName_;
+    const QString shipped = ProgramDocs() + kit_.shared.Separator + fileName_;
+    kit_.files.ReadLines(kit_.files.Exists(own) ? own : shipped, lines);
+  }
+  QString text;
+  for (const QString& line : lines) text += line + QStringLiteral("\r\n");
+  DocText.SetText(text);
+  DocList.AddAll(lines);
+  DocText.Show();
+  DocList.Show();
+}
+
+QString DocsForm::FolderForSaving() const {
+  // A copy of the user's own is read first, so it is also the one that is edited.
+  if (kit_.files.Exists(UserDocs() + kit_.shared.Separator + fileName_)) return UserDocs();
+  Disk& disk = kit_.files.GetDisk();
+  const QString file = kit_.files.Resolved(ProgramDocs() + kit_.shared.Separator + fileName_);
+  const bool writable = disk.IsFolder(ProgramDocs()) && disk.CanWrite(ProgramDocs()) &&
+                        (!disk.Exists(file) || disk.CanWrite(file));
+  return writable ? ProgramDocs() : UserDocs();
+}
+
+// The whole text is written as one value, with a line end behind it; a topic that ends in a line
+// end shows one empty line more after each save and load. A test holds it.
+void DocsForm::SaveDocs() {
+  if (fileName_.isEmpty()) {
+    kit_.desk.GetMessages().Tell(QStringLiteral(
+        "No topic is chosen. Choose a topic, or type a file name and press Enter, then Save."));
+    return;
+  }
+  const QString folder = FolderForSaving();
+  if (folder != ProgramDocs()) kit_.files.MakeFolders(folder);
+  const QString file = folder + kit_.shared.Separator + fileName_;
+  const int error = kit_.files.SaveText(file, DocText.Text() + QStringLiteral("\r\n"));
+  if (error == kNoError) return;
+  kit_.desk.GetMessages().Tell(
+      QStringLiteral("The topic was not saved to %1, because %2. The text is kept and will be "
+                     "tried again.")
+          .arg(file, ReasonText(error)));
+}
+
+void DocsForm::ShowTopicOf(const QString& form) {
+  const QString file = FileOfForm(form);
+  for (int row = 0; row < MenuList.Count(); ++row) {
+    if (FileOfTopic(MenuList.Row(row)) != file) continue;
+    MenuList.SetIndex(row);
+    return;
+  }
+}
+
+void DocsForm::Leave() {
+  Hide();
+  shell_.ShowShell();
+}
+
+}  // namespace tamo

@@ -1,0 +1,167 @@
+#include "takeoff/bottomline.h"
+
+#include "takeoff/itemline.h"
+#include "takeoff/takeofffiles.h"
+#include "takeoff/unitcodes.h"
+
+namespace tamo {
+
+BottomLine::BottomLine(const Kit& kit, TakeoffReportRefresh& reports)
+    : Form(kit.desk, QStringLiteral("BottomLine")),
+      oiFrame(*this, QStringLiteral("oiFrame")),
+      ItemLabel(*this, QStringLiteral("ItemLabel"), QStringLiteral("Item:")),
+      Item(*this, QStringLiteral("Item"), 20),
+      ItemPrompt(*this, QStringLiteral("ItemPrompt"),
+                 QStringLiteral("Leave blank and press Enter to finish")),
+      PriceLabel(*this, QStringLiteral("PriceLabel"), QStringLiteral("Price:")),
+      iPrice(*this, QStringLiteral("iPrice"), 11),
+      oiList(*this, QStringLiteral("oiList")),
+      ItemList(*this, QStringLiteral("ItemList")),
+      EditList(*this, QStringLiteral("EditList")),
+      kit_(kit),
+      reports_(reports) {
+  SetCaption(QStringLiteral("The Bottom Line"));
+  for (Control* control : Controls()) {
+    if (control != &oiFrame) control->PutInto(oiFrame);
+  }
+  for (OrderedList* list : {&ItemList, &EditList}) {
+    list->takesFocus = false;
+    list->inTabOrder = false;
+    list->Hide();
+  }
+  ItemList.dropsFrom = &Item;
+  EditList.SetRows({QStringLiteral("Delete Item"), QString(), QStringLiteral("Exit")});
+  Bind();
+}
+
+void BottomLine::Bind() {
+  onActivate = [this] {
+    LoadItems();
+    FollowProject();
+  };
+  // Closing the window leaves the form as an empty Item does, so that no line is lost.
+  onClose = [this] {
+    Finish();
+    return true;
+  };
+  Item.onKey = [this](Key& key) { ItemKey(key); };
+  Item.onGotFocus = [this] { Item.SelectAll(); };
+  Item.onDoubleClick = [this] { Toggle(ItemList); };
+  iPrice.onKey = [this](Key& key) { PriceKey(key); };
+  iPrice.onGotFocus = [this] { iPrice.SelectAll(); };
+  ItemList.onSelect = [this] { NameSelected(); };
+  oiList.onClick = [this] { TakeLine(); };
+  oiList.onRightClick = [this] { EditList.SetShown(oiList.Index() >= 0); };
+  EditList.onSelect = [this] { EditSelected(); };
+}
+
+void BottomLine::BottomLineItems(Form* owner) {
+  oiFrame.Show();
+  Show(owner);
+  LoadItems();
+  if (unsaved_) SaveoiList();
+  LoadoiList();
+  GetDesk().Focus(Item);
+}
+
+// The lines of another project than the open one are written there before they leave the screen.
+void BottomLine::FollowProject() {
+  if (listJob_ == kit_.shared.JobID) return;
+  if (unsaved_) SaveoiList();
+  LoadoiList();
+}
+
+void BottomLine::LoadItems() {
+  QStringList names;
+  itemsError_ = ReadItemNames(kit_.files, kit_.shared, names);
+  ItemList.SetRows(names);
+}
+
+void BottomLine::SaveItems() {
+  RequireReadable(itemsError_, QStringLiteral("The list of item names"));
+  WriteItemNames(kit_.files, kit_.shared, ItemList.Rows());
+}
+
+void BottomLine::LoadoiList() {
+  QStringList lines;
+  listError_ = ReadItemLines(kit_.files, kit_.shared, lines);
+  oiList.SetRows(lines);
+  listJob_ = kit_.shared.JobID;
+  unsaved_ = false;
+}
+
+void BottomLine::SaveoiList() {
+  unsaved_ = false;
+  if (listJob_.isEmpty()) return;
+  RequireReadable(listError_, QStringLiteral("The list of bottom line items"));
+  WriteItemLines(kit_.files, kit_.shared, listJob_, oiList.Rows());
+}
+
+void BottomLine::ItemKey(Key& key) {
+  if (!key.IsEnter()) return;
+  key.Drop();
+  if (Item.Empty()) {
+    Finish();
+    return;
+  }
+  // A stored name ends in a blank, so a typed one is added each time; one taken from the list is
+  // found (held by a test).
+  if (ItemList.Find(Item.Text()) < 0) {
+    ItemList.Add(Item.Text() + QLatin1Char(' '));
+    SaveItems();
+  }
+  GetDesk().Focus(iPrice);
+}
+
+void BottomLine::Finish() {
+  Hide();
+  SaveoiList();
+  reports_.PrintReport();
+}
+
+void BottomLine::PriceKey(Key& key) {
+  if (!key.IsEnter()) return;
+  key.Drop();
+  iPrice.SetText(BottomLineMoney(iPrice.Text()));
+  const QString line = ItemLine::Of(Item.Text(), iPrice.Text()).Text();
+  int at = 0;
+  while (at < oiList.Count() && ItemLine(oiList.Row(at)).SearchName() != Item.Text()) ++at;
+  if (at == oiList.Count()) {
+    oiList.Add(line);
+  } else {
+    oiList.SetRow(at, line);
+  }
+  unsaved_ = true;
+  SaveItems();
+  reports_.PrintReport();
+  iPrice.Clear();
+  Item.Clear();
+  GetDesk().Focus(Item);
+}
+
+void BottomLine::NameSelected() {
+  if (ItemList.Index() < 0) return;
+  ItemList.Hide();
+  Item.SetText(ItemList.Selected());
+  GetDesk().Focus(Item);
+}
+
+void BottomLine::TakeLine() {
+  if (oiList.Index() < 0) return;
+  const ItemLine line(oiList.Selected());
+  Item.SetText(line.Name());
+  iPrice.SetText(line.Price());
+  GetDesk().Focus(iPrice);
+}
+
+void BottomLine::EditSelected() {
+  const int command = EditList.Index();
+  if (command != 0 && command != 2) return;
+  const bool removes = command == 0 && oiList.Index() >= 0;
+  if (removes) oiList.Remove(oiList.Index());
+  EditList.SetIndex(-1);
+  EditList.Hide();
+  if (removes) SaveoiList();
+}
+
+}  // namespace tamo

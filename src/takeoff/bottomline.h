@@ -1,0 +1,52 @@
+#pragma once
+
+#include "common/control.h"
+#include "common/form.h"
+#include "common/kit.h"
+#include "takeoff/takeoffreportrefresh.h"
+
+namespace tamo {
+
+// A project's bottom line items: named amounts that go onto its bottom line. The names are shared
+// by all projects; the lines are written when the form is left, or when one is deleted.
+class BottomLine : public Form {
+ public:
+  BottomLine(const Kit& kit, TakeoffReportRefresh& reports);
+
+  Frame oiFrame;
+  Label ItemLabel;
+  TextField Item;  // at most 20 characters
+  Label ItemPrompt;
+  Label PriceLabel;
+  TextField iPrice;      // at most 11
+  OrderedList oiList;    // the project's item lines, in order of entry
+  OrderedList ItemList;  // known item names, drops from Item
+  OrderedList EditList;  // "Delete Item", "", "Exit"
+
+  // The shell's menu entry, after its guards.
+  void BottomLineItems(Form* owner);
+
+  void LoadItems();
+  void SaveItems();
+  void LoadoiList();
+  void SaveoiList();
+
+ private:
+  void Bind();
+  void FollowProject();
+  void ItemKey(Key& key);
+  void Finish();
+  void PriceKey(Key& key);
+  void NameSelected();
+  void TakeLine();
+  void EditSelected();
+
+  const Kit& kit_;
+  TakeoffReportRefresh& reports_;
+  QString listJob_;       // the project whose lines stand in oiList
+  int itemsError_ = 0;    // why the names could not be read
+  int listError_ = 0;     // why the lines could not be read
+  bool unsaved_ = false;  // a line was stored in oiList and not yet written
+};
+
+}  // namespace tamo

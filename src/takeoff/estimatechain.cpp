@@ -1,0 +1,233 @@
+// The chain of the free takeoff: Area, eDescription, Hite for surfaces, eLength.
+
+#include "common/columns.h"
+#include "common/failure.h"
+#include "common/numbers.h"
+#include "takeoff/arealine.h"
+#include "takeoff/estimateform.h"
+#include "takeoff/nextname.h"
+#include "takeoff/takeofffiles.h"
+#include "takeoff/unitcodes.h"
+
+namespace tamo {
+
+void EstimateForm::BindChain() {
+  Area.onKey = [this](Key& key) { AreaKey(key); };
+  Area.onGotFocus = [this] { AreaGotFocus(); };
+  Area.onLostFocus = [this] { AreasList.Hide(); };
+  Area.onDoubleClick = [this] { Toggle(AreasList); };
+
+  eDescription.onKey = [this](Key& key) { DescriptionKey(key); };
+  eDescription.onGotFocus = [this] {
+    eDescription.SelectAll();
+    if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) LoadDescriptions();
+  };
+  eDescription.onLostFocus = [this] { DescriptionsList.Hide(); };
+  eDescription.onDoubleClick = [this] { Toggle(DescriptionsList); };
+
+  Hite.onKey = [this](Key& key) { HiteKey(key); };
+  Hite.onGotFocus = [this] { HiteGotFocus(); };
+  eLength.onKey = [this](Key& key) { LengthKey(key); };
+  eLength.onGotFocus = [this] { LengthGotFocus(); };
+  eLength.onDoubleClick = [this] { Toggle(Lengths); };
+}
+
+void EstimateForm::AreaKey(Key& key) {
+  if (IsThrownAwayInNames(key)) key.Drop();
+  if (!key.IsEnter()) return;
+  key.Drop();
+  AreasList.Hide();
+  if (Area.Empty()) {
+    Hide();
+  } else {
+    RequireName(QStringLiteral("area"), Area.Text());
+    if (AreasList.Find(Area.Text()) < 0) {
+      AreasList.Add(Area.Text());
+      SaveAreas();
+    }
+  }
+  LoadArea();
+  GetDesk().Focus(eDescription);
+}
+
+void EstimateForm::AreaGotFocus() {
+  AreasList.SetTop(areasTop_);
+  const QString& waiting = kit_.shared.IAmHere;
+  if (waiting == QLatin1String("EL") && !eDescription.Empty()) {
+    GetDesk().Focus(eLength);
+    return;
+  }
+  if (waiting == QLatin1String("EH") && !eDescription.Empty()) GetDesk().Focus(Hite);
+  Area.SelectAll();
+  LoadAreas();
+  if (Area.HasFocus()) AreasList.Show();
+}
+
+void EstimateForm::DescriptionKey(Key& key) {
+  if (!key.IsEnter()) return;
+  key.Drop();
+  DescriptionsList.Hide();
+  if (eDescription.Empty()) {
+    LeaveDescription();
+  } else if (DescriptionsList.Find(eDescription.Text()) < 0) {
+    UnknownSystem();
+  } else {
+    TakeSystem();
+  }
+}
+
+void EstimateForm::LeaveDescription() {
+  if (autoRoom_) {
+    NextArea();
+    return;
+  }
+  for (TextField* field : {&eDescription, &Units, &eLength, &Hite, &Area}) field->Clear();
+  GetDesk().Focus(Area);
+}
+
+void EstimateForm::NextArea() {
+  const QString next = NextName(Area.Text());
+  RequireName(QStringLiteral("area"), next);
+  Area.SetText(next);
+  if (AreasList.Find(next) < 0) {
+    AreasList.Add(next);
+    SaveAreas();
+  }
+  LoadArea();
+  GetDesk().Focus(eDescription);
+}
+
+// The name stays in the list although there is no such system yet: a second Enter takes it (held by
+// a test).
+void EstimateForm::UnknownSystem() {
+  const QString name = eDescription.Text();
+  kit_.desk.GetMessages().Tell(name + QStringLiteral(" Not Found"));
+  pricing_.ShowWithName(name);
+  DescriptionsList.Insert(0, name);
+}
+
+void EstimateForm::TakeSystem() {
+  RequireName(QStringLiteral("area"), Area.Text());
+  const int at = FindLine(AreaList.Rows(), eDescription.Text());
+  if (at == AreaList.Count()) {
+    LoadSystem();
+    AreaList.Add(AreaLine::Of(eDescription.Text(), QStringLiteral("0"), Units.Text()).Text());
+    AreaList.SetIndex(AreaList.Count() - 1);
+  } else if (!AreaList.Row(at).isEmpty()) {
+    LoadSystem();
+    Units.SetText(workUnit_);
+    AreaList.SetIndex(at);
+    SaveArea();
+    GetDesk().Focus(Hite);
+  }
+  // An empty slot is not selected: an entry goes to the line that is (held by a test).
+  LoadSystem();
+  Units.SetText(workUnit_);
+  AskForLength();
+}
+
+void EstimateForm::AskForLength() {
+  UpdateStatus();
+  if (!IsLinearOrCount(Units.Text())) return;
+  const bool count = IsCount(Units.Text());
+  LengthLabel.SetCaption(count ? QStringLiteral("How many:") : QStringLiteral("Length:"));
+  plan_.SetToolMode(count ? 2 : 1);
+  GetDesk().Focus(eLength);
+}
+
+void EstimateForm::HiteKey(Key& key) {
+  if (!PassesNumberFilter(key)) key.Drop();
+  if (!key.IsEnter()) return;
+  key.Drop();
+  if (GroupedValue(Hite.Text()) != 0) {
+    plan_.SetToolMode(0);
+    plan_.ClearDistance();
+    GetDesk().Focus(eLength);
+    return;
+  }
+  for (TextField* field : {&eLength, &eDescription, &Units}) field->Clear();
+  Lengths.Clear();
+  GetDesk().Focus(eDescription);
+}
+
+void EstimateForm::HiteGotFocus() {
+  kit_.shared.IAmHere = QStringLiteral("EH");
+  Hite.SelectAll();
+  areaIndex_ = AreasList.Index();
+  AreasList.SetTop(areasTop_);
+  plan_.ReleaseMode();
+  plan_.ClearDistance();
+}
+
+void EstimateForm::LengthKey(Key& key) {
+  if (!PassesNumberFilter(key)) key.Drop();
+  if (!key.IsEnter()) return;
+  key.Drop();
+  if (GroupedValue(eLength.Text()) == 0) {
+    EndLineEntry();
+    return;
+  }
+  if (AreaList.Index() < 0) {
+    throw RunTimeFailure(
+        kSubscript,
+        QStringLiteral("No line of the area is selected, so the length has no place. Nothing was "
+                       "stored; enter a system or select a line in the list first."));
+  }
+  RequireName(QStringLiteral("area"), Area.Text());
+  AddEntry();
+}
+
+void EstimateForm::LengthGotFocus() {
+  kit_.shared.IAmHere = QStringLiteral("EL");
+  Lengths.Hide();
+  eLength.SelectAll();
+  if (areaIndex_ < AreasList.Count()) AreasList.SetIndex(areaIndex_);
+  AreasList.SetTop(areasTop_);
+}
+
+// The running total is rounded at each entry, of lengths and counts too.
+void EstimateForm::AddEntry() {
+  Units.SetText(TrimmedBlanks(Units.Text()));
+  const AreaLine line(AreaList.Selected());
+  const double entered = GroupedValue(eLength.Text());
+  if (IsLinearOrCount(Units.Text())) {
+    StoreQuantity(Rounded(line.LinearQuantity() + entered));
+    plan_.SetToolMode(0);
+    plan_.ClearDistance();
+    Lengths.Add(GrownLeft(eLength.Text(), 10));
+  } else {
+    StoreQuantity(Rounded(line.SurfaceQuantity() + GroupedValue(Hite.Text()) * entered));
+    plan_.SetToolMode(0);
+    Lengths.Add(Hite.Text() + QStringLiteral(" X ") + eLength.Text());
+  }
+  eLength.Clear();
+  SaveArea();
+  plan_.SaveIt();
+  GetDesk().Focus(eLength);
+}
+
+// The line keeps the name that stands in it; an empty slot takes the system in work.
+void EstimateForm::StoreQuantity(double total) {
+  const AreaLine line(AreaList.Selected());
+  const QString system = line.Text().isEmpty() ? eDescription.Text() : line.System();
+  AreaList.SetRow(AreaList.Index(), AreaLine::Of(system, NumberText(total), Units.Text()).Text());
+}
+
+void EstimateForm::EndLineEntry() {
+  const bool linear = IsLinearOrCount(Units.Text());
+  eLength.Clear();
+  Lengths.Hide();
+  Hite.Clear();
+  if (!linear) {
+    Hite.Show();
+    plan_.SetToolMode(0);
+    GetDesk().Focus(Hite);
+    return;
+  }
+  eDescription.Clear();
+  Lengths.Clear();
+  plan_.SetToolMode(0);
+  GetDesk().Focus(eDescription);
+}
+
+}  // namespace tamo

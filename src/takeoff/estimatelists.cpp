@@ -1,0 +1,115 @@
+// The lists of the free takeoff: areas, lines, systems, and what the menus do to them.
+
+#include "takeoff/arealine.h"
+#include "takeoff/estimateform.h"
+#include "takeoff/unitcodes.h"
+
+namespace tamo {
+
+void EstimateForm::BindLists() {
+  AreasList.onSelect = [this] { AreaSelected(); };
+  AreasList.onUserScroll = [this] { areasTop_ = AreasList.Top(); };
+  AreaList.onSelect = [this] { LineSelected(); };
+  DescriptionsList.onSelect = [this] { DescriptionSelected(); };
+}
+
+void EstimateForm::AreaSelected() {
+  if (AreasList.Index() < 0) return;
+  areasTop_ = AreasList.Top();
+  areaIndex_ = AreasList.Index();
+  Area.SetText(AreasList.Selected());
+  LoadArea();
+  AreasList.Hide();
+  GetDesk().Focus(eDescription);
+}
+
+void EstimateForm::LineSelected() {
+  UpdateStatus();
+  const AreaLine line(AreaList.Selected());
+  if (line.Text().isEmpty()) return;
+  eDescription.SetText(line.System());
+  Units.SetText(line.UnitsStopgap());
+  AreasList.Hide();
+  LoadSystem();
+  if (!IsLinearOrCount(Units.Text())) {
+    LengthLabel.SetCaption(QStringLiteral("Length:"));
+    plan_.SetToolMode(1);
+    GetDesk().Focus(Hite);
+    return;
+  }
+  const bool count = IsCount(Units.Text());
+  plan_.SetToolMode(count ? 2 : 1);
+  LengthLabel.SetCaption(count ? QStringLiteral("How Many") : QStringLiteral("Length"));
+  GetDesk().Focus(eLength);
+}
+
+// The system goes to the top of the list; Enter in the field goes on with it.
+void EstimateForm::DescriptionSelected() {
+  if (DescriptionsList.Index() < 0) return;
+  const QString name = DescriptionsList.Selected();
+  eDescription.SetText(name);
+  DescriptionsList.Remove(DescriptionsList.Index());
+  DescriptionsList.Insert(0, name);
+  SaveDescriptions();
+  GetDesk().Focus(eDescription);
+}
+
+void EstimateForm::SwitchAutoRoom() {
+  autoRoom_ = AutoRoom.Caption() != QLatin1String("AutoRoom is ON");
+  AutoRoom.SetCaption(autoRoom_ ? QStringLiteral("AutoRoom is ON")
+                                : QStringLiteral("AutoRoom is OFF"));
+}
+
+// The area that follows in the list goes, too (held by a test); the files of both stay.
+void EstimateForm::DeleteArea() {
+  if (Area.Empty()) return;
+  const int at = static_cast<int>(AreasList.Rows().lastIndexOf(Area.Text()));
+  if (at < 0) return;
+  QString gone = QStringLiteral("\"%1\" is").arg(AreasList.Row(at));
+  AreasList.Remove(at);
+  if (at < AreasList.Count()) {
+    gone = QStringLiteral("\"%1\" and \"%2\" are").arg(Area.Text(), AreasList.Row(at));
+    AreasList.Remove(at);
+  }
+  Area.Clear();
+  AreaList.Clear();
+  SaveAreas();
+  AreasList.Show();
+  GetDesk().Focus(Area);
+  StatusText.SetCaption(
+      gone + QStringLiteral(" off the list. Typing a name again brings it back with its lines."));
+}
+
+void EstimateForm::DeleteLine() {
+  if (AreaList.Index() < 0) return;
+  AreaList.Remove(AreaList.Index());
+  SaveArea();
+  eDescription.Clear();
+  GetDesk().Focus(eDescription);
+  UpdateStatus();
+}
+
+// The empty slot is stored, unlike that of a room.
+void EstimateForm::InsertLine() {
+  if (AreaList.Index() < 0) return;
+  AreaList.Insert(AreaList.Index(), QString());
+  SaveArea();
+  UpdateStatus();
+}
+
+void EstimateForm::CopyLines() {
+  CopyAreaList.SetRows(AreaList.Rows());
+  copyHite_ = Hite.Text();
+}
+
+void EstimateForm::PasteLines() {
+  if (CopyAreaList.Empty()) return;
+  AreaList.Clear();
+  AreaList.AddAll(CopyAreaList.Rows());
+  Hite.SetText(copyHite_);
+  SaveArea();
+  AreaList.SetIndex(AreaList.Count() - 1);
+  GetDesk().Focus(Hite);
+}
+
+}  // namespace tamo

@@ -1,0 +1,46 @@
+#include "takeoff/itemline.h"
+
+#include <cmath>
+
+#include "common/columns.h"
+#include "common/failure.h"
+#include "common/numbers.h"
+
+namespace tamo {
+
+ItemLine ItemLine::Of(const QString& name, const QString& price) {
+  constexpr int kWidth = 30;
+  if (name.size() + price.size() > kWidth) {
+    throw RunTimeFailure(
+        kInvalidArgument,
+        QStringLiteral("\"%1\" and its price %2 are together %3 characters long, and an item has "
+                       "room for %4. Nothing was stored; shorten the name or correct the price.")
+            .arg(name.left(60), price.left(60))
+            .arg(name.size() + price.size())
+            .arg(kWidth));
+  }
+  return ItemLine(name + PaddedLeft(price, kWidth - name.size()));
+}
+
+QString ItemLine::Name() const {
+  return TrimmedBlanks(Columns(text_, 1, 19));
+}
+QString ItemLine::Price() const {
+  return TrimmedBlanks(From(text_, 20));
+}
+QString ItemLine::SearchName() const {
+  return TrimmedBlanks(Columns(text_, 1, 20));
+}
+
+QString BottomLineMoney(const QString& text) {
+  const double value = Value(text);
+  if (value == 0) return QStringLiteral("0.00");
+  const double cents = std::floor(value * 100 + 0.005);
+  const QString digits = NumberText(cents);
+  if (std::abs(cents) < 10) {
+    return (cents < 0 ? QStringLiteral("-0.0") : QStringLiteral("0.0")) + digits.right(1);
+  }
+  return digits.chopped(2) + QLatin1Char('.') + digits.right(2);
+}
+
+}  // namespace tamo

@@ -1,0 +1,216 @@
+// Taking off: the walk through every line of every room, and the arithmetic of a line.
+
+#include "common/columns.h"
+#include "common/failure.h"
+#include "common/numbers.h"
+#include "takeoff/rfsform.h"
+#include "takeoff/roomline.h"
+#include "takeoff/unitcodes.h"
+
+namespace tamo {
+
+void RFSForm::BindTakeoff() {
+  How.onKey = [this](Key& key) { HowKey(key); };
+  How.onGotFocus = [this] { HowGotFocus(); };
+  Length.onKey = [this](Key& key) { LengthKey(key); };
+  Length.onGotFocus = [this] { LengthGotFocus(); };
+  Length.onDoubleClick = [this] { Toggle(Lengths); };
+  RoomList.onSelect = [this] { LineSelected(); };
+}
+
+void RFSForm::HowGotFocus() {
+  kit_.shared.IAmHere = QStringLiteral("RH");
+  How.SelectAll();
+  DescriptionsList.Hide();
+  AreaList.Hide();
+  Lengths.Hide();
+  const QString kept = How.Text();
+  plan_.SetToolMode(0);
+  How.SetText(kept);
+  if (roomCursor_ < RoomsList.Count()) {
+    RoomsList.SetIndex(roomCursor_);
+    GetDesk().Focus(How);
+  }
+  How.SelectAll();
+}
+
+void RFSForm::HowKey(Key& key) {
+  if (!PassesNumberFilter(key)) key.Drop();
+  if (!key.IsEnter()) return;
+  key.Drop();
+  if (Flag != QLatin1String("Estimate")) {
+    HowKeyInEntry();
+    return;
+  }
+  if (GroupedValue(How.Text()) != 0) {
+    GetDesk().Focus(Length);
+    return;
+  }
+  Lengths.Clear();
+  Lengths.Hide();
+  for (TextField* field : {&Description, &Units, &Area, &How}) field->Clear();
+  SaveRoom();
+  EstimateRFS();
+}
+
+void RFSForm::LengthGotFocus() {
+  if (Description.Empty() && RoomList.Index() >= 0)
+    Description.SetText(RoomLine(RoomList.Selected()).System());
+  if (roomCursor_ < RoomsList.Count()) RoomsList.SetIndex(roomCursor_);
+  // Selecting the room may have moved the focus on; a measure then belongs to the field that has
+  // it.
+  if (Length.HasFocus()) kit_.shared.IAmHere = QStringLiteral("RL");
+  Length.SelectAll();
+  How.SelectAll();
+  DescriptionsList.Hide();
+  AreaList.Hide();
+  Lengths.Hide();
+}
+
+void RFSForm::LengthKey(Key& key) {
+  if (!key.IsEnter()) return;
+  key.Drop();
+  if (GroupedValue(Length.Text()) == 0) {
+    Description.SetText(RoomLine(RoomList.Selected()).System());
+    EndLineEntry();
+    return;
+  }
+  if (RoomList.Index() < 0) {
+    throw RunTimeFailure(
+        kSubscript,
+        QStringLiteral("No line of the room is selected, so the length has no place. Nothing was "
+                       "stored; select a line in the list, then enter the length."));
+  }
+  Description.SetText(RoomLine(RoomList.Selected()).System());
+  AddEntry();
+}
+
+void RFSForm::AddEntry() {
+  const double entered = GroupedValue(Length.Text());
+  const double stands = RoomLine(RoomList.Selected()).Quantity();
+  if (IsLinearOrCount(Units.Text())) {
+    plan_.SetToolMode(0);
+    StoreQuantity(stands + entered);
+    Lengths.Add(GrownLeft(Length.Text(), 10));
+    Length.Clear();
+    GetDesk().Focus(Length);
+    SaveRoom();
+    plan_.SaveIt();
+    return;
+  }
+  // A surface is rounded on its running total, halves upward.
+  const double total = Rounded(stands + GroupedValue(How.Text()) * entered);
+  plan_.SetToolMode(0);
+  LoadSystem();
+  StoreQuantity(total);
+  Lengths.Add(How.Text() + QStringLiteral(" X ") + Length.Text());
+  Length.Clear();
+  SaveRoom();
+  plan_.SaveIt();
+  plan_.SetToolMode(0);
+  GetDesk().Focus(Length);
+}
+
+void RFSForm::StoreQuantity(double total) {
+  RoomList.SetRow(
+      RoomList.Index(),
+      RoomLine::Of(Description.Text(), Area.Text(), NumberText(total), Units.Text()).Text());
+}
+
+// Length left blank or 0: a counted or measured line is finished, a surface asks for a further
+// height.
+void RFSForm::EndLineEntry() {
+  const bool linear = IsLinearOrCount(Units.Text());
+  Length.Clear();
+  Lengths.Hide();
+  How.Clear();
+  if (!linear) {
+    heightNumber_ = 0;
+    GetDesk().Focus(How);
+    return;
+  }
+  Description.Clear();
+  Units.Clear();
+  Lengths.Clear();
+  if (RoomList.Index() >= 0) SaveRoom();
+  EstimateRFS();
+}
+
+// To the next line, through rooms without lines, to the end of the last room.
+void RFSForm::EstimateRFS() {
+  roomCursor_ = RoomsList.Index();
+  int line = RoomList.Index();
+  for (;;) {
+    selectedLine_ = ++line;
+    if (line < RoomList.Count()) {
+      RoomList.SetIndex(line);
+      AskForLineEntry();
+      return;
+    }
+    ++roomCursor_;
+    selectedLine_ = -1;
+    if (roomCursor_ >= RoomsList.Count()) {
+      FinishSchedule();
+      return;
+    }
+    const int room = roomCursor_;
+    RoomsList.SetIndex(room);
+    Room.SetText(RoomsList.Row(room));
+    LoadRoom();
+    if (!RoomList.Empty()) RoomList.SetIndex(0);
+    line = -1;
+  }
+}
+
+void RFSForm::AskForLineEntry() {
+  const bool needsHeight = GroupedValue(How.Text()) == 0 && !IsLinearOrCount(Units.Text());
+  GetDesk().Focus(needsHeight ? How : Length);
+  UpdateStatus();
+}
+
+void RFSForm::FinishSchedule() {
+  if (kit_.shared.GUIText == QLatin1String("2")) {
+    shell_.ShowOST();
+    Hide();
+    return;
+  }
+  shell_.ShowMainForm();
+  Hide();
+  shell_.ShowMainForm();
+}
+
+// The selection event of RoomList, in both modes.
+void RFSForm::LineSelected() {
+  selectedLine_ = RoomList.Index();
+  UpdateStatus();
+  if (suppress_) {
+    suppress_ = false;
+    return;
+  }
+  const RoomLine line(RoomList.Selected());
+  if (line.Text().isEmpty()) return;
+  Description.SetText(line.System());
+  Area.SetText(line.FinishArea());
+  LoadSystem();
+  RoomsList.Hide();
+  if (AsksForWidth(Area.Text())) {
+    How.Clear();
+    GetDesk().Focus(How);
+    return;
+  }
+  if (!IsLinearOrCount(Units.Text())) {
+    LengthLabel.SetCaption(QStringLiteral("Length"));
+    plan_.SetToolMode(1);
+    GetDesk().Focus(How.Empty() ? How : Length);
+    return;
+  }
+  How.Clear();
+  const bool count = IsCount(Units.Text());
+  GetDesk().Focus(Length);
+  LengthLabel.SetCaption(count ? QStringLiteral("How many") : QStringLiteral("Length"));
+  if (count) plan_.SetToolMode(0);
+  plan_.SetToolMode(count ? 2 : 1);
+  if (count) GetDesk().Focus(Length);
+}
+
+}  // namespace tamo

@@ -1,0 +1,47 @@
+#include "takeoff/takeoffsystem.h"
+
+#include "common/failure.h"
+#include "common/paths.h"
+
+namespace tamo {
+namespace {
+
+QString CopyFolder(const SharedFields& shared) {
+  return shared.ProjectPath() + QStringLiteral("Systems");
+}
+
+QString CopyPath(const SharedFields& shared, const QString& name) {
+  return CopyFolder(shared) + shared.Separator + name + QStringLiteral(".sys");
+}
+
+}  // namespace
+
+int ImportTakeoffSystem(Files& files, const SharedFields& shared, const QString& name,
+                        QStringList& fetched) {
+  fetched.clear();
+  if (!NameRefusal(name).isEmpty()) return kFileNotFound;
+  const int error = files.ReadLines(shared.SystemsPath() + name + QStringLiteral(".sys"), fetched);
+  if (error != kNoError) return error;
+  if (!files.GetDisk().IsFolder(CopyFolder(shared))) return kPathNotFound;
+  return files.SaveLines(CopyPath(shared, name), fetched);
+}
+
+TakeoffSystem LoadTakeoffSystem(Files& files, const SharedFields& shared, const QString& name,
+                                QStringList& fetched, int& error) {
+  QStringList fields;
+  error = kFileNotFound;
+  if (NameRefusal(name).isEmpty()) {
+    error = files.ReadFields(CopyPath(shared, name), fields);
+    if (error == kFileNotFound) {
+      ImportTakeoffSystem(files, shared, name, fetched);
+      error = files.ReadFields(CopyPath(shared, name), fields);
+    }
+  }
+  TakeoffSystem system;
+  if (error == kNoError) system.units = fields.value(1);
+  system.lineColour = error == kNoError ? fields.value(3) : QString();
+  if (system.lineColour.size() != 9) system.lineColour = shared.SettingsLineColor;
+  return system;
+}
+
+}  // namespace tamo
