@@ -70,13 +70,6 @@ TEST_F(ShellTest, ExitOfThePlanFormInMode1GoesBackToTheMainForm) {
   EXPECT_TRUE(program.Running());
 }
 
-TEST_F(ShellTest, ASecondInitWhileThePlanFormLoadsDoesNothing) {
-  program.Shared().JobID = QStringLiteral("00-2112001");
-  program.Shared().DriveBy = QStringLiteral("True");
-  program.Start();
-  EXPECT_EQ(program.Shared().DriveBy, QStringLiteral("False"));
-}
-
 TEST_F(ShellTest, TheEndAsksWhenSomethingIsPending) {
   disk.Deny(folder.path());
   program.GetFiles().SaveText(folder.filePath(QStringLiteral("home/a.txt")), QStringLiteral("x"));
