@@ -146,6 +146,7 @@ void WindowKeeper::SyncWindows() {
   const QString notice = parts_->program.GetFiles().Notice();
   // From the back to the front, so that new windows lie in the order of the forms.
   const std::vector<Form*> shown(desk.FrontToBack().rbegin(), desk.FrontToBack().rend());
+  bool shownBehind = false;
   for (Form* form : shown) {
     FormWindow* window = Window(*form);
     if (window->windowTitle() != form->Caption()) window->setWindowTitle(form->Caption());
@@ -162,18 +163,20 @@ void WindowKeeper::SyncWindows() {
     SetOwner(*window, form->OwnerForm() == nullptr ? nullptr : WindowOf(*form->OwnerForm()));
     window->setAttribute(Qt::WA_ShowWithoutActivating, form != desk.Active());
     window->show();
+    shownBehind = shownBehind || form != desk.Active();
   }
   for (const auto& [form, window] : parts_->windows) {
     if (form->Visible() || !window->isVisible()) continue;
     parts_->KeepPlace(*window);
     window->hide();
   }
-  if (desk.Active() == parts_->activated) return;
+  // A window system may bring a new window to the front although it was to stay behind.
+  if (desk.Active() == parts_->activated && !shownBehind) return;
   parts_->activated = desk.Active();
   if (parts_->activated == nullptr) return;
   FormWindow* front = Window(*parts_->activated);
   front->raise();
-  if (front->isActiveWindow()) return;
+  if (front->isActiveWindow() && !shownBehind) return;
   parts_->asked = front;
   parts_->askedSince.start();
   front->activateWindow();
