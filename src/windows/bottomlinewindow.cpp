@@ -22,7 +22,7 @@ void LayOutBottomLine(Builder& b) {
   b.DropList("ItemList", "Item");
   b.PopList("EditList", QStringLiteral("What to do with the item"), 14);
   b.Window().Body().addWidget(frame, 1);
-  b.Window().resize(480, 480);
+  b.Window().firstSize = {480, 480};
 }
 
 }  // namespace tamo

@@ -9,7 +9,7 @@ void LayOutDocs(Builder& b) {
   row->setSpacing(2 * kGrid);
   auto* left = new QVBoxLayout;
   left->addWidget(Section(QStringLiteral("Topics")));
-  RowsView* topics = b.List("MenuList", QStringLiteral("Topics"), 40, 24);
+  RowsView* topics = b.List("MenuList", QStringLiteral("Topics"), 34, 24);
   topics->setFixedWidth(topics->sizeHint().width());
   left->addWidget(topics, 1);
   row->addLayout(left);
@@ -27,11 +27,13 @@ void LayOutDocs(Builder& b) {
   right->addLayout(line);
   QPlainTextEdit* text = b.LongField("DocText", QStringLiteral("Text of the topic"));
   text->setFont(FixedFont());
+  text->setMinimumWidth(QFontMetrics(text->font()).horizontalAdvance(QLatin1Char('0')) * 84 +
+                        4 * kGrid);
   text->setPlaceholderText(QStringLiteral("Choose a topic on the left."));
   right->addWidget(text, 1);
   row->addLayout(right, 1);
   b.Window().Body().addLayout(row, 1);
-  b.Window().resize(1120, 680);
+  b.Window().firstSize = {1120, 680};
 }
 
 }  // namespace tamo

@@ -10,7 +10,7 @@
 namespace tamo {
 namespace {
 
-constexpr int kColumnWidth = 30 * kGrid;
+constexpr int kColumnWidth = 32 * kGrid;
 
 QToolButton* Tool(const QString& text, const QString& hover) {
   auto* tool = new QToolButton;
@@ -217,7 +217,7 @@ void LayOutOST(Builder& b) {
   row->addLayout(middle, 1);
   row->addWidget(Column(b));
   window->Body().addLayout(row, 1);
-  window->resize(1320, 700);
+  window->firstSize = {1320, 700};
 }
 
 }  // namespace tamo

@@ -6,7 +6,9 @@
 namespace tamo {
 namespace {
 
-constexpr int kSideWidth = 42 * kGrid;
+constexpr int kSideWidth = 35 * kGrid;
+constexpr int kCaptions = 22 * kGrid;
+constexpr int kPrompts = 42 * kGrid;
 
 QWidget* SystemFields(Builder& b) {
   QWidget* frame = b.Group("FramePricing");
@@ -16,7 +18,7 @@ QWidget* SystemFields(Builder& b) {
   auto* line = new QHBoxLayout;
   line->setSpacing(kGrid);
   QLabel* units = b.Caption("LabelUnits");
-  units->setFixedWidth(20 * kGrid);
+  units->setFixedWidth(kCaptions);
   QLabel* price = b.Caption("LabelUnitPrice");
   QLineEdit* unitsField = b.Field("Units", 10);
   QLineEdit* priceField = b.Field("UnitPrice", 12);
@@ -35,7 +37,7 @@ QWidget* SystemFields(Builder& b) {
   line->addWidget(b.PushButton("Command1"));
   column->addLayout(line);
   auto* under = new QHBoxLayout;
-  under->addSpacing(21 * kGrid);
+  under->addSpacing(kCaptions + kGrid);
   under->addWidget(Kept(b.Prompt("Label3")), 1);
   column->addLayout(under);
   return frame;
@@ -44,14 +46,15 @@ QWidget* SystemFields(Builder& b) {
 QWidget* MaterialFields(Builder& b) {
   auto* fields = new QWidget;
   FieldColumn column(*fields);
-  column.captionWidth = 20 * kGrid;
-  column.Add(b.Caption("LabelMaterial"), b.Field("Material", 28), b.Prompt("Label18"));
+  column.captionWidth = kCaptions;
+  column.Add(b.Caption("LabelMaterial"), b.Field("Material", 34), b.Prompt("Label18"));
   column.Add(b.Caption("LabelOrderUnits"), b.Field("OrderUnits", 14));
   column.Add(b.Caption("LabelPrice"), b.Field("Price", 14));
   column.Add(b.Caption("LabelUPO"), b.Field("UPO", 14), b.Prompt("Label5"));
   column.Add(b.Caption("LabelMnhr"), b.Field("MnhrPO", 14), b.Prompt("Label8"));
   column.Add(b.Caption("Label4"), b.Field("Waste", 14));
   column.Add(b.Caption("Label7"), b.Field("WageRate", 14));
+  column.Grid().setColumnMinimumWidth(1, kPrompts);
   column.Grid().setRowStretch(column.Grid().rowCount(), 1);
   return fields;
 }
@@ -69,7 +72,7 @@ QWidget* Labor(Builder& b) {
   left->addWidget(MaterialFields(b), 1);
   auto* right = new QVBoxLayout;
   right->addWidget(Section(QStringLiteral("Materials of this system")));
-  right->addWidget(b.List("MaterialList", QStringLiteral("Materials of this system"), 28, 10), 1);
+  right->addWidget(b.List("MaterialList", QStringLiteral("Materials of this system"), 20, 10), 1);
   row->addLayout(left);
   row->addLayout(right, 1);
   column->addLayout(row, 1);
@@ -114,7 +117,7 @@ QWidget* Colours(Builder& b) {
 QWidget* Markups(Builder& b) {
   QFrame* frame = b.Panel("MarkupsFrame");
   auto* column = new QVBoxLayout(frame);
-  column->setContentsMargins(2 * kGrid, kGrid, 2 * kGrid, kGrid);
+  column->setContentsMargins(kGrid, kGrid, 2 * kGrid, kGrid);
   column->setSpacing(kGrid / 2);
   struct Group {
     const char* title;
@@ -127,14 +130,15 @@ QWidget* Markups(Builder& b) {
   for (const Group& group : kGroups) {
     column->addWidget(Section(QLatin1String(group.title)));
     FieldColumn fields(*column);
-    fields.captionWidth = 22 * kGrid;
+    fields.captionWidth = kCaptions;
     for (const char* name : group.fields) {
       const QByteArray label = QByteArrayLiteral("Label") + name;
-      fields.Add(b.Caption(label.constData()), b.Field(name, 10));
+      fields.Add(b.Caption(label.constData()), b.Field(name, 8));
     }
   }
   column->addWidget(FixedPrompt(QStringLiteral("Fractions: 0.10 is ten per cent.")));
   column->addWidget(b.PushButton("ExitMarkups"));
+  column->addStretch(1);
   return frame;
 }
 
@@ -158,7 +162,6 @@ QWidget* Side(Builder& b) {
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(kGrid);
   column->addWidget(Colours(b));
-  column->addWidget(Markups(b));
   column->addWidget(Exchange(b), 1);
   QPlainTextEdit* notes = b.LongField("PricingNotes", QStringLiteral("Notes of the system"));
   notes->setPlaceholderText(QStringLiteral("Notes of this system"));
@@ -176,7 +179,7 @@ void LayOutPricing(Builder& b) {
   auto* main = new QVBoxLayout;
   main->setSpacing(kGrid / 2);
   FieldColumn name(*main);
-  name.captionWidth = 20 * kGrid;
+  name.captionWidth = kCaptions;
   name.Add(b.Caption("LabelDescription"), b.Field("Description", 40),
            FixedPrompt(QStringLiteral("Leave blank and press Enter to finish. A click shows the "
                                       "systems of the library.")));
@@ -185,13 +188,14 @@ void LayOutPricing(Builder& b) {
   main->addWidget(Price(b));
   row->addLayout(main, 1);
   row->addWidget(Side(b));
+  row->addWidget(Markups(b));
   b.Window().Body().addLayout(row, 1);
   b.DropList("DescriptionsList", "Description");
   b.DropList("UnitsList", "Units");
   b.DropList("MaterialsList", "Material");
   b.DropList("oUnitsList", "OrderUnits");
   b.DropList("WagesList", "WageRate");
-  b.Window().resize(1160, 680);
+  b.Window().firstSize = {1128, 680};
 }
 
 }  // namespace tamo

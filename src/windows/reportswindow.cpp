@@ -121,7 +121,7 @@ void LayOutReports(Builder& b) {
   QObject::connect(search, &QShortcut::activated, &window, [find] { find->Open(); });
   LetTypeGrow(window, {reporter, copy});
   if (auto* form = dynamic_cast<ReportsForm*>(&b.GetForm())) ShowProgressOf(*form, window);
-  window.resize(1080, 700);
+  window.firstSize = {1080, 700};
 }
 
 }  // namespace tamo

@@ -72,7 +72,7 @@ void LayOutSettings(Builder& b) {
   foot->addStretch(1);
   foot->addWidget(b.PushButton("Command1"));
   body.addLayout(foot);
-  b.Window().resize(760, 560);
+  b.Window().firstSize = {760, 560};
 }
 
 }  // namespace tamo

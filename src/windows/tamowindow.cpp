@@ -74,7 +74,7 @@ void LayOutTamo(Builder& b) {
   right->addStretch(0);
   row->addLayout(right, 3);
   b.Window().Body().addLayout(row, 1);
-  b.Window().resize(1000, 600);
+  b.Window().firstSize = {1000, 600};
 }
 
 }  // namespace tamo
