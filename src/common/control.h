@@ -142,8 +142,8 @@ class TextField : public Control {
   std::function<void()> onChange;  // the text became another one, by the program or the user
 
   // User side. ReplaceSelection types or pastes `typed` over the selection (cut to the length
-  // limit; a line end of any kind becomes CR LF, or a blank in a field of one line); SetByUser takes over what a widget's own
-  // editing made of the text.
+  // limit; a line end of any kind becomes CR LF, or a blank in a field of one line); SetByUser
+  // takes over what a widget's own editing made of the text.
   void ReplaceSelection(const QString& typed);
   void DeleteBackward();
   void DeleteForward();

@@ -52,6 +52,8 @@ void TamoForm::ReadRecord(const QString& picked) {
   QStringList lines;
   if (kit_.files.ReadLines(ProjectFile("JobNFO.tamo"), lines) != kNoError) {
     kit_.shared.LoadingJobNFO = QStringLiteral("False");
+    // A project without a record has no plan; the one on the screen belongs to another project.
+    if (picked.isEmpty()) LeavePlan();
     return;
   }
   JobNFO record = RecordOfFields();
@@ -69,7 +71,8 @@ void TamoForm::ReadRecord(const QString& picked) {
   Inclusions.SetText(record.inclusions);
   Exclusions.SetText(record.exclusions);
   Architect.SetText(record.architect);
-  shell_.BringUpShell();
+  // A plan that was picked on the plan form stays on the screen.
+  if (picked.isEmpty()) shell_.BringUpShell();
 
   const bool otherPlan =
       !picked.isEmpty() && PlainPlanName(picked) != PlainPlanName(record.planLocation);
@@ -156,6 +159,11 @@ void TamoForm::ClearProject() {
   kit_.shared.JobID.clear();
   ClearRecord();
   work_.ForgetProject();
+  LeavePlan();
+}
+
+// No plan, scale or note of one project stays for the next.
+void TamoForm::LeavePlan() {
   const QString loading = kit_.shared.LoadingJobNFO;
   kit_.shared.LoadingJobNFO = QStringLiteral("True");
   plan_.SetPlanLocation(QString());
@@ -197,10 +205,5 @@ void TamoForm::ClosePanel() {
   if (kit_.shared.OPN == QLatin1String("1")) kit_.shared.OPN = QStringLiteral("2");
   work_.PrintReport();
 }
-
-// The copies come with their own commands.
-void TamoForm::CopyProject() {}
-void TamoForm::PasteProject() {}
-void TamoForm::DeleteProject() {}
 
 }  // namespace tamo

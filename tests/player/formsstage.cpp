@@ -142,32 +142,30 @@ void FormsStage::CloseBox(Form& form) {
   GetDesk().CloseBox(form);
 }
 
-void FormsStage::GoToPlan(bool press) {
+void FormsStage::GoToPlan() {
   Form* form = played_->FindForm(QStringLiteral("OST"));
   if (form == nullptr || !form->Visible())
     Fail(QStringLiteral("the plan can't be reached: the window of OST is not visible"));
   GetDesk().UserActivate(*form);
-  Control* plan = form->Find(QStringLiteral("picPdfDraw"));
-  if (press && plan != nullptr) GetDesk().UserFocus(*plan);
 }
 
 void FormsStage::PlanMode(int mode) {
-  GoToPlan(false);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().PickTool(mode); });
 }
 
 void FormsStage::PlanLine(PagePoint from, PagePoint to) {
-  GoToPlan(true);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().DrawLine(from, to); });
 }
 
 void FormsStage::PlanCircle(PagePoint at) {
-  GoToPlan(true);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().PlaceCircle(at); });
 }
 
 void FormsStage::PlanPress(PagePoint at) {
-  GoToPlan(true);
+  GoToPlan();
   GetDesk().Dispatch([&] {
     played_->Viewer().Press(at, false);
     played_->Viewer().Release(at, false);
@@ -175,17 +173,19 @@ void FormsStage::PlanPress(PagePoint at) {
 }
 
 void FormsStage::PlanKey(const PlanStroke& stroke) {
-  GoToPlan(true);
+  GoToPlan();
+  Control* plan = GetDesk().Find(QStringLiteral("OST"))->Find(QStringLiteral("picPdfDraw"));
+  if (plan != nullptr) GetDesk().UserFocus(*plan);
   GetDesk().Dispatch([&] { played_->Viewer().Key(stroke); });
 }
 
 void FormsStage::PlanScroll(double dx, double dy) {
-  GoToPlan(false);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().ScrollBy(dx, dy); });
 }
 
 void FormsStage::PlanPage(int page) {
-  GoToPlan(false);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().TurnPage(page); });
 }
 

@@ -148,7 +148,7 @@ QString CheckForm(WindowKeeper& keeper, const Form& form) {
 
 QString CheckFocus(WindowKeeper& keeper, Desk& desk) {
   const Form* active = desk.Active();
-  if (active == nullptr || QApplication::activeWindow() == nullptr) return {};
+  if (active == nullptr || QApplication::activePopupWidget() != nullptr) return {};
   const QWidget* window = keeper.WindowOf(*active);
   if (QApplication::activeWindow() != window)
     return QStringLiteral("the window of %1 is not the active one").arg(active->Name());
