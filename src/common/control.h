@@ -80,9 +80,10 @@ class Control {
 
   bool HasFocus() const;
 
-  // A control that never takes the focus when clicked: drop lists, labels, the buttons beside the
-  // plan.
+  // A control that never takes the focus when clicked: drop lists, labels, swatches, the buttons
+  // beside the plan.
   bool takesFocus = true;
+  // Tab comes here, except to a list that takes no focus: that one is walked from its field.
   bool inTabOrder = true;
 
   std::function<void(Key&)> onKey;
