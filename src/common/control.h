@@ -207,6 +207,7 @@ class OrderedList : public Control {
   virtual void RowInserted(int at);
   virtual void RowRemoved(int at);
   virtual void RowsCleared();
+  virtual void RowsFilled();  // an empty list took over many rows at once
   void RowsChanged();
 
  private:
@@ -231,6 +232,7 @@ class CheckList : public OrderedList {
   void RowInserted(int at) override;
   void RowRemoved(int at) override;
   void RowsCleared() override;
+  void RowsFilled() override;
 
  private:
   std::vector<bool> ticked_;

@@ -43,6 +43,12 @@ void OrderedList::Add(const QString& text) {
 }
 
 void OrderedList::AddAll(const QStringList& rows) {
+  if (rows_.isEmpty()) {  // a long report is shared, not copied
+    rows_ = rows;
+    RowsFilled();
+    RowsChanged();
+    return;
+  }
   for (const QString& row : rows) {
     rows_.append(row);
     RowInserted(Count() - 1);
@@ -119,6 +125,7 @@ void OrderedList::ClickRow(int row) {
 void OrderedList::RowInserted(int) {}
 void OrderedList::RowRemoved(int) {}
 void OrderedList::RowsCleared() {}
+void OrderedList::RowsFilled() {}
 
 bool CheckList::Ticked(int row) const {
   return row >= 0 && row < Count() && ticked_[static_cast<size_t>(row)];
@@ -145,6 +152,9 @@ void CheckList::RowRemoved(int at) {
 }
 void CheckList::RowsCleared() {
   ticked_.clear();
+}
+void CheckList::RowsFilled() {
+  ticked_.assign(static_cast<size_t>(Count()), false);
 }
 
 }  // namespace tamo

@@ -1,5 +1,6 @@
 #include "plans/drawingboard.h"
 
+#include <QRandomGenerator>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -13,6 +14,12 @@ namespace {
 template <typename Event, typename... Args>
 void Raise(const Event& event, Args&&... args) {
   if (event) event(std::forward<Args>(args)...);
+}
+
+QStringList NamesOf(const std::vector<Mark>& marks) {
+  QStringList names;
+  for (const Mark& mark : marks) names.push_back(mark.name);
+  return names;
 }
 
 bool Sane(double value) {
@@ -31,6 +38,11 @@ QString DrawingBoard::ShownFile() const {
 
 void DrawingBoard::ShowPlan(const QString& path, std::vector<PageSize> sizes,
                             std::vector<Mark> marks) {
+  BeginPlan(path);
+  FillPlan(std::move(sizes), std::move(marks));
+}
+
+void DrawingBoard::BeginPlan(const QString& path) {
   path_ = path;
   wantedPage_ = 1;
   std::fill(std::begin(view_), std::end(view_), 0);
@@ -38,7 +50,7 @@ void DrawingBoard::ShowPlan(const QString& path, std::vector<PageSize> sizes,
   unitName_ = QStringLiteral("feet");
   checkNext_ = false;
   line_ = LineState::None;
-  FillPlan(std::move(sizes), std::move(marks));
+  marks_.clear();
   if (tool_ != NoTool) PickTool(NoTool);
 }
 
@@ -48,7 +60,9 @@ void DrawingBoard::FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks
   marks_ = std::move(marks);
   done_.clear();
   undone_.clear();
-  changed_ = false;
+  saved_ = NamesOf(marks_);
+  lastNumber_ = 0;
+  for (const Mark& mark : marks_) lastNumber_ = std::max(lastNumber_, MarkNumber(mark.name));
   page_ = std::clamp(wantedPage_, 1, PageCount());
   const PageSize size = SizeOfPage(page_);
   crossHair_ = {size.width / 2, size.height / 2};
@@ -59,7 +73,15 @@ void DrawingBoard::FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks
 
 void DrawingBoard::MarkSaved(const QString& path) {
   path_ = path;
-  changed_ = false;
+  saved_ = NamesOf(marks_);
+}
+
+bool DrawingBoard::HasUnsavedMarks() const {
+  return saved_ != NamesOf(marks_);
+}
+
+QString DrawingBoard::NextName() {
+  return MarkName(++lastNumber_, QRandomGenerator::global()->generate());
 }
 
 void DrawingBoard::SetSizeOfPage(int page, PageSize size) {
@@ -133,6 +155,7 @@ std::vector<Mark> DrawingBoard::Marks() const {
 }
 
 void DrawingBoard::Add(Mark mark) {
+  mark.name = NextName();
   const Step step{true, marks_.size(), std::move(mark)};
   done_.push_back(step);
   undone_.clear();
@@ -172,7 +195,6 @@ void DrawingBoard::Do(const Step& step, bool forward) {
   } else {
     marks_.erase(marks_.begin() + place);
   }
-  changed_ = true;
   Repaint();
   if (circle) Raise(onCircleCountChanged, CircleCount());
 }

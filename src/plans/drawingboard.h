@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 #include "plans/pdfdraw.h"
@@ -14,7 +15,7 @@ class DrawingBoard : public PdfDraw {
  public:
   QString ShownFile() const override;
   QString ShownPath() const override { return path_; }
-  bool HasUnsavedMarks() const override { return changed_; }
+  bool HasUnsavedMarks() const override;
   QString Problem() const override { return problem_; }
 
   void SetPage(int page) override;
@@ -65,6 +66,9 @@ class DrawingBoard : public PdfDraw {
   // Puts a plan on the board, as OpenFile promises. `path` empty: the blank sheet. `marks` oldest
   // first. Raises the events.
   void ShowPlan(const QString& path, std::vector<PageSize> sizes, std::vector<Mark> marks);
+  // The two halves of it: a plan begins (its pages are not known yet), and its pages and marks
+  // come.
+  void BeginPlan(const QString& path);
   // Takes the pages and marks of a plan that was slow to open; page, view and units stay as they
   // were set meanwhile.
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
@@ -73,7 +77,7 @@ class DrawingBoard : public PdfDraw {
   void SetProblem(const QString& text) { problem_ = text; }
   void SetSizeOfPage(int page, PageSize size);
 
-  std::vector<Mark>& BoardMarks() { return marks_; }  // oldest first
+  const std::vector<Mark>& BoardMarks() const { return marks_; }  // oldest first
 
  private:
   struct Step {
@@ -93,6 +97,7 @@ class DrawingBoard : public PdfDraw {
   PagePoint LineEnd(PagePoint at, bool shift) const;
   double PaperLength() const;
   QString PaperUnit() const;
+  QString NextName();
   int CircleCount() const;
   void Repaint();
   void ViewChanged();
@@ -103,7 +108,8 @@ class DrawingBoard : public PdfDraw {
   std::vector<Mark> marks_;
   std::vector<Step> done_;
   std::vector<Step> undone_;
-  bool changed_ = false;
+  QStringList saved_;  // the names of the marks that stand in the file
+  int lastNumber_ = 0;
 
   int page_ = 1;
   int wantedPage_ = 1;

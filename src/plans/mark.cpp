@@ -17,6 +17,21 @@ QString LengthText(double length) {
   return length < 0 && whole != 0 ? QLatin1Char('-') + text : text;
 }
 
+QString MarkName(int number, unsigned random) {
+  return QLatin1String(kMarkPrefix) + QStringLiteral("%1-%2")
+                                          .arg(number, 6, 10, QLatin1Char('0'))
+                                          .arg(random, 8, 16, QLatin1Char('0'));
+}
+
+int MarkNumber(const QString& name) {
+  const QLatin1String prefix(kMarkPrefix);
+  if (!name.startsWith(prefix)) return 0;
+  const qsizetype end = name.indexOf(QLatin1Char('-'), prefix.size());
+  bool ok = false;
+  const int number = name.mid(prefix.size(), end < 0 ? -1 : end - prefix.size()).toInt(&ok);
+  return ok && number > 0 ? number : 0;
+}
+
 double Distance(PagePoint from, PagePoint to) {
   return std::hypot(to.x - from.x, to.y - from.y);
 }

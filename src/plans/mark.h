@@ -34,6 +34,12 @@ struct Mark {
 // ("1,500.0"). Half goes up; a length that is no finite number gives "0.0".
 QString LengthText(double length);
 
+// The names by which this program knows its own marks inside a file: a prefix, the running number
+// of the mark, and a random part that keeps names of merged plans apart.
+inline constexpr char kMarkPrefix[] = "tamo-";
+QString MarkName(int number, unsigned random);
+int MarkNumber(const QString& name);  // 0 when the name is none of ours
+
 // The distance of two places in points.
 double Distance(PagePoint from, PagePoint to);
 

@@ -103,8 +103,11 @@ void OSTForm::OpenNamedPlan() {
   } else {
     PlanGone();
   }
+  const QString problem = PlanProblem.Caption();
   keeper_.LoadJobNFO(picked_);
   picked_.clear();
+  // Whatever the record brought up: the plan that was asked for could not be shown.
+  if (!problem.isEmpty()) PlanFailed(problem);
 }
 
 void OSTForm::LoadPDF() {
@@ -187,7 +190,10 @@ void OSTForm::SaveInto(const QString& target) {
     PlanSaved(target);
     return;
   }
-  PlanFailed(viewer_.Problem());
+  const QString why = viewer_.Problem();
+  PlanFailed(why.isEmpty() ? QStringLiteral("The plan was not saved as %1, because %2.")
+                                 .arg(target, ReasonText(error))
+                           : why);
   waitingCopy_ = target;
   kit_.files.KeepTrying(target, error, [this, target] {
     const int again = viewer_.SaveAs(target);

@@ -76,6 +76,7 @@ void OSTForm::ModeChanged(int mode) {
   Mode.SetText(QStringLiteral("Measuring"));
   const QString& code = kit_.shared.LineColor;
   if (IsNumericColour(code)) viewer_.SetMarkColour(code);
+  Line1.SetWidth(kit_.shared.LineWidth);
   viewer_.SetMarkWidth(kit_.shared.LineWidth / 96.0 * 72);
 }
 

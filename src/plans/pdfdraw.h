@@ -141,6 +141,8 @@ class PdfDraw {
   std::function<void()> onBringToFront;
   std::function<void()> onMarksChanged;  // marks, the line in work or the cross hair: paint again
   std::function<void()> onViewChanged;   // zoom, position, rotation or page: paint again
+  // While the first marked copy of a large plan is written and takes long; at 100 it is done.
+  std::function<void(int perCent)> onSaveProgress;
   std::function<void(const QString& text)> onProblem;  // a failure found after OpenFile came back
 };
 

@@ -1,7 +1,5 @@
 #include "reports/bill.h"
 
-#include <cmath>
-
 #include "common/columns.h"
 #include "common/failure.h"
 #include "common/numbers.h"

@@ -1,7 +1,10 @@
 #include "reports/copies.h"
 
+#include <QStringBuilder>
+
 #include "common/columns.h"
 #include "common/numbers.h"
+#include "reports/figuretext.h"
 #include "reports/linequantity.h"
 #include "reports/notebook.h"
 #include "reports/projectfiles.h"
@@ -21,11 +24,28 @@ struct SheetColumns {
 constexpr SheetColumns kRoom{21, 33, 10, 28};
 constexpr SheetColumns kArea{20, 22, 14, 26};
 
-const QString kCents = QStringLiteral(".00");
+constexpr QStringView kCents = u".00";
 
 QStringView LastOf(QStringView text, qsizetype count) {
   return text.last(qMin(count, text.size()));
 }
+
+// Whole dollars at the end of an Office Copy's line; nothing in the Field Copy.
+class DollarColumn {
+ public:
+  DollarColumn(bool shown, double dollars, qsizetype width)
+      : shown_(shown), width_(width), text_(FigureText::Whole(dollars)) {}
+  QStringView Blanks() const {
+    return BlankView(shown_ ? width_ - text_.Size() - kCents.size() : 0);
+  }
+  QStringView Figure() const { return shown_ ? text_.View() : QStringView(); }
+  QStringView Cents() const { return shown_ ? kCents : QStringView(); }
+
+ private:
+  bool shown_;
+  qsizetype width_;
+  FigureText text_;
+};
 
 class CopyMaker : public TakeoffVisitor {
  public:
@@ -70,13 +90,15 @@ class CopyMaker : public TakeoffVisitor {
       Add(QStringLiteral("   excluding all unit priced descriptions and quantities."));
       Add({});
     }
-    report_.detail.resize(static_cast<size_t>(report_.lines.size()), false);
     report_.notes = notes_.Take();
     return std::move(report_);
   }
 
  private:
-  void Add(const QString& line) { report_.lines += line; }
+  void Add(QString line, bool detail = false) {
+    report_.lines.append(std::move(line));
+    report_.detail.push_back(detail);
+  }
 
   double QuantityOf(SheetKind kind, QStringView line, const SheetColumns& columns, int row) {
     const double whole = WholeQuantity(kind, line);
@@ -92,53 +114,52 @@ class CopyMaker : public TakeoffVisitor {
     return part;
   }
 
-  QString Begin() const { return office_ ? Blanks(5) : QStringLiteral("___  "); }
+  QStringView Begin() const { return office_ ? u"     " : u"___  "; }
 
   // Adds a detail line and gives what its last 14 characters are worth.
-  double AddDetail(const QString& line) {
-    report_.detail.resize(static_cast<size_t>(report_.lines.size()), false);
-    report_.detail.push_back(true);
-    Add(line);
-    if (!office_) return 0;
-    const double dollars = Value(LastOf(line, 14));
-    report_.total += dollars;
-    if (SystemOfLine(line) == QLatin1String("Labor")) {
-      report_.labor += dollars;
-    } else {
-      report_.material += dollars;
+  double AddDetail(QString&& line) {
+    double dollars = 0;
+    if (office_) {
+      dollars = Value(LastOf(line, 14));
+      report_.total += dollars;
+      (SystemOfLine(line) == u"Labor" ? report_.labor : report_.material) += dollars;
     }
+    Add(std::move(line), true);
     return dollars;
   }
 
   double MaterialLine(const MaterialBlock& block, double quantity, const QString& system) {
     standing_.orderQuantity = WithWaste(block, OrderQuantity(block, quantity, system, standing_));
-    const QString shown = WithPoint(Truncated(standing_.orderQuantity * 100));
-    QString line = Begin() + GrownRight(block.material, 21) + GrownLeft(shown, 14) +
-                   QLatin1Char(' ') + block.orderUnit + QStringLiteral("(s)") +
-                   GrownBlanks(5 - block.orderUnit.size());
+    const FigureText shown = FigureText::WithPoint(Truncated(standing_.orderQuantity * 100));
+    double dollars = 0;
     if (office_) {
-      const double m = Value(shown) * block.price;
+      const double m = Value(shown.View()) * block.price;
       const double markups = markups_.MOH * m + markups_.MTX * m + markups_.MMU * m +
                              markups_.MIOH * m + markups_.MITX * m + markups_.MIMU * m;
-      line += GrownLeft(NumberText(Raised(m + markups)) + kCents, 13);
+      dollars = Raised(m + markups);
     }
-    return AddDetail(line);
+    const DollarColumn column(office_, dollars, 13);
+    return AddDetail(Begin() % block.material % BlankView(21 - block.material.size()) %
+                     BlankView(14 - shown.Size()) % shown.View() % u' ' % block.orderUnit % u"(s)" %
+                     BlankView(5 - block.orderUnit.size()) % column.Blanks() % column.Figure() %
+                     column.Cents());
   }
 
   double LaborLine(const MaterialBlock& block, double quantity, const QString& system) {
     standing_.manhours = Manhours(block, quantity, system, standing_);
     manhours_ += standing_.manhours;
-    const QString shown = WithPoint(Truncated(standing_.manhours * 100 + 0.5));
-    QString line =
-        Begin() + QStringLiteral("Labor") + GrownLeft(shown, 30) + QStringLiteral(" Manhours");
+    const FigureText shown = FigureText::WithPoint(Truncated(standing_.manhours * 100 + 0.5));
+    double dollars = 0;
     if (office_) {
       const double labor = standing_.manhours * block.wage;
       const double markups =
           Rounded(markups_.LOH * labor + markups_.LTX * labor + markups_.LMU * labor +
                   markups_.MIOH * labor + markups_.MITX * labor + markups_.MIMU * labor);
-      line += GrownLeft(NumberText(Rounded(labor + markups)) + kCents, 14);
+      dollars = Rounded(labor + markups);
     }
-    return AddDetail(line);
+    const DollarColumn column(office_, dollars, 14);
+    return AddDetail(Begin() % u"Labor" % BlankView(30 - shown.Size()) % shown.View() %
+                     u" Manhours" % column.Blanks() % column.Figure() % column.Cents());
   }
 
   const ReportSource& source_;

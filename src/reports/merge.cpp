@@ -1,7 +1,5 @@
 #include "reports/merge.h"
 
-#include <cmath>
-
 #include "common/columns.h"
 #include "common/numbers.h"
 #include "reports/nameindex.h"
@@ -34,11 +32,6 @@ QString UnitsOf(SheetKind kind, QStringView line) {
   return TrimmedText(View(line, behind + 1, line.size()));
 }
 
-// Sums are kept as number text, which holds 15 digits; whole numbers need no such trip.
-double AsNumberText(double sum) {
-  return std::abs(sum) < 1e15 && std::floor(sum) == sum ? sum : CutTo15Digits(sum);
-}
-
 class Merger : public TakeoffVisitor {
  public:
   void Line(SheetKind kind, QStringView line) override {
@@ -55,7 +48,8 @@ class Merger : public TakeoffVisitor {
       summed_.push_back(false);
     } else {
       MergedRow& row = rows_[static_cast<size_t>(at)];
-      row.value = AsNumberText(row.value + Value(View(line, columns.found, 15)));
+      // A sum is kept as number text, which holds 15 digits.
+      row.value = CutTo15Digits(row.value + Value(View(line, columns.found, 15)));
       summed_[static_cast<size_t>(at)] = true;
     }
   }

@@ -75,6 +75,7 @@ class TamoForm : public Form {
   void OpenSelected();
   void ClosePanel();
   void ClearRecord();
+  void LeavePlan();
   void ReadRecord(const QString& picked);
   void TakePlanOfRecord(const JobNFO& record);
   JobNFO RecordOfFields() const;

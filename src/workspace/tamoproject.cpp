@@ -156,6 +156,11 @@ void TamoForm::ClearProject() {
   kit_.shared.JobID.clear();
   ClearRecord();
   work_.ForgetProject();
+  LeavePlan();
+}
+
+// No plan, scale or note of one project stays for the next.
+void TamoForm::LeavePlan() {
   const QString loading = kit_.shared.LoadingJobNFO;
   kit_.shared.LoadingJobNFO = QStringLiteral("True");
   plan_.SetPlanLocation(QString());
@@ -197,10 +202,5 @@ void TamoForm::ClosePanel() {
   if (kit_.shared.OPN == QLatin1String("1")) kit_.shared.OPN = QStringLiteral("2");
   work_.PrintReport();
 }
-
-// The copies come with their own commands.
-void TamoForm::CopyProject() {}
-void TamoForm::PasteProject() {}
-void TamoForm::DeleteProject() {}
 
 }  // namespace tamo

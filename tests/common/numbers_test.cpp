@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <random>
 
@@ -78,6 +80,44 @@ TEST(SignedNumberText, OneBlankInThePlaceOfThePlus) {
   EXPECT_EQ(SignedNumberText(5), QStringLiteral(" 5"));
   EXPECT_EQ(SignedNumberText(0), QStringLiteral(" 0"));
   EXPECT_EQ(SignedNumberText(-5), QStringLiteral("-5"));
+}
+
+// Numbers of few decimals are printed and read by a short way; it must agree with the long one.
+TEST(NumberText, TheShortWayIsTheLongWay) {
+  for (int places = 0; places <= 6; ++places) {
+    const double tens = std::pow(10, places);
+    for (int i = -30000; i <= 30000; i += 7) {
+      const double x = i / tens;
+      const QString text = NumberText(x);
+      QString plain = QString::number(x, 'f', 12);
+      while (plain.endsWith(QLatin1Char('0'))) plain.chop(1);
+      if (plain.endsWith(QLatin1Char('.'))) plain.chop(1);
+      if (plain.startsWith(QLatin1String("0."))) plain.remove(0, 1);
+      if (plain.startsWith(QLatin1String("-0."))) plain.remove(1, 1);
+      ASSERT_EQ(text, plain);
+      ASSERT_EQ(Value(text), x);
+      ASSERT_EQ(Value(text), text.toDouble());
+    }
+  }
+  EXPECT_EQ(NumberText(-.05), QStringLiteral("-.05"));
+  EXPECT_EQ(NumberText(999999999999999.0), QStringLiteral("999999999999999"));
+  EXPECT_EQ(NumberText(99999999999.9999), QStringLiteral("99999999999.9999"));
+  EXPECT_EQ(Value(QStringLiteral("999999999999999")), 999999999999999.0);
+  EXPECT_EQ(Value(QStringLiteral("9999999999999999")), 9999999999999999.0);
+  EXPECT_EQ(Value(QStringLiteral("0000000000000000001.5")), 1.5);
+}
+
+TEST(NumberText, RoundingTo15DigitsIsThatOfTheLongWay) {
+  std::mt19937_64 random(20211214);
+  std::uniform_real_distribution<double> size(-8, 16);
+  for (int i = 0; i < 200000; ++i) {
+    double x = std::pow(10, size(random)) * (i % 2 == 0 ? 1 : -1);
+    if (i % 5 == 0) x = std::nearbyint(x) + 0.0005 * (i % 7);
+    char scientific[40];
+    std::snprintf(scientific, sizeof scientific, "%.14e", x);
+    ASSERT_EQ(CutTo15Digits(x), std::strtod(scientific, nullptr)) << scientific;
+    ASSERT_EQ(NumberText(x).toDouble(), std::strtod(scientific, nullptr)) << scientific;
+  }
 }
 
 // Value(NumberText(x)) is x cut to 15 digits, and a second trip changes nothing.

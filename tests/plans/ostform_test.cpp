@@ -229,6 +229,7 @@ TEST_F(OstForm, MeasuringTakesColourAndWidthOfTheSystemInWork) {
   EXPECT_EQ(ost.Mode.Text(), "Measuring");
   EXPECT_EQ(viewer.MarkColour(), "139069013");
   EXPECT_DOUBLE_EQ(viewer.MarkWidth(), 3);
+  EXPECT_EQ(ost.Line1.Width(), 4);
   viewer.PickTool(PdfDraw::Counting);
   EXPECT_EQ(ost.Mode.Text(), "Released");
   viewer.PickTool(PdfDraw::Measuring);

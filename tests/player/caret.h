@@ -16,7 +16,7 @@ QString Unshown(const QString& text);  // the text meant; a caret that means not
 // The one spelling of what a scenario wrote, so that ^I and a real tab compare equal.
 QString Respelled(const QString& written);
 
-// A text as its lines, with carets. CR LF ends a line; the text "" has none.
+// A text as its lines, with carets. CR LF ends a line and begins no other; the text "" has none.
 QStringList ShownLines(const QString& text);
 // The lines of a file: as above, and a last line without an end is followed by the line ^$.
 QStringList ShownFileLines(const QString& content);

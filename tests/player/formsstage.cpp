@@ -46,15 +46,18 @@ TextField& FormsStage::FocusedField() const {
   return *field;
 }
 
-// Whoever goes to another window of the program brings it to the front first: its routine runs and
-// the focus is where it was there, before it goes on to what was clicked.
+// A click into another window of the program brings it to the front. On what takes the focus it
+// goes straight there; otherwise the window comes first, with the focus where it was.
+void FormsStage::GoTo(Control& control) {
+  if (!control.takesFocus) GetDesk().UserActivate(control.Owner());
+}
+
 void FormsStage::ChooseMenu(MenuEntry& entry) {
   GetDesk().UserActivate(entry.Owner());
   GetDesk().ChooseMenu(entry);
 }
 
 void FormsStage::Focus(Control& control) {
-  GetDesk().UserActivate(control.Owner());
   GetDesk().UserFocus(control);
 }
 
@@ -81,9 +84,14 @@ void FormsStage::Paste(const QString& text) {
   GetDesk().Paste(FocusedField(), text);
 }
 
+// A click into the text of the field that has the focus already puts the caret there: at its end.
 void FormsStage::Click(Control& control) {
-  GetDesk().UserActivate(control.Owner());
+  GoTo(control);
+  auto* field = dynamic_cast<TextField*>(&control);
+  const bool had = control.HasFocus();
   GetDesk().ClickInto(control);
+  if (field == nullptr || !had || !control.HasFocus()) return;
+  GetDesk().Dispatch([&] { field->Select(static_cast<int>(field->Text().size()), 0); });
 }
 
 void FormsStage::DoubleClick(Control& control) {
@@ -92,7 +100,7 @@ void FormsStage::DoubleClick(Control& control) {
 }
 
 void FormsStage::RightClick(Control& control) {
-  GetDesk().UserActivate(control.Owner());
+  GoTo(control);
   GetDesk().RightClick(control);
 }
 
@@ -101,12 +109,12 @@ void FormsStage::ClickNotice() {
 }
 
 void FormsStage::SelectRow(OrderedList& list, int row) {
-  GetDesk().UserActivate(list.Owner());
+  GoTo(list);
   GetDesk().ClickRow(list, row);
 }
 
 void FormsStage::RightSelectRow(OrderedList& list, int row) {
-  GetDesk().UserActivate(list.Owner());
+  GoTo(list);
   GetDesk().RightClickRow(list, row);
 }
 
@@ -116,17 +124,17 @@ void FormsStage::DoubleSelectRow(OrderedList& list, int row) {
 }
 
 void FormsStage::TickRow(CheckList& list, int row) {
-  GetDesk().UserActivate(list.Owner());
+  GoTo(list);
   GetDesk().TickRow(list, row);
 }
 
 void FormsStage::ScrollTo(OrderedList& list, int row) {
-  GetDesk().UserActivate(list.Owner());
+  GoTo(list);
   GetDesk().ScrollTo(list, row);
 }
 
 void FormsStage::Pick(FileBrowser& browser, const QString& path, bool twice) {
-  GetDesk().UserActivate(browser.Owner());
+  GoTo(browser);
   GetDesk().Pick(browser, path, twice);
 }
 
@@ -134,32 +142,30 @@ void FormsStage::CloseBox(Form& form) {
   GetDesk().CloseBox(form);
 }
 
-void FormsStage::GoToPlan(bool press) {
+void FormsStage::GoToPlan() {
   Form* form = played_->FindForm(QStringLiteral("OST"));
   if (form == nullptr || !form->Visible())
     Fail(QStringLiteral("the plan can't be reached: the window of OST is not visible"));
   GetDesk().UserActivate(*form);
-  Control* plan = form->Find(QStringLiteral("picPdfDraw"));
-  if (press && plan != nullptr) GetDesk().UserFocus(*plan);
 }
 
 void FormsStage::PlanMode(int mode) {
-  GoToPlan(false);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().PickTool(mode); });
 }
 
 void FormsStage::PlanLine(PagePoint from, PagePoint to) {
-  GoToPlan(true);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().DrawLine(from, to); });
 }
 
 void FormsStage::PlanCircle(PagePoint at) {
-  GoToPlan(true);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().PlaceCircle(at); });
 }
 
 void FormsStage::PlanPress(PagePoint at) {
-  GoToPlan(true);
+  GoToPlan();
   GetDesk().Dispatch([&] {
     played_->Viewer().Press(at, false);
     played_->Viewer().Release(at, false);
@@ -167,17 +173,19 @@ void FormsStage::PlanPress(PagePoint at) {
 }
 
 void FormsStage::PlanKey(const PlanStroke& stroke) {
-  GoToPlan(true);
+  GoToPlan();
+  Control* plan = GetDesk().Find(QStringLiteral("OST"))->Find(QStringLiteral("picPdfDraw"));
+  if (plan != nullptr) GetDesk().UserFocus(*plan);
   GetDesk().Dispatch([&] { played_->Viewer().Key(stroke); });
 }
 
 void FormsStage::PlanScroll(double dx, double dy) {
-  GoToPlan(false);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().ScrollBy(dx, dy); });
 }
 
 void FormsStage::PlanPage(int page) {
-  GoToPlan(false);
+  GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().TurnPage(page); });
 }
 

@@ -40,10 +40,10 @@ class FormsStage : public Stage {
 
  private:
   Desk& GetDesk() const { return played_->GetDesk(); }
+  void GoTo(Control& control);
   Control& Focused() const;
   TextField& FocusedField() const;
-  // The mouse goes to the plan: its window comes to the front, and with `press` it takes the focus.
-  void GoToPlan(bool press);
+  void GoToPlan();  // its window comes to the front
 
   Played* played_ = nullptr;
 };

@@ -1,30 +1,16 @@
 #include "player/programplayed.h"
 
-#include "common/disk.h"
-#include "plans/fakepdfdraw.h"
-
 namespace tamo::player {
-namespace {
-
-// A viewer without a PDF, whose saved plans stand on the disk all the same.
-std::unique_ptr<PdfDraw> MakeViewer(const Platform& platform) {
-  auto viewer = std::make_unique<FakePdfDraw>();
-  Disk& disk = platform.disk;
-  viewer->onWriteFile = [&disk](const QString& path, const QByteArray& content) {
-    return Files(disk).SaveText(path, QString::fromLatin1(content));
-  };
-  return viewer;
-}
-
-}  // namespace
 
 ProgramPlayed::ProgramPlayed(const Platform& platform)
-    : viewer_(MakeViewer(platform)), program_(std::make_unique<Program>(platform, *viewer_)) {}
+    : planFiles_(platform.disk),
+      viewer_(std::make_unique<MuPdfDraw>(planFiles_)),
+      program_(std::make_unique<Program>(platform, *viewer_)) {}
 
 ProgramPlayed::~ProgramPlayed() = default;
 
 PlanPictures* ProgramPlayed::Pictures() {
-  return dynamic_cast<PlanPictures*>(viewer_.get());
+  return viewer_.get();
 }
 
 void ProgramPlayed::Start() {

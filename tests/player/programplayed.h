@@ -2,7 +2,8 @@
 
 #include <memory>
 
-#include "plans/planpictures.h"
+#include "common/files.h"
+#include "plans/mupdfdraw.h"
 #include "player/played.h"
 #include "program/program.h"
 
@@ -16,7 +17,7 @@ class ProgramPlayed : public Played {
 
   Program& GetProgram() { return *program_; }
 
-  // The viewer as pictures for a window; nullptr when it paints nothing.
+  // The viewer as pictures for a window.
   PlanPictures* Pictures();
 
   void Start() override;
@@ -30,7 +31,8 @@ class ProgramPlayed : public Played {
   Form* Shell() override;
 
  private:
-  std::unique_ptr<PdfDraw> viewer_;
+  Files planFiles_;  // of the viewer, which knows no forms
+  std::unique_ptr<MuPdfDraw> viewer_;
   std::unique_ptr<Program> program_;
 };
 

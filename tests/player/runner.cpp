@@ -107,8 +107,8 @@ void Runner::TakeDown() {
 // told No goes on.
 void Runner::Stop() {
   Played& program = Program();
-  if (Form* shell = program.Shell(); shell != nullptr && shell->Visible()) stage_.CloseBox(*shell);
   const auto asked = machine_.messages.texts.size();
+  if (Form* shell = program.Shell(); shell != nullptr && shell->Visible()) stage_.CloseBox(*shell);
   while (program.Running() && machine_.messages.texts.size() == asked) {
     const std::vector<Form*>& open = program.GetDesk().FrontToBack();
     if (open.empty()) break;

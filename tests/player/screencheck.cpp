@@ -11,6 +11,7 @@
 #include "common/form.h"
 #include "player/caret.h"
 #include "player/values.h"
+#include "windows/swatchpatch.h"
 
 namespace tamo::player {
 namespace {
@@ -64,8 +65,11 @@ QString CheckRows(const OrderedList& list, QWidget& widget) {
 }
 
 QString CheckCaption(const Captioned& control, QWidget& widget) {
-  if (const auto* label = qobject_cast<QLabel*>(&widget))
-    return Differs(control.FullName(), "its caption", control.Caption(), label->text());
+  if (const auto* label = qobject_cast<QLabel*>(&widget)) {
+    QString text = label->text();
+    if (label->buddy() != nullptr) text.replace(QLatin1String("&&"), QLatin1String("&"));
+    return Differs(control.FullName(), "its caption", control.Caption(), text);
+  }
   const auto* button = qobject_cast<QAbstractButton*>(&widget);
   if (button == nullptr) return {};
   QString wrong = Differs(control.FullName(), "its caption", control.Caption(), button->text());
@@ -77,6 +81,18 @@ QString CheckCaption(const Captioned& control, QWidget& widget) {
     wrong = Differs(control.FullName(), "its choice", TrueOrFalse(option->Selected()),
                     TrueOrFalse(button->isChecked()));
   return wrong;
+}
+
+QString CheckSwatch(const Swatch& swatch, QWidget& widget) {
+  const auto* patch = dynamic_cast<const SwatchPatch*>(&widget);
+  if (patch == nullptr) return {};
+  QString wrong = Differs(swatch.FullName(), "its colour", swatch.Colour(), patch->Colour());
+  if (wrong.isEmpty())
+    wrong = Differs(swatch.FullName(), "its width", QString::number(swatch.Width()),
+                    QString::number(patch->LineWidth()));
+  return wrong.isEmpty()
+             ? Differs(swatch.FullName(), "its caption", swatch.Caption(), patch->Caption())
+             : wrong;
 }
 
 QString CheckControl(const Control& control, QWidget& widget, QWidget& window) {
@@ -91,6 +107,8 @@ QString CheckControl(const Control& control, QWidget& widget, QWidget& window) {
     return CheckField(*field, widget);
   if (const auto* list = dynamic_cast<const OrderedList*>(&control))
     return CheckRows(*list, widget);
+  if (const auto* swatch = dynamic_cast<const Swatch*>(&control))
+    return CheckSwatch(*swatch, widget);
   if (const auto* captioned = dynamic_cast<const Captioned*>(&control))
     return CheckCaption(*captioned, widget);
   return {};
@@ -100,10 +118,10 @@ QString CheckMenus(WindowKeeper& keeper, const Form& form) {
   for (const MenuEntry* entry : form.Menus()) {
     const QAction* action = keeper.ActionOf(*entry);
     if (action == nullptr || entry->IsPopup()) continue;
-    QString wrong = Differs(entry->FullName(), "its caption", entry->Caption(), action->text());
-    if (wrong.isEmpty())
-      wrong = Differs(entry->FullName(), "shown", TrueOrFalse(entry->Shown()),
-                      TrueOrFalse(action->isVisible()));
+    QString wrong = Differs(entry->FullName(), "shown", TrueOrFalse(entry->Shown()),
+                            TrueOrFalse(action->isVisible()));
+    if (wrong.isEmpty() && entry->Shown())
+      wrong = Differs(entry->FullName(), "its caption", entry->Caption(), action->text());
     if (wrong.isEmpty() && entry->Shown())
       wrong = Differs(entry->FullName(), "enabled", TrueOrFalse(entry->Enabled()),
                       TrueOrFalse(action->isEnabled()));
@@ -130,7 +148,7 @@ QString CheckForm(WindowKeeper& keeper, const Form& form) {
 
 QString CheckFocus(WindowKeeper& keeper, Desk& desk) {
   const Form* active = desk.Active();
-  if (active == nullptr || QApplication::activeWindow() == nullptr) return {};
+  if (active == nullptr || QApplication::activePopupWidget() != nullptr) return {};
   const QWidget* window = keeper.WindowOf(*active);
   if (QApplication::activeWindow() != window)
     return QStringLiteral("the window of %1 is not the active one").arg(active->Name());

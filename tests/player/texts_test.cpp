@@ -28,7 +28,8 @@ TEST(Caret, ATabAndItsSignAreTheSame) {
 TEST(Lines, ATextIsItsLines) {
   EXPECT_EQ(ShownLines(QString()), QStringList());
   EXPECT_EQ(ShownLines(QStringLiteral("a\r\nb")), QStringList({"a", "b"}));
-  EXPECT_EQ(ShownLines(QStringLiteral("a\r\n")), QStringList({"a", ""}));
+  EXPECT_EQ(ShownLines(QStringLiteral("a\r\n")), QStringList({"a"}));
+  EXPECT_EQ(ShownLines(QStringLiteral("a\r\n\r\n")), QStringList({"a", ""}));
   EXPECT_EQ(ShownLines(QStringLiteral("a\rb\nc")), QStringList({"a^Mb^Jc"}));
 }
 

@@ -59,6 +59,8 @@ ToyProgram::ToyProgram(const Platform& platform)
                                                                             : QStringLiteral("no"));
   };
   Divide_.onClick = [] { Divided(1, 0, QStringLiteral("The toy divides by zero.")); };
+  picPdfDraw_.takesFocus = true;
+  viewer_.onMousePressed = [this] { desk_.Focus(picPdfDraw_); };
   Quit_.onClick = [this] { toy_.Hide(); };
   Box_.Hide();
 }

@@ -91,13 +91,17 @@ void SendDoubleClick(QWidget& widget, QPointF at) {
   SendRelease(widget, at, Qt::LeftButton);
 }
 
-QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name) {
+QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name, Spot spot) {
   QWidget* window = widget.window();
   const QRect seen = area.intersected(widget.rect());
   if (!widget.isVisible() || seen.isEmpty())
     Fail(QStringLiteral("a person can't see %1 in its window").arg(name));
   const int inset = 3;
-  const QPoint places[] = {seen.center(), QPoint(seen.left() + inset, seen.center().y()),
+  const int box = 9;  // the middle of a check box at the widget's left edge
+  const QPoint start(seen.left() + box, seen.center().y());
+  const QPoint end = seen.bottomRight() - QPoint(inset, inset);
+  const QPoint first = spot == Spot::Start ? start : spot == Spot::End ? end : seen.center();
+  const QPoint places[] = {first, seen.center(), start,
                            QPoint(seen.right() - inset, seen.center().y()),
                            QPoint(seen.left() + inset, seen.top() + inset)};
   QWidget* over = nullptr;

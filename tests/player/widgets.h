@@ -26,9 +26,13 @@ void SendRelease(QWidget& widget, QPointF at, Qt::MouseButton button);
 void SendClick(QWidget& widget, QPointF at, Qt::MouseButton button);
 void SendDoubleClick(QWidget& widget, QPointF at);
 
-// A place within `area` of the widget that no other widget covers. Fails when there is none: `name`
-// says whose.
-QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name);
+// Where a person clicks: in the middle of most things, on the box of a check box, behind a text.
+enum class Spot { Middle, Start, End };
+
+// A place within `area` of the widget that no other widget covers, at `spot` when that is open.
+// Fails when there is none: `name` says whose.
+QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name,
+                  Spot spot = Spot::Middle);
 
 // Chooses an action through the menus above it, or on a pop-up that is open, by mouse and keys.
 void ChooseAction(QWidget& window, QAction& action, const QList<QAction*>& above);

@@ -1,9 +1,14 @@
 #include "player/windowsstage.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QPixmap>
+#include <QRadioButton>
 #include <QTest>
+#include <QTextStream>
+#include <QToolButton>
 
 #include "common/desk.h"
 #include "player/formsstage.h"
@@ -16,12 +21,21 @@
 namespace tamo::player {
 namespace {
 
+// What a platform without a screen can't do is no matter of the program.
+void SayWhatMatters(QtMsgType, const QMessageLogContext&, const QString& text) {
+  if (text.startsWith(QStringLiteral("This plugin does not support")) ||
+      text.startsWith(QStringLiteral("QStandardPaths")))
+    return;
+  QTextStream(stderr) << text << '\n';
+}
+
 class WindowsStage : public Stage {
  public:
   WindowsStage() {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
       qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(SayWhatMatters);
     application_ = std::make_unique<QApplication>(argumentCount_, arguments_);
     QApplication::setQuitOnLastWindowClosed(false);
   }
@@ -60,13 +74,17 @@ class WindowsStage : public Stage {
 
  private:
   Desk& GetDesk() const { return played_->GetDesk(); }
-  QWidget& GoTo(const Form& form);  // its window, in front and active
+  QWidget& GoTo(const Form& form, bool settled = true);  // its window, in front and active
   QWidget& Target(const Control& control);
   QPointF PlaceOf(const Control& control);
   QPointF PlaceOfRow(const OrderedList& list, int row);
   QWidget& FocusWidget() const;
   QWidget& Plan();
+  void PressOnPlan(PagePoint from, PagePoint to);
+  // Clicks the button of the plan's own tool bar; false when there is none.
+  bool ClickTool(const QString& caption);
   void TakeTool(int mode);
+  void GiveBackActivation();
 
   int argumentCount_ = 1;
   char name_[15] = "tamo_scenario";
@@ -88,7 +106,9 @@ void WindowsStage::Strike() {
   Settle();
 }
 
-QWidget& WindowsStage::GoTo(const Form& form) {
+// A click on what takes the focus comes right behind the activation that it causes; the program
+// hears of the click alone. Before any other click it hears of the window first.
+QWidget& WindowsStage::GoTo(const Form& form, bool settled) {
   keeper_->SyncNow();
   QWidget* window = keeper_->WindowOf(form);
   if (window == nullptr || !window->isVisible())
@@ -96,7 +116,9 @@ QWidget& WindowsStage::GoTo(const Form& form) {
   if (!window->isActiveWindow()) {
     window->raise();
     window->activateWindow();
-    (void)QTest::qWaitForWindowActive(window, 1000);
+    for (int i = 0; i < 20 && !window->isActiveWindow(); ++i) QCoreApplication::processEvents();
+    if (!window->isActiveWindow()) (void)QTest::qWaitForWindowActive(window, 1000);
+    if (!settled) return *window;
     keeper_->SyncNow();
     Settle();
   }
@@ -104,7 +126,7 @@ QWidget& WindowsStage::GoTo(const Form& form) {
 }
 
 QWidget& WindowsStage::Target(const Control& control) {
-  GoTo(control.Owner());
+  GoTo(control.Owner(), !control.takesFocus);
   QWidget* widget = keeper_->ClickTarget(control);
   if (widget == nullptr)
     Fail(QStringLiteral("%1 has no widget in its window").arg(control.FullName()));
@@ -113,7 +135,12 @@ QWidget& WindowsStage::Target(const Control& control) {
 
 QPointF WindowsStage::PlaceOf(const Control& control) {
   QWidget& widget = Target(control);
-  return OpenPlace(widget, widget.rect(), control.FullName());
+  Spot spot = Spot::Middle;
+  if (dynamic_cast<const TextField*>(&control) != nullptr) spot = Spot::End;
+  if (qobject_cast<QCheckBox*>(&widget) != nullptr ||
+      qobject_cast<QRadioButton*>(&widget) != nullptr)
+    spot = Spot::Start;
+  return OpenPlace(widget, widget.rect(), control.FullName(), spot);
 }
 
 QPointF WindowsStage::PlaceOfRow(const OrderedList& list, int row) {
@@ -146,7 +173,7 @@ void WindowsStage::ChooseMenu(MenuEntry& entry) {
 
 // As the letter underlined in a label does.
 void WindowsStage::Focus(Control& control) {
-  GoTo(control.Owner());
+  GoTo(control.Owner(), false);
   QWidget* widget = keeper_->WidgetOf(control);
   if (widget == nullptr) Fail(QStringLiteral("%1 has no widget").arg(control.FullName()));
   widget->setFocus(Qt::ShortcutFocusReason);
@@ -266,29 +293,46 @@ void WindowsStage::TakeTool(int mode) {
   if (played_->Viewer().Tool() != mode) PlanMode(mode);
 }
 
+bool WindowsStage::ClickTool(const QString& caption) {
+  for (auto* button : Plan().window()->findChildren<QToolButton*>()) {
+    if (!button->isVisible() || button->text() != caption) continue;
+    SendClick(*button, OpenPlace(*button, button->rect(), caption), Qt::LeftButton);
+    return true;
+  }
+  return false;
+}
+
+void WindowsStage::PressOnPlan(PagePoint from, PagePoint to) {
+  auto* area = qobject_cast<QAbstractScrollArea*>(&Plan());
+  QWidget& sheet = area == nullptr ? Plan() : *area->viewport();
+  SendPress(sheet, keeper_->PlanPlace(from), Qt::LeftButton);
+  const QPointF end = keeper_->PlanPlace(to);
+  if (from.x != to.x || from.y != to.y) SendMove(sheet, end, Qt::LeftButton);
+  SendRelease(sheet, end, Qt::LeftButton);
+}
+
 void WindowsStage::PlanMode(int mode) {
-  Plan();
+  static const QString captions[] = {QStringLiteral("Move"), QStringLiteral("Measure"),
+                                     QStringLiteral("Count")};
+  if (ClickTool(captions[mode])) return;
   GetDesk().Dispatch([&] { played_->Viewer().PickTool(mode); });
 }
 
 void WindowsStage::PlanLine(PagePoint from, PagePoint to) {
-  QWidget& plan = Plan();
+  Plan();
   TakeTool(PdfDraw::Measuring);
-  SendPress(plan, keeper_->PlanPlace(from), Qt::LeftButton);
-  const QPointF end = keeper_->PlanPlace(to);
-  SendMove(plan, end, Qt::LeftButton);
-  SendRelease(plan, end, Qt::LeftButton);
+  PressOnPlan(from, to);
 }
 
 void WindowsStage::PlanCircle(PagePoint at) {
-  QWidget& plan = Plan();
+  Plan();
   TakeTool(PdfDraw::Counting);
-  SendClick(plan, keeper_->PlanPlace(at), Qt::LeftButton);
+  PressOnPlan(at, at);
 }
 
 void WindowsStage::PlanPress(PagePoint at) {
-  QWidget& plan = Plan();
-  SendClick(plan, keeper_->PlanPlace(at), Qt::LeftButton);
+  Plan();
+  PressOnPlan(at, at);
 }
 
 void WindowsStage::PlanKey(const PlanStroke& stroke) {
@@ -310,6 +354,7 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
   }
 }
 
+// The wheel and the mouse move whole pixels; a scenario means points.
 void WindowsStage::PlanScroll(double dx, double dy) {
   Plan();
   GetDesk().Dispatch([&] { played_->Viewer().ScrollBy(dx, dy); });
@@ -320,10 +365,22 @@ void WindowsStage::PlanPage(int page) {
   GetDesk().Dispatch([&] { played_->Viewer().TurnPage(page); });
 }
 
+// On a platform without a screen a menu that closes leaves no window active; a window system gives
+// that back to the window that had it.
+void WindowsStage::GiveBackActivation() {
+  const Form* active = GetDesk().Active();
+  if (active == nullptr || QApplication::activePopupWidget() != nullptr) return;
+  QWidget* window = keeper_->WindowOf(*active);
+  if (window == nullptr || !window->isVisible() || window->isActiveWindow()) return;
+  window->activateWindow();
+  Settle();
+}
+
 QString WindowsStage::Difference() {
   Settle();
   keeper_->SyncNow();
   Settle();
+  GiveBackActivation();
   return FirstDifference(*keeper_, GetDesk());
 }
 

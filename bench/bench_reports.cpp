@@ -1,0 +1,182 @@
+#include <benchmark/benchmark.h>
+
+#include <QByteArray>
+#include <QTemporaryDir>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "common/disk.h"
+#include "common/files.h"
+#include "common/paths.h"
+#include "reports/bill.h"
+#include "reports/breakdown.h"
+#include "reports/copies.h"
+#include "reports/quantities.h"
+#include "reports/recap.h"
+
+// How long the reports take beside plainly reading the files that they are made from. Compare
+// within one run: BM_Recap with BM_PlainReading of the same rooms, and each report at ten times the
+// lines.
+
+namespace {
+
+using namespace tamo;
+
+constexpr int kSystems = 150;
+constexpr int kMaterials = 5;
+constexpr int kLinesOfRoom = 20;
+
+std::string Padded(std::string text, size_t width, bool right) {
+  const std::string blanks(width > text.size() ? width - text.size() : 0, ' ');
+  return right ? blanks + text : text + blanks;
+}
+
+std::string SystemName(int n) {
+  return "System " + std::to_string(n);
+}
+
+// A project in a temporary folder; the same for the same size.
+class Project {
+ public:
+  explicit Project(int rooms) : rooms_(rooms) {
+    namespace fs = std::filesystem;
+    const fs::path folder(temporary_.path().toStdString());
+    for (const char* part : {"Rooms", "Systems", "ATOs"}) fs::create_directories(folder / part);
+    for (int s = 0; s < kSystems; ++s) WriteSystem(folder, s);
+    std::ofstream list(folder / "Rooms/Rooms.tamo", std::ios::binary);
+    int next = 1;
+    for (int r = 0; r < rooms; ++r) {
+      list << "Room " << r << "\r\nTrue\r\n";
+      std::ofstream room(folder / ("Rooms/Room " + std::to_string(r) + ".rfs"), std::ios::binary);
+      room << "9\r\n";
+      for (int l = 0; l < kLinesOfRoom; ++l) {
+        next = (next * 1103 + 12345) % 99991;
+        room << Padded(SystemName(next % kSystems), 21, false) << Padded("WALLS", 11, false)
+             << Padded(std::to_string(1000 + next) + ".25", 14, true) << " SF\r\n";
+      }
+    }
+    Write(folder / "oItems.tamo", "Mobilization           1850.00\r\n");
+    Write(folder / "Adjustment.tamo", "-1250\r\n");
+    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+      if (entry.is_regular_file()) paths_ += QString::fromStdString(entry.path().string());
+    }
+  }
+
+  ReportSource Source() {
+    return {files_, temporary_.path() + PlatformSeparator(), PlatformSeparator(), &colour_, {},
+            false};
+  }
+  const QStringList& Paths() const { return paths_; }
+  Files& GetFiles() { return files_; }
+  RealDisk& GetDisk() { return disk_; }
+
+ private:
+  static void Write(const std::filesystem::path& path, const std::string& text) {
+    std::ofstream(path, std::ios::binary) << text;
+  }
+
+  static void WriteSystem(const std::filesystem::path& folder, int number) {
+    std::ofstream file(folder / ("Systems/" + SystemName(number) + ".sys"), std::ios::binary);
+    file << SystemName(number) << "\r\nSF\r\n0.00\r\n255000000\r\n\r\n\x01\r\n\r\n\r\n";
+    for (int m = 0; m < kMaterials; ++m) {
+      file << "Material " << number % 40 << "-" << m << "\r\nBX\r\n"
+           << 12 + m << ".50\r\n32\r\nupo\r\n45\r\nupm\r\n5\r\n41.50\r\n\r\n\r\n\r\n";
+    }
+  }
+
+  QTemporaryDir temporary_;
+  RealDisk disk_;
+  Files files_{disk_};
+  QString colour_;
+  QStringList paths_;
+  int rooms_;
+};
+
+Project& ProjectOf(int rooms) {
+  static std::map<int, std::unique_ptr<Project>> projects;
+  std::unique_ptr<Project>& project = projects[rooms];
+  if (!project) project = std::make_unique<Project>(rooms);
+  return *project;
+}
+
+MarkupTexts Markups() {
+  MarkupTexts texts;
+  texts.LOH = texts.MOH = texts.BLOH = QStringLiteral(".08");
+  texts.LMU = texts.MMU = texts.BLMU = QStringLiteral(".10");
+  texts.LTX = texts.MTX = texts.MIOH = QStringLiteral(".0725");
+  return texts;
+}
+
+void BM_PlainBytes(benchmark::State& state) {
+  Project& project = ProjectOf(static_cast<int>(state.range(0)));
+  for (auto _ : state) {
+    for (const QString& path : project.Paths()) {
+      QByteArray bytes;
+      project.GetDisk().Read(path, bytes);
+      benchmark::DoNotOptimize(bytes);
+    }
+  }
+}
+
+void BM_PlainReading(benchmark::State& state) {
+  Project& project = ProjectOf(static_cast<int>(state.range(0)));
+  for (auto _ : state) {
+    for (const QString& path : project.Paths()) {
+      QStringList lines;
+      project.GetFiles().ReadLines(path, lines);
+      benchmark::DoNotOptimize(lines);
+    }
+  }
+}
+
+template <typename MakeReport>
+void Run(benchmark::State& state, MakeReport make) {
+  Project& project = ProjectOf(static_cast<int>(state.range(0)));
+  const ReportSource source = project.Source();
+  for (auto _ : state) {
+    const Report report = make(source);
+    benchmark::DoNotOptimize(report);
+  }
+  state.counters["lines"] = static_cast<double>(state.range(0)) * kLinesOfRoom;
+}
+
+void BM_Recap(benchmark::State& state) {
+  QString adjustment;
+  Run(state, [&](const ReportSource& source) {
+    return MinimalRecapSheet(source, Markups(), false, adjustment);
+  });
+}
+void BM_Quantities(benchmark::State& state) {
+  Run(state, [](const ReportSource& source) { return Quantities(source); });
+}
+void BM_BreakDown(benchmark::State& state) {
+  QString adjustment;
+  Run(state, [&](const ReportSource& source) {
+    return BreakDown(MakeBreak(source, Markups(), adjustment));
+  });
+}
+void BM_BillofMaterial(benchmark::State& state) {
+  Run(state, [](const ReportSource& source) { return BillofMaterial(source); });
+}
+void BM_FieldCopy(benchmark::State& state) {
+  Run(state, [](const ReportSource& source) { return FieldCopy(source); });
+}
+void BM_OfficeCopy(benchmark::State& state) {
+  Run(state, [](const ReportSource& source) { return OfficeCopy(source, Markups()); });
+}
+
+// 500 rooms are 10,000 lines, 5,000 rooms 100,000; 1,000 and 10,000 rooms are the recap's own pair.
+#define TAMO_SIZES Arg(500)->Arg(1000)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond)
+BENCHMARK(BM_PlainBytes)->TAMO_SIZES;
+BENCHMARK(BM_PlainReading)->TAMO_SIZES;
+BENCHMARK(BM_Recap)->TAMO_SIZES;
+BENCHMARK(BM_Quantities)->TAMO_SIZES;
+BENCHMARK(BM_BreakDown)->TAMO_SIZES;
+BENCHMARK(BM_BillofMaterial)->TAMO_SIZES;
+BENCHMARK(BM_FieldCopy)->TAMO_SIZES;
+BENCHMARK(BM_OfficeCopy)->TAMO_SIZES;
+
+}  // namespace

@@ -1,0 +1,165 @@
+#include "plans/markpdf.h"
+
+#include <QDateTime>
+#include <algorithm>
+#include <cmath>
+
+#include "plans/markshape.h"
+#include "plans/pdfappend.h"
+
+namespace tamo {
+namespace {
+
+// The rectangle in the page's own coordinates that holds all points given to it.
+struct Box {
+  double left = 1e9, bottom = 1e9, right = -1e9, top = -1e9;
+
+  void Take(PagePoint at, double around) {
+    left = std::min(left, at.x - around);
+    right = std::max(right, at.x + around);
+    bottom = std::min(bottom, at.y - around);
+    top = std::max(top, at.y + around);
+  }
+  QByteArray Text() const {
+    return '[' + PdfNumber(left) + ' ' + PdfNumber(bottom) + ' ' + PdfNumber(right) + ' ' +
+           PdfNumber(top) + ']';
+  }
+};
+
+QByteArray Pair(PagePoint at) {
+  return PdfNumber(at.x) + ' ' + PdfNumber(at.y);
+}
+
+QByteArray ColourParts(const QString& code) {
+  const unsigned colour = ColourNumber(code);
+  return PdfNumber((colour >> 16 & 255) / 255.0) + ' ' + PdfNumber((colour >> 8 & 255) / 255.0) +
+         ' ' + PdfNumber((colour & 255) / 255.0);
+}
+
+// The four corners of the label on the page, from its base line's start on.
+void TakeText(const MarkShape& shape, const PageMap& map, Box& box) {
+  const double c = std::cos(shape.textAngle);
+  const double s = std::sin(shape.textAngle);
+  for (const double along : {-shape.textWidth / 2, shape.textWidth / 2}) {
+    for (const double up : {-0.25 * shape.textSize, shape.textSize}) {
+      box.Take(
+          map.ToFile({shape.textAt.x + along * c + up * s, shape.textAt.y + along * s - up * c}),
+          0);
+    }
+  }
+}
+
+// A text matrix turns the letters the way the page's own coordinates lie to the page looked at.
+QByteArray TextPart(const MarkShape& shape, const PageMap& map) {
+  if (shape.text.isEmpty()) return {};
+  const double c = std::cos(shape.textAngle);
+  const double s = std::sin(shape.textAngle);
+  const PagePoint zero = map.ToFile({0, 0});
+  const PagePoint right = map.ToFile({c, s});
+  const PagePoint up = map.ToFile({s, -c});
+  const PagePoint start = map.ToFile(
+      {shape.textAt.x - shape.textWidth / 2 * c, shape.textAt.y - shape.textWidth / 2 * s});
+  return "BT /F1 " + PdfNumber(shape.textSize) + " Tf " + PdfNumber(right.x - zero.x) + ' ' +
+         PdfNumber(right.y - zero.y) + ' ' + PdfNumber(up.x - zero.x) + ' ' +
+         PdfNumber(up.y - zero.y) + ' ' + Pair(start) + " Tm " + PdfLetters(shape.text) +
+         " Tj ET\n";
+}
+
+QByteArray CirclePart(PagePoint centre, double radius) {
+  constexpr double kArc = 0.5522847498;
+  const double r = radius;
+  const double k = radius * kArc;
+  const double x = centre.x;
+  const double y = centre.y;
+  const auto curve = [](double x1, double y1, double x2, double y2, double x3, double y3) {
+    return Pair({x1, y1}) + ' ' + Pair({x2, y2}) + ' ' + Pair({x3, y3}) + " c\n";
+  };
+  return Pair({x + r, y}) + " m\n" + curve(x + r, y + k, x + k, y + r, x, y + r) +
+         curve(x - k, y + r, x - r, y + k, x - r, y) + curve(x - r, y - k, x - k, y - r, x, y - r) +
+         curve(x + k, y - r, x + r, y - k, x + r, y) + "s\n";
+}
+
+// How a reader measures along the line: units of the label for one own unit of the page.
+QByteArray Measure(const Mark& mark, double unit) {
+  const qsizetype blank = mark.label.indexOf(QLatin1Char(' '));
+  const double length = QString(mark.label.left(blank)).remove(QLatin1Char(',')).toDouble();
+  const double drawn = Distance(mark.points.front(), mark.points.back()) / unit;
+  QString name = blank < 0 ? QString() : mark.label.mid(blank + 1);
+  QString ratio = name;
+  if (const qsizetype at = name.indexOf(QLatin1String(" @ ")); at >= 0) {
+    ratio = name.mid(at + 3);
+    name.truncate(at);
+  }
+  if (name == QLatin1String("feet")) name = QStringLiteral("ft");
+  const double factor = drawn > 0 && length > 0 ? length / drawn : unit / 72;
+  const QByteArray format = "[<</Type/NumberFormat/U" + PdfText(name) + "/C " +
+                            QByteArray::number(factor, 'f', 8) + "/D 10/F/D>>]";
+  return "/Measure<</Type/Measure/Subtype/RL/R" + PdfText(ratio) + "/X" + format + "/D" + format +
+         "/A" + format + ">>";
+}
+
+QByteArray Common(const Mark& mark, double width, const Box& box) {
+  const QByteArray date =
+      "(D:" +
+      QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddHHmmss")).toLatin1() + "Z)";
+  return "/Type/Annot/Rect" + box.Text() + "/NM" + PdfText(mark.name) + "/F 4/C[" +
+         ColourParts(mark.colour) + "]/BS<</Type/Border/W " + PdfNumber(width) +
+         "/S/S>>/T(Tamo)/M" + date + "/CreationDate" + date;
+}
+
+}  // namespace
+
+PagePoint PageMap::ToFile(PagePoint at) const {
+  const double whole = a * d - b * c;
+  if (whole == 0) return at;
+  const double x = at.x - e;
+  const double y = at.y - f;
+  return {(d * x - c * y) / whole, (a * y - b * x) / whole};
+}
+
+double PageMap::Unit() const {
+  const double unit = std::hypot(a, b);
+  return unit > 0 ? unit : 1;
+}
+
+MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
+  const MarkShape shape = ShapeOf(mark, markerSize);
+  const double width = shape.width / map.Unit();
+  MarkObjects objects;
+  Box box;
+  objects.formContent = ColourParts(mark.colour) + " RG " + ColourParts(mark.colour) + " rg " +
+                        PdfNumber(width) + " w\n";
+  if (shape.circle) {
+    const PagePoint centre = map.ToFile(shape.centre);
+    const double radius = shape.radius / map.Unit();
+    box.Take(centre, radius + width / 2);
+    objects.formContent += CirclePart(centre, radius);
+    objects.annotation = "/Subtype/Circle/Contents" + PdfText(QStringLiteral("Count"));
+  } else {
+    for (const MarkShape::Stroke& stroke : shape.strokes) {
+      const PagePoint from = map.ToFile(stroke.from);
+      const PagePoint to = map.ToFile(stroke.to);
+      box.Take(from, width);
+      box.Take(to, width);
+      objects.formContent += Pair(from) + " m " + Pair(to) + " l S\n";
+    }
+    TakeText(shape, map, box);
+    objects.formContent += TextPart(shape, map);
+    objects.annotation = "/Subtype/Line/L[" + Pair(map.ToFile(mark.points.front())) + ' ' +
+                         Pair(map.ToFile(mark.points.back())) +
+                         "]/LE[/Butt/Butt]/IT/LineDimension/Cap true/Contents" +
+                         PdfText(mark.label) + Measure(mark, map.Unit());
+  }
+  objects.annotation += Common(mark, width, box);
+  objects.formEntries = "/Type/XObject/Subtype/Form/BBox" + box.Text() +
+                        "/Resources<</Font<</F1<</Type/Font/Subtype/Type1/BaseFont/Helvetica"
+                        "/Encoding/WinAnsiEncoding>>>>>>";
+  return objects;
+}
+
+QByteArray MarkAnnotation(const MarkObjects& objects, const QByteArray& page, int form) {
+  return "<<" + objects.annotation + "/P " + page + "/AP<</N " + QByteArray::number(form) +
+         " 0 R>>>>";
+}
+
+}  // namespace tamo

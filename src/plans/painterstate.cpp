@@ -1,0 +1,283 @@
+#include "plans/painterstate.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+namespace tamo {
+namespace {
+
+constexpr size_t kMostLists = 3;
+constexpr size_t kMostCoarse = 6;
+constexpr size_t kMostTilePixels = size_t(32) << 20;  // four bytes each
+constexpr size_t kMostThumbnails = 1000;
+constexpr auto kLongestRead = std::chrono::seconds(20);
+
+}  // namespace
+
+PixelRect PixelRect::Cut(const PixelRect& other) const {
+  return {std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
+          std::min(bottom, other.bottom)};
+}
+
+int ScaleKey(double pixelsPerPoint) {
+  return static_cast<int>(std::lround(pixelsPerPoint * 10000));
+}
+
+PixelRect WholePage(PageSize size, double pixelsPerPoint, int turn) {
+  const bool upright = turn == 0 || turn == 180;
+  const double width = (upright ? size.width : size.height) * pixelsPerPoint;
+  const double height = (upright ? size.height : size.width) * pixelsPerPoint;
+  const auto whole = [](double pixels) {
+    return static_cast<int>(std::clamp(std::ceil(pixels - 1e-3), 1.0, 2e9));
+  };
+  return {0, 0, whole(width), whole(height)};
+}
+
+PaintPart WholePart(PageSize size, int side) {
+  PaintPart part;
+  part.coarse = true;
+  part.pixelsPerPoint = side / std::max(size.width, size.height);
+  const PixelRect whole = WholePage(size, part.pixelsPerPoint, 0);
+  part.width = std::min(whole.right, side);
+  part.height = std::min(whole.bottom, side);
+  return part;
+}
+
+PlanView Sane(PlanView view) {
+  if (!std::isfinite(view.pixelsPerPoint)) view.pixelsPerPoint = 1;
+  view.pixelsPerPoint = std::clamp(view.pixelsPerPoint, 0.001, 200.0);
+  view.turn = ((view.turn % 360 + 360 + 45) % 360) / 90 * 90;
+  view.width = std::clamp(view.width, 0, 16384);
+  view.height = std::clamp(view.height, 0, 16384);
+  view.left = std::clamp(view.left, -16384, 2000000000);
+  view.top = std::clamp(view.top, -16384, 2000000000);
+  return view;
+}
+
+PageSize PlanPainter::State::SizeOf(int page) const {
+  if (page < 1 || static_cast<size_t>(page) > sizes.size()) return PageSize();
+  return sizes[static_cast<size_t>(page) - 1];
+}
+
+PixelRect PlanPainter::State::Visible(const PlanView& of) const {
+  const PixelRect seen = {of.left, of.top, of.left + of.width, of.top + of.height};
+  return seen.Cut(WholePage(SizeOf(of.page), of.pixelsPerPoint, of.turn));
+}
+
+std::vector<TileKey> PlanPainter::State::VisibleTiles(const PlanView& of) const {
+  std::vector<TileKey> keys;
+  const PixelRect seen = Visible(of);
+  if (seen.Empty()) return keys;
+  for (int row = seen.top / kTileSide; row <= (seen.bottom - 1) / kTileSide; ++row) {
+    for (int column = seen.left / kTileSide; column <= (seen.right - 1) / kTileSide; ++column) {
+      keys.push_back({of.page, ScaleKey(of.pixelsPerPoint), of.turn, column, row});
+    }
+  }
+  // From the middle of the view outwards.
+  const double x = (seen.left + seen.right) / 2.0 / kTileSide - 0.5;
+  const double y = (seen.top + seen.bottom) / 2.0 / kTileSide - 0.5;
+  const auto away = [&](const TileKey& key) { return std::hypot(key.column - x, key.row - y); };
+  std::sort(keys.begin(), keys.end(),
+            [&](const TileKey& a, const TileKey& b) { return away(a) < away(b); });
+  return keys;
+}
+
+PixelRect PlanPainter::State::WantedOf(const TileKey& key, const PlanView& of) const {
+  const PixelRect tile = {key.column * kTileSide, key.row * kTileSide, (key.column + 1) * kTileSide,
+                          (key.row + 1) * kTileSide};
+  return tile.Cut(Visible(of));
+}
+
+std::shared_ptr<PageList> PlanPainter::State::ListOf(int page) {
+  const auto found = std::find_if(lists.begin(), lists.end(),
+                                  [&](const auto& entry) { return entry.first == page; });
+  if (found == lists.end()) return nullptr;
+  lists.splice(lists.begin(), lists, found);
+  return lists.front().second;
+}
+
+bool PlanPainter::State::Working(PaintJob::Kind kind, int page) const {
+  return std::any_of(working.begin(), working.end(),
+                     [&](const PaintJob* job) { return job->kind == kind && job->page == page; });
+}
+
+bool PlanPainter::State::WorkingOn(const TileKey& key) const {
+  return std::any_of(working.begin(), working.end(), [&](const PaintJob* job) {
+    return job->kind == PaintJob::Kind::Sharp && job->tile == key;
+  });
+}
+
+bool PlanPainter::State::NextVisible(bool reads, PaintJob& job) {
+  if (!looking || failed.count(view.page) != 0) return false;
+  job.page = view.page;
+  job.list = ListOf(view.page);
+  if (job.list == nullptr) {
+    job.kind = PaintJob::Kind::Read;
+    return reads && !Working(PaintJob::Kind::Read, view.page);
+  }
+  if (coarse.count(view.page) == 0 && !Working(PaintJob::Kind::Coarse, view.page)) {
+    job.kind = PaintJob::Kind::Coarse;
+    job.part = WholePart(job.list->Size(), kCoarseSide);
+    return true;
+  }
+  for (const TileKey& key : VisibleTiles(view)) {
+    PixelRect wanted = WantedOf(key, view);
+    const auto there = tiles.find(key);
+    if (there != tiles.end() && there->second.covered.Holds(wanted)) continue;
+    if (WorkingOn(key)) continue;
+    // A part of the tile is there already, so the user has moved: the whole tile will be wanted.
+    if (there != tiles.end()) {
+      const PixelRect tile = {key.column * kTileSide, key.row * kTileSide,
+                              (key.column + 1) * kTileSide, (key.row + 1) * kTileSide};
+      wanted = tile.Cut(WholePage(SizeOf(view.page), view.pixelsPerPoint, view.turn));
+    }
+    job.kind = PaintJob::Kind::Sharp;
+    job.tile = key;
+    job.part = {
+        view.pixelsPerPoint,        view.turn, wanted.left, wanted.top, wanted.right - wanted.left,
+        wanted.bottom - wanted.top, false};
+    return true;
+  }
+  return false;
+}
+
+bool PlanPainter::State::NextPrint(bool reads, PaintJob& job) {
+  for (const auto& print : prints) {
+    if (print->taken) continue;
+    job.page = print->part.page;
+    job.list = ListOf(job.page);
+    if (job.list == nullptr) {
+      job.kind = PaintJob::Kind::Read;
+      if (reads && !Working(PaintJob::Kind::Read, job.page)) return true;
+      continue;
+    }
+    const PlanView& part = print->part;
+    job.kind = PaintJob::Kind::Print;
+    job.print = print;
+    job.part = {part.pixelsPerPoint, part.turn,   part.left, part.top,
+                part.width,          part.height, false};
+    print->taken = true;
+    return true;
+  }
+  return false;
+}
+
+bool PlanPainter::State::NextThumbnail(bool reads, PaintJob& job) {
+  for (auto wanted = wantedThumbnails.begin(); wanted != wantedThumbnails.end(); ++wanted) {
+    const int page = *wanted;
+    if (Working(PaintJob::Kind::Thumbnail, page)) continue;
+    job.list = ListOf(page);
+    if (job.list == nullptr && !reads) continue;
+    job.page = page;
+    job.kind = PaintJob::Kind::Thumbnail;
+    job.part = WholePart(SizeOf(page), thumbnailSide);
+    return true;
+  }
+  return false;
+}
+
+PaintJob PlanPainter::State::Next(bool reads) {
+  for (const auto find : {&State::NextVisible, &State::NextPrint, &State::NextThumbnail}) {
+    PaintJob job;
+    if (!(this->*find)(reads, job)) continue;
+    job.stop = std::make_shared<PaintStop>();
+    job.began = std::chrono::steady_clock::now();
+    return job;
+  }
+  return {};
+}
+
+void PlanPainter::State::Fail(int page) {
+  if (failed.insert(page).second) failedNews.push_back(page);
+  std::erase(wantedThumbnails, page);
+  for (const auto& print : prints) {
+    if (print->part.page == page) print->done = print->taken = true;
+  }
+}
+
+void PlanPainter::State::KeepTile(const TileKey& key, Tile tile) {
+  tiles[key] = std::move(tile);
+  size_t pixels = 0;
+  for (const auto& [other, there] : tiles) pixels += there.picture->pixels.size();
+  while (pixels > kMostTilePixels && tiles.size() > 1) {
+    const auto oldest = std::min_element(
+        tiles.begin(), tiles.end(), [](auto& a, auto& b) { return a.second.used < b.second.used; });
+    if (oldest->second.used == clock) break;  // all of them are being looked at
+    pixels -= oldest->second.picture->pixels.size();
+    tiles.erase(oldest);
+  }
+}
+
+void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<PageList> list,
+                              std::shared_ptr<const Picture> picture) {
+  const bool good = picture != nullptr || (job.kind == PaintJob::Kind::Read && list != nullptr);
+  if (list != nullptr && job.kind == PaintJob::Kind::Read) {
+    lists.emplace_front(job.page, std::move(list));
+    while (lists.size() > kMostLists) lists.pop_back();
+  }
+  const bool overdue = std::chrono::steady_clock::now() - job.began >= kLongestRead;
+  if (!good && (!job.stop->Stopped() || overdue)) Fail(job.page);
+  if (job.kind == PaintJob::Kind::Print) {
+    job.print->picture = picture;
+    job.print->done = true;
+  }
+  if (!good) return;
+  if (job.kind == PaintJob::Kind::Coarse) {
+    coarse[job.page] = picture;
+    coarseOrder.push_back(job.page);
+    while (coarseOrder.size() > kMostCoarse) {
+      coarse.erase(coarseOrder.front());
+      coarseOrder.pop_front();
+    }
+  } else if (job.kind == PaintJob::Kind::Sharp) {
+    const PaintPart& part = job.part;
+    KeepTile(
+        job.tile,
+        {{part.left, part.top, part.left + part.width, part.top + part.height}, picture, clock});
+  } else if (job.kind == PaintJob::Kind::Thumbnail) {
+    std::erase(wantedThumbnails, job.page);
+    if (thumbnails.size() >= kMostThumbnails) thumbnails.erase(thumbnails.begin());
+    thumbnails[job.page] = picture;
+  }
+}
+
+// Stops what the view in force does not want. A page that is being read for a print goes on.
+void PlanPainter::State::StopStale() {
+  const std::vector<TileKey> wanted = VisibleTiles(view);
+  for (PaintJob* job : working) {
+    bool stale = false;
+    if (job->kind == PaintJob::Kind::Read) {
+      stale = job->page != view.page &&
+              std::none_of(prints.begin(), prints.end(),
+                           [&](auto& print) { return print->part.page == job->page; });
+    } else if (job->kind == PaintJob::Kind::Coarse) {
+      stale = job->page != view.page;
+    } else if (job->kind == PaintJob::Kind::Sharp) {
+      stale = std::find(wanted.begin(), wanted.end(), job->tile) == wanted.end();
+    } else if (job->kind == PaintJob::Kind::Thumbnail) {
+      stale = ListOf(view.page) == nullptr;  // the visible page has to be read first
+    }
+    if (stale) job->stop->Stop();
+  }
+}
+
+void PlanPainter::State::StopOverdue() {
+  const auto now = std::chrono::steady_clock::now();
+  for (PaintJob* job : working) {
+    if (now - job->began >= kLongestRead) job->stop->Stop();
+  }
+}
+
+bool PlanPainter::State::Sharp() {
+  if (!wantedThumbnails.empty()) return false;
+  if (!looking || failed.count(view.page) != 0) return true;
+  if (coarse.count(view.page) == 0) return false;
+  for (const TileKey& key : VisibleTiles(view)) {
+    const auto there = tiles.find(key);
+    if (there == tiles.end() || !there->second.covered.Holds(WantedOf(key, view))) return false;
+  }
+  return true;
+}
+
+}  // namespace tamo

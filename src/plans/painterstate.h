@@ -1,0 +1,128 @@
+#pragma once
+
+// The inside of PlanPainter: what is there, what is wanted, and which job comes next. Everything is
+// guarded by the one mutex; nothing here paints.
+
+#include <chrono>
+#include <compare>
+#include <condition_variable>
+#include <deque>
+#include <list>
+#include <map>
+#include <mutex>
+#include <set>
+
+#include "plans/pagepainter.h"
+#include "plans/planpainter.h"
+
+namespace tamo {
+
+struct PixelRect {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+  bool Empty() const { return left >= right || top >= bottom; }
+  bool Holds(const PixelRect& other) const {
+    return left <= other.left && top <= other.top && right >= other.right && bottom >= other.bottom;
+  }
+  PixelRect Cut(const PixelRect& other) const;
+};
+
+struct TileKey {
+  int page = 0;
+  int scale = 0;  // pixels per point in ten-thousandths
+  int turn = 0;
+  int column = 0;
+  int row = 0;
+  auto operator<=>(const TileKey&) const = default;
+};
+
+struct Tile {
+  PixelRect covered;
+  std::shared_ptr<const Picture> picture;
+  unsigned used = 0;
+};
+
+struct PrintJob {
+  PlanView part;
+  std::shared_ptr<const Picture> picture;
+  bool taken = false;
+  bool done = false;
+};
+
+struct PaintJob {
+  enum class Kind { None, Read, Coarse, Sharp, Thumbnail, Print };
+  Kind kind = Kind::None;
+  int page = 0;
+  TileKey tile;
+  PaintPart part;
+  std::shared_ptr<PageList> list;
+  std::shared_ptr<PrintJob> print;
+  std::shared_ptr<PaintStop> stop;
+  std::chrono::steady_clock::time_point began;
+};
+
+struct PlanPainter::State {
+  std::shared_ptr<MuWorld> world;
+  std::shared_ptr<ReaderSlot> slot;
+  QByteArray password;
+  std::vector<PageSize> sizes;
+  std::function<void()> onChanged;
+
+  std::mutex mutex;
+  std::condition_variable wake;
+  std::condition_variable news;
+  bool end = false;
+  int running = 0;
+
+  PlanView view;
+  bool looking = false;
+  unsigned clock = 0;
+  std::list<std::pair<int, std::shared_ptr<PageList>>> lists;  // latest first
+  std::map<int, std::shared_ptr<const Picture>> coarse;
+  std::deque<int> coarseOrder;
+  std::map<TileKey, Tile> tiles;
+  std::map<int, std::shared_ptr<const Picture>> thumbnails;
+  std::deque<int> wantedThumbnails;
+  int thumbnailSide = 160;
+  std::deque<std::shared_ptr<PrintJob>> prints;
+  std::set<int> failed;
+  std::vector<int> failedNews;
+  std::vector<PaintJob*> working;
+
+  // The next job for a thread; `reads` tells whether it is the one that reads pages.
+  PaintJob Next(bool reads);
+  void Done(const PaintJob& job, std::shared_ptr<PageList> list,
+            std::shared_ptr<const Picture> picture);
+  void StopStale();
+  void StopOverdue();
+  bool Sharp();
+
+  PageSize SizeOf(int page) const;
+  PixelRect Visible(const PlanView& of) const;
+  std::vector<TileKey> VisibleTiles(const PlanView& of) const;
+  PixelRect WantedOf(const TileKey& key, const PlanView& of) const;
+  std::shared_ptr<PageList> ListOf(int page);
+  void KeepTile(const TileKey& key, Tile tile);
+  void Fail(int page);
+
+ private:
+  bool Working(PaintJob::Kind kind, int page) const;
+  bool WorkingOn(const TileKey& key) const;
+  bool NextVisible(bool reads, PaintJob& job);
+  bool NextPrint(bool reads, PaintJob& job);
+  bool NextThumbnail(bool reads, PaintJob& job);
+};
+
+inline constexpr int kTileSide = 1024;
+inline constexpr int kCoarseSide = 1280;
+
+int ScaleKey(double pixelsPerPoint);
+// The size of the whole page in pixels.
+PixelRect WholePage(PageSize size, double pixelsPerPoint, int turn);
+// The part that shows the whole page with its longer side `side` pixels long.
+PaintPart WholePart(PageSize size, int side);
+PlanView Sane(PlanView view);
+
+}  // namespace tamo

@@ -1,0 +1,196 @@
+#include "plans/planpainter.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "plans/painterstate.h"
+
+namespace tamo {
+namespace {
+
+using State = PlanPainter::State;
+
+// The whole work of a thread. It owns what it stands on, so it can end after the painter is gone.
+class Worker {
+ public:
+  Worker(std::shared_ptr<State> state, bool reads) : state_(std::move(state)), reads_(reads) {}
+
+  void Loop() {
+    context_ = state_->world->NewContext();
+    if (context_ != nullptr && reads_) {
+      source_.emplace(context_, state_->world, state_->slot, state_->password);
+    }
+    std::unique_lock<std::mutex> lock(state_->mutex);
+    while (context_ != nullptr && !state_->end) {
+      PaintJob job = state_->Next(reads_);
+      if (job.kind == PaintJob::Kind::None) {
+        state_->wake.wait_for(lock, std::chrono::seconds(1));
+        state_->StopOverdue();
+        continue;
+      }
+      state_->working.push_back(&job);
+      lock.unlock();
+      Do(job);
+      lock.lock();
+      std::erase(state_->working, &job);
+      state_->Done(job, std::move(list_), std::move(picture_));
+      state_->wake.notify_all();
+      state_->news.notify_all();
+      const auto changed = state_->onChanged;
+      lock.unlock();
+      job = {};
+      if (changed) changed();
+      lock.lock();
+    }
+    lock.unlock();
+    source_.reset();
+    MuWorld::DropContext(context_);
+    lock.lock();
+    --state_->running;
+    state_->news.notify_all();
+  }
+
+ private:
+  void Do(PaintJob& job) {
+    if (job.kind == PaintJob::Kind::Read) {
+      list_ = source_->Read(job.page, *job.stop);
+      return;
+    }
+    if (job.list == nullptr) job.list = source_->Read(job.page, *job.stop);
+    if (job.list == nullptr) return;
+    auto picture = std::make_shared<Picture>();
+    if (PaintPage(context_, *job.list, job.part, *job.stop, *picture)) picture_ = picture;
+  }
+
+  std::shared_ptr<State> state_;
+  bool reads_;
+  fz_context* context_ = nullptr;
+  std::optional<PageSource> source_;
+  std::shared_ptr<PageList> list_;
+  std::shared_ptr<const Picture> picture_;
+};
+
+}  // namespace
+
+PlanPainter::PlanPainter(std::shared_ptr<MuWorld> world, std::shared_ptr<ReaderSlot> slot,
+                         const QByteArray& password, std::vector<PageSize> sizes,
+                         std::function<void()> onChanged)
+    : state_(std::make_shared<State>()) {
+  state_->world = std::move(world);
+  state_->slot = std::move(slot);
+  state_->password = password;
+  state_->sizes = std::move(sizes);
+  state_->onChanged = std::move(onChanged);
+  state_->running = 2;
+  for (const bool reads : {true, false}) {
+    threads_.emplace_back([state = state_, reads] { Worker(state, reads).Loop(); });
+  }
+}
+
+PlanPainter::~PlanPainter() {
+  std::unique_lock<std::mutex> lock(state_->mutex);
+  state_->end = true;
+  state_->onChanged = nullptr;
+  for (PaintJob* job : state_->working) job->stop->Stop();
+  state_->wake.notify_all();
+  const bool ended = state_->news.wait_for(lock, std::chrono::milliseconds(50),
+                                           [this] { return state_->running == 0; });
+  lock.unlock();
+  for (std::thread& thread : threads_) {
+    if (ended) {
+      thread.join();
+    } else {
+      thread.detach();
+    }
+  }
+}
+
+void PlanPainter::Look(const PlanView& view) {
+  const std::lock_guard<std::mutex> guard(state_->mutex);
+  state_->view = Sane(view);
+  state_->looking = true;
+  ++state_->clock;
+  for (const TileKey& key : state_->VisibleTiles(state_->view)) {
+    if (const auto tile = state_->tiles.find(key); tile != state_->tiles.end()) {
+      tile->second.used = state_->clock;
+    }
+  }
+  state_->StopStale();
+  state_->StopOverdue();
+  state_->wake.notify_all();
+}
+
+std::vector<PlacedPicture> PlanPainter::PicturesFor(const PlanView& asked) {
+  std::vector<PlacedPicture> pictures;
+  const PlanView view = Sane(asked);
+  const std::lock_guard<std::mutex> guard(state_->mutex);
+  const PixelRect whole = WholePage(state_->SizeOf(view.page), view.pixelsPerPoint, view.turn);
+  const auto coarse = state_->coarse.find(view.page);
+  // The coarse picture is not turned; a turned view waits for its sharp parts.
+  if (coarse != state_->coarse.end() && view.turn == 0) {
+    pictures.push_back({0, 0, double(whole.right), double(whole.bottom), coarse->second});
+  }
+  for (const TileKey& key : state_->VisibleTiles(view)) {
+    const auto tile = state_->tiles.find(key);
+    if (tile == state_->tiles.end()) continue;
+    const PixelRect& at = tile->second.covered;
+    pictures.push_back({double(at.left), double(at.top), double(at.right - at.left),
+                        double(at.bottom - at.top), tile->second.picture});
+  }
+  return pictures;
+}
+
+std::shared_ptr<const Picture> PlanPainter::Thumbnail(int page, int longSide) {
+  const std::lock_guard<std::mutex> guard(state_->mutex);
+  if (page < 1 || static_cast<size_t>(page) > state_->sizes.size()) return nullptr;
+  const int side = std::clamp(longSide, 16, 1024);
+  if (side != state_->thumbnailSide) {
+    state_->thumbnailSide = side;
+    state_->thumbnails.clear();
+  }
+  const auto there = state_->thumbnails.find(page);
+  if (there != state_->thumbnails.end()) return there->second;
+  auto& wanted = state_->wantedThumbnails;
+  if (state_->failed.count(page) == 0 &&
+      std::find(wanted.begin(), wanted.end(), page) == wanted.end()) {
+    wanted.push_back(page);
+    // Those asked for long ago have been scrolled away.
+    if (wanted.size() > 200) wanted.pop_front();
+    state_->wake.notify_all();
+  }
+  return nullptr;
+}
+
+std::shared_ptr<const Picture> PlanPainter::PrintPicture(const PlanView& part, int milliseconds) {
+  const auto job = std::make_shared<PrintJob>();
+  job->part = Sane(part);
+  std::unique_lock<std::mutex> lock(state_->mutex);
+  if (state_->failed.count(job->part.page) != 0) return nullptr;
+  state_->prints.push_back(job);
+  state_->wake.notify_all();
+  state_->news.wait_for(lock, std::chrono::milliseconds(milliseconds), [&] { return job->done; });
+  std::erase(state_->prints, job);
+  return job->picture;
+}
+
+bool PlanPainter::WaitUntilSharp(int milliseconds) {
+  std::unique_lock<std::mutex> lock(state_->mutex);
+  return state_->news.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                               [this] { return state_->Sharp(); });
+}
+
+bool PlanPainter::WaitForCoarse(int milliseconds) {
+  std::unique_lock<std::mutex> lock(state_->mutex);
+  return state_->news.wait_for(lock, std::chrono::milliseconds(milliseconds), [this] {
+    return state_->coarse.count(state_->view.page) != 0 ||
+           state_->failed.count(state_->view.page) != 0;
+  });
+}
+
+std::vector<int> PlanPainter::TakeFailedPages() {
+  const std::lock_guard<std::mutex> guard(state_->mutex);
+  return std::exchange(state_->failedNews, {});
+}
+
+}  // namespace tamo

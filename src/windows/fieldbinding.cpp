@@ -1,0 +1,224 @@
+#include "windows/fieldbinding.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTextCursor>
+#include <algorithm>
+
+namespace tamo {
+namespace {
+
+// A line end of a field is CR LF, of the widget a single LF.
+QString ForWidget(QString text) {
+  return text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+}
+
+QString ForField(QString text) {
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+  text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  return text.replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+}
+
+int WidgetPlace(const QString& fieldText, int place) {
+  return place - static_cast<int>(fieldText.left(place).count(QLatin1String("\r\n")));
+}
+
+int FieldPlace(const QString& widgetText, int place) {
+  return place + static_cast<int>(widgetText.left(place).count(QLatin1Char('\n')));
+}
+
+}  // namespace
+
+AnyFieldBinding::AnyFieldBinding(Display& display, TextField& field, QWidget& widget)
+    : Binding(display, field, widget), field_(field) {
+  widget.setFocusPolicy(field.takesFocus ? Qt::TabFocus : Qt::NoFocus);
+}
+
+void AnyFieldBinding::Apply() {
+  Binding::Apply();
+  ShowText();
+}
+
+void AnyFieldBinding::ApplyFocus() {
+  if (pressedIn_) return;
+  if (field_.HasFocus()) {
+    ShowSelection();
+  } else {
+    ShowNoSelection();
+  }
+}
+
+void AnyFieldBinding::Edited(QString text, int caret) {
+  if (Quiet() || text == field_.Text()) return;
+  if (!field_.multiLine) {
+    for (QChar& c : text) {
+      if (c == QLatin1Char('\n') || c == QLatin1Char('\r')) c = QLatin1Char(' ');
+    }
+  } else if (field_.MaxLength() > 0) {
+    text.truncate(std::max(field_.MaxLength(), static_cast<int>(field_.Text().size())));
+  }
+  GetDisplay().MarkDirty(*this);
+  GetDesk().EditedByUser(field_, text, caret);
+}
+
+void AnyFieldBinding::Selected(int start, int length) {
+  if (Quiet() || pressedIn_ || !field_.HasFocus()) return;
+  field_.Select(start, length);
+}
+
+// The press that brings the focus selects what the form selects (as a rule the whole text); a drag
+// from there selects by hand.
+bool AnyFieldBinding::TakeMouse(QEvent* event) {
+  const auto* mouse = static_cast<QMouseEvent*>(event);
+  if (mouse->button() != Qt::LeftButton) return false;
+  if (event->type() == QEvent::MouseButtonPress) {
+    const bool had = field_.HasFocus();
+    GetDesk().ClickInto(field_);
+    if (!field_.HasFocus()) return true;
+    pressedIn_ = !had;
+    return false;
+  }
+  if (event->type() == QEvent::MouseButtonDblClick && field_.onDoubleClick) {
+    GetDesk().DoubleClick(field_);
+    return true;
+  }
+  if (event->type() == QEvent::MouseButtonRelease && pressedIn_) {
+    pressedIn_ = false;
+    if (HasSelection()) return false;
+    GetDisplay().MarkDirty(*this);
+    GetDisplay().SyncNow();
+    return true;
+  }
+  return false;
+}
+
+// Characters that come whole (composed, or from another keyboard) pass the same handlers as typed
+// ones.
+bool AnyFieldBinding::TakeInputMethod(QEvent* event, QObject* object) {
+  const auto* input = static_cast<QInputMethodEvent*>(event);
+  QString kept;
+  for (const QChar c : input->commitString()) {
+    if (!GetDesk().HandleKey(field_, Key::Typed(c))) kept += c;
+  }
+  if (kept == input->commitString()) return false;
+  QInputMethodEvent rest(input->preeditString(), input->attributes());
+  rest.setCommitString(kept, input->replacementStart(), input->replacementLength());
+  object->event(&rest);
+  return true;
+}
+
+bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+      if (object != &ClickTarget()) return false;
+      if (TakeMouse(event)) return true;
+      return event->type() == QEvent::MouseButtonPress && TakeCommon(event);
+    case QEvent::InputMethod:
+      return object == &Widget() && TakeInputMethod(event, object);
+    case QEvent::FocusOut: {
+      // Losing the keyboard to a menu or to another program takes nothing from the field.
+      if (object != &Widget()) return false;
+      ++quiet_;
+      object->event(event);
+      --quiet_;
+      pressedIn_ = false;
+      return true;
+    }
+    default:
+      return (object == &Widget() || event->type() == QEvent::ContextMenu) && TakeCommon(event);
+  }
+}
+
+LineBinding::LineBinding(Display& display, TextField& field, QLineEdit& edit)
+    : AnyFieldBinding(display, field, edit), edit_(edit) {
+  connect(&edit, &QLineEdit::textEdited, this,
+          [this](const QString& text) { Edited(text, edit_.cursorPosition()); });
+  const auto selected = [this] {
+    if (edit_.hasSelectedText()) {
+      Selected(edit_.selectionStart(), static_cast<int>(edit_.selectedText().size()));
+    } else {
+      Selected(edit_.cursorPosition(), 0);
+    }
+  };
+  connect(&edit, &QLineEdit::selectionChanged, this, selected);
+  connect(&edit, &QLineEdit::cursorPositionChanged, this, selected);
+}
+
+void LineBinding::ShowText() {
+  const TextField& field = Field();
+  const int size = static_cast<int>(field.Text().size());
+  // The limit holds for typing; a longer text that the program put there stays whole.
+  constexpr int kNoLimit = 1 << 26;
+  const int most = field.MaxLength() > 0 ? std::max(field.MaxLength(), size) : kNoLimit;
+  if (edit_.maxLength() != most) edit_.setMaxLength(most);
+  if (edit_.text() != field.Text()) edit_.setText(field.Text());
+  if (edit_.isReadOnly() != field.readOnly) {
+    edit_.setReadOnly(field.readOnly);
+  }
+}
+
+void LineBinding::ShowSelection() {
+  const int start = Field().SelectionStart();
+  const int length = Field().SelectionLength();
+  const int now = edit_.hasSelectedText() ? static_cast<int>(edit_.selectedText().size()) : 0;
+  if (length > 0) {
+    if (now != length || edit_.selectionStart() != start) edit_.setSelection(start, length);
+  } else if (now > 0 || edit_.cursorPosition() != start) {
+    edit_.deselect();
+    edit_.setCursorPosition(start);
+  }
+}
+
+// A field at rest shows the beginning of its text.
+void LineBinding::ShowNoSelection() {
+  if (edit_.hasSelectedText()) edit_.deselect();
+  if (edit_.cursorPosition() != 0) edit_.setCursorPosition(0);
+}
+
+TextBinding::TextBinding(Display& display, TextField& field, QPlainTextEdit& edit)
+    : AnyFieldBinding(display, field, edit), edit_(edit) {
+  edit.setTabChangesFocus(true);
+  edit.viewport()->installEventFilter(this);
+  connect(&edit, &QPlainTextEdit::textChanged, this, [this] {
+    const QString text = edit_.toPlainText();
+    Edited(ForField(text), FieldPlace(text, edit_.textCursor().position()));
+  });
+  const auto selected = [this] {
+    if (Quiet()) return;
+    const QTextCursor cursor = edit_.textCursor();
+    const QString text = edit_.toPlainText();
+    const int start = FieldPlace(text, cursor.selectionStart());
+    Selected(start, FieldPlace(text, cursor.selectionEnd()) - start);
+  };
+  connect(&edit, &QPlainTextEdit::selectionChanged, this, selected);
+  connect(&edit, &QPlainTextEdit::cursorPositionChanged, this, selected);
+}
+
+void TextBinding::ShowText() {
+  const QString text = ForWidget(Field().Text());
+  if (edit_.toPlainText() != text) edit_.setPlainText(text);
+  if (edit_.isReadOnly() != Field().readOnly) edit_.setReadOnly(Field().readOnly);
+}
+
+void TextBinding::ShowSelection() {
+  const QString& text = Field().Text();
+  const int start = WidgetPlace(text, Field().SelectionStart());
+  const int end = WidgetPlace(text, Field().SelectionStart() + Field().SelectionLength());
+  QTextCursor cursor = edit_.textCursor();
+  if (cursor.selectionStart() == start && cursor.selectionEnd() == end) return;
+  cursor.setPosition(start);
+  cursor.setPosition(end, QTextCursor::KeepAnchor);
+  edit_.setTextCursor(cursor);
+}
+
+void TextBinding::ShowNoSelection() {
+  QTextCursor cursor = edit_.textCursor();
+  if (!cursor.hasSelection()) return;
+  cursor.clearSelection();
+  edit_.setTextCursor(cursor);
+}
+
+}  // namespace tamo

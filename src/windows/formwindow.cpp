@@ -1,0 +1,135 @@
+#include "windows/formwindow.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "windows/look.h"
+
+namespace tamo {
+namespace {
+
+// A padlock in the text's colour, sharp at every scale.
+class LockSign : public QWidget {
+ public:
+  LockSign() { setFixedSize(2 * kGrid, 2 * kGrid); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor ink = CurrentLook().text;
+    painter.setPen(QPen(ink, 1.8));
+    painter.drawArc(QRectF(4.5, 1.5, 7, 9), 0, 180 * 16);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ink);
+    painter.drawRoundedRect(QRectF(2.5, 6.5, 11, 8), 1.5, 1.5);
+  }
+};
+
+}  // namespace
+
+NoticeStrip::NoticeStrip(QWidget* parent) : QFrame(parent), text_(new QLabel) {
+  setProperty("role", QStringLiteral("notice"));
+  setCursor(Qt::PointingHandCursor);
+  auto* line = new QHBoxLayout(this);
+  line->setContentsMargins(2 * kGrid, kGrid, 2 * kGrid, kGrid);
+  line->setSpacing(2 * kGrid);
+  text_->setTextFormat(Qt::PlainText);
+  text_->setWordWrap(true);
+  auto* again = new QPushButton(QStringLiteral("Tr&y again"));
+  again->setFocusPolicy(Qt::NoFocus);
+  line->addWidget(text_, 1);
+  line->addWidget(again);
+  connect(again, &QPushButton::clicked, this, [this] {
+    if (onClick) onClick();
+  });
+}
+
+void NoticeStrip::SetText(const QString& text) {
+  if (text_->text() != text) {
+    text_->setText(text);
+    setAccessibleName(text);
+  }
+  if (isHidden() != text.isEmpty()) setVisible(!text.isEmpty());
+}
+
+void NoticeStrip::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && onClick) onClick();
+}
+
+FormWindow::FormWindow(Form& form, Display& display)
+    : form_(form),
+      display_(display),
+      menus_(display, form, *this),
+      body_(new QVBoxLayout),
+      whole_(new QVBoxLayout(this)),
+      notice_(new NoticeStrip(this)) {
+  setObjectName(form.Name());
+  whole_->setContentsMargins(0, 0, 0, 0);
+  whole_->setSpacing(0);
+  if (menus_.Bar() != nullptr) whole_->setMenuBar(menus_.Bar());
+  body_->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
+  body_->setSpacing(kGrid);
+  whole_->addLayout(body_, 1);
+  notice_->hide();
+  whole_->addWidget(notice_);
+}
+
+void FormWindow::UseWholeWindow() {
+  body_->setContentsMargins(0, 0, 0, 0);
+  body_->setSpacing(0);
+}
+
+QHBoxLayout& FormWindow::StatusLine() {
+  if (status_ != nullptr) return *status_;
+  statusFrame_ = new QFrame(this);
+  statusFrame_->setProperty("role", QStringLiteral("foot"));
+  status_ = new QHBoxLayout(statusFrame_);
+  status_->setContentsMargins(2 * kGrid, kGrid / 2, 2 * kGrid, kGrid / 2);
+  status_->setSpacing(kGrid);
+  whole_->insertWidget(whole_->indexOf(notice_), statusFrame_);
+  return *status_;
+}
+
+void FormWindow::SetStatus(const QString& project, bool locked, const QString& folder) {
+  if (projectLabel_ == nullptr) {
+    QHBoxLayout& line = StatusLine();
+    projectLabel_ = new QLabel;
+    projectLabel_->setTextFormat(Qt::PlainText);
+    lockLabel_ = new QLabel(QStringLiteral("Locked"));
+    lockLabel_->setFont(SectionFont());
+    auto* sign = new LockSign;
+    auto* lock = new QWidget;
+    auto* lockLine = new QHBoxLayout(lock);
+    lockLine->setContentsMargins(kGrid, 0, 0, 0);
+    lockLine->setSpacing(kGrid / 2);
+    lockLine->addWidget(sign);
+    lockLine->addWidget(lockLabel_);
+    folderLabel_ = new QLabel;
+    folderLabel_->setTextFormat(Qt::PlainText);
+    folderLabel_->setProperty("role", QStringLiteral("quiet"));
+    line.addWidget(projectLabel_);
+    line.addWidget(lock);
+    line.addStretch(1);
+    line.addWidget(folderLabel_);
+  }
+  if (projectLabel_->text() != project) projectLabel_->setText(project);
+  QWidget* lock = lockLabel_->parentWidget();
+  if (lock->isHidden() == locked) lock->setVisible(locked);
+  const QString place = QStringLiteral("Data folder: ") + folder;
+  if (folderLabel_->text() != place) folderLabel_->setText(place);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  display_.GetDesk().CloseBox(form_);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (!display_.TakeWindowKey(form_, *event)) QWidget::keyPressEvent(event);
+}
+
+}  // namespace tamo

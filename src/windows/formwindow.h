@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "common/disk.h"
+#include "windows/display.h"
+#include "windows/menubinder.h"
+
+namespace tamo {
+
+// The strip across the foot of every window while something is not on the disk yet: what, why, and
+// that a click tries again.
+class NoticeStrip : public QFrame {
+ public:
+  explicit NoticeStrip(QWidget* parent);
+  void SetText(const QString& text);
+  QString Text() const { return text_->text(); }
+  std::function<void()> onClick;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  QLabel* text_;
+};
+
+// The window of one form: its menu bar, what the form's own file lays out in Body(), the strip of
+// saves that are not on the disk, and the status line.
+class FormWindow : public QWidget {
+ public:
+  FormWindow(Form& form, Display& display);
+
+  Form& GetForm() const { return form_; }
+  MenuBinder& Menus() { return menus_; }
+  // Filled once by the form's own layout; margins of two grid steps.
+  QVBoxLayout& Body() { return *body_; }
+  // A body that goes to the window's edges.
+  void UseWholeWindow();
+
+  // The status line stands only in windows that show one.
+  QHBoxLayout& StatusLine();
+  void SetStatus(const QString& project, bool locked, const QString& folder);
+  NoticeStrip& Notice() const { return *notice_; }
+
+  // Called after each sync while the window is shown, for what no control tells.
+  std::vector<std::function<void()>> onSynced;
+
+  // Names of controls that the layout asked for and the form does not have.
+  QStringList missing;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  Form& form_;
+  Display& display_;
+  MenuBinder menus_;
+  QVBoxLayout* body_;
+  QVBoxLayout* whole_;
+  QFrame* statusFrame_ = nullptr;
+  QHBoxLayout* status_ = nullptr;
+  QLabel* projectLabel_ = nullptr;
+  QLabel* lockLabel_ = nullptr;
+  QLabel* folderLabel_ = nullptr;
+  NoticeStrip* notice_;
+};
+
+}  // namespace tamo

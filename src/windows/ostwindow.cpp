@@ -1,0 +1,222 @@
+#include <QToolButton>
+
+#include "program/program.h"
+#include "windows/formlayouts.h"
+#include "windows/plancanvas.h"
+
+// The plan: thumbnails on the left, the plan in the middle with its tools over it, a narrow column
+// of what is looked at all the time on the right.
+
+namespace tamo {
+namespace {
+
+constexpr int kColumnWidth = 30 * kGrid;
+
+QToolButton* Tool(const QString& text, const QString& hover) {
+  auto* tool = new QToolButton;
+  tool->setText(text);
+  tool->setToolTip(hover);
+  tool->setFocusPolicy(Qt::NoFocus);
+  tool->setMinimumHeight(kFieldHeight);
+  return tool;
+}
+
+// The viewer's own tool bar: which tool is in hand is shown by the pressed button and by Mode.
+QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
+  PdfDraw& viewer = b.GetProgram().Viewer();
+  Desk& desk = b.GetProgram().GetDesk();
+  auto* bar = new QWidget;
+  auto* line = new QHBoxLayout(bar);
+  line->setContentsMargins(kGrid, kGrid / 2, kGrid, kGrid / 2);
+  line->setSpacing(kGrid / 2);
+  struct ToolRow {
+    int mode;
+    const char* text;
+    const char* hover;
+  };
+  static constexpr ToolRow kTools[] = {
+      {PdfDraw::NoTool, "Move", "Pull the sheet with the mouse"},
+      {PdfDraw::Measuring, "Measure", "Draw a line; Shift keeps it to steps of 45 degrees"},
+      {PdfDraw::Counting, "Count", "Each press counts one"}};
+  std::vector<QToolButton*> tools;
+  for (const ToolRow& row : kTools) {
+    QToolButton* tool = Tool(QLatin1String(row.text), QLatin1String(row.hover));
+    tool->setCheckable(true);
+    QObject::connect(tool, &QToolButton::clicked, bar, [&viewer, &desk, mode = row.mode] {
+      desk.Dispatch([&] { viewer.PickTool(mode); });
+    });
+    line->addWidget(tool);
+    tools.push_back(tool);
+  }
+  line->addSpacing(2 * kGrid);
+  QToolButton* before = Tool(QStringLiteral("◀"), QStringLiteral("Page before (Page Up)"));
+  QToolButton* after = Tool(QStringLiteral("▶"), QStringLiteral("Next page (Page Down)"));
+  before->setAccessibleName(QStringLiteral("Page before"));
+  after->setAccessibleName(QStringLiteral("Next page"));
+  const auto turn = [&viewer, &desk](int by) {
+    desk.Dispatch([&] { viewer.TurnPage(viewer.Page() + by); });
+  };
+  QObject::connect(before, &QToolButton::clicked, bar, [turn] { turn(-1); });
+  QObject::connect(after, &QToolButton::clicked, bar, [turn] { turn(1); });
+  QToolButton* rotate = Tool(QStringLiteral("Turn"), QStringLiteral("Turn the sheet to the right"));
+  QObject::connect(rotate, &QToolButton::clicked, bar, [&canvas] { canvas.TurnView(); });
+  for (QToolButton* tool : {before, after, rotate}) line->addWidget(tool);
+  line->addStretch(1);
+  QLabel* keys = FixedPrompt(QStringLiteral(
+      "Arrows move the cross hair, Space sets a point, Enter goes back to the field."));
+  keys->setWordWrap(false);
+  line->addWidget(keys);
+  // Mode changes with every tool; its field tells when to look.
+  auto* mode = b.Find<TextField>("Mode");
+  if (mode != nullptr) {
+    const auto show = [&viewer, tools] {
+      for (size_t i = 0; i < tools.size(); ++i)
+        tools[i]->setChecked(viewer.Tool() == kTools[i].mode);
+    };
+    b.Window().onSynced.push_back(show);
+  }
+  return bar;
+}
+
+QWidget* Browser(Builder& b) {
+  QFrame* frame = b.Panel("Frame1");
+  frame->setFixedWidth(38 * kGrid);
+  auto* column = new QVBoxLayout(frame);
+  column->setSpacing(kGrid);
+  column->addWidget(Section(QStringLiteral("Plans")));
+  column->addWidget(b.Browser("Drive1", QStringLiteral("Drives")));
+  column->addWidget(b.Browser("Dir1", QStringLiteral("Folders")), 2);
+  column->addWidget(FixedPrompt(QStringLiteral("A click on a plan opens it.")));
+  column->addWidget(b.Browser("File1", QStringLiteral("Plans")), 3);
+  return frame;
+}
+
+QWidget* Colours(Builder& b) {
+  QFrame* frame = b.Panel("ColorFrame");
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
+  grid->setSpacing(kGrid / 2);
+  const char* names[] = {"iRed",    "iGreen",   "iBlue", "iYellow", "iOrange", "iPurple",
+                         "iViolet", "iDkGreen", "iNavy", "iTeal",   "iAqua",   "iBrown"};
+  int at = 0;
+  for (const char* name : names) {
+    grid->addWidget(b.Patch(name), at / 3, at % 3);
+    ++at;
+  }
+  return frame;
+}
+
+void Stack(QVBoxLayout& column, const QString& caption, QWidget* field) {
+  auto* label = new QLabel(caption);
+  label->setFont(PromptFont());
+  label->setProperty("role", QStringLiteral("prompt"));
+  label->setBuddy(field);
+  column.addWidget(label);
+  column.addWidget(field);
+}
+
+QHBoxLayout* Line(std::initializer_list<QWidget*> widgets) {
+  auto* line = new QHBoxLayout;
+  line->setSpacing(kGrid);
+  for (QWidget* widget : widgets) line->addWidget(widget);
+  return line;
+}
+
+void Scales(Builder& b, QVBoxLayout& column) {
+  QLabel* scale = b.Text("ScaleInForce");
+  scale->setWordWrap(true);
+  column.addWidget(scale);
+  column.addWidget(b.PushButton("SetInches"));
+  auto* line = Line({b.Field("Scale1", 6, QStringLiteral("Scale on the plan")),
+                     b.Field("Text5", 0, QStringLiteral("Unit of the scale")),
+                     b.Field("Scale2", 5, QStringLiteral("Scale in feet"))});
+  line->setSpacing(kGrid / 2);
+  column.addLayout(line);
+}
+
+QWidget* Column(Builder& b) {
+  auto* side = new QWidget;
+  side->setFixedWidth(kColumnWidth);
+  auto* column = new QVBoxLayout(side);
+  column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
+  column->setSpacing(kGrid / 2);
+  Stack(*column, QStringLiteral("Job Name"), b.Field("ProjectName"));
+  Stack(*column, QStringLiteral("Plan"), b.Field("PlanLocation"));
+  auto* grid = new QGridLayout;
+  grid->setSpacing(kGrid / 2);
+  const std::tuple<const char*, const char*, int> fields[] = {
+      {"Page", "PageText", 0}, {"Zoom", "ZoomLevel", 1}, {"Mode", "Mode", 2}};
+  for (const auto& [caption, name, at] : fields) {
+    QLabel* label = FixedPrompt(QLatin1String(caption));
+    QLineEdit* field = b.Field(name);
+    label->setBuddy(field);
+    grid->addWidget(label, 0, at);
+    grid->addWidget(field, 1, at);
+  }
+  grid->setColumnStretch(2, 1);
+  column->addLayout(grid);
+  column->addWidget(Rule());
+  Scales(b, *column);
+  QLineEdit* distance = b.Field("DistanceText", 0, QStringLiteral("Last distance or count"));
+  distance->setFont(FigureFont());
+  distance->setProperty("role", QStringLiteral("figure"));
+  distance->setAlignment(Qt::AlignRight);
+  column->addWidget(distance);
+  column->addWidget(Rule());
+  column->addWidget(b.Check("Check1"));
+  column->addWidget(Kept(b.SampleLine("Line1")));
+  column->addWidget(Colours(b));
+  column->addWidget(b.PushButton("Command2"));
+  column->addLayout(Line({b.Field("KnownDimension", 8, QStringLiteral("Known dimension in feet")),
+                          b.PushButton("CheckDimension")}));
+  QLabel* result = b.Prompt("DimensionResult");
+  column->addWidget(result);
+  column->addWidget(b.PushButton("Command3"));
+  QPlainTextEdit* notes = b.LongField("PlanNotes", QStringLiteral("Plan notes"));
+  notes->setMinimumHeight(8 * kGrid);
+  column->addWidget(notes, 1);
+  QLabel* problem = b.Text("PlanProblem");
+  problem->setWordWrap(true);
+  column->addWidget(problem);
+  column->addStretch(0);
+  return side;
+}
+
+}  // namespace
+
+void LayOutOST(Builder& b) {
+  b.Window().UseWholeWindow();
+  PdfDraw& viewer = b.GetProgram().Viewer();
+  Desk& desk = b.GetProgram().GetDesk();
+  auto* canvas = new PlanCanvas(viewer, b.Pictures(), desk);
+  auto* thumbnails = new PlanThumbnails(viewer, b.Pictures(), desk);
+  thumbnails->setFixedWidth(thumbnails->sizeHint().width());
+  if (Control* box = b.Find("picPdfDraw")) b.Bind<PlanBinding>(*box, *canvas);
+  if (Control* box = b.Find("picPdfThumbnails")) b.Bind<ThumbnailsBinding>(*box, *thumbnails);
+  canvas->onPictures = [thumbnails] { thumbnails->PagesChanged(); };
+  const auto choose = [&b, &desk](const char* name) {
+    MenuEntry* entry = b.GetForm().FindMenu(QLatin1String(name));
+    return [entry, &desk] {
+      if (entry != nullptr) desk.ChooseMenu(*entry);
+    };
+  };
+  canvas->onZoomIn = choose("ZoomIn");
+  canvas->onZoomOut = choose("ZoomOut");
+  FormWindow* window = &b.Window();
+  viewer.onPrint = [canvas] { canvas->Print(); };
+  viewer.onBringToFront = [window] { window->raise(); };
+  auto* row = new QHBoxLayout;
+  row->setSpacing(0);
+  row->addWidget(thumbnails);
+  row->addWidget(Browser(b));
+  auto* middle = new QVBoxLayout;
+  middle->setSpacing(0);
+  middle->addWidget(ToolBar(b, *canvas));
+  middle->addWidget(canvas, 1);
+  row->addLayout(middle, 1);
+  row->addWidget(Column(b));
+  window->Body().addLayout(row, 1);
+  window->resize(1320, 700);
+}
+
+}  // namespace tamo

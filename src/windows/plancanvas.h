@@ -1,0 +1,114 @@
+#pragma once
+
+#include <QAbstractScrollArea>
+#include <QPointF>
+
+#include "plans/pdfdraw.h"
+#include "plans/planpictures.h"
+#include "windows/display.h"
+
+namespace tamo {
+
+// The plan: its pictures, the marks of this program on top, the line in work with its running
+// length, and the cross hair. What the mouse and the keys do goes to the viewer inside an event of
+// the Desk.
+//
+// Places of the viewer (its view values 0 and 1) are points of the page as it is turned; a page
+// smaller than the window stands in its middle.
+class PlanCanvas : public QAbstractScrollArea {
+ public:
+  // `pictures` may be nullptr: then the sheet is white.
+  PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWidget* parent = nullptr);
+  ~PlanCanvas() override;
+
+  // Where a place of the page (points, before the view's turn) stands in the viewport; it is
+  // scrolled into sight when it is not.
+  QPointF PlaceInView(PagePoint at);
+  PagePoint PageAt(const QPointF& place) const;
+
+  // Turns the view by a quarter, clockwise.
+  void TurnView();
+  void Print();
+
+  std::function<void()> onZoomIn, onZoomOut;  // Ctrl and the wheel
+  std::function<void()> onPictures;           // more pictures are there
+  bool TakeKey(const QKeyEvent& event);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
+
+ private:
+  double Scale() const;       // device independent pixels of a point
+  int Turn() const;           // 0, 90, 180, 270
+  QSizeF TurnedPage() const;  // points
+  QPointF Origin() const;     // where the turned page's corner stands in the viewport
+  QPointF OnTurned(PagePoint at) const;
+  PlanView View() const;
+  void SyncBars();
+  void ViewChanged();
+  void PaintMarks(QPainter& painter) const;
+  void PaintWork(QPainter& painter) const;
+  void Pan(const QPointF& pixels);
+
+  PdfDraw& viewer_;
+  PlanPictures* pictures_;
+  Desk& desk_;
+  bool syncingBars_ = false;
+  bool drawing_ = false;  // the left button is down with a tool in hand
+  bool panning_ = false;
+  QPointF panFrom_;
+  QPointF pressedAt_;
+};
+
+// Small pictures of all pages; a click turns to one.
+class PlanThumbnails : public QAbstractScrollArea {
+ public:
+  PlanThumbnails(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWidget* parent = nullptr);
+  void PagesChanged();
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  int CellHeight() const;
+
+  PdfDraw& viewer_;
+  PlanPictures* pictures_;
+  Desk& desk_;
+  int shownPage_ = 0;
+};
+
+class PlanBinding : public Binding {
+ public:
+  PlanBinding(Display& display, Control& control, PlanCanvas& canvas);
+  QWidget& ClickTarget() const override { return *canvas_.viewport(); }
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  PlanCanvas& canvas_;
+};
+
+class ThumbnailsBinding : public Binding {
+ public:
+  ThumbnailsBinding(Display& display, Control& control, PlanThumbnails& thumbnails);
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+};
+
+// The canvas inside a window, nullptr when it has none.
+PlanCanvas* FindPlanCanvas(const QWidget& window);
+
+}  // namespace tamo

@@ -1,0 +1,103 @@
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "windows/look.h"
+#include "windows/plancanvas.h"
+#include "windows/planpaint.h"
+
+namespace tamo {
+namespace {
+
+constexpr int kSide = 14 * kGrid;  // the longer side of a thumbnail
+constexpr int kCaption = 3 * kGrid;
+
+}  // namespace
+
+PlanThumbnails::PlanThumbnails(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWidget* parent)
+    : QAbstractScrollArea(parent), viewer_(viewer), pictures_(pictures), desk_(desk) {
+  setObjectName(QStringLiteral("picPdfThumbnails"));
+  setAccessibleName(QStringLiteral("Pages of the plan"));
+  setFocusPolicy(Qt::NoFocus);
+  setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  viewport()->setCursor(Qt::PointingHandCursor);
+}
+
+int PlanThumbnails::CellHeight() const {
+  return kSide + kCaption + kGrid;
+}
+
+QSize PlanThumbnails::sizeHint() const {
+  return {kSide + 4 * kGrid, 4 * CellHeight()};
+}
+
+void PlanThumbnails::PagesChanged() {
+  const int whole = viewer_.PageCount() * CellHeight() + kGrid;
+  QScrollBar* bar = verticalScrollBar();
+  bar->setRange(0, std::max(0, whole - viewport()->height()));
+  bar->setPageStep(viewport()->height());
+  bar->setSingleStep(CellHeight() / 3);
+  if (viewer_.Page() != shownPage_) {
+    shownPage_ = viewer_.Page();
+    const int top = (shownPage_ - 1) * CellHeight();
+    const int least = top + CellHeight() - viewport()->height();
+    bar->setValue(std::clamp(bar->value(), std::min(least, top), std::max(least, top)));
+  }
+  viewport()->update();
+}
+
+void PlanThumbnails::resizeEvent(QResizeEvent* event) {
+  QAbstractScrollArea::resizeEvent(event);
+  PagesChanged();
+}
+
+void PlanThumbnails::paintEvent(QPaintEvent*) {
+  QPainter painter(viewport());
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  const Look& look = CurrentLook();
+  painter.fillRect(viewport()->rect(), look.window);
+  const int from = verticalScrollBar()->value();
+  const int first = std::max(1, from / CellHeight() + 1);
+  for (int page = first; page <= viewer_.PageCount(); ++page) {
+    const int top = (page - 1) * CellHeight() + kGrid - from;
+    if (top > viewport()->height()) break;
+    const PageSize size = viewer_.SizeOfPage(page);
+    const double scale = kSide / std::max({size.width, size.height, 1.0});
+    const QRectF sheet((viewport()->width() - size.width * scale) / 2,
+                       top + (kSide - size.height * scale) / 2, size.width * scale,
+                       size.height * scale);
+    painter.fillRect(sheet, Qt::white);
+    if (pictures_ != nullptr) {
+      const int side = static_cast<int>(kSide * devicePixelRatioF());
+      if (const auto picture = pictures_->Thumbnail(page, side))
+        painter.drawImage(sheet, ImageOf(*picture));
+    }
+    const bool current = page == viewer_.Page();
+    painter.setPen(QPen(current ? look.accent : look.line, current ? 3 : 1));
+    painter.drawRect(sheet);
+    painter.setPen(look.text);
+    painter.setFont(current ? SectionFont() : PromptFont());
+    painter.drawText(QRect(0, top + kSide, viewport()->width(), kCaption), Qt::AlignCenter,
+                     QString::number(page));
+  }
+}
+
+void PlanThumbnails::mousePressEvent(QMouseEvent* event) {
+  const int page =
+      (static_cast<int>(event->position().y()) + verticalScrollBar()->value() - kGrid) /
+          CellHeight() +
+      1;
+  if (event->button() != Qt::LeftButton || page < 1 || page > viewer_.PageCount()) return;
+  desk_.Dispatch([&] { viewer_.TurnPage(page); });
+}
+
+ThumbnailsBinding::ThumbnailsBinding(Display& display, Control& control, PlanThumbnails& thumbnails)
+    : Binding(display, control, thumbnails) {}
+
+bool ThumbnailsBinding::eventFilter(QObject*, QEvent* event) {
+  return TakeCommon(event);
+}
+
+}  // namespace tamo

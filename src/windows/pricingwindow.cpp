@@ -1,0 +1,4 @@
+#include "windows/formlayouts.h"
+namespace tamo {
+void LayOutPricing(Builder&) {}
+}  // namespace tamo

@@ -1,0 +1,54 @@
+#include "windows/qtservices.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDir>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace tamo {
+namespace {
+
+QMessageBox::StandardButton ShowBox(const QString& text, QMessageBox::Icon icon,
+                                    QMessageBox::StandardButtons buttons) {
+  QMessageBox box(icon, QStringLiteral("Tamo"), text, buttons, QApplication::activeWindow());
+  box.setTextFormat(Qt::PlainText);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  if (buttons.testFlag(QMessageBox::No)) {
+    box.setDefaultButton(QMessageBox::No);
+    box.setEscapeButton(QMessageBox::No);
+  }
+  return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+}  // namespace
+
+void BoxMessages::Tell(const QString& text) {
+  if (beforeBox) beforeBox();
+  ShowBox(text, QMessageBox::Information, QMessageBox::Ok);
+}
+
+bool BoxMessages::Ask(const QString& text) {
+  if (beforeBox) beforeBox();
+  return ShowBox(text, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No) ==
+         QMessageBox::Yes;
+}
+
+void DeskClipboard::Clear() {
+  QApplication::clipboard()->clear();
+}
+
+void DeskClipboard::SetText(const QString& text) {
+  QApplication::clipboard()->setText(text);
+}
+
+QString FindProgramFolder(const QString& executableFolder) {
+  for (const char* place : {"", "/../share/tamo", "/../data", "/../../data"}) {
+    const QString folder = executableFolder + QLatin1String(place);
+    if (QFileInfo::exists(folder + QStringLiteral("/Blank.pdf")))
+      return QDir::toNativeSeparators(QDir::cleanPath(folder));
+  }
+  return QDir::toNativeSeparators(executableFolder);
+}
+
+}  // namespace tamo

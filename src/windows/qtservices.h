@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+#include "common/services.h"
+
+namespace tamo {
+
+// Message boxes over the window in front.
+class BoxMessages : public Messages {
+ public:
+  void Tell(const QString& text) override;
+  bool Ask(const QString& text) override;
+  // Called before a box comes up: the windows behind it show what has been done so far.
+  std::function<void()> beforeBox;
+};
+
+class DeskClipboard : public Clipboard {
+ public:
+  void Clear() override;
+  void SetText(const QString& text) override;
+};
+
+// The folder with the program's own files: that of the executable, or, in an installed program or a
+// build tree, the one that belongs to it.
+QString FindProgramFolder(const QString& executableFolder);
+
+}  // namespace tamo

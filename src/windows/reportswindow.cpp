@@ -1,0 +1,121 @@
+#include "reports/reportsform.h"
+
+#include <QProgressDialog>
+#include <QShortcut>
+
+#include "windows/findbar.h"
+#include "windows/formlayouts.h"
+
+// The lines, nothing else, and the notes strip; the office copy has the figures panel on the right.
+
+namespace tamo {
+namespace {
+
+QWidget* Figures(Builder& b) {
+  QFrame* panel = b.Panel("Frame1");
+  panel->setFixedWidth(30 * kGrid);
+  auto* column = new QVBoxLayout(panel);
+  column->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
+  column->setSpacing(kGrid);
+  struct Block {
+    const char* title;
+    std::vector<std::pair<const char*, const char*>> rows;
+  };
+  const Block blocks[] = {
+      {"Project", {{"Total:", "ttText"}, {"Completed:", "tcText"}, {"Per cent:", "pcText"}}},
+      {"Labor", {{"Total:", "tlText"}, {"Completed:", "lcText"}, {"Per cent:", "lpText"}}},
+      {"Material", {{"Total:", "tmText"}, {"Completed:", "mcText"}, {"Per cent:", "mpText"}}}};
+  for (const Block& block : blocks) {
+    column->addWidget(Section(QLatin1String(block.title)));
+    FieldColumn fields(*column);
+    fields.captionColumns = 10;
+    for (const auto& [caption, name] : block.rows) {
+      QLineEdit* field = b.Field(name);
+      field->setAlignment(Qt::AlignRight);
+      fields.Add(FixedCaption(QLatin1String(caption)), field);
+    }
+    column->addSpacing(kGrid);
+  }
+  column->addStretch(1);
+  return panel;
+}
+
+// A bar that comes up only when a report takes long; Escape stops it.
+void ShowProgressOf(ReportsForm& form, QWidget& window) {
+  auto dialog = std::make_shared<std::unique_ptr<QProgressDialog>>();
+  form.onProgress = [dialog, &window](int done, int all) {
+    if (done >= all) {
+      dialog->reset();
+      return true;
+    }
+    if (*dialog == nullptr) {
+      *dialog = std::make_unique<QProgressDialog>(
+          QStringLiteral("The report is being made. Escape stops it."), QStringLiteral("Stop"), 0,
+          all, &window);
+      (*dialog)->setWindowModality(Qt::ApplicationModal);
+      (*dialog)->setMinimumDuration(100);
+    }
+    (*dialog)->setMaximum(all);
+    (*dialog)->setValue(done);
+    const bool go = !(*dialog)->wasCanceled();
+    if (!go) dialog->reset();
+    return go;
+  };
+}
+
+void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
+  const auto grow = [lists](double points) {
+    for (RowsView* list : lists) {
+      QFont font = list->font();
+      font.setPointSizeF(std::clamp(font.pointSizeF() + points, 7.0, 28.0));
+      list->setFont(font);
+    }
+  };
+  const std::pair<const char*, double> keys[] = {{"Ctrl++", 1}, {"Ctrl+=", 1}, {"Ctrl+-", -1}};
+  for (const auto& [key, points] : keys) {
+    auto* shortcut = new QShortcut(QKeySequence(QLatin1String(key)), &window);
+    QObject::connect(shortcut, &QShortcut::activated, &window,
+                     [grow, points = points] { grow(points); });
+  }
+}
+
+}  // namespace
+
+void LayOutReports(Builder& b) {
+  FormWindow& window = b.Window();
+  QVBoxLayout& body = window.Body();
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kGrid);
+  RowsView* reporter = b.List("Reporter", QStringLiteral("Report"), 96, 30);
+  RowsView* copy = b.List("Reporter1", QStringLiteral("Office Copy"), 96, 30);
+  auto* lists = new QVBoxLayout;
+  for (RowsView* list : {reporter, copy}) {
+    list->UseFixedColumns();
+    lists->addWidget(list, 1);
+  }
+  auto* empty = FixedPrompt(QStringLiteral(
+      "There is no report here. Choose one from the menu Reports; with no project open, the list "
+      "of projects comes up first: pick one, then choose the report again."));
+  empty->setAlignment(Qt::AlignCenter);
+  lists->addWidget(empty, 1);
+  window.onSynced.push_back(
+      [empty, reporter, copy] { empty->setVisible(reporter->isHidden() && copy->isHidden()); });
+  row->addLayout(lists, 1);
+  row->addWidget(Figures(b));
+  body.addLayout(row, 1);
+  auto* find = new FindBar({reporter, copy}, b.GetDisplay());
+  body.addWidget(find);
+  auto* strip = new QHBoxLayout;
+  RowsView* notes = b.List("NotesList", QStringLiteral("Notes to the report"), 80, 3);
+  notes->setMaximumHeight(notes->sizeHint().height());
+  strip->addWidget(notes, 1);
+  strip->addWidget(b.Check("WholeQuantities"), 0, Qt::AlignTop);
+  body.addLayout(strip);
+  auto* search = new QShortcut(QKeySequence(QKeySequence::Find), &window);
+  QObject::connect(search, &QShortcut::activated, &window, [find] { find->Open(); });
+  LetTypeGrow(window, {reporter, copy});
+  if (auto* form = dynamic_cast<ReportsForm*>(&b.GetForm())) ShowProgressOf(*form, window);
+  window.resize(1080, 700);
+}
+
+}  // namespace tamo

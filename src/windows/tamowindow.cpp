@@ -1,0 +1,81 @@
+#include "windows/formlayouts.h"
+
+// The main form: the project list on the left, the project panel on the right.
+
+namespace tamo {
+namespace {
+
+QWidget* ProjectList(Builder& b) {
+  auto* side = new QWidget;
+  auto* column = new QVBoxLayout(side);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGrid);
+  column->addWidget(Section(QStringLiteral("Projects")));
+  RowsView* list = b.List("JobsList", QStringLiteral("Projects"), 44, 16);
+  list->UseFixedColumns();
+  column->addWidget(list, 1);
+  // Without a list on the screen the place says what to do.
+  auto* hint = FixedPrompt(QString());
+  hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  hint->setMinimumWidth(list->sizeHint().width());
+  column->addWidget(hint, 1);
+  auto* jobs = b.Find<OrderedList>("JobsList");
+  const Frame* panel = b.Find<Frame>("JobNFOFrame");
+  auto* binding = static_cast<ListBinding*>(b.GetDisplay().Of(*jobs));
+  binding->onApplied = [hint, jobs, panel] {
+    hint->setHidden(jobs->Shown() && panel->Shown());
+    hint->setText(
+        jobs->Empty()
+            ? QStringLiteral("There is no list of projects on the screen.\n\nProject, Open Project "
+                             "shows the projects of this data folder.\nProject, Create Project "
+                             "begins a new one.")
+            : QStringLiteral("Project, Open Project shows the %1 projects of this data "
+                             "folder.\nProject, Create Project begins a new one.")
+                  .arg(jobs->Count()));
+  };
+  return side;
+}
+
+QWidget* ProjectPanel(Builder& b) {
+  QFrame* panel = b.Panel("JobNFOFrame");
+  auto* column = new QVBoxLayout(panel);
+  column->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
+  column->setSpacing(kGrid);
+  column->addWidget(Section(QStringLiteral("Project Information")));
+  FieldColumn fields(*column);
+  fields.captionColumns = 12;
+  const std::pair<const char*, const char*> rows[] = {
+      {"JobName", "Job Name:"},      {"BidDate", "Bid Date:"},    {"Addenda", "Addenda:"},
+      {"Phase", "Phase:"},           {"BidItems", "Bid Items:"},  {"Inclusions", "Inclusions:"},
+      {"Exclusions", "Exclusions:"}, {"Architect", "Architect:"},
+  };
+  for (const auto& [name, caption] : rows)
+    fields.Add(FixedCaption(QLatin1String(caption)), b.Field(name));
+  QLabel* notesCaption = FixedCaption(QStringLiteral("Notes:"));
+  QPlainTextEdit* notes = b.LongField("Notes", QStringLiteral("Notes"));
+  notes->setMinimumHeight(12 * kGrid);
+  fields.Add(notesCaption, notes,
+             FixedPrompt(QStringLiteral("Enter goes on to the next field; in the notes Ctrl+Enter "
+                                        "begins a new line.")));
+  auto* foot = new QHBoxLayout;
+  foot->addStretch(1);
+  foot->addWidget(b.PushButton("Command1"));
+  column->addLayout(foot);
+  return panel;
+}
+
+}  // namespace
+
+void LayOutTamo(Builder& b) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(2 * kGrid);
+  row->addWidget(ProjectList(b), 2);
+  auto* right = new QVBoxLayout;
+  right->addWidget(Kept(ProjectPanel(b)));
+  right->addStretch(0);
+  row->addLayout(right, 3);
+  b.Window().Body().addLayout(row, 1);
+  b.Window().resize(1000, 600);
+}
+
+}  // namespace tamo
