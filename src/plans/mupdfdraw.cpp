@@ -51,11 +51,15 @@ void MuPdfDraw::Bridge::Post(const std::shared_ptr<Bridge>& bridge,
 
 void MuPdfDraw::Bridge::After(const std::shared_ptr<Bridge>& bridge, int milliseconds,
                               std::function<void(MuPdfDraw&)> work) {
-  QTimer::singleShot(milliseconds, bridge->anchor_.get(),
-                     [weak = std::weak_ptr<Bridge>(bridge), work = std::move(work)] {
-                       const auto alive = weak.lock();
-                       if (alive && alive->draw_ != nullptr) work(*alive->draw_);
-                     });
+  auto* timer = new QTimer(bridge->anchor_.get());  // goes with the anchor
+  timer->setSingleShot(true);
+  QObject::connect(timer, &QTimer::timeout, bridge->anchor_.get(),
+                   [timer, weak = std::weak_ptr<Bridge>(bridge), work = std::move(work)] {
+                     timer->deleteLater();
+                     const auto alive = weak.lock();
+                     if (alive && alive->draw_ != nullptr) work(*alive->draw_);
+                   });
+  timer->start(milliseconds);
 }
 
 void MuPdfDraw::Bridge::PostPictures(const std::shared_ptr<Bridge>& bridge) {

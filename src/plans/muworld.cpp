@@ -232,7 +232,7 @@ JobThread::~JobThread() {
   state_->stop = true;
   state_->wake.notify_all();
   const bool ended =
-      state_->ended.wait_for(lock, std::chrono::milliseconds(50), [this] { return state_->done; });
+      state_->ended.wait_for(lock, std::chrono::milliseconds(20), [this] { return state_->done; });
   lock.unlock();
   if (ended) {
     thread_.join();

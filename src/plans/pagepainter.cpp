@@ -157,7 +157,9 @@ std::shared_ptr<PageList> PageSource::Read(int page, PaintStop& stop) {
   auto* document = static_cast<pdf_document*>(document_);
   if (!RecordPage(context_, document, page - 1, CookieOf(stop), &list, &bounds)) return nullptr;
   const PageSize size = {bounds.x1 - bounds.x0, bounds.y1 - bounds.y0};
-  return std::make_shared<PageList>(world_, list, size);
+  auto read = std::make_shared<PageList>(world_, list, size);
+  const bool sheet = size.width >= 1 && size.height >= 1 && size.width < 1e7 && size.height < 1e7;
+  return sheet ? read : nullptr;
 }
 
 bool PaintPage(fz_context* context, const PageList& list, const PaintPart& part, PaintStop& stop,

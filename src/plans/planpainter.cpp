@@ -94,7 +94,7 @@ PlanPainter::~PlanPainter() {
   state_->onChanged = nullptr;
   for (PaintJob* job : state_->working) job->stop->Stop();
   state_->wake.notify_all();
-  const bool ended = state_->news.wait_for(lock, std::chrono::milliseconds(50),
+  const bool ended = state_->news.wait_for(lock, std::chrono::milliseconds(20),
                                            [this] { return state_->running == 0; });
   lock.unlock();
   for (std::thread& thread : threads_) {

@@ -75,7 +75,7 @@ void PricingForm::Export() {
   IELabel.SetCaption(QStringLiteral("Export System"));
   File1.Hide();
   IEFrame.Show();
-  Focus(Dir1);
+  Insist(Dir1);
 }
 
 void PricingForm::ExportInto(const QString& folder) {

@@ -157,6 +157,13 @@ void PricingForm::Drops(OrderedList& list, TextField& field,
   };
 }
 
+// A field that is left may lead elsewhere (an empty Material to the system's name, Price to UPO).
+// That holds for whoever walks away from it, not for a command that says where to go.
+void PricingForm::Insist(Control& control) {
+  Focus(control);
+  if (!control.HasFocus()) Focus(control);
+}
+
 bool PricingForm::Refused(const QString& name) {
   const QString refusal = NameRefusal(name);
   if (refusal.isEmpty()) return false;

@@ -207,6 +207,7 @@ class PricingForm : public Form {
   void Drops(OrderedList& list, TextField& field, std::function<void(const QString&)> chosen);
   void Toggle(Control& control) { control.SetShown(!control.Shown()); }
   void Focus(Control& control) { kit_.desk.Focus(control); }
+  void Insist(Control& control);
   bool Refused(const QString& name);
   void RefuseOrGoOn(const QString& name) const;
 

@@ -49,7 +49,7 @@ void PricingForm::ToggleMarkups() {
   Toggle(MarkupsFrame);
   if (!MarkupsFrame.Shown()) return;
   LoadMarkups();
-  Focus(MOH);
+  Insist(MOH);
 }
 
 void PricingForm::LeaveMarkups() {

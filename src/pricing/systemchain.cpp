@@ -91,12 +91,12 @@ void PricingForm::ChooseDescription(const QString& name) {
   Units.Show();
   Label3.Show();
   if (Units.Empty()) {
-    Focus(Units);
+    Insist(Units);
   } else if (Value(UnitPrice.Text()) != 0) {
     LandMFrame.Hide();
     EUP.Hide();
     Label9.Hide();
-    Focus(UnitPrice);
+    Insist(UnitPrice);
   } else {
     LandMFrame.Show();
     EUP.Show();
@@ -167,7 +167,7 @@ void PricingForm::EnterUnits() {
   PutPrompts(prompts);
   UnitsList.Hide();
   Label3.Show();
-  Focus(UnitPrice);
+  Insist(UnitPrice);
 }
 
 void PricingForm::LeaveUnits() {

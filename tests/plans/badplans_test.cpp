@@ -1,0 +1,149 @@
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <cmath>
+#include <set>
+
+#include "common/failure.h"
+#include "plans/muworld.h"
+#include "plans/planfixture.h"
+
+// Damaged and hostile plans: a message or a sheet, never a crash, a hang or unbounded memory.
+
+using namespace tamo;
+using namespace tamo::test;
+
+namespace {
+
+struct BadPlans : PlanFixture {
+  QString bad = Path("bad");
+
+  void SetUp() override {
+    const Ran ran =
+        Run("python3", {QStringLiteral(TAMO_SOURCE_DIR "/scripts/make_bad_pdfs.py"), bad});
+    if (!ran.present) GTEST_SKIP() << "python3 is not here";
+    ASSERT_EQ(ran.exit, 0) << ran.output.toStdString();
+    ASSERT_GE(ran.output.trimmed().toInt(), 60);
+  }
+  QStringList Names() const { return QDir(bad).entryList(QDir::Files); }
+  // Those that are no plan at all or hold no page that could be shown.
+  static bool IsHopeless(const QString& name) {
+    static const std::set<QString> names = {
+        "zero_bytes.pdf",        "one_byte.pdf",      "header_only.pdf",
+        "garbage.pdf",           "zeros.pdf",         "text.pdf",
+        "picture.pdf",           "archive.pdf",       "web_page.pdf",
+        "truncated_10.pdf",      "tree_no_pages.pdf", "header_then_garbage.pdf",
+        "locked_old.pdf",        "locked_usual.pdf",  "locked_unknown.pdf",
+        "catalog_lost.pdf",
+
+        "xref_stream_broken.pdf"};
+    return names.count(name) != 0;
+  }
+};
+
+}  // namespace
+
+TEST_F(BadPlans, EachIsAMessageOrASheetAndTheFileStaysAsItIs) {
+  qint64 most = 0;
+  for (const QString& name : Names()) {
+    SCOPED_TRACE(name.toStdString());
+    const QString path = bad + "/" + name;
+    const qint64 size = QFileInfo(path).size();
+    MuPdfDraw viewer(files);
+    viewer.SetPatience(1000);
+    const int result = viewer.OpenFile(path, "");
+    EXPECT_TRUE(result == 0 || result == kFileOther) << result;
+    if (IsHopeless(name)) {
+      EXPECT_EQ(result, kFileOther);
+    }
+    EXPECT_EQ(result == 0, viewer.Problem().isEmpty()) << viewer.Problem().toStdString();
+    EXPECT_GE(viewer.PageCount(), 1);
+    EXPECT_LE(viewer.PageCount(), 100000);
+    const PageSize sheet = viewer.SizeOfPage(1);
+    EXPECT_TRUE(std::isfinite(sheet.width) && sheet.width > 0) << sheet.width;
+    EXPECT_TRUE(std::isfinite(sheet.height) && sheet.height > 0) << sheet.height;
+    for (const Mark& mark : viewer.Marks()) {
+      for (const PagePoint point : mark.points) {
+        EXPECT_TRUE(std::isfinite(point.x) && std::isfinite(point.y));
+      }
+    }
+    PlanView view;
+    view.width = 800;
+    view.height = 600;
+    viewer.Look(view);
+    viewer.WaitUntilSharp(300);
+    viewer.PicturesFor(view);
+    most = std::max(most, MuWorld::MemoryInUse());
+    EXPECT_EQ(QFileInfo(path).size(), size);
+  }
+  EXPECT_LE(most, qint64(768) << 20);
+}
+
+TEST_F(BadPlans, MarkingOneEitherSucceedsWholeOrLeavesNothing) {
+  for (const QString& name : Names()) {
+    if (name.contains("bomb") || name.contains("wide") || name.contains("many")) continue;
+    SCOPED_TRACE(name.toStdString());
+    MuPdfDraw viewer(files);
+    viewer.SetPatience(1000);
+    if (viewer.OpenFile(bad + "/" + name, "") != 0) continue;
+    const size_t before = viewer.Marks().size();
+    viewer.DrawLine({10, 10}, {82, 10});
+    const QString marked = Path(name + "-Marked.pdf");
+    const int result = viewer.SaveAs(marked);
+    if (result != 0) {
+      EXPECT_FALSE(QFileInfo::exists(marked));
+      EXPECT_FALSE(viewer.Problem().isEmpty());
+      EXPECT_TRUE(viewer.HasUnsavedMarks());
+      continue;
+    }
+    MuPdfDraw again(files);
+    EXPECT_EQ(again.OpenFile(marked, ""), 0) << again.Problem().toStdString();
+    EXPECT_EQ(again.Marks().size(), before + 1);
+  }
+}
+
+TEST_F(BadPlans, AGoodPlanOpensRightAfterEachHostileOne) {
+  const QString good = Write("good.pdf", MakePdf({PdfPage()}));
+  PlanView view;
+  view.width = 800;
+  view.height = 600;
+  for (const QString& name : Names().filter("bomb")) {
+    draw->OpenFile(bad + "/" + name, "");
+    draw->Look(view);
+    ASSERT_EQ(draw->OpenFile(good, ""), 0) << name.toStdString();
+    draw->Look(view);
+    EXPECT_TRUE(draw->WaitUntilSharp(20000)) << name.toStdString();
+  }
+}
+
+TEST_F(BadPlans, AHostilePlanNeverHoldsTheWindowAndTheMessageComesLater) {
+  int count = 1;
+  char name[] = "test";
+  char* arguments[] = {name};
+  QCoreApplication application(count, arguments);
+  draw->SetPatience(0);
+  draw->SetLongestOpening(300);
+  QString told;
+  draw->onProblem = [&](const QString& text) { told = text; };
+  for (const char* file : {"xref_stream_wide.pdf", "locked_usual.pdf"}) {
+    told.clear();
+    draw->OpenFile(bad + "/" + file, "");
+    EXPECT_EQ(draw->PageCount(), 1);
+    QElapsedTimer clock;
+    clock.start();
+    while (told.isEmpty() && draw->Problem().isEmpty() && clock.elapsed() < 20000) {
+      QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    }
+    EXPECT_TRUE(draw->Problem().contains(file)) << draw->Problem().toStdString();
+    EXPECT_TRUE(draw->ShownFile().isEmpty());
+  }
+  int pages = 0;
+  draw->onPageChanged = [&] { ++pages; };
+  draw->OpenFile(Write("good.pdf", MakePdf({PdfPage(), PdfPage()})), "");
+  QElapsedTimer clock;
+  clock.start();
+  while (draw->PageCount() != 2 && clock.elapsed() < 20000) {
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+  }
+  EXPECT_EQ(draw->PageCount(), 2);
+  EXPECT_GE(pages, 2);
+}
