@@ -18,7 +18,6 @@ class RandomKeys : public TakeoffTest {
     if (keys_ <= 0) keys_ = 2000;
     const int seed = qEnvironmentVariableIntValue("TAMO_RANDOM_SEED");
     random_.seed(seed > 0 ? static_cast<unsigned>(seed) : 1U);
-    disk.quick = true;
     MakeSystem(S("Paint"), S("SF"));
     Write(Data(S("Descriptions.tamo")), {S("Wall Paint"), S("Rubber Base"), S("HM Door"),
                                          S("ACT Ceiling"), S("Carpet"), S("Paint"), S("Ghost")});

@@ -179,6 +179,19 @@ TEST_F(TakeoffTest, AnEmptyOrMissingRoomsTamoGivesNoRooms) {
   EXPECT_TRUE(rfs.RoomsList.Empty());
 }
 
+TEST_F(TakeoffTest, AHeightBeyondAllNumbersIsToldAndLosesNoLine) {
+  Write(Project(S("Rooms/Rooms.tamo")), {S("101"), S("True")});
+  Write(Project(S("Rooms/101.rfs")),
+        {QString(400, QLatin1Char('9')), Line(S("Wall Paint"), S("WALLS"), S("5"), S("SF"))});
+  EnterSchedule();
+  Enter(rfs.Room, S("101"));
+  EXPECT_EQ(TakeMessages().size(), 1);
+  EXPECT_EQ(rfs.RoomList.Count(), 1);
+  Enter(rfs.Description, S("Rubber Base"));
+  Enter(S("BASE"));
+  EXPECT_EQ(Room(S("101")).size(), 3);
+}
+
 TEST_F(TakeoffTest, ARoomLineWithACommaLoadsAsOneLine) {
   Write(Project(S("Rooms/Rooms.tamo")), {S("101"), S("True")});
   Write(Project(S("Rooms/101.rfs")),

@@ -368,6 +368,7 @@ TEST_F(WalkTest, AFullDiskInTheMiddleOfAWalkIsWalkedThrough) {
 }
 
 TEST_F(WalkTest, AnInterruptedSaveAtAnyStepLeavesAWholeFile) {
+  disk.quick = false;
   GiveRoom(S("101"), S("8"), {walls_});
   TakeOff();
   for (int step = 1; step <= 8; ++step) {
