@@ -5,46 +5,13 @@
 #include "program/planadapters.h"
 #include "program/reportadapters.h"
 #include "program/shell.h"
+#include "program/takeoffadapters.h"
+#include "program/work.h"
 #include "workspace/form11.h"
 #include "workspace/settingsform.h"
 #include "workspace/tamoform.h"
 
 namespace tamo {
-namespace {
-
-class Work : public WorkDesk,
-             public Desks,
-             public TakeoffFields,
-             public MarkupSource,
-             public BottomLineFigure {
- public:
-  ReportsForm* reports = nullptr;
-  void InitPricing() override {}
-  void RefreshPricingList() override {}
-  void PrintReport() override { reports->Refresh(); }
-  void ClearReports() override {
-    reports->Reporter.Clear();
-    reports->Hide();
-  }
-  void ForgetProject() override { reports->ForgetProject(); }
-  void ToggleUnitPricing(Form*) override {}
-  void TogglePricing(Form*) override {}
-  void LoadMarkups() override {}
-  void EnterSchedule(Form*) override {}
-  void TakeOffSchedule(Form*) override {}
-  void ShowFreeItems(Form*) override {}
-  void ShowBottomLine(Form*) override {}
-  void ShowAdjustment(Form*) override {}
-  void ToggleDocs(Form*) override {}
-  bool FormVisible(Field) const override { return false; }
-  void SetText(Field, const QString&) override {}
-  void FocusOn(Field) override {}
-  MarkupTexts Texts() const override { return {}; }
-  void SetTotalBL(const QString&) override {}
-};
-
-}  // namespace
-
 struct Program::Parts {
   Parts(const Platform& given, PdfDraw& pdfDraw)
       : platform(given),
@@ -57,10 +24,16 @@ struct Program::Parts {
     shared.zDir = platform.programFolder;
     form11 = std::make_unique<Form11>(kit);
     settings = std::make_unique<SettingsForm>(kit, shell);
-    ost = std::make_unique<OSTForm>(kit, viewer, projectKeeper, work);
+    ost = std::make_unique<OSTForm>(kit, viewer, projectKeeper, takeoffFields);
     main = std::make_unique<TamoForm>(kit, *settings, shell, planDesk, work);
+    pricing = std::make_unique<PricingForm>(kit, links, links, links);
+    rooms = std::make_unique<RFSForm>(kit, planTools, links, links, takeoffShell);
+    areas = std::make_unique<EstimateForm>(kit, planTools, links, links, takeoffShell);
+    bottomLine = std::make_unique<BottomLine>(kit, links);
+    adjustment = std::make_unique<AdjustmentForm>(kit, links);
     reports = std::make_unique<ReportsForm>(
-        kit, ReportsForm::Joins{work, projectRecord, reportsShell, work, wholeQuantities});
+        kit, ReportsForm::Joins{links, projectRecord, reportsShell, links, wholeQuantities});
+    docs = std::make_unique<DocsForm>(kit, work);
     Join();
   }
 
@@ -71,7 +44,11 @@ struct Program::Parts {
     projectRecord.Join(*main);
     reportsShell.Join(shell, *reports, *ost);
     wholeQuantities.Join(*settings);
-    work.reports = reports.get();
+    planTools.Join(*ost);
+    takeoffShell.Join(shell, *main, *ost);
+    takeoffFields.Join(*rooms, *areas);
+    links.Join(*pricing, *reports, *settings, *main, *ost);
+    work.Join({*pricing, *rooms, *areas, *bottomLine, *adjustment, *reports, *docs, shell});
     menus = std::make_unique<Menus>(kit, shell, *main, *settings, *ost, *reports, work);
   }
 
@@ -82,9 +59,13 @@ struct Program::Parts {
   SharedFields shared;
   const Kit kit;
   Shell shell;
-  Work work;
+  PricingLinks links;
+  WorkingForms work;
   PlanDeskOnOst planDesk;
   ProjectKeeperOnTamo projectKeeper;
+  PlanToolsOnOst planTools;
+  TakeoffShellOnForms takeoffShell;
+  TakeoffFieldsOnForms takeoffFields;
   ProjectRecordOnTamo projectRecord;
   ReportsShellOnForms reportsShell;
   WholeQuantitiesInSettings wholeQuantities;
@@ -92,7 +73,13 @@ struct Program::Parts {
   std::unique_ptr<SettingsForm> settings;
   std::unique_ptr<OSTForm> ost;
   std::unique_ptr<TamoForm> main;
+  std::unique_ptr<PricingForm> pricing;
+  std::unique_ptr<RFSForm> rooms;
+  std::unique_ptr<EstimateForm> areas;
+  std::unique_ptr<BottomLine> bottomLine;
+  std::unique_ptr<AdjustmentForm> adjustment;
   std::unique_ptr<ReportsForm> reports;
+  std::unique_ptr<DocsForm> docs;
   std::unique_ptr<Menus> menus;
 };
 

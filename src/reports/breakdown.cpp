@@ -8,7 +8,7 @@
 
 namespace tamo {
 
-BreakFigures MakeBreak(const ReportSource& source, const MarkupTexts& markups,
+BreakFigures MakeBreak(const ReportSource& source, const Markups& markups,
                        QString& adjustmentText) {
   BreakFigures figures;
   QStringList items;
@@ -24,11 +24,11 @@ BreakFigures MakeBreak(const ReportSource& source, const MarkupTexts& markups,
     if (row.value == 0) return;
     shelf.Load(row.name);
     if (shelf.UnitPrice() != 0) {
-      figures.unitPriced += UnitPricedAmount(shelf.UnitPrice(), row.value);
+      figures.unitPriced += UnitPricedAmount(shelf.UnitPrice(), row.value, row.name);
       figures.unitItems += row.name;
       return;
     }
-    for (const MaterialBlock& block : shelf.Blocks()) {
+    for (const PricedBlock& block : shelf.Blocks()) {
       const BlockDollars dollars = PriceBlock(block, row.value, row.name, standing);
       sums.rawMaterial += dollars.material;
       sums.rawLabor += Raised(dollars.labor);  // a least charge of a broken wage is raised here

@@ -49,7 +49,7 @@ class DollarColumn {
 
 class CopyMaker : public TakeoffVisitor {
  public:
-  CopyMaker(const ReportSource& source, const MarkupTexts& markups, bool office)
+  CopyMaker(const ReportSource& source, const Markups& markups, bool office)
       : source_(source), shelf_(source), markups_(markups), office_(office) {
     Add(QStringLiteral("Project Manager"));
     Add(office ? QStringLiteral("Office Copy") : QStringLiteral("Field Copy"));
@@ -73,7 +73,7 @@ class CopyMaker : public TakeoffVisitor {
     if (unitPriced || shelf_.Blocks().empty()) return;
     const double quantity = QuantityOf(kind, line, columns, static_cast<int>(head));
     double subtotal = 0;
-    for (const MaterialBlock& block : shelf_.Blocks()) {
+    for (const PricedBlock& block : shelf_.Blocks()) {
       subtotal += MaterialLine(block, quantity, system);
       subtotal += LaborLine(block, quantity, system);
     }
@@ -128,8 +128,9 @@ class CopyMaker : public TakeoffVisitor {
     return dollars;
   }
 
-  double MaterialLine(const MaterialBlock& block, double quantity, const QString& system) {
+  double MaterialLine(const PricedBlock& block, double quantity, const QString& system) {
     standing_.orderQuantity = WithWaste(block, OrderQuantity(block, quantity, system, standing_));
+    CheckFigures({standing_.orderQuantity * 100}, system);
     const FigureText shown = FigureText::WithPoint(Truncated(standing_.orderQuantity * 100));
     double dollars = 0;
     if (office_) {
@@ -138,6 +139,7 @@ class CopyMaker : public TakeoffVisitor {
                              markups_.MIOH * m + markups_.MITX * m + markups_.MIMU * m;
       dollars = Raised(m + markups);
     }
+    CheckFigures({dollars}, system);
     const DollarColumn column(office_, dollars, 13);
     return AddDetail(Begin() % block.material % BlankView(21 - block.material.size()) %
                      BlankView(14 - shown.Size()) % shown.View() % u' ' % block.orderUnit % u"(s)" %
@@ -145,9 +147,10 @@ class CopyMaker : public TakeoffVisitor {
                      column.Cents());
   }
 
-  double LaborLine(const MaterialBlock& block, double quantity, const QString& system) {
+  double LaborLine(const PricedBlock& block, double quantity, const QString& system) {
     standing_.manhours = Manhours(block, quantity, system, standing_);
     manhours_ += standing_.manhours;
+    CheckFigures({standing_.manhours * 100, manhours_}, system);
     const FigureText shown = FigureText::WithPoint(Truncated(standing_.manhours * 100 + 0.5));
     double dollars = 0;
     if (office_) {
@@ -157,6 +160,7 @@ class CopyMaker : public TakeoffVisitor {
                   markups_.MIOH * labor + markups_.MITX * labor + markups_.MIMU * labor);
       dollars = Rounded(labor + markups);
     }
+    CheckFigures({dollars}, system);
     const DollarColumn column(office_, dollars, 14);
     return AddDetail(Begin() % u"Labor" % BlankView(30 - shown.Size()) % shown.View() %
                      u" Manhours" % column.Blanks() % column.Figure() % column.Cents());
@@ -172,7 +176,7 @@ class CopyMaker : public TakeoffVisitor {
   NoteBook notes_;
 };
 
-TakeoffCopy MakeCopy(const ReportSource& source, const MarkupTexts& markups, bool office) {
+TakeoffCopy MakeCopy(const ReportSource& source, const Markups& markups, bool office) {
   CopyMaker maker(source, markups, office);
   WalkTakeoff(source, maker);
   return maker.Take();
@@ -184,7 +188,7 @@ TakeoffCopy FieldCopy(const ReportSource& source) {
   return MakeCopy(source, {}, false);
 }
 
-TakeoffCopy OfficeCopy(const ReportSource& source, const MarkupTexts& markups) {
+TakeoffCopy OfficeCopy(const ReportSource& source, const Markups& markups) {
   return MakeCopy(source, markups, true);
 }
 

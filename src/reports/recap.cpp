@@ -16,7 +16,7 @@ const QString kRule =
 
 class RecapSheet {
  public:
-  RecapSheet(const ReportSource& source, const MarkupTexts& markups, bool detailed)
+  RecapSheet(const ReportSource& source, const Markups& markups, bool detailed)
       : shelf_(source), markups_(markups), detailed_(detailed) {
     Add(QStringLiteral("Recap Sheet"));
     Add({});
@@ -66,7 +66,7 @@ class RecapSheet {
   void Add(const QString& line) { report_.lines += line; }
 
   void UnitPricedRow(const MergedRow& row) {
-    const double amount = UnitPricedAmount(shelf_.UnitPrice(), row.value);
+    const double amount = UnitPricedAmount(shelf_.UnitPrice(), row.value, row.name);
     Add(GrownRight(QStringLiteral("  ") + row.name, 21) + GrownLeft(row.quantity, 14) +
         QLatin1Char(' ') + GrownRight(row.units, 6) + GrownLeft(shelf_.UnitPriceText(), 11) +
         GrownLeft(NumberText(amount) + kCents, 14));
@@ -160,7 +160,7 @@ class RecapSheet {
 
 }  // namespace
 
-Report MinimalRecapSheet(const ReportSource& source, const MarkupTexts& markups, bool detailed,
+Report MinimalRecapSheet(const ReportSource& source, const Markups& markups, bool detailed,
                          QString& adjustment) {
   QStringList items;
   LoadoiList(source, items);

@@ -7,7 +7,7 @@
 
 namespace tamo {
 
-MarkupFactors::MarkupFactors(const MarkupTexts& texts)
+MarkupFactors::MarkupFactors(const Markups& texts)
     : LOH(Value(texts.LOH)),
       LTX(Value(texts.LTX)),
       LMU(Value(texts.LMU)),
@@ -41,7 +41,7 @@ QString UnitPriceText(double price) {
 
 namespace {
 
-QString NoRatio(const QString& system, const MaterialBlock& block, const QString& what) {
+QString NoRatio(const QString& system, const PricedBlock& block, const QString& what) {
   return QStringLiteral(
              "The report can't be made: in the system \"%1\" the material \"%2\" has a %3 of 0, "
              "and "
@@ -51,7 +51,7 @@ QString NoRatio(const QString& system, const MaterialBlock& block, const QString
 
 }  // namespace
 
-double OrderQuantity(const MaterialBlock& block, double quantity, const QString& system,
+double OrderQuantity(const PricedBlock& block, double quantity, const QString& system,
                      const StandingFigures& standing) {
   switch (block.orderTag) {
     case OrderTag::Upo:
@@ -66,7 +66,7 @@ double OrderQuantity(const MaterialBlock& block, double quantity, const QString&
   return standing.orderQuantity;
 }
 
-double Manhours(const MaterialBlock& block, double quantity, const QString& system,
+double Manhours(const PricedBlock& block, double quantity, const QString& system,
                 const StandingFigures& standing) {
   switch (block.laborTag) {
     case LaborTag::Upm:
@@ -81,11 +81,11 @@ double Manhours(const MaterialBlock& block, double quantity, const QString& syst
   return standing.manhours;
 }
 
-double WithWaste(const MaterialBlock& block, double orderQuantity) {
+double WithWaste(const PricedBlock& block, double orderQuantity) {
   return orderQuantity + (block.waste / 100) * orderQuantity;
 }
 
-BlockDollars PriceBlock(const MaterialBlock& block, double quantity, const QString& system,
+BlockDollars PriceBlock(const PricedBlock& block, double quantity, const QString& system,
                         StandingFigures& standing) {
   BlockDollars dollars;
   double order = OrderQuantity(block, quantity, system, standing);
@@ -99,20 +99,36 @@ BlockDollars PriceBlock(const MaterialBlock& block, double quantity, const QStri
   standing.manhours = Manhours(block, quantity, system, standing);
   dollars.labor = Raised(standing.manhours * block.wage);
   if (block.wage > dollars.labor) dollars.labor = block.wage;
+  CheckFigures({dollars.material, dollars.labor, standing.manhours}, system);
   return dollars;
 }
 
-double UnitPricedAmount(double unitPrice, double quantity) {
-  return Rounded(unitPrice * quantity);
+void CheckFigures(std::initializer_list<double> figures, const QString& system) {
+  for (const double figure : figures) {
+    if (std::isfinite(figure)) continue;
+    throw RunTimeFailure(
+        kOverflow,
+        QStringLiteral(
+            "The report can't be made: the figures of the system \"%1\" grow larger than "
+            "any number that can be worked with. Look for a quantity, price or ratio "
+            "that was mistyped, then run the report again.")
+            .arg(system));
+  }
 }
 
-LineRollUp RollUpLine(const std::vector<MaterialBlock>& blocks, double quantity,
+double UnitPricedAmount(double unitPrice, double quantity, const QString& system) {
+  const double amount = Rounded(unitPrice * quantity);
+  CheckFigures({amount}, system);
+  return amount;
+}
+
+LineRollUp RollUpLine(const std::vector<PricedBlock>& blocks, double quantity,
                       const QString& system, const MarkupFactors& markups,
                       StandingFigures& standing) {
   LineRollUp line;
   double labor = 0;
   double material = 0;
-  for (const MaterialBlock& block : blocks) {
+  for (const PricedBlock& block : blocks) {
     const BlockDollars dollars = PriceBlock(block, quantity, system, standing);
     material += dollars.material;
     labor += dollars.labor;
@@ -128,6 +144,7 @@ LineRollUp RollUpLine(const std::vector<MaterialBlock>& blocks, double quantity,
   line.rawMaterial = Rounded(material);
   line.rawLabor = Rounded(labor);
   line.total = Rounded(line.rawLabor + line.rawMaterial + line.markups);
+  CheckFigures({line.markups, line.total}, system);
   line.unitPrice = UnitPriceText(Divided(
       line.total, quantity, QStringLiteral("The system \"%1\" has no quantity.").arg(system)));
   return line;

@@ -128,6 +128,12 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   display_.GetDesk().CloseBox(form_);
 }
 
+bool FormWindow::focusNextPrevChild(bool next) {
+  // A field that goes while it has the focus asks for the next one; the form says which.
+  if (!display_.Syncing()) display_.GetDesk().MoveFocus(next);
+  return true;
+}
+
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   if (!display_.TakeWindowKey(form_, *event)) QWidget::keyPressEvent(event);
 }

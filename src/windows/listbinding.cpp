@@ -58,25 +58,18 @@ void ListBinding::Apply() {
   } else if (dynamic_cast<CheckList*>(&list_) != nullptr) {
     view_.Model().TicksChanged();
   }
-  if (list_.Top() != appliedTop_) {
-    appliedTop_ = list_.Top();
-    bar->setValue(appliedTop_);
-  }
   const int index = list_.Index();
-  if (view_.currentIndex().row() != index) {
-    if (index < 0) {
-      view_.clearSelection();
-      view_.setCurrentIndex({});
-    } else {
-      view_.setCurrentIndex(view_.Model().index(index));
-    }
-    view_.viewport()->update();
-  }
+  view_.SetSelected(index);
   if (list_.ShownWithFrames() && (under_ != nullptr || view_.isHidden())) Place();
   Binding::Apply();
   if (!list_.Shown()) view_.SetWalked(-1);
   if (index >= 0 && (index != appliedIndex_ || other)) view_.scrollTo(view_.Model().index(index));
   appliedIndex_ = index;
+  // Where the form wants another first row, it has the last word.
+  if (list_.Top() != appliedTop_) {
+    appliedTop_ = list_.Top();
+    bar->setValue(appliedTop_);
+  }
   if (onApplied) onApplied();
 }
 
@@ -198,7 +191,7 @@ bool ListBinding::TakeMouse(QEvent* event) {
     case QEvent::MouseMove:
       return mouse->buttons() != Qt::NoButton;
     case QEvent::ContextMenu: {
-      const int row = view_.currentIndex().row();
+      const int row = list_.Index();
       const bool keys =
           static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard;
       if (keys && list_.onRightClick && row >= 0) {

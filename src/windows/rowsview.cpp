@@ -21,6 +21,7 @@ class RowPainter : public QStyledItemDelegate {
 
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
     const int columns = std::min(view_.Model().LongestRow(), kMostPainted);
+    if (view_.linesOfRow > 1) return {0, view_.RowHeight()};
     return {view_.WidthOfColumns(columns), view_.RowHeight()};
   }
 
@@ -28,7 +29,7 @@ class RowPainter : public QStyledItemDelegate {
              const QModelIndex& index) const override {
     const Look& look = CurrentLook();
     const QRect& row = option.rect;
-    const bool selected = index.row() == view_.currentIndex().row();
+    const bool selected = index.row() == view_.Selected();
     painter->save();
     if (selected) {
       painter->fillRect(row, look.accentGround);
@@ -79,7 +80,9 @@ class RowPainter : public QStyledItemDelegate {
       }
     }
     painter.setPen(view_.isEnabled() ? look.text : look.quiet);
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+    const int flags = view_.linesOfRow > 1 ? Qt::AlignVCenter | Qt::TextWordWrap
+                                           : Qt::AlignVCenter | Qt::TextSingleLine;
+    painter.drawText(place, Qt::AlignLeft | flags, text);
   }
 
   RowsView& view_;
@@ -141,12 +144,27 @@ void RowsView::UseFixedColumns() {
 }
 
 int RowsView::RowHeight() const {
-  return std::max(QFontMetrics(font()).height() + 4, kTick + 4);
+  return std::max(QFontMetrics(font()).height() * linesOfRow + 4, kTick + 4);
 }
 
 int RowsView::WidthOfColumns(int characters) const {
   const int one = QFontMetrics(font()).horizontalAdvance(QLatin1Char('0'));
   return characters * one + 2 * kGrid;
+}
+
+// The view itself makes a row the current one when the keyboard comes; only the list selects.
+void RowsView::SetSelected(int row) {
+  const QModelIndexList chosen = selectionModel()->selectedIndexes();
+  const int shown = chosen.isEmpty() ? -1 : chosen.first().row();
+  if (row == selected_ && row == shown) return;
+  selected_ = row;
+  if (row < 0) {
+    clearSelection();
+    setCurrentIndex({});
+  } else {
+    selectionModel()->setCurrentIndex(model_->index(row), QItemSelectionModel::ClearAndSelect);
+  }
+  viewport()->update();
 }
 
 void RowsView::SetWalked(int row) {

@@ -4,12 +4,18 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <ostream>
 
 #include "common/files.h"
 #include "common/kit.h"
 #include "reports/reportsform.h"
 #include "support/doubles.h"
 #include "support/faultdisk.h"
+
+// How a failed expectation shows a text.
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << '|' << text.toStdString() << '|';
+}
 
 namespace tamo::test {
 
@@ -49,7 +55,7 @@ class BenchProject {
   void Adjust(const QString& text) { Write(QStringLiteral("Adjustment.tamo"), {text}); }
 
   ReportSource Source();
-  MarkupTexts Markups();  // of the project's Markups.tamo; empty without one
+  Markups MarkupsOfFile();  // of the project's Markups.tamo; empty without one
 
   QString folder;  // with its separator
   FaultDisk disk;
@@ -70,13 +76,13 @@ class FormBench {
 
   struct MarkupDouble : MarkupSource {
     BenchProject* project = nullptr;
-    MarkupTexts texts;
+    Markups texts;
     int loads = 0;
     void LoadMarkups() override {
       ++loads;
-      texts = project->Markups();
+      texts = project->MarkupsOfFile();
     }
-    MarkupTexts Texts() const override { return texts; }
+    Markups Texts() const override { return texts; }
   };
   struct RecordDouble : ProjectRecord {
     ProjectFacts facts;
