@@ -255,7 +255,7 @@ void PlanPainter::State::KeepCoarse(const PaintJob& job, std::shared_ptr<const P
 }
 
 void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<PageList> list,
-                              std::shared_ptr<const Picture> picture) {
+                              const std::shared_ptr<const Picture>& picture) {
   using Kind = PaintJob::Kind;
   const bool good = picture != nullptr || list != nullptr;
   const bool overdue = std::chrono::steady_clock::now() - job.began >= kLongestRead;
@@ -271,7 +271,7 @@ void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<PageList> lis
   } else if (job.kind == Kind::ReadSmall) {
     smallLists[job.page] = std::move(list);
   } else if (job.kind == Kind::Coarse) {
-    KeepCoarse(job, std::move(picture));
+    KeepCoarse(job, picture);
   } else if (job.kind == Kind::Sharp) {
     const PaintPart& part = job.part;
     KeepTile(

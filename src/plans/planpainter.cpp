@@ -36,7 +36,7 @@ class Worker {
       Do(job);
       lock.lock();
       std::erase(state_->working, &job);
-      state_->Done(job, std::move(list_), std::move(picture_));
+      state_->Done(job, std::move(list_), std::exchange(picture_, nullptr));
       state_->wake.notify_all();
       state_->news.notify_all();
       const auto changed = state_->onChanged;
