@@ -23,7 +23,9 @@ class PlanDeskOnOst : public PlanDesk {
   void SetPlanLocation(const QString& path) override { ost_->PlanLocation.SetText(path); }
   void SetPageText(const QString& text) override { ost_->PageText.SetText(text); }
   void SetZoomLevel(const QString& text) override { ost_->ZoomLevel.SetText(text); }
+  // Cleared first: the viewer's unit follows a change of Text5, and opening a plan has reset it.
   void SetScale(const QString& scale1, const QString& scale2, const QString& text5) override {
+    for (TextField* field : {&ost_->Scale1, &ost_->Scale2, &ost_->Text5}) field->Clear();
     ost_->Scale1.SetText(scale1);
     ost_->Scale2.SetText(scale2);
     ost_->Text5.SetText(text5);

@@ -1,0 +1,30 @@
+# Where an installed Tamo lies, and the .deb that cpack makes of it. The executable and everything that it looks for beside
+# itself share one folder; a link puts it on the path.
+include(GNUInstallDirs)
+set(program_folder ${CMAKE_INSTALL_LIBDIR}/tamo)
+install(TARGETS tamo RUNTIME DESTINATION ${program_folder})
+install(FILES ${PROJECT_SOURCE_DIR}/data/Blank.pdf ${PROJECT_SOURCE_DIR}/data/About.pdf DESTINATION ${program_folder})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/Docs ${PROJECT_SOURCE_DIR}/data/Sample DESTINATION ${program_folder})
+install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/tamo.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/tamo.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/tamo.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md ${PROJECT_SOURCE_DIR}/README.md
+        DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(CODE "
+  file(MAKE_DIRECTORY \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")
+  file(CREATE_LINK ../${program_folder}/tamo \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/tamo\" SYMBOLIC)")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME tamo)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_CONTACT "The Tamo maintainers <maintainers@tamo.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Desktop estimating for construction subcontractors")
+set(CPACK_PACKAGE_DESCRIPTION "Keeps a library of priced building systems, takes off quantities per bid, also on PDF plans,
+and shows the bid as recap sheets, quantities, a bill of material, a breakdown and crew copies.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core")
+set(CPACK_STRIP_FILES ON)
+include(CPack)
