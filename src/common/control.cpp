@@ -116,7 +116,6 @@ Swatch::Swatch(Form& form, const QString& name, const QString& caption)
     : Captioned(form, name, caption) {
   form.Register(this);
   takesFocus = false;
-  inTabOrder = false;
 }
 
 void Swatch::SetColour(const QString& code) {

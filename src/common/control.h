@@ -80,9 +80,10 @@ class Control {
 
   bool HasFocus() const;
 
-  // A control that never takes the focus when clicked: drop lists, labels, the buttons beside the
-  // plan.
+  // A control that never takes the focus when clicked: drop lists, labels, swatches, the buttons
+  // beside the plan.
   bool takesFocus = true;
+  // Tab comes here, except to a list that takes no focus: that one is walked from its field.
   bool inTabOrder = true;
 
   std::function<void(Key&)> onKey;
@@ -142,8 +143,8 @@ class TextField : public Control {
   std::function<void()> onChange;  // the text became another one, by the program or the user
 
   // User side. ReplaceSelection types or pastes `typed` over the selection (cut to the length
-  // limit; a line end of any kind becomes CR LF, or a blank in a field of one line); SetByUser takes over what a widget's own
-  // editing made of the text.
+  // limit; a line end of any kind becomes CR LF, or a blank in a field of one line); SetByUser
+  // takes over what a widget's own editing made of the text.
   void ReplaceSelection(const QString& typed);
   void DeleteBackward();
   void DeleteForward();

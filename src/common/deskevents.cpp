@@ -106,7 +106,8 @@ void Desk::PressKey(Control& control, Key key) {
         MoveInList(*list, key);
       }
     } else if (key.Is(Key::Name::Space) ||
-               (key.IsEnter() && dynamic_cast<Button*>(&control) != nullptr)) {
+               (key.IsEnter() && (dynamic_cast<Button*>(&control) != nullptr ||
+                                  dynamic_cast<Swatch*>(&control) != nullptr))) {
       ClickInto(control);
     }
   });
@@ -227,12 +228,25 @@ void Desk::Pick(FileBrowser& browser, const QString& path, bool twice) {
   });
 }
 
+namespace {
+
+// Whatever can be clicked can be reached without a mouse. A swatch that only shows a colour is
+// none.
+bool IsTabStop(const Control& control) {
+  if (!control.inTabOrder) return false;
+  if (dynamic_cast<const OrderedList*>(&control) != nullptr) return control.takesFocus;
+  if (dynamic_cast<const Swatch*>(&control) != nullptr) return static_cast<bool>(control.onClick);
+  return true;
+}
+
+}  // namespace
+
 void Desk::MoveFocus(bool forward) {
   Dispatch([&] {
     if (active_ == nullptr) return;
     std::vector<Control*> stops;
     for (Control* control : active_->controls_) {
-      if (control->takesFocus && control->inTabOrder && (control->Usable() || control == focused_))
+      if (IsTabStop(*control) && (control->Usable() || control == focused_))
         stops.push_back(control);
     }
     if (stops.empty()) return;

@@ -25,6 +25,7 @@ DocsForm::DocsForm(const Kit& kit, DocShell& shell)
   SetCaption(QStringLiteral("Documentation"));
   for (const Topic& topic : Topics()) MenuList.Add(QLatin1String(topic.row));
   DocText.multiLine = true;
+  DocList.takesFocus = false;
   // A click on the row that is selected already shows its topic again.
   MenuList.onSelect = [this] { ChooseTopic(); };
   MenuList.onClick = [this] { ChooseTopic(); };

@@ -73,7 +73,6 @@ void OSTForm::SetUpFields() {
   for (Control* button : std::initializer_list<Control*>{&SetInches, &CheckDimension, &Check1,
                                                          &Command2, &Command3}) {
     button->takesFocus = false;
-    button->inTabOrder = false;
   }
   picPdfThumbnails.inTabOrder = false;
 

@@ -83,6 +83,7 @@ class BillMaker : public TakeoffVisitor {
     if (source_.wholeQuantities) taken = quantity.whole;
     const double order = WithWaste(block, OrderQuantity(block, taken, system, standing_));
     standing_.orderQuantity = order;
+    CheckFigures({order}, system);
     if (isNew) {
       at = index_.Add(block.material);
       rows.push_back({block.material, CutTo15Digits(order), QString()});

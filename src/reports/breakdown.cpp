@@ -24,7 +24,7 @@ BreakFigures MakeBreak(const ReportSource& source, const MarkupTexts& markups,
     if (row.value == 0) return;
     shelf.Load(row.name);
     if (shelf.UnitPrice() != 0) {
-      figures.unitPriced += UnitPricedAmount(shelf.UnitPrice(), row.value);
+      figures.unitPriced += UnitPricedAmount(shelf.UnitPrice(), row.value, row.name);
       figures.unitItems += row.name;
       return;
     }

@@ -130,6 +130,7 @@ class CopyMaker : public TakeoffVisitor {
 
   double MaterialLine(const MaterialBlock& block, double quantity, const QString& system) {
     standing_.orderQuantity = WithWaste(block, OrderQuantity(block, quantity, system, standing_));
+    CheckFigures({standing_.orderQuantity * 100}, system);
     const FigureText shown = FigureText::WithPoint(Truncated(standing_.orderQuantity * 100));
     double dollars = 0;
     if (office_) {
@@ -138,6 +139,7 @@ class CopyMaker : public TakeoffVisitor {
                              markups_.MIOH * m + markups_.MITX * m + markups_.MIMU * m;
       dollars = Raised(m + markups);
     }
+    CheckFigures({dollars}, system);
     const DollarColumn column(office_, dollars, 13);
     return AddDetail(Begin() % block.material % BlankView(21 - block.material.size()) %
                      BlankView(14 - shown.Size()) % shown.View() % u' ' % block.orderUnit % u"(s)" %
@@ -148,6 +150,7 @@ class CopyMaker : public TakeoffVisitor {
   double LaborLine(const MaterialBlock& block, double quantity, const QString& system) {
     standing_.manhours = Manhours(block, quantity, system, standing_);
     manhours_ += standing_.manhours;
+    CheckFigures({standing_.manhours * 100, manhours_}, system);
     const FigureText shown = FigureText::WithPoint(Truncated(standing_.manhours * 100 + 0.5));
     double dollars = 0;
     if (office_) {
@@ -157,6 +160,7 @@ class CopyMaker : public TakeoffVisitor {
                   markups_.MIOH * labor + markups_.MITX * labor + markups_.MIMU * labor);
       dollars = Rounded(labor + markups);
     }
+    CheckFigures({dollars}, system);
     const DollarColumn column(office_, dollars, 14);
     return AddDetail(Begin() % u"Labor" % BlankView(30 - shown.Size()) % shown.View() %
                      u" Manhours" % column.Blanks() % column.Figure() % column.Cents());

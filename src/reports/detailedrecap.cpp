@@ -41,7 +41,7 @@ class DetailedSheet {
          QStringLiteral(" EUP ") + row.units);
     Costs costs;
     if (shelf_.UnitPrice() != 0) {
-      unitPriced_ += UnitPricedAmount(shelf_.UnitPrice(), row.value);
+      unitPriced_ += UnitPricedAmount(shelf_.UnitPrice(), row.value, row.name);
       Line(Blanks(5) + row.name + QStringLiteral("  @ ") + shelf_.UnitPriceText() + kCents);
     } else {
       for (const MaterialBlock& block : shelf_.Blocks()) costs.Add(Material(block, row));
@@ -83,6 +83,7 @@ class DetailedSheet {
     const double misc = markups_.MIOH + markups_.MITX + markups_.MIMU;
     costs.markups = (markups_.MOH + markups_.MTX + markups_.MMU + misc) * costs.material +
                     (markups_.LOH + markups_.LTX + markups_.LMU + misc) * costs.labor;
+    CheckFigures({costs.material, costs.labor, costs.markups}, row.name);
     const QString price = NumberText(block.price) + kCents;
     Line(Blanks(5) + block.material + QStringLiteral("  @ ") + price);
     Line(QStringLiteral("     Labor    ") + NumberText(standing_.manhours) +

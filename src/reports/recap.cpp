@@ -66,7 +66,7 @@ class RecapSheet {
   void Add(const QString& line) { report_.lines += line; }
 
   void UnitPricedRow(const MergedRow& row) {
-    const double amount = UnitPricedAmount(shelf_.UnitPrice(), row.value);
+    const double amount = UnitPricedAmount(shelf_.UnitPrice(), row.value, row.name);
     Add(GrownRight(QStringLiteral("  ") + row.name, 21) + GrownLeft(row.quantity, 14) +
         QLatin1Char(' ') + GrownRight(row.units, 6) + GrownLeft(shelf_.UnitPriceText(), 11) +
         GrownLeft(NumberText(amount) + kCents, 14));

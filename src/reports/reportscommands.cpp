@@ -43,6 +43,13 @@ void ReportsForm::ExitReports() {
   }
   Reporter.Clear();
   Reporter1.Clear();
+  ClearNotes();
+  Hide();
+}
+
+void ReportsForm::ClearReport() {
+  Reporter.Clear();
+  ClearNotes();
   Hide();
 }
 

@@ -66,13 +66,17 @@ void ReportsForm::Clear() {
   Reporter.Hide();
   Reporter1.Hide();
   Frame1.Hide();
-  NotesList.Hide();
-  WholeQuantities.Hide();
   Reporter.Clear();
   Reporter1.Clear();
+  detail_.clear();
+  ClearNotes();
+}
+
+void ReportsForm::ClearNotes() {
+  NotesList.Hide();
+  WholeQuantities.Hide();
   NotesList.Clear();
   notes_.clear();
-  detail_.clear();
 }
 
 void ReportsForm::Make(const std::function<void()>& report) {

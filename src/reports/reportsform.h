@@ -64,6 +64,7 @@ class ReportsForm : public Form {
   void CopyReport();
   void WriteProjectFile();  // of the report in the window, into the data folder
   void ExitReports();
+  void ClearReport();  // empties Reporter and hides the form: its project is left
 
   // Makes the open report again after its data changed, when AutoCheck is on and the form is
   // visible; keeps the first visible line where the new report is long enough.
@@ -85,6 +86,7 @@ class ReportsForm : public Form {
   void FillCopy(const TakeoffCopy& report);
   void TakeNotes(const Report& report, bool readsQuantities);
   void Clear();
+  void ClearNotes();
   ReportSource Source();
   MarkupTexts LoadedMarkups();
   void ShowWindow();

@@ -99,11 +99,27 @@ BlockDollars PriceBlock(const MaterialBlock& block, double quantity, const QStri
   standing.manhours = Manhours(block, quantity, system, standing);
   dollars.labor = Raised(standing.manhours * block.wage);
   if (block.wage > dollars.labor) dollars.labor = block.wage;
+  CheckFigures({dollars.material, dollars.labor, standing.manhours}, system);
   return dollars;
 }
 
-double UnitPricedAmount(double unitPrice, double quantity) {
-  return Rounded(unitPrice * quantity);
+void CheckFigures(std::initializer_list<double> figures, const QString& system) {
+  for (const double figure : figures) {
+    if (std::isfinite(figure)) continue;
+    throw RunTimeFailure(
+        kOverflow,
+        QStringLiteral(
+            "The report can't be made: the figures of the system \"%1\" grow larger than "
+            "any number that can be worked with. Look for a quantity, price or ratio "
+            "that was mistyped, then run the report again.")
+            .arg(system));
+  }
+}
+
+double UnitPricedAmount(double unitPrice, double quantity, const QString& system) {
+  const double amount = Rounded(unitPrice * quantity);
+  CheckFigures({amount}, system);
+  return amount;
 }
 
 LineRollUp RollUpLine(const std::vector<MaterialBlock>& blocks, double quantity,
@@ -128,6 +144,7 @@ LineRollUp RollUpLine(const std::vector<MaterialBlock>& blocks, double quantity,
   line.rawMaterial = Rounded(material);
   line.rawLabor = Rounded(labor);
   line.total = Rounded(line.rawLabor + line.rawMaterial + line.markups);
+  CheckFigures({line.markups, line.total}, system);
   line.unitPrice = UnitPriceText(Divided(
       line.total, quantity, QStringLiteral("The system \"%1\" has no quantity.").arg(system)));
   return line;

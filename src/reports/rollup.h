@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <initializer_list>
 #include <vector>
 
 #include "reports/markupsource.h"
@@ -45,8 +46,11 @@ struct BlockDollars {
 BlockDollars PriceBlock(const MaterialBlock& block, double quantity, const QString& system,
                         StandingFigures& standing);
 
+// Raises a RunTimeFailure that names the system when one of the figures is larger than any number.
+void CheckFigures(std::initializer_list<double> figures, const QString& system);
+
 // What a unit-priced item costs: whole dollars, no markups.
-double UnitPricedAmount(double unitPrice, double quantity);
+double UnitPricedAmount(double unitPrice, double quantity, const QString& system);
 
 // One row of the recap sheet: every figure rounded for itself, no markup upon another.
 struct LineRollUp {

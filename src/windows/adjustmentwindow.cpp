@@ -11,7 +11,7 @@ void LayOutAdjustmentForm(Builder& b) {
              FixedPrompt(QStringLiteral(
                  "A whole amount; a minus lowers the bid. Press Enter to save and finish.")));
   body.addStretch(1);
-  b.Window().resize(480, 128);
+  b.Window().firstSize = {480, 128};
 }
 
 }  // namespace tamo

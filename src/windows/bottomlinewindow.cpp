@@ -10,7 +10,7 @@ void LayOutBottomLine(Builder& b) {
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(kGrid);
   FieldColumn fields(*column);
-  fields.captionColumns = 10;
+  fields.captionWidth = 10 * kGrid;
   fields.Add(b.Caption("ItemLabel"), b.Field("Item", 26), b.Prompt("ItemPrompt"));
   fields.Add(b.Caption("PriceLabel"), b.Field("iPrice", 14));
   column->addWidget(Section(QStringLiteral("Items of this project")));
@@ -22,7 +22,7 @@ void LayOutBottomLine(Builder& b) {
   b.DropList("ItemList", "Item");
   b.PopList("EditList", QStringLiteral("What to do with the item"), 14);
   b.Window().Body().addWidget(frame, 1);
-  b.Window().resize(480, 480);
+  b.Window().firstSize = {480, 480};
 }
 
 }  // namespace tamo

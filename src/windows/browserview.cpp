@@ -67,7 +67,8 @@ BrowserView::BrowserView(FileBrowser::Kind kind, QWidget* parent)
   rows_->setUniformItemSizes(true);
   rows_->setFocusPolicy(Qt::NoFocus);
   setFocusProxy(rows_);
-  if (kind == FileBrowser::Kind::Drive) rows_->setFixedHeight(3 * kFieldHeight);
+  rows_->setMinimumHeight(8 * kGrid);
+  if (kind == FileBrowser::Kind::Drive) rows_->setFixedHeight(7 * kGrid);
 }
 
 void BrowserView::Show(const std::vector<BrowserRow>& rows, const QString& folder,

@@ -218,39 +218,15 @@ void FieldColumn::SetUp() {
 }
 
 void FieldColumn::Add(QLabel* caption, QWidget* field, QLabel* prompt) {
-  const int one = caption->fontMetrics().averageCharWidth();
-  caption->setMinimumWidth(captionColumns * one);
+  if (captionWidth > 0) caption->setMinimumWidth(captionWidth);
   caption->setBuddy(field);
   const bool whole = field->minimumWidth() != field->maximumWidth();
-  grid_->addWidget(caption, row_, 0, Qt::AlignRight | Qt::AlignVCenter);
+  const bool tall = dynamic_cast<QPlainTextEdit*>(field) != nullptr;
+  if (tall) caption->setContentsMargins(0, kGrid / 2, 0, 0);
+  grid_->addWidget(caption, row_, 0, Qt::AlignRight | (tall ? Qt::AlignTop : Qt::AlignVCenter));
   grid_->addWidget(field, row_, 1, whole ? Qt::Alignment() : Qt::AlignLeft);
   ++row_;
   if (prompt != nullptr) grid_->addWidget(Kept(prompt), row_++, 1);
-}
-
-void FieldColumn::AddPair(QLabel* caption, QWidget* field, QLabel* secondCaption,
-                          QWidget* secondField) {
-  auto* both = new QWidget;
-  auto* line = new QHBoxLayout(both);
-  line->setContentsMargins(0, 0, 0, 0);
-  line->setSpacing(kGrid);
-  line->addWidget(field);
-  line->addSpacing(2 * kGrid);
-  line->addWidget(secondCaption);
-  line->addWidget(secondField);
-  line->addStretch(1);
-  secondCaption->setBuddy(secondField);
-  caption->setBuddy(field);
-  grid_->addWidget(caption, row_, 0, Qt::AlignRight | Qt::AlignVCenter);
-  grid_->addWidget(both, row_++, 1);
-}
-
-void FieldColumn::AddWide(QWidget* widget) {
-  grid_->addWidget(widget, row_++, 0, 1, 2);
-}
-
-void FieldColumn::AddUnder(QWidget* widget) {
-  grid_->addWidget(widget, row_++, 1, Qt::AlignLeft);
 }
 
 }  // namespace tamo

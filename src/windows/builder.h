@@ -96,11 +96,7 @@ class FieldColumn {
   QGridLayout& Grid() { return *grid_; }
 
   void Add(QLabel* caption, QWidget* field, QLabel* prompt = nullptr);
-  // Two pairs in a row.
-  void AddPair(QLabel* caption, QWidget* field, QLabel* secondCaption, QWidget* secondField);
-  void AddWide(QWidget* widget);   // across both columns
-  void AddUnder(QWidget* widget);  // in the column of the fields
-  int captionColumns = 16;         // least width of the captions, in characters
+  int captionWidth = 0;  // of all captions, in pixels; 0 lets each column find its own
 
  private:
   void SetUp();

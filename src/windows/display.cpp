@@ -117,21 +117,27 @@ void Display::MarkDirty() {
   });
 }
 
-void Display::SyncNow() {
-  if (syncing_ > 0) return;
+void Display::ApplyContents() {
   ++syncing_;
-  std::vector<Binding*> applied;
   while (!dirty_.empty()) {
     const std::vector<Binding*> now = std::exchange(dirty_, {});
     for (Binding* binding : now) {
       binding->dirty_ = false;
       binding->Apply();
-      applied.push_back(binding);
+      applied_.push_back(binding);
     }
   }
+  --syncing_;
+}
+
+void Display::SyncNow() {
+  if (syncing_ > 0) return;
+  ++syncing_;
+  ApplyContents();
   if (syncWindows) syncWindows();
+  ApplyContents();
   SyncFocus();
-  for (Binding* binding : applied) binding->ApplyFocus();
+  for (Binding* binding : std::exchange(applied_, {})) binding->ApplyFocus();
   --syncing_;
   if (afterSync) afterSync();
 }

@@ -66,6 +66,8 @@ class Display : public QObject {
   // Something that is no control changed: windows, notices, status lines are looked at again.
   void MarkDirty();
   void SyncNow();
+  // The contents alone, without windows and focus.
+  void ApplyContents();
   // Widgets are being brought to their controls' state: what they report now is not the user.
   bool Syncing() const { return syncing_ > 0; }
 
@@ -94,6 +96,7 @@ class Display : public QObject {
   std::vector<std::unique_ptr<Binding>> bindings_;
   std::unordered_map<const Control*, Binding*> byControl_;
   std::vector<Binding*> dirty_;
+  std::vector<Binding*> applied_;  // in this sync
   bool queued_ = false;
   int syncing_ = 0;
   Control* shownFocus_ = nullptr;

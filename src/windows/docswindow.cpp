@@ -1,4 +1,39 @@
 #include "windows/formlayouts.h"
+
+// The help: topics on the left, the text on the right.
+
 namespace tamo {
-void LayOutDocs(Builder&) {}
+
+void LayOutDocs(Builder& b) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(2 * kGrid);
+  auto* left = new QVBoxLayout;
+  left->addWidget(Section(QStringLiteral("Topics")));
+  RowsView* topics = b.List("MenuList", QStringLiteral("Topics"), 34, 24);
+  topics->setFixedWidth(topics->sizeHint().width());
+  left->addWidget(topics, 1);
+  row->addLayout(left);
+  auto* right = new QVBoxLayout;
+  right->setSpacing(kGrid);
+  auto* line = new QHBoxLayout;
+  line->setSpacing(kGrid);
+  QLabel* caption = FixedCaption(QStringLiteral("File:"));
+  QLineEdit* file = b.Field("Text1");
+  caption->setBuddy(file);
+  line->addWidget(caption);
+  line->addWidget(file, 1);
+  line->addWidget(b.PushButton("Command2"));
+  line->addWidget(b.PushButton("Command1"));
+  right->addLayout(line);
+  QPlainTextEdit* text = b.LongField("DocText", QStringLiteral("Text of the topic"));
+  text->setFont(FixedFont());
+  text->setMinimumWidth(QFontMetrics(text->font()).horizontalAdvance(QLatin1Char('0')) * 84 +
+                        4 * kGrid);
+  text->setPlaceholderText(QStringLiteral("Choose a topic on the left."));
+  right->addWidget(text, 1);
+  row->addLayout(right, 1);
+  b.Window().Body().addLayout(row, 1);
+  b.Window().firstSize = {1120, 680};
+}
+
 }  // namespace tamo

@@ -20,7 +20,7 @@ void LayOutEstimateForm(Builder& b) {
   b.DropList("Lengths", "eLength");
   body.addWidget(Tally(b, "Lengths"));
   TakeoffStatus(b);
-  b.Window().resize(860, 600);
+  b.Window().firstSize = {860, 600};
 }
 
 }  // namespace tamo

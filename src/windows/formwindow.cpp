@@ -128,6 +128,11 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   display_.GetDesk().CloseBox(form_);
 }
 
+bool FormWindow::focusNextPrevChild(bool next) {
+  display_.GetDesk().MoveFocus(next);
+  return true;
+}
+
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   if (!display_.TakeWindowKey(form_, *event)) QWidget::keyPressEvent(event);
 }

@@ -49,6 +49,9 @@ class FormWindow : public QWidget {
   void SetStatus(const QString& project, bool locked, const QString& folder);
   NoticeStrip& Notice() const { return *notice_; }
 
+  // The size of a window that has never been shown; made larger where its contents need it.
+  QSize firstSize = {640, 480};
+
   // Called after each sync while the window is shown, for what no control tells.
   std::vector<std::function<void()>> onSynced;
 
@@ -58,6 +61,8 @@ class FormWindow : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  // Tab walks as the form says, from wherever it is pressed.
+  bool focusNextPrevChild(bool next) override;
 
  private:
   Form& form_;

@@ -58,10 +58,6 @@ void ListBinding::Apply() {
   } else if (dynamic_cast<CheckList*>(&list_) != nullptr) {
     view_.Model().TicksChanged();
   }
-  if (list_.Top() != appliedTop_) {
-    appliedTop_ = list_.Top();
-    bar->setValue(appliedTop_);
-  }
   const int index = list_.Index();
   if (view_.currentIndex().row() != index) {
     if (index < 0) {
@@ -77,6 +73,11 @@ void ListBinding::Apply() {
   if (!list_.Shown()) view_.SetWalked(-1);
   if (index >= 0 && (index != appliedIndex_ || other)) view_.scrollTo(view_.Model().index(index));
   appliedIndex_ = index;
+  // Where the form wants another first row, it has the last word.
+  if (list_.Top() != appliedTop_) {
+    appliedTop_ = list_.Top();
+    bar->setValue(appliedTop_);
+  }
   if (onApplied) onApplied();
 }
 

@@ -126,6 +126,7 @@ QLineEdit, QPlainTextEdit, RowsView, QListView {
   selection-background-color: @accent; selection-color: @onAccent;
 }
 QLineEdit { padding: 3px 6px; min-height: 22px; max-height: 22px; }
+QLineEdit[role="figure"] { min-height: 40px; max-height: 40px; }
 QLineEdit:read-only { background: @window; border-color: @faint; }
 QLineEdit:focus { border: 2px solid @accent; padding: 2px 5px; background: @ground; }
 QPlainTextEdit { padding: 4px; }

@@ -10,7 +10,7 @@
 namespace tamo {
 namespace {
 
-constexpr int kColumnWidth = 30 * kGrid;
+constexpr int kColumnWidth = 32 * kGrid;
 
 QToolButton* Tool(const QString& text, const QString& hover) {
   auto* tool = new QToolButton;
@@ -62,10 +62,6 @@ QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
   QObject::connect(rotate, &QToolButton::clicked, bar, [&canvas] { canvas.TurnView(); });
   for (QToolButton* tool : {before, after, rotate}) line->addWidget(tool);
   line->addStretch(1);
-  QLabel* keys = FixedPrompt(QStringLiteral(
-      "Arrows move the cross hair, Space sets a point, Enter goes back to the field."));
-  keys->setWordWrap(false);
-  line->addWidget(keys);
   // Mode changes with every tool; its field tells when to look.
   auto* mode = b.Find<TextField>("Mode");
   if (mode != nullptr) {
@@ -96,11 +92,12 @@ QWidget* Colours(Builder& b) {
   auto* grid = new QGridLayout(frame);
   grid->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
   grid->setSpacing(kGrid / 2);
+  grid->setColumnStretch(6, 1);
   const char* names[] = {"iRed",    "iGreen",   "iBlue", "iYellow", "iOrange", "iPurple",
                          "iViolet", "iDkGreen", "iNavy", "iTeal",   "iAqua",   "iBrown"};
   int at = 0;
   for (const char* name : names) {
-    grid->addWidget(b.Patch(name), at / 3, at % 3);
+    grid->addWidget(b.Patch(name), at / 6, at % 6);
     ++at;
   }
   return frame;
@@ -145,13 +142,14 @@ QWidget* Column(Builder& b) {
   auto* grid = new QGridLayout;
   grid->setSpacing(kGrid / 2);
   const std::tuple<const char*, const char*, int> fields[] = {
-      {"Page", "PageText", 0}, {"Zoom", "ZoomLevel", 1}, {"Mode", "Mode", 2}};
-  for (const auto& [caption, name, at] : fields) {
+      {"Page", "PageText", 7}, {"Zoom", "ZoomLevel", 3}, {"Mode", "Mode", 0}};
+  int at = 0;
+  for (const auto& [caption, name, columns] : fields) {
     QLabel* label = FixedPrompt(QLatin1String(caption));
-    QLineEdit* field = b.Field(name);
+    QLineEdit* field = b.Field(name, columns);
     label->setBuddy(field);
     grid->addWidget(label, 0, at);
-    grid->addWidget(field, 1, at);
+    grid->addWidget(field, 1, at++);
   }
   grid->setColumnStretch(2, 1);
   column->addLayout(grid);
@@ -165,12 +163,14 @@ QWidget* Column(Builder& b) {
   column->addWidget(Rule());
   column->addWidget(b.Check("Check1"));
   column->addWidget(Kept(b.SampleLine("Line1")));
-  column->addWidget(Colours(b));
   column->addWidget(b.PushButton("Command2"));
-  column->addLayout(Line({b.Field("KnownDimension", 8, QStringLiteral("Known dimension in feet")),
-                          b.PushButton("CheckDimension")}));
-  QLabel* result = b.Prompt("DimensionResult");
-  column->addWidget(result);
+  column->addWidget(Rule());
+  QLabel* known = FixedPrompt(QStringLiteral("Known dimension, feet"));
+  QLineEdit* dimension = b.Field("KnownDimension", 8);
+  known->setBuddy(dimension);
+  column->addLayout(Line({known, dimension}));
+  column->addWidget(b.PushButton("CheckDimension"));
+  column->addWidget(b.Prompt("DimensionResult"));
   column->addWidget(b.PushButton("Command3"));
   QPlainTextEdit* notes = b.LongField("PlanNotes", QStringLiteral("Plan notes"));
   notes->setMinimumHeight(8 * kGrid);
@@ -212,11 +212,12 @@ void LayOutOST(Builder& b) {
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(ToolBar(b, *canvas));
+  middle->addWidget(Colours(b));
   middle->addWidget(canvas, 1);
   row->addLayout(middle, 1);
   row->addWidget(Column(b));
   window->Body().addLayout(row, 1);
-  window->resize(1320, 700);
+  window->firstSize = {1320, 700};
 }
 
 }  // namespace tamo

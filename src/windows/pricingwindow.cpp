@@ -1,4 +1,201 @@
 #include "windows/formlayouts.h"
+
+// The price library: the system above, its materials below with the list of them beside the fields,
+// the estimated unit price large; colours, notes, markups and exchange in a column of their own.
+
 namespace tamo {
-void LayOutPricing(Builder&) {}
+namespace {
+
+constexpr int kSideWidth = 35 * kGrid;
+constexpr int kCaptions = 22 * kGrid;
+constexpr int kPrompts = 42 * kGrid;
+
+QWidget* SystemFields(Builder& b) {
+  QWidget* frame = b.Group("FramePricing");
+  auto* column = new QVBoxLayout(frame);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGrid / 4);
+  auto* line = new QHBoxLayout;
+  line->setSpacing(kGrid);
+  QLabel* units = b.Caption("LabelUnits");
+  units->setFixedWidth(kCaptions);
+  QLabel* price = b.Caption("LabelUnitPrice");
+  QLineEdit* unitsField = b.Field("Units", 10);
+  QLineEdit* priceField = b.Field("UnitPrice", 12);
+  units->setBuddy(unitsField);
+  price->setBuddy(priceField);
+  SwatchPatch* sample = b.SampleLine("Line1");
+  sample->setMaximumWidth(20 * kGrid);
+  line->addWidget(units);
+  line->addWidget(unitsField);
+  line->addSpacing(kGrid);
+  line->addWidget(price);
+  line->addWidget(priceField);
+  line->addSpacing(kGrid);
+  line->addWidget(sample, 1);
+  line->addWidget(b.PushButton("Command2"));
+  line->addWidget(b.PushButton("Command1"));
+  column->addLayout(line);
+  auto* under = new QHBoxLayout;
+  under->addSpacing(kCaptions + kGrid);
+  under->addWidget(Kept(b.Prompt("Label3")), 1);
+  column->addLayout(under);
+  return frame;
+}
+
+QWidget* MaterialFields(Builder& b) {
+  auto* fields = new QWidget;
+  FieldColumn column(*fields);
+  column.captionWidth = kCaptions;
+  column.Add(b.Caption("LabelMaterial"), b.Field("Material", 34), b.Prompt("Label18"));
+  column.Add(b.Caption("LabelOrderUnits"), b.Field("OrderUnits", 14));
+  column.Add(b.Caption("LabelPrice"), b.Field("Price", 14));
+  column.Add(b.Caption("LabelUPO"), b.Field("UPO", 14), b.Prompt("Label5"));
+  column.Add(b.Caption("LabelMnhr"), b.Field("MnhrPO", 14), b.Prompt("Label8"));
+  column.Add(b.Caption("Label4"), b.Field("Waste", 14));
+  column.Add(b.Caption("Label7"), b.Field("WageRate", 14));
+  column.Grid().setColumnMinimumWidth(1, kPrompts);
+  column.Grid().setRowStretch(column.Grid().rowCount(), 1);
+  return fields;
+}
+
+QWidget* Labor(Builder& b) {
+  QWidget* frame = b.Group("LandMFrame");
+  auto* column = new QVBoxLayout(frame);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGrid);
+  column->addWidget(Rule());
+  auto* row = new QHBoxLayout;
+  row->setSpacing(2 * kGrid);
+  auto* left = new QVBoxLayout;
+  left->addWidget(Section(QStringLiteral("Labor and material")));
+  left->addWidget(MaterialFields(b), 1);
+  auto* right = new QVBoxLayout;
+  right->addWidget(Section(QStringLiteral("Materials of this system")));
+  right->addWidget(b.List("MaterialList", QStringLiteral("Materials of this system"), 20, 10), 1);
+  row->addLayout(left);
+  row->addLayout(right, 1);
+  column->addLayout(row, 1);
+  return frame;
+}
+
+QWidget* Price(Builder& b) {
+  auto* line = new QWidget;
+  auto* row = new QHBoxLayout(line);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(2 * kGrid);
+  QLabel* price = b.Text("EUP");
+  price->setFont(FigureFont());
+  price->setAccessibleName(QStringLiteral("Estimated unit price"));
+  price->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  row->addStretch(1);
+  row->addWidget(b.Text("Label9"));
+  row->addWidget(b.Text("Label19"));
+  row->addWidget(price);
+  line->setFixedHeight(6 * kGrid);
+  return line;
+}
+
+QWidget* Colours(Builder& b) {
+  QFrame* frame = b.Panel("ColorFrame");
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
+  grid->setSpacing(kGrid / 2);
+  grid->addWidget(Section(QStringLiteral("Colour on the plan")), 0, 0, 1, 4);
+  const char* names[] = {"iRed",    "iGreen",   "iBlue",   "iYellow", "iOrange", "iPurple",
+                         "iViolet", "iDkGreen", "iNavy",   "iTeal",   "iAqua",   "iBrown",
+                         "iLtBlue", "iLtGrn",   "iMaroon", "iNoColor"};
+  int at = 0;
+  for (const char* name : names) {
+    grid->addWidget(b.Patch(name), 1 + at / 4, at % 4);
+    ++at;
+  }
+  grid->addWidget(b.Text("Label20"), 5, 0, 1, 4);
+  return frame;
+}
+
+QWidget* Markups(Builder& b) {
+  QFrame* frame = b.Panel("MarkupsFrame");
+  auto* column = new QVBoxLayout(frame);
+  column->setContentsMargins(kGrid, kGrid, 2 * kGrid, kGrid);
+  column->setSpacing(kGrid / 2);
+  struct Group {
+    const char* title;
+    const char* fields[3];
+  };
+  static constexpr Group kGroups[] = {{"Material", {"MOH", "MTX", "MMU"}},
+                                      {"Labor", {"LOH", "LTX", "LMU"}},
+                                      {"Bottom line", {"BLOH", "BLTX", "BLMU"}},
+                                      {"Misc.", {"MIOH", "MITX", "MIMU"}}};
+  for (const Group& group : kGroups) {
+    column->addWidget(Section(QLatin1String(group.title)));
+    FieldColumn fields(*column);
+    fields.captionWidth = kCaptions;
+    for (const char* name : group.fields) {
+      const QByteArray label = QByteArrayLiteral("Label") + name;
+      fields.Add(b.Caption(label.constData()), b.Field(name, 8));
+    }
+  }
+  column->addWidget(FixedPrompt(QStringLiteral("Fractions: 0.10 is ten per cent.")));
+  column->addWidget(b.PushButton("ExitMarkups"));
+  column->addStretch(1);
+  return frame;
+}
+
+QWidget* Exchange(Builder& b) {
+  QFrame* frame = b.Panel("IEFrame");
+  auto* column = new QVBoxLayout(frame);
+  column->setSpacing(kGrid);
+  QLabel* title = b.Text("IELabel");
+  title->setFont(SectionFont());
+  column->addWidget(title);
+  column->addWidget(b.Browser("Drive1", QStringLiteral("Drives")));
+  column->addWidget(b.Browser("Dir1", QStringLiteral("Folders")), 2);
+  column->addWidget(b.Browser("File1", QStringLiteral("Systems")), 3);
+  return frame;
+}
+
+QWidget* Side(Builder& b) {
+  auto* side = new QWidget;
+  side->setFixedWidth(kSideWidth);
+  auto* column = new QVBoxLayout(side);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(kGrid);
+  column->addWidget(Colours(b));
+  column->addWidget(Exchange(b), 1);
+  QPlainTextEdit* notes = b.LongField("PricingNotes", QStringLiteral("Notes of the system"));
+  notes->setPlaceholderText(QStringLiteral("Notes of this system"));
+  notes->setMinimumHeight(9 * kGrid);
+  column->addWidget(notes, 1);
+  column->addStretch(0);
+  return side;
+}
+
+}  // namespace
+
+void LayOutPricing(Builder& b) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(2 * kGrid);
+  auto* main = new QVBoxLayout;
+  main->setSpacing(kGrid / 2);
+  FieldColumn name(*main);
+  name.captionWidth = kCaptions;
+  name.Add(b.Caption("LabelDescription"), b.Field("Description", 40),
+           FixedPrompt(QStringLiteral("Leave blank and press Enter to finish. A click shows the "
+                                      "systems of the library.")));
+  main->addWidget(Kept(SystemFields(b)));
+  main->addWidget(Kept(Labor(b)), 1);
+  main->addWidget(Price(b));
+  row->addLayout(main, 1);
+  row->addWidget(Side(b));
+  row->addWidget(Markups(b));
+  b.Window().Body().addLayout(row, 1);
+  b.DropList("DescriptionsList", "Description");
+  b.DropList("UnitsList", "Units");
+  b.DropList("MaterialsList", "Material");
+  b.DropList("oUnitsList", "OrderUnits");
+  b.DropList("WagesList", "WageRate");
+  b.Window().firstSize = {1128, 680};
+}
+
 }  // namespace tamo

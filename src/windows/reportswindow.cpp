@@ -1,8 +1,7 @@
-#include "reports/reportsform.h"
-
 #include <QProgressDialog>
 #include <QShortcut>
 
+#include "reports/reportsform.h"
 #include "windows/findbar.h"
 #include "windows/formlayouts.h"
 
@@ -28,7 +27,7 @@ QWidget* Figures(Builder& b) {
   for (const Block& block : blocks) {
     column->addWidget(Section(QLatin1String(block.title)));
     FieldColumn fields(*column);
-    fields.captionColumns = 10;
+    fields.captionWidth = 10 * kGrid;
     for (const auto& [caption, name] : block.rows) {
       QLineEdit* field = b.Field(name);
       field->setAlignment(Qt::AlignRight);
@@ -106,8 +105,15 @@ void LayOutReports(Builder& b) {
   auto* find = new FindBar({reporter, copy}, b.GetDisplay());
   body.addWidget(find);
   auto* strip = new QHBoxLayout;
-  RowsView* notes = b.List("NotesList", QStringLiteral("Notes to the report"), 80, 3);
-  notes->setMaximumHeight(notes->sizeHint().height());
+  RowsView* notes = b.List("NotesList", QStringLiteral("Notes to the report"), 60, 2);
+  notes->linesOfRow = 2;
+  notes->setFont(PromptFont());
+  auto* noteRows = b.Find<OrderedList>("NotesList");
+  auto* noteBinding = static_cast<ListBinding*>(b.GetDisplay().Of(*noteRows));
+  noteBinding->onApplied = [notes, noteRows] {
+    notes->wantedRows = std::clamp(noteRows->Count(), 1, 2);
+    notes->setFixedHeight(notes->sizeHint().height());
+  };
   strip->addWidget(notes, 1);
   strip->addWidget(b.Check("WholeQuantities"), 0, Qt::AlignTop);
   body.addLayout(strip);
@@ -115,7 +121,7 @@ void LayOutReports(Builder& b) {
   QObject::connect(search, &QShortcut::activated, &window, [find] { find->Open(); });
   LetTypeGrow(window, {reporter, copy});
   if (auto* form = dynamic_cast<ReportsForm*>(&b.GetForm())) ShowProgressOf(*form, window);
-  window.resize(1080, 700);
+  window.firstSize = {1080, 700};
 }
 
 }  // namespace tamo

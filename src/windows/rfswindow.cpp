@@ -27,7 +27,7 @@ void LayOutRFSForm(Builder& b) {
   column->addWidget(Tally(b, "Lengths"));
   b.Window().Body().addWidget(frame, 1);
   TakeoffStatus(b);
-  b.Window().resize(860, 640);
+  b.Window().firstSize = {860, 640};
 }
 
 }  // namespace tamo

@@ -21,6 +21,7 @@ class RowPainter : public QStyledItemDelegate {
 
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
     const int columns = std::min(view_.Model().LongestRow(), kMostPainted);
+    if (view_.linesOfRow > 1) return {0, view_.RowHeight()};
     return {view_.WidthOfColumns(columns), view_.RowHeight()};
   }
 
@@ -79,7 +80,9 @@ class RowPainter : public QStyledItemDelegate {
       }
     }
     painter.setPen(view_.isEnabled() ? look.text : look.quiet);
-    painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+    const int flags = view_.linesOfRow > 1 ? Qt::AlignVCenter | Qt::TextWordWrap
+                                           : Qt::AlignVCenter | Qt::TextSingleLine;
+    painter.drawText(place, Qt::AlignLeft | flags, text);
   }
 
   RowsView& view_;
@@ -141,7 +144,7 @@ void RowsView::UseFixedColumns() {
 }
 
 int RowsView::RowHeight() const {
-  return std::max(QFontMetrics(font()).height() + 4, kTick + 4);
+  return std::max(QFontMetrics(font()).height() * linesOfRow + 4, kTick + 4);
 }
 
 int RowsView::WidthOfColumns(int characters) const {

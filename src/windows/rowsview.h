@@ -52,6 +52,7 @@ class RowsView : public QListView {
   const QString& Found() const { return found_; }
 
   QSize sizeHint() const override;
+  int linesOfRow = 1;  // a longer row is wrapped into so many lines; 1 scrolls sideways instead
   int wantedRows = 8;
   int wantedColumns = 24;
 

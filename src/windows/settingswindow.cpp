@@ -5,6 +5,8 @@
 namespace tamo {
 namespace {
 
+constexpr int kCaptions = 17 * kGrid;
+
 QWidget* Palette(Builder& b) {
   auto* palette = new QWidget;
   auto* grid = new QGridLayout(palette);
@@ -40,6 +42,7 @@ void LayOutSettings(Builder& b) {
   QVBoxLayout& body = b.Window().Body();
   body.addWidget(Section(QStringLiteral("Estimator")));
   FieldColumn who(body);
+  who.captionWidth = kCaptions;
   who.Add(FixedCaption(QStringLiteral("Estimator Number:")), b.Field("EstimatorNumber", 4),
           FixedPrompt(QStringLiteral("Two digits; they begin the id of every project.")));
   who.Add(FixedCaption(QStringLiteral("Estimator Name:")), b.Field("EstimatorName"));
@@ -51,6 +54,7 @@ void LayOutSettings(Builder& b) {
   body.addWidget(Rule());
   body.addWidget(Section(QStringLiteral("Plan line")));
   FieldColumn line(body);
+  line.captionWidth = kCaptions;
   line.Add(FixedCaption(QStringLiteral("Colour:")), Palette(b));
   line.Add(FixedCaption(QStringLiteral("Width:")),
            b.Bar("HScroll1", QStringLiteral("Width of the plan line")));
@@ -58,6 +62,7 @@ void LayOutSettings(Builder& b) {
   body.addSpacing(kGrid);
   body.addWidget(Rule());
   FieldColumn ways(body);
+  ways.captionWidth = kCaptions;
   ways.Add(FixedCaption(QStringLiteral("User Interface:")),
            Pair(b.Choice("Option1"), b.Choice("Option2")));
   ways.Add(FixedCaption(QStringLiteral("Scale:")), Pair(b.Choice("Option3"), b.Choice("Option4")));
@@ -67,7 +72,7 @@ void LayOutSettings(Builder& b) {
   foot->addStretch(1);
   foot->addWidget(b.PushButton("Command1"));
   body.addLayout(foot);
-  b.Window().resize(760, 560);
+  b.Window().firstSize = {760, 560};
 }
 
 }  // namespace tamo

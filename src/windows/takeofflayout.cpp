@@ -8,6 +8,11 @@ QGridLayout* TakeoffFields(Builder& b, const std::vector<TakeoffField>& fields) 
   grid->setVerticalSpacing(kGrid / 4);
   grid->setColumnMinimumWidth(2, 3 * kGrid);
   grid->setColumnStretch(4, 1);
+  // Wide enough for every prompt, so that nothing moves when it changes.
+  const int widest =
+      QFontMetrics(PromptFont())
+          .horizontalAdvance(QStringLiteral("Leave blank and press Enter for new Description "));
+  grid->setColumnMinimumWidth(4, widest);
   for (size_t i = 0; i < fields.size(); ++i) {
     const TakeoffField& field = fields[i];
     const int row = static_cast<int>(i / 2) * 2;

@@ -29,9 +29,8 @@ QWidget* ProjectList(Builder& b) {
             ? QStringLiteral("There is no list of projects on the screen.\n\nProject, Open Project "
                              "shows the projects of this data folder.\nProject, Create Project "
                              "begins a new one.")
-            : QStringLiteral("Project, Open Project shows the %1 projects of this data "
-                             "folder.\nProject, Create Project begins a new one.")
-                  .arg(jobs->Count()));
+            : QStringLiteral("Project, Open Project shows the projects of this data "
+                             "folder.\nProject, Create Project begins a new one."));
   };
   return side;
 }
@@ -43,7 +42,7 @@ QWidget* ProjectPanel(Builder& b) {
   column->setSpacing(kGrid);
   column->addWidget(Section(QStringLiteral("Project Information")));
   FieldColumn fields(*column);
-  fields.captionColumns = 12;
+  fields.captionWidth = 12 * kGrid;
   const std::pair<const char*, const char*> rows[] = {
       {"JobName", "Job Name:"},      {"BidDate", "Bid Date:"},    {"Addenda", "Addenda:"},
       {"Phase", "Phase:"},           {"BidItems", "Bid Items:"},  {"Inclusions", "Inclusions:"},
@@ -75,7 +74,7 @@ void LayOutTamo(Builder& b) {
   right->addStretch(0);
   row->addLayout(right, 3);
   b.Window().Body().addLayout(row, 1);
-  b.Window().resize(1000, 600);
+  b.Window().firstSize = {1000, 600};
 }
 
 }  // namespace tamo

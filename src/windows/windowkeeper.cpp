@@ -105,6 +105,9 @@ FormWindow* WindowKeeper::Window(Form& form) {
     auto* help = new QShortcut(QKeySequence(Qt::Key_F1), window.get());
     connect(help, &QShortcut::activated, this, [this, &form] { ShowHelp(parts_->program, form); });
     window->installEventFilter(this);
+    // What is hidden must be so before the window finds its size.
+    parts_->display->ApplyContents();
+    window->resize(window->firstSize);
     parts_->RestorePlace(*window);
     parts_->display->MarkDirty();
   }

@@ -52,6 +52,8 @@ void TamoForm::ReadRecord(const QString& picked) {
   QStringList lines;
   if (kit_.files.ReadLines(ProjectFile("JobNFO.tamo"), lines) != kNoError) {
     kit_.shared.LoadingJobNFO = QStringLiteral("False");
+    // A project without a record has no plan; the one on the screen belongs to another project.
+    if (picked.isEmpty()) LeavePlan();
     return;
   }
   JobNFO record = RecordOfFields();
@@ -69,7 +71,8 @@ void TamoForm::ReadRecord(const QString& picked) {
   Inclusions.SetText(record.inclusions);
   Exclusions.SetText(record.exclusions);
   Architect.SetText(record.architect);
-  shell_.BringUpShell();
+  // A plan that was picked on the plan form stays on the screen.
+  if (picked.isEmpty()) shell_.BringUpShell();
 
   const bool otherPlan =
       !picked.isEmpty() && PlainPlanName(picked) != PlainPlanName(record.planLocation);

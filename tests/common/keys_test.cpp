@@ -12,7 +12,9 @@ struct KeyForm : Form {
       : Form(desk, QStringLiteral("Keys")),
         First(*this, QStringLiteral("First")),
         Second(*this, QStringLiteral("Second")),
-        Drop(*this, QStringLiteral("Drop")) {
+        Drop(*this, QStringLiteral("Drop")),
+        Red(*this, QStringLiteral("Red")),
+        Sample(*this, QStringLiteral("Sample")) {
     First.onKey = [](Key& key) { key.Drop(); };
     Second.multiLine = true;
     Drop.dropsFrom = &First;
@@ -21,6 +23,8 @@ struct KeyForm : Form {
   TextField First;
   TextField Second;
   OrderedList Drop;
+  Swatch Red;
+  Swatch Sample;
 };
 
 struct KeysTest : testing::Test {
@@ -37,6 +41,20 @@ TEST_F(KeysTest, TabWalksOutOfAFieldThatDropsEveryKey) {
   desk.PressKey(form.First, Key::Named(Key::Name::Tab));
   EXPECT_EQ(desk.Focused(), &form.Second);
   desk.PressKey(form.Second, Key::Named(Key::Name::BackTab));
+  EXPECT_EQ(desk.Focused(), &form.First);
+}
+
+TEST_F(KeysTest, TabReachesASwatchThatCanBeClickedAndEnterClicksIt) {
+  int clicks = 0;
+  form.Red.onClick = [&] { ++clicks; };
+  desk.Focus(form.Second);
+  desk.MoveFocus(true);
+  EXPECT_EQ(desk.Focused(), &form.Red);
+  desk.PressKey(form.Red, Key::Named(Key::Name::Enter));
+  EXPECT_EQ(clicks, 1);
+  desk.MoveFocus(true);
+  EXPECT_EQ(desk.Focused(), &form.First);
+  desk.ClickInto(form.Red);
   EXPECT_EQ(desk.Focused(), &form.First);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAbstractSlider>
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -11,6 +12,7 @@
 #include "common/form.h"
 #include "player/caret.h"
 #include "player/values.h"
+#include "windows/browserview.h"
 #include "windows/swatchpatch.h"
 
 namespace tamo::player {
@@ -95,6 +97,17 @@ QString CheckSwatch(const Swatch& swatch, QWidget& widget) {
              : wrong;
 }
 
+QString CheckBrowser(const FileBrowser& browser, const QWidget& widget) {
+  const auto* view = dynamic_cast<const BrowserView*>(&widget);
+  if (view == nullptr || browser.GetKind() != FileBrowser::Kind::File) return {};
+  QStringList rows;
+  for (int row = 0; row < view->Rows().count(); ++row) rows += view->Rows().item(row)->text();
+  if (!rows.contains(browser.File())) return {};
+  const QListWidgetItem* chosen = view->Rows().currentItem();
+  return Differs(browser.FullName(), "the picked file", browser.File(),
+                 chosen == nullptr ? QString() : chosen->text());
+}
+
 QString CheckControl(const Control& control, QWidget& widget, QWidget& window) {
   const QString name = control.FullName();
   QString wrong = Differs(name, "shown", TrueOrFalse(control.ShownWithFrames()),
@@ -109,6 +122,14 @@ QString CheckControl(const Control& control, QWidget& widget, QWidget& window) {
     return CheckRows(*list, widget);
   if (const auto* swatch = dynamic_cast<const Swatch*>(&control))
     return CheckSwatch(*swatch, widget);
+  if (const auto* bar = dynamic_cast<const ScrollBar*>(&control)) {
+    const auto* slider = qobject_cast<const QAbstractSlider*>(&widget);
+    return slider == nullptr ? QString()
+                             : Differs(name, "its value", QString::number(bar->Value()),
+                                       QString::number(slider->value()));
+  }
+  if (const auto* browser = dynamic_cast<const FileBrowser*>(&control))
+    return CheckBrowser(*browser, widget);
   if (const auto* captioned = dynamic_cast<const Captioned*>(&control))
     return CheckCaption(*captioned, widget);
   return {};
@@ -146,6 +167,13 @@ QString CheckForm(WindowKeeper& keeper, const Form& form) {
   return wrong.isEmpty() ? CheckMenus(keeper, form) : wrong;
 }
 
+QString CheckNotice(WindowKeeper& keeper, const Form& form, const QString& notice) {
+  const QWidget* strip = keeper.NoticeOf(form);
+  if (strip == nullptr) return {};
+  const QString shown = strip->isVisible() ? strip->accessibleName() : QString();
+  return Differs(form.Name(), "its notice of what is not saved", notice, shown);
+}
+
 QString CheckFocus(WindowKeeper& keeper, Desk& desk) {
   const Form* active = desk.Active();
   if (active == nullptr || QApplication::activePopupWidget() != nullptr) return {};
@@ -163,10 +191,11 @@ QString CheckFocus(WindowKeeper& keeper, Desk& desk) {
 
 }  // namespace
 
-QString FirstDifference(WindowKeeper& keeper, Desk& desk) {
+QString FirstDifference(WindowKeeper& keeper, Desk& desk, const QString& notice) {
   for (const Form* form : desk.Forms()) {
     if (form->Controls().empty() && form->Menus().empty() && !form->Visible()) continue;
-    const QString wrong = CheckForm(keeper, *form);
+    QString wrong = CheckForm(keeper, *form);
+    if (wrong.isEmpty() && form->Visible()) wrong = CheckNotice(keeper, *form, notice);
     if (!wrong.isEmpty()) return wrong;
   }
   return CheckFocus(keeper, desk);

@@ -8,7 +8,8 @@
 namespace tamo::player {
 
 // What the windows show that is not what the forms say: the first difference, in words; "" when
-// there is none. Looks at every visible window, at every widget in it, at menus and the focus.
-QString FirstDifference(WindowKeeper& keeper, Desk& desk);
+// there is none. Looks at every visible window, at every widget in it, at menus, at the notice of
+// unsaved files, which must read `notice`, and at the focus.
+QString FirstDifference(WindowKeeper& keeper, Desk& desk, const QString& notice);
 
 }  // namespace tamo::player

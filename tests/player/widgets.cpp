@@ -117,23 +117,37 @@ QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name, Spot 
                                                                          : over->accessibleName()));
 }
 
+namespace {
+
+// Opens the first menu of the way, or chooses the entry that stands on the bar itself. What the
+// window is too narrow to show is chosen by its underlined letter.
+void StartOnBar(QMenuBar& bar, QAction& first) {
+  const QRect place = bar.actionGeometry(&first);
+  if (!place.isEmpty() && bar.rect().contains(place.center())) {
+    SendMove(bar, place.center(), Qt::NoButton);
+    SendClick(bar, place.center(), Qt::LeftButton);
+  } else if (const QKeySequence letter = QKeySequence::mnemonic(first.text()); !letter.isEmpty()) {
+    QTest::keySequence(&bar, letter);
+  } else {
+    bar.setActiveAction(&first);
+  }
+  Settle();
+}
+
+}  // namespace
+
 void ChooseAction(QWidget& window, QAction& action, const QList<QAction*>& above) {
+  bool chosen = false;
+  const auto heard =
+      QObject::connect(&action, &QAction::triggered, &action, [&chosen] { chosen = true; });
   QList<QAction*> way = above;
   way += &action;
-  QWidget* open = QApplication::activePopupWidget();
-  const bool onPopup =
-      !way.isEmpty() && way.first()->menu() != nullptr && open == way.first()->menu();
-  if (onPopup) {
+  QMenu* popup = way.first()->menu();
+  if (popup != nullptr && QApplication::activePopupWidget() == popup) {
     way.removeFirst();
   } else if (auto* bar = window.findChild<QMenuBar*>();
              bar != nullptr && bar->actions().contains(way.first())) {
-    const QRect place = bar->actionGeometry(way.first());
-    if (place.isEmpty() || !bar->rect().intersects(place)) {
-      bar->setActiveAction(way.first());
-    } else {
-      SendClick(*bar, place.center(), Qt::LeftButton);
-    }
-    way.removeFirst();
+    StartOnBar(*bar, *way.takeFirst());
   } else {
     // A pop-up entry that no right click has brought up.
     action.trigger();
@@ -141,14 +155,15 @@ void ChooseAction(QWidget& window, QAction& action, const QList<QAction*>& above
   }
   for (QAction* next : way) {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    if (menu == nullptr || !menu->actions().contains(next))
-      Fail(QStringLiteral("the menu above \"%1\" did not open").arg(next->text()));
+    if (menu == nullptr || !menu->actions().contains(next)) break;
     menu->setActiveAction(next);
     if (next->menu() == nullptr || !next->menu()->isVisible())
       QTest::keyClick(menu, Qt::Key_Return);
     Settle();
   }
   while (QWidget* left = QApplication::activePopupWidget()) left->close();
+  QObject::disconnect(heard);
+  if (!chosen) Fail(QStringLiteral("the menus do not lead to the entry \"%1\"").arg(action.text()));
 }
 
 }  // namespace tamo::player

@@ -16,10 +16,13 @@
 #include "player/screencheck.h"
 #include "player/trouble.h"
 #include "player/widgets.h"
+#include "windows/look.h"
 #include "windows/windowkeeper.h"
 
 namespace tamo::player {
 namespace {
+
+constexpr int kLateReport = 60;  // milliseconds
 
 // What a platform without a screen can't do is no matter of the program.
 void SayWhatMatters(QtMsgType, const QMessageLogContext&, const QString& text) {
@@ -37,6 +40,7 @@ class WindowsStage : public Stage {
       qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(SayWhatMatters);
     application_ = std::make_unique<QApplication>(argumentCount_, arguments_);
+    ApplyLook(Look::Of(QApplication::palette()));
     QApplication::setQuitOnLastWindowClosed(false);
   }
 
@@ -368,6 +372,8 @@ void WindowsStage::PlanPage(int page) {
 // On a platform without a screen a menu that closes leaves no window active; a window system gives
 // that back to the window that had it.
 void WindowsStage::GiveBackActivation() {
+  const QWidget* now = QApplication::activeWindow();
+  if (now != nullptr && now->isVisible() && now->windowType() != Qt::Popup) return;
   const Form* active = GetDesk().Active();
   if (active == nullptr || QApplication::activePopupWidget() != nullptr) return;
   QWidget* window = keeper_->WindowOf(*active);
@@ -376,12 +382,16 @@ void WindowsStage::GiveBackActivation() {
   Settle();
 }
 
+// The windows follow the forms by themselves; only what the window system reports late gets a
+// second look.
 QString WindowsStage::Difference() {
   Settle();
-  keeper_->SyncNow();
-  Settle();
   GiveBackActivation();
-  return FirstDifference(*keeper_, GetDesk());
+  QString found = FirstDifference(*keeper_, GetDesk(), played_->Notice());
+  if (found.isEmpty()) return found;
+  QTest::qWait(kLateReport);
+  GiveBackActivation();
+  return FirstDifference(*keeper_, GetDesk(), played_->Notice());
 }
 
 bool WindowsStage::SavePicture(Form& form, const QString& path) {

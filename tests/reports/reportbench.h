@@ -4,12 +4,18 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <ostream>
 
 #include "common/files.h"
 #include "common/kit.h"
 #include "reports/reportsform.h"
 #include "support/doubles.h"
 #include "support/faultdisk.h"
+
+// How a failed expectation shows a text.
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << '|' << text.toStdString() << '|';
+}
 
 namespace tamo::test {
 
