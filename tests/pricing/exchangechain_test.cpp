@@ -157,6 +157,18 @@ TEST(ExportChain, AFolderThatCantBeWrittenIsNotSilent) {
   EXPECT_TRUE(room.files.Notice().contains("Wall.sys"));
 }
 
+TEST(ExportChain, EscapePutsThePickerAway) {
+  PricingRoom room;
+  room.Library("Wall", "SF", "0.00", Drywall());
+  room.Open();
+  room.Enter("Wall");
+  room.Choose(room.form.ExportSystem);
+  EXPECT_EQ(room.FocusName(), "Dir1");
+  room.Press(Key::Name::Escape);
+  EXPECT_FALSE(room.form.IEFrame.Shown());
+  EXPECT_FALSE(room.Exists(room.folder.path() + "/Wall.sys"));
+}
+
 TEST(ImportChain, WritesTheMasterAndTheProjectsCopyAndTheMaterials) {
   PricingRoom room;
   room.OpenProject("00-2112001");
