@@ -129,7 +129,8 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 bool FormWindow::focusNextPrevChild(bool next) {
-  display_.GetDesk().MoveFocus(next);
+  // A field that goes while it has the focus asks for the next one; the form says which.
+  if (!display_.Syncing()) display_.GetDesk().MoveFocus(next);
   return true;
 }
 

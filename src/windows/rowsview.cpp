@@ -29,7 +29,7 @@ class RowPainter : public QStyledItemDelegate {
              const QModelIndex& index) const override {
     const Look& look = CurrentLook();
     const QRect& row = option.rect;
-    const bool selected = index.row() == view_.currentIndex().row();
+    const bool selected = index.row() == view_.Selected();
     painter->save();
     if (selected) {
       painter->fillRect(row, look.accentGround);
@@ -150,6 +150,21 @@ int RowsView::RowHeight() const {
 int RowsView::WidthOfColumns(int characters) const {
   const int one = QFontMetrics(font()).horizontalAdvance(QLatin1Char('0'));
   return characters * one + 2 * kGrid;
+}
+
+// The view itself makes a row the current one when the keyboard comes; only the list selects.
+void RowsView::SetSelected(int row) {
+  const QModelIndexList chosen = selectionModel()->selectedIndexes();
+  const int shown = chosen.isEmpty() ? -1 : chosen.first().row();
+  if (row == selected_ && row == shown) return;
+  selected_ = row;
+  if (row < 0) {
+    clearSelection();
+    setCurrentIndex({});
+  } else {
+    selectionModel()->setCurrentIndex(model_->index(row), QItemSelectionModel::ClearAndSelect);
+  }
+  viewport()->update();
 }
 
 void RowsView::SetWalked(int row) {
