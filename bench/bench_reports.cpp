@@ -102,8 +102,8 @@ Project& ProjectOf(int rooms) {
   return *project;
 }
 
-MarkupTexts Markups() {
-  MarkupTexts texts;
+Markups BenchMarkups() {
+  Markups texts;
   texts.LOH = texts.MOH = texts.BLOH = QStringLiteral(".08");
   texts.LMU = texts.MMU = texts.BLMU = QStringLiteral(".10");
   texts.LTX = texts.MTX = texts.MIOH = QStringLiteral(".0725");
@@ -146,7 +146,7 @@ void Run(benchmark::State& state, MakeReport make) {
 void BM_Recap(benchmark::State& state) {
   QString adjustment;
   Run(state, [&](const ReportSource& source) {
-    return MinimalRecapSheet(source, Markups(), false, adjustment);
+    return MinimalRecapSheet(source, BenchMarkups(), false, adjustment);
   });
 }
 void BM_Quantities(benchmark::State& state) {
@@ -155,7 +155,7 @@ void BM_Quantities(benchmark::State& state) {
 void BM_BreakDown(benchmark::State& state) {
   QString adjustment;
   Run(state, [&](const ReportSource& source) {
-    return BreakDown(MakeBreak(source, Markups(), adjustment));
+    return BreakDown(MakeBreak(source, BenchMarkups(), adjustment));
   });
 }
 void BM_BillofMaterial(benchmark::State& state) {
@@ -165,7 +165,7 @@ void BM_FieldCopy(benchmark::State& state) {
   Run(state, [](const ReportSource& source) { return FieldCopy(source); });
 }
 void BM_OfficeCopy(benchmark::State& state) {
-  Run(state, [](const ReportSource& source) { return OfficeCopy(source, Markups()); });
+  Run(state, [](const ReportSource& source) { return OfficeCopy(source, BenchMarkups()); });
 }
 
 // 500 rooms are 10,000 lines, 5,000 rooms 100,000; 1,000 and 10,000 rooms are the recap's own pair.

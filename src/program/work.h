@@ -92,7 +92,7 @@ class PricingLinks : public ReportRefresh,
   void SeedProjectNumber() override { main_->SeedProjectNumber(); }
   void ShowWithName(const QString& system) override { pricing_->ShowWithName(system, ost_); }
   void LoadMarkups() override { pricing_->LoadMarkups(); }
-  MarkupTexts Texts() const override;
+  Markups Texts() const override { return pricing_->MarkupTexts(); }
   void SetTotalBL(const QString& text) override { pricing_->TotalBL = text; }
 
  private:

@@ -53,7 +53,7 @@ class BillMaker : public TakeoffVisitor {
     if (shelf_.Blocks().empty()) return;
     const QString name = system.toString();
     const BillQuantity quantity(kind, line);
-    for (const MaterialBlock& block : shelf_.Blocks()) {
+    for (const PricedBlock& block : shelf_.Blocks()) {
       const int at = AddBlock(block, name, quantity);
       if (firstSight && block.ReadsZero()) notes_.NoteZero(block, name, BillLineOf(at));
     }
@@ -76,7 +76,7 @@ class BillMaker : public TakeoffVisitor {
                 -1);
   }
 
-  int AddBlock(const MaterialBlock& block, const QString& system, const BillQuantity& quantity) {
+  int AddBlock(const PricedBlock& block, const QString& system, const BillQuantity& quantity) {
     int at = index_.Find(block.material);
     const bool isNew = at < 0;
     double taken = quantity.For(isNew, block.orderTag);
@@ -106,7 +106,7 @@ class BillMaker : public TakeoffVisitor {
   SystemShelf shelf_;
   NoteBook& notes_;
   StandingFigures standing_;
-  NameIndex index_;
+  NameRows index_;
   std::vector<bool> seen_;
 };
 

@@ -8,7 +8,7 @@
 
 namespace tamo {
 
-BreakFigures MakeBreak(const ReportSource& source, const MarkupTexts& markups,
+BreakFigures MakeBreak(const ReportSource& source, const Markups& markups,
                        QString& adjustmentText) {
   BreakFigures figures;
   QStringList items;
@@ -28,7 +28,7 @@ BreakFigures MakeBreak(const ReportSource& source, const MarkupTexts& markups,
       figures.unitItems += row.name;
       return;
     }
-    for (const MaterialBlock& block : shelf.Blocks()) {
+    for (const PricedBlock& block : shelf.Blocks()) {
       const BlockDollars dollars = PriceBlock(block, row.value, row.name, standing);
       sums.rawMaterial += dollars.material;
       sums.rawLabor += Raised(dollars.labor);  // a least charge of a broken wage is raised here

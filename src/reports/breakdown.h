@@ -18,7 +18,7 @@ struct BreakFigures {
 
 // The project roll-up from the files. With no takeoff at all every figure is 0. `adjustment` is the
 // text that the reports hold and takes that of the project's file, when there is one.
-BreakFigures MakeBreak(const ReportSource& source, const MarkupTexts& markups, QString& adjustment);
+BreakFigures MakeBreak(const ReportSource& source, const Markups& markups, QString& adjustment);
 
 // The whole bid by kind of cost.
 Report BreakDown(const BreakFigures& figures);

@@ -49,7 +49,7 @@ class DollarColumn {
 
 class CopyMaker : public TakeoffVisitor {
  public:
-  CopyMaker(const ReportSource& source, const MarkupTexts& markups, bool office)
+  CopyMaker(const ReportSource& source, const Markups& markups, bool office)
       : source_(source), shelf_(source), markups_(markups), office_(office) {
     Add(QStringLiteral("Project Manager"));
     Add(office ? QStringLiteral("Office Copy") : QStringLiteral("Field Copy"));
@@ -73,7 +73,7 @@ class CopyMaker : public TakeoffVisitor {
     if (unitPriced || shelf_.Blocks().empty()) return;
     const double quantity = QuantityOf(kind, line, columns, static_cast<int>(head));
     double subtotal = 0;
-    for (const MaterialBlock& block : shelf_.Blocks()) {
+    for (const PricedBlock& block : shelf_.Blocks()) {
       subtotal += MaterialLine(block, quantity, system);
       subtotal += LaborLine(block, quantity, system);
     }
@@ -128,7 +128,7 @@ class CopyMaker : public TakeoffVisitor {
     return dollars;
   }
 
-  double MaterialLine(const MaterialBlock& block, double quantity, const QString& system) {
+  double MaterialLine(const PricedBlock& block, double quantity, const QString& system) {
     standing_.orderQuantity = WithWaste(block, OrderQuantity(block, quantity, system, standing_));
     CheckFigures({standing_.orderQuantity * 100}, system);
     const FigureText shown = FigureText::WithPoint(Truncated(standing_.orderQuantity * 100));
@@ -147,7 +147,7 @@ class CopyMaker : public TakeoffVisitor {
                      column.Cents());
   }
 
-  double LaborLine(const MaterialBlock& block, double quantity, const QString& system) {
+  double LaborLine(const PricedBlock& block, double quantity, const QString& system) {
     standing_.manhours = Manhours(block, quantity, system, standing_);
     manhours_ += standing_.manhours;
     CheckFigures({standing_.manhours * 100, manhours_}, system);
@@ -176,7 +176,7 @@ class CopyMaker : public TakeoffVisitor {
   NoteBook notes_;
 };
 
-TakeoffCopy MakeCopy(const ReportSource& source, const MarkupTexts& markups, bool office) {
+TakeoffCopy MakeCopy(const ReportSource& source, const Markups& markups, bool office) {
   CopyMaker maker(source, markups, office);
   WalkTakeoff(source, maker);
   return maker.Take();
@@ -188,7 +188,7 @@ TakeoffCopy FieldCopy(const ReportSource& source) {
   return MakeCopy(source, {}, false);
 }
 
-TakeoffCopy OfficeCopy(const ReportSource& source, const MarkupTexts& markups) {
+TakeoffCopy OfficeCopy(const ReportSource& source, const Markups& markups) {
   return MakeCopy(source, markups, true);
 }
 

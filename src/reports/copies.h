@@ -19,6 +19,6 @@ struct TakeoffCopy : Report {
 // For the crew: a rule to tick off before each line, no dollars.
 TakeoffCopy FieldCopy(const ReportSource& source);
 // For the project manager: with dollars and the manhours of the project.
-TakeoffCopy OfficeCopy(const ReportSource& source, const MarkupTexts& markups);
+TakeoffCopy OfficeCopy(const ReportSource& source, const Markups& markups);
 
 }  // namespace tamo

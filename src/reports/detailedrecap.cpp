@@ -27,7 +27,7 @@ struct Costs {
 
 class DetailedSheet {
  public:
-  DetailedSheet(const ReportSource& source, const MarkupTexts& markups)
+  DetailedSheet(const ReportSource& source, const Markups& markups)
       : shelf_(source), markups_(markups) {
     Line(QStringLiteral("Recap Sheet"));
     Line({});
@@ -44,7 +44,7 @@ class DetailedSheet {
       unitPriced_ += UnitPricedAmount(shelf_.UnitPrice(), row.value, row.name);
       Line(Blanks(5) + row.name + QStringLiteral("  @ ") + shelf_.UnitPriceText() + kCents);
     } else {
-      for (const MaterialBlock& block : shelf_.Blocks()) costs.Add(Material(block, row));
+      for (const PricedBlock& block : shelf_.Blocks()) costs.Add(Material(block, row));
     }
     Line(QStringLiteral("Labor    ") + Dollars(costs.labor));
     Line(QStringLiteral("Material ") + Dollars(costs.material));
@@ -71,7 +71,7 @@ class DetailedSheet {
   static QString Dollars(double figure) { return NumberText(Rounded(figure)) + kCents; }
   static QString Amount(double figure) { return QStringLiteral("  ") + Dollars(figure); }
 
-  Costs Material(const MaterialBlock& block, const MergedRow& row) {
+  Costs Material(const PricedBlock& block, const MergedRow& row) {
     const double order =
         Raised(WithWaste(block, OrderQuantity(block, row.value, row.name, standing_)));
     standing_.orderQuantity = order;
@@ -104,7 +104,7 @@ class DetailedSheet {
 
 }  // namespace
 
-Report DetailedRecapSheet(const ReportSource& source, const MarkupTexts& markups) {
+Report DetailedRecapSheet(const ReportSource& source, const Markups& markups) {
   DetailedSheet sheet(source, markups);
   ForEachRow(source, Calculate(source), [&](const MergedRow& row) { sheet.Row(row); });
   return sheet.Take();

@@ -1,21 +1,13 @@
 #pragma once
 
-#include <QString>
+#include "pricing/markups.h"
 
 namespace tamo {
 
-// The texts of the twelve markup fields: fractions as typed, .10 is ten percent.
-struct MarkupTexts {
-  QString LOH, LTX, LMU;     // labor overhead, tax, markup
-  QString MOH, MTX, MMU;     // material
-  QString BLOH, BLTX, BLMU;  // bottom line
-  QString MIOH, MITX, MIMU;  // miscellaneous
-};
-
-// The same as factors; a text that is no number is 0.
+// The twelve markups as factors; a text that is no number is 0.
 struct MarkupFactors {
   MarkupFactors() = default;
-  explicit MarkupFactors(const MarkupTexts& texts);
+  explicit MarkupFactors(const Markups& texts);
   double LOH = 0, LTX = 0, LMU = 0;
   double MOH = 0, MTX = 0, MMU = 0;
   double BLOH = 0, BLTX = 0, BLMU = 0;
@@ -29,7 +21,7 @@ class MarkupSource {
  public:
   virtual ~MarkupSource() = default;
   virtual void LoadMarkups() = 0;  // the open project's markups into the fields
-  virtual MarkupTexts Texts() const = 0;
+  virtual Markups Texts() const = 0;
 };
 
 }  // namespace tamo

@@ -2,7 +2,7 @@
 
 #include "common/columns.h"
 #include "common/numbers.h"
-#include "reports/nameindex.h"
+#include "reports/namerows.h"
 #include "reports/projectfiles.h"
 
 namespace tamo {
@@ -62,7 +62,7 @@ class Merger : public TakeoffVisitor {
   }
 
  private:
-  NameIndex index_;
+  NameRows index_;
   std::vector<MergedRow> rows_;
   std::vector<bool> summed_;
 };

@@ -9,7 +9,7 @@ namespace {
 
 constexpr size_t kRowsNamed = 8;
 
-QString ZeroFigures(const MaterialBlock& block) {
+QString ZeroFigures(const PricedBlock& block) {
   QStringList figures;
   if (block.price == 0) figures += QStringLiteral("price");
   if (block.ratio == 0) figures += QStringLiteral("order ratio");
@@ -34,7 +34,7 @@ void NoteBook::NoteSystem(const SystemShelf& shelf, const QString& name, int row
   if (!shelf.Found()) {
     NoteMissing(shelf, name, row);
   } else if (shelf.UnitPrice() == 0) {
-    for (const MaterialBlock& block : shelf.Blocks()) {
+    for (const PricedBlock& block : shelf.Blocks()) {
       if (block.ReadsZero()) NoteZero(block, name, row);
     }
   }
@@ -50,7 +50,7 @@ void NoteBook::NoteMissing(const SystemShelf& shelf, const QString& name, int ro
        row);
 }
 
-void NoteBook::NoteZero(const MaterialBlock& block, const QString& system, int row) {
+void NoteBook::NoteZero(const PricedBlock& block, const QString& system, int row) {
   Note(QStringLiteral("The material \"%1\" of the system \"%2\" reads 0 for: %3.")
            .arg(block.material, system, ZeroFigures(block)),
        row);

@@ -3,7 +3,7 @@
 #include <QString>
 #include <vector>
 
-#include "reports/nameindex.h"
+#include "reports/namerows.h"
 #include "reports/pricedsystem.h"
 #include "reports/reportsource.h"
 
@@ -18,11 +18,11 @@ class NoteBook {
   // each of its materials that reads a figure of 0. `name` is the name in the takeoff.
   void NoteSystem(const SystemShelf& shelf, const QString& name, int row);
   void NoteMissing(const SystemShelf& shelf, const QString& name, int row);
-  void NoteZero(const MaterialBlock& block, const QString& system, int row);
+  void NoteZero(const PricedBlock& block, const QString& system, int row);
   std::vector<ReportNote> Take();
 
  private:
-  NameIndex texts_;
+  NameRows texts_;
   std::vector<ReportNote> notes_;
 };
 

@@ -25,11 +25,11 @@ LaborTag LaborTagOf(const QString& text) {
 
 }  // namespace
 
-std::vector<MaterialBlock> MaterialBlocks(const QStringList& lines) {
-  std::vector<MaterialBlock> blocks;
+std::vector<PricedBlock> PricedBlocks(const QStringList& lines) {
+  std::vector<PricedBlock> blocks;
   for (qsizetype at = 0; at < lines.size(); at += kBlockLines) {
     const auto line = [&](qsizetype offset) { return lines.value(at + offset); };
-    MaterialBlock block;
+    PricedBlock block;
     block.material = line(0);
     block.orderUnit = line(1);
     block.price = Value(line(2));
@@ -62,7 +62,7 @@ int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& sy
   reader.Skip(2);
   QStringList materials;
   while (reader.Read(line)) materials += line;
-  system.blocks = MaterialBlocks(materials);
+  system.blocks = PricedBlocks(materials);
   return kNoError;
 }
 

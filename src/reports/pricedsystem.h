@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "reports/nameindex.h"
+#include "reports/namerows.h"
 #include "reports/reportsource.h"
 
 namespace tamo {
@@ -17,7 +17,7 @@ enum class LaborTag { None, Upm, Mpu };
 
 // One material of a system, as its twelve lines in the system's file tell it. Figures are read
 // once; a text that is no number is 0.
-struct MaterialBlock {
+struct PricedBlock {
   QString material;
   QString orderUnit;
   double price = 0;  // dollars for one order unit
@@ -34,7 +34,7 @@ struct MaterialBlock {
 
 // The material lines of a system as blocks of twelve. A last block of fewer lines counts, its
 // missing lines empty.
-std::vector<MaterialBlock> MaterialBlocks(const QStringList& lines);
+std::vector<PricedBlock> PricedBlocks(const QStringList& lines);
 
 // A system's file in the project, as the reports read it.
 struct PricedSystem {
@@ -45,7 +45,7 @@ struct PricedSystem {
   QString notes;       // a line end behind each line
   int scalars = 0;     // how many of name, units, unit price and colour the file held
   bool found = false;  // there is such a file
-  std::vector<MaterialBlock> blocks;
+  std::vector<PricedBlock> blocks;
 };
 
 // Reads the project's copy of the system `name`; the library is never read.
@@ -66,7 +66,7 @@ class SystemShelf {
   const QString& UnitPriceText() const { return unitPriceText_; }
   double UnitPrice() const { return unitPrice_; }
   const QString& Notes() const { return notes_; }
-  const std::vector<MaterialBlock>& Blocks() const { return *blocks_; }
+  const std::vector<PricedBlock>& Blocks() const { return *blocks_; }
   bool Found() const { return found_; }
   // A number for the system at hand, the same for the same name.
   int Number() const { return number_; }
@@ -78,15 +78,15 @@ class SystemShelf {
   };
 
   const ReportSource& source_;
-  NameIndex index_;
+  NameRows index_;
   std::vector<std::unique_ptr<Entry>> entries_;
-  std::vector<MaterialBlock> none_;
+  std::vector<PricedBlock> none_;
   QString name_;
   QString units_;
   QString unitPriceText_;
   double unitPrice_ = 0;
   QString notes_;
-  const std::vector<MaterialBlock>* blocks_ = &none_;
+  const std::vector<PricedBlock>* blocks_ = &none_;
   bool found_ = false;
   int number_ = -1;
 };

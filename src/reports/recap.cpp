@@ -16,7 +16,7 @@ const QString kRule =
 
 class RecapSheet {
  public:
-  RecapSheet(const ReportSource& source, const MarkupTexts& markups, bool detailed)
+  RecapSheet(const ReportSource& source, const Markups& markups, bool detailed)
       : shelf_(source), markups_(markups), detailed_(detailed) {
     Add(QStringLiteral("Recap Sheet"));
     Add({});
@@ -160,7 +160,7 @@ class RecapSheet {
 
 }  // namespace
 
-Report MinimalRecapSheet(const ReportSource& source, const MarkupTexts& markups, bool detailed,
+Report MinimalRecapSheet(const ReportSource& source, const Markups& markups, bool detailed,
                          QString& adjustment) {
   QStringList items;
   LoadoiList(source, items);

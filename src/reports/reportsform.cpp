@@ -106,7 +106,7 @@ ReportSource ReportsForm::Source() {
           joins_.wholeQuantities.WholeQuantities()};
 }
 
-MarkupTexts ReportsForm::LoadedMarkups() {
+Markups ReportsForm::LoadedMarkups() {
   joins_.markups.LoadMarkups();
   return joins_.markups.Texts();
 }
@@ -146,7 +146,7 @@ void ReportsForm::ShowWindow() {
 void ReportsForm::MinimalRecapSheet() {
   Make([this] {
     prList.Clear();
-    const MarkupTexts markups = LoadedMarkups();
+    const Markups markups = LoadedMarkups();
     Fill(tamo::MinimalRecapSheet(Source(), markups, kit_.shared.DTText == QLatin1String("True"),
                                  Adjustment));
   });
@@ -154,7 +154,7 @@ void ReportsForm::MinimalRecapSheet() {
 
 void ReportsForm::DetailedRecapSheet() {
   Make([this] {
-    const MarkupTexts markups = LoadedMarkups();
+    const Markups markups = LoadedMarkups();
     Fill(tamo::DetailedRecapSheet(Source(), markups));
   });
 }
@@ -174,7 +174,7 @@ void ReportsForm::BillofMaterial() {
 void ReportsForm::AreaRoomWP() {
   Make([this] {
     if (Flag == QLatin1String("True")) {
-      const MarkupTexts markups = LoadedMarkups();
+      const Markups markups = LoadedMarkups();
       FillCopy(OfficeCopy(Source(), markups));
     } else if (Flag == QLatin1String("False")) {
       const TakeoffCopy report = FieldCopy(Source());
@@ -186,7 +186,7 @@ void ReportsForm::AreaRoomWP() {
 
 void ReportsForm::BreakDown() {
   Make([this] {
-    const MarkupTexts markups = LoadedMarkups();
+    const Markups markups = LoadedMarkups();
     const BreakFigures figures = MakeBreak(Source(), markups, Adjustment);
     const Report report = tamo::BreakDown(figures);
     // The sum is made only when the items are listed behind an adjustment; otherwise the field

@@ -88,7 +88,7 @@ class ReportsForm : public Form {
   void Clear();
   void ClearNotes();
   ReportSource Source();
-  MarkupTexts LoadedMarkups();
+  Markups LoadedMarkups();
   void ShowWindow();
   void RunByTitle();
   void ShowProgress();

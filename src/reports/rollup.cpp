@@ -7,7 +7,7 @@
 
 namespace tamo {
 
-MarkupFactors::MarkupFactors(const MarkupTexts& texts)
+MarkupFactors::MarkupFactors(const Markups& texts)
     : LOH(Value(texts.LOH)),
       LTX(Value(texts.LTX)),
       LMU(Value(texts.LMU)),
@@ -41,7 +41,7 @@ QString UnitPriceText(double price) {
 
 namespace {
 
-QString NoRatio(const QString& system, const MaterialBlock& block, const QString& what) {
+QString NoRatio(const QString& system, const PricedBlock& block, const QString& what) {
   return QStringLiteral(
              "The report can't be made: in the system \"%1\" the material \"%2\" has a %3 of 0, "
              "and "
@@ -51,7 +51,7 @@ QString NoRatio(const QString& system, const MaterialBlock& block, const QString
 
 }  // namespace
 
-double OrderQuantity(const MaterialBlock& block, double quantity, const QString& system,
+double OrderQuantity(const PricedBlock& block, double quantity, const QString& system,
                      const StandingFigures& standing) {
   switch (block.orderTag) {
     case OrderTag::Upo:
@@ -66,7 +66,7 @@ double OrderQuantity(const MaterialBlock& block, double quantity, const QString&
   return standing.orderQuantity;
 }
 
-double Manhours(const MaterialBlock& block, double quantity, const QString& system,
+double Manhours(const PricedBlock& block, double quantity, const QString& system,
                 const StandingFigures& standing) {
   switch (block.laborTag) {
     case LaborTag::Upm:
@@ -81,11 +81,11 @@ double Manhours(const MaterialBlock& block, double quantity, const QString& syst
   return standing.manhours;
 }
 
-double WithWaste(const MaterialBlock& block, double orderQuantity) {
+double WithWaste(const PricedBlock& block, double orderQuantity) {
   return orderQuantity + (block.waste / 100) * orderQuantity;
 }
 
-BlockDollars PriceBlock(const MaterialBlock& block, double quantity, const QString& system,
+BlockDollars PriceBlock(const PricedBlock& block, double quantity, const QString& system,
                         StandingFigures& standing) {
   BlockDollars dollars;
   double order = OrderQuantity(block, quantity, system, standing);
@@ -122,13 +122,13 @@ double UnitPricedAmount(double unitPrice, double quantity, const QString& system
   return amount;
 }
 
-LineRollUp RollUpLine(const std::vector<MaterialBlock>& blocks, double quantity,
+LineRollUp RollUpLine(const std::vector<PricedBlock>& blocks, double quantity,
                       const QString& system, const MarkupFactors& markups,
                       StandingFigures& standing) {
   LineRollUp line;
   double labor = 0;
   double material = 0;
-  for (const MaterialBlock& block : blocks) {
+  for (const PricedBlock& block : blocks) {
     const BlockDollars dollars = PriceBlock(block, quantity, system, standing);
     material += dollars.material;
     labor += dollars.labor;

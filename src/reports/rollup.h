@@ -30,20 +30,20 @@ struct StandingFigures {
 };
 
 // Order units for `quantity` takeoff units, before waste; the standing figure without a tag.
-double OrderQuantity(const MaterialBlock& block, double quantity, const QString& system,
+double OrderQuantity(const PricedBlock& block, double quantity, const QString& system,
                      const StandingFigures& standing);
 // Manhours for `quantity` takeoff units; the standing figure without a tag.
-double Manhours(const MaterialBlock& block, double quantity, const QString& system,
+double Manhours(const PricedBlock& block, double quantity, const QString& system,
                 const StandingFigures& standing);
 // `orderQuantity` and its waste.
-double WithWaste(const MaterialBlock& block, double orderQuantity);
+double WithWaste(const PricedBlock& block, double orderQuantity);
 
 // What one material of a row costs before markups.
 struct BlockDollars {
   double material = 0;
   double labor = 0;
 };
-BlockDollars PriceBlock(const MaterialBlock& block, double quantity, const QString& system,
+BlockDollars PriceBlock(const PricedBlock& block, double quantity, const QString& system,
                         StandingFigures& standing);
 
 // Raises a RunTimeFailure that names the system when one of the figures is larger than any number.
@@ -61,7 +61,7 @@ struct LineRollUp {
   double manhours = 0;     // as it is
   QString unitPrice;       // estimated, as money
 };
-LineRollUp RollUpLine(const std::vector<MaterialBlock>& blocks, double quantity,
+LineRollUp RollUpLine(const std::vector<PricedBlock>& blocks, double quantity,
                       const QString& system, const MarkupFactors& markups,
                       StandingFigures& standing);
 

@@ -48,7 +48,7 @@ class WildDisk : public RealDisk {
   QList<QByteArray> parts_;
 };
 
-Report Make(int report, const ReportSource& source, const MarkupTexts& markups) {
+Report Make(int report, const ReportSource& source, const Markups& markups) {
   QString adjustment;
   switch (report) {
     case 0:
@@ -75,7 +75,7 @@ Report Make(int report, const ReportSource& source, const MarkupTexts& markups) 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   WildDisk disk(data, size);
   Files files(disk);
-  MarkupTexts markups;
+  Markups markups;
   markups.LOH = markups.MOH = QStringLiteral(".10");
   for (const bool whole : {false, true}) {
     const ReportSource source{files, QStringLiteral("/p/"), QStringLiteral("/"), nullptr, {},

@@ -89,7 +89,7 @@ TEST(Copies, AnOfficeLineCarriesItsOwnMarkups) {
   BenchProject project;
   project.System(S("Door"), S("EA"), S(""), {kSlab});
   project.Area(S("A"), {AreaLine(S("Door"), S("1.555"), S("EA"))});
-  MarkupTexts texts;
+  Markups texts;
   texts.MOH = S(".10");
   texts.LOH = S(".25");
   texts.MIMU = S(".05");
@@ -195,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 QStringList BreakDownOf(BenchProject& project) {
   QString adjustment;
-  return BreakDown(MakeBreak(project.Source(), project.Markups(), adjustment)).lines;
+  return BreakDown(MakeBreak(project.Source(), project.MarkupsOfFile(), adjustment)).lines;
 }
 
 TEST(BreakDownReport, EveryFigureIs0WithoutTakeoff) {
@@ -255,7 +255,7 @@ TEST(BreakDownReport, ALeastChargeOfABrokenWageIsRaisedOnceMore) {
 TEST(BreakDownReport, UnitPricedItemsThatItLeavesOutAreNotedWithTheirSum) {
   BenchProject project(DataPathOf(S("riverside/home/Tamo/Projects/07-2611004/")));
   QString adjustment;
-  const Report report = BreakDown(MakeBreak(project.Source(), project.Markups(), adjustment));
+  const Report report = BreakDown(MakeBreak(project.Source(), project.MarkupsOfFile(), adjustment));
   ASSERT_EQ(report.notes.size(), 1u);
   EXPECT_TRUE(report.notes[0].text.contains(S("Carpet Broadloom, Corner Guard 4ft, Fire Caulk")));
   EXPECT_TRUE(report.notes[0].text.contains(S("2375.00")));

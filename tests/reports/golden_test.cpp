@@ -39,7 +39,7 @@ ProjectFacts FactsOf(const QString& folder) {
 Report Make(const QString& name, BenchProject& project, const QString& jobID) {
   QString adjustment;
   const ReportSource source = project.Source();
-  const MarkupTexts markups = project.Markups();
+  const Markups markups = project.MarkupsOfFile();
   if (name == QLatin1String("recap")) return MinimalRecapSheet(source, markups, false, adjustment);
   if (name == QLatin1String("recap-detailed"))
     return MinimalRecapSheet(source, markups, true, adjustment);

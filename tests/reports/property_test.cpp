@@ -26,10 +26,10 @@ struct Outcome {
   bool operator==(const Outcome&) const = default;
 };
 
-MarkupTexts Markups(unsigned seed) {
+Markups RandomMarkups(unsigned seed) {
   const QString texts[] = {QStringLiteral(".10"), QStringLiteral("0"),    QString(),
                            QStringLiteral("ten"), QStringLiteral("-.05"), QStringLiteral("12")};
-  MarkupTexts markups;
+  Markups markups;
   for (QString* text :
        {&markups.LOH, &markups.LTX, &markups.LMU, &markups.MOH, &markups.MTX, &markups.MMU,
         &markups.BLOH, &markups.BLTX, &markups.BLMU, &markups.MIOH, &markups.MITX, &markups.MIMU}) {
@@ -41,7 +41,7 @@ MarkupTexts Markups(unsigned seed) {
 
 constexpr int kReports = 8;
 
-Report Make(int report, const ReportSource& source, const MarkupTexts& markups) {
+Report Make(int report, const ReportSource& source, const Markups& markups) {
   QString adjustment;
   switch (report) {
     case 0:
@@ -63,7 +63,7 @@ Report Make(int report, const ReportSource& source, const MarkupTexts& markups) 
   }
 }
 
-Outcome Play(int report, const ReportSource& source, const MarkupTexts& markups) {
+Outcome Play(int report, const ReportSource& source, const Markups& markups) {
   try {
     const Report made = Make(report, source, markups);
     for (const ReportNote& note : made.notes) {
@@ -87,7 +87,7 @@ TEST(RandomProjects, EveryReportEndsWithLinesOrOneMessageAndTwiceTheSame) {
     FillWithRandomProject(disk, random);
     const ReportSource source{files,     QStringLiteral("/p/"), QStringLiteral("/"), nullptr, {},
                               i % 3 == 0};
-    const MarkupTexts markups = Markups(random());
+    const Markups markups = RandomMarkups(random());
     for (int report = 0; report < kReports; ++report) {
       const Outcome first = Play(report, source, markups);
       const Outcome second = Play(report, source, markups);

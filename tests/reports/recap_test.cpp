@@ -16,7 +16,7 @@ const QString kRule = S("    ___________________________________________________
 
 QStringList Recap(BenchProject& project, bool detailed = false) {
   QString adjustment;
-  return MinimalRecapSheet(project.Source(), project.Markups(), detailed, adjustment).lines;
+  return MinimalRecapSheet(project.Source(), project.MarkupsOfFile(), detailed, adjustment).lines;
 }
 
 // Twelve markups in the order of the file: MOH MTX MMU LOH LTX LMU BLOH BLTX BLMU MIOH MITX MIMU.
@@ -203,7 +203,7 @@ TEST(RecapSheet, TheTotalDiffersFromTheBreakdownByRoundingAndUnitPricedItems) {
   QString adjustment;
   const QStringList recap = Recap(project);
   EXPECT_TRUE(recap.filter(S("                Total")).first().endsWith(S("$ 95081.2628.00")));
-  const BreakFigures figures = MakeBreak(project.Source(), project.Markups(), adjustment);
+  const BreakFigures figures = MakeBreak(project.Source(), project.MarkupsOfFile(), adjustment);
   EXPECT_EQ(figures.roll.totalBid, 92747);
   EXPECT_EQ(figures.unitPriced, 1683 + 501 + 191);
 }
@@ -225,7 +225,7 @@ TEST(DetailedRecapSheet, OneGroupOfLinesForEachMaterial) {
   project.Room(S("A"), {RoomLine(S("Wall"), S("100"))});
   // 12.5 order units are raised to 13: 26 dollars. 25 manhours: 75 dollars.
   // Markups 2.6 + 15 + 3.75 = 21.35.
-  EXPECT_EQ(DetailedRecapSheet(project.Source(), project.Markups()).lines,
+  EXPECT_EQ(DetailedRecapSheet(project.Source(), project.MarkupsOfFile()).lines,
             (QStringList{S("Recap Sheet"), S(""), S("  Wall  100 EUP SF"), S("     Stud  @ 2.00"),
                          S("     Labor    25 hrs. @ 3.00"), S("     Material 13 LF @ 2.00"),
                          S("Labor    75.00"), S("Material 26.00"), S("Markups  21.00"), S(""),

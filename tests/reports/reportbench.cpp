@@ -62,11 +62,11 @@ ReportSource BenchProject::Source() {
   return {files, folder, PlatformSeparator(), &lineColor, {}, false};
 }
 
-MarkupTexts BenchProject::Markups() {
+Markups BenchProject::MarkupsOfFile() {
   QStringList lines;
   files.ReadLines(folder + QStringLiteral("Markups.tamo"), lines);
   LineReader reader(lines);
-  MarkupTexts texts;
+  Markups texts;
   for (QString* text :
        {&texts.MOH, &texts.MTX, &texts.MMU, &texts.LOH, &texts.LTX, &texts.LMU, &texts.BLOH,
         &texts.BLTX, &texts.BLMU, &texts.MIOH, &texts.MITX, &texts.MIMU})

@@ -55,7 +55,7 @@ class BenchProject {
   void Adjust(const QString& text) { Write(QStringLiteral("Adjustment.tamo"), {text}); }
 
   ReportSource Source();
-  MarkupTexts Markups();  // of the project's Markups.tamo; empty without one
+  Markups MarkupsOfFile();  // of the project's Markups.tamo; empty without one
 
   QString folder;  // with its separator
   FaultDisk disk;
@@ -76,13 +76,13 @@ class FormBench {
 
   struct MarkupDouble : MarkupSource {
     BenchProject* project = nullptr;
-    MarkupTexts texts;
+    Markups texts;
     int loads = 0;
     void LoadMarkups() override {
       ++loads;
-      texts = project->Markups();
+      texts = project->MarkupsOfFile();
     }
-    MarkupTexts Texts() const override { return texts; }
+    Markups Texts() const override { return texts; }
   };
   struct RecordDouble : ProjectRecord {
     ProjectFacts facts;

@@ -11,8 +11,8 @@ namespace {
 
 #define S(text) QStringLiteral(text)
 
-MaterialBlock Block(double price, double ratio, OrderTag tag, double waste = 0) {
-  MaterialBlock block;
+PricedBlock Block(double price, double ratio, OrderTag tag, double waste = 0) {
+  PricedBlock block;
   block.material = S("Stuff");
   block.price = price;
   block.ratio = ratio;
@@ -23,8 +23,8 @@ MaterialBlock Block(double price, double ratio, OrderTag tag, double waste = 0) 
   return block;
 }
 
-MaterialBlock Labor(double wage, double ratio, LaborTag tag) {
-  MaterialBlock block = Block(0, 1, OrderTag::Upo);
+PricedBlock Labor(double wage, double ratio, LaborTag tag) {
+  PricedBlock block = Block(0, 1, OrderTag::Upo);
   block.wage = wage;
   block.manhourRatio = ratio;
   block.laborTag = tag;
@@ -108,8 +108,8 @@ TEST(Block, UnitsPerManhourDivideAndManhoursPerUnitMultiply) {
 
 TEST(Block, WithoutItsTagTheFigureOfTheBlockBeforeStandsRaisedAndWithWaste) {
   StandingFigures standing;
-  MaterialBlock first = Block(2, 8, OrderTag::Upo, 10);  // 12.5 + 1.25 = 13.75: 14
-  MaterialBlock untagged = Block(2, 8, OrderTag::None, 10);
+  PricedBlock first = Block(2, 8, OrderTag::Upo, 10);  // 12.5 + 1.25 = 13.75: 14
+  PricedBlock untagged = Block(2, 8, OrderTag::None, 10);
   untagged.laborTag = LaborTag::None;
   untagged.wage = 3;
   PriceBlock(first, 100, S("Sys"), standing);
@@ -123,7 +123,7 @@ TEST(Block, WithoutItsTagTheFigureOfTheBlockBeforeStandsRaisedAndWithWaste) {
 
 TEST(Block, AtTheStartOfAReportTheStandingFiguresAre0) {
   StandingFigures standing;
-  MaterialBlock untagged = Block(2, 8, OrderTag::None, 10);
+  PricedBlock untagged = Block(2, 8, OrderTag::None, 10);
   untagged.laborTag = LaborTag::None;
   const BlockDollars dollars = PriceBlock(untagged, 5, S("Sys"), standing);
   EXPECT_EQ(dollars.material, 2);
@@ -165,8 +165,8 @@ TEST(UnitPriced, AmountIsRoundedAndCarriesNoMarkup) {
   EXPECT_EQ(UnitPricedAmount(.5, -3, S("Carpet")), -1);
 }
 
-MarkupTexts Texts() {
-  MarkupTexts texts;
+Markups Texts() {
+  Markups texts;
   texts.LOH = S(".12");
   texts.LTX = S(".0765");
   texts.LMU = S(".10");
@@ -184,7 +184,7 @@ MarkupTexts Texts() {
 
 TEST(Line, MarkupsLieOnTheRawDollarsAndMiscOnBoth) {
   // 100 order units of 2.00 and 100 manhours of 3.00.
-  MaterialBlock block = Block(2, 1, OrderTag::Upo);
+  PricedBlock block = Block(2, 1, OrderTag::Upo);
   block.wage = 3;
   StandingFigures standing;
   const LineRollUp line = RollUpLine({block}, 100, S("Sys"), MarkupFactors(Texts()), standing);
@@ -198,8 +198,8 @@ TEST(Line, MarkupsLieOnTheRawDollarsAndMiscOnBoth) {
 }
 
 TEST(Line, ALeastChargeWithCentsIsMarkedUpBeforeItIsRounded) {
-  MaterialBlock block = Block(10.4, 1000, OrderTag::Upo);
-  MarkupTexts texts;
+  PricedBlock block = Block(10.4, 1000, OrderTag::Upo);
+  Markups texts;
   texts.MOH = S("1");
   StandingFigures standing;
   const LineRollUp line = RollUpLine({block, block}, 1, S("Sys"), MarkupFactors(texts), standing);
@@ -240,7 +240,7 @@ TEST(Project, EachMarkupOnceOnTheProjectSums) {
   sums.rawLabor = 1015;
   sums.rawMaterial = 2000.5;
   sums.rawBottomLine = 333.33;
-  MarkupTexts texts = Texts();
+  Markups texts = Texts();
   texts.LOH = texts.LTX = S(".10");
   const ProjectRollUp p = RollUpProject(sums, 0, MarkupFactors(texts));
   EXPECT_EQ(p.laborOverhead, 102);  // 101.5 rounded
@@ -269,7 +269,7 @@ TEST(Project, TheMiscMarkupLiesOnTheMaterialTaxToo) {
   ProjectRollUp sums;
   sums.rawLabor = 100;
   sums.rawMaterial = 1000;
-  MarkupTexts texts;
+  Markups texts;
   texts.MTX = S(".5");
   texts.MIMU = S(".1");
   EXPECT_EQ(RollUpProject(sums, 0, MarkupFactors(texts)).miscMarkup, 160);
@@ -288,7 +288,7 @@ TEST(Project, RawCostsOf0StopWithAMessageOfUnitPricedItems) {
 }
 
 TEST(Markups, TextsAreFractionsAndOtherTextIs0) {
-  MarkupTexts texts = Texts();
+  Markups texts = Texts();
   texts.LOH = S("ten");
   texts.MOH = S("10");
   const MarkupFactors factors(texts);

@@ -10,7 +10,7 @@ namespace tamo {
 
 // Names in order of first appearance, each found at once by its exact, case-sensitive text. It owns
 // its names; row numbers stay valid.
-class NameIndex {
+class NameRows {
  public:
   int Count() const { return static_cast<int>(names_.size()); }
   const QString& At(int row) const { return names_[static_cast<size_t>(row)]; }
