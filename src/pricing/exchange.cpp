@@ -31,7 +31,8 @@ bool HoldsControls(const QString& text) {
 
 // Why a material of the file can't be taken, "" when it can.
 QString BlockRefusal(const MaterialBlock& block) {
-  if (QString name = NameRefusal(block.material); !name.isEmpty()) return name;
+  QString name = NameRefusal(block.material);
+  if (!name.isEmpty()) return name;
   if (block.upoTag.isEmpty() || IsRatioTag(block.upoTag)) {
     if (block.mnhrTag.isEmpty() || IsLaborTag(block.mnhrTag)) return {};
   }
