@@ -128,7 +128,7 @@ PageList::~PageList() {
 }
 
 PageSource::PageSource(fz_context* context, std::shared_ptr<MuWorld> world,
-                       std::shared_ptr<ReaderSlot> slot, const QByteArray& password)
+                       const std::shared_ptr<ReaderSlot>& slot, const QByteArray& password)
     : context_(context), world_(std::move(world)) {
   fz_stream* stream = nullptr;
   pdf_document* document = nullptr;

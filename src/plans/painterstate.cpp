@@ -210,7 +210,7 @@ void PlanPainter::State::KeepTile(const TileKey& key, Tile tile) {
 }
 
 void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<PageList> list,
-                              std::shared_ptr<const Picture> picture) {
+                              const std::shared_ptr<const Picture>& picture) {
   const bool good = picture != nullptr || (job.kind == PaintJob::Kind::Read && list != nullptr);
   if (list != nullptr && job.kind == PaintJob::Kind::Read) {
     lists.emplace_front(job.page, std::move(list));

@@ -94,7 +94,7 @@ struct PlanPainter::State {
   // The next job for a thread; `reads` tells whether it is the one that reads pages.
   PaintJob Next(bool reads);
   void Done(const PaintJob& job, std::shared_ptr<PageList> list,
-            std::shared_ptr<const Picture> picture);
+            const std::shared_ptr<const Picture>& picture);
   void StopStale();
   void StopOverdue();
   bool Sharp();
