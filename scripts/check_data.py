@@ -17,7 +17,7 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 DATA = ROOT / "data"
-WIDEST = 90
+WIDEST = 80
 
 TOPICS = """Mission Start Projects OpenProject ClearProject NewProject ProjectInformation
 LockUnlockProject CopyProject PasteProject DeleteProject Pricing BuildingSystems Markups CopySystem

@@ -183,7 +183,7 @@ def about():
         (128, 11, True, "Measure your first wall"),
         (146, 9, False, "1. Choose Scale, then 1/4\" (the 1/4\" = 1' of"),
         (158, 9, False, "    this sheet)."),
-        (174, 9, False, "2. Pick the measuring tool."),
+        (174, 9, False, "2. Press Measure."),
         (190, 9, False, "3. Draw from the inside north-west corner of"),
         (202, 9, False, "    the Studio to its north-east corner."),
         (218, 9, False, "4. The distance must read 20.0."),

@@ -75,6 +75,7 @@ void EstimateForm::DeleteArea() {
   AreaList.Clear();
   SaveAreas();
   AreasList.Show();
+  kit_.shared.IAmHere.clear();  // no length waits in the area any more
   GetDesk().Focus(Area);
   StatusText.SetCaption(
       gone + QStringLiteral(" off the list. Typing a name again brings it back with its lines."));

@@ -227,11 +227,12 @@ void RFSForm::LoadRoom() {
   if (file.hasHeight) {
     How.SetText(file.height);
     CopyHeight = file.height;
-    if (Flag == QLatin1String("Enter")) heightNumber_ = GroupedValue(file.height);
     file.lines.removeAll(QString());
     RoomList.AddAll(file.lines);
   }
   UpdateStatus();
+  // Last, since a height beyond all numbers fails here and must not leave the room half loaded.
+  if (file.hasHeight && Flag == QLatin1String("Enter")) heightNumber_ = GroupedValue(file.height);
 }
 
 void RFSForm::SaveRoom() {
@@ -269,6 +270,7 @@ void RFSForm::LoadSystem() {
   kit_.shared.LineColor = system.lineColour;
   plan_.SetPenColour(system.lineColour);
   plan_.ResetMeasure();
+  ScaleText.SetCaption(plan_.ScaleText());
   UpdatePrompts();
 }
 

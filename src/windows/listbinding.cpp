@@ -59,15 +59,7 @@ void ListBinding::Apply() {
     view_.Model().TicksChanged();
   }
   const int index = list_.Index();
-  if (view_.currentIndex().row() != index) {
-    if (index < 0) {
-      view_.clearSelection();
-      view_.setCurrentIndex({});
-    } else {
-      view_.setCurrentIndex(view_.Model().index(index));
-    }
-    view_.viewport()->update();
-  }
+  view_.SetSelected(index);
   if (list_.ShownWithFrames() && (under_ != nullptr || view_.isHidden())) Place();
   Binding::Apply();
   if (!list_.Shown()) view_.SetWalked(-1);
@@ -199,7 +191,7 @@ bool ListBinding::TakeMouse(QEvent* event) {
     case QEvent::MouseMove:
       return mouse->buttons() != Qt::NoButton;
     case QEvent::ContextMenu: {
-      const int row = view_.currentIndex().row();
+      const int row = list_.Index();
       const bool keys =
           static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard;
       if (keys && list_.onRightClick && row >= 0) {

@@ -7,7 +7,7 @@ namespace tamo {
 namespace {
 
 constexpr int kSideWidth = 35 * kGrid;
-constexpr int kCaptions = 22 * kGrid;
+constexpr int kCaptions = 21 * kGrid;
 constexpr int kPrompts = 42 * kGrid;
 
 QWidget* SystemFields(Builder& b) {
@@ -20,11 +20,12 @@ QWidget* SystemFields(Builder& b) {
   QLabel* units = b.Caption("LabelUnits");
   units->setFixedWidth(kCaptions);
   QLabel* price = b.Caption("LabelUnitPrice");
-  QLineEdit* unitsField = b.Field("Units", 10);
-  QLineEdit* priceField = b.Field("UnitPrice", 12);
+  QLineEdit* unitsField = b.Field("Units", 8);
+  QLineEdit* priceField = b.Field("UnitPrice", 10);
   units->setBuddy(unitsField);
   price->setBuddy(priceField);
   SwatchPatch* sample = b.SampleLine("Line1");
+  sample->setMinimumWidth(6 * kGrid);
   sample->setMaximumWidth(20 * kGrid);
   line->addWidget(units);
   line->addWidget(unitsField);
@@ -72,7 +73,9 @@ QWidget* Labor(Builder& b) {
   left->addWidget(MaterialFields(b), 1);
   auto* right = new QVBoxLayout;
   right->addWidget(Section(QStringLiteral("Materials of this system")));
-  right->addWidget(b.List("MaterialList", QStringLiteral("Materials of this system"), 20, 10), 1);
+  RowsView* materials = b.List("MaterialList", QStringLiteral("Materials of this system"), 18, 10);
+  materials->setMinimumWidth(20 * kGrid);
+  right->addWidget(materials, 1);
   row->addLayout(left);
   row->addLayout(right, 1);
   column->addLayout(row, 1);
@@ -168,6 +171,13 @@ QWidget* Side(Builder& b) {
   notes->setMinimumHeight(9 * kGrid);
   column->addWidget(notes, 1);
   column->addStretch(0);
+  // Stands only while something stands in it; the fields on the left never move.
+  b.Window().onSynced.push_back([side] {
+    bool any = false;
+    for (const QWidget* panel : side->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+      any = any || !panel->isHidden();
+    side->setVisible(any);
+  });
   return side;
 }
 

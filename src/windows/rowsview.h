@@ -41,6 +41,9 @@ class RowsView : public QListView {
   int RowHeight() const;
   int WidthOfColumns(int characters) const;
 
+  int Selected() const { return selected_; }
+  void SetSelected(int row);  // -1 for none
+
   int Walked() const { return walked_; }  // the row the keys have walked to, -1 for none
   void SetWalked(int row);
   QRect TickRect(int row) const;  // in the viewport
@@ -62,6 +65,7 @@ class RowsView : public QListView {
 
  private:
   RowsModel* model_;
+  int selected_ = -1;
   int walked_ = -1;
   QString emptyText_;
   QString found_;

@@ -1,5 +1,6 @@
 // tamo_scenario: plays scenario files.
 
+#include <sys/mman.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -8,8 +9,12 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <algorithm>
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
+#include <functional>
 #include <memory>
+#include <new>
 
 #include "common/textlines.h"
 #include "player/formsstage.h"
@@ -24,6 +29,8 @@
 
 namespace tamo::player {
 namespace {
+
+constexpr unsigned kLongestStep = 120;  // seconds
 
 constexpr char kUsage[] =
     "tamo_scenario --program DIR --home DIR [--windows] [--clock YYYY-MM-DD] FILE...";
@@ -43,7 +50,8 @@ bool ReadScenario(const QString& name, QStringList& lines) {
   return open;
 }
 
-Outcome PlayFile(const Options& options, const QString& name) {
+Outcome PlayFile(const Options& options, const QString& name,
+                 const std::function<void(int line)>& onStep) {
   QTextStream out(stdout);
   QTextStream err(stderr);
   QStringList lines;
@@ -61,30 +69,50 @@ Outcome PlayFile(const Options& options, const QString& name) {
   Runner runner(
       machine, *stage,
       [](const Platform& platform) { return std::make_unique<ProgramPlayed>(platform); }, out, err);
+  runner.onStep = onStep;
   const QString folder = name == QStringLiteral("-") ? QStringLiteral(".") : QFileInfo(name).path();
   return runner.Play(name, folder, ParseScenario(lines));
 }
 
+// What a child that breaks down leaves for its parent.
+struct LastStep {
+  int line = 0;
+};
+
 // Each scenario in a process of its own: nothing of one is left for the next, and one that brings
-// the program down does not hide those behind it.
+// the program down, or never comes back from a step, does not hide those behind it.
 Outcome PlayApart(const Options& options, const QString& name) {
+  void* shared =
+      ::mmap(nullptr, sizeof(LastStep), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
+  if (shared == MAP_FAILED) return PlayFile(options, name, [](int) {});
+  auto* last = new (shared) LastStep;
   std::fflush(nullptr);
   const pid_t child = ::fork();
-  if (child < 0) return PlayFile(options, name);
   if (child == 0) {
-    const auto outcome = static_cast<int>(PlayFile(options, name));
+    const auto outcome = static_cast<int>(PlayFile(options, name, [last](int line) {
+      last->line = line;
+      ::alarm(kLongestStep);
+    }));
     std::fflush(nullptr);
     ::_exit(outcome);
   }
   int status = 0;
-  while (::waitpid(child, &status, 0) < 0) {
+  while (child > 0 && ::waitpid(child, &status, 0) < 0 && errno == EINTR) {
   }
+  const int line = last->line;
+  ::munmap(shared, sizeof(LastStep));
+  if (child < 0) return PlayFile(options, name, [](int) {});
   if (WIFEXITED(status) && WEXITSTATUS(status) <= static_cast<int>(Outcome::NotUnderstood))
     return static_cast<Outcome>(WEXITSTATUS(status));
-  QTextStream(stderr) << name << ": the program broke down"
-                      << (WIFSIGNALED(status) ? QStringLiteral(" (signal %1)").arg(WTERMSIG(status))
-                                              : QString())
-                      << '\n';
+  QTextStream err(stderr);
+  err << name << ':' << line << ": ";
+  if (WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM) {
+    err << "the program did not come back from this step\n";
+  } else {
+    err << "the program broke down in this step";
+    if (WIFSIGNALED(status)) err << " (signal " << WTERMSIG(status) << ')';
+    err << '\n';
+  }
   return Outcome::Failed;
 }
 

@@ -13,7 +13,10 @@ QString ReadFolder(const QString& value, QString& into) {
 
 QString ReadValue(const QString& name, const QString& value, Options& options) {
   if (name == QStringLiteral("--program")) return ReadFolder(value, options.program);
-  if (name == QStringLiteral("--home")) return ReadFolder(value, options.home);
+  if (name == QStringLiteral("--home")) {
+    QDir().mkpath(value);
+    return ReadFolder(value, options.home);
+  }
   if (name == QStringLiteral("--fresh")) return ReadFolder(value, options.fresh);
   options.clock = QDate::fromString(value, QStringLiteral("yyyy-MM-dd"));
   return options.clock.isValid() ? QString() : QStringLiteral("--clock wants a date YYYY-MM-DD");

@@ -40,6 +40,7 @@ Outcome Runner::Play(const QString& file, const QString& folder, const std::vect
       Say(step, step.error);
       return outcome_ = Outcome::NotUnderstood;
     }
+    if (onStep) onStep(step.line);
     try {
       Do(step);
       AfterStep();

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QTextStream>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -22,6 +23,9 @@ class Runner {
   ~Runner();
   Runner(const Runner&) = delete;
   Runner& operator=(const Runner&) = delete;
+
+  // Called before each step with its line.
+  std::function<void(int line)> onStep;
 
   Outcome Play(const QString& file, const QString& folder, const std::vector<Step>& steps);
 

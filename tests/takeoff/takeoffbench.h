@@ -45,8 +45,23 @@ class RecordingPricing : public PricingDesk {
 
 class RecordingRefresh : public TakeoffReportRefresh {
  public:
-  void PrintReport() override { ++count; }
+  void PrintReport() override {
+    ++count;
+    if (onRefresh) onRefresh();
+  }
   int count = 0;
+  std::function<void()> onRefresh;
+};
+
+// The fault disk, which leaves out the waiting for the device: the many saves of these tests need
+// not outlive a power cut.
+class QuickDisk : public FaultDisk {
+ public:
+  bool quick = true;
+  int Sync(int handle) override { return quick ? kNoError : FaultDisk::Sync(handle); }
+  int SyncFolder(const QString& path) override {
+    return quick ? kNoError : FaultDisk::SyncFolder(path);
+  }
 };
 
 // Two bare windows stand for the main form and the plan.
@@ -116,7 +131,7 @@ class TakeoffTest : public ::testing::Test {
 
   QTemporaryDir folder;
   QString data;
-  FaultDisk disk;
+  QuickDisk disk;
   Files files{disk};
   ScriptedMessages messages;
   Desk desk{messages};
@@ -134,6 +149,20 @@ class TakeoffTest : public ::testing::Test {
   EstimateForm ato{kit, plan, pricing, reports, shell};
   BottomLine bottom{kit, reports};
   AdjustmentForm adjustment{kit, reports};
+};
+
+// The free takeoff on the same bench.
+class AreasTest : public TakeoffTest {
+ protected:
+  void StartArea(const QString& name) {
+    EnterItems();
+    Enter(ato.Area, name);
+  }
+  void Line1(const QString& system, const QString& entry) {
+    Enter(system);
+    Enter(entry);
+  }
+  QStringList Areas() { return Lines(Project(QStringLiteral("ATOs/Areas.tamo"))); }
 };
 
 // The room line as it stands in a file.

@@ -1,0 +1,140 @@
+// How fast quantities come in: an Enter in Length in a room of 300 lines of a project of 1,000
+// rooms, beside the durable save of the same room alone, and the opening of the schedule.
+#include <benchmark/benchmark.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+#include "common/desk.h"
+#include "common/files.h"
+#include "common/kit.h"
+#include "takeoff/rfsform.h"
+#include "takeoff/roomline.h"
+#include "takeoff/takeofffiles.h"
+
+namespace {
+
+using namespace tamo;
+
+class Nobody : public Messages,
+               public Printer,
+               public Clipboard,
+               public PlanTools,
+               public PricingDesk,
+               public TakeoffReportRefresh,
+               public TakeoffShell {
+ public:
+  void Tell(const QString&) override {}
+  bool Ask(const QString&) override { return false; }
+  void SetFont(const QString&, int) override {}
+  void PrintLine(const QString&) override {}
+  void EndPage() override {}
+  bool BeginPrint(const QString&) override { return false; }
+  void EndPrint() override {}
+  void Clear() override {}
+  void SetText(const QString&) override {}
+  void SetToolMode(int) override {}
+  void SetPenColour(const QString&) override {}
+  void ResetMeasure() override {}
+  void SaveIt() override {}
+  void ClearDistance() override {}
+  void ReleaseMode() override {}
+  void DeleteKey() override {}
+  QString ScaleText() const override { return {}; }
+  void ShowWithName(const QString&) override {}
+  void PrintReport() override {}
+  void ShowMainForm() override {}
+  void ShowProjectPanel() override {}
+  void ShowOST() override {}
+};
+
+// A project of 1,000 rooms, the first of which has 300 lines.
+struct BigProject {
+  QTemporaryDir folder;
+  RealDisk disk;
+  Files files{disk};
+  Nobody nobody;
+  Desk desk{nobody};
+  SystemClock clock;
+  SharedFields shared;
+  Platform platform{disk, clock, nobody, nobody, nobody, {}, {}, {}};
+  Kit kit{desk, files, shared, platform};
+  RFSForm form{kit, nobody, nobody, nobody, nobody};
+  QStringList lines;
+
+  BigProject() {
+    shared.DataPath = folder.path() + QStringLiteral("/Tamo/");
+    shared.Separator = QStringLiteral("/");
+    shared.JobID = QStringLiteral("00-2112001");
+    shared.DriveBy = QStringLiteral("False");
+    for (const char* name : {"Rooms", "Systems"})
+      QDir().mkpath(shared.ProjectPath() + QLatin1String(name));
+    QStringList systems;
+    for (int i = 0; i < 300; ++i) {
+      const QString name = QStringLiteral("System %1").arg(i);
+      const QString unit = i % 2 == 0 ? QStringLiteral("SF") : QStringLiteral("LF");
+      systems += name;
+      lines += RoomLine::Of(name, QStringLiteral("WALLS"), QStringLiteral("1234.5"), unit).Text();
+      files.SaveLines(shared.ProjectPath() + QStringLiteral("Systems/%1.sys").arg(name),
+                      {name, unit, QStringLiteral("1.00"), QStringLiteral("255000000")});
+    }
+    WriteSystemNames(files, shared, systems);
+    QStringList rooms;
+    for (int i = 0; i < 1000; ++i) {
+      rooms += QStringLiteral("Room %1").arg(i);
+      WriteRoomFile(files, shared, rooms.last(), QStringLiteral("8"),
+                    i == 0 ? lines : lines.mid(0, 1));
+    }
+    WriteRoomNames(files, shared, rooms);
+  }
+};
+
+double Milliseconds(std::chrono::steady_clock::time_point from) {
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - from).count();
+}
+
+double Hundredth(std::vector<double>& times, size_t part) {
+  std::sort(times.begin(), times.end());
+  return times.empty() ? 0 : times[(times.size() - 1) * part / 100];
+}
+
+// The Enter and the bare save take turns, so that both meet the same device in the same mood.
+void EnterBesideItsSave(benchmark::State& state) {
+  BigProject project;
+  RFSForm& form = project.form;
+  project.desk.Dispatch([&] { form.TakeOffRoomFinishSchedule(nullptr); });
+  std::vector<double> enters;
+  std::vector<double> saves;
+  for (auto _ : state) {
+    form.Length.SetText(QStringLiteral("1.5"));
+    auto from = std::chrono::steady_clock::now();
+    project.desk.PressKey(form.Length, Key::Named(Key::Name::Enter));
+    enters.push_back(Milliseconds(from));
+    state.PauseTiming();
+    from = std::chrono::steady_clock::now();
+    WriteRoomFile(project.files, project.shared, QStringLiteral("Room 1"), QStringLiteral("8"),
+                  project.lines);
+    saves.push_back(Milliseconds(from));
+    state.ResumeTiming();
+  }
+  state.counters["enter_median_ms"] = Hundredth(enters, 50);
+  state.counters["enter_p99_ms"] = Hundredth(enters, 99);
+  state.counters["save_median_ms"] = Hundredth(saves, 50);
+  state.counters["times_the_save"] = Hundredth(enters, 50) / Hundredth(saves, 50);
+}
+BENCHMARK(EnterBesideItsSave)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+void OpenOnAThousandRooms(benchmark::State& state) {
+  BigProject project;
+  RFSForm& form = project.form;
+  for (auto _ : state) {
+    project.desk.Dispatch([&] { form.EnterRoomFinishSchedule(nullptr); });
+    project.desk.Dispatch([&] { form.Hide(); });
+  }
+}
+BENCHMARK(OpenOnAThousandRooms)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace
