@@ -111,8 +111,9 @@ void FormWindow::SetStatus(const QString& project, bool locked, const QString& f
     folderLabel_ = new QLabel;
     folderLabel_->setTextFormat(Qt::PlainText);
     folderLabel_->setProperty("role", QStringLiteral("quiet"));
-    line.addWidget(projectLabel_);
-    line.addWidget(lock);
+    line.insertWidget(0, projectLabel_);
+    line.insertWidget(1, lock);
+    line.insertStretch(2, 1);
     line.addStretch(1);
     line.addWidget(folderLabel_);
   }

@@ -2,9 +2,10 @@
 
 #include <QApplication>
 #include <QFontDatabase>
-#include <QStyleFactory>
 #include <algorithm>
 #include <cmath>
+
+#include "windows/tamostyle.h"
 
 namespace tamo {
 namespace {
@@ -142,6 +143,12 @@ QPushButton:hover { border-color: @accent; }
 QPushButton:pressed { background: @ground; }
 QPushButton:focus { border: 2px solid @accent; padding: 2px 13px; background: @ground; }
 QPushButton:disabled { color: @quiet; border-color: @faint; }
+QToolButton {
+  border: 1px solid @line; border-radius: 3px; padding: 3px 10px; background: @button;
+  color: @text;
+}
+QToolButton:hover { border-color: @accent; }
+QToolButton:checked { border: 2px solid @accent; padding: 2px 9px; background: @ground; }
 QCheckBox, QRadioButton { padding: 3px; border: 2px solid transparent; border-radius: 3px; }
 QCheckBox:focus, QRadioButton:focus { border-color: @accent; background: @ground; }
 QLabel[role="prompt"], QLabel[role="quiet"] { color: @quiet; }
@@ -184,7 +191,7 @@ QToolTip { background: @base; color: @text; border: 1px solid @line; padding: 4p
 
 void ApplyLook(const Look& look) {
   Current() = look;
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setStyle(new TamoStyle);
   QApplication::setPalette(look.Palette());
   QFont font = QApplication::font();
   if (font.pointSizeF() < kLeastPoints || font.pointSizeF() > 2 * kLeastPoints) {

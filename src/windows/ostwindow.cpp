@@ -35,9 +35,9 @@ QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
     const char* hover;
   };
   static constexpr ToolRow kTools[] = {
-      {PdfDraw::NoTool, "Move", "Pull the sheet with the mouse"},
-      {PdfDraw::Measuring, "Measure", "Draw a line; Shift keeps it to steps of 45 degrees"},
-      {PdfDraw::Counting, "Count", "Each press counts one"}};
+      {PdfDraw::NoTool, "Move", "Pull the sheet with the mouse (V)"},
+      {PdfDraw::Measuring, "Measure", "Draw a line; Shift keeps it to steps of 45 degrees (M)"},
+      {PdfDraw::Counting, "Count", "Each press counts one (C)"}};
   std::vector<QToolButton*> tools;
   for (const ToolRow& row : kTools) {
     QToolButton* tool = Tool(QLatin1String(row.text), QLatin1String(row.hover));
@@ -58,7 +58,8 @@ QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
   };
   QObject::connect(before, &QToolButton::clicked, bar, [turn] { turn(-1); });
   QObject::connect(after, &QToolButton::clicked, bar, [turn] { turn(1); });
-  QToolButton* rotate = Tool(QStringLiteral("Turn"), QStringLiteral("Turn the sheet to the right"));
+  QToolButton* rotate =
+      Tool(QStringLiteral("Turn"), QStringLiteral("Turn the sheet to the right (T)"));
   QObject::connect(rotate, &QToolButton::clicked, bar, [&canvas] { canvas.TurnView(); });
   for (QToolButton* tool : {before, after, rotate}) line->addWidget(tool);
   line->addStretch(1);
@@ -217,6 +218,12 @@ void LayOutOST(Builder& b) {
   row->addLayout(middle, 1);
   row->addWidget(Column(b));
   window->Body().addLayout(row, 1);
+  QHBoxLayout& foot = window->StatusLine();
+  QLabel* keys =
+      FixedPrompt(QStringLiteral("On the plan: arrows move the cross hair, Space sets a point, "
+                                 "Enter goes back to the field."));
+  keys->setWordWrap(false);
+  foot.addWidget(keys);
   window->firstSize = {1320, 700};
 }
 

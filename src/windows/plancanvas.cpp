@@ -296,6 +296,33 @@ void PlanCanvas::TurnView() {
   ViewChanged();
 }
 
+// The tool bar by letters, while the keys go to the plan.
+bool PlanCanvas::TakeLetter(int key) {
+  const auto pick = [this](int mode) {
+    desk_.Dispatch([&] { viewer_.PickTool(mode); });
+    return true;
+  };
+  switch (key) {
+    case Qt::Key_V:
+      return pick(PdfDraw::NoTool);
+    case Qt::Key_M:
+      return pick(PdfDraw::Measuring);
+    case Qt::Key_C:
+      return pick(PdfDraw::Counting);
+    case Qt::Key_T:
+      TurnView();
+      return true;
+    case Qt::Key_Plus:
+      if (onZoomIn) onZoomIn();
+      return true;
+    case Qt::Key_Minus:
+      if (onZoomOut) onZoomOut();
+      return true;
+    default:
+      return false;
+  }
+}
+
 bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   static constexpr std::pair<int, PlanKey> kKeys[] = {{Qt::Key_Left, PlanKey::Left},
                                                       {Qt::Key_Right, PlanKey::Right},
@@ -311,6 +338,7 @@ bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
   if (event.modifiers().testFlag(Qt::AltModifier)) return false;
+  if (!ctrl && TakeLetter(event.key())) return true;
   if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
     const int page = viewer_.Page() + (event.key() == Qt::Key_PageDown ? 1 : -1);
     desk_.Dispatch([&] { viewer_.TurnPage(page); });

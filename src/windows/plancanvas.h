@@ -30,7 +30,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void TurnView();
   void Print();
 
-  std::function<void()> onZoomIn, onZoomOut;  // Ctrl and the wheel
+  std::function<void()> onZoomIn, onZoomOut;  // Ctrl and the wheel, plus and minus
   std::function<void()> onPictures;           // more pictures are there
   bool TakeKey(const QKeyEvent& event);
 
@@ -56,6 +56,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void PaintMarks(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
   void Pan(const QPointF& pixels);
+  bool TakeLetter(int key);
 
   PdfDraw& viewer_;
   PlanPictures* pictures_;

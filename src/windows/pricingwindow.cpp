@@ -6,7 +6,7 @@
 namespace tamo {
 namespace {
 
-constexpr int kSideWidth = 36 * kGrid;
+constexpr int kSideWidth = 35 * kGrid;
 constexpr int kCaptions = 21 * kGrid;
 constexpr int kPrompts = 42 * kGrid;
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "windows/look.h"
+#include "windows/tamostyle.h"
 
 namespace tamo {
 namespace {
@@ -39,8 +40,8 @@ class RowPainter : public QStyledItemDelegate {
     }
     QRect text = row.adjusted(kGrid, 0, 0, 0);
     if (index.data(Qt::CheckStateRole).isValid()) {
-      PaintTick(*painter, view_.TickRect(index.row()),
-                index.data(Qt::CheckStateRole).toInt() == Qt::Checked, look);
+      PaintTickBox(*painter, view_.TickRect(index.row()),
+                   index.data(Qt::CheckStateRole).toInt() == Qt::Checked, look);
       text.setLeft(view_.TickRect(index.row()).right() + kGrid);
     }
     PaintText(*painter, text, index.data().toString(), look);
@@ -52,19 +53,6 @@ class RowPainter : public QStyledItemDelegate {
   }
 
  private:
-  static void PaintTick(QPainter& painter, const QRect& box, bool ticked, const Look& look) {
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(ticked ? look.accent : look.line, 1));
-    painter.setBrush(look.base);
-    painter.drawRoundedRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
-    if (!ticked) return;
-    painter.setPen(QPen(look.accent, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF points[] = {box.topLeft() + QPointF(3.5, 8.5), box.topLeft() + QPointF(6.8, 12),
-                              box.topLeft() + QPointF(12.5, 4.5)};
-    painter.drawPolyline(points, 3);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-  }
-
   void PaintText(QPainter& painter, const QRect& place, QString text, const Look& look) const {
     if (text.size() > kMostPainted) text.truncate(kMostPainted);
     painter.setFont(view_.font());

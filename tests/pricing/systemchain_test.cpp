@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "common/failure.h"
 #include "pricing/exchange.h"
 #include "pricing/pricingroom.h"
 
@@ -246,6 +247,18 @@ TEST(SystemChain, ASaveRefreshesTheReport) {
   room.Enter("4");
   EXPECT_EQ(room.refresh.reports, before + 1);
   EXPECT_TRUE(seen.contains("4.00"));
+}
+
+TEST(SystemChain, AReportThatFailsStopsNoChain) {
+  PricingRoom room;
+  room.refresh.onReport = [] { throw RunTimeFailure(kDivisionByZero, "no breakdown"); };
+  room.NewSystem("Wall");
+  EXPECT_EQ(room.FocusName(), "Material");
+  room.EnterAll({"Board", "SHT", "10", "2", "4", "0", "20"});
+  EXPECT_EQ(room.FocusName(), "Material");
+  EXPECT_EQ(room.form.Material.Text(), "");
+  EXPECT_EQ(room.form.MaterialList.Count(), 2);
+  EXPECT_EQ(room.messages.texts, (QStringList{"no breakdown", "no breakdown"}));
 }
 
 TEST(SystemChain, ColourCodeAndPreviewAndSwatch) {

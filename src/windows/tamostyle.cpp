@@ -1,0 +1,62 @@
+#include "windows/tamostyle.h"
+
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+#include "windows/look.h"
+
+namespace tamo {
+
+void PaintTickBox(QPainter& painter, const QRectF& place, bool ticked, const Look& look) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double side = std::min(place.width(), place.height());
+  const QRectF box(place.center() - QPointF(side / 2, side / 2), QSizeF(side, side));
+  painter.setPen(QPen(ticked ? look.accent : look.line, 1.2));
+  painter.setBrush(look.base);
+  painter.drawRoundedRect(box.adjusted(0.6, 0.6, -0.6, -0.6), 2, 2);
+  if (ticked) {
+    painter.setPen(QPen(look.accent, 2.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const QPointF points[] = {box.topLeft() + QPointF(0.24, 0.53) * side,
+                              box.topLeft() + QPointF(0.43, 0.73) * side,
+                              box.topLeft() + QPointF(0.77, 0.29) * side};
+    painter.drawPolyline(points, 3);
+  }
+  painter.restore();
+}
+
+namespace {
+
+void PaintRound(QPainter& painter, const QRectF& place, bool selected, const Look& look) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double side = std::min(place.width(), place.height());
+  painter.setPen(QPen(selected ? look.accent : look.line, 1.2));
+  painter.setBrush(look.base);
+  painter.drawEllipse(place.center(), side / 2 - 0.6, side / 2 - 0.6);
+  if (selected) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look.accent);
+    painter.drawEllipse(place.center(), side / 4, side / 4);
+  }
+  painter.restore();
+}
+
+}  // namespace
+
+TamoStyle::TamoStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
+
+void TamoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                              QPainter* painter, const QWidget* widget) const {
+  const bool on = (option->state & State_On) != 0;
+  if (element == PE_IndicatorCheckBox) {
+    PaintTickBox(*painter, option->rect, on, CurrentLook());
+  } else if (element == PE_IndicatorRadioButton) {
+    PaintRound(*painter, option->rect, on, CurrentLook());
+  } else {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+}
+
+}  // namespace tamo
