@@ -2,6 +2,7 @@
 """Makes the plans the benchmarks measure on: make_plans.py FOLDER
 
 sheet.pdf   one 36x48 inch sheet of 200,000 line segments
+clip.pdf    the same sheet, cropped to the 1920x1080 pixels that the benchmark looks at
 set.pdf     300 sheets, 60 MB
 """
 import os
@@ -72,7 +73,7 @@ def text(rng, width, height, count):
     return "\n".join(parts).encode()
 
 
-def plan(path, pages, segments, filler):
+def plan(path, pages, segments, filler, crop=b""):
     rng = random.Random(4711)
     width, height = 3456, 2592
     out = Writer(path)
@@ -88,8 +89,8 @@ def plan(path, pages, segments, filler):
             resources += b"/XObject<</I1 %d 0 R>>" % (number + 2)
             content += b"\nq 300 0 0 300 100 100 cm /I1 Do Q"
         resources += b">>"
-        out.obj(number, b"<</Type/Page/Parent 2 0 R/MediaBox[0 0 %d %d]/Contents %d 0 R/Resources%s>>"
-                % (width, height, number + 1, resources))
+        out.obj(number, b"<</Type/Page/Parent 2 0 R/MediaBox[0 0 %d %d]%s/Contents %d 0 R/Resources%s>>"
+                % (width, height, crop, number + 1, resources))
         out.stream(number + 1, zlib.compress(content, 6), b"/Filter/FlateDecode")
         number += 2
         if filler:
@@ -106,7 +107,9 @@ def main():
     folder = sys.argv[1]
     os.makedirs(folder, exist_ok=True)
     plan(os.path.join(folder, "sheet.pdf"), 1, 200000, 0)
-    plan(os.path.join(folder, "set.pdf"), 300, 4000, 160000)
+    plan(os.path.join(folder, "set.pdf"), 300, 4000, 175000)
+    # Left 750, top 750 points, 1440 by 810 points of the sheet.
+    plan(os.path.join(folder, "clip.pdf"), 1, 200000, 0, b"/CropBox[750 1032 2190 1842]")
 
 
 if __name__ == "__main__":

@@ -1,5 +1,7 @@
 #include "plans/pagepainter.h"
 
+#include <atomic>
+#include <cmath>
 #include <utility>
 
 #include "plans/planfileinner.h"
@@ -29,6 +31,20 @@ void RunPage(fz_context* context, pdf_page* page, fz_device* device, fz_cookie* 
   pdf_run_page_widgets(context, page, device, fz_identity, cookie);
 }
 
+// A pattern that would be repeated millions of times is no drawing but a trap: nothing can stop the
+// engine once it paints it, so it is refused when the page is read.
+constexpr double kMostRepeats = 4e6;
+using BeginTile = int (*)(fz_context*, fz_device*, fz_rect, fz_rect, float, float, fz_matrix, int);
+std::atomic<BeginTile> listBeginTile = nullptr;
+
+int BeginBoundedTile(fz_context* context, fz_device* device, fz_rect area, fz_rect view,
+                     float stepX, float stepY, fz_matrix place, int id) {
+  const double across = std::abs((area.x1 - area.x0) / static_cast<double>(stepX));
+  const double down = std::abs((area.y1 - area.y0) / static_cast<double>(stepY));
+  if (!(across * down < kMostRepeats)) fz_throw(context, FZ_ERROR_GENERIC, "pattern too fine");
+  return listBeginTile.load()(context, device, area, view, stepX, stepY, place, id);
+}
+
 bool RecordPage(fz_context* context, pdf_document* document, int index, fz_cookie* cookie,
                 fz_display_list** made, fz_rect* bounds) {
   pdf_page* page = nullptr;
@@ -44,6 +60,8 @@ bool RecordPage(fz_context* context, pdf_document* document, int index, fz_cooki
     *bounds = pdf_bound_page(context, page);
     list = fz_new_display_list(context, *bounds);
     device = fz_new_list_device(context, list);
+    listBeginTile = device->begin_tile;
+    device->begin_tile = BeginBoundedTile;
     RunPage(context, page, device, cookie);
     fz_close_device(context, device);
   }
@@ -128,7 +146,7 @@ PageList::~PageList() {
 }
 
 PageSource::PageSource(fz_context* context, std::shared_ptr<MuWorld> world,
-                       std::shared_ptr<ReaderSlot> slot, const QByteArray& password)
+                       const std::shared_ptr<ReaderSlot>& slot, const QByteArray& password)
     : context_(context), world_(std::move(world)) {
   fz_stream* stream = nullptr;
   pdf_document* document = nullptr;

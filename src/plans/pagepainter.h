@@ -54,8 +54,8 @@ struct PaintPart {
 // The pages of a plan as one thread reads them.
 class PageSource {
  public:
-  PageSource(fz_context* context, std::shared_ptr<MuWorld> world, std::shared_ptr<ReaderSlot> slot,
-             const QByteArray& password);
+  PageSource(fz_context* context, std::shared_ptr<MuWorld> world,
+             const std::shared_ptr<ReaderSlot>& slot, const QByteArray& password);
   ~PageSource();
   PageSource(const PageSource&) = delete;
   PageSource& operator=(const PageSource&) = delete;

@@ -11,6 +11,7 @@ constexpr size_t kMostLists = 3;
 constexpr size_t kMostCoarse = 6;
 constexpr size_t kMostTilePixels = size_t(32) << 20;  // four bytes each
 constexpr size_t kMostThumbnails = 1000;
+constexpr size_t kMostSmallLists = 3;
 constexpr auto kLongestRead = std::chrono::seconds(20);
 
 }  // namespace
@@ -41,6 +42,14 @@ PaintPart WholePart(PageSize size, int side) {
   const PixelRect whole = WholePage(size, part.pixelsPerPoint, 0);
   part.width = std::min(whole.right, side);
   part.height = std::min(whole.bottom, side);
+  return part;
+}
+
+PaintPart HalfPart(PageSize size, int side, int half) {
+  PaintPart part = WholePart(size, side);
+  const int upper = (part.height + 1) / 2;
+  part.top = half == 0 ? 0 : upper;
+  part.height = half == 0 ? upper : part.height - upper;
   return part;
 }
 
@@ -97,6 +106,10 @@ std::shared_ptr<PageList> PlanPainter::State::ListOf(int page) {
   return lists.front().second;
 }
 
+bool PlanPainter::State::CoarseIsThere(int page) const {
+  return coarse.count({page, 0}) != 0 && coarse.count({page, 1}) != 0;
+}
+
 bool PlanPainter::State::Working(PaintJob::Kind kind, int page) const {
   return std::any_of(working.begin(), working.end(),
                      [&](const PaintJob* job) { return job->kind == kind && job->page == page; });
@@ -108,19 +121,22 @@ bool PlanPainter::State::WorkingOn(const TileKey& key) const {
   });
 }
 
-bool PlanPainter::State::NextVisible(bool reads, PaintJob& job) {
-  if (!looking || failed.count(view.page) != 0) return false;
-  job.page = view.page;
-  job.list = ListOf(view.page);
-  if (job.list == nullptr) {
-    job.kind = PaintJob::Kind::Read;
-    return reads && !Working(PaintJob::Kind::Read, view.page);
-  }
-  if (coarse.count(view.page) == 0 && !Working(PaintJob::Kind::Coarse, view.page)) {
-    job.kind = PaintJob::Kind::Coarse;
-    job.part = WholePart(job.list->Size(), kCoarseSide);
+bool PlanPainter::State::NextCoarse(PaintJob& job) {
+  job.kind = PaintJob::Kind::Coarse;
+  for (int half = 0; half < 2; ++half) {
+    if (coarse.count({job.page, half}) != 0) continue;
+    const bool working = std::any_of(this->working.begin(), this->working.end(), [&](auto* other) {
+      return other->kind == job.kind && other->page == job.page && other->half == half;
+    });
+    if (working) continue;
+    job.half = half;
+    job.part = HalfPart(job.list->Size(), kCoarseSide, half);
     return true;
   }
+  return false;
+}
+
+bool PlanPainter::State::NextSharp(PaintJob& job) {
   for (const TileKey& key : VisibleTiles(view)) {
     PixelRect wanted = WantedOf(key, view);
     const auto there = tiles.find(key);
@@ -140,6 +156,17 @@ bool PlanPainter::State::NextVisible(bool reads, PaintJob& job) {
     return true;
   }
   return false;
+}
+
+bool PlanPainter::State::NextVisible(bool reads, PaintJob& job) {
+  if (!looking || failed.count(view.page) != 0) return false;
+  job.page = view.page;
+  job.list = ListOf(view.page);
+  if (job.list == nullptr) {
+    job.kind = PaintJob::Kind::Read;
+    return reads && !Working(PaintJob::Kind::Read, view.page);
+  }
+  return NextCoarse(job) || NextSharp(job);
 }
 
 bool PlanPainter::State::NextPrint(bool reads, PaintJob& job) {
@@ -163,14 +190,21 @@ bool PlanPainter::State::NextPrint(bool reads, PaintJob& job) {
   return false;
 }
 
+// One thread reads ahead while the other paints.
 bool PlanPainter::State::NextThumbnail(bool reads, PaintJob& job) {
-  for (auto wanted = wantedThumbnails.begin(); wanted != wantedThumbnails.end(); ++wanted) {
-    const int page = *wanted;
-    if (Working(PaintJob::Kind::Thumbnail, page)) continue;
-    job.list = ListOf(page);
-    if (job.list == nullptr && !reads) continue;
+  for (const int page : wantedThumbnails) {
+    if (Working(PaintJob::Kind::Thumbnail, page) || Working(PaintJob::Kind::ReadSmall, page))
+      continue;
+    const auto small = smallLists.find(page);
     job.page = page;
-    job.kind = PaintJob::Kind::Thumbnail;
+    job.list = small != smallLists.end() ? small->second : ListOf(page);
+    job.kind = job.list == nullptr ? PaintJob::Kind::ReadSmall : PaintJob::Kind::Thumbnail;
+    if (job.list == nullptr && !reads) continue;
+    if (job.list != nullptr && reads && smallLists.size() < kMostSmallLists &&
+        wantedThumbnails.size() > 1) {
+      continue;  // the other thread paints it
+    }
+    if (job.list == nullptr && smallLists.size() >= kMostSmallLists) continue;
     job.part = WholePart(SizeOf(page), thumbnailSide);
     return true;
   }
@@ -191,6 +225,7 @@ PaintJob PlanPainter::State::Next(bool reads) {
 void PlanPainter::State::Fail(int page) {
   if (failed.insert(page).second) failedNews.push_back(page);
   std::erase(wantedThumbnails, page);
+  smallLists.erase(page);
   for (const auto& print : prints) {
     if (print->part.page == page) print->done = print->taken = true;
   }
@@ -209,34 +244,42 @@ void PlanPainter::State::KeepTile(const TileKey& key, Tile tile) {
   }
 }
 
-void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<PageList> list,
-                              std::shared_ptr<const Picture> picture) {
-  const bool good = picture != nullptr || (job.kind == PaintJob::Kind::Read && list != nullptr);
-  if (list != nullptr && job.kind == PaintJob::Kind::Read) {
-    lists.emplace_front(job.page, std::move(list));
-    while (lists.size() > kMostLists) lists.pop_back();
+void PlanPainter::State::KeepCoarse(const PaintJob& job, std::shared_ptr<const Picture> picture) {
+  coarse[{job.page, job.half}] = std::move(picture);
+  if (!CoarseIsThere(job.page)) return;
+  coarseOrder.push_back(job.page);
+  while (coarseOrder.size() > kMostCoarse) {
+    for (int half = 0; half < 2; ++half) coarse.erase({coarseOrder.front(), half});
+    coarseOrder.pop_front();
   }
+}
+
+void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<PageList> list,
+                              const std::shared_ptr<const Picture>& picture) {
+  using Kind = PaintJob::Kind;
+  const bool good = picture != nullptr || list != nullptr;
   const bool overdue = std::chrono::steady_clock::now() - job.began >= kLongestRead;
   if (!good && (!job.stop->Stopped() || overdue)) Fail(job.page);
-  if (job.kind == PaintJob::Kind::Print) {
+  if (job.kind == Kind::Print) {
     job.print->picture = picture;
     job.print->done = true;
   }
   if (!good) return;
-  if (job.kind == PaintJob::Kind::Coarse) {
-    coarse[job.page] = picture;
-    coarseOrder.push_back(job.page);
-    while (coarseOrder.size() > kMostCoarse) {
-      coarse.erase(coarseOrder.front());
-      coarseOrder.pop_front();
-    }
-  } else if (job.kind == PaintJob::Kind::Sharp) {
+  if (job.kind == Kind::Read) {
+    lists.emplace_front(job.page, std::move(list));
+    while (lists.size() > kMostLists) lists.pop_back();
+  } else if (job.kind == Kind::ReadSmall) {
+    smallLists[job.page] = std::move(list);
+  } else if (job.kind == Kind::Coarse) {
+    KeepCoarse(job, picture);
+  } else if (job.kind == Kind::Sharp) {
     const PaintPart& part = job.part;
     KeepTile(
         job.tile,
         {{part.left, part.top, part.left + part.width, part.top + part.height}, picture, clock});
-  } else if (job.kind == PaintJob::Kind::Thumbnail) {
+  } else if (job.kind == Kind::Thumbnail) {
     std::erase(wantedThumbnails, job.page);
+    smallLists.erase(job.page);
     if (thumbnails.size() >= kMostThumbnails) thumbnails.erase(thumbnails.begin());
     thumbnails[job.page] = picture;
   }
@@ -255,7 +298,7 @@ void PlanPainter::State::StopStale() {
       stale = job->page != view.page;
     } else if (job->kind == PaintJob::Kind::Sharp) {
       stale = std::find(wanted.begin(), wanted.end(), job->tile) == wanted.end();
-    } else if (job->kind == PaintJob::Kind::Thumbnail) {
+    } else if (job->kind == PaintJob::Kind::Thumbnail || job->kind == PaintJob::Kind::ReadSmall) {
       stale = ListOf(view.page) == nullptr;  // the visible page has to be read first
     }
     if (stale) job->stop->Stop();
@@ -272,7 +315,7 @@ void PlanPainter::State::StopOverdue() {
 bool PlanPainter::State::Sharp() {
   if (!wantedThumbnails.empty()) return false;
   if (!looking || failed.count(view.page) != 0) return true;
-  if (coarse.count(view.page) == 0) return false;
+  if (!CoarseIsThere(view.page)) return false;
   for (const TileKey& key : VisibleTiles(view)) {
     const auto there = tiles.find(key);
     if (there == tiles.end() || !there->second.covered.Holds(WantedOf(key, view))) return false;

@@ -52,9 +52,11 @@ struct PrintJob {
 };
 
 struct PaintJob {
-  enum class Kind { None, Read, Coarse, Sharp, Thumbnail, Print };
+  // A page is read to be looked at (Read) or for its thumbnail alone (ReadSmall).
+  enum class Kind { None, Read, ReadSmall, Coarse, Sharp, Thumbnail, Print };
   Kind kind = Kind::None;
   int page = 0;
+  int half = 0;  // of the coarse picture, which is painted as two, one by each thread
   TileKey tile;
   PaintPart part;
   std::shared_ptr<PageList> list;
@@ -79,12 +81,13 @@ struct PlanPainter::State {
   PlanView view;
   bool looking = false;
   unsigned clock = 0;
-  std::list<std::pair<int, std::shared_ptr<PageList>>> lists;  // latest first
-  std::map<int, std::shared_ptr<const Picture>> coarse;
+  std::list<std::pair<int, std::shared_ptr<PageList>>> lists;            // latest first
+  std::map<std::pair<int, int>, std::shared_ptr<const Picture>> coarse;  // by page and half
   std::deque<int> coarseOrder;
   std::map<TileKey, Tile> tiles;
   std::map<int, std::shared_ptr<const Picture>> thumbnails;
   std::deque<int> wantedThumbnails;
+  std::map<int, std::shared_ptr<PageList>> smallLists;  // read for thumbnails, not yet painted
   int thumbnailSide = 160;
   std::deque<std::shared_ptr<PrintJob>> prints;
   std::set<int> failed;
@@ -94,7 +97,7 @@ struct PlanPainter::State {
   // The next job for a thread; `reads` tells whether it is the one that reads pages.
   PaintJob Next(bool reads);
   void Done(const PaintJob& job, std::shared_ptr<PageList> list,
-            std::shared_ptr<const Picture> picture);
+            const std::shared_ptr<const Picture>& picture);
   void StopStale();
   void StopOverdue();
   bool Sharp();
@@ -104,6 +107,7 @@ struct PlanPainter::State {
   std::vector<TileKey> VisibleTiles(const PlanView& of) const;
   PixelRect WantedOf(const TileKey& key, const PlanView& of) const;
   std::shared_ptr<PageList> ListOf(int page);
+  bool CoarseIsThere(int page) const;
   void KeepTile(const TileKey& key, Tile tile);
   void Fail(int page);
 
@@ -111,6 +115,9 @@ struct PlanPainter::State {
   bool Working(PaintJob::Kind kind, int page) const;
   bool WorkingOn(const TileKey& key) const;
   bool NextVisible(bool reads, PaintJob& job);
+  bool NextCoarse(PaintJob& job);
+  bool NextSharp(PaintJob& job);
+  void KeepCoarse(const PaintJob& job, std::shared_ptr<const Picture> picture);
   bool NextPrint(bool reads, PaintJob& job);
   bool NextThumbnail(bool reads, PaintJob& job);
 };
@@ -123,6 +130,8 @@ int ScaleKey(double pixelsPerPoint);
 PixelRect WholePage(PageSize size, double pixelsPerPoint, int turn);
 // The part that shows the whole page with its longer side `side` pixels long.
 PaintPart WholePart(PageSize size, int side);
+// The upper (0) or lower (1) half of that.
+PaintPart HalfPart(PageSize size, int side, int half);
 PlanView Sane(PlanView view);
 
 }  // namespace tamo

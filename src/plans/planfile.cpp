@@ -1,6 +1,7 @@
 #include "plans/planfile.h"
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 
 #include "plans/filetail.h"
@@ -110,7 +111,7 @@ bool ReadAnnotation(fz_context* context, pdf_obj* annotations, int index, RawMar
 QString ColourCode(const float* parts) {
   QString code;
   for (int i = 0; i < 3; ++i) {
-    const int part = std::clamp(static_cast<int>(parts[i] * 255 + 0.5F), 0, 255);
+    const int part = static_cast<int>(std::lround(std::clamp(parts[i], 0.0F, 1.0F) * 255));
     code += QStringLiteral("%1").arg(part, 3, 10, QLatin1Char('0'));
   }
   return code;

@@ -11,6 +11,8 @@ namespace {
 
 using State = PlanPainter::State;
 
+constexpr size_t kMostWanted = 200;
+
 // The whole work of a thread. It owns what it stands on, so it can end after the painter is gone.
 class Worker {
  public:
@@ -34,7 +36,7 @@ class Worker {
       Do(job);
       lock.lock();
       std::erase(state_->working, &job);
-      state_->Done(job, std::move(list_), std::move(picture_));
+      state_->Done(job, std::move(list_), std::exchange(picture_, nullptr));
       state_->wake.notify_all();
       state_->news.notify_all();
       const auto changed = state_->onChanged;
@@ -52,13 +54,11 @@ class Worker {
   }
 
  private:
-  void Do(PaintJob& job) {
-    if (job.kind == PaintJob::Kind::Read) {
+  void Do(const PaintJob& job) {
+    if (job.list == nullptr) {
       list_ = source_->Read(job.page, *job.stop);
       return;
     }
-    if (job.list == nullptr) job.list = source_->Read(job.page, *job.stop);
-    if (job.list == nullptr) return;
     auto picture = std::make_shared<Picture>();
     if (PaintPage(context_, *job.list, job.part, *job.stop, *picture)) picture_ = picture;
   }
@@ -125,11 +125,14 @@ std::vector<PlacedPicture> PlanPainter::PicturesFor(const PlanView& asked) {
   std::vector<PlacedPicture> pictures;
   const PlanView view = Sane(asked);
   const std::lock_guard<std::mutex> guard(state_->mutex);
-  const PixelRect whole = WholePage(state_->SizeOf(view.page), view.pixelsPerPoint, view.turn);
-  const auto coarse = state_->coarse.find(view.page);
   // The coarse picture is not turned; a turned view waits for its sharp parts.
-  if (coarse != state_->coarse.end() && view.turn == 0) {
-    pictures.push_back({0, 0, double(whole.right), double(whole.bottom), coarse->second});
+  for (int half = 0; half < 2 && view.turn == 0; ++half) {
+    const auto coarse = state_->coarse.find({view.page, half});
+    if (coarse == state_->coarse.end()) continue;
+    const PaintPart part = HalfPart(state_->SizeOf(view.page), kCoarseSide, half);
+    const double stretch = view.pixelsPerPoint / part.pixelsPerPoint;
+    pictures.push_back(
+        {0, part.top * stretch, part.width * stretch, part.height * stretch, coarse->second});
   }
   for (const TileKey& key : state_->VisibleTiles(view)) {
     const auto tile = state_->tiles.find(key);
@@ -156,7 +159,10 @@ std::shared_ptr<const Picture> PlanPainter::Thumbnail(int page, int longSide) {
       std::find(wanted.begin(), wanted.end(), page) == wanted.end()) {
     wanted.push_back(page);
     // Those asked for long ago have been scrolled away.
-    if (wanted.size() > 200) wanted.pop_front();
+    if (wanted.size() > kMostWanted) {
+      state_->smallLists.erase(wanted.front());
+      wanted.pop_front();
+    }
     state_->wake.notify_all();
   }
   return nullptr;
@@ -183,8 +189,7 @@ bool PlanPainter::WaitUntilSharp(int milliseconds) {
 bool PlanPainter::WaitForCoarse(int milliseconds) {
   std::unique_lock<std::mutex> lock(state_->mutex);
   return state_->news.wait_for(lock, std::chrono::milliseconds(milliseconds), [this] {
-    return state_->coarse.count(state_->view.page) != 0 ||
-           state_->failed.count(state_->view.page) != 0;
+    return state_->CoarseIsThere(state_->view.page) || state_->failed.count(state_->view.page) != 0;
   });
 }
 

@@ -31,7 +31,7 @@ bool HoldsControls(const QString& text) {
 
 // Why a material of the file can't be taken, "" when it can.
 QString BlockRefusal(const MaterialBlock& block) {
-  const QString name = NameRefusal(block.material);
+  QString name = NameRefusal(block.material);
   if (!name.isEmpty()) return name;
   if (block.upoTag.isEmpty() || IsRatioTag(block.upoTag)) {
     if (block.mnhrTag.isEmpty() || IsLaborTag(block.mnhrTag)) return {};

@@ -45,6 +45,9 @@ void PricingForm::SetUpMaterialChain() {
   WageRate.onClick = [this] { Toggle(WagesList); };
 
   MaterialList.onSelect = [this] { SelectMaterial(); };
+  MaterialList.onClick = [this] {
+    if (Material.Usable()) Focus(Material);
+  };
   MaterialList.onRightClick = [this] {
     if (MaterialList.Index() >= 0) PopUp(MaterialMenu);
   };
@@ -274,13 +277,14 @@ void PricingForm::FinishMaterial() {
     AddBlock();
     StepOn();
     position_ = PlaceOfMaterial();
-    SaveSystem();
+    StoreSystem();
   } else {
     OverwriteBlock();
-    SaveSystem();
+    StoreSystem();
     StepOn();
   }
   Focus(Material);
+  refresh_.PrintReport();
 }
 
 void PricingForm::AddBlock() {
@@ -374,8 +378,9 @@ void PricingForm::DeleteMaterial() {
     ClearSomeStuff();
     position_ = PlaceOfMaterial();
   }
-  SaveSystem();
+  StoreSystem();
   if (System.Empty() && Material.HasFocus()) StepOn();
+  refresh_.PrintReport();
 }
 
 // Nothing is saved until the material is finished.

@@ -36,13 +36,21 @@ void PricingForm::SetUpExchange() {
   };
   Dir1.SetFolder(NativePath(kit_.platform.homeFolder));
   Dir1.onPick = [this] { File1.SetFolder(Dir1.Folder()); };
-  Dir1.onKey = [this](Key& key) {
-    // Keys that only walk in the folders export nothing, and neither does Escape.
+  const auto putAway = [this](Key& key) {
+    if (!key.Is(Key::Name::Escape)) return;
+    key.Drop();
+    IEFrame.Hide();
+  };
+  Drive1.onKey = putAway;
+  File1.onKey = putAway;
+  Dir1.onKey = [this, putAway](Key& key) {
+    // Keys that only walk in the folders export nothing.
     for (const Key::Name walking :
-         {Key::Name::Up, Key::Name::Down, Key::Name::Left, Key::Name::Right, Key::Name::Escape}) {
+         {Key::Name::Up, Key::Name::Down, Key::Name::Left, Key::Name::Right}) {
       if (key.Is(walking)) return;
     }
-    if (File1.Shown()) return;
+    putAway(key);
+    if (key.dropped || File1.Shown()) return;
     key.Drop();
     ExportInto(Dir1.Folder());
   };
@@ -61,8 +69,9 @@ void PricingForm::Paste() {
   const QStringList rows = CopySys.Rows();
   System.SetRows(rows);
   MaterialList.SetRows(MaterialNames(rows));
-  SaveSystem();
+  StoreSystem();
   if (!MaterialList.Empty()) MaterialList.SetIndex(MaterialList.Count() - 1);
+  refresh_.PrintReport();
 }
 
 // --- files ---

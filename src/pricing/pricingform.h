@@ -238,6 +238,7 @@ class PricingForm : public Form {
   SystemFile OpenSystem() const;
   void TakeSystem(const SystemFile& file);
   void WriteSystem();
+  void StoreSystem();
 
   // Material chain.
   void MaterialGotFocus();
@@ -276,6 +277,7 @@ class PricingForm : public Form {
 
   // Markups.
   int ReadMarkups();
+  void StoreMarkups();
   void ToggleMarkups();
   void LeaveMarkups();
 

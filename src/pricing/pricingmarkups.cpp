@@ -8,8 +8,9 @@ void PricingForm::SetUpMarkups() {
   for (size_t i = 0; i < markups_.size(); ++i) {
     TextField* next = markups_[(i + 1) % markups_.size()];
     OnEnter(*markups_[i], Keys::Any, [this, next] {
-      SaveMarkups();
+      StoreMarkups();
       Focus(*next);
+      refresh_.PrintReport();
     });
     OnGotFocus(*markups_[i]);
   }
@@ -39,8 +40,12 @@ void PricingForm::LoadMarkups() {
 }
 
 void PricingForm::SaveMarkups() {
-  tamo::SaveMarkups(kit_.files, kit_.shared, MarkupTexts());
+  StoreMarkups();
   refresh_.PrintReport();
+}
+
+void PricingForm::StoreMarkups() {
+  tamo::SaveMarkups(kit_.files, kit_.shared, MarkupTexts());
   if (LandMFrame.Shown()) MakeEUP();
 }
 

@@ -183,17 +183,18 @@ void PricingForm::LeaveUnits() {
 
 void PricingForm::EnterUnitPrice() {
   UnitPrice.SetText(pricing::MakeMoney(UnitPrice.Text()));
-  SaveSystem();
+  StoreSystem();
   if (Value(UnitPrice.Text()) != 0) {
     ColorFrame.Show();
-    return;
+  } else {
+    ShowLabor();
+    CopySystem.SetEnabled(true);
+    PasteSystem.SetEnabled(!CopySys.Empty());
+    MakeEUP();
+    Label19.Show();
+    Focus(Material);
   }
-  ShowLabor();
-  CopySystem.SetEnabled(true);
-  PasteSystem.SetEnabled(!CopySys.Empty());
-  MakeEUP();
-  Label19.Show();
-  Focus(Material);
+  refresh_.PrintReport();
 }
 
 // --- colour and notes ---
@@ -206,8 +207,9 @@ void PricingForm::ChooseColour(const QString& code) {
   LineColor = code;
   ColorFrame.Hide();
   PaintLine();
-  SaveSystem();
+  StoreSystem();
   EndSystem();
+  refresh_.PrintReport();
 }
 
 // The background's number stands in the colour's place and is not saved until something else is. A
@@ -246,10 +248,16 @@ SystemFile PricingForm::OpenSystem() const {
 }
 
 void PricingForm::SaveSystem() {
+  StoreSystem();
+  refresh_.PrintReport();
+}
+
+// The chains refresh the report behind their last step: a report that fails must not stop them in
+// the middle.
+void PricingForm::StoreSystem() {
   if (Description.Empty()) return;
   WriteSystem();
   MakeEUP();
-  refresh_.PrintReport();
 }
 
 void PricingForm::WriteSystem() {

@@ -210,6 +210,7 @@ void EstimateForm::LoadSystem() {
   kit_.shared.LineColor = system.lineColour;
   plan_.SetPenColour(system.lineColour);
   plan_.ResetMeasure();
+  ScaleText.SetCaption(plan_.ScaleText());
 }
 
 void EstimateForm::UpdateStatus() {

@@ -270,6 +270,7 @@ void RFSForm::LoadSystem() {
   kit_.shared.LineColor = system.lineColour;
   plan_.SetPenColour(system.lineColour);
   plan_.ResetMeasure();
+  ScaleText.SetCaption(plan_.ScaleText());
   UpdatePrompts();
 }
 

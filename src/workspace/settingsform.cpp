@@ -70,9 +70,10 @@ SettingsForm::SettingsForm(const Kit& kit, ModeShell& shell)
   DataPath.onLostFocus = [this] { RepairDataPath(); };
   // A data folder that is no whole path counts from the program folder.
   DataPath.onChange = [this] {
-    const bool whole = QDir::isAbsolutePath(DataPath.Text());
-    kit_.shared.DataPath =
-        whole ? DataPath.Text() : kit_.shared.zDir + kit_.shared.Separator + DataPath.Text();
+    // The field keeps what was typed or stored on another platform; the disk gets its own separator.
+    const QString path = NativePath(DataPath.Text());
+    const bool whole = QDir::isAbsolutePath(path);
+    kit_.shared.DataPath = whole ? path : kit_.shared.zDir + kit_.shared.Separator + path;
   };
   HScroll1.onChange = [this] { Line1.SetWidth(HScroll1.Value()); };
   Line1.SetWidth(HScroll1.Value());

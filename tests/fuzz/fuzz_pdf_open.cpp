@@ -1,6 +1,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <thread>
 
 #include "plans/filetail.h"
 #include "plans/pagepainter.h"
@@ -18,6 +19,13 @@ constexpr size_t kLargest = 1 << 20;
 void Paint(const std::shared_ptr<MuWorld>& world, fz_context* context,
            const std::shared_ptr<ReaderSlot>& slot) {
   PaintStop stop;
+  // As the program does, only sooner: a page that takes too long is stopped.
+  std::jthread watch([&stop](const std::stop_token& done) {
+    for (int i = 0; i < 100 && !done.stop_requested(); ++i) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    stop.Stop();
+  });
   PageSource source(context, world, slot, QByteArray());
   const auto list = source.Read(1, stop);
   if (list == nullptr) return;

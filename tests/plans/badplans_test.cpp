@@ -138,6 +138,7 @@ TEST_F(BadPlans, AHostilePlanNeverHoldsTheWindowAndTheMessageComesLater) {
   }
   int pages = 0;
   draw->onPageChanged = [&] { ++pages; };
+  draw->SetLongestOpening(30000);
   draw->OpenFile(Write("good.pdf", MakePdf({PdfPage(), PdfPage()})), "");
   QElapsedTimer clock;
   clock.start();

@@ -353,6 +353,13 @@ TEST_F(RealPlan, HairlinesStayVisibleOnASmallPicture) {
   EXPECT_LT(darkest, 160U);
 }
 
+TEST_F(RealPlan, ThumbnailsScrolledAwayGiveWayToThoseAskedForLater) {
+  ASSERT_EQ(draw->OpenFile(Write("a.pdf", MakePdf(QList<PdfPage>(260, PdfPage()))), ""), 0);
+  for (int page = 1; page <= 260; ++page) draw->Thumbnail(page, 64);
+  ASSERT_TRUE(draw->WaitUntilSharp(30000));
+  for (int page = 61; page <= 260; ++page) EXPECT_NE(draw->Thumbnail(page, 64), nullptr) << page;
+}
+
 TEST_F(RealPlan, ThumbnailsAndPrintPicturesAreMade) {
   ASSERT_EQ(draw->OpenFile(Write("a.pdf", MakePdf(QList<PdfPage>(12, PdfPage()))), ""), 0);
   for (int page = 1; page <= 12; ++page) draw->Thumbnail(page, 100);

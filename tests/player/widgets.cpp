@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QTest>
+#include <algorithm>
 
 #include "player/trouble.h"
 
@@ -119,17 +120,30 @@ QPointF OpenPlace(QWidget& widget, const QRect& area, const QString& name, Spot 
 
 namespace {
 
+// Whether the underlined letter leads to this entry of the bar alone.
+bool OwnLetter(const QMenuBar& bar, const QAction& entry) {
+  const QKeySequence letter = QKeySequence::mnemonic(entry.text());
+  if (letter.isEmpty()) return false;
+  const auto shares = [&](const QAction* other) {
+    return other != &entry && other->isVisible() && QKeySequence::mnemonic(other->text()) == letter;
+  };
+  const QList<QAction*> entries = bar.actions();
+  return std::none_of(entries.begin(), entries.end(), shares);
+}
+
 // Opens the first menu of the way, or chooses the entry that stands on the bar itself. What the
-// window is too narrow to show is chosen by its underlined letter.
+// window is too narrow to show is chosen by its underlined letter, or with the arrows and Enter
+// when two entries share the letter.
 void StartOnBar(QMenuBar& bar, QAction& first) {
   const QRect place = bar.actionGeometry(&first);
   if (!place.isEmpty() && bar.rect().contains(place.center())) {
     SendMove(bar, place.center(), Qt::NoButton);
     SendClick(bar, place.center(), Qt::LeftButton);
-  } else if (const QKeySequence letter = QKeySequence::mnemonic(first.text()); !letter.isEmpty()) {
-    QTest::keySequence(&bar, letter);
+  } else if (OwnLetter(bar, first)) {
+    QTest::keySequence(&bar, QKeySequence::mnemonic(first.text()));
   } else {
     bar.setActiveAction(&first);
+    if (first.menu() == nullptr) QTest::keyClick(&bar, Qt::Key_Return);
   }
   Settle();
 }

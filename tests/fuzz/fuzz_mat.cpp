@@ -1,0 +1,45 @@
+// Whatever bytes a material's file holds: reading it ends, a whole one is written as it was read,
+// and the prompts that its tags make tell a direction again.
+
+#include <cstdint>
+#include <cstdlib>
+
+#include "common/textlines.h"
+#include "pricing/materialfile.h"
+#include "pricing/prompts.h"
+
+namespace {
+
+void Must(bool holds) {
+  if (!holds) std::abort();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+  using namespace tamo;
+  const QString text =
+      DecodedText(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+  const MaterialFile file = ReadMaterialFile(text);
+  Must(file.reached >= 0 && file.reached <= 9);
+  const MaterialBlock& block = file.block;
+  const MaterialFile again =
+      ReadMaterialFile(MaterialFileText(block, {block.upoTag}, {block.mnhrTag}));
+  Must(again.reached == 9 && again.block.Rows() == block.Rows());
+
+  const pricing::PromptNames names = {block.wageRate, block.orderUnits, block.material,
+                                      block.material};
+  pricing::Prompts prompts;
+  prompts.AfterUnits(names);
+  prompts.AfterFileRatioTag(names, block.upoTag);
+  prompts.AfterFileLaborTag(names, block.mnhrTag);
+  prompts.SetUpoUpm(names, block.upoTag, block.mnhrTag);
+  prompts.AtPrice(names);
+  Must(IsRatioTag(pricing::PresentRatioTag(prompts, names)));
+  Must(IsLaborTag(pricing::PresentLaborTag(prompts, names)));
+  Must(IsRatioTag(pricing::RatioTagOfNewBlock(prompts, names)));
+  Must(IsLaborTag(pricing::LaborTagOfBlock(prompts)));
+  Must(pricing::RatioTagLines(prompts, names).size() <= 2);
+  Must(pricing::LaborTagLines(prompts, names).size() <= 2);
+  return 0;
+}
