@@ -9,7 +9,9 @@
 namespace tamo {
 
 Control::Control(Form& form, const QString& name) : form_(form), name_(name) {}
-Control::~Control() = default;
+Control::~Control() {
+  form_.Forget(*this);
+}
 
 QString Control::FullName() const {
   return form_.Name() + QLatin1Char('.') + name_;

@@ -21,7 +21,10 @@ void Desk::Unregister(Form* form) {
   std::erase(forms_, form);
   std::erase(order_, form);
   if (active_ == form) active_ = nullptr;
-  if (focused_ != nullptr && &focused_->Owner() == form) focused_ = nullptr;
+}
+
+void Desk::Forget(const Control& control) {
+  if (focused_ == &control) focused_ = nullptr;
 }
 
 Form* Desk::Find(const QString& name) const {

@@ -72,6 +72,7 @@ class Desk {
   friend class Form;
   void Register(Form* form);
   void Unregister(Form* form);
+  void Forget(const Control& control);
   void Activate(Form& form, bool runRoutine);
   void LoseFocus();
   void MoveTo(Control& control, bool runRoutine);

@@ -61,6 +61,12 @@ void Form::Changed() {
 void Form::Register(Control* control) {
   controls_.push_back(control);
 }
+void Form::Forget(const Control& control) {
+  if (active_ == &control) active_ = nullptr;
+  std::erase_if(controls_, [&](const Control* other) { return other == &control; });
+  desk_.Forget(control);
+}
+
 void Form::RegisterMenu(MenuEntry* entry) {
   menus_.push_back(entry);
 }

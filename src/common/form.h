@@ -58,6 +58,8 @@ class Form {
   // Called by the constructors of controls and menu entries.
   void Register(Control* control);
   void RegisterMenu(MenuEntry* entry);
+  // Called by the destructor of a control: it has no focus any more.
+  void Forget(const Control& control);
 
   std::function<void()> observer;  // display side: caption, visible, popup changed
   void Changed();

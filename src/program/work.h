@@ -18,6 +18,10 @@
 
 namespace tamo {
 
+// The open report follows a save. A report that fails says so and stops no entry: it is an event of
+// its own.
+void RefreshReport(ReportsForm& reports);
+
 // The working forms as the menus and the project panel ask for them.
 class WorkingForms : public WorkDesk, public Desks, public DocShell {
  public:
@@ -36,7 +40,7 @@ class WorkingForms : public WorkDesk, public Desks, public DocShell {
   // For the project panel.
   void InitPricing() override { forms_->pricing.Init(); }
   void RefreshPricingList() override { forms_->pricing.LoadDescriptions(); }
-  void PrintReport() override { forms_->reports.Refresh(); }
+  void PrintReport() override { RefreshReport(forms_->reports); }
   void ClearReports() override {
     forms_->reports.Reporter.Clear();
     forms_->reports.Hide();
@@ -86,7 +90,7 @@ class PricingLinks : public ReportRefresh,
     ost_ = &ost;
   }
 
-  void PrintReport() override { reports_->Refresh(); }
+  void PrintReport() override { RefreshReport(*reports_); }
   void DisableProjectFileEntry() override { reports_->menu.MakeProjectFile.SetEnabled(false); }
   void LoadSettings() override { settings_->LoadSettings(); }
   void SeedProjectNumber() override { main_->SeedProjectNumber(); }

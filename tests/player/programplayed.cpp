@@ -13,6 +13,11 @@ PlanPictures* ProgramPlayed::Pictures() {
   return viewer_.get();
 }
 
+void ProgramPlayed::WaitForPictures() {
+  constexpr int kPatience = 5000;  // milliseconds
+  (void)viewer_->WaitUntilSharp(kPatience);
+}
+
 void ProgramPlayed::Start() {
   program_->Start();
 }

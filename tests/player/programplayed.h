@@ -19,6 +19,8 @@ class ProgramPlayed : public Played {
 
   // The viewer as pictures for a window.
   PlanPictures* Pictures();
+  // Until all of the plan that a window looks at is painted; bounded.
+  void WaitForPictures();
 
   void Start() override;
   Desk& GetDesk() override;

@@ -403,6 +403,9 @@ QString WindowsStage::Difference() {
 bool WindowsStage::SavePicture(Form& form, const QString& path) {
   QWidget& window = GoTo(form);
   Settle();
+  window.grab();  // what it shows is asked for while it is painted
+  played_->WaitForPictures();
+  QTest::qWait(kLateReport);
   return window.grab().save(path, "PNG");
 }
 

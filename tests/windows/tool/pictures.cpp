@@ -172,6 +172,21 @@ void Plan(Pictures& p) {
   p.Take("OST", "panels");
 }
 
+void Shell(Pictures& p) {
+  p.desk.ClickInto(p.At("Settings", "Option2"));
+  p.program.GetFiles().SaveText(p.platform.homeFolder + QStringLiteral("/gone/Rooms.tamo"),
+                                QStringLiteral("x"));
+  p.Menu("OST", "GetFiles");
+  p.Take("OST", "shell");
+  p.Menu("OST", "PriceAdjustment");
+  p.Take("AdjustmentForm", "unsaved");
+  p.FormOf("AdjustmentForm").Hide();
+  p.Menu("OST", "BreakDown");
+  p.FormOf("Reports").Hide();
+  p.Menu("OST", "OpenProject");
+  p.Take("Tamo", "projects");
+}
+
 void Help(Pictures& p) {
   if (p.program.FindForm(QStringLiteral("Docs")) == nullptr) return;
   p.Menu("Tamo", "Docs1");
@@ -191,6 +206,7 @@ int TakeAll(const QString& out, const QString& variant) {
   Pricing(pictures);
   Plan(pictures);
   Help(pictures);
+  Shell(pictures);
   return 0;
 }
 
