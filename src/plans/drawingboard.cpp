@@ -121,7 +121,9 @@ int DrawingBoard::ViewValue(int index) const {
 
 void DrawingBoard::ScrollBy(double dx, double dy) {
   if (!Sane(dx) || !Sane(dy)) return;
-  const PageSize size = SizeOfPage(page_);
+  PageSize size = SizeOfPage(page_);
+  if (static_cast<int>(std::floor(view_[Rotation] / 90.0 + 0.5)) % 2 != 0)
+    std::swap(size.width, size.height);
   const auto moved = [](int from, double by, double most) {
     const double last = std::max(0.0, std::floor(most));
     const double start = std::clamp(static_cast<double>(from), 0.0, last);

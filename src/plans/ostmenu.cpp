@@ -13,7 +13,7 @@ struct Row {
   const char* parent;  // "" on the bar
 };
 
-constexpr char kSpace[] = "            ";
+constexpr char kSpace[] = "    ";
 
 constexpr Row kShell[] = {
     {"ProjectS", "P&rojects", ""},

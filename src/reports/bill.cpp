@@ -46,68 +46,79 @@ class BillMaker : public TakeoffVisitor {
       : source_(source), shelf_(source), notes_(notes) {}
 
   void Line(SheetKind kind, QStringView line) override {
-    const QStringView system = SystemOfLine(line);
-    shelf_.Load(system);
-    const bool firstSight = FirstSight(shelf_.Number());
-    if (firstSight && !shelf_.Found()) NoteMissing(system.toString());
-    if (shelf_.Blocks().empty()) return;
-    const QString name = system.toString();
+    shelf_.Load(SystemOfLine(line));
+    const std::vector<PricedBlock>& blocks = shelf_.Blocks();
+    const bool firstSight = shelf_.Number() == static_cast<int>(rowsOf_.size());
+    if (firstSight) {
+      rowsOf_.emplace_back(blocks.size(), -1);
+      if (!shelf_.Found()) NoteMissing();
+    }
+    if (blocks.empty()) return;
+    std::vector<int>& rowOf = rowsOf_[static_cast<size_t>(shelf_.Number())];
     const BillQuantity quantity(kind, line);
-    for (const PricedBlock& block : shelf_.Blocks()) {
-      const int at = AddBlock(block, name, quantity);
-      if (firstSight && block.ReadsZero()) notes_.NoteZero(block, name, BillLineOf(at));
+    for (size_t i = 0; i < blocks.size(); ++i) {
+      AddBlock(blocks[i], quantity, rowOf[i]);
+      if (firstSight && blocks[i].ReadsZero())
+        notes_.NoteZero(blocks[i], shelf_.Asked(), BillLineOf(rowOf[i]));
     }
   }
 
-  std::vector<BillRow> rows;
-  bool partlyRead = false;
-
- private:
-  bool FirstSight(int system) {
-    if (system < static_cast<int>(seen_.size())) return false;
-    seen_.resize(static_cast<size_t>(system) + 1, true);
-    return true;
-  }
-
-  void NoteMissing(const QString& system) {
-    notes_.Note(QStringLiteral("The system \"%1\" has no file in this project: its materials are "
-                               "not on this bill.")
-                    .arg(system),
-                -1);
-  }
-
-  int AddBlock(const PricedBlock& block, const QString& system, const BillQuantity& quantity) {
-    int at = index_.Find(block.material);
-    const bool isNew = at < 0;
-    double taken = quantity.For(isNew, block.orderTag);
-    if (source_.wholeQuantities) taken = quantity.whole;
-    const double order = WithWaste(block, OrderQuantity(block, taken, system, standing_));
-    standing_.orderQuantity = order;
-    CheckFigures({order}, system);
-    if (isNew) {
-      at = index_.Add(block.material);
-      rows.push_back({block.material, CutTo15Digits(order), QString()});
-    } else {
-      BillRow& row = rows[static_cast<size_t>(at)];
-      row.quantity = CutTo15Digits(row.quantity + order);
-    }
-    rows[static_cast<size_t>(at)].orderUnit = TrimmedBlanks(block.orderUnit);
-    if (taken != quantity.whole && block.orderTag != OrderTag::None) {
+  std::vector<BillRow> Take(bool& partlyRead) {
+    std::vector<BillRow> rows;
+    for (size_t i = 0; i < rows_.size(); ++i) {
+      rows.push_back({names_.At(static_cast<int>(i)), rows_[i].quantity,
+                      TrimmedBlanks(rows_[i].last->orderUnit)});
+      if (!rows_[i].partlyRead) continue;
       partlyRead = true;
       notes_.Note(
           QStringLiteral("Of some takeoff lines with these materials the bill reads only a "
                          "part of the quantity. \"Read whole quantities\" takes all of it."),
-          BillLineOf(at));
+          BillLineOf(static_cast<int>(i)));
     }
-    return at;
+    return rows;
+  }
+
+ private:
+  struct Row {
+    double quantity = 0;
+    const PricedBlock* last = nullptr;  // the block read last decides the order unit
+    bool partlyRead = false;
+  };
+
+  void NoteMissing() {
+    notes_.Note(QStringLiteral("The system \"%1\" has no file in this project: its materials are "
+                               "not on this bill.")
+                    .arg(shelf_.Asked()),
+                -1);
+  }
+
+  // `at` is the block's row on the bill, -1 as long as it is not known.
+  void AddBlock(const PricedBlock& block, const BillQuantity& quantity, int& at) {
+    if (at < 0) at = names_.Find(block.material);
+    const bool isNew = at < 0;
+    if (isNew) {
+      at = names_.Add(block.material);
+      rows_.emplace_back();
+    }
+    double taken = quantity.For(isNew, block.orderTag);
+    if (source_.wholeQuantities) taken = quantity.whole;
+    standing_.orderQuantity =
+        WithWaste(block, OrderQuantity(block, taken, shelf_.Asked(), standing_));
+    CheckFigures({standing_.orderQuantity}, shelf_.Asked());
+    Row& row = rows_[static_cast<size_t>(at)];
+    // The sum is kept as number text, which holds 15 digits.
+    row.quantity = CutTo15Digits(row.quantity + standing_.orderQuantity);
+    row.last = &block;
+    if (taken != quantity.whole && block.orderTag != OrderTag::None) row.partlyRead = true;
   }
 
   const ReportSource& source_;
   SystemShelf shelf_;
   NoteBook& notes_;
   StandingFigures standing_;
-  NameRows index_;
-  std::vector<bool> seen_;
+  NameRows names_;
+  std::vector<Row> rows_;
+  std::vector<std::vector<int>> rowsOf_;  // for each system, the row of each of its blocks
 };
 
 QString Column(const QString& text, qsizetype width, bool right, const QString& material) {
@@ -130,8 +141,7 @@ QString Column(const QString& text, qsizetype width, bool right, const QString& 
 std::vector<BillRow> GetMaterial(const ReportSource& source, NoteBook& notes, bool& partlyRead) {
   BillMaker maker(source, notes);
   WalkTakeoff(source, maker);
-  partlyRead = maker.partlyRead;
-  return std::move(maker.rows);
+  return maker.Take(partlyRead);
 }
 
 Report BillofMaterial(const ReportSource& source) {

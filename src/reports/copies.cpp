@@ -1,6 +1,7 @@
 #include "reports/copies.h"
 
 #include <QStringBuilder>
+#include <unordered_map>
 
 #include "common/columns.h"
 #include "common/numbers.h"
@@ -61,24 +62,23 @@ class CopyMaker : public TakeoffVisitor {
 
   void Line(SheetKind kind, QStringView line) override {
     const SheetColumns& columns = kind == SheetKind::Room ? kRoom : kArea;
-    const QString system = SystemOfLine(line).toString();
-    shelf_.Load(system);
+    shelf_.Load(SystemOfLine(line));
+    const QString& system = shelf_.Asked();
     const qsizetype head = report_.lines.size();
     notes_.NoteSystem(shelf_, system, static_cast<int>(head));
-    QString text =
-        QStringLiteral("   ") + GrownRight(system, columns.nameWidth) + LastOf(line, 28).toString();
     const bool unitPriced = shelf_.UnitPrice() != 0;
-    if (unitPriced) text += QStringLiteral("     Unit price item");
-    Add(text);
-    if (unitPriced || shelf_.Blocks().empty()) return;
-    const double quantity = QuantityOf(kind, line, columns, static_cast<int>(head));
-    double subtotal = 0;
-    for (const PricedBlock& block : shelf_.Blocks()) {
-      subtotal += MaterialLine(block, quantity, system);
-      subtotal += LaborLine(block, quantity, system);
+    const QStringView end = LastOf(line, 28);
+    const QStringView pad = BlankView(columns.nameWidth - system.size());
+    if (unitPriced || shelf_.Blocks().empty()) {
+      Add(u"   " % system % pad % end %
+          (unitPriced ? QStringView(u"     Unit price item") : QStringView()));
+      return;
     }
-    if (office_)
-      report_.lines[head] += GrownLeft(MakeMoney(NumberText(subtotal)), columns.subtotalWidth);
+    const Group& group = GroupOf(QuantityOf(kind, line, columns, static_cast<int>(head)));
+    const QString& subtotal = group.subtotal;
+    Add(u"   " % system % pad % end %
+        BlankView(office_ ? columns.subtotalWidth - subtotal.size() : 0) % subtotal);
+    AddGroup(group);
   }
 
   TakeoffCopy Take() {
@@ -95,9 +95,9 @@ class CopyMaker : public TakeoffVisitor {
   }
 
  private:
-  void Add(QString line, bool detail = false) {
+  void Add(QString line) {
     report_.lines.append(std::move(line));
-    report_.detail.push_back(detail);
+    report_.detail.push_back(false);
   }
 
   double QuantityOf(SheetKind kind, QStringView line, const SheetColumns& columns, int row) {
@@ -114,63 +114,133 @@ class CopyMaker : public TakeoffVisitor {
     return part;
   }
 
-  QStringView Begin() const { return office_ ? u"     " : u"___  "; }
-
-  // Adds a detail line and gives what its last 14 characters are worth.
-  double AddDetail(QString&& line) {
+  // The lines under a takeoff line. They hang on the system and the quantity alone, unless a block
+  // without its tag takes over a figure of another line, so equal ones are made once and shared.
+  struct Group {
+    QStringList lines;
+    std::vector<double> manhours;  // of each block
     double dollars = 0;
-    if (office_) {
-      dollars = Value(LastOf(line, 14));
-      report_.total += dollars;
-      (SystemOfLine(line) == u"Labor" ? report_.labor : report_.material) += dollars;
+    double labor = 0;
+    double material = 0;
+    QString subtotal;  // of the dollars, as money; Office Copy only
+    StandingFigures standing;
+  };
+
+  const Group& GroupOf(double quantity) {
+    const auto number = static_cast<size_t>(shelf_.Number());
+    if (number >= groups_.size()) groups_.resize(number + 1);
+    SystemGroups& known = groups_[number];
+    if (!known.looked) {
+      known.looked = true;
+      for (const PricedBlock& block : shelf_.Blocks()) {
+        if (block.orderTag == OrderTag::None || block.laborTag == LaborTag::None)
+          known.shared = false;
+      }
     }
-    Add(std::move(line), true);
-    return dollars;
+    if (!known.shared) {
+      single_ = MakeGroup(quantity);
+      return single_;
+    }
+    const auto found = known.byQuantity.find(quantity);
+    if (found != known.byQuantity.end()) return found->second;
+    return known.byQuantity.emplace(quantity, MakeGroup(quantity)).first->second;
   }
 
-  double MaterialLine(const PricedBlock& block, double quantity, const QString& system) {
-    standing_.orderQuantity = WithWaste(block, OrderQuantity(block, quantity, system, standing_));
-    CheckFigures({standing_.orderQuantity * 100}, system);
-    const FigureText shown = FigureText::WithPoint(Truncated(standing_.orderQuantity * 100));
+  void AddGroup(const Group& group) {
+    report_.lines += group.lines;
+    report_.detail.resize(static_cast<size_t>(report_.lines.size()), true);
+    for (const double manhours : group.manhours) manhours_ += manhours;
+    CheckFigures({manhours_}, shelf_.Asked());
+    standing_ = group.standing;
+    report_.total += group.dollars;
+    report_.labor += group.labor;
+    report_.material += group.material;
+  }
+
+  Group MakeGroup(double quantity) {
+    Group group;
+    group.standing = standing_;
+    group.lines.reserve(2 * static_cast<qsizetype>(shelf_.Blocks().size()));
+    group.manhours.reserve(shelf_.Blocks().size());
+    for (const PricedBlock& block : shelf_.Blocks()) {
+      MaterialLine(block, quantity, group);
+      LaborLine(block, quantity, group);
+    }
+    if (office_) group.subtotal = MakeMoney(NumberText(group.dollars));
+    return group;
+  }
+
+  QStringView Begin() const { return office_ ? u"     " : u"___  "; }
+
+  // A detail line is worth what its last 14 characters say.
+  void AddDetail(QString line, Group& group) const {
+    if (office_) {
+      const double dollars = Value(LastOf(line, 14));
+      group.dollars += dollars;
+      (SystemOfLine(line) == u"Labor" ? group.labor : group.material) += dollars;
+    }
+    group.lines.append(std::move(line));
+  }
+
+  void MaterialLine(const PricedBlock& block, double quantity, Group& group) const {
+    const QString& system = shelf_.Asked();
+    group.standing.orderQuantity =
+        WithWaste(block, OrderQuantity(block, quantity, system, group.standing));
+    const double hundredths = Truncated(group.standing.orderQuantity * 100);
+    CheckFigures({hundredths}, system);
+    const FigureText shown = FigureText::WithPoint(hundredths);
     double dollars = 0;
     if (office_) {
       const double m = Value(shown.View()) * block.price;
       const double markups = markups_.MOH * m + markups_.MTX * m + markups_.MMU * m +
                              markups_.MIOH * m + markups_.MITX * m + markups_.MIMU * m;
       dollars = Raised(m + markups);
+      CheckFigures({dollars}, system);
     }
-    CheckFigures({dollars}, system);
     const DollarColumn column(office_, dollars, 13);
-    return AddDetail(Begin() % block.material % BlankView(21 - block.material.size()) %
-                     BlankView(14 - shown.Size()) % shown.View() % u' ' % block.orderUnit % u"(s)" %
-                     BlankView(5 - block.orderUnit.size()) % column.Blanks() % column.Figure() %
-                     column.Cents());
+    AddDetail(Begin() % block.material % BlankView(21 - block.material.size()) %
+                  BlankView(14 - shown.Size()) % shown.View() % u' ' % block.orderUnit % u"(s)" %
+                  BlankView(5 - block.orderUnit.size()) % column.Blanks() % column.Figure() %
+                  column.Cents(),
+              group);
   }
 
-  double LaborLine(const PricedBlock& block, double quantity, const QString& system) {
-    standing_.manhours = Manhours(block, quantity, system, standing_);
-    manhours_ += standing_.manhours;
-    CheckFigures({standing_.manhours * 100, manhours_}, system);
-    const FigureText shown = FigureText::WithPoint(Truncated(standing_.manhours * 100 + 0.5));
+  void LaborLine(const PricedBlock& block, double quantity, Group& group) const {
+    const QString& system = shelf_.Asked();
+    const double manhours = Manhours(block, quantity, system, group.standing);
+    group.standing.manhours = manhours;
+    group.manhours.push_back(manhours);
+    const double hundredths = Truncated(manhours * 100 + 0.5);
+    CheckFigures({hundredths}, system);
+    const FigureText shown = FigureText::WithPoint(hundredths);
     double dollars = 0;
     if (office_) {
-      const double labor = standing_.manhours * block.wage;
+      const double labor = manhours * block.wage;
       const double markups =
           Rounded(markups_.LOH * labor + markups_.LTX * labor + markups_.LMU * labor +
                   markups_.MIOH * labor + markups_.MITX * labor + markups_.MIMU * labor);
       dollars = Rounded(labor + markups);
+      CheckFigures({dollars}, system);
     }
-    CheckFigures({dollars}, system);
     const DollarColumn column(office_, dollars, 14);
-    return AddDetail(Begin() % u"Labor" % BlankView(30 - shown.Size()) % shown.View() %
-                     u" Manhours" % column.Blanks() % column.Figure() % column.Cents());
+    AddDetail(Begin() % u"Labor" % BlankView(30 - shown.Size()) % shown.View() % u" Manhours" %
+                  column.Blanks() % column.Figure() % column.Cents(),
+              group);
   }
+
+  struct SystemGroups {
+    bool looked = false;
+    bool shared = true;
+    std::unordered_map<double, Group> byQuantity;
+  };
 
   const ReportSource& source_;
   SystemShelf shelf_;
   MarkupFactors markups_;
   bool office_;
   StandingFigures standing_;
+  std::vector<SystemGroups> groups_;  // of each system
+  Group single_;
   double manhours_ = 0;
   TakeoffCopy report_;
   NoteBook notes_;

@@ -33,7 +33,7 @@ void NoteBook::Note(const QString& text, int row) {
 void NoteBook::NoteSystem(const SystemShelf& shelf, const QString& name, int row) {
   if (!shelf.Found()) {
     NoteMissing(shelf, name, row);
-  } else if (shelf.UnitPrice() == 0) {
+  } else if (shelf.ReadsZero() && shelf.UnitPrice() == 0) {
     for (const PricedBlock& block : shelf.Blocks()) {
       if (block.ReadsZero()) NoteZero(block, name, row);
     }

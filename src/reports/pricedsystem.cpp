@@ -73,23 +73,26 @@ void SystemShelf::Load(QStringView name) {
     auto entry = std::make_unique<Entry>();
     LoadSystem(source_, index_.At(at), entry->system);
     entry->unitPrice = Value(entry->system.unitPrice);
+    for (const PricedBlock& block : entry->system.blocks)
+      entry->readsZero = entry->readsZero || block.ReadsZero();
     entries_.push_back(std::move(entry));
   }
   if (at == number_) return;
   number_ = at;
   const Entry& entry = *entries_[static_cast<size_t>(at)];
   found_ = entry.system.found;
+  readsZero_ = entry.readsZero;
   blocks_ = &entry.system.blocks;
   if (!found_) return;
-  if (entry.system.scalars > 0) name_ = entry.system.name;
-  if (entry.system.scalars > 1) units_ = entry.system.units;
+  if (entry.system.scalars > 0) name_ = &entry.system.name;
+  if (entry.system.scalars > 1) units_ = &entry.system.units;
   if (entry.system.scalars > 2) {
-    unitPriceText_ = entry.system.unitPrice;
+    unitPriceText_ = &entry.system.unitPrice;
     unitPrice_ = entry.unitPrice;
   }
   if (entry.system.scalars > 3 && source_.lineColor != nullptr)
     *source_.lineColor = entry.system.lineColor;
-  notes_ = entry.system.notes;
+  notes_ = &entry.system.notes;
 }
 
 }  // namespace tamo

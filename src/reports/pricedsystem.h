@@ -57,37 +57,46 @@ int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& sy
 class SystemShelf {
  public:
   explicit SystemShelf(const ReportSource& source) : source_(source) {}
+  SystemShelf(const SystemShelf&) = delete;
+  SystemShelf& operator=(const SystemShelf&) = delete;
 
   // Makes `name` the system at hand.
   void Load(QStringView name);
 
-  const QString& Name() const { return name_; }
-  const QString& Units() const { return units_; }
-  const QString& UnitPriceText() const { return unitPriceText_; }
+  const QString& Name() const { return *name_; }
+  const QString& Units() const { return *units_; }
+  const QString& UnitPriceText() const { return *unitPriceText_; }
   double UnitPrice() const { return unitPrice_; }
-  const QString& Notes() const { return notes_; }
+  const QString& Notes() const { return *notes_; }
   const std::vector<PricedBlock>& Blocks() const { return *blocks_; }
   bool Found() const { return found_; }
-  // A number for the system at hand, the same for the same name.
+  // Some material of the system at hand reads a figure of 0.
+  bool ReadsZero() const { return readsZero_; }
+  // The name that was asked for, and its number: 0 for the first name of the report, then 1 ...
+  const QString& Asked() const { return index_.At(number_); }
   int Number() const { return number_; }
 
  private:
   struct Entry {
     PricedSystem system;
     double unitPrice = 0;
+    bool readsZero = false;
   };
 
   const ReportSource& source_;
   NameRows index_;
   std::vector<std::unique_ptr<Entry>> entries_;
   std::vector<PricedBlock> none_;
-  QString name_;
-  QString units_;
-  QString unitPriceText_;
+  // Each text is that of the last system that had one.
+  const QString empty_;
+  const QString* name_ = &empty_;
+  const QString* units_ = &empty_;
+  const QString* unitPriceText_ = &empty_;
+  const QString* notes_ = &empty_;
   double unitPrice_ = 0;
-  QString notes_;
   const std::vector<PricedBlock>* blocks_ = &none_;
   bool found_ = false;
+  bool readsZero_ = false;
   int number_ = -1;
 };
 

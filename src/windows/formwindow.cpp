@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
+#include <algorithm>
 
 #include "windows/look.h"
 
@@ -122,6 +122,23 @@ void FormWindow::SetStatus(const QString& project, bool locked, const QString& f
   if (lock->isHidden() == locked) lock->setVisible(locked);
   const QString place = QStringLiteral("Data folder: ") + folder;
   if (folderLabel_->text() != place) folderLabel_->setText(place);
+}
+
+void FormWindow::SetNotice(const QString& text) {
+  if (notice_->Text() == text) return;
+  const bool was = !notice_->isHidden();
+  if (!was) heightWithoutNotice_ = height();
+  notice_->SetText(text);
+  layout()->activate();
+  if (text.isEmpty()) {
+    resize(width(), heightWithoutNotice_);
+    return;
+  }
+  // A large window has room for it; a small one would be cut.
+  constexpr int kRoomy = 700;
+  const int strip = std::max(notice_->heightForWidth(width()), notice_->sizeHint().height());
+  const int wanted = heightWithoutNotice_ + strip;
+  resize(width(), std::min(wanted, std::max(heightWithoutNotice_, kRoomy)));
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

@@ -48,6 +48,8 @@ class FormWindow : public QWidget {
   QHBoxLayout& StatusLine();
   void SetStatus(const QString& project, bool locked, const QString& folder);
   NoticeStrip& Notice() const { return *notice_; }
+  // Shows the strip, or puts it away; the window grows by it, and shrinks again.
+  void SetNotice(const QString& text);
 
   // The size of a window that has never been shown; made larger where its contents need it.
   QSize firstSize = {640, 480};
@@ -76,6 +78,7 @@ class FormWindow : public QWidget {
   QLabel* lockLabel_ = nullptr;
   QLabel* folderLabel_ = nullptr;
   NoticeStrip* notice_;
+  int heightWithoutNotice_ = 0;
 };
 
 }  // namespace tamo

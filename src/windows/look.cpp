@@ -159,8 +159,8 @@ QFrame[role="foot"] { background: @window; border: none; border-top: 1px solid @
 QFrame[role="notice"] { background: @notice; border: none; border-top: 2px solid @noticeLine; }
 QFrame[role="notice"] QLabel { color: @text; background: transparent; }
 QMenuBar { background: @window; color: @text; padding: 2px 8px; }
-QMenuBar::item { padding: 5px 10px; border-radius: 3px; background: transparent; }
-QMenuBar::item:selected { background: @ground; border: 1px solid @accent; padding: 4px 9px; }
+QMenuBar::item { padding: 5px 6px; margin-right: 1px; border-radius: 3px; background: transparent; }
+QMenuBar::item:selected { background: @ground; border: 1px solid @accent; padding: 4px 5px; }
 QMenu { background: @base; color: @text; border: 1px solid @line; padding: 4px; }
 QMenu::item { padding: 6px 28px 6px 20px; border-radius: 3px; }
 QMenu::item:selected { background: @accent; color: @onAccent; }

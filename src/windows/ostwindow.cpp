@@ -1,3 +1,4 @@
+#include <QProgressDialog>
 #include <QToolButton>
 
 #include "program/program.h"
@@ -183,6 +184,25 @@ QWidget* Column(Builder& b) {
   return side;
 }
 
+// The first marked copy of a large plan takes a while; the bar says so and can't be stopped.
+std::function<void(int)> SaveProgress(QWidget& window) {
+  auto bar = std::make_shared<std::unique_ptr<QProgressDialog>>();
+  return [bar, &window](int perCent) {
+    if (perCent >= 100) {
+      bar->reset();
+      return;
+    }
+    if (*bar == nullptr) {
+      *bar = std::make_unique<QProgressDialog>(
+          QStringLiteral("The marked copy of the plan is being written."), QString(), 0, 100,
+          &window);
+      (*bar)->setWindowModality(Qt::ApplicationModal);
+      (*bar)->setMinimumDuration(0);
+    }
+    (*bar)->setValue(perCent);
+  };
+}
+
 }  // namespace
 
 void LayOutOST(Builder& b) {
@@ -206,6 +226,7 @@ void LayOutOST(Builder& b) {
   FormWindow* window = &b.Window();
   viewer.onPrint = [canvas] { canvas->Print(); };
   viewer.onBringToFront = [window] { window->raise(); };
+  viewer.onSaveProgress = SaveProgress(*window);
   auto* row = new QHBoxLayout;
   row->setSpacing(0);
   row->addWidget(thumbnails);
@@ -224,7 +245,7 @@ void LayOutOST(Builder& b) {
                                  "Enter goes back to the field."));
   keys->setWordWrap(false);
   foot.addWidget(keys);
-  window->firstSize = {1320, 700};
+  window->firstSize = {1340, 700};
 }
 
 }  // namespace tamo

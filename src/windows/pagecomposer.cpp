@@ -57,32 +57,31 @@ void PageComposer::Clear() {
   open_ = false;
 }
 
-std::vector<PageComposer::Page> PageComposer::Sheets(double width, double height) const {
-  std::vector<Page> sheets;
+std::vector<PageComposer::Sheet> PageComposer::Sheets(double width, double height) const {
+  double scale = 1;
+  for (const Page& page : pages_) scale = std::min(scale, ScaleFor(page, width, height));
+  std::vector<Sheet> sheets;
   for (const Page& page : pages_) {
-    const double scale = std::min(1.0, ScaleFor(page, width, height));
     double used = 0;
-    sheets.emplace_back();
+    sheets.push_back({{}, scale});
     for (const Line& line : page) {
-      if (!sheets.back().empty() && used + HeightOf(line) * scale > height) {
-        sheets.emplace_back();
+      if (!sheets.back().lines.empty() && used + HeightOf(line) * scale > height) {
+        sheets.push_back({{}, scale});
         used = 0;
       }
       used += HeightOf(line) * scale;
-      sheets.back().push_back(line);
+      sheets.back().lines.push_back(line);
     }
   }
   return sheets;
 }
 
-void PageComposer::Paint(QPainter& painter, const Page& sheet, double width, double height,
-                         double dotsPerInch) {
-  const double scale = std::min(1.0, ScaleFor(sheet, width, height));
+void PageComposer::Paint(QPainter& painter, const Sheet& sheet, double dotsPerInch) {
   painter.save();
-  painter.scale(dotsPerInch / 72 * scale, dotsPerInch / 72 * scale);
+  painter.scale(dotsPerInch / 72 * sheet.scale, dotsPerInch / 72 * sheet.scale);
   painter.setPen(Qt::black);
   double top = 0;
-  for (const Line& line : sheet) {
+  for (const Line& line : sheet.lines) {
     QFont font = QFontDatabase::hasFamily(line.font) ? QFont(line.font) : FixedFont();
     // Ten times as large as meant and made small again: the painter's own sizes are whole pixels.
     constexpr double kFine = 10;

@@ -23,6 +23,10 @@ class PageComposer {
     int points = 12;
   };
   using Page = std::vector<Line>;
+  struct Sheet {
+    Page lines;
+    double scale = 1;  // the same for all sheets of a document
+  };
 
   void SetFont(const QString& name, int points);
   void Add(const QString& text);
@@ -33,10 +37,9 @@ class PageComposer {
   const std::vector<Page>& Pages() const { return pages_; }
 
   // The pages as they fall on sheets of this size (points).
-  std::vector<Page> Sheets(double width, double height) const;
+  std::vector<Sheet> Sheets(double width, double height) const;
   // Paints one sheet; the painter's device has the resolution `dotsPerInch` in both directions.
-  static void Paint(QPainter& painter, const Page& sheet, double width, double height,
-                    double dotsPerInch);
+  static void Paint(QPainter& painter, const Sheet& sheet, double dotsPerInch);
 
  private:
   std::vector<Page> pages_;

@@ -14,6 +14,7 @@
 namespace tamo {
 namespace {
 
+constexpr int kRest = 150;         // milliseconds after which the sheet rests
 constexpr double kWheelStep = 60;  // points for a notch of the wheel at 100 per cent
 
 }  // namespace
@@ -27,6 +28,9 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
   viewport()->setMouseTracking(true);
   viewport()->setCursor(Qt::CrossCursor);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+  rest_.setSingleShot(true);
+  rest_.setInterval(kRest);
+  connect(&rest_, &QTimer::timeout, this, [this] { FinishScroll(); });
   viewer_.onMarksChanged = [this] { viewport()->update(); };
   viewer_.onViewChanged = [this] { ViewChanged(); };
   if (pictures_ != nullptr) {
@@ -40,6 +44,9 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
 PlanCanvas::~PlanCanvas() {
   viewer_.onMarksChanged = nullptr;
   viewer_.onViewChanged = nullptr;
+  viewer_.onPrint = nullptr;
+  viewer_.onBringToFront = nullptr;
+  viewer_.onSaveProgress = nullptr;
   if (pictures_ != nullptr) pictures_->onPicturesChanged = nullptr;
 }
 
@@ -152,7 +159,7 @@ void PlanCanvas::scrollContentsBy(int, int) {
   if (syncingBars_) return;
   const double dx = horizontalScrollBar()->value() - viewer_.ViewValue(PdfDraw::Horizontal);
   const double dy = verticalScrollBar()->value() - viewer_.ViewValue(PdfDraw::Vertical);
-  if (dx != 0 || dy != 0) desk_.Dispatch([&] { viewer_.ScrollBy(dx, dy); });
+  if (dx != 0 || dy != 0) Pan({dx, dy});
 }
 
 void PlanCanvas::resizeEvent(QResizeEvent* event) {
@@ -222,6 +229,7 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
 void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   const bool left = event->button() == Qt::LeftButton;
   if (!left && event->button() != Qt::MiddleButton) return;
+  FinishScroll();
   panFrom_ = event->position();
   pressedAt_ = event->position();
   const bool tool = viewer_.Tool() != PdfDraw::NoTool;
@@ -242,7 +250,7 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
   }
   if (panning_ && event->buttons() != Qt::NoButton) {
     viewport()->setCursor(Qt::ClosedHandCursor);
-    Pan(panFrom_ - event->position());
+    Pan((panFrom_ - event->position()) / Scale());
     panFrom_ = event->position();
     return;
   }
@@ -255,6 +263,7 @@ void PlanCanvas::mouseReleaseEvent(QMouseEvent* event) {
   if (panning_) {
     panning_ = false;
     viewport()->setCursor(Qt::CrossCursor);
+    FinishScroll();
   }
   if (event->button() != Qt::LeftButton) return;
   drawing_ = false;
@@ -268,9 +277,34 @@ void PlanCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
   mousePressEvent(event);
 }
 
-void PlanCanvas::Pan(const QPointF& pixels) {
-  const QPointF points = pixels / Scale();
-  desk_.Dispatch([&] { viewer_.ScrollBy(points.x(), points.y()); });
+void PlanCanvas::Pan(const QPointF& points) {
+  const QSizeF page = TurnedPage();
+  const QSizeF view = QSizeF(viewport()->size()) / Scale();
+  const double mostX = std::max(0.0, page.width() - view.width());
+  const double mostY = std::max(0.0, page.height() - view.height());
+  if (!scrolling_) {
+    scrolling_ = true;
+    for (const int index : {0, 1}) scrollFrom_[index] = viewer_.ViewValue(index);
+    scrollTo_ = {std::clamp<double>(scrollFrom_[0], 0, mostX),
+                 std::clamp<double>(scrollFrom_[1], 0, mostY)};
+  }
+  scrollTo_ = {std::clamp(scrollTo_.x() + points.x(), 0.0, mostX),
+               std::clamp(scrollTo_.y() + points.y(), 0.0, mostY)};
+  viewer_.SetViewValue(PdfDraw::Horizontal, static_cast<int>(std::lround(scrollTo_.x())));
+  viewer_.SetViewValue(PdfDraw::Vertical, static_cast<int>(std::lround(scrollTo_.y())));
+  rest_.start();
+}
+
+void PlanCanvas::FinishScroll() {
+  rest_.stop();
+  if (!scrolling_) return;
+  scrolling_ = false;
+  const int dx = viewer_.ViewValue(PdfDraw::Horizontal) - scrollFrom_[0];
+  const int dy = viewer_.ViewValue(PdfDraw::Vertical) - scrollFrom_[1];
+  if (dx == 0 && dy == 0) return;
+  viewer_.SetViewValue(PdfDraw::Horizontal, scrollFrom_[0]);
+  viewer_.SetViewValue(PdfDraw::Vertical, scrollFrom_[1]);
+  desk_.Dispatch([&] { viewer_.ScrollBy(dx, dy); });
 }
 
 void PlanCanvas::wheelEvent(QWheelEvent* event) {
@@ -284,7 +318,7 @@ void PlanCanvas::wheelEvent(QWheelEvent* event) {
   QPointF pixels = event->pixelDelta().isNull() ? notches * kWheelStep * PixelsPerPoint(100, 1)
                                                 : QPointF(event->pixelDelta());
   if (event->modifiers().testFlag(Qt::ShiftModifier) && pixels.x() == 0) pixels = {pixels.y(), 0};
-  Pan(-pixels);
+  Pan(-pixels / Scale());
 }
 
 void PlanCanvas::TurnView() {
@@ -338,6 +372,7 @@ bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
   if (event.modifiers().testFlag(Qt::AltModifier)) return false;
+  FinishScroll();
   if (!ctrl && TakeLetter(event.key())) return true;
   if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
     const int page = viewer_.Page() + (event.key() == Qt::Key_PageDown ? 1 : -1);

@@ -2,6 +2,7 @@
 
 #include <QAbstractScrollArea>
 #include <QPointF>
+#include <QTimer>
 
 #include "plans/pdfdraw.h"
 #include "plans/planpictures.h"
@@ -32,6 +33,9 @@ class PlanCanvas : public QAbstractScrollArea {
 
   std::function<void()> onZoomIn, onZoomOut;  // Ctrl and the wheel, plus and minus
   std::function<void()> onPictures;           // more pictures are there
+  // The user's scrolling that the viewer has not been told of yet. It is told once the sheet rests,
+  // since the project's record is saved each time.
+  void FinishScroll();
   bool TakeKey(const QKeyEvent& event);
 
  protected:
@@ -55,7 +59,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void ViewChanged();
   void PaintMarks(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
-  void Pan(const QPointF& pixels);
+  void Pan(const QPointF& points);
   bool TakeLetter(int key);
 
   PdfDraw& viewer_;
@@ -66,6 +70,10 @@ class PlanCanvas : public QAbstractScrollArea {
   bool panning_ = false;
   QPointF panFrom_;
   QPointF pressedAt_;
+  QTimer rest_;
+  bool scrolling_ = false;
+  QPointF scrollTo_;            // points, not yet whole ones
+  int scrollFrom_[2] = {0, 0};  // the view values before
 };
 
 // Small pictures of all pages; a click turns to one.

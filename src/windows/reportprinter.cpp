@@ -27,14 +27,9 @@ void SetMargins(QPrinter& printer) {
                          QPageLayout::Point);
 }
 
-std::vector<PageComposer::Page> SheetsFor(const PageComposer& pages, const QPrinter& printer) {
+std::vector<PageComposer::Sheet> SheetsFor(const PageComposer& pages, const QPrinter& printer) {
   const QRectF paper = printer.pageRect(QPrinter::Point);
   return pages.Sheets(paper.width(), paper.height());
-}
-
-void PaintSheet(QPainter& painter, const PageComposer::Page& sheet, const QPrinter& printer) {
-  const QRectF paper = printer.pageRect(QPrinter::Point);
-  PageComposer::Paint(painter, sheet, paper.width(), paper.height(), printer.resolution());
 }
 
 void PrintOnPaper(const PageComposer& pages, const QString& title, QDialog& preview) {
@@ -82,18 +77,18 @@ void PaintDocument(const PageComposer& pages, QPrinter& printer) {
   QPainter painter;
   if (!painter.begin(&printer)) return;
   bool first = true;
-  for (const PageComposer::Page& sheet : sheets) {
+  for (const PageComposer::Sheet& sheet : sheets) {
     if (!first) printer.newPage();
     first = false;
-    PaintSheet(painter, sheet, printer);
+    PageComposer::Paint(painter, sheet, printer.resolution());
   }
 }
 
 void PaintJobs(const PageComposer& pages, QPrinter& printer) {
-  for (const PageComposer::Page& sheet : SheetsFor(pages, printer)) {
+  for (const PageComposer::Sheet& sheet : SheetsFor(pages, printer)) {
     QPainter painter;
     if (!painter.begin(&printer)) return;
-    PaintSheet(painter, sheet, printer);
+    PageComposer::Paint(painter, sheet, printer.resolution());
   }
 }
 

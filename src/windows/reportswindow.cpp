@@ -1,3 +1,4 @@
+#include <QPointer>
 #include <QProgressDialog>
 #include <QShortcut>
 
@@ -42,15 +43,15 @@ QWidget* Figures(Builder& b) {
 // A bar that comes up only when a report takes long; Escape stops it.
 void ShowProgressOf(ReportsForm& form, QWidget& window) {
   auto dialog = std::make_shared<std::unique_ptr<QProgressDialog>>();
-  form.onProgress = [dialog, &window](int done, int all) {
-    if (done >= all) {
+  form.onProgress = [dialog, shown = QPointer<QWidget>(&window)](int done, int all) {
+    if (done >= all || shown.isNull()) {
       dialog->reset();
       return true;
     }
     if (*dialog == nullptr) {
       *dialog = std::make_unique<QProgressDialog>(
           QStringLiteral("The report is being made. Escape stops it."), QStringLiteral("Stop"), 0,
-          all, &window);
+          all, shown.data());
       (*dialog)->setWindowModality(Qt::ApplicationModal);
       (*dialog)->setMinimumDuration(100);
     }

@@ -58,6 +58,11 @@ struct WindowKeeper::Parts {
   }
   void TakeReport() {
     reportTimer.stop();
+    if (program.GetDesk().InEvent()) {
+      // A box is up inside an event; what was reported is still true behind it, or it is not.
+      if (reported != nullptr) reportTimer.start();
+      return;
+    }
     Form* form = std::exchange(reported, nullptr);
     Desk& desk = program.GetDesk();
     if (form == nullptr || desk.Active() != activeThen || desk.Active() == form) return;
@@ -154,7 +159,7 @@ void WindowKeeper::SyncWindows() {
     FormWindow* window = Window(*form);
     if (window->windowTitle() != form->Caption()) window->setWindowTitle(form->Caption());
     window->Menus().Apply();
-    window->Notice().SetText(notice);
+    window->SetNotice(notice);
     if (IsShell(*form)) {
       window->SetStatus(shared.JobID.isEmpty()
                             ? QStringLiteral("No project is open")

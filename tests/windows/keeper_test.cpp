@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QTemporaryDir>
+#include <QWheelEvent>
 
 #include "plans/fakepdfdraw.h"
 #include "program/program.h"
@@ -197,6 +198,28 @@ TEST_F(KeeperTest, ALineDrawnOnThePlanIsMeasuredInPointsOfThePaper) {
   const auto& distance =
       dynamic_cast<TextField&>(*FormOf("OST").Find(QStringLiteral("DistanceText")));
   EXPECT_EQ(distance.Text(), QStringLiteral("10.0"));
+}
+
+TEST_F(KeeperTest, ScrollingThePlanIsToldOnceWhenTheSheetRests) {
+  Menu("Tamo", "OST1");
+  viewer.SetZoom(400);
+  int scrolled = 0;
+  viewer.onScrolled = [&] { ++scrolled; };
+  auto& plan = dynamic_cast<PlanCanvas&>(*windows.Plan());
+  QWidget& sheet = *plan.viewport();
+  for (int i = 0; i < 5; ++i) {
+    QWheelEvent wheel(QPointF(50, 50), sheet.mapToGlobal(QPointF(50, 50)), {}, {0, -120},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&sheet, &wheel);
+  }
+  EXPECT_EQ(scrolled, 0);
+  EXPECT_GT(viewer.ViewValue(PdfDraw::Vertical), 0) << "the sheet moves at once";
+  const int stood = viewer.ViewValue(PdfDraw::Vertical);
+  plan.FinishScroll();
+  EXPECT_EQ(scrolled, 1);
+  EXPECT_EQ(viewer.ViewValue(PdfDraw::Vertical), stood);
+  plan.FinishScroll();
+  EXPECT_EQ(scrolled, 1);
 }
 
 TEST(Look, EveryTextCanBeReadOnItsGround) {

@@ -51,8 +51,9 @@ TEST_F(PrintingTest, APageWithoutAnEndRunsOnOverSheets) {
   const auto sheets = pages.Sheets(kLetterWidth, kLetterHeight);
   EXPECT_GT(sheets.size(), 3U);
   size_t lines = 0;
-  for (const auto& sheet : sheets) lines += sheet.size();
+  for (const auto& sheet : sheets) lines += sheet.lines.size();
   EXPECT_EQ(lines, 303U);
+  for (const auto& sheet : sheets) EXPECT_EQ(sheet.scale, sheets.front().scale);
 }
 
 TEST_F(PrintingTest, AFileIsOneDocumentOfAllPages) {

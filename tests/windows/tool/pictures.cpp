@@ -13,6 +13,7 @@
 #include "program/program.h"
 #include "support/doubles.h"
 #include "windows/look.h"
+#include "windows/reportprinter.h"
 #include "windows/windowkeeper.h"
 
 // Opens every window on the sample bid and saves a picture of each, light and dark, at 100 and 200
@@ -106,12 +107,31 @@ void Workspace(Pictures& p) {
   p.Menu("Tamo", "LockProject");
 }
 
+void Preview(Pictures& p);
+
 void Reports(Pictures& p) {
   p.Menu("Tamo", "RecapSheet");
   p.Take("Reports", "recap");
+  Preview(p);
   p.Menu("Tamo", "oCopy");
   p.Take("Reports", "office");
   p.FormOf("Reports").Hide();
+}
+
+// What the print command shows before anything goes to a printer.
+void Preview(Pictures& p) {
+  ReportPrinter printer;
+  printer.BeginPrint(QStringLiteral("Recap Sheet"));
+  printer.SetFont(QStringLiteral("MS Gothic"), 12);
+  for (const QString& row : dynamic_cast<OrderedList&>(p.At("Reports", "Reporter")).Rows())
+    printer.PrintLine(QString(20, QLatin1Char(' ')) + row);
+  QTimer::singleShot(400, [&p] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr) return;
+    dialog->grab().save(QStringLiteral("%1/Print-preview%2.png").arg(p.out, p.suffix));
+    dialog->close();
+  });
+  printer.EndPrint();
 }
 
 void Takeoff(Pictures& p) {
@@ -172,6 +192,21 @@ void Plan(Pictures& p) {
   p.Take("OST", "panels");
 }
 
+void Shell(Pictures& p) {
+  p.desk.ClickInto(p.At("Settings", "Option2"));
+  p.program.GetFiles().SaveText(p.platform.homeFolder + QStringLiteral("/gone/Rooms.tamo"),
+                                QStringLiteral("x"));
+  p.Menu("OST", "GetFiles");
+  p.Take("OST", "shell");
+  p.Menu("OST", "PriceAdjustment");
+  p.Take("AdjustmentForm", "unsaved");
+  p.FormOf("AdjustmentForm").Hide();
+  p.Menu("OST", "BreakDown");
+  p.FormOf("Reports").Hide();
+  p.Menu("OST", "OpenProject");
+  p.Take("Tamo", "projects");
+}
+
 void Help(Pictures& p) {
   if (p.program.FindForm(QStringLiteral("Docs")) == nullptr) return;
   p.Menu("Tamo", "Docs1");
@@ -191,6 +226,7 @@ int TakeAll(const QString& out, const QString& variant) {
   Pricing(pictures);
   Plan(pictures);
   Help(pictures);
+  Shell(pictures);
   return 0;
 }
 
