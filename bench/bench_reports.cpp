@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QTemporaryDir>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -174,6 +175,26 @@ void BM_OfficeCopy(benchmark::State& state) {
   Run(state, [](const ReportSource& source) { return OfficeCopy(source, BenchMarkups()); });
 }
 
+// The peer: `ledger bal` on a journal of as many postings, the start of its process included.
+void BM_LedgerBal(benchmark::State& state) {
+  if (std::system("ledger --version > /dev/null 2>&1") != 0) {
+    state.SkipWithError("ledger is not installed");
+    return;
+  }
+  const QTemporaryDir folder;
+  const std::string journal = folder.path().toStdString() + "/journal";
+  std::ofstream file(journal);
+  for (int64_t i = 0; i < state.range(0) * kLinesOfRoom; i += 2) {
+    file << "2026/01/01 Takeoff\n    Systems:" << SystemName(static_cast<int>(i) % kSystems)
+         << "  $" << 8 + i % 2400 << ".25\n    Rooms:" << i / kLinesOfRoom << "\n\n";
+  }
+  file.close();
+  const std::string command = "ledger -f " + journal + " bal > /dev/null";
+  for (auto _ : state) {
+    if (std::system(command.c_str()) != 0) state.SkipWithError("ledger failed");
+  }
+}
+
 // {rooms of 20 lines, materials of a system}. The recap's own pair is 1,000 and 10,000 rooms with 5
 // materials; each report at 10,000 and 100,000 lines is 500 and 5,000 rooms with 2 materials, which
 // is the mean of a real bid. The copies print two lines for each material of each takeoff line.
@@ -187,5 +208,6 @@ BENCHMARK(BM_BreakDown)->TAMO_REPORT;
 BENCHMARK(BM_BillofMaterial)->TAMO_REPORT;
 BENCHMARK(BM_FieldCopy)->TAMO_REPORT;
 BENCHMARK(BM_OfficeCopy)->TAMO_REPORT;
+BENCHMARK(BM_LedgerBal)->TAMO_REPORT->UseRealTime();
 
 }  // namespace

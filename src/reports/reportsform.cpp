@@ -66,10 +66,23 @@ void ReportsForm::Clear() {
   Reporter.Hide();
   Reporter1.Hide();
   Frame1.Hide();
+  QStringList old = Reporter.Rows();
+  QStringList oldCopy = Reporter1.Rows();
   Reporter.Clear();
   Reporter1.Clear();
+  Retire(std::move(old));
+  Retire(std::move(oldCopy));
   detail_.clear();
   ClearNotes();
+}
+
+// Giving back the memory of a report of millions of lines takes a while, too.
+void ReportsForm::Retire(QStringList rows) {
+  constexpr qsizetype kSlice = 200000;
+  while (onProgress && rows.isDetached() && rows.size() > kSlice) {
+    rows.resize(rows.size() - kSlice);
+    onProgress(0, 1);
+  }
 }
 
 void ReportsForm::ClearNotes() {
@@ -122,9 +135,9 @@ void ReportsForm::TakeNotes(const Report& report, bool readsQuantities) {
   WholeQuantities.SetShown(readsQuantities && (report.partlyRead || whole));
 }
 
-void ReportsForm::Fill(const Report& report) {
+void ReportsForm::Fill(const Report& report, bool readsQuantities) {
   Reporter.SetRows(report.lines);
-  TakeNotes(report, false);
+  TakeNotes(report, readsQuantities);
   Reporter.Show();
 }
 
@@ -164,11 +177,7 @@ void ReportsForm::Quantities() {
 }
 
 void ReportsForm::BillofMaterial() {
-  Make([this] {
-    const Report report = tamo::BillofMaterial(Source());
-    Fill(report);
-    TakeNotes(report, true);
-  });
+  Make([this] { Fill(tamo::BillofMaterial(Source()), true); });
 }
 
 void ReportsForm::AreaRoomWP() {
@@ -177,9 +186,7 @@ void ReportsForm::AreaRoomWP() {
       const Markups markups = LoadedMarkups();
       FillCopy(OfficeCopy(Source(), markups));
     } else if (Flag == QLatin1String("False")) {
-      const TakeoffCopy report = FieldCopy(Source());
-      Fill(report);
-      TakeNotes(report, true);
+      Fill(FieldCopy(Source()), true);
     }
   });
 }

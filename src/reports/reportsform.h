@@ -82,10 +82,11 @@ class ReportsForm : public Form {
 
  private:
   void Make(const std::function<void()>& report);
-  void Fill(const Report& report);
+  void Fill(const Report& report, bool readsQuantities = false);
   void FillCopy(const TakeoffCopy& report);
   void TakeNotes(const Report& report, bool readsQuantities);
   void Clear();
+  void Retire(QStringList rows);
   void ClearNotes();
   ReportSource Source();
   Markups LoadedMarkups();

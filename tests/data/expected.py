@@ -4,7 +4,7 @@
 A second calculation of every report, written for reading and not for speed, that shares nothing with
 the program: the texts in <project>/expected come from here, and the tests hold the program against
 them. Usage: expected.py PROJECT..., each a folder with project.txt and home. The texts of the
-project riverside were made by hand and are only compared (expected.py --check PROJECT...).
+project riverside were made by hand and are only compared: expected.py --check compares every project.
 """
 import math
 import os
@@ -494,7 +494,11 @@ def made(folder):
 def main():
     check = "--check" in sys.argv
     different = 0
-    for folder in [a for a in sys.argv[1:] if a != "--check"]:
+    folders = [a for a in sys.argv[1:] if a != "--check"]
+    if check and not folders:
+        here = os.path.dirname(os.path.abspath(__file__))
+        folders = [f.path for f in os.scandir(here) if os.path.isfile(os.path.join(f, "project.txt"))]
+    for folder in folders:
         expected = os.path.join(folder, "expected")
         os.makedirs(expected, exist_ok=True)
         for name, lines in made(folder).items():
