@@ -118,6 +118,18 @@ bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
       return event->type() == QEvent::MouseButtonPress && TakeCommon(event);
     case QEvent::InputMethod:
       return object == &Widget() && TakeInputMethod(event, object);
+    case QEvent::FocusIn: {
+      if (object != &Widget()) return false;
+      if (static_cast<QFocusEvent*>(event)->reason() != Qt::ShortcutFocusReason)
+        return TakeCommon(event);
+      // A mnemonic selects a field's whole text; here the form says what is selected.
+      ++quiet_;
+      object->event(event);
+      --quiet_;
+      GetDisplay().MarkDirty(*this);
+      TakeCommon(event);
+      return true;
+    }
     case QEvent::FocusOut: {
       // Losing the keyboard to a menu or to another program takes nothing from the field.
       if (object != &Widget()) return false;

@@ -181,7 +181,8 @@ void WindowsStage::Focus(Control& control) {
   QWidget* widget = keeper_->WidgetOf(control);
   if (widget == nullptr) Fail(QStringLiteral("%1 has no widget").arg(control.FullName()));
   if (QApplication::focusWidget() == widget && GetDesk().Focused() != &control) {
-    // Its window gave it the toolkit's focus back on the way to the front: setting it moves nothing.
+    // Its window gave it the toolkit's focus back on the way to the front: setting it moves
+    // nothing.
     QFocusEvent focusIn(QEvent::FocusIn, Qt::ShortcutFocusReason);
     QCoreApplication::sendEvent(widget, &focusIn);
     return;

@@ -155,6 +155,18 @@ TEST_F(BinderTest, TabFollowsTheOrderOfTheForm) {
   EXPECT_EQ(window->focusWidget(), second);
 }
 
+TEST_F(BinderTest, ALettersWayIntoAFieldSelectsWhatTheFormSelects) {
+  form.Second.SetText(QStringLiteral("WALLS"));
+  form.Second.onGotFocus = [this] { form.Second.Select(5, 0); };
+  second->setFocus(Qt::ShortcutFocusReason);
+  EXPECT_EQ(desk.Focused(), &form.Second);
+  EXPECT_FALSE(second->hasSelectedText());
+  EXPECT_EQ(second->cursorPosition(), 5);
+  EXPECT_EQ(form.Second.SelectedText(), QString());
+  first->setFocus(Qt::ShortcutFocusReason);
+  EXPECT_EQ(desk.Focused(), &form.First);
+}
+
 TEST_F(BinderTest, AClickIntoAFieldSelectsItsTextAndTheNextClickPlacesTheCaret) {
   form.First.SetText(QStringLiteral("Paint"));
   desk.UserFocus(form.Second);
