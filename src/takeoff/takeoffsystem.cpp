@@ -36,6 +36,10 @@ TakeoffSystem LoadTakeoffSystem(Files& files, const SharedFields& shared, const 
       ImportTakeoffSystem(files, shared, name, fetched);
       error = files.ReadFields(CopyPath(shared, name), fields);
     }
+    // A project whose folder for systems is gone can't take a copy; the line still gets its unit.
+    if (error == kPathNotFound) {
+      error = files.ReadFields(shared.SystemsPath() + name + QStringLiteral(".sys"), fields);
+    }
   }
   TakeoffSystem system;
   if (error == kNoError) system.units = fields.value(1);

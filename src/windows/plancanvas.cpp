@@ -383,7 +383,7 @@ bool PlanCanvas::TakeKey(const QKeyEvent& event) {
     if (event.key() != code) continue;
     const bool needsCtrl = key == PlanKey::Undo || key == PlanKey::Redo;
     if (needsCtrl && !ctrl) return false;
-    desk_.Dispatch([&] { viewer_.Key({key, shift, ctrl}); });
+    desk_.Dispatch([&, pressed = key] { viewer_.Key({pressed, shift, ctrl}); });
     return true;
   }
   return false;

@@ -70,7 +70,7 @@ SettingsForm::SettingsForm(const Kit& kit, ModeShell& shell)
   DataPath.onLostFocus = [this] { RepairDataPath(); };
   // A data folder that is no whole path counts from the program folder.
   DataPath.onChange = [this] {
-    // The field keeps what was typed or stored on another platform; the disk gets its own separator.
+    // The field keeps what was typed or stored elsewhere; the disk gets its own separator.
     const QString path = NativePath(DataPath.Text());
     const bool whole = QDir::isAbsolutePath(path);
     kit_.shared.DataPath = whole ? path : kit_.shared.zDir + kit_.shared.Separator + path;
@@ -113,9 +113,9 @@ void SettingsForm::PaintSampleLine(const QString& code) {
 
 // In an installed program whose folder belongs to the machine, each user has a file of their own.
 QString SettingsForm::SettingsPath(bool forWriting) const {
-  const QString beside = kit_.shared.zDir + kit_.shared.Separator + QStringLiteral("Settings.tamo");
+  QString beside = kit_.shared.zDir + kit_.shared.Separator + QStringLiteral("Settings.tamo");
   if (kit_.files.GetDisk().CanWrite(kit_.shared.zDir)) return beside;
-  const QString own =
+  QString own =
       kit_.platform.configFolder + kit_.shared.Separator + QStringLiteral("Settings.tamo");
   return forWriting || kit_.files.Exists(own) ? own : beside;
 }
