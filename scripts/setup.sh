@@ -7,7 +7,7 @@ run_packages=(g++ cmake ninja-build ccache python3 qt6-base-dev libgl-dev libmup
   libjpeg-dev libfreetype-dev libharfbuzz-dev libgumbo-dev libmujs-dev zlib1g-dev fonts-dejavu-core fonts-noto-mono
   qt6-qpa-plugins xvfb xauth)
 check_packages=(git libgtest-dev libgmock-dev clang clang-tidy clang-format libclang-rt-14-dev poppler-utils qpdf
-  ghostscript)
+  ghostscript file dpkg-dev)
 
 packages=("${run_packages[@]}")
 [ "${1:-run}" = check ] && packages+=("${check_packages[@]}")
