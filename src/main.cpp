@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include "common/memory.h"
 #include "common/paths.h"
 #include "plans/mupdfdraw.h"
 #include "program/program.h"
@@ -36,6 +37,7 @@ QString ConfigFolder() {
 }  // namespace
 
 int main(int argc, char** argv) {
+  tamo::KeepMemory();
   QCoreApplication::setApplicationName(QStringLiteral("tamo"));
   QGuiApplication::setDesktopFileName(QStringLiteral("tamo"));
   QApplication application(argc, argv);

@@ -6,6 +6,8 @@
 #include <functional>
 #include <vector>
 
+#include "common/textrows.h"
+
 namespace tamo {
 
 class Form;
@@ -168,11 +170,12 @@ class OrderedList : public Control {
  public:
   OrderedList(Form& form, const QString& name);
 
-  int Count() const { return static_cast<int>(rows_.size()); }
-  bool Empty() const { return rows_.isEmpty(); }
-  const QStringList& Rows() const { return rows_; }
+  int Count() const { return rows_.Count(); }
+  bool Empty() const { return rows_.Count() == 0; }
+  const QStringList& Rows() const { return rows_.List(); }
+  const ListRows& SharedRows() const { return rows_; }  // for reports of any length
   // Row `at`; a row that does not exist raises a RunTimeFailure (kSubscript).
-  const QString& Row(int at) const;
+  QString Row(int at) const;
   void SetRow(int at, const QString& text);
   void Add(const QString& text);
   void AddAll(const QStringList& rows);
@@ -180,11 +183,12 @@ class OrderedList : public Control {
   void Remove(int at);
   void Clear();
   void SetRows(const QStringList& rows);  // Clear, then AddAll
+  void TakeRows(ListRows rows);           // the same, without a copy of the texts
 
   int Index() const { return index_; }
   // -1 selects none. Beyond the rows raises a RunTimeFailure.
   void SetIndex(int index);
-  QString Selected() const { return index_ < 0 ? QString() : rows_[index_]; }
+  QString Selected() const { return index_ < 0 ? QString() : Row(index_); }
 
   int Top() const { return top_; }
   void SetTop(int row);  // kept within the rows
@@ -214,7 +218,7 @@ class OrderedList : public Control {
  private:
   void Check(int at) const;
 
-  QStringList rows_;
+  ListRows rows_;
   int index_ = -1;
   int top_ = 0;
   unsigned rowsRevision_ = 0;

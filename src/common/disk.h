@@ -24,6 +24,7 @@ class Disk {
  public:
   virtual ~Disk() = default;
 
+  // From any thread.
   virtual int Read(const QString& path, QByteArray& bytes) = 0;
   // For files too large to be read whole.
   virtual int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) = 0;

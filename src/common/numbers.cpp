@@ -209,16 +209,6 @@ double CutTo15Digits(double number) {
   return Value(NumberText(number));
 }
 
-double Rounded(double number) {
-  return std::floor(number + 0.5);
-}
-double Raised(double number) {
-  return std::floor(number + 0.9);
-}
-double Truncated(double number) {
-  return std::floor(number);
-}
-
 double Divided(double dividend, double divisor, const QString& what) {
   if (divisor == 0) throw RunTimeFailure(kDivisionByZero, what);
   return dividend / divisor;

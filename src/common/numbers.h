@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringView>
+#include <cmath>
 
 namespace tamo {
 
@@ -26,9 +27,18 @@ QString SignedNumberText(double number);
 // `number` after a trip through NumberText: cut to 15 significant digits.
 double CutTo15Digits(double number);
 
-double Rounded(double number);    // floor(x + 0.5): dollars
-double Raised(double number);     // floor(x + 0.9): what must be ordered whole
-double Truncated(double number);  // floor(x), also below zero
+// Dollars.
+inline double Rounded(double number) {
+  return std::floor(number + 0.5);
+}
+// What must be ordered whole.
+inline double Raised(double number) {
+  return std::floor(number + 0.9);
+}
+// Also below zero.
+inline double Truncated(double number) {
+  return std::floor(number);
+}
 
 // dividend / divisor; a divisor of 0 raises a RunTimeFailure (kDivisionByZero) with `what`, a plain
 // sentence that names the system, the material or the line and what to do.

@@ -25,32 +25,30 @@ void OrderedList::RowsChanged() {
   Changed();
 }
 
-const QString& OrderedList::Row(int at) const {
+QString OrderedList::Row(int at) const {
   Check(at);
-  return rows_[at];
+  return rows_.At(at);
 }
 
 void OrderedList::SetRow(int at, const QString& text) {
   Check(at);
-  rows_[at] = text;
+  rows_.Change()[at] = text;
   RowsChanged();
 }
 
 void OrderedList::Add(const QString& text) {
-  rows_.append(text);
+  rows_.Change().append(text);
   RowInserted(Count() - 1);
   RowsChanged();
 }
 
 void OrderedList::AddAll(const QStringList& rows) {
-  if (rows_.isEmpty()) {  // a long report is shared, not copied
-    rows_ = rows;
-    RowsFilled();
-    RowsChanged();
+  if (Empty()) {
+    TakeRows(rows);
     return;
   }
   for (const QString& row : rows) {
-    rows_.append(row);
+    rows_.Change().append(row);
     RowInserted(Count() - 1);
   }
   RowsChanged();
@@ -58,7 +56,7 @@ void OrderedList::AddAll(const QStringList& rows) {
 
 void OrderedList::Insert(int at, const QString& text) {
   if (at != Count()) Check(at);
-  rows_.insert(at, text);
+  rows_.Change().insert(at, text);
   if (index_ >= at) ++index_;
   RowInserted(at);
   RowsChanged();
@@ -66,7 +64,7 @@ void OrderedList::Insert(int at, const QString& text) {
 
 void OrderedList::Remove(int at) {
   Check(at);
-  rows_.removeAt(at);
+  rows_.Change().removeAt(at);
   if (index_ == at) {
     index_ = -1;
   } else if (index_ > at) {
@@ -78,8 +76,8 @@ void OrderedList::Remove(int at) {
 }
 
 void OrderedList::Clear() {
-  if (rows_.isEmpty() && index_ == -1 && top_ == 0) return;
-  rows_.clear();
+  if (Empty() && index_ == -1 && top_ == 0) return;
+  rows_ = {};
   index_ = -1;
   top_ = 0;
   RowsCleared();
@@ -87,8 +85,14 @@ void OrderedList::Clear() {
 }
 
 void OrderedList::SetRows(const QStringList& rows) {
+  TakeRows(rows);
+}
+
+void OrderedList::TakeRows(ListRows rows) {
   Clear();
-  AddAll(rows);
+  rows_ = std::move(rows);
+  RowsFilled();
+  RowsChanged();
 }
 
 void OrderedList::SetIndex(int index) {
@@ -107,13 +111,13 @@ void OrderedList::SetTop(int row) {
 }
 
 int OrderedList::Find(const QString& text) const {
-  return static_cast<int>(rows_.indexOf(text));
+  return static_cast<int>(Rows().indexOf(text));
 }
 
 int OrderedList::FindAnyCase(const QString& text) const {
   const QString upper = text.toUpper();
   for (int i = 0; i < Count(); ++i) {
-    if (rows_[i].toUpper() == upper) return i;
+    if (Row(i).toUpper() == upper) return i;
   }
   return -1;
 }

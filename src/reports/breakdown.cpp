@@ -79,7 +79,7 @@ constexpr BreakLine kMisc[] = {
 };
 
 template <size_t N>
-void AddGroup(QStringList& lines, const char* heading, const BreakLine (&group)[N],
+void AddGroup(TextRows& lines, const char* heading, const BreakLine (&group)[N],
               const ProjectRollUp& roll) {
   lines += QLatin1String(heading);
   for (const BreakLine& line : group) {
@@ -104,7 +104,7 @@ QString Profit(const char* label, int width, double percent) {
 Report BreakDown(const BreakFigures& figures) {
   const ProjectRollUp& roll = figures.roll;
   Report report;
-  QStringList& lines = report.lines;
+  TextRows& lines = report.lines;
   lines = {QStringLiteral("BreakDown"), QString(), TotalBid(roll), QString()};
   AddGroup(lines, "Labor", kLabor, roll);
   AddGroup(lines, "Material", kMaterial, roll);

@@ -1,10 +1,7 @@
 #include "reports/copies.h"
 
-#include <QStringBuilder>
-#include <unordered_map>
-
-#include "common/columns.h"
 #include "common/numbers.h"
+#include "reports/detailrow.h"
 #include "reports/figuretext.h"
 #include "reports/linequantity.h"
 #include "reports/notebook.h"
@@ -25,33 +22,18 @@ struct SheetColumns {
 constexpr SheetColumns kRoom{21, 33, 10, 28};
 constexpr SheetColumns kArea{20, 22, 14, 26};
 
-constexpr QStringView kCents = u".00";
-
 QStringView LastOf(QStringView text, qsizetype count) {
   return text.last(qMin(count, text.size()));
 }
 
-// Whole dollars at the end of an Office Copy's line; nothing in the Field Copy.
-class DollarColumn {
- public:
-  DollarColumn(bool shown, double dollars, qsizetype width)
-      : shown_(shown), width_(width), text_(FigureText::Whole(dollars)) {}
-  QStringView Blanks() const {
-    return BlankView(shown_ ? width_ - text_.Size() - kCents.size() : 0);
-  }
-  QStringView Figure() const { return shown_ ? text_.View() : QStringView(); }
-  QStringView Cents() const { return shown_ ? kCents : QStringView(); }
-
- private:
-  bool shown_;
-  qsizetype width_;
-  FigureText text_;
-};
-
 class CopyMaker : public TakeoffVisitor {
  public:
   CopyMaker(const ReportSource& source, const Markups& markups, bool office)
-      : source_(source), shelf_(source), markups_(markups), office_(office) {
+      : source_(source),
+        shelf_(source),
+        markups_(markups),
+        office_(office),
+        labor_(DetailRow::Labor(office)) {
     Add(QStringLiteral("Project Manager"));
     Add(office ? QStringLiteral("Office Copy") : QStringLiteral("Field Copy"));
     Add({});
@@ -70,15 +52,19 @@ class CopyMaker : public TakeoffVisitor {
     const QStringView end = LastOf(line, 28);
     const QStringView pad = BlankView(columns.nameWidth - system.size());
     if (unitPriced || shelf_.Blocks().empty()) {
-      Add(u"   " % system % pad % end %
-          (unitPriced ? QStringView(u"     Unit price item") : QStringView()));
+      report_.lines.Add({u"   ", system, pad, end,
+                         unitPriced ? QStringView(u"     Unit price item") : QStringView()});
+      report_.detail.push_back(false);
       return;
     }
-    const Group& group = GroupOf(QuantityOf(kind, line, columns, static_cast<int>(head)));
-    const QString& subtotal = group.subtotal;
-    Add(u"   " % system % pad % end %
-        BlankView(office_ ? columns.subtotalWidth - subtotal.size() : 0) % subtotal);
-    AddGroup(group);
+    Add({});
+    const double dollars = AddDetails(QuantityOf(kind, line, columns, static_cast<int>(head)));
+    report_.total += dollars;
+    const FigureText subtotal = FigureText::Money(dollars);
+    report_.lines.SetRow(head, {u"   ", system, pad, end,
+                                BlankView(office_ ? columns.subtotalWidth - subtotal.Size() : 0),
+                                office_ ? subtotal.View() : QStringView()});
+    report_.detail.resize(static_cast<size_t>(report_.lines.size()), true);
   }
 
   TakeoffCopy Take() {
@@ -95,8 +81,8 @@ class CopyMaker : public TakeoffVisitor {
   }
 
  private:
-  void Add(QString line) {
-    report_.lines.append(std::move(line));
+  void Add(const QString& line) {
+    report_.lines += line;
     report_.detail.push_back(false);
   }
 
@@ -114,133 +100,74 @@ class CopyMaker : public TakeoffVisitor {
     return part;
   }
 
-  // The lines under a takeoff line. They hang on the system and the quantity alone, unless a block
-  // without its tag takes over a figure of another line, so equal ones are made once and shared.
-  struct Group {
-    QStringList lines;
-    std::vector<double> manhours;  // of each block
+  // Adds the lines under a takeoff line; returns what they come to.
+  double AddDetails(double quantity) {
+    const std::vector<DetailRow>& materials = Materials();
+    const std::vector<PricedBlock>& blocks = shelf_.Blocks();
     double dollars = 0;
-    double labor = 0;
-    double material = 0;
-    QString subtotal;  // of the dollars, as money; Office Copy only
-    StandingFigures standing;
-  };
-
-  const Group& GroupOf(double quantity) {
-    const auto number = static_cast<size_t>(shelf_.Number());
-    if (number >= groups_.size()) groups_.resize(number + 1);
-    SystemGroups& known = groups_[number];
-    if (!known.looked) {
-      known.looked = true;
-      for (const PricedBlock& block : shelf_.Blocks()) {
-        if (block.orderTag == OrderTag::None || block.laborTag == LaborTag::None)
-          known.shared = false;
+    for (size_t i = 0; i < blocks.size(); ++i) {
+      for (const DetailRow::Worth& worth :
+           {AddMaterial(blocks[i], materials[i], quantity), AddLabor(blocks[i], quantity)}) {
+        (worth.labor ? report_.labor : report_.material) += worth.dollars;
+        dollars += worth.dollars;
       }
     }
-    if (!known.shared) {
-      single_ = MakeGroup(quantity);
-      return single_;
-    }
-    const auto found = known.byQuantity.find(quantity);
-    if (found != known.byQuantity.end()) return found->second;
-    return known.byQuantity.emplace(quantity, MakeGroup(quantity)).first->second;
-  }
-
-  void AddGroup(const Group& group) {
-    report_.lines += group.lines;
-    report_.detail.resize(static_cast<size_t>(report_.lines.size()), true);
-    for (const double manhours : group.manhours) manhours_ += manhours;
     CheckFigures({manhours_}, shelf_.Asked());
-    standing_ = group.standing;
-    report_.total += group.dollars;
-    report_.labor += group.labor;
-    report_.material += group.material;
+    return dollars;
   }
 
-  Group MakeGroup(double quantity) {
-    Group group;
-    group.standing = standing_;
-    group.lines.reserve(2 * static_cast<qsizetype>(shelf_.Blocks().size()));
-    group.manhours.reserve(shelf_.Blocks().size());
-    for (const PricedBlock& block : shelf_.Blocks()) {
-      MaterialLine(block, quantity, group);
-      LaborLine(block, quantity, group);
+  const std::vector<DetailRow>& Materials() {
+    const auto number = static_cast<size_t>(shelf_.Number());
+    if (number >= materials_.size()) materials_.resize(number + 1);
+    std::vector<DetailRow>& rows = materials_[number];
+    if (rows.empty()) {
+      for (const PricedBlock& block : shelf_.Blocks())
+        rows.push_back(DetailRow::Material(block, office_));
     }
-    if (office_) group.subtotal = MakeMoney(NumberText(group.dollars));
-    return group;
+    return rows;
   }
 
-  QStringView Begin() const { return office_ ? u"     " : u"___  "; }
-
-  // A detail line is worth what its last 14 characters say.
-  void AddDetail(QString line, Group& group) const {
-    if (office_) {
-      const double dollars = Value(LastOf(line, 14));
-      group.dollars += dollars;
-      (SystemOfLine(line) == u"Labor" ? group.labor : group.material) += dollars;
-    }
-    group.lines.append(std::move(line));
-  }
-
-  void MaterialLine(const PricedBlock& block, double quantity, Group& group) const {
+  DetailRow::Worth AddMaterial(const PricedBlock& block, const DetailRow& row, double quantity) {
     const QString& system = shelf_.Asked();
-    group.standing.orderQuantity =
-        WithWaste(block, OrderQuantity(block, quantity, system, group.standing));
-    const double hundredths = Truncated(group.standing.orderQuantity * 100);
+    standing_.orderQuantity = WithWaste(block, OrderQuantity(block, quantity, system, standing_));
+    const double hundredths = Truncated(standing_.orderQuantity * 100);
     CheckFigures({hundredths}, system);
-    const FigureText shown = FigureText::WithPoint(hundredths);
     double dollars = 0;
     if (office_) {
-      const double m = Value(shown.View()) * block.price;
+      const double m = FigureText::ReadWithPoint(hundredths) * block.price;
       const double markups = markups_.MOH * m + markups_.MTX * m + markups_.MMU * m +
                              markups_.MIOH * m + markups_.MITX * m + markups_.MIMU * m;
       dollars = Raised(m + markups);
       CheckFigures({dollars}, system);
     }
-    const DollarColumn column(office_, dollars, 13);
-    AddDetail(Begin() % block.material % BlankView(21 - block.material.size()) %
-                  BlankView(14 - shown.Size()) % shown.View() % u' ' % block.orderUnit % u"(s)" %
-                  BlankView(5 - block.orderUnit.size()) % column.Blanks() % column.Figure() %
-                  column.Cents(),
-              group);
+    return row.AddTo(report_.lines, hundredths, dollars);
   }
 
-  void LaborLine(const PricedBlock& block, double quantity, Group& group) const {
+  DetailRow::Worth AddLabor(const PricedBlock& block, double quantity) {
     const QString& system = shelf_.Asked();
-    const double manhours = Manhours(block, quantity, system, group.standing);
-    group.standing.manhours = manhours;
-    group.manhours.push_back(manhours);
-    const double hundredths = Truncated(manhours * 100 + 0.5);
+    standing_.manhours = Manhours(block, quantity, system, standing_);
+    manhours_ += standing_.manhours;
+    const double hundredths = Truncated(standing_.manhours * 100 + 0.5);
     CheckFigures({hundredths}, system);
-    const FigureText shown = FigureText::WithPoint(hundredths);
     double dollars = 0;
     if (office_) {
-      const double labor = manhours * block.wage;
+      const double labor = standing_.manhours * block.wage;
       const double markups =
           Rounded(markups_.LOH * labor + markups_.LTX * labor + markups_.LMU * labor +
                   markups_.MIOH * labor + markups_.MITX * labor + markups_.MIMU * labor);
       dollars = Rounded(labor + markups);
       CheckFigures({dollars}, system);
     }
-    const DollarColumn column(office_, dollars, 14);
-    AddDetail(Begin() % u"Labor" % BlankView(30 - shown.Size()) % shown.View() % u" Manhours" %
-                  column.Blanks() % column.Figure() % column.Cents(),
-              group);
+    return labor_.AddTo(report_.lines, hundredths, dollars);
   }
-
-  struct SystemGroups {
-    bool looked = false;
-    bool shared = true;
-    std::unordered_map<double, Group> byQuantity;
-  };
 
   const ReportSource& source_;
   SystemShelf shelf_;
   MarkupFactors markups_;
   bool office_;
   StandingFigures standing_;
-  std::vector<SystemGroups> groups_;  // of each system
-  Group single_;
+  std::vector<std::vector<DetailRow>> materials_;  // of each system
+  DetailRow labor_;
   double manhours_ = 0;
   TakeoffCopy report_;
   NoteBook notes_;

@@ -34,6 +34,18 @@ FigureText::FigureText(double whole, bool point) {
   }
 }
 
+FigureText FigureText::Money(double dollars) {
+  if (dollars != 0 && std::abs(dollars) < 1e13 && dollars == std::floor(dollars))
+    return WithPoint(dollars * 100);
+  return FigureText(MakeMoney(NumberText(dollars)));
+}
+
+double FigureText::ReadWithPoint(double hundredths) {
+  if (std::abs(hundredths) < 1e15 && (hundredths >= 0 || hundredths <= -10))
+    return hundredths / 100;
+  return Value(WithPoint(hundredths).View());
+}
+
 QStringView BlankView(qsizetype count) {
   static const QString blanks(128, QLatin1Char(' '));
   return QStringView(blanks).first(std::clamp<qsizetype>(count, 0, blanks.size()));

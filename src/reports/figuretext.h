@@ -11,6 +11,12 @@ class FigureText {
  public:
   static FigureText Whole(double whole) { return {whole, false}; }
   static FigureText WithPoint(double hundredths) { return {hundredths, true}; }
+  // As MakeMoney: "0.00", .05, 12.50.
+  static FigureText Money(double dollars);
+
+  // The number that the text of WithPoint is read as; not always a hundredth of it: -5 hundredths
+  // are shown as ".-5", which is read as 0.
+  static double ReadWithPoint(double hundredths);
 
   QStringView View() const {
     return long_.isEmpty() ? QStringView(buffer_ + from_, kSize - from_) : QStringView(long_);
@@ -18,6 +24,7 @@ class FigureText {
   qsizetype Size() const { return View().size(); }
 
  private:
+  explicit FigureText(const QString& text) : long_(text) {}
   FigureText(double whole, bool point);
 
   static constexpr int kSize = 20;

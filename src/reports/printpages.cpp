@@ -33,22 +33,22 @@ class Pages {
 
 }  // namespace
 
-void PrintPages(Printer& printer, const QStringList& lines, const QString& jobID,
+void PrintPages(Printer& printer, const ListRows& lines, const QString& jobID,
                 const QString& jobName) {
-  if (lines.isEmpty() || lines.front().isEmpty()) return;
-  if (!printer.BeginPrint(lines.front().trimmed() + QStringLiteral(" - ") + jobName)) return;
+  if (lines.Count() == 0 || lines.SizeOf(0) == 0) return;
+  if (!printer.BeginPrint(lines.At(0).trimmed() + QStringLiteral(" - ") + jobName)) return;
   Pages pages(printer, jobID, jobName);
   pages.Head();
-  const qsizetype last = lines.size() - 1;
-  for (qsizetype i = 0; i <= last; ++i) {
-    pages.Line(lines[i]);
+  const int last = lines.Count() - 1;
+  for (int i = 0; i <= last; ++i) {
+    pages.Line(lines.At(i));
     if (i == 0 || i % kLinesOfPage != 0) continue;
-    for (qsizetype k = i + 1; k <= qMin(i + kLookAhead, last); ++k) {
-      if (lines[k].isEmpty()) {
+    for (int k = i + 1; k <= qMin(i + kLookAhead, last); ++k) {
+      if (lines.SizeOf(k) == 0) {
         i = k;
         break;
       }
-      pages.Line(lines[k]);
+      pages.Line(lines.At(k));
     }
     if (i >= last) break;
     printer.EndPage();

@@ -4,6 +4,7 @@
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "common/textlines.h"
+#include "common/textsahead.h"
 
 namespace tamo {
 namespace {
@@ -26,13 +27,31 @@ int LoadNames(const ReportSource& source, const QString& folder, const QString& 
   return error;
 }
 
-int LoadSheet(const ReportSource& source, const QString& folder, const QString& name,
-              const QString& ending, TakeoffLines& lines) {
-  lines.text.clear();
-  lines.first = 0;
-  if (!NameRefusal(name).isEmpty()) return kFileNotFound;
-  return source.files.ReadText(source.folder + folder + source.separator + name + ending,
-                               lines.text);
+// The file of a room or area, "" when it can't have one.
+QString SheetPath(const ReportSource& source, SheetKind kind, const QString& name) {
+  if (!NameRefusal(name).isEmpty()) return {};
+  const bool room = kind == SheetKind::Room;
+  return source.folder + (room ? QStringLiteral("Rooms") : QStringLiteral("ATOs")) +
+         source.separator + name + (room ? QStringLiteral(".rfs") : QStringLiteral(".ato"));
+}
+
+// Where the lines begin in the text of a room's or area's file.
+qsizetype FirstLine(SheetKind kind, QStringView text) {
+  LineScanner scanner(text);
+  QStringView height;
+  if (kind == SheetKind::Area || !scanner.Next(height)) return 0;
+  const qsizetype end = height.size();
+  if (end == text.size()) return end;
+  return end + (text.sliced(end).startsWith(QLatin1String("\r\n")) ? 2 : 1);
+}
+
+int LoadSheet(const ReportSource& source, SheetKind kind, const QString& name,
+              TakeoffLines& lines) {
+  lines = {};
+  const QString path = SheetPath(source, kind, name);
+  const int error = path.isEmpty() ? kFileNotFound : source.files.ReadText(path, lines.text);
+  lines.first = FirstLine(kind, lines.text);
+  return error;
 }
 
 }  // namespace
@@ -54,20 +73,11 @@ int LoadAreas(const ReportSource& source, QStringList& areas) {
 }
 
 int LoadRoom(const ReportSource& source, const QString& room, TakeoffLines& lines) {
-  const int error = LoadSheet(source, QStringLiteral("Rooms"), room, QStringLiteral(".rfs"), lines);
-  LineScanner scanner(lines.text);
-  QStringView height;
-  if (scanner.Next(height)) {
-    qsizetype end = height.size();
-    const QStringView text(lines.text);
-    if (end < text.size()) end += text.sliced(end).startsWith(QLatin1String("\r\n")) ? 2 : 1;
-    lines.first = end;
-  }
-  return error;
+  return LoadSheet(source, SheetKind::Room, room, lines);
 }
 
 int LoadArea(const ReportSource& source, const QString& area, TakeoffLines& lines) {
-  return LoadSheet(source, QStringLiteral("ATOs"), area, QStringLiteral(".ato"), lines);
+  return LoadSheet(source, SheetKind::Area, area, lines);
 }
 
 int LoadoiList(const ReportSource& source, QStringList& items) {
@@ -91,30 +101,47 @@ void TakeoffVisitor::EndSheet(SheetKind) {}
 
 namespace {
 
-struct Walk {
-  const ReportSource& source;
-  TakeoffVisitor& visitor;
-  int done = 0;
-  int all = 0;
-  int lines = 0;
+// Walks through the sheets while the files of the next ones are read.
+class Walk {
+ public:
+  Walk(const ReportSource& source, TakeoffVisitor& visitor, const QStringList& rooms,
+       const QStringList& areas)
+      : source_(source),
+        visitor_(visitor),
+        texts_(source.files, Paths(source, rooms, areas)),
+        all_(static_cast<int>(rooms.size() + areas.size())) {}
 
   void Sheet(SheetKind kind, const QString& name) {
+    visitor_.BeginSheet(kind, name);
     TakeoffLines sheet;
-    visitor.BeginSheet(kind, name);
-    if (kind == SheetKind::Room) {
-      LoadRoom(source, name, sheet);
-    } else {
-      LoadArea(source, name, sheet);
-    }
+    texts_.Next(sheet.text);
+    sheet.first = FirstLine(kind, sheet.text);
     LineScanner scanner = sheet.Scan();
     QStringView line;
     while (scanner.Next(line)) {
-      visitor.Line(kind, line);
-      if (++lines % kLinesBetweenTellings == 0) TellProgress(source, done, all);
+      visitor_.Line(kind, line);
+      if (++lines_ % kLinesBetweenTellings == 0) TellProgress(source_, done_, all_);
     }
-    visitor.EndSheet(kind);
-    TellProgress(source, ++done, all);
+    visitor_.EndSheet(kind);
+    TellProgress(source_, ++done_, all_);
   }
+
+ private:
+  static QStringList Paths(const ReportSource& source, const QStringList& rooms,
+                           const QStringList& areas) {
+    QStringList paths;
+    paths.reserve(rooms.size() + areas.size());
+    for (const QString& room : rooms) paths += SheetPath(source, SheetKind::Room, room);
+    for (const QString& area : areas) paths += SheetPath(source, SheetKind::Area, area);
+    return paths;
+  }
+
+  const ReportSource& source_;
+  TakeoffVisitor& visitor_;
+  TextsAhead texts_;
+  int done_ = 0;
+  int all_;
+  int lines_ = 0;
 };
 
 }  // namespace
@@ -124,8 +151,7 @@ void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor) {
   QStringList areas;
   if (LoadRooms(source, rooms) != kNoError) rooms.clear();
   LoadAreas(source, areas);
-  Walk walk{source, visitor};
-  walk.all = static_cast<int>(rooms.size() + areas.size());
+  Walk walk(source, visitor, rooms, areas);
   for (const QString& room : rooms) walk.Sheet(SheetKind::Room, room);
   for (const QString& area : areas) walk.Sheet(SheetKind::Area, area);
 }

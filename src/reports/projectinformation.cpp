@@ -8,7 +8,7 @@ namespace tamo {
 
 Report ProjectInformation(const QString& jobID, const ProjectFacts& facts) {
   Report report;
-  QStringList& lines = report.lines;
+  TextRows& lines = report.lines;
   lines = {QStringLiteral("  Project Information"), QString()};
   const auto fact = [&](const char* label, const QString& text) {
     lines += QLatin1String(label) + text;
@@ -32,19 +32,18 @@ Report ProjectInformation(const QString& jobID, const ProjectFacts& facts) {
   return report;
 }
 
-QStringList ProjectFileLines(const QString& jobID, const QString& jobName,
-                             const QStringList& report) {
+QStringList ProjectFileLines(const QString& jobID, const QString& jobName, const ListRows& report) {
   const QString notDone = QStringLiteral("False");
   QStringList lines{jobID + Blanks(10) + jobName, notDone};
-  for (qsizetype i = 1; i < report.size(); ++i) {
-    lines += report[i];
+  for (int i = 1; i < report.Count(); ++i) {
+    lines += report.At(i);
     lines += notDone;
   }
   return lines;
 }
 
 int MakeProjectFile(Files& files, const QString& dataPath, const QString& jobID,
-                    const QString& jobName, const QStringList& report) {
+                    const QString& jobName, const ListRows& report) {
   const QString name = jobID + QLatin1Char(' ') + jobName;
   const QString refusal = NameRefusal(name);
   if (!refusal.isEmpty()) throw RunTimeFailure(kInvalidArgument, refusal);

@@ -1,6 +1,5 @@
 #include "common/failure.h"
 #include "common/numbers.h"
-#include "common/textlines.h"
 #include "reports/printpages.h"
 #include "reports/projectinformation.h"
 #include "reports/reportsform.h"
@@ -8,16 +7,23 @@
 // What is done with a report that stands: printing, copying, ticking, refreshing, leaving.
 
 namespace tamo {
+namespace {
+
+QString TitleOf(const OrderedList& report) {
+  return report.Empty() ? QString() : report.Row(0);
+}
+
+}  // namespace
 
 void ReportsForm::PrintReport() {
   if (!Reporter.Shown()) return;
-  PrintPages(kit_.platform.printer, Reporter.Rows(), kit_.shared.JobID, kit_.shared.JobName);
+  PrintPages(kit_.platform.printer, Reporter.SharedRows(), kit_.shared.JobID, kit_.shared.JobName);
 }
 
 void ReportsForm::CopyReport() {
   QString text;
   const auto copy = [&](const OrderedList& list) {
-    text += JoinedLines(list.Rows());
+    text += list.SharedRows().Joined();
     GetDesk().GetMessages().Tell(
         list.Row(0) + QStringLiteral(" has been copied to the computer clipboard.\n"
                                      "Use paste on the mouse right click to paste report into\n"
@@ -32,7 +38,7 @@ void ReportsForm::CopyReport() {
 void ReportsForm::WriteProjectFile() {
   const OrderedList& list = Reporter.Empty() ? Reporter1 : Reporter;
   tamo::MakeProjectFile(kit_.files, kit_.shared.DataPath, kit_.shared.JobID, kit_.shared.JobName,
-                        list.Rows());
+                        list.SharedRows());
 }
 
 void ReportsForm::ExitReports() {
@@ -58,7 +64,7 @@ void ReportsForm::ForgetProject() {
 }
 
 void ReportsForm::RunByTitle() {
-  const QString title = Reporter.Rows().value(0);
+  const QString title = TitleOf(Reporter);
   if (title == QLatin1String("  Project Information")) {
     joins_.record.LoadJobNFO();
     ProjectInformation();
@@ -73,7 +79,7 @@ void ReportsForm::RunByTitle() {
   } else if (title == QLatin1String("Project Manager")) {
     Flag = QStringLiteral("False");
     AreaRoomWP();
-  } else if (Reporter1.Rows().value(0) == QLatin1String("Project Manager")) {
+  } else if (TitleOf(Reporter1) == QLatin1String("Project Manager")) {
     Flag = QStringLiteral("True");
     AreaRoomWP();
     Flag = QStringLiteral("False");

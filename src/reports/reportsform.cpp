@@ -66,23 +66,10 @@ void ReportsForm::Clear() {
   Reporter.Hide();
   Reporter1.Hide();
   Frame1.Hide();
-  QStringList old = Reporter.Rows();
-  QStringList oldCopy = Reporter1.Rows();
   Reporter.Clear();
   Reporter1.Clear();
-  Retire(std::move(old));
-  Retire(std::move(oldCopy));
   detail_.clear();
   ClearNotes();
-}
-
-// Giving back the memory of a report of millions of lines takes a while, too.
-void ReportsForm::Retire(QStringList rows) {
-  constexpr qsizetype kSlice = 200000;
-  while (onProgress && rows.isDetached() && rows.size() > kSlice) {
-    rows.resize(rows.size() - kSlice);
-    onProgress(0, 1);
-  }
 }
 
 void ReportsForm::ClearNotes() {
@@ -135,15 +122,15 @@ void ReportsForm::TakeNotes(const Report& report, bool readsQuantities) {
   WholeQuantities.SetShown(readsQuantities && (report.partlyRead || whole));
 }
 
-void ReportsForm::Fill(const Report& report, bool readsQuantities) {
-  Reporter.SetRows(report.lines);
+void ReportsForm::Fill(Report report, bool readsQuantities) {
+  Reporter.TakeRows(ListRows(std::move(report.lines)));
   TakeNotes(report, readsQuantities);
   Reporter.Show();
 }
 
-void ReportsForm::FillCopy(const TakeoffCopy& report) {
-  Reporter1.SetRows(report.lines);
-  detail_ = report.detail;
+void ReportsForm::FillCopy(TakeoffCopy report) {
+  Reporter1.TakeRows(ListRows(std::move(report.lines)));
+  detail_ = std::move(report.detail);
   TakeNotes(report, true);
   progress_.Begin(report.total, report.labor, report.material);
   ShowProgress();
@@ -195,13 +182,13 @@ void ReportsForm::BreakDown() {
   Make([this] {
     const Markups markups = LoadedMarkups();
     const BreakFigures figures = MakeBreak(Source(), markups, Adjustment);
-    const Report report = tamo::BreakDown(figures);
+    Report report = tamo::BreakDown(figures);
     // The sum is made only when the items are listed behind an adjustment; otherwise the field
     // shows the sum made before. A test holds it.
     if (figures.bottomLineListed) bottomLineSum_ = figures.roll.rawBottomLine;
     joins_.bottomLine.SetTotalBL(NumberText(bottomLineSum_));
     ShowWindow();
-    Fill(report);
+    Fill(std::move(report));
   });
 }
 

@@ -82,11 +82,10 @@ class ReportsForm : public Form {
 
  private:
   void Make(const std::function<void()>& report);
-  void Fill(const Report& report, bool readsQuantities = false);
-  void FillCopy(const TakeoffCopy& report);
+  void Fill(Report report, bool readsQuantities = false);
+  void FillCopy(TakeoffCopy report);
   void TakeNotes(const Report& report, bool readsQuantities);
   void Clear();
-  void Retire(QStringList rows);
   void ClearNotes();
   ReportSource Source();
   Markups LoadedMarkups();

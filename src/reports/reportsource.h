@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <functional>
 #include <vector>
 
 #include "common/files.h"
+#include "common/textrows.h"
 
 namespace tamo {
 
@@ -33,7 +33,7 @@ struct ReportNote {
 
 // A report: its lines, the first of which is its title, and what an estimator should know of them.
 struct Report {
-  QStringList lines;
+  TextRows lines;
   std::vector<ReportNote> notes;
   // A quantity column was read only in part, so the switch "Read whole quantities" would change the
   // figures.

@@ -103,17 +103,13 @@ BlockDollars PriceBlock(const PricedBlock& block, double quantity, const QString
   return dollars;
 }
 
-void CheckFigures(std::initializer_list<double> figures, const QString& system) {
-  for (const double figure : figures) {
-    if (std::isfinite(figure)) continue;
-    throw RunTimeFailure(
-        kOverflow,
-        QStringLiteral(
-            "The report can't be made: the figures of the system \"%1\" grow larger than "
-            "any number that can be worked with. Look for a quantity, price or ratio "
-            "that was mistyped, then run the report again.")
-            .arg(system));
-  }
+void RefuseFigures(const QString& system) {
+  throw RunTimeFailure(
+      kOverflow,
+      QStringLiteral("The report can't be made: the figures of the system \"%1\" grow larger than "
+                     "any number that can be worked with. Look for a quantity, price or ratio "
+                     "that was mistyped, then run the report again.")
+          .arg(system));
 }
 
 double UnitPricedAmount(double unitPrice, double quantity, const QString& system) {

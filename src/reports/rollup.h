@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <cmath>
 #include <initializer_list>
 #include <vector>
 
@@ -46,8 +47,14 @@ struct BlockDollars {
 BlockDollars PriceBlock(const PricedBlock& block, double quantity, const QString& system,
                         StandingFigures& standing);
 
-// Raises a RunTimeFailure that names the system when one of the figures is larger than any number.
-void CheckFigures(std::initializer_list<double> figures, const QString& system);
+// Raises a RunTimeFailure that names the system and says that a figure is larger than any number.
+[[noreturn]] void RefuseFigures(const QString& system);
+// The same when one of the figures is.
+inline void CheckFigures(std::initializer_list<double> figures, const QString& system) {
+  for (const double figure : figures) {
+    if (!std::isfinite(figure)) RefuseFigures(system);
+  }
+}
 
 // What a unit-priced item costs: whole dollars, no markups.
 double UnitPricedAmount(double unitPrice, double quantity, const QString& system);

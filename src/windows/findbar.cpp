@@ -74,10 +74,11 @@ void FindBar::Go(int step) {
     result_->clear();
     return;
   }
-  const QStringList& rows = list->Model().Rows();
-  const int count = static_cast<int>(rows.size());
+  const ListRows& rows = list->Model().Rows();
+  const int count = rows.Count();
+  const auto holds = [&](int row) { return rows.At(row).contains(text, Qt::CaseInsensitive); };
   int found = 0;
-  for (const QString& row : rows) found += row.contains(text, Qt::CaseInsensitive) ? 1 : 0;
+  for (int row = 0; row < count; ++row) found += holds(row) ? 1 : 0;
   if (found == 0) {
     result_->setText(QStringLiteral("Not in this report."));
     list->SetWalked(-1);
@@ -86,7 +87,7 @@ void FindBar::Go(int step) {
   int at = row_ < 0 ? (step > 0 ? -1 : count) : row_;
   do {
     at = (at + step + count) % count;
-  } while (!rows[at].contains(text, Qt::CaseInsensitive));
+  } while (!holds(at));
   row_ = at;
   list->SetWalked(at);
   result_->setText(QStringLiteral("Line %1; %2 lines hold it.").arg(at + 1).arg(found));

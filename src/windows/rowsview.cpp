@@ -82,26 +82,26 @@ bool RowsModel::TakeOver() {
   if (revision_ == list_.RowsRevision()) return false;
   revision_ = list_.RowsRevision();
   beginResetModel();
-  rows_ = list_.Rows();
+  rows_ = list_.SharedRows();
   qsizetype longest = 0;
-  for (const QString& row : rows_) longest = std::max(longest, row.size());
+  for (int row = 0; row < rows_.Count(); ++row) longest = std::max(longest, rows_.SizeOf(row));
   longest_ = static_cast<int>(longest);
   endResetModel();
   return true;
 }
 
 void RowsModel::TicksChanged() {
-  if (!rows_.isEmpty())
-    Q_EMIT dataChanged(index(0), index(static_cast<int>(rows_.size()) - 1), {Qt::CheckStateRole});
+  if (rows_.Count() != 0)
+    Q_EMIT dataChanged(index(0), index(rows_.Count() - 1), {Qt::CheckStateRole});
 }
 
 int RowsModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+  return parent.isValid() ? 0 : rows_.Count();
 }
 
 QVariant RowsModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || index.row() >= rows_.size()) return {};
-  if (role == Qt::DisplayRole) return rows_[index.row()];
+  if (!index.isValid() || index.row() >= rows_.Count()) return {};
+  if (role == Qt::DisplayRole) return rows_.At(index.row());
   if (role == Qt::CheckStateRole) {
     const auto* checks = dynamic_cast<const CheckList*>(&list_);
     if (checks != nullptr) return checks->Ticked(index.row()) ? Qt::Checked : Qt::Unchecked;
@@ -187,7 +187,7 @@ QSize RowsView::sizeHint() const {
 
 void RowsView::paintEvent(QPaintEvent* event) {
   QListView::paintEvent(event);
-  if (!model_->Rows().isEmpty() || emptyText_.isEmpty()) return;
+  if (model_->Rows().Count() != 0 || emptyText_.isEmpty()) return;
   QPainter painter(viewport());
   painter.setPen(CurrentLook().quiet);
   painter.setFont(QApplication::font());

@@ -16,7 +16,7 @@ class RowsModel : public QAbstractListModel {
   // True when the rows were other ones.
   bool TakeOver();
   void TicksChanged();
-  const QStringList& Rows() const { return rows_; }
+  const ListRows& Rows() const { return rows_; }
   int LongestRow() const { return longest_; }  // characters
 
   int rowCount(const QModelIndex& parent = {}) const override;
@@ -24,7 +24,7 @@ class RowsModel : public QAbstractListModel {
 
  private:
   const OrderedList& list_;
-  QStringList rows_;
+  ListRows rows_;
   int longest_ = 0;
   unsigned revision_ = ~0U;
 };

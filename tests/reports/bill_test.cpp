@@ -15,7 +15,7 @@ const QString kBlank = S("____________");
 QStringList Bill(BenchProject& project, bool whole = false) {
   ReportSource source = project.Source();
   source.wholeQuantities = whole;
-  return BillofMaterial(source).lines;
+  return BillofMaterial(source).lines.ToList();
 }
 
 QString BillLine(const QString& material, const QString& order, const QString& unit) {

@@ -54,7 +54,7 @@ TEST(Copies, TheOfficeCopyEndsWithTheManhoursRaised) {
   BenchProject project;
   project.System(S("Door"), S("EA"), S(""), {kSlab});
   project.Area(S("A"), {AreaLine(S("Door"), S("1.56"), S("EA"))});
-  const QStringList lines = OfficeCopy(project.Source(), {}).lines;
+  const QStringList lines = OfficeCopy(project.Source(), {}).lines.ToList();
   EXPECT_EQ(lines.mid(lines.size() - 5),
             (QStringList{QString(63, QLatin1Char('_')), S(""),
                          S("   This project will take 4 manhours to complete"),  // 3.12
@@ -109,7 +109,7 @@ TEST(Copies, TheHeadOfAnAreaLineTakesItsLast28Characters) {
   BenchProject project;
   project.System(S("Door"), S("EA"), S("1"));
   project.Area(S("A"), {S("Door 3 EA"), AreaLine(S("Ceiling Paint Flat"), S("640"))});
-  const QStringList lines = FieldCopy(project.Source()).lines;
+  const QStringList lines = FieldCopy(project.Source()).lines.ToList();
   EXPECT_EQ(lines[4], S("   Door 3 EA           Door 3 EA"));
   EXPECT_EQ(lines[5].left(51), S("   Ceiling Paint Flat  int Flat              640 SF"));
 }
@@ -195,7 +195,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 QStringList BreakDownOf(BenchProject& project) {
   QString adjustment;
-  return BreakDown(MakeBreak(project.Source(), project.MarkupsOfFile(), adjustment)).lines;
+  return BreakDown(MakeBreak(project.Source(), project.MarkupsOfFile(), adjustment)).lines.ToList();
 }
 
 TEST(BreakDownReport, EveryFigureIs0WithoutTakeoff) {

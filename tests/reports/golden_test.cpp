@@ -93,7 +93,7 @@ void PlayFolder(const QString& folder) {
       ExpectFailure(file, name, project, jobID);
     } else {
       try {
-        ExpectLines(Make(name, project, jobID).lines, LinesOf(file), file);
+        ExpectLines(Make(name, project, jobID).lines.ToList(), LinesOf(file), file);
       } catch (const RunTimeFailure& failure) {
         ADD_FAILURE() << file.toStdString() << ": " << failure.text.toStdString();
       }

@@ -185,7 +185,7 @@ TEST(ProjectInformationReport, EachFactIsFollowedByAnEmptyLine) {
   facts.JobName = S("Clinic");
   facts.BidDate = S("1-1-27");
   facts.Notes = S("one\r\n\r\ntwo\r\n");
-  const QStringList lines = ProjectInformation(S("07-2611004"), facts).lines;
+  const QStringList lines = ProjectInformation(S("07-2611004"), facts).lines.ToList();
   EXPECT_EQ(lines.mid(0, 6), (QStringList{S("  Project Information"), S(""),
                                           S("  Project ID Number:     07-2611004"), S(""),
                                           S("  Project Name           Clinic"), S("")}));
@@ -197,7 +197,7 @@ TEST(ProjectInformationReport, EachFactIsFollowedByAnEmptyLine) {
 TEST(ProjectInformationReport, NotesWithoutALineBreakAreOneLineWithTheLabel) {
   ProjectFacts facts;
   facts.Notes = S("alone");
-  EXPECT_EQ(ProjectInformation(S("1"), facts).lines.mid(18),
+  EXPECT_EQ(ProjectInformation(S("1"), facts).lines.ToList().mid(18),
             QStringList{S("      Notes:             alone")});
 }
 

@@ -69,7 +69,7 @@ Outcome Play(int report, const ReportSource& source, const Markups& markups) {
     for (const ReportNote& note : made.notes) {
       for (const int row : note.rows) EXPECT_LT(row, made.lines.size());
     }
-    return {made.lines, {}};
+    return {made.lines.ToList(), {}};
   } catch (const RunTimeFailure& failure) {
     EXPECT_FALSE(failure.text.isEmpty());
     return {{}, failure.text};

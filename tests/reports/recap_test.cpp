@@ -16,7 +16,7 @@ const QString kRule = S("    ___________________________________________________
 
 QStringList Recap(BenchProject& project, bool detailed = false) {
   QString adjustment;
-  return MinimalRecapSheet(project.Source(), project.MarkupsOfFile(), detailed, adjustment).lines;
+  return MinimalRecapSheet(project.Source(), project.MarkupsOfFile(), detailed, adjustment).lines.ToList();
 }
 
 // Twelve markups in the order of the file: MOH MTX MMU LOH LTX LMU BLOH BLTX BLMU MIOH MITX MIMU.
@@ -240,7 +240,7 @@ TEST(DetailedRecapSheet, NothingIsCutToThreeDecimalsAndThereIsNoLeastCharge) {
       S("Wall"), S("SF"), S(""),
       {{S("Drum"), S("DR"), S("250"), S("1000"), S("upo"), S("1000"), S("upm"), S("0"), S("40")}});
   project.Room(S("A"), {RoomLine(S("Wall"), S("1"))});
-  const QStringList lines = DetailedRecapSheet(project.Source(), {}).lines;
+  const QStringList lines = DetailedRecapSheet(project.Source(), {}).lines.ToList();
   EXPECT_TRUE(lines.contains(S("     Labor    .001 hrs. @ 40.00")));
   EXPECT_TRUE(lines.contains(S("     Material 0 DR @ 250.00")));
   EXPECT_TRUE(lines.contains(S("     Total  $0.00")));

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include "common/textrows.h"
+#include "reports/pricedsystem.h"
+
+namespace tamo {
+
+// A material or labor line of a copy: its texts stand, once for all takeoff lines, and its figures
+// are filled in at the right ends of their columns. A figure wider than its column takes the room
+// it needs.
+class DetailRow {
+ public:
+  static DetailRow Material(const PricedBlock& block, bool office);
+  static DetailRow Labor(bool office);
+
+  // What a line of the Office Copy is worth: the dollars that its last 14 characters say. It counts
+  // as labor by the name at its begin: also a material called "Labor" does.
+  struct Worth {
+    double dollars = 0;
+    bool labor = false;
+  };
+  // Adds the line with a quantity in hundredths and, in the Office Copy, whole dollars.
+  Worth AddTo(TextRows& rows, double hundredths, double dollars) const;
+
+ private:
+  DetailRow(bool office, const QString& name, const QString& unit, qsizetype quantityWidth,
+            qsizetype dollarsWidth);
+
+  bool office_;
+  QString name_;
+  QString unit_;
+  qsizetype quantityWidth_;
+  qsizetype dollarsWidth_;
+  QByteArray blank_;      // the whole line without its figures; empty when it is not Latin-1
+  qsizetype mostDigits_;  // of a quantity that fits
+  bool labor_;
+  bool onlyDollars_;  // nothing but blanks and dollars in the last 14 characters
+};
+
+}  // namespace tamo

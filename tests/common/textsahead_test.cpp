@@ -1,0 +1,77 @@
+#include "common/textsahead.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "common/failure.h"
+#include "common/paths.h"
+#include "support/faultdisk.h"
+
+using namespace tamo;
+
+namespace {
+
+struct TextsAheadTest : ::testing::Test {
+  QTemporaryDir folder;
+  test::FaultDisk disk;
+  Files files{disk};
+
+  QString Path(int number) const { return folder.filePath(QStringLiteral("f%1.txt").arg(number)); }
+  QStringList Written(int count) const {
+    QStringList paths;
+    for (int i = 0; i < count; ++i) {
+      QFile file(Path(i));
+      EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+      file.write("text " + QByteArray::number(i) + "\r\n");
+      paths += file.fileName();
+    }
+    return paths;
+  }
+  void ExpectAsReadOneByOne(const QStringList& paths) {
+    TextsAhead texts(files, paths);
+    for (const QString& path : paths) {
+      QString plain;
+      const int error = path.isEmpty() ? kFileNotFound : files.ReadText(path, plain);
+      QString ahead = QStringLiteral("old");
+      EXPECT_EQ(texts.Next(ahead), error) << path.toStdString();
+      EXPECT_EQ(ahead, plain) << path.toStdString();
+    }
+  }
+};
+
+}  // namespace
+
+TEST_F(TextsAheadTest, GivesEachTextAsPlainReadingDoes) {
+  for (const int count : {0, 1, 23, 24, 25, 500}) ExpectAsReadOneByOne(Written(count));
+}
+
+TEST_F(TextsAheadTest, MissingFilesAndNamesInAnotherCaseAreAsInPlainReading) {
+  QStringList paths = Written(100);
+  for (int i = 0; i < 100; i += 3) paths[i] = folder.filePath(QStringLiteral("F%1.TXT").arg(i));
+  for (int i = 1; i < 100; i += 3) ASSERT_TRUE(QFile::remove(paths[i]));
+  paths[50].clear();
+  paths[98] = folder.filePath(QStringLiteral("none/f.txt"));
+  ExpectAsReadOneByOne(paths);
+}
+
+TEST_F(TextsAheadTest, APendingTextIsReadInsteadOfItsFile) {
+  const QStringList paths = Written(60);
+  disk.SetFull(true);
+  EXPECT_NE(files.SaveText(Path(40), QStringLiteral("kept")), kNoError);
+  ExpectAsReadOneByOne(paths);
+  QString text;
+  TextsAhead texts(files, paths);
+  for (int i = 0; i <= 40; ++i) texts.Next(text);
+  EXPECT_EQ(text, QStringLiteral("kept"));
+}
+
+TEST_F(TextsAheadTest, ItMayEndAtAnyPlace) {
+  const QStringList paths = Written(300);
+  for (int asked = 0; asked < 300; asked += 7) {
+    TextsAhead texts(files, paths);
+    QString text;
+    for (int i = 0; i < asked; ++i) ASSERT_EQ(texts.Next(text), kNoError);
+  }
+}
