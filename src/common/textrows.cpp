@@ -20,22 +20,24 @@ TextRows::TextRows(const QStringList& rows) {
   *this += rows;
 }
 
-TextRows::TextRows(TextRows&& other) noexcept
-    : blocks_(std::move(other.blocks_)),
-      blockSize_(std::exchange(other.blockSize_, 0)),
-      used_(std::exchange(other.used_, 0)),
-      rows_(std::move(other.rows_)) {
-  other.blocks_.clear();
-  other.rows_.clear();
+TextRows::TextRows(TextRows&& other) noexcept {
+  *this = std::move(other);
 }
 
 TextRows& TextRows::operator=(TextRows&& other) noexcept {
-  TextRows taken(std::move(other));
-  blocks_.swap(taken.blocks_);
-  rows_.swap(taken.rows_);
-  blockSize_ = taken.blockSize_;
-  used_ = taken.used_;
+  if (this == &other) return *this;
+  blocks_ = std::exchange(other.blocks_, {});
+  blockSize_ = std::exchange(other.blockSize_, 0);
+  used_ = std::exchange(other.used_, 0);
+  pages_ = std::exchange(other.pages_, {});
+  size_ = std::exchange(other.size_, 0);
+  longest_ = std::exchange(other.longest_, 0);
   return *this;
+}
+
+TextRows::Row& TextRows::NewRow() {
+  if (size_ % kPage == 0) pages_.push_back(std::make_unique_for_overwrite<Row[]>(kPage));
+  return At(size_++);
 }
 
 char* TextRows::Room(size_t bytes) {
@@ -50,6 +52,7 @@ char* TextRows::Room(size_t bytes) {
 TextRows::Row TextRows::Written(std::initializer_list<QStringView> parts) {
   qsizetype count = 0;
   for (const QStringView part : parts) count += part.size();
+  longest_ = std::max(longest_, static_cast<int>(count));
   char* const narrow = Room(static_cast<size_t>(count));
   char* to = narrow;
   unsigned seen = 0;
@@ -72,12 +75,13 @@ TextRows::Row TextRows::Written(std::initializer_list<QStringView> parts) {
 
 char* TextRows::AddNarrow(qsizetype count) {
   char* const text = Room(static_cast<size_t>(count));
-  rows_.push_back({text, static_cast<int>(count), false});
+  longest_ = std::max(longest_, static_cast<int>(count));
+  NewRow() = {text, static_cast<int>(count), false};
   return text;
 }
 
 QString TextRows::operator[](qsizetype at) const {
-  const Row& row = rows_[static_cast<size_t>(at)];
+  const Row& row = At(at);
   if (!row.wide) return QString::fromLatin1(row.text, row.size);
   QString text(row.size, Qt::Uninitialized);
   std::memcpy(text.data(), row.text, static_cast<size_t>(row.size) * sizeof(char16_t));
@@ -99,6 +103,13 @@ QStringList TextRows::ToList() const {
   list.reserve(size());
   for (qsizetype i = 0; i < size(); ++i) list += (*this)[i];
   return list;
+}
+
+int ListRows::Longest() const {
+  if (report_ != nullptr) return report_->Longest();
+  qsizetype longest = 0;
+  for (const QString& row : list_) longest = std::max(longest, row.size());
+  return static_cast<int>(longest);
 }
 
 QString ListRows::Joined() const {

@@ -22,19 +22,18 @@ class TextRows {
   TextRows(const TextRows&) = delete;
   TextRows& operator=(const TextRows&) = delete;
 
-  qsizetype size() const { return static_cast<qsizetype>(rows_.size()); }
-  bool isEmpty() const { return rows_.empty(); }
+  qsizetype size() const { return size_; }
+  bool isEmpty() const { return size_ == 0; }
   QString operator[](qsizetype at) const;
-  qsizetype SizeOf(qsizetype at) const { return rows_[static_cast<size_t>(at)].size; }
+  qsizetype SizeOf(qsizetype at) const { return At(at).size; }
+  int Longest() const { return longest_; }  // characters of the longest row
 
   // One row, made of `parts`.
-  void Add(std::initializer_list<QStringView> parts) { rows_.push_back(Written(parts)); }
+  void Add(std::initializer_list<QStringView> parts) { NewRow() = Written(parts); }
   // One row of `count` characters of Latin-1, which the caller writes before anyone reads the row.
   char* AddNarrow(qsizetype count);
   // Another text for a row that is there.
-  void SetRow(qsizetype at, std::initializer_list<QStringView> parts) {
-    rows_[static_cast<size_t>(at)] = Written(parts);
-  }
+  void SetRow(qsizetype at, std::initializer_list<QStringView> parts) { At(at) = Written(parts); }
   TextRows& operator+=(const QString& row);
   TextRows& operator+=(const QStringList& rows);
 
@@ -45,18 +44,25 @@ class TextRows {
 
  private:
   struct Row {
-    const char* text = nullptr;
-    int size = 0;  // characters
-    bool wide = false;
+    const char* text;
+    int size;  // characters
+    bool wide;
   };
+
+  static constexpr qsizetype kPage = 4096;  // rows
 
   char* Room(size_t bytes);
   Row Written(std::initializer_list<QStringView> parts);
+  Row& NewRow();
+  Row& At(qsizetype at) { return pages_[static_cast<size_t>(at / kPage)][at % kPage]; }
+  const Row& At(qsizetype at) const { return pages_[static_cast<size_t>(at / kPage)][at % kPage]; }
 
   std::vector<std::unique_ptr<char[]>> blocks_;
   size_t blockSize_ = 0;  // of the last block, in bytes
   size_t used_ = 0;       // of it
-  std::vector<Row> rows_;
+  std::vector<std::unique_ptr<Row[]>> pages_;
+  qsizetype size_ = 0;
+  int longest_ = 0;
 };
 
 // The rows of a list: texts that can be changed one by one, or a whole report, shared until one of
@@ -74,6 +80,7 @@ class ListRows {
   qsizetype SizeOf(int row) const {
     return report_ != nullptr ? report_->SizeOf(row) : list_[row].size();
   }
+  int Longest() const;     // characters of the longest row
   QString Joined() const;  // CR LF behind each
 
   // All rows as a list. Of a report it is made at the first call and takes its time.

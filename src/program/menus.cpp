@@ -133,6 +133,8 @@ void Menus::Recap(const QString& detailed) {
 
 void Menus::OfficeCopy() {
   reports_.menu.MakeProjectFile.Show();
+  // The markups may have put it out of reach; with an Office Copy it can be chosen.
+  reports_.menu.MakeProjectFile.SetEnabled(true);
   desks_.LoadMarkups();
   reports_.Show(&ost_);
   reports_.Flag = QStringLiteral("True");

@@ -88,6 +88,7 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
   parts_->shell.onEnded = [this] {
     if (onEnded) onEnded();
   };
+  parts_->shell.beforeEnd = [this] { parts_->bottomLine->LeaveIfOpen(); };
 }
 
 Program::~Program() = default;

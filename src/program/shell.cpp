@@ -69,6 +69,7 @@ void Shell::EndProgram() {
 }
 
 bool Shell::MayEnd() {
+  if (beforeEnd) beforeEnd();
   const auto& pending = kit_.files.PendingSaves();
   if (pending.empty() || kit_.files.TryAgain()) return true;
   QString files;

@@ -36,6 +36,8 @@ class Shell : public ModeShell {
 
   bool Running() const { return running_; }
   std::function<void()> onEnded;
+  // Saves what an open form keeps until it is left.
+  std::function<void()> beforeEnd;
 
  private:
   void ShowMenus(Form& form, std::initializer_list<const char*> names, bool shown);

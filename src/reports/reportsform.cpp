@@ -81,14 +81,22 @@ void ReportsForm::ClearNotes() {
 
 void ReportsForm::Make(const std::function<void()>& report) {
   if (running_) return;
+  // However the report ends, it is told.
   struct Running {
-    bool& flag;
-    explicit Running(bool& f) : flag(f) { flag = true; }
-    ~Running() { flag = false; }
-  } const running(running_);
+    ReportsForm& form;
+    bool whole = false;
+    explicit Running(ReportsForm& f) : form(f) { form.running_ = true; }
+    ~Running() {
+      form.running_ = false;
+      if (form.onProgress) form.onProgress(whole ? 1 : 0, whole ? 1 : 0);
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+  } running(*this);
   Clear();
   try {
     report();
+    running.whole = true;
   } catch (const RunTimeFailure& failure) {
     Clear();
     if (failure.number != kReportStopped) throw;

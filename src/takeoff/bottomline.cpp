@@ -113,6 +113,10 @@ void BottomLine::ItemKey(Key& key) {
   GetDesk().Focus(iPrice);
 }
 
+void BottomLine::LeaveIfOpen() {
+  if (Visible()) Finish();
+}
+
 void BottomLine::Finish() {
   Hide();
   SaveoiList();

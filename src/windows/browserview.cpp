@@ -167,7 +167,8 @@ bool BrowserBinding::TakeKey(QKeyEvent& event) {
 bool BrowserBinding::eventFilter(QObject* object, QEvent* event) {
   if (object == view_.Rows().viewport()) return TakeMouse(event);
   if (event->type() == QEvent::KeyPress) return TakeKey(static_cast<QKeyEvent&>(*event));
-  return object == &view_.Rows() ? false : TakeCommon(event);
+  if (object == &view_.Rows() && event->type() != QEvent::FocusIn) return false;
+  return TakeCommon(event);
 }
 
 }  // namespace tamo

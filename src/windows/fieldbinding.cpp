@@ -1,5 +1,7 @@
 #include "windows/fieldbinding.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -110,6 +112,13 @@ bool AnyFieldBinding::TakeInputMethod(QEvent* event, QObject* object) {
 
 bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
   switch (event->type()) {
+    case QEvent::KeyPress:
+      // A line of its own would come in with its line end as two blanks.
+      if (!field_.multiLine && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste)) {
+        GetDesk().Paste(field_, QGuiApplication::clipboard()->text());
+        return true;
+      }
+      return TakeCommon(event);
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:

@@ -56,7 +56,8 @@ void ListBinding::Apply() {
     view_.doItemsLayout();
     bar->setValue(stood);
   } else if (dynamic_cast<CheckList*>(&list_) != nullptr) {
-    view_.Model().TicksChanged();
+    // Told as changed data, a tick would have the view lay out every row anew.
+    view_.viewport()->update();
   }
   const int index = list_.Index();
   view_.SetSelected(index);

@@ -4,9 +4,13 @@
 #include <QPointF>
 #include <QTimer>
 
+#include <functional>
+
 #include "plans/pdfdraw.h"
 #include "plans/planpictures.h"
 #include "windows/display.h"
+
+class QPrinter;
 
 namespace tamo {
 
@@ -30,6 +34,8 @@ class PlanCanvas : public QAbstractScrollArea {
   // Turns the view by a quarter, clockwise.
   void TurnView();
   void Print();
+  // Asks for a printer; false when the user thinks better of it. The system's dialog, unless set.
+  std::function<bool(QPrinter& printer)> askForPrinter;
 
   std::function<void()> onZoomIn, onZoomOut;  // Ctrl and the wheel, plus and minus
   std::function<void()> onPictures;           // more pictures are there

@@ -14,8 +14,9 @@ void PlanCanvas::Print() {
   const PageSize size = viewer_.SizeOfPage(viewer_.Page());
   printer.setPageOrientation(size.width > size.height ? QPageLayout::Landscape
                                                       : QPageLayout::Portrait);
-  QPrintDialog dialog(&printer, window());
-  if (dialog.exec() != QDialog::Accepted) return;
+  const bool go = askForPrinter ? askForPrinter(printer)
+                                : QPrintDialog(&printer, window()).exec() == QDialog::Accepted;
+  if (!go) return;
   QPainter painter(&printer);
   if (!painter.isActive()) return;
   const QRectF paper = painter.viewport();

@@ -1,5 +1,4 @@
 #include <QPointer>
-#include <QProgressDialog>
 #include <QShortcut>
 
 #include "reports/reportsform.h"
@@ -38,29 +37,6 @@ QWidget* Figures(Builder& b) {
   }
   column->addStretch(1);
   return panel;
-}
-
-// A bar that comes up only when a report takes long; Escape stops it.
-void ShowProgressOf(ReportsForm& form, QWidget& window) {
-  auto dialog = std::make_shared<std::unique_ptr<QProgressDialog>>();
-  form.onProgress = [dialog, shown = QPointer<QWidget>(&window)](int done, int all) {
-    if (done >= all || shown.isNull()) {
-      dialog->reset();
-      return true;
-    }
-    if (*dialog == nullptr) {
-      *dialog = std::make_unique<QProgressDialog>(
-          QStringLiteral("The report is being made. Escape stops it."), QStringLiteral("Stop"), 0,
-          all, shown.data());
-      (*dialog)->setWindowModality(Qt::ApplicationModal);
-      (*dialog)->setMinimumDuration(100);
-    }
-    (*dialog)->setMaximum(all);
-    (*dialog)->setValue(done);
-    const bool go = !(*dialog)->wasCanceled();
-    if (!go) dialog->reset();
-    return go;
-  };
 }
 
 void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
@@ -121,7 +97,6 @@ void LayOutReports(Builder& b) {
   auto* search = new QShortcut(QKeySequence(QKeySequence::Find), &window);
   QObject::connect(search, &QShortcut::activated, &window, [find] { find->Open(); });
   LetTypeGrow(window, {reporter, copy});
-  if (auto* form = dynamic_cast<ReportsForm*>(&b.GetForm())) ShowProgressOf(*form, window);
   window.firstSize = {1080, 700};
 }
 

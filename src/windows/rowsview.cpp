@@ -83,16 +83,9 @@ bool RowsModel::TakeOver() {
   revision_ = list_.RowsRevision();
   beginResetModel();
   rows_ = list_.SharedRows();
-  qsizetype longest = 0;
-  for (int row = 0; row < rows_.Count(); ++row) longest = std::max(longest, rows_.SizeOf(row));
-  longest_ = static_cast<int>(longest);
+  longest_ = rows_.Longest();
   endResetModel();
   return true;
-}
-
-void RowsModel::TicksChanged() {
-  if (rows_.Count() != 0)
-    Q_EMIT dataChanged(index(0), index(rows_.Count() - 1), {Qt::CheckStateRole});
 }
 
 int RowsModel::rowCount(const QModelIndex& parent) const {

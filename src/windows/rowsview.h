@@ -15,7 +15,6 @@ class RowsModel : public QAbstractListModel {
 
   // True when the rows were other ones.
   bool TakeOver();
-  void TicksChanged();
   const ListRows& Rows() const { return rows_; }
   int LongestRow() const { return longest_; }  // characters
 

@@ -10,9 +10,11 @@
 #include <QWindow>
 
 #include "program/program.h"
+#include "reports/reportsform.h"
 #include "windows/formlayouts.h"
 #include "windows/helptopics.h"
 #include "windows/plancanvas.h"
+#include "windows/reportprogress.h"
 
 namespace tamo {
 namespace {
@@ -35,6 +37,7 @@ struct WindowKeeper::Parts {
   QString placesFile;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows;
   std::unique_ptr<Display> display;
+  ReportProgress progress;
 
   Form* activated = nullptr;  // the form whose window was last brought to the front
   // A request for activation that the window system has not answered yet.
@@ -81,6 +84,9 @@ WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QStri
   display.afterSync = [this] { ShowPopups(); };
   for (Form* form : program.GetDesk().Forms()) {
     form->observer = [this] { parts_->display->MarkDirty(); };
+    if (auto* reports = dynamic_cast<ReportsForm*>(form)) {
+      reports->onProgress = [this](int done, int all) { return parts_->progress.Tell(done, all); };
+    }
   }
   program.GetFiles().onPendingChanged = [this] { parts_->display->MarkDirty(); };
   parts_->reportTimer.setSingleShot(true);
@@ -93,7 +99,10 @@ WindowKeeper::~WindowKeeper() {
     if (window->isVisible()) parts_->KeepPlace(*window);
     window->removeEventFilter(this);
   }
-  for (Form* form : parts_->program.GetDesk().Forms()) form->observer = nullptr;
+  for (Form* form : parts_->program.GetDesk().Forms()) {
+    form->observer = nullptr;
+    if (auto* reports = dynamic_cast<ReportsForm*>(form)) reports->onProgress = nullptr;
+  }
   parts_->program.GetFiles().onPendingChanged = nullptr;
   parts_->display.reset();
 }

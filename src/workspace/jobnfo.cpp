@@ -53,7 +53,8 @@ QString PlainPlanName(const QString& planLocation) {
   }
   while (DropEnding(name, QStringLiteral("-Marked"), Qt::CaseSensitive)) {
   }
-  DropEnding(name, pdf, Qt::CaseInsensitive);
+  while (DropEnding(name, pdf, Qt::CaseInsensitive)) {
+  }
   return name;
 }
 

@@ -39,6 +39,7 @@ void TamoForm::DeleteProject() {
   if (JobName.Empty() || id.isEmpty()) return;
   if (!kit_.desk.GetMessages().Ask(QStringLiteral("Delete %1\r%2 ?").arg(id, JobName.Text())))
     return;
+  NeedJobsList();
   const QString entry = id + Blanks(3) + JobName.Text();
   for (int row = 0; row < JobsList.Count(); ++row) {
     if (JobsList.Row(row) != entry) continue;

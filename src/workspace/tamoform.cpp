@@ -118,6 +118,13 @@ void TamoForm::LoadJobsList() {
   QStringList lines;
   kit_.files.ReadLines(kit_.shared.DataPath + QStringLiteral("Jobs.lst"), lines);
   JobsList.SetRows(lines);
+  listedFolder_ = kit_.shared.DataPath;
+}
+
+// The list is written back whole, so it must be that of the present data folder: what was never
+// read, or read elsewhere, would put out the projects of this one.
+void TamoForm::NeedJobsList() {
+  if (listedFolder_ != kit_.shared.DataPath) LoadJobsList();
 }
 
 void TamoForm::SaveJobsList() {
@@ -134,6 +141,7 @@ void TamoForm::SaveJobsList() {
       kit_.files.MakeFolder(folder + kit_.shared.Separator + QLatin1String(name));
     }
   }
+  NeedJobsList();
   kit_.files.SaveLines(kit_.shared.DataPath + QStringLiteral("Jobs.lst"), JobsList.Rows());
 }
 

@@ -28,6 +28,7 @@ class TamoForm : public Form {
   void SaveProjectNumber();
   void LoadJobsList();
   void SaveJobsList();
+  void NeedJobsList();
   void SeedProjectNumber();
 
   // The project's record and its lock.
@@ -52,6 +53,7 @@ class TamoForm : public Form {
   bool NeedProject();
   // True when the project may be changed; otherwise says that it is locked.
   bool NeedUnlocked();
+  bool CanBeAProject(const QString& id);
   void ShowPanel();
   void HidePanel();
 
@@ -88,7 +90,8 @@ class TamoForm : public Form {
   ModeShell& shell_;
   PlanDesk& plan_;
   WorkDesk& work_;
-  QString numberLine_;  // the last line read from Project.num
+  QString listedFolder_;  // the data folder that JobsList was read from
+  QString numberLine_;    // the last line read from Project.num
 };
 
 }  // namespace tamo

@@ -127,9 +127,25 @@ void TamoForm::ClearRecord() {
   kit_.shared.Locked = QStringLiteral("False");
 }
 
+// Every project has a folder of its own that bears its id.
+bool TamoForm::CanBeAProject(const QString& id) {
+  if (NameRefusal(id).isEmpty()) return true;
+  kit_.desk.GetMessages().Tell(
+      QStringLiteral("The new project would have the id \"%1\", and no folder can have that name. "
+                     "Nothing was written. Correct the estimator number in Settings, or the "
+                     "number in the file Project.num of the data folder.")
+          .arg(id));
+  return false;
+}
+
 void TamoForm::NewProject() {
-  kit_.shared.OPN = QStringLiteral("1");
+  const QString open = kit_.shared.JobID;
   LoadProjectNumber();
+  if (!CanBeAProject(kit_.shared.JobID)) {
+    kit_.shared.JobID = open;
+    return;
+  }
+  kit_.shared.OPN = QStringLiteral("1");
   if (settings_.EstimatorNumber.Text().size() != 2) shell_.AskForEstimatorNumber();
   ClearRecord();
   work_.ForgetProject();
@@ -167,12 +183,12 @@ void TamoForm::LeavePlan() {
   const QString loading = kit_.shared.LoadingJobNFO;
   kit_.shared.LoadingJobNFO = QStringLiteral("True");
   plan_.SetPlanLocation(QString());
-  plan_.SetPageText(QString());
   plan_.SetZoomLevel(QString());
   plan_.SetScale(QString(), QString(), QString());
-  kit_.shared.LoadingJobNFO = loading;
   plan_.LoadPlanNotes();
   plan_.OpenBlank();
+  plan_.SetPageText(QString());
+  kit_.shared.LoadingJobNFO = loading;
 }
 
 void TamoForm::LockProject() {

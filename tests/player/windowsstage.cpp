@@ -17,6 +17,7 @@
 #include "player/trouble.h"
 #include "player/widgets.h"
 #include "windows/look.h"
+#include "windows/plancanvas.h"
 #include "windows/windowkeeper.h"
 
 namespace tamo::player {
@@ -88,6 +89,7 @@ class WindowsStage : public Stage {
   // Clicks the button of the plan's own tool bar; false when there is none.
   bool ClickTool(const QString& caption);
   void TakeTool(int mode);
+  void AnswerNoPrinter();
   void GiveBackActivation();
 
   int argumentCount_ = 1;
@@ -163,7 +165,14 @@ QWidget& WindowsStage::FocusWidget() const {
   return *widget;
 }
 
+// Nobody answers a print dialog here.
+void WindowsStage::AnswerNoPrinter() {
+  if (auto* plan = dynamic_cast<PlanCanvas*>(keeper_->Plan()))
+    plan->askForPrinter = [](QPrinter&) { return false; };
+}
+
 void WindowsStage::ChooseMenu(MenuEntry& entry) {
+  if (entry.Owner().Name() == QStringLiteral("OST")) AnswerNoPrinter();
   QWidget& window = *keeper_->WindowOf(entry.Owner());
   if (QApplication::activePopupWidget() == nullptr) GoTo(entry.Owner());
   QAction* action = keeper_->ActionOf(entry);
@@ -332,7 +341,10 @@ void WindowsStage::PlanMode(int mode) {
 void WindowsStage::PlanLine(PagePoint from, PagePoint to) {
   Plan();
   TakeTool(PdfDraw::Measuring);
+  if (played_->Viewer().LineWork().active) PlanKey({tamo::PlanKey::Escape});
   PressOnPlan(from, to);
+  // A press without a way is the first point of a line; the second ends it.
+  if (played_->Viewer().LineWork().active) PressOnPlan(to, to);
 }
 
 void WindowsStage::PlanCircle(PagePoint at) {

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QApplication>
+#include <QString>
+#include <QTextStream>
+
+#include "common/memory.h"
+#include "common/paths.h"
+#include "plans/mupdfdraw.h"
+#include "program/program.h"
+#include "windows/look.h"
+#include "windows/qtservices.h"
+#include "windows/windowkeeper.h"
+
+namespace tamo::bench {
+
+// Nobody sits before a benchmark: what is said goes to the terminal, every question is answered No.
+class SpokenMessages : public Messages {
+ public:
+  void Tell(const QString& text) override { QTextStream(stderr) << text << '\n'; }
+  bool Ask(const QString& text) override {
+    Tell(text);
+    return false;
+  }
+};
+
+class NoPrinter : public Printer {
+ public:
+  void SetFont(const QString&, int) override {}
+  void PrintLine(const QString&) override {}
+  void EndPage() override {}
+  bool BeginPrint(const QString&) override { return false; }
+  void EndPrint() override {}
+};
+
+// The program with its windows, as it starts at a desk, on the home folder `home`.
+class StartedProgram {
+ public:
+  StartedProgram(const QString& programFolder, const QString& home)
+      : platform_{disk_,      clock_,        messages_, printer_,
+                  clipboard_, programFolder, home,      home + QStringLiteral("/config")},
+        files_(disk_),
+        viewer_(files_),
+        program_(platform_, viewer_),
+        windows_(program_, &viewer_, home + QStringLiteral("/windows.ini")) {
+    program_.Start();
+  }
+
+  Program& GetProgram() { return program_; }
+
+ private:
+  RealDisk disk_;
+  SystemClock clock_;
+  SpokenMessages messages_;
+  NoPrinter printer_;
+  DeskClipboard clipboard_;
+  Platform platform_;
+  Files files_;
+  MuPdfDraw viewer_;
+  Program program_;
+  WindowKeeper windows_;
+};
+
+}  // namespace tamo::bench

@@ -1,0 +1,56 @@
+#include "windows/reportprogress.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace tamo {
+namespace {
+
+constexpr int kPatience = 50;  // milliseconds before the bar comes up
+constexpr int kFrame = 16;     // between two movements of the bar
+
+}  // namespace
+
+bool ReportProgress::Tell(int done, int all) {
+  if (all <= 0) {
+    Close();
+    return true;
+  }
+  if (!clock_.isValid()) {
+    clock_.start();
+    shown_ = 0;
+  }
+  if (done >= all) {
+    // The rows still have to come onto the screen; the bar goes when they stand there.
+    if (!dialog_.isNull()) QTimer::singleShot(0, dialog_, &QObject::deleteLater);
+    dialog_.clear();
+    clock_.invalidate();
+    return true;
+  }
+  const qint64 now = clock_.elapsed();
+  if (now < kPatience || now - shown_ < kFrame) return true;
+  shown_ = now;
+  if (dialog_.isNull()) Begin(all);
+  dialog_->setMaximum(all);
+  dialog_->setValue(done);  // lets the window live for a moment
+  const bool go = dialog_.isNull() || !dialog_->wasCanceled();
+  if (!go) Close();
+  return go;
+}
+
+void ReportProgress::Begin(int all) {
+  dialog_ = new QProgressDialog(QStringLiteral("The report is being made. Escape stops it."),
+                                QStringLiteral("Stop"), 0, all, QApplication::activeWindow());
+  dialog_->setWindowModality(Qt::ApplicationModal);
+  dialog_->setAutoReset(false);
+  dialog_->setMinimumDuration(0);
+  dialog_->setValue(0);
+  dialog_->show();
+}
+
+void ReportProgress::Close() {
+  delete dialog_;
+  clock_.invalidate();
+}
+
+}  // namespace tamo
