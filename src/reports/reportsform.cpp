@@ -87,8 +87,8 @@ void ReportsForm::Make(const std::function<void()>& report) {
     bool whole = false;
     explicit Running(ReportsForm& f) : form(f) { form.running_ = true; }
     ~Running() {
-      form.running_ = false;
       if (form.onProgress) form.onProgress(whole ? 1 : 0, whole ? 1 : 0);
+      form.running_ = false;
     }
     Running(const Running&) = delete;
     Running& operator=(const Running&) = delete;

@@ -44,6 +44,8 @@ void ReportProgress::Begin(int all) {
   dialog_->setWindowModality(Qt::ApplicationModal);
   dialog_->setAutoReset(false);
   dialog_->setMinimumDuration(0);
+  // Escape, wherever in the bar the focus is.
+  QObject::connect(dialog_, &QDialog::rejected, dialog_, &QProgressDialog::cancel);
   dialog_->setValue(0);
   dialog_->show();
 }

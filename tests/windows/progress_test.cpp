@@ -1,0 +1,85 @@
+#include <gtest/gtest.h>
+
+#include <QProgressDialog>
+#include <QTest>
+
+#include "windows/application.h"
+#include "windows/reportprogress.h"
+
+namespace tamo {
+namespace {
+
+struct ReportProgressTest : test::WithApplication, testing::Test {
+  // Far enough into a long report.
+  bool TellLate(int done) {
+    progress.Tell(0, 10);
+    QTest::qSleep(80);
+    return progress.Tell(done, 10);
+  }
+  static QProgressDialog* Bar() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      auto* bar = qobject_cast<QProgressDialog*>(window);
+      if (bar != nullptr && bar->isVisible()) return bar;
+    }
+    return nullptr;
+  }
+
+  ReportProgress progress;
+};
+
+TEST_F(ReportProgressTest, AShortReportShowsNoBar) {
+  EXPECT_TRUE(progress.Tell(1, 10));
+  EXPECT_TRUE(progress.Tell(9, 10));
+  EXPECT_TRUE(progress.Tell(10, 10));
+  EXPECT_EQ(Bar(), nullptr);
+  test::Settle();
+  EXPECT_EQ(Bar(), nullptr);
+}
+
+TEST_F(ReportProgressTest, TheBarStaysUntilTheLinesStandOnTheScreen) {
+  EXPECT_TRUE(TellLate(3));
+  ASSERT_NE(Bar(), nullptr);
+  EXPECT_EQ(Bar()->value(), 3);
+  EXPECT_TRUE(progress.Tell(10, 10));
+  EXPECT_NE(Bar(), nullptr);
+  test::Settle();
+  EXPECT_EQ(Bar(), nullptr);
+}
+
+TEST_F(ReportProgressTest, AReportThatStopsTakesItsBarAwayAtOnce) {
+  EXPECT_TRUE(TellLate(3));
+  ASSERT_NE(Bar(), nullptr);
+  EXPECT_TRUE(progress.Tell(0, 0));
+  EXPECT_EQ(Bar(), nullptr);
+  EXPECT_FALSE(progress.Visible());
+}
+
+TEST_F(ReportProgressTest, EscapeStopsTheReport) {
+  EXPECT_TRUE(TellLate(3));
+  ASSERT_NE(Bar(), nullptr);
+  QTest::keyClick(Bar(), Qt::Key_Escape);
+  QTest::qSleep(40);
+  EXPECT_FALSE(progress.Tell(4, 10));
+  EXPECT_EQ(Bar(), nullptr);
+}
+
+TEST_F(ReportProgressTest, AWindowThatGoesTakesItsBarAlong) {
+  auto progressOfWindow = std::make_unique<ReportProgress>();
+  {
+    QWidget window;
+    window.show();
+    window.activateWindow();
+    test::Settle();
+    progressOfWindow->Tell(0, 10);
+    QTest::qSleep(80);
+    progressOfWindow->Tell(1, 10);
+    EXPECT_TRUE(progressOfWindow->Visible());
+  }
+  progressOfWindow->Tell(2, 10);
+  progressOfWindow.reset();
+  test::Settle();
+  EXPECT_EQ(Bar(), nullptr);
+}
+
+}  // namespace
+}  // namespace tamo
