@@ -1,6 +1,7 @@
 // The program from its start to its first visible window, then it ends. Arguments: the program
 // folder and a home folder. bench_start.sh runs it beside empty_window.
 #include <QTimer>
+#include <cstdlib>
 
 #include "startedprogram.h"
 

@@ -206,10 +206,12 @@ const Look& CurrentLook() {
 }
 
 QFont FixedFont() {
+  // Asked for one by one, each family that is missing costs as much as all other fonts of the start.
   static const QString family = [] {
+    const QStringList families = QFontDatabase::families();
     for (const char* name :
          {"MS Gothic", "Noto Sans Mono", "DejaVu Sans Mono", "Consolas", "Menlo"}) {
-      if (QFontDatabase::hasFamily(QLatin1String(name))) return QString(QLatin1String(name));
+      if (families.contains(QLatin1String(name))) return QString(QLatin1String(name));
     }
     return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
   }();

@@ -177,7 +177,9 @@ void WindowKeeper::SyncWindows() {
     }
     for (const auto& synced : window->onSynced) synced();
     if (window->isVisible()) continue;
-    SetOwner(*window, form->OwnerForm() == nullptr ? nullptr : WindowOf(*form->OwnerForm()));
+    // An owner that was never shown has no window to stand over.
+    const auto owner = parts_->windows.find(form->OwnerForm());
+    SetOwner(*window, owner == parts_->windows.end() ? nullptr : owner->second.get());
     window->setAttribute(Qt::WA_ShowWithoutActivating, form != desk.Active());
     window->show();
     shownBehind = shownBehind || form != desk.Active();
