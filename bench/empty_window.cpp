@@ -3,12 +3,11 @@
 #include <QApplication>
 #include <QMainWindow>
 #include <QTimer>
-#include <cstdlib>
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QMainWindow window;
   window.show();
-  QTimer::singleShot(0, &application, [] { _Exit(0); });
+  QTimer::singleShot(0, &application, &QApplication::quit);
   return QApplication::exec();
 }

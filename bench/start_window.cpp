@@ -1,7 +1,6 @@
 // The program from its start to its first visible window, then it ends. Arguments: the program
 // folder and a home folder. bench_start.sh runs it beside empty_window.
 #include <QTimer>
-#include <cstdlib>
 
 #include "startedprogram.h"
 
@@ -12,6 +11,6 @@ int main(int argc, char** argv) {
   tamo::ApplyLook(tamo::Look::Of(QApplication::palette()));
   tamo::bench::StartedProgram started(QString::fromLocal8Bit(argv[1]),
                                       QString::fromLocal8Bit(argv[2]));
-  QTimer::singleShot(0, &application, [] { _Exit(0); });
+  QTimer::singleShot(0, &application, &QApplication::quit);
   return QApplication::exec();
 }

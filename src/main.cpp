@@ -56,8 +56,12 @@ int main(int argc, char** argv) {
       disk,         clock,     messages,
       printer,      clipboard, tamo::FindProgramFolder(QCoreApplication::applicationDirPath()),
       HomeFolder(), config};
-  QApplication::setWindowIcon(QIcon::fromTheme(
-      QStringLiteral("tamo"), QIcon(platform.programFolder + QStringLiteral("/desktop/tamo.svg"))));
+  // Behind the first window: the readers of pictures take their time to load.
+  QTimer::singleShot(0, [&platform] {
+    QApplication::setWindowIcon(
+        QIcon::fromTheme(QStringLiteral("tamo"),
+                         QIcon(platform.programFolder + QStringLiteral("/desktop/tamo.svg"))));
+  });
 
   tamo::Files planFiles(disk);
   tamo::MuPdfDraw viewer(planFiles);

@@ -206,7 +206,8 @@ const Look& CurrentLook() {
 }
 
 QFont FixedFont() {
-  // Asked for one by one, each family that is missing costs as much as all other fonts of the start.
+  // Asked for one by one, each family that is missing costs as much as all other fonts of the
+  // start.
   static const QString family = [] {
     const QStringList families = QFontDatabase::families();
     for (const char* name :

@@ -1,5 +1,6 @@
 #include "windows/tamostyle.h"
 
+#include <QIcon>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -43,6 +44,21 @@ void PaintRound(QPainter& painter, const QRectF& place, bool selected, const Loo
   painter.restore();
 }
 
+// Two arrow heads: a menu bar goes on.
+QIcon FurtherIcon() {
+  constexpr int kSide = 32;
+  QPixmap picture(kSide, kSide);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(CurrentLook().text, 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  for (const double left : {7.0, 17.0}) {
+    const QPointF head[] = {{left, 8}, {left + 8, 16}, {left, 24}};
+    painter.drawPolyline(head, 3);
+  }
+  return picture;
+}
+
 }  // namespace
 
 TamoStyle::TamoStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -57,6 +73,14 @@ void TamoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
   } else {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
+}
+
+// Every menu bar asks for this one at once; the style's own is a picture file, for which all
+// readers of pictures would be loaded at the start.
+QIcon TamoStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                              const QWidget* widget) const {
+  if (icon == SP_ToolBarHorizontalExtensionButton) return FurtherIcon();
+  return QProxyStyle::standardIcon(icon, option, widget);
 }
 
 }  // namespace tamo
