@@ -133,7 +133,13 @@ void PricingForm::ChooseMaterial(const QString& name) {
   Material.SetText(name);
   if (!name.isEmpty() && !Refused(name) && MaterialList.Index() >= MaterialList.Count() - 1)
     LoadMaterial();
-  Focus(Material);
+  // The field mostly has the focus already; what comes with it (the whole name selected, the
+  // prompts) is due all the same.
+  if (Material.HasFocus()) {
+    MaterialGotFocus();
+  } else {
+    Focus(Material);
+  }
 }
 
 // --- the material library ---
@@ -350,6 +356,8 @@ void PricingForm::SelectMaterial() {
     WageRate.Clear();
   }
   if (Material.Usable()) Focus(Material);
+  // The next name typed replaces the one that came up.
+  if (Material.HasFocus()) Material.SelectAll();
   SetUpoUpm();
   ShowMaterialHover();
 }

@@ -16,7 +16,8 @@ const QString kRule = S("    ___________________________________________________
 
 QStringList Recap(BenchProject& project, bool detailed = false) {
   QString adjustment;
-  return MinimalRecapSheet(project.Source(), project.MarkupsOfFile(), detailed, adjustment).lines.ToList();
+  return MinimalRecapSheet(project.Source(), project.MarkupsOfFile(), detailed, adjustment)
+      .lines.ToList();
 }
 
 // Twelve markups in the order of the file: MOH MTX MMU LOH LTX LMU BLOH BLTX BLMU MIOH MITX MIMU.
