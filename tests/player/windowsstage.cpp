@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QMenu>
 #include <QPixmap>
 #include <QRadioButton>
 #include <QTest>
@@ -177,6 +178,12 @@ void WindowsStage::ChooseMenu(MenuEntry& entry) {
   if (QApplication::activePopupWidget() == nullptr) GoTo(entry.Owner());
   QAction* action = keeper_->ActionOf(entry);
   if (action == nullptr) Fail(QStringLiteral("%1 is in no menu").arg(entry.FullName()));
+  // A title in the menu bar only opens its entries; what the entry itself does is asked of the
+  // form.
+  if (action->menu() != nullptr) {
+    GetDesk().ChooseMenu(entry);
+    return;
+  }
   QList<QAction*> above;
   for (const MenuEntry* at = entry.Parent(); at != nullptr; at = at->Parent()) {
     if (QAction* menu = keeper_->ActionOf(*at)) above.prepend(menu);
