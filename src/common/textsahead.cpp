@@ -1,6 +1,7 @@
 #include "common/textsahead.h"
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 #include "common/failure.h"
@@ -18,7 +19,11 @@ TextsAhead::TextsAhead(Files& files, QStringList paths) : files_(files), paths_(
   // A save that is pending is read from memory, which belongs to the asking thread.
   if (paths_.size() < kFewestForThread || !files_.PendingSaves().empty()) return;
   slots_ = std::vector<Slot>(static_cast<size_t>(paths_.size()));
-  thread_ = std::thread([this] { ReadAhead(); });
+  try {
+    thread_ = std::thread([this] { ReadAhead(); });
+  } catch (const std::system_error&) {
+    slots_.clear();  // no thread to be had: each file is read when it is asked for
+  }
 }
 
 TextsAhead::~TextsAhead() {

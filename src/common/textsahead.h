@@ -41,7 +41,7 @@ class TextsAhead {
   int ReadHere(size_t at, QString& text);
 
   Files& files_;
-  QStringList paths_;
+  const QStringList paths_;  // read by both threads
   std::vector<Slot> slots_;  // empty when there is no thread
   std::atomic<size_t> next_ = 0;
   std::atomic<bool> stop_ = false;

@@ -244,6 +244,28 @@ void PlanPainter::State::KeepTile(const TileKey& key, Tile tile) {
   }
 }
 
+PlacedPicture PlanPainter::State::PlacedCoarse(const PlanView& of, int half) {
+  const auto found = coarse.find({of.page, half});
+  if (found == coarse.end()) return {};
+  const PaintPart part = HalfPart(SizeOf(of.page), kCoarseSide, half);
+  const double stretch = of.pixelsPerPoint / part.pixelsPerPoint;
+  const double top = part.top * stretch;
+  const double width = part.width * stretch;
+  const double height = part.height * stretch;
+  if (of.turn == 0) return {0, top, width, height, found->second};
+  TurnedCoarse& turned = turnedCoarse[half];
+  if (turned.of != found->second || turned.turn != of.turn) {
+    turned = {found->second, of.turn,
+              std::make_shared<const Picture>(Turned(*found->second, of.turn))};
+  }
+  const PageSize page = SizeOf(of.page);
+  const double below = page.height * of.pixelsPerPoint - top - height;
+  if (of.turn == 90) return {below, 0, height, width, turned.picture};
+  if (of.turn == 180)
+    return {page.width * of.pixelsPerPoint - width, below, width, height, turned.picture};
+  return {top, page.width * of.pixelsPerPoint - width, height, width, turned.picture};
+}
+
 void PlanPainter::State::KeepCoarse(const PaintJob& job, std::shared_ptr<const Picture> picture) {
   coarse[{job.page, job.half}] = std::move(picture);
   if (!CoarseIsThere(job.page)) return;

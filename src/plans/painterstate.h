@@ -84,6 +84,13 @@ struct PlanPainter::State {
   std::list<std::pair<int, std::shared_ptr<PageList>>> lists;            // latest first
   std::map<std::pair<int, int>, std::shared_ptr<const Picture>> coarse;  // by page and half
   std::deque<int> coarseOrder;
+  // The coarse picture of the page in sight as it was last turned.
+  struct TurnedCoarse {
+    std::shared_ptr<const Picture> of;
+    int turn = 0;
+    std::shared_ptr<const Picture> picture;
+  };
+  TurnedCoarse turnedCoarse[2];
   std::map<TileKey, Tile> tiles;
   std::map<int, std::shared_ptr<const Picture>> thumbnails;
   std::deque<int> wantedThumbnails;
@@ -107,6 +114,8 @@ struct PlanPainter::State {
   std::vector<TileKey> VisibleTiles(const PlanView& of) const;
   PixelRect WantedOf(const TileKey& key, const PlanView& of) const;
   std::shared_ptr<PageList> ListOf(int page);
+  // Turned and stretched for the view; no picture when it is not there yet.
+  PlacedPicture PlacedCoarse(const PlanView& of, int half);
   bool CoarseIsThere(int page) const;
   void KeepTile(const TileKey& key, Tile tile);
   void Fail(int page);

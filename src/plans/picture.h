@@ -13,4 +13,7 @@ struct Picture {
   std::vector<uint32_t> pixels;  // width * height of them
 };
 
+// `picture` turned clockwise by 0, 90, 180 or 270 degrees.
+Picture Turned(const Picture& picture, int turn);
+
 }  // namespace tamo

@@ -125,14 +125,9 @@ std::vector<PlacedPicture> PlanPainter::PicturesFor(const PlanView& asked) {
   std::vector<PlacedPicture> pictures;
   const PlanView view = Sane(asked);
   const std::lock_guard<std::mutex> guard(state_->mutex);
-  // The coarse picture is not turned; a turned view waits for its sharp parts.
-  for (int half = 0; half < 2 && view.turn == 0; ++half) {
-    const auto coarse = state_->coarse.find({view.page, half});
-    if (coarse == state_->coarse.end()) continue;
-    const PaintPart part = HalfPart(state_->SizeOf(view.page), kCoarseSide, half);
-    const double stretch = view.pixelsPerPoint / part.pixelsPerPoint;
-    pictures.push_back(
-        {0, part.top * stretch, part.width * stretch, part.height * stretch, coarse->second});
+  for (int half = 0; half < 2; ++half) {
+    if (auto placed = state_->PlacedCoarse(view, half); placed.picture != nullptr)
+      pictures.push_back(std::move(placed));
   }
   for (const TileKey& key : state_->VisibleTiles(view)) {
     const auto tile = state_->tiles.find(key);

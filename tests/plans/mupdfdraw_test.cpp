@@ -332,6 +332,56 @@ TEST_F(RealPlan, PicturesAreSharpOnEveryTurnAndAnyZoom) {
   }
 }
 
+TEST_F(RealPlan, TheCoarsePictureStandsRightOnEveryTurn) {
+  // A black square in the corner at the top left of the page.
+  ASSERT_EQ(draw->OpenFile(Write("a.pdf", MakePdf({{kLetter, "0 742 50 50 re f"}})), ""), 0);
+  PlanView view;
+  view.pixelsPerPoint = 2;
+  view.width = view.height = 1600;
+  draw->Look(view);
+  ASSERT_TRUE(draw->WaitForCoarse(20000));
+  ASSERT_TRUE(draw->WaitUntilSharp(20000));
+  // At another scale nothing sharp is there yet.
+  view.pixelsPerPoint = 3;
+  struct Corner {
+    int turn;
+    double x, y;  // the middle of the square, in points of the turned page
+  };
+  for (const Corner& corner : {Corner{0, 25, 25}, Corner{90, 792 - 25, 25},
+                               Corner{180, 612 - 25, 792 - 25}, Corner{270, 25, 612 - 25}}) {
+    view.turn = corner.turn;
+    const auto pictures = draw->PicturesFor(view);
+    ASSERT_EQ(pictures.size(), 2U) << corner.turn;
+    int black = 0;
+    double area = 0;
+    for (const PlacedPicture& placed : pictures) {
+      area += placed.width * placed.height;
+      const double x = (corner.x * 3 - placed.left) / placed.width * placed.picture->width;
+      const double y = (corner.y * 3 - placed.top) / placed.height * placed.picture->height;
+      if (x < 0 || y < 0 || x >= placed.picture->width || y >= placed.picture->height) continue;
+      black += placed.picture->pixels[size_t(y) * size_t(placed.picture->width) + size_t(x)] ==
+                       0xff000000U
+                   ? 1
+                   : 0;
+    }
+    EXPECT_EQ(black, 1) << "turn " << corner.turn;
+    EXPECT_NEAR(area, 612 * 3 * 792 * 3.0, 612 * 3 * 12) << "turn " << corner.turn;
+  }
+}
+
+TEST(Picture, TurnsByQuarters) {
+  // 1 2 3
+  // 4 5 6
+  const Picture picture{3, 2, {1, 2, 3, 4, 5, 6}};
+  EXPECT_EQ(Turned(picture, 0).pixels, picture.pixels);
+  EXPECT_EQ(Turned(picture, 90).pixels, (std::vector<uint32_t>{4, 1, 5, 2, 6, 3}));
+  EXPECT_EQ(Turned(picture, 90).width, 2);
+  EXPECT_EQ(Turned(picture, 180).pixels, (std::vector<uint32_t>{6, 5, 4, 3, 2, 1}));
+  EXPECT_EQ(Turned(picture, 180).height, 2);
+  EXPECT_EQ(Turned(picture, 270).pixels, (std::vector<uint32_t>{3, 6, 2, 5, 1, 4}));
+  EXPECT_EQ(Turned(picture, 270).height, 3);
+}
+
 TEST_F(RealPlan, HairlinesStayVisibleOnASmallPicture) {
   ASSERT_EQ(draw->OpenFile(Write("a.pdf", MakePdf({{"/MediaBox[0 0 3456 2592]",
                                                     "0 w 0 G 100 1296 m 3300 1296 l S"}})),
