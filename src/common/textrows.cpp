@@ -67,7 +67,7 @@ TextRows::Row TextRows::Written(std::initializer_list<QStringView> parts) {
   to = wide;
   for (const QStringView part : parts) {
     const size_t bytes = static_cast<size_t>(part.size()) * sizeof(char16_t);
-    std::memcpy(to, part.utf16(), bytes);
+    if (bytes != 0) std::memcpy(to, part.utf16(), bytes);
     to += bytes;
   }
   return {wide, static_cast<int>(count), true};

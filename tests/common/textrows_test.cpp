@@ -22,10 +22,11 @@ TEST(TextRows, RowsComeBackAsTheyWereAdded) {
   rows += S("Größe");
   rows += S("½\" → 墙");
   rows.Add({u"a", u"", S("bc"), u"d"});
+  rows.Add({QStringView(), u"→", QStringView()});
   rows += QStringList{S("x"), S("y")};
   EXPECT_EQ(rows.ToList(), (QStringList{S("Title"), QString(), S("Größe"), S("½\" → 墙"), S("abcd"),
-                                        S("x"), S("y")}));
-  EXPECT_EQ(rows.size(), 7);
+                                        S("→"), S("x"), S("y")}));
+  EXPECT_EQ(rows.size(), 8);
   EXPECT_EQ(rows.SizeOf(3), 6);
   EXPECT_EQ(rows.SizeOf(1), 0);
 }
