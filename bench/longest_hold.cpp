@@ -49,16 +49,13 @@ void WriteProject(const fs::path& data, int rooms) {
 class Watch {
  public:
   Watch() {
-    QObject::connect(&timer_, &QTimer::timeout, [this] {
-      longest_ = std::max(longest_, silence_.restart());
-      ++ticks_;
-    });
+    QObject::connect(&timer_, &QTimer::timeout,
+                     [this] { longest_ = std::max(longest_, silence_.restart()); });
     timer_.start(2);
   }
   void Begin() {
     Settle();
     longest_ = 0;
-    ticks_ = 0;
     silence_.start();
     whole_.start();
   }
@@ -82,7 +79,6 @@ class Watch {
   QElapsedTimer silence_;
   QElapsedTimer whole_;
   qint64 longest_ = 0;
-  int ticks_ = 0;
 };
 
 }  // namespace
@@ -92,7 +88,11 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   tamo::ApplyLook(tamo::Look::Of(QApplication::palette()));
-  const QTemporaryDir home;
+  if (argc < 2) {
+    std::fprintf(stderr, "longest_hold PROGRAM_FOLDER [ROOMS]\n");
+    return 2;
+  }
+  QTemporaryDir home;
   const int rooms = argc > 2 ? std::atoi(argv[2]) : 50000;
   WriteProject(fs::path(home.path().toStdString()) / "Tamo", rooms);
   tamo::bench::StartedProgram started(QString::fromLocal8Bit(argv[1]), home.path());
@@ -115,5 +115,6 @@ int main(int argc, char** argv) {
     choose(report);
     watch.End(report, list("Reports", "Reporter")->Count() + list("Reports", "Reporter1")->Count());
   }
+  home.remove();
   _Exit(0);
 }

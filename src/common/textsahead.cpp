@@ -1,6 +1,7 @@
 #include "common/textsahead.h"
 
 #include <algorithm>
+#include <new>
 #include <system_error>
 #include <utility>
 
@@ -41,14 +42,18 @@ void TextsAhead::ReadAhead() {
   size_t at = 0;
   for (;;) {
     size_t next = next_;
-    for (; at > next + kFilesAhead && !stop_; next = next_) next_.wait(next);
+    for (; at >= next + kFilesAhead && !stop_; next = next_) next_.wait(next);
     at = std::max(at + 1, next + kLead);
     if (stop_ || at >= slots_.size()) return;
     Slot& slot = slots_[at];
     int untouched = Untouched;
     if (!slot.state.compare_exchange_strong(untouched, InWork)) continue;
-    slot.error = files_.GetDisk().Read(paths_[static_cast<qsizetype>(at)], bytes);
-    if (slot.error == kNoError) slot.text = DecodedText(bytes);
+    try {
+      slot.error = files_.GetDisk().Read(paths_[static_cast<qsizetype>(at)], bytes);
+      if (slot.error == kNoError) slot.text = DecodedText(bytes);
+    } catch (const std::bad_alloc&) {
+      slot.error = kFileOther;  // the asking thread reads it once more, and can tell the user
+    }
     slot.state = Ready;
     slot.state.notify_one();
   }

@@ -88,7 +88,7 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
   parts_->shell.onEnded = [this] {
     if (onEnded) onEnded();
   };
-  parts_->shell.beforeEnd = [this] { parts_->bottomLine->LeaveIfOpen(); };
+  parts_->shell.beforeEnd = [this] { parts_->bottomLine->SaveUnsaved(); };
 }
 
 Program::~Program() = default;
@@ -129,7 +129,9 @@ void Program::TrySavesAgain() {
 }
 
 bool Program::MayEnd() {
-  return parts_->shell.MayEnd();
+  bool may = false;
+  GetDesk().Dispatch([&] { may = parts_->shell.MayEnd(); });
+  return may;
 }
 
 }  // namespace tamo

@@ -60,7 +60,7 @@ class CopyMaker : public TakeoffVisitor {
     Add({});
     const double dollars = AddDetails(QuantityOf(kind, line, columns, static_cast<int>(head)));
     report_.total += dollars;
-    const FigureText subtotal = FigureText::Money(dollars);
+    const FigureText subtotal = office_ ? FigureText::Money(dollars) : FigureText::Whole(0);
     report_.lines.SetRow(head, {u"   ", system, pad, end,
                                 BlankView(office_ ? columns.subtotalWidth - subtotal.Size() : 0),
                                 office_ ? subtotal.View() : QStringView()});

@@ -87,7 +87,7 @@ void ReportsForm::Make(const std::function<void()>& report) {
     bool whole = false;
     explicit Running(ReportsForm& f) : form(f) { form.running_ = true; }
     ~Running() {
-      if (form.onProgress) form.onProgress(whole ? 1 : 0, whole ? 1 : 0);
+      if (form.onMade) form.onMade(whole);
       form.running_ = false;
     }
     Running(const Running&) = delete;

@@ -75,10 +75,12 @@ class ReportsForm : public Form {
 
   const std::vector<ReportNote>& Notes() const { return notes_; }
 
-  // Called while a report is made, `done` of `all` sheets or systems; false stops the report. At
-  // its end: 1 of 1, or 0 of 0 when it stopped. A display that lets events through here need not
-  // care for reports asked for meanwhile: they are not begun.
+  // Called while a report is made, `done` of `all` sheets or systems; false stops the report. A
+  // display that lets events through here need not care for reports asked for meanwhile: they are
+  // not begun.
   std::function<bool(int done, int all)> onProgress;
+  // A report has ended: whole, or stopped on something.
+  std::function<void(bool whole)> onMade;
 
  private:
   void Make(const std::function<void()>& report);

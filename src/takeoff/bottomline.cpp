@@ -113,8 +113,8 @@ void BottomLine::ItemKey(Key& key) {
   GetDesk().Focus(iPrice);
 }
 
-void BottomLine::LeaveIfOpen() {
-  if (Visible()) Finish();
+void BottomLine::SaveUnsaved() {
+  if (unsaved_) SaveoiList();
 }
 
 void BottomLine::Finish() {

@@ -25,7 +25,7 @@ class BottomLine : public Form {
 
   // The shell's menu entry, after its guards.
   void BottomLineItems(Form* owner);
-  void LeaveIfOpen();  // the program ends: no line is lost
+  void SaveUnsaved();  // the program ends: no line is lost
 
   void LoadItems();
   void SaveItems();

@@ -113,11 +113,8 @@ bool AnyFieldBinding::TakeInputMethod(QEvent* event, QObject* object) {
 bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
-      // A line of its own would come in with its line end as two blanks.
-      if (!field_.multiLine && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste)) {
-        GetDesk().Paste(field_, QGuiApplication::clipboard()->text());
-        return true;
-      }
+      if (object != &Widget()) return false;
+      if (static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste) && Paste()) return true;
       return TakeCommon(event);
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
@@ -166,6 +163,14 @@ LineBinding::LineBinding(Display& display, TextField& field, QLineEdit& edit)
   };
   connect(&edit, &QLineEdit::selectionChanged, this, selected);
   connect(&edit, &QLineEdit::cursorPositionChanged, this, selected);
+}
+
+// The widget would make two blanks of the line end that comes with a copied line.
+bool LineBinding::Paste() {
+  if (edit_.isReadOnly()) return false;
+  edit_.insert(
+      QGuiApplication::clipboard()->text().replace(QLatin1String("\r\n"), QLatin1String(" ")));
+  return true;
 }
 
 void LineBinding::ShowText() {

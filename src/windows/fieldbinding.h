@@ -22,6 +22,8 @@ class AnyFieldBinding : public Binding {
   virtual void ShowSelection() = 0;
   virtual void ShowNoSelection() = 0;
   virtual bool HasSelection() const = 0;
+  // Pastes in its own way; false leaves it to the widget.
+  virtual bool Paste() { return false; }
 
   // The widget's own editing changed the text, or moved the caret.
   void Edited(QString text, int caret);
@@ -48,6 +50,7 @@ class LineBinding : public AnyFieldBinding {
   void ShowSelection() override;
   void ShowNoSelection() override;
   bool HasSelection() const override { return edit_.hasSelectedText(); }
+  bool Paste() override;
 
  private:
   QLineEdit& edit_;

@@ -212,7 +212,8 @@ QFont FixedFont() {
     const QStringList families = QFontDatabase::families();
     for (const char* name :
          {"MS Gothic", "Noto Sans Mono", "DejaVu Sans Mono", "Consolas", "Menlo"}) {
-      if (families.contains(QLatin1String(name))) return QString(QLatin1String(name));
+      if (families.contains(QLatin1String(name), Qt::CaseInsensitive))
+        return QString(QLatin1String(name));
     }
     return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
   }();

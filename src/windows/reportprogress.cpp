@@ -12,30 +12,31 @@ constexpr int kFrame = 16;     // between two movements of the bar
 }  // namespace
 
 bool ReportProgress::Tell(int done, int all) {
-  if (all <= 0) {
-    Close();
-    return true;
-  }
   if (!clock_.isValid()) {
     clock_.start();
     shown_ = 0;
-  }
-  if (done >= all) {
-    // The rows still have to come onto the screen; the bar goes when they stand there.
-    if (!dialog_.isNull()) QTimer::singleShot(0, dialog_, &QObject::deleteLater);
-    dialog_.clear();
-    clock_.invalidate();
-    return true;
   }
   const qint64 now = clock_.elapsed();
   if (now < kPatience || now - shown_ < kFrame) return true;
   shown_ = now;
   if (dialog_.isNull()) Begin(all);
   dialog_->setMaximum(all);
-  dialog_->setValue(done);  // lets the window live for a moment
+  dialog_->setValue(done);
+  QCoreApplication::processEvents();  // within one long sheet the value stays as it is
   const bool go = dialog_.isNull() || !dialog_->wasCanceled();
   if (!go) Close();
   return go;
+}
+
+void ReportProgress::End(bool whole) {
+  if (!whole) {
+    Close();
+    return;
+  }
+  // The rows still have to come onto the screen; the bar goes when they stand there.
+  if (!dialog_.isNull()) QTimer::singleShot(0, dialog_, &QObject::deleteLater);
+  dialog_.clear();
+  clock_.invalidate();
 }
 
 void ReportProgress::Begin(int all) {

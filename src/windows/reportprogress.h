@@ -15,9 +15,11 @@ class ReportProgress {
   ReportProgress(const ReportProgress&) = delete;
   ReportProgress& operator=(const ReportProgress&) = delete;
 
-  // `done` of `all` sheets are done; of 0 sheets: the report has ended, however it did. False when
-  // the user stops it.
+  // `done` of `all` sheets or systems are done. False when the user stops the report.
   bool Tell(int done, int all);
+  // The report has ended. One that stopped takes its bar away at once, so that it stands over no
+  // message.
+  void End(bool whole);
   bool Visible() const { return !dialog_.isNull(); }
 
  private:

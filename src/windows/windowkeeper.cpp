@@ -86,6 +86,7 @@ WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QStri
     form->observer = [this] { parts_->display->MarkDirty(); };
     if (auto* reports = dynamic_cast<ReportsForm*>(form)) {
       reports->onProgress = [this](int done, int all) { return parts_->progress.Tell(done, all); };
+      reports->onMade = [this](bool whole) { parts_->progress.End(whole); };
     }
   }
   program.GetFiles().onPendingChanged = [this] { parts_->display->MarkDirty(); };
@@ -101,7 +102,10 @@ WindowKeeper::~WindowKeeper() {
   }
   for (Form* form : parts_->program.GetDesk().Forms()) {
     form->observer = nullptr;
-    if (auto* reports = dynamic_cast<ReportsForm*>(form)) reports->onProgress = nullptr;
+    if (auto* reports = dynamic_cast<ReportsForm*>(form)) {
+      reports->onProgress = nullptr;
+      reports->onMade = nullptr;
+    }
   }
   parts_->program.GetFiles().onPendingChanged = nullptr;
   parts_->display.reset();

@@ -116,9 +116,18 @@ void TamoForm::SaveProjectNumber() {
 
 void TamoForm::LoadJobsList() {
   QStringList lines;
-  kit_.files.ReadLines(kit_.shared.DataPath + QStringLiteral("Jobs.lst"), lines);
+  listError_ = kit_.files.ReadLines(kit_.shared.DataPath + QStringLiteral("Jobs.lst"), lines);
   JobsList.SetRows(lines);
   listedFolder_ = kit_.shared.DataPath;
+}
+
+void TamoForm::RequireReadableList() const {
+  if (listError_ == kNoError || listError_ == kFileNotFound || listError_ == kPathNotFound) return;
+  throw RunTimeFailure(
+      listError_,
+      QStringLiteral("The project list %1Jobs.lst could not be read. Nothing is stored over it, so "
+                     "that no project is lost; see to the file, then do this again.")
+          .arg(kit_.shared.DataPath));
 }
 
 // The list is written back whole, so it must be that of the present data folder: what was never
@@ -132,6 +141,7 @@ void TamoForm::SaveJobsList() {
   if (JobName.Empty() || id.isEmpty()) return;
   if (kit_.shared.OPN == QLatin1String("1")) {
     LoadJobsList();
+    RequireReadableList();
     JobsList.Add(id + Blanks(3) + JobName.Text());
     SaveProjectNumber();
     const QString folder =
@@ -142,6 +152,7 @@ void TamoForm::SaveJobsList() {
     }
   }
   NeedJobsList();
+  RequireReadableList();
   kit_.files.SaveLines(kit_.shared.DataPath + QStringLiteral("Jobs.lst"), JobsList.Rows());
 }
 

@@ -29,6 +29,7 @@ class TamoForm : public Form {
   void LoadJobsList();
   void SaveJobsList();
   void NeedJobsList();
+  void RequireReadableList() const;
   void SeedProjectNumber();
 
   // The project's record and its lock.
@@ -90,6 +91,7 @@ class TamoForm : public Form {
   ModeShell& shell_;
   PlanDesk& plan_;
   WorkDesk& work_;
+  int listError_ = 0;     // of that reading
   QString listedFolder_;  // the data folder that JobsList was read from
   QString numberLine_;    // the last line read from Project.num
 };

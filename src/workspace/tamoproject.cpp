@@ -132,7 +132,7 @@ bool TamoForm::CanBeAProject(const QString& id) {
   if (NameRefusal(id).isEmpty()) return true;
   kit_.desk.GetMessages().Tell(
       QStringLiteral("The new project would have the id \"%1\", and no folder can have that name. "
-                     "Nothing was written. Correct the estimator number in Settings, or the "
+                     "No project was made. Correct the estimator number in Settings, or the "
                      "number in the file Project.num of the data folder.")
           .arg(id));
   return false;

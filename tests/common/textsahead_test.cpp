@@ -5,6 +5,10 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <atomic>
+#include <chrono>
+#include <thread>
+
 #include "common/failure.h"
 #include "common/paths.h"
 #include "support/faultdisk.h"
@@ -13,9 +17,32 @@ using namespace tamo;
 
 namespace {
 
+// Counts what is read, and how much of it by another thread.
+class CountingDisk : public test::FaultDisk {
+ public:
+  std::atomic<int> reads = 0;
+  std::atomic<int> elsewhere = 0;
+
+  int Read(const QString& path, QByteArray& bytes) override {
+    if (std::this_thread::get_id() != asking_) ++elsewhere;
+    ++reads;
+    return FaultDisk::Read(path, bytes);
+  }
+  // Until nothing more has been read for a while.
+  void Rest() const {
+    for (int before = -1; before != reads;) {
+      before = reads;
+      std::this_thread::sleep_for(std::chrono::milliseconds(60));
+    }
+  }
+
+ private:
+  std::thread::id asking_ = std::this_thread::get_id();
+};
+
 struct TextsAheadTest : ::testing::Test {
   QTemporaryDir folder;
-  test::FaultDisk disk;
+  CountingDisk disk;
   Files files{disk};
 
   QString Path(int number) const { return folder.filePath(QStringLiteral("f%1.txt").arg(number)); }
@@ -74,4 +101,25 @@ TEST_F(TextsAheadTest, ItMayEndAtAnyPlace) {
     QString text;
     for (int i = 0; i < asked; ++i) ASSERT_EQ(texts.Next(text), kNoError);
   }
+}
+
+TEST_F(TextsAheadTest, AThreadReadsSomeFilesAheadAndNoMore) {
+  const QStringList paths = Written(500);
+  TextsAhead texts(files, paths);
+  QString text;
+  ASSERT_EQ(texts.Next(text), kNoError);
+  disk.Rest();
+  EXPECT_GT(disk.elsewhere, 10);
+  EXPECT_LE(disk.reads, static_cast<int>(TextsAhead::kFilesAhead) + 1);
+  for (int i = 1; i < 400; ++i) ASSERT_EQ(texts.Next(text), kNoError);
+  disk.Rest();
+  EXPECT_LE(disk.reads, 400 + static_cast<int>(TextsAhead::kFilesAhead));
+  EXPECT_GT(disk.reads, 400);
+}
+
+TEST_F(TextsAheadTest, FewFilesAreReadWhenTheyAreAskedFor) {
+  const QStringList paths = Written(20);
+  const TextsAhead texts(files, paths);
+  disk.Rest();
+  EXPECT_EQ(disk.reads, 0);
 }

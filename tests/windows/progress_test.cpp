@@ -2,6 +2,7 @@
 
 #include <QProgressDialog>
 #include <QTest>
+#include <QTimer>
 
 #include "windows/application.h"
 #include "windows/reportprogress.h"
@@ -31,6 +32,7 @@ TEST_F(ReportProgressTest, AShortReportShowsNoBar) {
   EXPECT_TRUE(progress.Tell(1, 10));
   EXPECT_TRUE(progress.Tell(9, 10));
   EXPECT_TRUE(progress.Tell(10, 10));
+  progress.End(true);
   EXPECT_EQ(Bar(), nullptr);
   test::Settle();
   EXPECT_EQ(Bar(), nullptr);
@@ -41,6 +43,12 @@ TEST_F(ReportProgressTest, TheBarStaysUntilTheLinesStandOnTheScreen) {
   ASSERT_NE(Bar(), nullptr);
   EXPECT_EQ(Bar()->value(), 3);
   EXPECT_TRUE(progress.Tell(10, 10));
+  // A second phase begins anew, under the same bar.
+  QTest::qSleep(40);
+  EXPECT_TRUE(progress.Tell(1, 5));
+  EXPECT_TRUE(progress.Visible());
+  EXPECT_EQ(Bar()->maximum(), 5);
+  progress.End(true);
   EXPECT_NE(Bar(), nullptr);
   test::Settle();
   EXPECT_EQ(Bar(), nullptr);
@@ -49,7 +57,7 @@ TEST_F(ReportProgressTest, TheBarStaysUntilTheLinesStandOnTheScreen) {
 TEST_F(ReportProgressTest, AReportThatStopsTakesItsBarAwayAtOnce) {
   EXPECT_TRUE(TellLate(3));
   ASSERT_NE(Bar(), nullptr);
-  EXPECT_TRUE(progress.Tell(0, 0));
+  progress.End(false);
   EXPECT_EQ(Bar(), nullptr);
   EXPECT_FALSE(progress.Visible());
 }
@@ -61,6 +69,14 @@ TEST_F(ReportProgressTest, EscapeStopsTheReport) {
   QTest::qSleep(40);
   EXPECT_FALSE(progress.Tell(4, 10));
   EXPECT_EQ(Bar(), nullptr);
+}
+
+TEST_F(ReportProgressTest, EscapeStopsAReportAlsoWithinOneSheet) {
+  EXPECT_TRUE(TellLate(3));
+  ASSERT_NE(Bar(), nullptr);
+  QTimer::singleShot(0, Bar(), [] { QTest::keyClick(Bar(), Qt::Key_Escape); });
+  QTest::qSleep(40);
+  EXPECT_FALSE(progress.Tell(3, 10));
 }
 
 TEST_F(ReportProgressTest, AWindowThatGoesTakesItsBarAlong) {
