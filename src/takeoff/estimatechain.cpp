@@ -57,10 +57,12 @@ void EstimateForm::AreaGotFocus() {
     GetDesk().Focus(eLength);
     return;
   }
+  // A height that waits for its measure takes the focus back; the list of areas comes up all the
+  // same, so that another area can be chosen. A test holds it.
   if (waiting == QLatin1String("EH") && !eDescription.Empty()) GetDesk().Focus(Hite);
   Area.SelectAll();
   LoadAreas();
-  if (Area.HasFocus()) AreasList.Show();
+  AreasList.Show();
 }
 
 void EstimateForm::DescriptionKey(Key& key) {
