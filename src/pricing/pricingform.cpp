@@ -111,10 +111,12 @@ void PricingForm::SetUpLists() {
   Drops(oUnitsList, OrderUnits, [this](const QString& row) {
     OrderUnits.SetText(row);
     Focus(OrderUnits);
+    OrderUnits.SelectAll();
   });
   Drops(WagesList, WageRate, [this](const QString& row) {
     WageRate.SetText(row);
     Focus(WageRate);
+    WageRate.SelectAll();
   });
 }
 

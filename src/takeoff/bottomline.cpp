@@ -148,6 +148,7 @@ void BottomLine::NameSelected() {
   ItemList.Hide();
   Item.SetText(ItemList.Selected());
   GetDesk().Focus(Item);
+  Item.SelectAll();  // also when it had the focus already
 }
 
 void BottomLine::TakeLine() {
