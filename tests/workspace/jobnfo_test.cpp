@@ -76,6 +76,7 @@ INSTANTIATE_TEST_SUITE_P(Plans, PlanNames,
                                            PlanRow{"E:\\Jobs\\Floor2.PDF.pdf", "Floor2"},
                                            PlanRow{"a-Marked-Marked.pdf", "a"},
                                            PlanRow{"a.pdf-Marked.pdf", "a"},
+                                           PlanRow{"Floor5.pdf.PDF-Marked.pdf", "Floor5"},
                                            PlanRow{"A-101", "A-101"}, PlanRow{"", ""}));
 
 TEST(PlanNames, LandInTheProjectsPlans) {
