@@ -28,8 +28,11 @@ class CountingDisk : public test::FaultDisk {
     ++reads;
     return FaultDisk::Read(path, bytes);
   }
-  // Until nothing more has been read for a while.
-  void Rest() const {
+  // Until `count` files have been read, and then nothing more for a while.
+  void Rest(int count) const {
+    for (int i = 0; reads < count && i < 20000; ++i) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
     for (int before = -1; before != reads;) {
       before = reads;
       std::this_thread::sleep_for(std::chrono::milliseconds(60));
@@ -108,11 +111,11 @@ TEST_F(TextsAheadTest, AThreadReadsSomeFilesAheadAndNoMore) {
   TextsAhead texts(files, paths);
   QString text;
   ASSERT_EQ(texts.Next(text), kNoError);
-  disk.Rest();
-  EXPECT_GT(disk.elsewhere, 10);
+  disk.Rest(11);
+  EXPECT_GE(disk.elsewhere, 10);
   EXPECT_LE(disk.reads, static_cast<int>(TextsAhead::kFilesAhead) + 1);
   for (int i = 1; i < 400; ++i) ASSERT_EQ(texts.Next(text), kNoError);
-  disk.Rest();
+  disk.Rest(401);
   EXPECT_LE(disk.reads, 400 + static_cast<int>(TextsAhead::kFilesAhead));
   EXPECT_GT(disk.reads, 400);
 }
@@ -120,6 +123,6 @@ TEST_F(TextsAheadTest, AThreadReadsSomeFilesAheadAndNoMore) {
 TEST_F(TextsAheadTest, FewFilesAreReadWhenTheyAreAskedFor) {
   const QStringList paths = Written(20);
   const TextsAhead texts(files, paths);
-  disk.Rest();
+  disk.Rest(0);
   EXPECT_EQ(disk.reads, 0);
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QProgressDialog>
 #include <QTest>
 #include <QTimer>
@@ -29,11 +30,19 @@ struct ReportProgressTest : test::WithApplication, testing::Test {
 };
 
 TEST_F(ReportProgressTest, AShortReportShowsNoBar) {
-  EXPECT_TRUE(progress.Tell(1, 10));
-  EXPECT_TRUE(progress.Tell(9, 10));
-  EXPECT_TRUE(progress.Tell(10, 10));
+  QElapsedTimer clock;
+  bool shown = false;
+  // On a busy machine also a few statements may take long; then they are tried again.
+  do {
+    progress.End(false);
+    clock.start();
+    EXPECT_TRUE(progress.Tell(1, 10));
+    EXPECT_TRUE(progress.Tell(9, 10));
+    EXPECT_TRUE(progress.Tell(10, 10));
+    shown = Bar() != nullptr;
+  } while (clock.elapsed() >= 40);
+  EXPECT_FALSE(shown);
   progress.End(true);
-  EXPECT_EQ(Bar(), nullptr);
   test::Settle();
   EXPECT_EQ(Bar(), nullptr);
 }
