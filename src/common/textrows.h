@@ -9,14 +9,15 @@
 
 namespace tamo {
 
-// Rows of text in a few large pieces of memory, one byte a character where that holds the row: a
-// report of millions of lines is made, kept and given back without a piece of memory for each of
-// them. Rows are only added or replaced as a whole.
+// Rows of text in a few large pieces of memory, one byte a character where that holds the row and
+// eight bytes a row beside it: a report of millions of lines is made, kept and given back without a
+// piece of memory for each of them. Rows are only added or replaced as a whole.
 class TextRows {
  public:
   TextRows() = default;
   TextRows(std::initializer_list<QString> rows);
   TextRows(const QStringList& rows);
+  ~TextRows();  // a large report is given back on a thread of its own
   TextRows(TextRows&& other) noexcept;
   TextRows& operator=(TextRows&& other) noexcept;
   TextRows(const TextRows&) = delete;
@@ -25,8 +26,9 @@ class TextRows {
   qsizetype size() const { return size_; }
   bool isEmpty() const { return size_ == 0; }
   QString operator[](qsizetype at) const;
-  qsizetype SizeOf(qsizetype at) const { return At(at).size; }
+  qsizetype SizeOf(qsizetype at) const { return Read(at).size; }
   int Longest() const { return longest_; }  // characters of the longest row
+  size_t Bytes() const;                     // of memory, as far as it is in use
 
   // One row, made of `parts`.
   void Add(std::initializer_list<QStringView> parts) { NewRow() = Written(parts); }
@@ -43,30 +45,37 @@ class TextRows {
   }
 
  private:
-  struct Row {
+  // Where a row's text stands: block 16 bits, place in it 24, characters 23, wide 1. A row too long
+  // for the characters has a block of its own, at whose begin its size stands.
+  using Row = quint64;
+  struct Text {
     const char* text;
-    int size;  // characters
+    qsizetype size;
     bool wide;
   };
+  // The blocks of a row of elements; they never move and double up to 16 MB, which the system hands
+  // out and takes back in one piece.
+  template <typename T>
+  using Blocks = std::vector<std::unique_ptr<T[]>>;
 
-  static constexpr qsizetype kPage = 4096;  // rows
-
+  void Swap(TextRows& other) noexcept;
   char* Room(size_t bytes);
+  char* Place(qsizetype count, bool wide, Row& row);
   Row Written(std::initializer_list<QStringView> parts);
   Row& NewRow();
-  Row& At(qsizetype at) { return pages_[static_cast<size_t>(at / kPage)][at % kPage]; }
-  const Row& At(qsizetype at) const { return pages_[static_cast<size_t>(at / kPage)][at % kPage]; }
+  Row& At(qsizetype at);
+  Text Read(qsizetype at) const;
 
-  std::vector<std::unique_ptr<char[]>> blocks_;
+  Blocks<char> blocks_;
   size_t blockSize_ = 0;  // of the last block, in bytes
   size_t used_ = 0;       // of it
-  std::vector<std::unique_ptr<Row[]>> pages_;
+  size_t filled_ = 0;     // bytes of the blocks before it
+  Blocks<Row> rows_;
   qsizetype size_ = 0;
   int longest_ = 0;
 };
 
-// The rows of a list: texts that can be changed one by one, or a whole report, shared until one of
-// its rows is changed.
+// The rows of a list: texts that can be changed one by one, or a whole report.
 class ListRows {
  public:
   ListRows() = default;
@@ -83,12 +92,12 @@ class ListRows {
   int Longest() const;     // characters of the longest row
   QString Joined() const;  // CR LF behind each
 
-  // All rows as a list. Of a report it is made at the first call and takes its time.
-  const QStringList& List() const;
+  QStringList List() const { return report_ != nullptr ? report_->ToList() : list_; }
+  // The rows to be changed; a report becomes a list first.
   QStringList& Change();
 
  private:
-  mutable QStringList list_;
+  QStringList list_;
   std::shared_ptr<const TextRows> report_;  // its rows count when it is there
 };
 

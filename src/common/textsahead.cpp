@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "common/failure.h"
-#include "common/textlines.h"
 
 namespace tamo {
 namespace {
@@ -38,7 +37,6 @@ TextsAhead::~TextsAhead() {
 // Takes files a little ahead of the asking thread, which reads those in between itself: so neither
 // waits for the other, whichever of them is faster.
 void TextsAhead::ReadAhead() {
-  QByteArray bytes;
   size_t at = 0;
   for (;;) {
     size_t next = next_;
@@ -49,8 +47,7 @@ void TextsAhead::ReadAhead() {
     int untouched = Untouched;
     if (!slot.state.compare_exchange_strong(untouched, InWork)) continue;
     try {
-      slot.error = files_.GetDisk().Read(paths_[static_cast<qsizetype>(at)], bytes);
-      if (slot.error == kNoError) slot.text = DecodedText(bytes);
+      slot.error = files_.ReadStored(paths_[static_cast<qsizetype>(at)], slot.text);
     } catch (const std::bad_alloc&) {
       slot.error = kFileOther;  // the asking thread reads it once more, and can tell the user
     }

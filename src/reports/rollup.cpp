@@ -34,6 +34,18 @@ QString MakeMoney(const QString& text) {
   return WithPoint(Truncated(value * 100 + 0.005));
 }
 
+double ReadWithPoint(double hundredths) {
+  if (std::abs(hundredths) < 1e15 && (hundredths >= 0 || hundredths <= -10))
+    return hundredths / 100;
+  return Value(WithPoint(hundredths));
+}
+
+QString MoneyText(double dollars) {
+  if (dollars == 0 || std::abs(dollars) >= 1e13 || dollars != std::floor(dollars))
+    return MakeMoney(NumberText(dollars));
+  return NumberText(dollars) + QStringLiteral(".00");
+}
+
 QString UnitPriceText(double price) {
   const double cents = Truncated(price * 100 + 0.05);
   return cents == 0 ? QStringLiteral("0.00") : WithPoint(cents);

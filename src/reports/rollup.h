@@ -20,6 +20,11 @@ namespace tamo {
 QString MakeMoney(const QString& text);
 // A point before the last two digits of a whole number, zeros in front until two digits stand.
 QString WithPoint(double hundredths);
+// The number that the text of WithPoint is read as; not always a hundredth of it: -5 hundredths are
+// shown as ".-5", which is read as 0.
+double ReadWithPoint(double hundredths);
+// The money text of a figure.
+QString MoneyText(double dollars);
 // The estimated unit price of a recap row as money.
 QString UnitPriceText(double price);
 
