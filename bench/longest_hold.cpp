@@ -178,7 +178,7 @@ int main(int argc, char** argv) {
   }
   QTemporaryDir home;
   const int rooms = argc > 2 ? std::atoi(argv[2]) : 50000;
-  tamo::bench::WriteLargeBid(std::filesystem::path(home.path().toStdString()) / "Tamo", rooms);
+  tamo::bench::WriteDataFolder(std::filesystem::path(home.path().toStdString()) / "Tamo", rooms, 2);
   tamo::bench::StartedProgram started(QString::fromLocal8Bit(argv[1]), home.path());
   Play play(started.GetProgram());
   play.OpenTheProject();

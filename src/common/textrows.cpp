@@ -14,10 +14,6 @@ constexpr size_t kFirstBlock = size_t(1) << 12;  // bytes
 constexpr size_t kLargestBlock = size_t(1) << 24;
 constexpr size_t kDoublings = 12;  // from the one to the other
 
-constexpr int kSizeBits = 23;
-constexpr int kPlaceBits = 24;
-constexpr qsizetype kLongRow = (qsizetype(1) << kSizeBits) - 1;
-
 // The block of the element `at` and its place in it, of elements of which a first block holds
 // `first`.
 struct Spot {
@@ -70,16 +66,20 @@ TextRows& TextRows::operator=(TextRows&& other) noexcept {
 
 void TextRows::Swap(TextRows& other) noexcept {
   std::swap(blocks_, other.blocks_);
-  std::swap(blockSize_, other.blockSize_);
-  std::swap(used_, other.used_);
+  std::swap(blockBegin_, other.blockBegin_);
+  std::swap(blockNext_, other.blockNext_);
+  std::swap(blockEnd_, other.blockEnd_);
   std::swap(filled_, other.filled_);
   std::swap(rows_, other.rows_);
+  std::swap(rowNext_, other.rowNext_);
+  std::swap(rowEnd_, other.rowEnd_);
   std::swap(size_, other.size_);
   std::swap(longest_, other.longest_);
 }
 
 size_t TextRows::Bytes() const {
-  return filled_ + used_ + static_cast<size_t>(size_) * sizeof(Row);
+  return filled_ + static_cast<size_t>(blockNext_ - blockBegin_) +
+         static_cast<size_t>(size_) * sizeof(Row);
 }
 
 TextRows::Row& TextRows::At(qsizetype at) {
@@ -87,43 +87,28 @@ TextRows::Row& TextRows::At(qsizetype at) {
   return rows_[spot.block][spot.place];
 }
 
-TextRows::Row& TextRows::NewRow() {
-  const Spot spot = SpotOf(static_cast<size_t>(size_++), kFirstBlock / sizeof(Row));
-  if (spot.block == rows_.size()) {
-    const size_t bytes = kFirstBlock << std::min(spot.block, kDoublings);
-    rows_.push_back(std::make_unique_for_overwrite<Row[]>(bytes / sizeof(Row)));
-  }
-  return rows_[spot.block][spot.place];
+void TextRows::AddRows() {
+  const size_t count = (kFirstBlock << std::min(rows_.size(), kDoublings)) / sizeof(Row);
+  rows_.push_back(std::make_unique_for_overwrite<Row[]>(count));
+  rowNext_ = rows_.back().get();
+  rowEnd_ = rowNext_ + count;
 }
 
-char* TextRows::Room(size_t bytes) {
-  if (blocks_.empty() || blockSize_ - used_ < bytes) {
-    filled_ += used_;
-    blockSize_ = std::max(bytes, kFirstBlock << std::min(blocks_.size(), kDoublings));
-    blocks_.push_back(std::make_unique_for_overwrite<char[]>(blockSize_));
-    used_ = 0;
-  }
-  return blocks_.back().get() + std::exchange(used_, used_ + bytes);
+void TextRows::AddBlock(size_t bytes) {
+  filled_ += static_cast<size_t>(blockNext_ - blockBegin_);
+  const size_t size = std::max(bytes, kFirstBlock << std::min(blocks_.size(), kDoublings));
+  blocks_.push_back(std::make_unique_for_overwrite<char[]>(size));
+  blockBegin_ = blockNext_ = blocks_.back().get();
+  blockEnd_ = blockBegin_ + size;
 }
 
-// The place of a text of `count` characters; `row` tells it.
-char* TextRows::Place(qsizetype count, bool wide, Row& row) {
-  const size_t bytes = static_cast<size_t>(count) * (wide ? sizeof(char16_t) : 1);
+char* TextRows::PlaceLong(qsizetype count, bool wide, Row& row) {
   longest_ = std::max(longest_, static_cast<int>(count));
-  char* text = nullptr;
-  if (count < kLongRow) {
-    text = Room(bytes);
-  } else {
-    used_ = blockSize_;  // nothing stands before it in its block
-    text = Room(sizeof count + bytes);
-    std::memcpy(text, &count, sizeof count);
-    text += sizeof count;
-  }
-  const auto place = static_cast<Row>(text - blocks_.back().get());
-  row = ((((blocks_.size() - 1) << kPlaceBits | place) << kSizeBits |
-          static_cast<Row>(std::min(count, kLongRow)))
-         << 1) |
-        (wide ? 1U : 0U);
+  AddBlock(sizeof count + (static_cast<size_t>(count) << (wide ? 1 : 0)));
+  std::memcpy(blockBegin_, &count, sizeof count);
+  row = RowOf(blockBegin_ + sizeof count, kLongRow, wide);
+  char* const text = blockBegin_ + sizeof count;
+  blockNext_ = blockEnd_;
   return text;
 }
 
@@ -156,13 +141,6 @@ TextRows::Row TextRows::Written(std::initializer_list<QStringView> parts) {
     }
   }
   return row;
-}
-
-char* TextRows::AddNarrow(qsizetype count) {
-  Row row = 0;
-  char* const text = Place(count, false, row);
-  NewRow() = row;
-  return text;
 }
 
 QString TextRows::operator[](qsizetype at) const {

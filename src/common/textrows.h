@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <QStringView>
+#include <algorithm>
 #include <initializer_list>
 #include <memory>
 #include <vector>
@@ -33,7 +34,12 @@ class TextRows {
   // One row, made of `parts`.
   void Add(std::initializer_list<QStringView> parts) { NewRow() = Written(parts); }
   // One row of `count` characters of Latin-1, which the caller writes before anyone reads the row.
-  char* AddNarrow(qsizetype count);
+  char* AddNarrow(qsizetype count) {
+    Row row = 0;
+    char* const text = Place(count, false, row);
+    NewRow() = row;
+    return text;
+  }
   // Another text for a row that is there.
   void SetRow(qsizetype at, std::initializer_list<QStringView> parts) { At(at) = Written(parts); }
   TextRows& operator+=(const QString& row);
@@ -59,18 +65,49 @@ class TextRows {
   using Blocks = std::vector<std::unique_ptr<T[]>>;
 
   void Swap(TextRows& other) noexcept;
-  char* Room(size_t bytes);
-  char* Place(qsizetype count, bool wide, Row& row);
+  char* Room(size_t bytes) {
+    if (static_cast<size_t>(blockEnd_ - blockNext_) < bytes) AddBlock(bytes);
+    char* const room = blockNext_;
+    blockNext_ += bytes;
+    return room;
+  }
+  void AddBlock(size_t bytes);
+  // The place of a text of `count` characters; `row` tells it.
+  char* Place(qsizetype count, bool wide, Row& row) {
+    if (count >= kLongRow) return PlaceLong(count, wide, row);
+    longest_ = std::max(longest_, static_cast<int>(count));
+    char* const text = Room(static_cast<size_t>(count) << (wide ? 1 : 0));
+    row = RowOf(text, count, wide);
+    return text;
+  }
+  char* PlaceLong(qsizetype count, bool wide, Row& row);
+  Row RowOf(const char* text, qsizetype size, bool wide) const {
+    const auto place = static_cast<Row>(text - blockBegin_);
+    return (blocks_.size() - 1) << (1 + kSizeBits + kPlaceBits) | place << (1 + kSizeBits) |
+           static_cast<Row>(size) << 1 | (wide ? 1U : 0U);
+  }
   Row Written(std::initializer_list<QStringView> parts);
-  Row& NewRow();
+  Row& NewRow() {
+    if (rowNext_ == rowEnd_) AddRows();
+    ++size_;
+    return *rowNext_++;
+  }
+  void AddRows();
   Row& At(qsizetype at);
   Text Read(qsizetype at) const;
 
+  static constexpr int kSizeBits = 23;
+  static constexpr int kPlaceBits = 24;
+  static constexpr qsizetype kLongRow = (qsizetype(1) << kSizeBits) - 1;
+
   Blocks<char> blocks_;
-  size_t blockSize_ = 0;  // of the last block, in bytes
-  size_t used_ = 0;       // of it
-  size_t filled_ = 0;     // bytes of the blocks before it
+  char* blockBegin_ = nullptr;  // of the last block
+  char* blockNext_ = nullptr;   // what is free of it
+  char* blockEnd_ = nullptr;
+  size_t filled_ = 0;  // bytes in use of the blocks before it
   Blocks<Row> rows_;
+  Row* rowNext_ = nullptr;
+  Row* rowEnd_ = nullptr;
   qsizetype size_ = 0;
   int longest_ = 0;
 };

@@ -4,8 +4,8 @@
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "reports/linequantity.h"
-#include "reports/projectfiles.h"
 #include "reports/rollup.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 namespace {

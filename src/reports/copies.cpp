@@ -7,8 +7,8 @@
 #include "reports/detailrow.h"
 #include "reports/linequantity.h"
 #include "reports/notebook.h"
-#include "reports/projectfiles.h"
 #include "reports/rollup.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 namespace {

@@ -3,7 +3,7 @@
 #include "common/columns.h"
 #include "common/numbers.h"
 #include "reports/namerows.h"
-#include "reports/projectfiles.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 namespace {

@@ -4,13 +4,9 @@
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "common/textlines.h"
-#include "common/textsahead.h"
 
 namespace tamo {
 namespace {
-
-// A long sheet tells its progress within, too.
-constexpr int kLinesBetweenTellings = 2000;
 
 QStringList EverySecond(const QStringList& lines) {
   QStringList names;
@@ -27,24 +23,6 @@ int LoadNames(const ReportSource& source, const QString& folder, const QString& 
   return error;
 }
 
-// The file of a room or area, "" when it can't have one.
-QString SheetPath(const ReportSource& source, SheetKind kind, const QString& name) {
-  if (!NameRefusal(name).isEmpty()) return {};
-  const bool room = kind == SheetKind::Room;
-  return source.folder + (room ? QStringLiteral("Rooms") : QStringLiteral("ATOs")) +
-         source.separator + name + (room ? QStringLiteral(".rfs") : QStringLiteral(".ato"));
-}
-
-// Where the lines begin in the text of a room's or area's file.
-qsizetype FirstLine(SheetKind kind, QStringView text) {
-  LineScanner scanner(text);
-  QStringView height;
-  if (kind == SheetKind::Area || !scanner.Next(height)) return 0;
-  const qsizetype end = height.size();
-  if (end == text.size()) return end;
-  return end + (text.sliced(end).startsWith(QLatin1String("\r\n")) ? 2 : 1);
-}
-
 int LoadSheet(const ReportSource& source, SheetKind kind, const QString& name,
               TakeoffLines& lines) {
   lines = {};
@@ -55,6 +33,22 @@ int LoadSheet(const ReportSource& source, SheetKind kind, const QString& name,
 }
 
 }  // namespace
+
+QString SheetPath(const ReportSource& source, SheetKind kind, const QString& name) {
+  if (!NameRefusal(name).isEmpty()) return {};
+  const bool room = kind == SheetKind::Room;
+  return source.folder + (room ? QStringLiteral("Rooms") : QStringLiteral("ATOs")) +
+         source.separator + name + (room ? QStringLiteral(".rfs") : QStringLiteral(".ato"));
+}
+
+qsizetype FirstLine(SheetKind kind, QStringView text) {
+  LineScanner scanner(text);
+  QStringView height;
+  if (kind == SheetKind::Area || !scanner.Next(height)) return 0;
+  const qsizetype end = height.size();
+  if (end == text.size()) return end;
+  return end + (text.sliced(end).startsWith(QLatin1String("\r\n")) ? 2 : 1);
+}
 
 void TellProgress(const ReportSource& source, int done, int all) {
   if (source.progress && !source.progress(done, all)) {
@@ -94,66 +88,6 @@ int LoadAdj(const ReportSource& source, QString& adjustment) {
 
 double ItemPrice(const QString& item) {
   return Value(QStringView(item).last(qMin<qsizetype>(12, item.size())));
-}
-
-void TakeoffVisitor::BeginSheet(SheetKind, const QString&) {}
-void TakeoffVisitor::EndSheet(SheetKind) {}
-
-namespace {
-
-// Walks through the sheets while the files of the next ones are read.
-class Walk {
- public:
-  Walk(const ReportSource& source, TakeoffVisitor& visitor, const QStringList& rooms,
-       const QStringList& areas)
-      : source_(source),
-        visitor_(visitor),
-        texts_(source.files, Paths(source, rooms, areas)),
-        all_(static_cast<int>(rooms.size() + areas.size())) {}
-
-  void Sheet(SheetKind kind, const QString& name) {
-    visitor_.BeginSheet(kind, name);
-    TakeoffLines sheet;
-    texts_.Next(sheet.text);
-    sheet.first = FirstLine(kind, sheet.text);
-    LineScanner scanner = sheet.Scan();
-    QStringView line;
-    while (scanner.Next(line)) {
-      visitor_.Line(kind, line);
-      if (++lines_ % kLinesBetweenTellings == 0) TellProgress(source_, done_, all_);
-    }
-    visitor_.EndSheet(kind);
-    TellProgress(source_, ++done_, all_);
-  }
-
- private:
-  static QStringList Paths(const ReportSource& source, const QStringList& rooms,
-                           const QStringList& areas) {
-    QStringList paths;
-    paths.reserve(rooms.size() + areas.size());
-    for (const QString& room : rooms) paths += SheetPath(source, SheetKind::Room, room);
-    for (const QString& area : areas) paths += SheetPath(source, SheetKind::Area, area);
-    return paths;
-  }
-
-  const ReportSource& source_;
-  TakeoffVisitor& visitor_;
-  TextsAhead texts_;
-  int done_ = 0;
-  int all_;
-  int lines_ = 0;
-};
-
-}  // namespace
-
-void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor) {
-  QStringList rooms;
-  QStringList areas;
-  if (LoadRooms(source, rooms) != kNoError) rooms.clear();
-  LoadAreas(source, areas);
-  Walk walk(source, visitor, rooms, areas);
-  for (const QString& room : rooms) walk.Sheet(SheetKind::Room, room);
-  for (const QString& area : areas) walk.Sheet(SheetKind::Area, area);
 }
 
 QStringView SystemOfLine(QStringView line) {

@@ -13,6 +13,13 @@ namespace tamo {
 // (0, 53 ...); what could be read stands, nothing is shown. A name that can't be a file's name has
 // no file.
 
+enum class SheetKind { Room, Area };
+
+// The file of a room or area, "" when it can't have one. From any thread.
+QString SheetPath(const ReportSource& source, SheetKind kind, const QString& name);
+// Where the lines begin in the text of a room's or area's file.
+qsizetype FirstLine(SheetKind kind, QStringView text);
+
 // The takeoff lines of one room or area, as text. Empty lines count as lines.
 struct TakeoffLines {
   QString text;
@@ -33,22 +40,6 @@ int LoadAdj(const ReportSource& source, QString& adjustment);
 
 // The price of a bottom line item: the value of its last 12 characters.
 double ItemPrice(const QString& item);
-
-// --- walking through the whole takeoff, rooms first ---
-
-enum class SheetKind { Room, Area };
-
-class TakeoffVisitor {
- public:
-  virtual ~TakeoffVisitor() = default;
-  virtual void BeginSheet(SheetKind kind, const QString& name);
-  virtual void Line(SheetKind kind, QStringView line) = 0;
-  virtual void EndSheet(SheetKind kind);
-};
-
-// Every line of every room, then of every area, in their order. No rooms are visited when the list
-// of rooms can't be read. Tells its progress.
-void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor);
 
 // The system that a takeoff line means: its first 20 characters, trimmed.
 QStringView SystemOfLine(QStringView line);

@@ -7,7 +7,7 @@ namespace tamo {
 namespace {
 
 constexpr int kPatience = 50;  // milliseconds before the bar comes up
-constexpr int kFrame = 8;      // between two looks at what waits: twice in a frame of the screen
+constexpr int kFrame = 5;      // between two looks at what waits: thrice in a frame of the screen
 
 }  // namespace
 
