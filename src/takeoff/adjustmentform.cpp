@@ -2,7 +2,7 @@
 
 #include "common/failure.h"
 #include "common/numbers.h"
-#include "takeoff/takeofffiles.h"
+#include "records/adjustmentfile.h"
 
 namespace tamo {
 

@@ -2,7 +2,10 @@
 
 #include "common/columns.h"
 #include "common/failure.h"
-#include "takeoff/takeofffiles.h"
+#include "records/areafile.h"
+#include "records/namelists.h"
+#include "records/sheetnames.h"
+#include "records/storable.h"
 #include "takeoff/takeoffsystem.h"
 #include "takeoff/unitcodes.h"
 
@@ -148,7 +151,7 @@ void EstimateForm::LeaveForm() {
 
 void EstimateForm::LoadDescriptions() {
   QStringList names;
-  error_ = ReadSystemNames(kit_.files, kit_.shared, names);
+  error_ = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Systems, names);
   DescriptionsList.SetRows(names);
   if (error_ == kNoError && names.isEmpty()) {
     kit_.desk.GetMessages().Tell(QStringLiteral("Enter pricing information first."));
@@ -157,7 +160,7 @@ void EstimateForm::LoadDescriptions() {
 }
 
 void EstimateForm::SaveDescriptions() {
-  WriteSystemNames(kit_.files, kit_.shared, DescriptionsList.Rows());
+  WriteNames(kit_.files, kit_.shared, NameList::Systems, DescriptionsList.Rows());
 }
 
 void EstimateForm::LoadAreas() {
@@ -179,7 +182,7 @@ void EstimateForm::LoadArea() {
   AreaList.Clear();
   workJob_ = kit_.shared.JobID;
   QStringList lines;
-  const int failure = ReadAreaFields(kit_.files, kit_.shared, Area.Text(), lines);
+  const int failure = ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), lines);
   if (failure != kNoError) error_ = failure;
   if (error_ == kNoError) AreaList.AddAll(lines);
   areaError_ = error_;

@@ -1,6 +1,6 @@
 // The lists of the free takeoff: areas, lines, systems, and what the menus do to them.
 
-#include "takeoff/arealine.h"
+#include "records/arealine.h"
 #include "takeoff/estimateform.h"
 #include "takeoff/unitcodes.h"
 

@@ -1,10 +1,10 @@
 // Entering the schedule: Room, then Description and Area in a loop, then How, then the next Room.
 
 #include "common/numbers.h"
+#include "records/roomline.h"
+#include "records/storable.h"
 #include "takeoff/nextname.h"
 #include "takeoff/rfsform.h"
-#include "takeoff/roomline.h"
-#include "takeoff/takeofffiles.h"
 #include "takeoff/unitcodes.h"
 
 namespace tamo {

@@ -1,4 +1,4 @@
-#include "pricing/materialfile.h"
+#include "records/materialfile.h"
 
 #include "common/textlines.h"
 
@@ -27,7 +27,7 @@ QString MaterialFileText(const MaterialBlock& block, const QStringList& ratioTag
 }
 
 QString MaterialPath(const SharedFields& shared, const QString& name) {
-  return shared.SystemsPath() + name + QStringLiteral(".mat");
+  return DataFolder(shared).MaterialFile(name);
 }
 
 }  // namespace tamo

@@ -1,10 +1,7 @@
-#include "takeoff/itemline.h"
-
-#include <cmath>
+#include "records/itemline.h"
 
 #include "common/columns.h"
 #include "common/failure.h"
-#include "common/numbers.h"
 
 namespace tamo {
 
@@ -30,17 +27,6 @@ QString ItemLine::Price() const {
 }
 QString ItemLine::SearchName() const {
   return TrimmedBlanks(Columns(text_, 1, 20));
-}
-
-QString BottomLineMoney(const QString& text) {
-  const double value = Value(text);
-  if (value == 0) return QStringLiteral("0.00");
-  const double cents = std::floor(value * 100 + 0.005);
-  const QString digits = NumberText(cents);
-  if (std::abs(cents) < 10) {
-    return (cents < 0 ? QStringLiteral("-0.0") : QStringLiteral("0.0")) + digits.right(1);
-  }
-  return digits.chopped(2) + QLatin1Char('.') + digits.right(2);
 }
 
 }  // namespace tamo

@@ -1,7 +1,7 @@
-#include "pricing/systemfile.h"
+#include "records/systemfile.h"
 
 #include "common/textlines.h"
-#include "pricing/materialblock.h"
+#include "records/materialblock.h"
 
 namespace tamo {
 namespace {
@@ -56,12 +56,11 @@ QString SystemFileText(const SystemFile& system) {
 }
 
 QString MasterSystemPath(const SharedFields& shared, const QString& name) {
-  return shared.SystemsPath() + name + QStringLiteral(".sys");
+  return DataFolder(shared).SystemFile(name);
 }
 
 QString ProjectSystemPath(const SharedFields& shared, const QString& name) {
-  return shared.ProjectPath() + QStringLiteral("Systems") + shared.Separator + name +
-         QStringLiteral(".sys");
+  return ProjectFolder(shared).SystemFile(name);
 }
 
 }  // namespace tamo

@@ -1,4 +1,4 @@
-#include "workspace/projectnumber.h"
+#include "records/projectnumber.h"
 
 #include <gtest/gtest.h>
 

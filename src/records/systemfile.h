@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "common/sharedfields.h"
+#include "records/datafolder.h"
 
 namespace tamo {
 

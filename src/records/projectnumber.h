@@ -3,6 +3,9 @@
 #include <QDate>
 #include <QString>
 
+#include "common/files.h"
+#include "records/datafolder.h"
+
 namespace tamo {
 
 // A project id is the estimator's two digits, "-", year and month in two digits each, and a running
@@ -19,5 +22,10 @@ struct NextNumber {
 // The number after `line`, the last number given out (with or without an estimator before it).
 // Numbers never go back: with the clock moved back the count goes on.
 NextNumber NumberAfter(const QString& line, const QDate& today);
+
+// The last number given out, as it stands in the data folder. Error numbers as Files has them;
+// `line` keeps its text when there is nothing to read.
+int ReadProjectNumber(Files& files, const DataFolder& data, QString& line);
+int WriteProjectNumber(Files& files, const DataFolder& data, const QString& line);
 
 }  // namespace tamo

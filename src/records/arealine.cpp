@@ -1,8 +1,8 @@
-#include "takeoff/arealine.h"
+#include "records/arealine.h"
 
 #include "common/columns.h"
 #include "common/numbers.h"
-#include "takeoff/takeoffwidths.h"
+#include "records/linewidths.h"
 
 namespace tamo {
 

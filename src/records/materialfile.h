@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-#include "common/sharedfields.h"
-#include "pricing/materialblock.h"
+#include "records/datafolder.h"
+#include "records/materialblock.h"
 
 namespace tamo {
 

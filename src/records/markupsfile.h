@@ -5,6 +5,7 @@
 
 #include "common/files.h"
 #include "common/sharedfields.h"
+#include "records/datafolder.h"
 
 namespace tamo {
 
@@ -19,10 +20,6 @@ struct Markups {
   // The twelve in the order of the file: bottom line before misc.
   std::array<QString*, 12> InFileOrder();
 };
-
-// The project's file with a project open, the master file otherwise.
-QString MasterMarkupsPath(const SharedFields& shared);
-QString ProjectMarkupsPath(const SharedFields& shared);
 
 // Reads the project's file, or the master file when there is none. Texts that a short file does not
 // reach, or all of them when there is no file at all, stay as they are. Returns the error number of

@@ -1,4 +1,4 @@
-#include "takeoff/takeoffwidths.h"
+#include "records/linewidths.h"
 
 #include "common/failure.h"
 

@@ -1,4 +1,5 @@
-#include "workspace/jobnfo.h"
+#include "records/projectrecord.h"
+#include "records/markedplan.h"
 
 #include <gtest/gtest.h>
 
@@ -81,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Plans, PlanNames,
 
 TEST(PlanNames, LandInTheProjectsPlans) {
   EXPECT_EQ(MarkedPlanPath(QStringLiteral("E:\\Jobs\\Floor2-Marked.PDF"),
-                           QStringLiteral("/d/Tamo/Projects/00-2112002/"), QStringLiteral("/")),
+                           DataFolder("/d/Tamo/", "/").Project("00-2112002")),
             QStringLiteral("/d/Tamo/Projects/00-2112002/Plans/Floor2-Marked.pdf"));
 }
 

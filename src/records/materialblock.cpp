@@ -1,4 +1,4 @@
-#include "pricing/materialblock.h"
+#include "records/materialblock.h"
 
 namespace tamo {
 

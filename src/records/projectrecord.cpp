@@ -1,18 +1,9 @@
-#include "workspace/jobnfo.h"
+#include "records/projectrecord.h"
 
-#include "common/paths.h"
+#include "common/failure.h"
 #include "common/textlines.h"
 
 namespace tamo {
-namespace {
-
-bool DropEnding(QString& name, const QString& ending, Qt::CaseSensitivity sensitivity) {
-  if (!name.endsWith(ending, sensitivity)) return false;
-  name.chop(ending.size());
-  return true;
-}
-
-}  // namespace
 
 QString JobNFOText(const JobNFO& record) {
   QStringList lines = {record.jobID,     record.jobName,     record.bidDate,    record.addenda,
@@ -46,22 +37,15 @@ void ReadJobNFO(const QStringList& lines, JobNFO& record) {
   }
 }
 
-QString PlainPlanName(const QString& planLocation) {
-  QString name = FileNameOf(planLocation);
-  const QString pdf = QStringLiteral(".PDF");
-  while (DropEnding(name, pdf, Qt::CaseInsensitive)) {
-  }
-  while (DropEnding(name, QStringLiteral("-Marked"), Qt::CaseSensitive)) {
-  }
-  while (DropEnding(name, pdf, Qt::CaseInsensitive)) {
-  }
-  return name;
+int ReadProjectRecord(Files& files, const ProjectFolder& project, JobNFO& record) {
+  QStringList lines;
+  const int error = files.ReadLines(project.Record(), lines);
+  if (error == kNoError) ReadJobNFO(lines, record);
+  return error;
 }
 
-QString MarkedPlanPath(const QString& planLocation, const QString& projectPath,
-                       const QString& separator) {
-  return projectPath + QStringLiteral("Plans") + separator + PlainPlanName(planLocation) +
-         QStringLiteral("-Marked.pdf");
+int WriteProjectRecord(Files& files, const ProjectFolder& project, const JobNFO& record) {
+  return files.SaveText(project.Record(), JobNFOText(record));
 }
 
 }  // namespace tamo

@@ -3,6 +3,9 @@
 #include <QString>
 #include <QStringList>
 
+#include "common/files.h"
+#include "records/datafolder.h"
+
 namespace tamo {
 
 // One project's information record, as it stands in JobNFO.tamo.
@@ -35,12 +38,8 @@ QString JobNFOText(const JobNFO& record);
 // behind it.
 void ReadJobNFO(const QStringList& lines, JobNFO& record);
 
-// The plain name of a plan: the file name without ".pdf" (once or twice, any case) and without
-// "-Marked".
-QString PlainPlanName(const QString& planLocation);
-
-// Where the project keeps the marked copy of `planLocation`. `projectPath` ends in a separator.
-QString MarkedPlanPath(const QString& planLocation, const QString& projectPath,
-                       const QString& separator);
+// Error numbers as Files has them; `record` stays as it is when there is nothing to read.
+int ReadProjectRecord(Files& files, const ProjectFolder& project, JobNFO& record);
+int WriteProjectRecord(Files& files, const ProjectFolder& project, const JobNFO& record);
 
 }  // namespace tamo

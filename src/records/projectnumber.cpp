@@ -1,4 +1,4 @@
-#include "workspace/projectnumber.h"
+#include "records/projectnumber.h"
 
 #include "common/columns.h"
 #include "common/numbers.h"
@@ -17,6 +17,17 @@ NextNumber NumberAfter(const QString& line, const QDate& today) {
   const QString firstOfMonth = today.toString(QStringLiteral("yyMM")) + QStringLiteral("001");
   if (firstOfMonth > candidate) return {firstOfMonth, true};
   return {candidate, false};
+}
+
+int ReadProjectNumber(Files& files, const DataFolder& data, QString& line) {
+  QStringList lines;
+  const int error = files.ReadLines(data.ProjectNumber(), lines);
+  if (!lines.isEmpty()) line = lines.first();
+  return error;
+}
+
+int WriteProjectNumber(Files& files, const DataFolder& data, const QString& line) {
+  return files.SaveLines(data.ProjectNumber(), {line});
 }
 
 }  // namespace tamo

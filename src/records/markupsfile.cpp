@@ -1,4 +1,4 @@
-#include "pricing/markups.h"
+#include "records/markupsfile.h"
 
 #include "common/failure.h"
 #include "common/textlines.h"
@@ -9,19 +9,11 @@ std::array<QString*, 12> Markups::InFileOrder() {
   return {&MOH, &MTX, &MMU, &LOH, &LTX, &LMU, &BLOH, &BLTX, &BLMU, &MIOH, &MITX, &MIMU};
 }
 
-QString MasterMarkupsPath(const SharedFields& shared) {
-  return shared.DataPath + QStringLiteral("Markups.tamo");
-}
-
-QString ProjectMarkupsPath(const SharedFields& shared) {
-  return shared.ProjectPath() + QStringLiteral("Markups.tamo");
-}
-
 int LoadMarkups(Files& files, const SharedFields& shared, Markups& into) {
   QStringList lines;
   int error = kFileNotFound;
-  if (!shared.JobID.isEmpty()) error = files.ReadLines(ProjectMarkupsPath(shared), lines);
-  if (error != kNoError) error = files.ReadLines(MasterMarkupsPath(shared), lines);
+  if (!shared.JobID.isEmpty()) error = files.ReadLines(ProjectFolder(shared).Markups(), lines);
+  if (error != kNoError) error = files.ReadLines(DataFolder(shared).Markups(), lines);
   if (error != kNoError) return error;
   LineReader reader(lines);
   for (QString* text : into.InFileOrder()) reader.Read(*text);
@@ -32,7 +24,8 @@ int SaveMarkups(Files& files, const SharedFields& shared, Markups markups) {
   QStringList lines;
   for (const QString* text : markups.InFileOrder()) lines += *text;
   return files.SaveLines(
-      shared.JobID.isEmpty() ? MasterMarkupsPath(shared) : ProjectMarkupsPath(shared), lines);
+      shared.JobID.isEmpty() ? DataFolder(shared).Markups() : ProjectFolder(shared).Markups(),
+      lines);
 }
 
 }  // namespace tamo
