@@ -74,7 +74,10 @@ class Project {
   }
 
   ReportSource Source() {
-    return {files_, temporary_.path() + PlatformSeparator(), PlatformSeparator(), &colour_, {},
+    return {files_,
+            {temporary_.path() + PlatformSeparator(), PlatformSeparator()},
+            &colour_,
+            {},
             false};
   }
   const QStringList& Paths() const { return paths_; }
