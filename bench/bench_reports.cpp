@@ -43,8 +43,8 @@ class Project {
 
   // `files` has read none of them before, or all.
   ReportSource Source(Files& files) {
-    return {files, temporary_.path() + PlatformSeparator(), PlatformSeparator(), &colour_, {},
-            false};
+    return {
+        files, {temporary_.path() + PlatformSeparator(), PlatformSeparator()}, &colour_, {}, false};
   }
   const QStringList& Paths() const { return paths_; }
   RealDisk& GetDisk() { return disk_; }

@@ -6,7 +6,7 @@
 
 #include "common/columns.h"
 #include "common/numbers.h"
-#include "reports/projectfiles.h"
+#include "records/linecolumns.h"
 #include "reports/rollup.h"
 
 namespace tamo {

@@ -96,11 +96,7 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files,
-          ProjectFolder(kit_.shared).Path(),
-          kit_.shared.Separator,
-          &kit_.shared.LineColor,
-          onProgress,
+  return {kit_.files, kit_.shared, &kit_.shared.LineColor, onProgress,
           joins_.wholeQuantities.WholeQuantities()};
 }
 

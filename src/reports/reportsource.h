@@ -6,6 +6,7 @@
 
 #include "common/files.h"
 #include "common/textrows.h"
+#include "records/datafolder.h"
 
 namespace tamo {
 
@@ -13,8 +14,7 @@ namespace tamo {
 // it.
 struct ReportSource {
   Files& files;
-  QString folder;     // the open project's folder with its separator
-  QString separator;  // the platform's
+  ProjectFolder project;  // the open one
   // Takes the plan line colour of every system that a report loads: the pen on the plans follows
   // the system that was looked at last. May be nullptr.
   QString* lineColor = nullptr;

@@ -1,9 +1,21 @@
 #include "reports/takeoffwalk.h"
 
 #include "common/failure.h"
+#include "common/paths.h"
 #include "common/textsahead.h"
+#include "records/areafile.h"
+#include "records/roomfile.h"
+#include "records/sheetnames.h"
 
 namespace tamo {
+
+void TellProgress(const ReportSource& source, int done, int all) {
+  if (source.progress && !source.progress(done, all)) {
+    throw RunTimeFailure(kReportStopped,
+                         QStringLiteral("The report was stopped before it was complete. Choose it "
+                                        "again to make it whole."));
+  }
+}
 
 void TakeoffVisitor::BeginSheet(SheetKind, const QString&) {}
 void TakeoffVisitor::EndSheet(SheetKind) {}
@@ -16,8 +28,8 @@ constexpr int kLinesBetweenTellings = 500;
 class Sheets {
  public:
   explicit Sheets(const ReportSource& source) : source_(source) {
-    if (LoadRooms(source, rooms_) != kNoError) rooms_.clear();
-    LoadAreas(source, areas_);
+    if (ReadRoomNames(source.files, source.project, rooms_) != kNoError) rooms_.clear();
+    ReadAreaNames(source.files, source.project, areas_);
   }
 
   qsizetype Count() const { return rooms_.size() + areas_.size(); }
@@ -27,8 +39,13 @@ class Sheets {
   const QString& NameOf(qsizetype at) const {
     return at < rooms_.size() ? rooms_.at(at) : areas_.at(at - rooms_.size());
   }
-  // From any thread.
-  QString PathOf(qsizetype at) const { return SheetPath(source_, KindOf(at), NameOf(at)); }
+  // The file of a sheet, "" when it can't have one. From any thread.
+  QString PathOf(qsizetype at) const {
+    const QString& name = NameOf(at);
+    if (!NameRefusal(name).isEmpty()) return {};
+    return KindOf(at) == SheetKind::Room ? source_.project.RoomFile(name)
+                                         : source_.project.AreaFile(name);
+  }
 
  private:
   const ReportSource& source_;
@@ -49,10 +66,9 @@ class Walk {
   void Sheet(qsizetype at) {
     const SheetKind kind = sheets_.KindOf(at);
     visitor_.BeginSheet(kind, sheets_.NameOf(at));
-    TakeoffLines sheet;
-    texts_.Next(sheet.text);
-    sheet.first = FirstLine(kind, sheet.text);
-    LineScanner scanner = sheet.Scan();
+    QString text;
+    texts_.Next(text);
+    LineScanner scanner = kind == SheetKind::Room ? ScanRoom(text).lines : ScanArea(text);
     QStringView line;
     while (scanner.Next(line)) {
       visitor_.Line(kind, line);

@@ -3,9 +3,12 @@
 #include <QString>
 #include <QStringView>
 
-#include "reports/projectfiles.h"
+#include "records/linecolumns.h"
+#include "reports/reportsource.h"
 
 namespace tamo {
+
+enum class SheetKind { Room, Area };
 
 // Who looks at the whole takeoff of a project, sheet by sheet.
 class TakeoffVisitor {
