@@ -1,5 +1,6 @@
 // The chain of the free takeoff: Area, eDescription, Hite for surfaces, eLength.
 
+#include "common/chain.h"
 #include "common/columns.h"
 #include "common/failure.h"
 #include "common/numbers.h"
@@ -12,30 +13,26 @@
 namespace tamo {
 
 void EstimateForm::BindChain() {
-  Area.onKey = [this](Key& key) { AreaKey(key); };
+  OnEnter(Area, Keys::FileName, [this] { TakeArea(); });
   Area.onGotFocus = [this] { AreaGotFocus(); };
   Area.onLostFocus = [this] { AreasList.Hide(); };
   Area.onDoubleClick = [this] { Toggle(AreasList); };
 
-  eDescription.onKey = [this](Key& key) { DescriptionKey(key); };
-  eDescription.onGotFocus = [this] {
-    eDescription.SelectAll();
+  OnEnter(eDescription, [this] { TakeDescription(); });
+  OnFocusSelectAll(eDescription, [this] {
     if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) LoadDescriptions();
-  };
+  });
   eDescription.onLostFocus = [this] { DescriptionsList.Hide(); };
   eDescription.onDoubleClick = [this] { Toggle(DescriptionsList); };
 
-  Hite.onKey = [this](Key& key) { HiteKey(key); };
-  Hite.onGotFocus = [this] { HiteGotFocus(); };
-  eLength.onKey = [this](Key& key) { LengthKey(key); };
-  eLength.onGotFocus = [this] { LengthGotFocus(); };
+  OnEnter(Hite, Keys::Number, [this] { TakeHeight(); });
+  OnFocusSelectAll(Hite, [this] { HiteGotFocus(); });
+  OnEnter(eLength, Keys::Number, [this] { TakeLength(); });
+  OnFocusSelectAll(eLength, [this] { LengthGotFocus(); });
   eLength.onDoubleClick = [this] { Toggle(Lengths); };
 }
 
-void EstimateForm::AreaKey(Key& key) {
-  if (IsThrownAwayInNames(key)) key.Drop();
-  if (!key.IsEnter()) return;
-  key.Drop();
+void EstimateForm::TakeArea() {
   AreasList.Hide();
   if (Area.Empty()) {
     Hide();
@@ -65,9 +62,7 @@ void EstimateForm::AreaGotFocus() {
   AreasList.Show();
 }
 
-void EstimateForm::DescriptionKey(Key& key) {
-  if (!key.IsEnter()) return;
-  key.Drop();
+void EstimateForm::TakeDescription() {
   DescriptionsList.Hide();
   if (eDescription.Empty()) {
     LeaveDescription();
@@ -137,10 +132,7 @@ void EstimateForm::AskForLength() {
   GetDesk().Focus(eLength);
 }
 
-void EstimateForm::HiteKey(Key& key) {
-  if (!PassesNumberFilter(key)) key.Drop();
-  if (!key.IsEnter()) return;
-  key.Drop();
+void EstimateForm::TakeHeight() {
   if (GroupedValue(Hite.Text()) != 0) {
     plan_.SetToolMode(0);
     plan_.ClearDistance();
@@ -154,17 +146,13 @@ void EstimateForm::HiteKey(Key& key) {
 
 void EstimateForm::HiteGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("EH");
-  Hite.SelectAll();
   areaIndex_ = AreasList.Index();
   AreasList.SetTop(areasTop_);
   plan_.ReleaseMode();
   plan_.ClearDistance();
 }
 
-void EstimateForm::LengthKey(Key& key) {
-  if (!PassesNumberFilter(key)) key.Drop();
-  if (!key.IsEnter()) return;
-  key.Drop();
+void EstimateForm::TakeLength() {
   if (GroupedValue(eLength.Text()) == 0) {
     EndLineEntry();
     return;
@@ -182,7 +170,6 @@ void EstimateForm::LengthKey(Key& key) {
 void EstimateForm::LengthGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("EL");
   Lengths.Hide();
-  eLength.SelectAll();
   if (areaIndex_ < AreasList.Count()) AreasList.SetIndex(areaIndex_);
   AreasList.SetTop(areasTop_);
 }

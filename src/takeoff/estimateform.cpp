@@ -60,14 +60,6 @@ EstimateForm::EstimateForm(const Kit& kit, PlanTools& plan, PricingDesk& pricing
   SetCaption(QStringLiteral("Estimating"));
   Units.readOnly = true;
   Units.inTabOrder = false;
-  for (OrderedList* list : {&AreasList, &DescriptionsList, &Lengths, &CopyAreaList, &System}) {
-    list->takesFocus = false;
-    list->inTabOrder = false;
-    list->Hide();
-  }
-  AreasList.dropsFrom = &Area;
-  DescriptionsList.dropsFrom = &eDescription;
-  Lengths.dropsFrom = &eLength;
   BindMenus();
   BindPopups();
   BindChain();

@@ -80,17 +80,17 @@ class EstimateForm : public Form {
 
   // estimatechain.cpp
   void BindChain();
-  void AreaKey(Key& key);
+  void TakeArea();
   void AreaGotFocus();
-  void DescriptionKey(Key& key);
+  void TakeDescription();
   void LeaveDescription();
   void NextArea();
   void UnknownSystem();
   void TakeSystem();
   void AskForLength();
-  void HiteKey(Key& key);
+  void TakeHeight();
   void HiteGotFocus();
-  void LengthKey(Key& key);
+  void TakeLength();
   void LengthGotFocus();
   void AddEntry();
   void StoreQuantity(double total);

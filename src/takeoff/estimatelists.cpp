@@ -1,5 +1,6 @@
 // The lists of the free takeoff: areas, lines, systems, and what the menus do to them.
 
+#include "common/chain.h"
 #include "takeoff/arealine.h"
 #include "takeoff/estimateform.h"
 #include "takeoff/unitcodes.h"
@@ -7,6 +8,10 @@
 namespace tamo {
 
 void EstimateForm::BindLists() {
+  for (OrderedList* list : {&CopyAreaList, &System}) KeepUnseen(*list);
+  DropFrom(Area, AreasList);
+  DropFrom(eDescription, DescriptionsList);
+  DropFrom(eLength, Lengths);
   AreasList.onSelect = [this] { AreaSelected(); };
   AreasList.onUserScroll = [this] { areasTop_ = AreasList.Top(); };
   AreaList.onSelect = [this] { LineSelected(); };

@@ -1,5 +1,6 @@
 // Entering the schedule: Room, then Description and Area in a loop, then How, then the next Room.
 
+#include "common/chain.h"
 #include "common/numbers.h"
 #include "takeoff/nextname.h"
 #include "takeoff/rfsform.h"
@@ -10,25 +11,25 @@
 namespace tamo {
 
 void RFSForm::BindEntry() {
-  Room.onKey = [this](Key& key) { RoomKey(key); };
-  Room.onGotFocus = [this] { RoomGotFocus(); };
+  OnEnter(Room, Keys::FileName, [this] { TakeRoom(); });
+  OnFocusSelectAll(Room, [this] { RoomGotFocus(); });
   Room.onLostFocus = [this] { kit_.shared.IAmHere.clear(); };
   Room.onDoubleClick = [this] { Toggle(RoomsList); };
 
-  Description.onKey = [this](Key& key) { DescriptionKey(key); };
-  Description.onGotFocus = [this] { DescriptionGotFocus(); };
+  OnEnter(
+      Description, Keys::Any, [this] { TakeDescription(); }, [this] { LeaveDescription(); });
+  HideOnKey(Description, DescriptionsList);
+  OnFocusSelectAll(Description, [this] { DescriptionGotFocus(); });
   Description.onLostFocus = [this] {
     kit_.shared.IAmHere.clear();
     DescriptionsList.Hide();
   };
   Description.onDoubleClick = [this] { Toggle(DescriptionsList); };
 
-  Area.onKey = [this](Key& key) {
-    if (!key.IsEnter()) return;
-    key.Drop();
+  OnEnter(Area, [this] {
     TakeFinishArea();
     StoreLine();
-  };
+  });
   Area.onGotFocus = [this] {
     LoadAreas();
     Area.Select(static_cast<int>(Area.Text().size()), 0);
@@ -45,15 +46,11 @@ void RFSForm::SwitchAutoRoom() {
 
 void RFSForm::RoomGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("RR");
-  Room.SelectAll();
   LoadRooms();
   RoomsList.SetTop(roomsTop_);
 }
 
-void RFSForm::RoomKey(Key& key) {
-  if (IsThrownAwayInNames(key)) key.Drop();
-  if (!key.IsEnter()) return;
-  key.Drop();
+void RFSForm::TakeRoom() {
   RoomsList.Hide();
   if (Room.Empty()) {
     Hide();
@@ -78,18 +75,14 @@ void RFSForm::EnterRoom() {
 
 void RFSForm::DescriptionGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("RD");
-  Description.SelectAll();
   if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) LoadDescriptions();
 }
 
-void RFSForm::DescriptionKey(Key& key) {
-  DescriptionsList.Hide();
-  if (!key.IsEnter()) return;
-  key.Drop();
-  if (Description.Empty()) {
-    GetDesk().Focus(Flag == QLatin1String("Enter") ? How : Room);
-    return;
-  }
+void RFSForm::LeaveDescription() {
+  GetDesk().Focus(Flag == QLatin1String("Enter") ? How : Room);
+}
+
+void RFSForm::TakeDescription() {
   const int at = DescriptionsList.FindAnyCase(Description.Text());
   if (at >= 0) {
     Description.SetText(DescriptionsList.Row(at));
@@ -151,7 +144,7 @@ void RFSForm::AddLine(int at) {
 }
 
 // How in "Enter" mode: the room is finished.
-void RFSForm::HowKeyInEntry() {
+void RFSForm::FinishRoom() {
   if (How.Empty()) How.SetText(CopyHeight);
   CopyHeight = How.Text();
   SaveRoom();

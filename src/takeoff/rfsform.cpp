@@ -71,16 +71,6 @@ RFSForm::RFSForm(const Kit& kit, PlanTools& plan, PricingDesk& pricing,
   }
   Units.readOnly = true;
   Units.inTabOrder = false;
-  for (OrderedList* list :
-       {&RoomsList, &DescriptionsList, &AreaList, &Lengths, &CopyRoomList, &System}) {
-    list->takesFocus = false;
-    list->inTabOrder = false;
-    list->Hide();
-  }
-  RoomsList.dropsFrom = &Room;
-  DescriptionsList.dropsFrom = &Description;
-  AreaList.dropsFrom = &Area;
-  Lengths.dropsFrom = &Length;
   AddText(QStringLiteral("Flag"), &Flag);
   AddText(QStringLiteral("CopyHeight"), &CopyHeight);
   AddText(QStringLiteral("CopyHeight1"), &CopyHeight1);

@@ -99,25 +99,26 @@ class RFSForm : public Form {
 
   // rfsentry.cpp
   void BindEntry();
-  void RoomKey(Key& key);
+  void TakeRoom();
   void RoomGotFocus();
   void EnterRoom();
-  void DescriptionKey(Key& key);
+  void TakeDescription();
+  void LeaveDescription();
   void DescriptionGotFocus();
   void TakeSystem();
   void TakeFinishArea();
   void StoreLine();
   void RewriteLine(int at);
   void AddLine(int at);
-  void HowKeyInEntry();
+  void FinishRoom();
   void NextRoom();
   void SwitchAutoRoom();
 
   // rfstakeoff.cpp
   void BindTakeoff();
-  void HowKey(Key& key);
+  void TakeHeight();
   void HowGotFocus();
-  void LengthKey(Key& key);
+  void TakeLength();
   void LengthGotFocus();
   void LineSelected();
   void AskForLineEntry();

@@ -1,5 +1,6 @@
 // The lists of the schedule: rooms, systems, finish areas, and what the pop-up menus do to them.
 
+#include "common/chain.h"
 #include "common/numbers.h"
 #include "takeoff/rfsform.h"
 #include "takeoff/unitcodes.h"
@@ -7,6 +8,11 @@
 namespace tamo {
 
 void RFSForm::BindLists() {
+  for (OrderedList* list : {&CopyRoomList, &System}) KeepUnseen(*list);
+  DropFrom(Room, RoomsList);
+  DropFrom(Description, DescriptionsList);
+  DropFrom(Area, AreaList);
+  DropFrom(Length, Lengths);
   RoomsList.onSelect = [this] { RoomSelected(); };
   RoomsList.onUserScroll = [this] { roomsTop_ = RoomsList.Top(); };
   DescriptionsList.onSelect = [this] { DescriptionSelected(); };
