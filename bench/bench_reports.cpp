@@ -74,8 +74,7 @@ class Project {
   }
 
   ReportSource Source() {
-    return {files_, temporary_.path() + PlatformSeparator(), PlatformSeparator(), &colour_, {},
-            false};
+    return {files_, temporary_.path() + PlatformSeparator(), PlatformSeparator(), {}, false};
   }
   const QStringList& Paths() const { return paths_; }
   Files& GetFiles() { return files_; }
@@ -98,7 +97,6 @@ class Project {
   QTemporaryDir temporary_;
   RealDisk disk_;
   Files files_{disk_};
-  QString colour_;
   QStringList paths_;
 };
 

@@ -90,8 +90,6 @@ void SystemShelf::Load(QStringView name) {
     unitPriceText_ = &entry.system.unitPrice;
     unitPrice_ = entry.unitPrice;
   }
-  if (entry.system.scalars > 3 && source_.lineColor != nullptr)
-    *source_.lineColor = entry.system.lineColor;
   notes_ = &entry.system.notes;
 }
 

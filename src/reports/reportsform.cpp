@@ -106,11 +106,7 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files,
-          kit_.shared.ProjectPath(),
-          kit_.shared.Separator,
-          &kit_.shared.LineColor,
-          onProgress,
+  return {kit_.files, kit_.shared.ProjectPath(), kit_.shared.Separator, onProgress,
           joins_.wholeQuantities.WholeQuantities()};
 }
 

@@ -15,7 +15,10 @@ namespace tamo {
 void EstimateForm::BindChain() {
   OnEnter(Area, Keys::FileName, [this] { TakeArea(); });
   Area.onGotFocus = [this] { AreaGotFocus(); };
-  Area.onLostFocus = [this] { AreasList.Hide(); };
+  Area.onLostFocus = [this] {
+    AreasList.Hide();
+    FollowAreaName();
+  };
   Area.onDoubleClick = [this] { Toggle(AreasList); };
 
   OnEnter(eDescription, [this] { TakeDescription(); });
@@ -37,14 +40,33 @@ void EstimateForm::TakeArea() {
   if (Area.Empty()) {
     Hide();
   } else {
-    RequireName(QStringLiteral("area"), Area.Text());
-    if (AreasList.Find(Area.Text()) < 0) {
-      AreasList.Add(Area.Text());
-      SaveAreas();
-    }
+    EnterArea();
   }
   LoadArea();
   GetDesk().Focus(eDescription);
+}
+
+void EstimateForm::EnterArea() {
+  RequireName(QStringLiteral("area"), Area.Text());
+  if (AreasList.Find(Area.Text()) >= 0) return;
+  AreasList.Add(Area.Text());
+  SaveAreas();
+}
+
+// Another name than that of the lines below, left without Enter: its own lines come up. The focus
+// goes where the estimator sent it, or back to a name that is refused. False when it was refused.
+bool EstimateForm::FollowAreaName() {
+  if (Area.Empty() || !lines_.OfOpenProject() || lines_.AreOf(Area.Text())) return true;
+  bool loaded = false;
+  following_ = true;
+  GetDesk().Dispatch([&] {
+    EnterArea();
+    LoadArea();
+    loaded = true;
+  });
+  following_ = false;
+  if (!loaded) GetDesk().Focus(Area);
+  return loaded;
 }
 
 void EstimateForm::AreaGotFocus() {
@@ -86,10 +108,7 @@ void EstimateForm::NextArea() {
   const QString next = NextName(Area.Text());
   RequireName(QStringLiteral("area"), next);
   Area.SetText(next);
-  if (AreasList.Find(next) < 0) {
-    AreasList.Add(next);
-    SaveAreas();
-  }
+  EnterArea();
   LoadArea();
   GetDesk().Focus(eDescription);
 }
@@ -99,6 +118,9 @@ void EstimateForm::NextArea() {
 void EstimateForm::UnknownSystem() {
   const QString name = eDescription.Text();
   kit_.desk.GetMessages().Tell(name + QStringLiteral(" Not Found"));
+  // No height or length that is measured meanwhile meets the line before.
+  kit_.shared.IAmHere.clear();
+  unknown_ = true;
   pricing_.ShowWithName(name);
   DescriptionsList.Insert(0, name);
 }
@@ -163,7 +185,7 @@ void EstimateForm::TakeLength() {
         QStringLiteral("No line of the area is selected, so the length has no place. Nothing was "
                        "stored; enter a system or select a line in the list first."));
   }
-  RequireName(QStringLiteral("area"), Area.Text());
+  PrepareSave();
   AddEntry();
 }
 

@@ -13,7 +13,10 @@ namespace tamo {
 void RFSForm::BindEntry() {
   OnEnter(Room, Keys::FileName, [this] { TakeRoom(); });
   OnFocusSelectAll(Room, [this] { RoomGotFocus(); });
-  Room.onLostFocus = [this] { kit_.shared.IAmHere.clear(); };
+  Room.onLostFocus = [this] {
+    kit_.shared.IAmHere.clear();
+    FollowRoomName();
+  };
   Room.onDoubleClick = [this] { Toggle(RoomsList); };
 
   OnEnter(
@@ -27,6 +30,7 @@ void RFSForm::BindEntry() {
   Description.onDoubleClick = [this] { Toggle(DescriptionsList); };
 
   OnEnter(Area, [this] {
+    lines_.RequireStorable(Room.Text());
     TakeFinishArea();
     StoreLine();
   });
@@ -73,6 +77,20 @@ void RFSForm::EnterRoom() {
   SaveRooms();
 }
 
+// Another name than that of the lines below, left without Enter: its own lines come up. The focus
+// goes where the estimator sent it, or back to a name that is refused. False when it was refused.
+bool RFSForm::FollowRoomName() {
+  if (Room.Empty() || !lines_.OfOpenProject() || lines_.AreOf(Room.Text())) return true;
+  bool loaded = false;
+  GetDesk().Dispatch([&] {
+    EnterRoom();
+    LoadRoom();
+    loaded = true;
+  });
+  if (!loaded) GetDesk().Focus(Room);
+  return loaded;
+}
+
 void RFSForm::DescriptionGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("RD");
   if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) LoadDescriptions();
@@ -108,7 +126,6 @@ void RFSForm::TakeFinishArea() {
 // A system stands only once in a room: its line is rewritten, with its quantity; the first empty
 // slot takes a system that is new.
 void RFSForm::StoreLine() {
-  RequireName(QStringLiteral("room"), Room.Text());
   const int at = FindLine(RoomList.Rows(), Description.Text());
   // Another line than the selected one fills Description and Area from the line, so that a finish
   // area typed for it is not taken (held by a test).
@@ -145,6 +162,7 @@ void RFSForm::AddLine(int at) {
 
 // How in "Enter" mode: the room is finished.
 void RFSForm::FinishRoom() {
+  lines_.RequireStorable(Room.Text());
   if (How.Empty()) How.SetText(CopyHeight);
   CopyHeight = How.Text();
   SaveRoom();
@@ -161,6 +179,7 @@ void RFSForm::FinishRoom() {
   // With AutoRoom a room that had lines shows none from here on until it is loaded again (held by a
   // test).
   RoomList.Clear();
+  if (!autoRoom_) lines_.Forget();
   UpdateStatus();
 }
 

@@ -47,8 +47,7 @@ void RFSForm::TakeHeight() {
   Lengths.Clear();
   Lengths.Hide();
   for (TextField* field : {&Description, &Units, &Area, &How}) field->Clear();
-  SaveRoom();
-  EstimateRFS();
+  SaveAndWalkOn();
 }
 
 void RFSForm::LengthGotFocus() {
@@ -77,6 +76,7 @@ void RFSForm::TakeLength() {
         QStringLiteral("No line of the room is selected, so the length has no place. Nothing was "
                        "stored; select a line in the list, then enter the length."));
   }
+  lines_.RequireStorable(Room.Text());
   Description.SetText(RoomLine(RoomList.Selected()).System());
   AddEntry();
 }
@@ -128,7 +128,16 @@ void RFSForm::EndLineEntry() {
   Description.Clear();
   Units.Clear();
   Lengths.Clear();
-  if (RoomList.Index() >= 0) SaveRoom();
+  if (RoomList.Index() >= 0) {
+    SaveAndWalkOn();
+  } else {
+    EstimateRFS();
+  }
+}
+
+// A save that is refused says why; the walk goes on all the same.
+void RFSForm::SaveAndWalkOn() {
+  GetDesk().Dispatch([this] { SaveRoom(); });
   EstimateRFS();
 }
 

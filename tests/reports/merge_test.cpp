@@ -233,7 +233,6 @@ TEST(Systems, WithoutAFileTheTextsOfTheSystemBeforeStay) {
   shelf.Load(u"Wall");
   EXPECT_EQ(shelf.Blocks().size(), 1u);
   shelf.Load(u"Guard");
-  EXPECT_EQ(project.lineColor, S("010020030"));
   shelf.Load(u"Gone");
   EXPECT_EQ(shelf.UnitPrice(), 38.5);
   EXPECT_EQ(shelf.Units(), S("EA"));

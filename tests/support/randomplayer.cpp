@@ -273,23 +273,30 @@ QString RandomPlayer::Replay(const Steps& steps, size_t& taken) const {
   return {};
 }
 
-// Leaves out ever smaller pieces, as long as the same rule still breaks without them.
+// Leaves out ever smaller pieces, as long as the same rule still breaks without them; small pieces
+// are tried at every place, since a step may only be needed by its neighbours.
 RandomPlayer::Steps RandomPlayer::Shrunk(Steps steps, const QString& rule) const {
-  for (size_t piece = steps.size(); piece > 0; piece /= 2) {
-    for (size_t at = 0; at < steps.size();) {
-      Steps fewer = steps;
-      const auto first = fewer.begin() + static_cast<long>(at);
-      fewer.erase(first, fewer.begin() + static_cast<long>(std::min(at + piece, fewer.size())));
-      size_t taken = 0;
-      if (Rule(Replay(fewer, taken)) == rule) {
-        fewer.resize(taken);
-        steps = std::move(fewer);
-      } else {
-        at += piece;
+  constexpr size_t kSmallPiece = 4;
+  for (size_t before = 0; before != steps.size();) {
+    before = steps.size();
+    for (size_t piece = before; piece > 0; piece = piece > kSmallPiece ? piece / 2 : piece - 1) {
+      for (size_t at = 0; at < steps.size();) {
+        if (!LeaveOut(steps, at, piece, rule)) at += piece > kSmallPiece ? piece : 1;
       }
     }
   }
   return steps;
+}
+
+bool RandomPlayer::LeaveOut(Steps& steps, size_t at, size_t piece, const QString& rule) const {
+  Steps fewer = steps;
+  const auto first = fewer.begin() + static_cast<long>(at);
+  fewer.erase(first, fewer.begin() + static_cast<long>(std::min(at + piece, fewer.size())));
+  size_t taken = 0;
+  if (Rule(Replay(fewer, taken)) != rule) return false;
+  fewer.resize(taken);
+  steps = std::move(fewer);
+  return true;
 }
 
 Finding RandomPlayer::Told(const Steps& steps, const QString& broken) const {

@@ -101,6 +101,7 @@ class RandomPlayer {
   // Does them in a game of its own; what broke, and how many steps it took.
   QString Replay(const Steps& steps, size_t& taken) const;
   Steps Shrunk(Steps steps, const QString& rule) const;
+  bool LeaveOut(Steps& steps, size_t at, size_t piece, const QString& rule) const;
   Finding Told(const Steps& steps, const QString& broken) const;
 
   NewGame newGame_;
