@@ -57,8 +57,8 @@ struct Room {
     shared.Separator = PlatformSeparator();
     shared.DataPath = folder.path() + QStringLiteral("/Tamo/");
     shared.JobID = QStringLiteral("00-2112001");
-    QDir().mkpath(shared.SystemsPath());
-    QDir().mkpath(shared.ProjectPath() + QStringLiteral("Systems"));
+    QDir().mkpath(DataFolder(shared).Systems());
+    QDir().mkpath(ProjectFolder(shared).Systems());
     form.Show();
   }
 

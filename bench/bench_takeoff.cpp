@@ -11,9 +11,11 @@
 #include "common/desk.h"
 #include "common/files.h"
 #include "common/kit.h"
+#include "records/namelists.h"
+#include "records/roomfile.h"
+#include "records/roomline.h"
+#include "records/sheetnames.h"
 #include "takeoff/rfsform.h"
-#include "takeoff/roomline.h"
-#include "takeoff/takeofffiles.h"
 
 namespace {
 
@@ -71,17 +73,17 @@ struct BigProject {
     shared.JobID = QStringLiteral("00-2112001");
     shared.DriveBy = QStringLiteral("False");
     for (const char* name : {"Rooms", "Systems"})
-      QDir().mkpath(shared.ProjectPath() + QLatin1String(name));
+      QDir().mkpath(tamo::ProjectFolder(shared).SubFolder(name));
     QStringList systems;
     for (int i = 0; i < 300; ++i) {
       const QString name = QStringLiteral("System %1").arg(i);
       const QString unit = i % 2 == 0 ? QStringLiteral("SF") : QStringLiteral("LF");
       systems += name;
       lines += RoomLine::Of(name, QStringLiteral("WALLS"), QStringLiteral("1234.5"), unit).Text();
-      files.SaveLines(shared.ProjectPath() + QStringLiteral("Systems/%1.sys").arg(name),
+      files.SaveLines(tamo::ProjectFolder(shared).SystemFile(name),
                       {name, unit, QStringLiteral("1.00"), QStringLiteral("255000000")});
     }
-    WriteSystemNames(files, shared, systems);
+    WriteNames(files, shared, NameList::Systems, systems);
     QStringList rooms;
     for (int i = 0; i < 1000; ++i) {
       rooms += QStringLiteral("Room %1").arg(i);

@@ -185,8 +185,7 @@ int Files::Remove(const QString& path) {
 }
 
 int Files::MakeFolder(const QString& path) {
-  QString bare = path;
-  while (bare.size() > 1 && EndsInSeparator(bare)) bare.chop(1);
+  const QString bare = BareFolder(path);
   const int error = disk_.MakeFolder(bare);
   if (error != kNoError && !missingFolders_.contains(bare) && !disk_.Exists(bare)) {
     missingFolders_ += bare;
@@ -222,11 +221,9 @@ int Files::MakeMissingFolders() {
 }
 
 void Files::Sweep(const QString& folder) {
-  QString bare = folder;
-  while (bare.size() > 1 && EndsInSeparator(bare)) bare.chop(1);
+  const QString bare = BareFolder(folder);
   for (const QString& name : disk_.Names(bare)) {
-    if (name.endsWith(QLatin1String(kUnfinishedEnding)))
-      disk_.RemoveFile(bare + PlatformSeparator() + name);
+    if (name.endsWith(QLatin1String(kUnfinishedEnding))) disk_.RemoveFile(InFolder(bare, name));
   }
 }
 

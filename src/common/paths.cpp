@@ -48,6 +48,15 @@ QStringList FolderLevels(const QString& path) {
   return levels;
 }
 
+QString InFolder(const QString& folder, const QString& name) {
+  return EndsInSeparator(folder) ? folder + name : folder + PlatformSeparator() + name;
+}
+
+QString BareFolder(QString folder) {
+  while (folder.size() > 1 && EndsInSeparator(folder)) folder.chop(1);
+  return folder;
+}
+
 QString FileNameOf(const QString& path) {
   return path.mid(LastSeparator(path) + 1);
 }

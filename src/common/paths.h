@@ -27,6 +27,12 @@ QString FixedDataPath(QString path, QChar separator);
 // texts and the bare drive are left out.
 QStringList FolderLevels(const QString& path);
 
+// `folder`, with a separator at its end or without, and the name of something in it.
+QString InFolder(const QString& folder, const QString& name);
+
+// `folder` without separators at its end; a root keeps its own.
+QString BareFolder(QString folder);
+
 // What stands behind the last separator of either kind.
 QString FileNameOf(const QString& path);
 // Everything before the last separator, without it; "" when there is none.

@@ -32,10 +32,6 @@ struct SharedFields {
 
   // Folders that every part of the program builds its paths on.
   QString Separator;  // the platform's
-  QString ProjectPath() const {
-    return DataPath + QStringLiteral("Projects") + Separator + JobID + Separator;
-  }
-  QString SystemsPath() const { return DataPath + QStringLiteral("Systems") + Separator; }
 };
 
 }  // namespace tamo

@@ -3,6 +3,8 @@
 #include "common/paths.h"
 #include "plans/ostform.h"
 #include "plans/planname.h"
+#include "records/plannotes.h"
+#include "records/planpath.h"
 
 // Plan files: picking, opening, the marked copies, and the two small files beside them.
 
@@ -149,9 +151,7 @@ void OSTForm::LoadFN() {
 // --- Marked copies
 
 QString OSTForm::PlansFolder(const QString& id) const {
-  const QString& separator = kit_.shared.Separator;
-  return kit_.shared.DataPath + QStringLiteral("Projects") + separator + id + separator +
-         QStringLiteral("Plans") + separator;
+  return DataFolder(kit_.shared).Project(id).Plans();
 }
 
 void OSTForm::Save() {
@@ -211,26 +211,18 @@ void OSTForm::PlanSaved(const QString& target) {
 // --- Path.tam and the notes
 
 void OSTForm::SavePath() {
-  const QString& separator = kit_.shared.Separator;
-  kit_.files.SaveLines(
-      kit_.shared.DataPath + QStringLiteral("Plans") + separator + QStringLiteral("Path.tam"),
-      {Dir1.Folder(), File1.Folder()});
+  WritePlanPath(kit_.files, kit_.shared, {Dir1.Folder(), File1.Folder()});
 }
 
 void OSTForm::LoadPath() {
-  const QString& separator = kit_.shared.Separator;
-  QStringList lines;
-  if (kit_.files.ReadLines(
-          kit_.shared.DataPath + QStringLiteral("Plans") + separator + QStringLiteral("Path.tam"),
-          lines) != kNoError)
-    return;
+  PlanPath path;
+  if (ReadPlanPath(kit_.files, kit_.shared, path) != kNoError) return;
   Disk& disk = kit_.files.GetDisk();
-  const auto take = [&](FileBrowser& browser, qsizetype line) {
-    if (line < lines.size() && disk.IsFolder(NativePath(lines[line])))
-      browser.SetFolder(NativePath(lines[line]));
+  const auto take = [&](FileBrowser& browser, const QString& folder) {
+    if (disk.IsFolder(NativePath(folder))) browser.SetFolder(NativePath(folder));
   };
-  take(Dir1, 0);
-  take(File1, 1);
+  take(Dir1, path.folders);
+  take(File1, path.plans);
 }
 
 void OSTForm::StartBrowser() {
@@ -242,22 +234,15 @@ void OSTForm::LoadOSTNotes() {
   LoadPlanNotes();
 }
 
-// A line end follows each line that is read, and one follows the text that is written: notes that
-// are loaded and saved grow by an empty line. A test holds it.
 void OSTForm::LoadPlanNotes() {
-  QStringList lines;
-  if (!kit_.shared.JobID.isEmpty()) {
-    kit_.files.ReadLines(PlansFolder(kit_.shared.JobID) + QStringLiteral("PlanNotes.tamo"), lines);
-  }
-  QString text;
-  for (const QString& line : lines) text += line + QStringLiteral("\r\n");
-  PlanNotes.SetText(text);
+  QString notes;
+  if (!kit_.shared.JobID.isEmpty()) ReadPlanNotes(kit_.files, kit_.shared, notes);
+  PlanNotes.SetText(notes);
 }
 
 void OSTForm::SavePlanNotes() {
   if (kit_.shared.JobID.isEmpty()) return;
-  kit_.files.SaveText(PlansFolder(kit_.shared.JobID) + QStringLiteral("PlanNotes.tamo"),
-                      PlanNotes.Text() + QStringLiteral("\r\n"));
+  WritePlanNotes(kit_.files, kit_.shared, PlanNotes.Text());
 }
 
 }  // namespace tamo

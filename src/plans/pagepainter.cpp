@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "plans/planfileinner.h"
+#include "plans/pagerun.h"
 
 namespace tamo {
 namespace {
@@ -17,18 +17,6 @@ constexpr int kLargestSide = 16384;
 
 fz_cookie* CookieOf(PaintStop& stop) {
   return static_cast<fz_cookie*>(stop.Cookie());
-}
-
-// Runs contents, then all annotations that are not marks of ours, then the form fields.
-void RunPage(fz_context* context, pdf_page* page, fz_device* device, fz_cookie* cookie) {
-  pdf_run_page_contents(context, page, device, fz_identity, cookie);
-  for (pdf_annot* annotation = pdf_first_annot(context, page); annotation != nullptr;
-       annotation = pdf_next_annot(context, annotation)) {
-    if (cookie->abort) return;
-    if (IsOwnMark(context, pdf_annot_obj(context, annotation))) continue;
-    pdf_run_annot(context, annotation, device, fz_identity, cookie);
-  }
-  pdf_run_page_widgets(context, page, device, fz_identity, cookie);
 }
 
 // A pattern that would be repeated millions of times is no drawing but a trap: nothing can stop the

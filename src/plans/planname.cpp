@@ -1,7 +1,7 @@
 #include "plans/planname.h"
 
 #include "common/paths.h"
-#include "workspace/jobnfo.h"
+#include "records/markedplan.h"
 
 namespace tamo {
 
@@ -20,9 +20,8 @@ bool NamesAbout(const QString& path) {
 
 QString MarkedName(const QString& path, QString& refusal) {
   const QString plain = PlainPlanName(PlanNameOf(path));
-  refusal =
-      NameRefusal(plain.trimmed().isEmpty() ? QString() : plain + QStringLiteral("-Marked.pdf"));
-  return refusal.isEmpty() ? plain + QStringLiteral("-Marked.pdf") : QString();
+  refusal = NameRefusal(plain.trimmed().isEmpty() ? QString() : MarkedPlanName(plain));
+  return refusal.isEmpty() ? MarkedPlanName(plain) : QString();
 }
 
 QString WithoutDoubleMark(QString path) {

@@ -7,7 +7,7 @@
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "common/textlines.h"
-#include "pricing/materialblock.h"
+#include "records/materialblock.h"
 
 namespace tamo::pricing {
 namespace {

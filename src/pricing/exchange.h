@@ -4,7 +4,7 @@
 #include <QStringList>
 
 #include "common/files.h"
-#include "pricing/systemfile.h"
+#include "records/systemfile.h"
 
 // Systems that leave or enter the library as files, and the printed page.
 namespace tamo::pricing {

@@ -1,9 +1,9 @@
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/paths.h"
-#include "pricing/materialfile.h"
 #include "pricing/pricingform.h"
 #include "pricing/unitprice.h"
+#include "records/materialfile.h"
 
 // The chain of a material, from its name to its wage rate, and the list of the system's materials.
 

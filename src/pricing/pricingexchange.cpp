@@ -2,8 +2,8 @@
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "pricing/exchange.h"
-#include "pricing/materialfile.h"
 #include "pricing/pricingform.h"
+#include "records/materialfile.h"
 
 // Copy and paste within a run, export and import through files, and the printed page.
 
@@ -12,10 +12,6 @@ namespace {
 
 constexpr char kPrintFont[] = "MS Gothic";
 constexpr int kPrintPoints = 12;
-
-QString InFolder(const QString& folder, const QString& file, const QString& separator) {
-  return EndsInSeparator(folder) ? folder + file : folder + separator + file;
-}
 
 }  // namespace
 
@@ -91,16 +87,15 @@ void PricingForm::ExportInto(const QString& folder) {
   IEFrame.Hide();
   if (Description.Empty()) return;
   RefuseOrGoOn(Description.Text());
-  kit_.files.SaveText(
-      InFolder(folder, Description.Text() + QStringLiteral(".sys"), kit_.shared.Separator),
-      pricing::ExportedText(OpenSystem()));
+  kit_.files.SaveText(InFolder(folder, SystemFileName(Description.Text())),
+                      pricing::ExportedText(OpenSystem()));
 }
 
 // The file is looked at whole before anything changes.
 void PricingForm::Import() {
   IEFrame.Hide();
-  const pricing::ImportedSystem imported = pricing::ReadExported(
-      kit_.files, InFolder(File1.Folder(), File1.File(), kit_.shared.Separator));
+  const pricing::ImportedSystem imported =
+      pricing::ReadExported(kit_.files, InFolder(File1.Folder(), File1.File()));
   if (!imported.refusal.isEmpty()) {
     kit_.desk.GetMessages().Tell(imported.refusal);
     return;

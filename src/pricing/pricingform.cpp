@@ -180,15 +180,15 @@ void PricingForm::RefuseOrGoOn(const QString& name) const {
 
 // --- the lists of names ---
 
-int PricingForm::LoadNames(OrderedList& list, const char* file) {
+int PricingForm::LoadNames(OrderedList& list, NameList file) {
   QStringList names;
-  const int error = kit_.files.ReadLines(kit_.shared.DataPath + QString::fromLatin1(file), names);
+  const int error = ReadNames(kit_.files, kit_.shared, file, names);
   list.SetRows(names);
   return error;
 }
 
-void PricingForm::SaveNames(const OrderedList& list, const char* file) {
-  kit_.files.SaveLines(kit_.shared.DataPath + QString::fromLatin1(file), list.Rows());
+void PricingForm::SaveNames(const OrderedList& list, NameList file) {
+  WriteNames(kit_.files, kit_.shared, file, list.Rows());
 }
 
 // A name is remembered exactly as it was typed, once, in the order of first use.
@@ -198,55 +198,45 @@ void PricingForm::AddName(OrderedList& list, const QString& name, void (PricingF
   (this->*save)();
 }
 
-namespace {
-
-constexpr char kDescriptions[] = "Descriptions.tamo";
-constexpr char kUnits[] = "Units.tamo";
-constexpr char kMaterials[] = "Materials.tamo";
-constexpr char kOrderUnits[] = "oUnits.tamo";
-constexpr char kWages[] = "Wages.tamo";
-
-}  // namespace
-
 void PricingForm::LoadDescriptions() {
-  LoadNames(DescriptionsList, kDescriptions);
+  LoadNames(DescriptionsList, NameList::Systems);
 }
 void PricingForm::LoadUnits() {
-  LoadNames(UnitsList, kUnits);
+  LoadNames(UnitsList, NameList::Units);
 }
 void PricingForm::LoadMaterials() {
-  LoadNames(MaterialsList, kMaterials);
+  LoadNames(MaterialsList, NameList::Materials);
 }
 void PricingForm::LoadOrderUnits() {
-  LoadNames(oUnitsList, kOrderUnits);
+  LoadNames(oUnitsList, NameList::OrderUnits);
 }
 
 // The last name of a library can't be deleted for good: an empty list is not written. A test holds
 // it.
 void PricingForm::SaveDescriptions() {
   if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) return;
-  SaveNames(DescriptionsList, kDescriptions);
+  SaveNames(DescriptionsList, NameList::Systems);
 }
 void PricingForm::SaveUnits() {
-  SaveNames(UnitsList, kUnits);
+  SaveNames(UnitsList, NameList::Units);
 }
 void PricingForm::SaveMaterials() {
-  SaveNames(MaterialsList, kMaterials);
+  SaveNames(MaterialsList, NameList::Materials);
 }
 void PricingForm::SaveOrderUnits() {
-  SaveNames(oUnitsList, kOrderUnits);
+  SaveNames(oUnitsList, NameList::OrderUnits);
 }
 void PricingForm::SaveWagesList() {
-  SaveNames(WagesList, kWages);
+  SaveNames(WagesList, NameList::Wages);
 }
 
 void PricingForm::Init() {
   if (kit_.shared.DataPath.isEmpty()) settings_.LoadSettings();
   bool missing = false;
-  missing |= LoadNames(DescriptionsList, kDescriptions) == kFileNotFound;
-  missing |= LoadNames(UnitsList, kUnits) == kFileNotFound;
-  missing |= LoadNames(MaterialsList, kMaterials) == kFileNotFound;
-  missing |= LoadNames(oUnitsList, kOrderUnits) == kFileNotFound;
+  missing |= LoadNames(DescriptionsList, NameList::Systems) == kFileNotFound;
+  missing |= LoadNames(UnitsList, NameList::Units) == kFileNotFound;
+  missing |= LoadNames(MaterialsList, NameList::Materials) == kFileNotFound;
+  missing |= LoadNames(oUnitsList, NameList::OrderUnits) == kFileNotFound;
   missing |= ReadMarkups() == kFileNotFound;
   if (missing) seed_.SeedProjectNumber();
   for (size_t i = 0; i < Palette.size(); ++i)

@@ -6,15 +6,16 @@
 
 #include "common/form.h"
 #include "common/kit.h"
-#include "pricing/markups.h"
-#include "pricing/materialblock.h"
 #include "pricing/nameindex.h"
 #include "pricing/palette.h"
 #include "pricing/projectnumberseed.h"
 #include "pricing/prompts.h"
 #include "pricing/reportrefresh.h"
 #include "pricing/settingsreader.h"
-#include "pricing/systemfile.h"
+#include "records/markupsfile.h"
+#include "records/materialblock.h"
+#include "records/namelists.h"
+#include "records/systemfile.h"
 
 namespace tamo {
 
@@ -212,8 +213,8 @@ class PricingForm : public Form {
   void RefuseOrGoOn(const QString& name) const;
 
   // Vocabulary lists.
-  int LoadNames(OrderedList& list, const char* file);
-  void SaveNames(const OrderedList& list, const char* file);
+  int LoadNames(OrderedList& list, NameList file);
+  void SaveNames(const OrderedList& list, NameList file);
   void AddName(OrderedList& list, const QString& name, void (PricingForm::*save)());
 
   // System chain.

@@ -1,7 +1,7 @@
 #include "pricing/prompts.h"
 
 #include "common/columns.h"
-#include "pricing/materialblock.h"
+#include "records/materialblock.h"
 
 namespace tamo::pricing {
 namespace {

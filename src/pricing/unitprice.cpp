@@ -4,7 +4,7 @@
 #include <initializer_list>
 
 #include "common/numbers.h"
-#include "pricing/materialblock.h"
+#include "records/materialblock.h"
 
 namespace tamo::pricing {
 namespace {

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "pricing/markups.h"
+#include "records/markupsfile.h"
 
 // What a takeoff unit costs, estimated from the materials of a system. These are the figures of the
 // Pricing form; the reports round on their own.

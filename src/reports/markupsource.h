@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pricing/markups.h"
+#include "records/markupsfile.h"
 
 namespace tamo {
 

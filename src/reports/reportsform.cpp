@@ -1,4 +1,5 @@
 #include "reports/reportsform.h"
+#include "records/datafolder.h"
 
 #include "common/failure.h"
 #include "common/numbers.h"
@@ -106,7 +107,7 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files, kit_.shared.ProjectPath(), kit_.shared.Separator, onProgress,
+  return {kit_.files, ProjectFolder(kit_.shared).Path(), kit_.shared.Separator, onProgress,
           joins_.wholeQuantities.WholeQuantities()};
 }
 

@@ -3,7 +3,7 @@
 #include "common/chain.h"
 #include "common/failure.h"
 #include "common/numbers.h"
-#include "takeoff/takeofffiles.h"
+#include "records/adjustmentfile.h"
 
 namespace tamo {
 

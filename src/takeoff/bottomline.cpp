@@ -1,8 +1,11 @@
 #include "takeoff/bottomline.h"
 
 #include "common/chain.h"
-#include "takeoff/itemline.h"
-#include "takeoff/takeofffiles.h"
+#include "records/itemline.h"
+#include "records/itemsfile.h"
+#include "records/namelists.h"
+#include "records/storable.h"
+#include "takeoff/bottomlinemoney.h"
 
 namespace tamo {
 
@@ -70,13 +73,13 @@ void BottomLine::FollowProject() {
 
 void BottomLine::LoadItems() {
   QStringList names;
-  itemsError_ = ReadItemNames(kit_.files, kit_.shared, names);
+  itemsError_ = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Items, names);
   ItemList.SetRows(names);
 }
 
 void BottomLine::SaveItems() {
   RequireReadable(itemsError_, QStringLiteral("The list of item names"));
-  WriteItemNames(kit_.files, kit_.shared, ItemList.Rows());
+  WriteNames(kit_.files, kit_.shared, NameList::Items, ItemList.Rows());
 }
 
 void BottomLine::LoadoiList() {
@@ -91,7 +94,7 @@ void BottomLine::SaveoiList() {
   unsaved_ = false;
   if (listJob_.isEmpty()) return;
   RequireReadable(listError_, QStringLiteral("The list of bottom line items"));
-  WriteItemLines(kit_.files, kit_.shared, listJob_, oiList.Rows());
+  WriteItemLines(kit_.files, DataFolder(kit_.shared).Project(listJob_), oiList.Rows());
 }
 
 void BottomLine::TakeItem() {

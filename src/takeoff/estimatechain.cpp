@@ -4,10 +4,10 @@
 #include "common/columns.h"
 #include "common/failure.h"
 #include "common/numbers.h"
-#include "takeoff/arealine.h"
+#include "records/arealine.h"
+#include "records/storable.h"
 #include "takeoff/estimateform.h"
 #include "takeoff/nextname.h"
-#include "takeoff/takeofffiles.h"
 #include "takeoff/unitcodes.h"
 
 namespace tamo {

@@ -2,7 +2,10 @@
 
 #include "common/columns.h"
 #include "common/failure.h"
-#include "takeoff/takeofffiles.h"
+#include "records/areafile.h"
+#include "records/namelists.h"
+#include "records/sheetnames.h"
+#include "records/storable.h"
 #include "takeoff/takeoffsystem.h"
 #include "takeoff/unitcodes.h"
 
@@ -150,7 +153,7 @@ void EstimateForm::ForgetLines() {
 
 void EstimateForm::LoadDescriptions() {
   QStringList names;
-  error_ = ReadSystemNames(kit_.files, kit_.shared, names);
+  error_ = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Systems, names);
   DescriptionsList.SetRows(names);
   if (error_ == kNoError && names.isEmpty()) {
     kit_.desk.GetMessages().Tell(QStringLiteral("Enter pricing information first."));
@@ -159,7 +162,7 @@ void EstimateForm::LoadDescriptions() {
 }
 
 void EstimateForm::SaveDescriptions() {
-  WriteSystemNames(kit_.files, kit_.shared, DescriptionsList.Rows());
+  WriteNames(kit_.files, kit_.shared, NameList::Systems, DescriptionsList.Rows());
 }
 
 void EstimateForm::LoadAreas() {
@@ -180,7 +183,7 @@ void EstimateForm::LoadArea() {
   const int kept = AreaList.Index();
   AreaList.Clear();
   QStringList lines;
-  const int failure = ReadAreaFields(kit_.files, kit_.shared, Area.Text(), lines);
+  const int failure = ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), lines);
   lines_.Begin(Area.Text(), failure);
   unread_ = error_ != kNoError;
   if (failure != kNoError) error_ = failure;
@@ -195,7 +198,7 @@ void EstimateForm::PrepareSave() {
   lines_.RequireStorable(Area.Text());
   if (!unread_) return;
   QStringList lines;
-  const int failure = ReadAreaFields(kit_.files, kit_.shared, Area.Text(), lines);
+  const int failure = ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), lines);
   RequireReadable(failure, QStringLiteral("Area \"%1\"").arg(Area.Text()));
   unread_ = false;
   for (qsizetype i = 0; i < lines.size(); ++i) AreaList.Insert(static_cast<int>(i), lines[i]);

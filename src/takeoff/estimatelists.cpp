@@ -1,7 +1,7 @@
 // The lists of the free takeoff: areas, lines, systems, and what the menus do to them.
 
 #include "common/chain.h"
-#include "takeoff/arealine.h"
+#include "records/arealine.h"
 #include "takeoff/estimateform.h"
 #include "takeoff/unitcodes.h"
 

@@ -1,7 +1,7 @@
 #include "takeoff/linesinwork.h"
 
 #include "common/failure.h"
-#include "takeoff/takeofffiles.h"
+#include "records/storable.h"
 
 namespace tamo {
 

@@ -2,10 +2,10 @@
 
 #include "common/chain.h"
 #include "common/numbers.h"
+#include "records/roomline.h"
+#include "records/storable.h"
 #include "takeoff/nextname.h"
 #include "takeoff/rfsform.h"
-#include "takeoff/roomline.h"
-#include "takeoff/takeofffiles.h"
 #include "takeoff/unitcodes.h"
 
 namespace tamo {

@@ -2,7 +2,10 @@
 
 #include "common/failure.h"
 #include "common/numbers.h"
-#include "takeoff/takeofffiles.h"
+#include "records/namelists.h"
+#include "records/roomfile.h"
+#include "records/sheetnames.h"
+#include "records/storable.h"
 #include "takeoff/takeoffsystem.h"
 #include "takeoff/unitcodes.h"
 
@@ -190,7 +193,7 @@ void RFSForm::ShowPlan() {
 
 void RFSForm::LoadDescriptions() {
   QStringList names;
-  const int error = ReadSystemNames(kit_.files, kit_.shared, names);
+  const int error = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Systems, names);
   DescriptionsList.SetRows(names);
   if (!names.isEmpty()) return;
   const bool missing = error == kFileNotFound && kit_.shared.DriveBy == QLatin1String("False");
@@ -201,7 +204,7 @@ void RFSForm::LoadDescriptions() {
 }
 
 void RFSForm::SaveDescriptions() {
-  WriteSystemNames(kit_.files, kit_.shared, DescriptionsList.Rows());
+  WriteNames(kit_.files, kit_.shared, NameList::Systems, DescriptionsList.Rows());
 }
 
 void RFSForm::LoadRooms() {
@@ -241,13 +244,13 @@ void RFSForm::SaveRoom() {
 
 void RFSForm::LoadAreas() {
   QStringList names;
-  areasError_ = ReadFinishAreas(kit_.files, kit_.shared, names);
+  areasError_ = ReadNames(kit_.files, kit_.shared, NameList::FinishAreas, names);
   AreaList.SetRows(names);
 }
 
 void RFSForm::SaveAreas() {
   RequireReadable(areasError_, QStringLiteral("The list of finish areas"));
-  WriteFinishAreas(kit_.files, kit_.shared, AreaList.Rows());
+  WriteNames(kit_.files, kit_.shared, NameList::FinishAreas, AreaList.Rows());
 }
 
 void RFSForm::LoadSystem() {

@@ -4,8 +4,8 @@
 #include "common/columns.h"
 #include "common/failure.h"
 #include "common/numbers.h"
+#include "records/roomline.h"
 #include "takeoff/rfsform.h"
-#include "takeoff/roomline.h"
 #include "takeoff/unitcodes.h"
 
 namespace tamo {

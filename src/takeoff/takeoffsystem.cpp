@@ -2,16 +2,17 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "records/datafolder.h"
 
 namespace tamo {
 namespace {
 
 QString CopyFolder(const SharedFields& shared) {
-  return shared.ProjectPath() + QStringLiteral("Systems");
+  return ProjectFolder(shared).Systems();
 }
 
 QString CopyPath(const SharedFields& shared, const QString& name) {
-  return CopyFolder(shared) + shared.Separator + name + QStringLiteral(".sys");
+  return ProjectFolder(shared).SystemFile(name);
 }
 
 }  // namespace
@@ -20,7 +21,7 @@ int ImportTakeoffSystem(Files& files, const SharedFields& shared, const QString&
                         QStringList& fetched) {
   fetched.clear();
   if (!NameRefusal(name).isEmpty()) return kFileNotFound;
-  const int error = files.ReadLines(shared.SystemsPath() + name + QStringLiteral(".sys"), fetched);
+  const int error = files.ReadLines(DataFolder(shared).SystemFile(name), fetched);
   if (error != kNoError) return error;
   if (!files.GetDisk().IsFolder(CopyFolder(shared))) return kPathNotFound;
   return files.SaveLines(CopyPath(shared, name), fetched);
@@ -38,7 +39,7 @@ TakeoffSystem LoadTakeoffSystem(Files& files, const SharedFields& shared, const 
     }
     // A project whose folder for systems is gone can't take a copy; the line still gets its unit.
     if (error == kPathNotFound) {
-      error = files.ReadFields(shared.SystemsPath() + name + QStringLiteral(".sys"), fields);
+      error = files.ReadFields(DataFolder(shared).SystemFile(name), fields);
     }
   }
   TakeoffSystem system;

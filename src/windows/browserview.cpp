@@ -12,10 +12,6 @@
 namespace tamo {
 namespace {
 
-QString Joined(const QString& folder, const QString& name) {
-  return EndsInSeparator(folder) ? folder + name : folder + PlatformSeparator() + name;
-}
-
 QString Above(const QString& folder) {
   const QString above = FolderOf(folder);
   if (above.isEmpty() && !folder.isEmpty()) return QString(PlatformSeparator());
@@ -46,7 +42,7 @@ std::vector<BrowserRow> BrowserRows(Disk& disk, const FileBrowser& browser) {
     if (name.startsWith(QLatin1Char('.'))) continue;
     const bool match = browser.Pattern().isEmpty() || QDir::match(browser.Pattern(), name);
     if (!folders && !match) continue;
-    const QString path = Joined(folder, name);
+    const QString path = InFolder(folder, name);
     if (disk.IsFolder(path) == folders) rows.push_back({name, path});
   }
   return rows;

@@ -9,12 +9,8 @@ namespace {
 
 constexpr int kOldIdLength = 7;
 
-QString Inside(const QString& folder, const QString& name) {
-  return EndsInSeparator(folder) ? folder + name : folder + PlatformSeparator() + name;
-}
-
-bool IsProject(Files& files, const QString& projects, const QString& id) {
-  return NameRefusal(id).isEmpty() && files.GetDisk().IsFolder(Inside(projects, id));
+bool IsProject(Files& files, const DataFolder& data, const QString& id) {
+  return NameRefusal(id).isEmpty() && files.GetDisk().IsFolder(BareFolder(data.Project(id).Path()));
 }
 
 void CopyFile(Files& files, const QString& from, const QString& to, const QString& targetId,
@@ -34,9 +30,9 @@ void CopyFolder(Files& files, const QString& from, const QString& to, const QStr
                 ProjectCopy& result) {
   Disk& disk = files.GetDisk();
   for (const QString& name : disk.Names(from)) {
-    const QString path = Inside(from, name);
+    const QString path = InFolder(from, name);
     if (disk.IsFolder(path) || name.endsWith(QLatin1String(kUnfinishedEnding))) continue;
-    CopyFile(files, path, Inside(to, name), targetId, result);
+    CopyFile(files, path, InFolder(to, name), targetId, result);
   }
 }
 
@@ -44,7 +40,7 @@ void CopyFolder(Files& files, const QString& from, const QString& to, const QStr
 
 QString CopiedText(const QString& fileName, const QString& text, const QString& targetId) {
   QStringList lines = WholeLines(text);
-  if (fileName.compare(QLatin1String("JobNFO.tamo"), Qt::CaseInsensitive) == 0) {
+  if (IsProjectRecord(fileName)) {
     for (QString& line : lines) {
       if (line.size() == kOldIdLength) line = targetId;
     }
@@ -52,18 +48,18 @@ QString CopiedText(const QString& fileName, const QString& text, const QString& 
   return JoinedLines(lines);
 }
 
-ProjectCopy CopyProjectFiles(Files& files, const QString& projects, const QString& sourceId,
+ProjectCopy CopyProjectFiles(Files& files, const DataFolder& data, const QString& sourceId,
                              const QString& targetId) {
   ProjectCopy result;
-  if (!IsProject(files, projects, sourceId) || !IsProject(files, projects, targetId)) return result;
-  const QString source = Inside(projects, sourceId);
-  const QString target = Inside(projects, targetId);
+  if (!IsProject(files, data, sourceId) || !IsProject(files, data, targetId)) return result;
+  const QString source = BareFolder(data.Project(sourceId).Path());
+  const QString target = BareFolder(data.Project(targetId).Path());
   if (files.Resolved(source) == files.Resolved(target)) return result;
   result.done = true;
   CopyFolder(files, source, target, targetId, result);
-  for (const char* name : {"Systems", "Rooms", "ATOs"}) {
-    const QString from = files.Resolved(Inside(source, QLatin1String(name)));
-    const QString to = files.Resolved(Inside(target, QLatin1String(name)));
+  for (const char* name : kCopiedSubFolders) {
+    const QString from = files.Resolved(InFolder(source, QLatin1String(name)));
+    const QString to = files.Resolved(InFolder(target, QLatin1String(name)));
     files.MakeFolder(to);
     CopyFolder(files, from, to, targetId, result);
   }

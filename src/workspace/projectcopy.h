@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "common/files.h"
+#include "records/datafolder.h"
 
 namespace tamo {
 
@@ -22,8 +23,8 @@ QString CopiedText(const QString& fileName, const QString& text, const QString& 
 
 // Fills project `targetId` from `sourceId`: the files that stand directly in the source's folder,
 // then those of Systems, Rooms and ATOs. Files of the same name in the target are replaced. Plans
-// and project manager files are not copied. `projects` is the folder of all projects.
-ProjectCopy CopyProjectFiles(Files& files, const QString& projects, const QString& sourceId,
+// and project manager files are not copied.
+ProjectCopy CopyProjectFiles(Files& files, const DataFolder& data, const QString& sourceId,
                              const QString& targetId);
 
 }  // namespace tamo

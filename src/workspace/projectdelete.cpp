@@ -5,10 +5,6 @@
 namespace tamo {
 namespace {
 
-QString Inside(const QString& folder, const QString& name) {
-  return EndsInSeparator(folder) ? folder + name : folder + PlatformSeparator() + name;
-}
-
 // Saves that still wait for a place in `folder` must not bring it back.
 void DropPendingSaves(Files& files, const QString& folder) {
   const QString inside = folder + PlatformSeparator();
@@ -26,7 +22,7 @@ bool IsRealFolder(Disk& disk, const QString& path) {
 // Every file and link that stands directly in `folder`.
 void RemoveFiles(Disk& disk, const QString& folder) {
   for (const QString& name : disk.Names(folder)) {
-    const QString path = Inside(folder, name);
+    const QString path = InFolder(folder, name);
     if (!IsRealFolder(disk, path)) disk.RemoveFile(path);
   }
 }
@@ -41,25 +37,25 @@ void StillThere(Disk& disk, const QString& path, QStringList& left) {
   if (!disk.Exists(path) && !disk.IsLink(path)) return;
   left << path;
   if (!IsRealFolder(disk, path)) return;
-  for (const QString& name : disk.Names(path)) StillThere(disk, Inside(path, name), left);
+  for (const QString& name : disk.Names(path)) StillThere(disk, InFolder(path, name), left);
 }
 
 }  // namespace
 
-QStringList DeleteProjectFiles(Files& files, const QString& projects, const QString& id) {
+QStringList DeleteProjectFiles(Files& files, const DataFolder& data, const QString& id) {
   if (!NameRefusal(id).isEmpty()) return {};
   Disk& disk = files.GetDisk();
-  const QString folder = Inside(projects, id);
+  const QString folder = BareFolder(data.Project(id).Path());
   DropPendingSaves(files, NativePath(folder));
   if (disk.IsLink(folder)) {
     disk.RemoveFile(folder);
   } else if (disk.IsFolder(folder)) {
     // A folder's name is its own in any case, on every platform.
     const QStringList names = disk.Names(folder);
-    for (const char* part : {"Rooms", "Systems", "ATOs", "Plans", "PM"}) {
+    for (const char* part : kProjectSubFolders) {
       for (const QString& name : names) {
         if (name.compare(QLatin1String(part), Qt::CaseInsensitive) == 0)
-          RemoveFolder(disk, Inside(folder, name));
+          RemoveFolder(disk, InFolder(folder, name));
       }
     }
     RemoveFolder(disk, folder);

@@ -7,6 +7,7 @@
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "common/textlines.h"
+#include "records/datafolder.h"
 #include "workspace/swatches.h"
 
 namespace tamo {
@@ -61,7 +62,7 @@ SettingsForm::SettingsForm(const Kit& kit, ModeShell& shell)
       if (field == &EstimatorNumber) NormaliseEstimatorNumber();
       if (field == &DataPath) {
         DataPath.SetText(FixedDataPath(DataPath.Text(), kit_.shared.Separator[0]));
-        MakeDataFolders();
+        MakeDataFolders(kit_.files, kit_.shared);
       }
       kit_.desk.Focus(*next);
     };
@@ -164,7 +165,7 @@ void SettingsForm::SaveSettings() {
   if (TrimmedBlanks(DataPath.Text()).isEmpty()) {
     DataPath.SetText(kit_.shared.zDir + separator);
   } else {
-    MakeDataFolders();
+    MakeDataFolders(kit_.files, kit_.shared);
   }
   QStringList lines = {EstimatorNumber.Text(),
                        EstimatorName.Text(),
@@ -204,13 +205,6 @@ void SettingsForm::SetWholeQuantities(bool on) {
 void SettingsForm::FixDataPath() {
   DataPath.SetText(FixedDataPath(DataPath.Text(), kit_.shared.Separator[0]));
   for (const QString& level : FolderLevels(kit_.shared.DataPath)) kit_.files.MakeFolder(level);
-}
-
-void SettingsForm::MakeDataFolders() {
-  const QString& path = kit_.shared.DataPath;
-  kit_.files.MakeFolders(path);
-  for (const char* name : {"Projects", "Systems", "Plans"})
-    kit_.files.MakeFolder(path + QLatin1String(name));
 }
 
 void SettingsForm::NormaliseEstimatorNumber() {

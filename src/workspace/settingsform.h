@@ -45,7 +45,6 @@ class SettingsForm : public Form {
   void TakeLine6(QString code);
   void NormaliseEstimatorNumber();
   void RepairDataPath();
-  void MakeDataFolders();
   void MakeSwatches();
   void PaintSampleLine(const QString& code);
 

@@ -1,4 +1,4 @@
-#include "common/columns.h"
+#include "records/projectlist.h"
 #include "workspace/projectcopy.h"
 #include "workspace/projectdelete.h"
 #include "workspace/tamoform.h"
@@ -28,7 +28,7 @@ void TamoForm::PasteProject() {
     messages.Tell(QStringLiteral("Create new project to paste %1 into.").arg(source));
     return;
   }
-  CopyProjectFiles(kit_.files, kit_.shared.DataPath + QStringLiteral("Projects"), source, target);
+  CopyProjectFiles(kit_.files, kit_.shared, source, target);
   messages.Tell(QStringLiteral("%1 has been copied into %2.").arg(source, target));
 }
 
@@ -40,14 +40,14 @@ void TamoForm::DeleteProject() {
   if (!kit_.desk.GetMessages().Ask(QStringLiteral("Delete %1\r%2 ?").arg(id, JobName.Text())))
     return;
   NeedJobsList();
-  const QString entry = id + Blanks(3) + JobName.Text();
+  const QString entry = ProjectEntry(id, JobName.Text());
   for (int row = 0; row < JobsList.Count(); ++row) {
     if (JobsList.Row(row) != entry) continue;
     JobsList.Remove(row);
     break;
   }
   SaveJobsList();
-  DeleteProjectFiles(kit_.files, kit_.shared.DataPath + QStringLiteral("Projects"), id);
+  DeleteProjectFiles(kit_.files, kit_.shared, id);
   kit_.shared.JobID.clear();
   ClearRecord();
   work_.ForgetProject();

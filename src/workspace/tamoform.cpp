@@ -5,7 +5,8 @@
 #include "common/columns.h"
 #include "common/failure.h"
 #include "common/paths.h"
-#include "workspace/projectnumber.h"
+#include "records/projectlist.h"
+#include "records/projectnumber.h"
 
 // Start, the panel's chain of fields, the project list and the numbers.
 
@@ -51,7 +52,7 @@ void TamoForm::Init() {
   settings_.LoadSettings();
   work_.InitPricing();
   kit_.shared.DriveBy = QStringLiteral("False");
-  MakeDataFolders();
+  MakeDataFolders(kit_.files, kit_.shared);
   SeedProjectNumber();
   SweepFolders();
   kit_.shared.JobID.clear();
@@ -63,43 +64,21 @@ void TamoForm::Init() {
   }
 }
 
-void TamoForm::MakeDataFolders() {
-  const QString& path = kit_.shared.DataPath;
-  kit_.files.MakeFolders(path);
-  for (const char* name : {"Projects", "Systems", "Plans"})
-    kit_.files.MakeFolder(path + QLatin1String(name));
-}
-
 // What a crash in the middle of a save left behind.
 void TamoForm::SweepFolders() {
-  Disk& disk = kit_.files.GetDisk();
-  const QString& separator = kit_.shared.Separator;
-  const QString projects = kit_.shared.DataPath + QStringLiteral("Projects");
   kit_.files.Sweep(kit_.shared.zDir);
-  kit_.files.Sweep(kit_.shared.DataPath);
-  kit_.files.Sweep(kit_.shared.SystemsPath());
-  for (const QString& project : disk.Names(projects)) {
-    const QString folder = projects + separator + project;
-    kit_.files.Sweep(folder);
-    for (const char* name : {"Systems", "Rooms", "ATOs", "Plans", "PM"}) {
-      kit_.files.Sweep(folder + separator + QLatin1String(name));
-    }
-  }
+  SweepDataFolders(kit_.files, kit_.shared);
 }
 
 // Only a number that is not there at all is begun anew.
 void TamoForm::SeedProjectNumber() {
-  const QString path = kit_.shared.DataPath + QStringLiteral("Project.num");
-  QStringList lines;
-  if (kit_.files.ReadLines(path, lines) == kFileNotFound) {
-    kit_.files.SaveLines(path, {SeedNumber(kit_.platform.clock.Today())});
-  }
+  QString line;
+  if (ReadProjectNumber(kit_.files, kit_.shared, line) == kFileNotFound)
+    WriteProjectNumber(kit_.files, kit_.shared, SeedNumber(kit_.platform.clock.Today()));
 }
 
 void TamoForm::LoadProjectNumber() {
-  QStringList lines;
-  kit_.files.ReadLines(kit_.shared.DataPath + QStringLiteral("Project.num"), lines);
-  if (!lines.isEmpty()) numberLine_ = lines.first();
+  ReadProjectNumber(kit_.files, kit_.shared, numberLine_);
   const NextNumber next = NumberAfter(numberLine_, kit_.platform.clock.Today());
   kit_.shared.JobID = next.number;
   if (next.newMonth) {
@@ -111,12 +90,12 @@ void TamoForm::LoadProjectNumber() {
 
 void TamoForm::SaveProjectNumber() {
   if (kit_.shared.JobID.isEmpty()) return;
-  kit_.files.SaveLines(kit_.shared.DataPath + QStringLiteral("Project.num"), {kit_.shared.JobID});
+  WriteProjectNumber(kit_.files, kit_.shared, kit_.shared.JobID);
 }
 
 void TamoForm::LoadJobsList() {
   QStringList lines;
-  listError_ = kit_.files.ReadLines(kit_.shared.DataPath + QStringLiteral("Jobs.lst"), lines);
+  listError_ = ReadProjectList(kit_.files, kit_.shared, lines);
   JobsList.SetRows(lines);
   listedFolder_ = kit_.shared.DataPath;
 }
@@ -125,9 +104,9 @@ void TamoForm::RequireReadableList() const {
   if (listError_ == kNoError || listError_ == kFileNotFound || listError_ == kPathNotFound) return;
   throw RunTimeFailure(
       listError_,
-      QStringLiteral("The project list %1Jobs.lst could not be read. Nothing is stored over it, so "
+      QStringLiteral("The project list %1 could not be read. Nothing is stored over it, so "
                      "that no project is lost; see to the file, then do this again.")
-          .arg(kit_.shared.DataPath));
+          .arg(DataFolder(kit_.shared).ProjectList()));
 }
 
 // The list is written back whole, so it must be that of the present data folder: what was never
@@ -142,23 +121,18 @@ void TamoForm::SaveJobsList() {
   if (kit_.shared.OPN == QLatin1String("1")) {
     LoadJobsList();
     RequireReadableList();
-    JobsList.Add(id + Blanks(3) + JobName.Text());
+    JobsList.Add(ProjectEntry(id, JobName.Text()));
     SaveProjectNumber();
-    const QString folder =
-        kit_.shared.DataPath + QStringLiteral("Projects") + kit_.shared.Separator + id;
-    kit_.files.MakeFolder(folder);
-    for (const char* name : {"Systems", "Rooms", "ATOs", "Plans", "PM"}) {
-      kit_.files.MakeFolder(folder + kit_.shared.Separator + QLatin1String(name));
-    }
+    MakeProjectFolders(kit_.files, kit_.shared);
   }
   NeedJobsList();
   RequireReadableList();
-  kit_.files.SaveLines(kit_.shared.DataPath + QStringLiteral("Jobs.lst"), JobsList.Rows());
+  WriteProjectList(kit_.files, kit_.shared, JobsList.Rows());
 }
 
 void TamoForm::OpenSelected() {
   const QString entry = JobsList.Selected();
-  const QString id = TrimmedBlanks(entry.left(10));
+  const QString id = IdToOpen(entry);
   const QString refusal = NameRefusal(id);
   if (!refusal.isEmpty()) {
     JobsList.Hide();

@@ -5,7 +5,7 @@
 
 #include "common/form.h"
 #include "common/kit.h"
-#include "workspace/jobnfo.h"
+#include "records/projectrecord.h"
 #include "workspace/modeshell.h"
 #include "workspace/plandesk.h"
 #include "workspace/settingsform.h"
@@ -82,8 +82,6 @@ class TamoForm : public Form {
   void ReadRecord(const QString& picked);
   void TakePlanOfRecord(const JobNFO& record);
   JobNFO RecordOfFields() const;
-  QString ProjectFile(const char* name) const;
-  void MakeDataFolders();
   void SweepFolders();
 
   const Kit kit_;

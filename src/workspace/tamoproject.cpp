@@ -1,17 +1,14 @@
-#include "common/columns.h"
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/paths.h"
-#include "common/textlines.h"
+#include "records/lockfile.h"
+#include "records/markedplan.h"
+#include "records/projectlist.h"
 #include "workspace/tamoform.h"
 
 // The project's record and lock, and how a project comes, opens, closes and is locked.
 
 namespace tamo {
-
-QString TamoForm::ProjectFile(const char* name) const {
-  return kit_.shared.ProjectPath() + QLatin1String(name);
-}
 
 JobNFO TamoForm::RecordOfFields() const {
   const PlanDesk::Record plan = plan_.Fields();
@@ -41,29 +38,26 @@ void TamoForm::SaveJobNFO() {
   if (!NeedUnlocked()) return;
   if (kit_.shared.JobID.isEmpty() || JobName.Empty()) return;
   const QString plan = plan_.Fields().planLocation;
-  if (!plan.isEmpty())
-    plan_.SetPlanLocation(MarkedPlanPath(plan, kit_.shared.ProjectPath(), kit_.shared.Separator));
-  kit_.files.SaveText(ProjectFile("JobNFO.tamo"), JobNFOText(RecordOfFields()));
+  if (!plan.isEmpty()) plan_.SetPlanLocation(MarkedPlanPath(plan, kit_.shared));
+  WriteProjectRecord(kit_.files, kit_.shared, RecordOfFields());
 }
 
 void TamoForm::ReadRecord(const QString& picked) {
   kit_.shared.LoadingJobNFO = QStringLiteral("True");
   HidePanel();
-  QStringList lines;
-  if (kit_.files.ReadLines(ProjectFile("JobNFO.tamo"), lines) != kNoError) {
+  JobNFO record = RecordOfFields();
+  record.planLocation.clear();
+  if (ReadProjectRecord(kit_.files, kit_.shared, record) != kNoError) {
     kit_.shared.LoadingJobNFO = QStringLiteral("False");
     // A project without a record has no plan; the one on the screen belongs to another project.
     if (picked.isEmpty()) LeavePlan();
     return;
   }
-  JobNFO record = RecordOfFields();
-  record.planLocation.clear();
-  ReadJobNFO(lines, record);
 
   // Where the file and the list differ, the list wins.
   const QString entry = JobsList.Selected();
-  if (record.jobID == TrimmedBlanks(entry.left(13))) kit_.shared.JobID = record.jobID;
-  if (record.jobName == TrimmedBlanks(From(entry, 14))) JobName.SetText(record.jobName);
+  if (record.jobID == IdOfEntry(entry)) kit_.shared.JobID = record.jobID;
+  if (record.jobName == NameOfEntry(entry)) JobName.SetText(record.jobName);
   BidDate.SetText(record.bidDate);
   Addenda.SetText(record.addenda);
   Phase.SetText(record.phase);
@@ -108,14 +102,11 @@ void TamoForm::TakePlanOfRecord(const JobNFO& record) {
 }
 
 void TamoForm::SaveLocked() {
-  kit_.files.SaveLines(ProjectFile("Locked.tamo"), {kit_.shared.Locked});
+  WriteLock(kit_.files, kit_.shared, kit_.shared.Locked);
 }
 
 void TamoForm::LoadLocked() {
-  QStringList lines;
-  const bool read =
-      kit_.files.ReadLines(ProjectFile("Locked.tamo"), lines) == kNoError && !lines.isEmpty();
-  kit_.shared.Locked = read ? lines.first() : QStringLiteral("False");
+  ReadLock(kit_.files, kit_.shared, kit_.shared.Locked);
 }
 
 // The bid items stay: a new project shows those of the project before it until they are typed over.

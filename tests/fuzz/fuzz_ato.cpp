@@ -5,7 +5,7 @@
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/textlines.h"
-#include "takeoff/arealine.h"
+#include "records/arealine.h"
 #include "takeoff/unitcodes.h"
 
 namespace {

@@ -3,7 +3,8 @@
 
 #include "common/failure.h"
 #include "common/textlines.h"
-#include "takeoff/itemline.h"
+#include "records/itemline.h"
+#include "takeoff/bottomlinemoney.h"
 
 namespace {
 

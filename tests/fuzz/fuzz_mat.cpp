@@ -5,8 +5,8 @@
 #include <cstdlib>
 
 #include "common/textlines.h"
-#include "pricing/materialfile.h"
 #include "pricing/prompts.h"
+#include "records/materialfile.h"
 
 namespace {
 

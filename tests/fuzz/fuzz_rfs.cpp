@@ -5,9 +5,10 @@
 
 #include "common/failure.h"
 #include "common/textlines.h"
+#include "records/roomfile.h"
+#include "records/roomline.h"
+#include "records/storable.h"
 #include "takeoff/nextname.h"
-#include "takeoff/roomline.h"
-#include "takeoff/takeofffiles.h"
 #include "takeoff/unitcodes.h"
 
 namespace {

@@ -9,10 +9,10 @@
 #include "common/paths.h"
 #include "common/textlines.h"
 #include "pricing/exchange.h"
-#include "pricing/materialblock.h"
 #include "pricing/palette.h"
-#include "pricing/systemfile.h"
 #include "pricing/unitprice.h"
+#include "records/materialblock.h"
+#include "records/systemfile.h"
 
 namespace {
 

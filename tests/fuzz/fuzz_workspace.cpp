@@ -4,8 +4,9 @@
 
 #include "common/paths.h"
 #include "common/textlines.h"
-#include "workspace/jobnfo.h"
-#include "workspace/projectnumber.h"
+#include "records/markedplan.h"
+#include "records/projectnumber.h"
+#include "records/projectrecord.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const QString text = tamo::DecodedText(
@@ -19,7 +20,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
       again.text5 != record.text5)
     __builtin_trap();
   tamo::NumberAfter(lines.value(0), QDate(2021, 12, 14));
-  tamo::MarkedPlanPath(lines.value(0), QStringLiteral("/p/"), QStringLiteral("/"));
+  tamo::MarkedPlanPath(lines.value(0),
+                       tamo::ProjectFolder(QStringLiteral("/p/"), QStringLiteral("/")));
   tamo::NameRefusal(lines.value(0));
   return 0;
 }

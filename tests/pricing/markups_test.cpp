@@ -1,4 +1,4 @@
-#include "pricing/markups.h"
+#include "records/markupsfile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "pricing/systemfile.h"
+#include "records/systemfile.h"
 
 #include <gtest/gtest.h>
 
 #include "pricing/exchange.h"
-#include "pricing/materialfile.h"
 #include "pricing/pricingroom.h"
+#include "records/materialfile.h"
 
 namespace tamo {
 namespace {

@@ -44,11 +44,10 @@ class ProjectFiles : public ::testing::Test {
     QByteArray bytes;
     return disk.Read(Path(name), bytes) == kNoError ? bytes.toStdString() : "(no file)";
   }
-  ProjectCopy Paste() {
-    return CopyProjectFiles(files, Path("Projects"), "00-2112001", "00-2112002");
-  }
+  DataFolder Data() const { return {Path(""), "/"}; }
+  ProjectCopy Paste() { return CopyProjectFiles(files, Data(), "00-2112001", "00-2112002"); }
   QStringList Delete(const char* id) {
-    return DeleteProjectFiles(files, Path("Projects"), QLatin1String(id));
+    return DeleteProjectFiles(files, Data(), QLatin1String(id));
   }
   bool There(const char* name) { return disk.Exists(Path(name)); }
 
@@ -106,15 +105,15 @@ TEST_F(ProjectFiles, FilesOfTheSameNameInTheTargetAreReplaced) {
 }
 
 TEST_F(ProjectFiles, APasteIntoTheSourceItselfChangesNothing) {
-  const ProjectCopy copy = CopyProjectFiles(files, Path("Projects"), "00-2112001", "00-2112001");
+  const ProjectCopy copy = CopyProjectFiles(files, Data(), "00-2112001", "00-2112001");
   EXPECT_FALSE(copy.done);
   EXPECT_EQ(Content("Projects/00-2112001/JobNFO.tamo"), "00-2112001\r\nClinic\r\n1/15/21\r\n");
 }
 
 TEST_F(ProjectFiles, AnIdThatIsNoFolderCopiesNothing) {
   for (const char* id : {"", "..", ".", "../x", "00-9999999"}) {
-    EXPECT_FALSE(CopyProjectFiles(files, Path("Projects"), "00-2112001", id).done) << id;
-    EXPECT_FALSE(CopyProjectFiles(files, Path("Projects"), id, "00-2112002").done) << id;
+    EXPECT_FALSE(CopyProjectFiles(files, Data(), "00-2112001", id).done) << id;
+    EXPECT_FALSE(CopyProjectFiles(files, Data(), id, "00-2112002").done) << id;
   }
   EXPECT_FALSE(There("Projects/JobNFO.tamo"));
   EXPECT_FALSE(There("JobNFO.tamo"));

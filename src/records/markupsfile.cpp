@@ -1,0 +1,31 @@
+#include "records/markupsfile.h"
+
+#include "common/failure.h"
+#include "common/textlines.h"
+
+namespace tamo {
+
+std::array<QString*, 12> Markups::InFileOrder() {
+  return {&MOH, &MTX, &MMU, &LOH, &LTX, &LMU, &BLOH, &BLTX, &BLMU, &MIOH, &MITX, &MIMU};
+}
+
+int LoadMarkups(Files& files, const SharedFields& shared, Markups& into) {
+  QStringList lines;
+  int error = kFileNotFound;
+  if (!shared.JobID.isEmpty()) error = files.ReadLines(ProjectFolder(shared).Markups(), lines);
+  if (error != kNoError) error = files.ReadLines(DataFolder(shared).Markups(), lines);
+  if (error != kNoError) return error;
+  LineReader reader(lines);
+  for (QString* text : into.InFileOrder()) reader.Read(*text);
+  return kNoError;
+}
+
+int SaveMarkups(Files& files, const SharedFields& shared, Markups markups) {
+  QStringList lines;
+  for (const QString* text : markups.InFileOrder()) lines += *text;
+  return files.SaveLines(
+      shared.JobID.isEmpty() ? DataFolder(shared).Markups() : ProjectFolder(shared).Markups(),
+      lines);
+}
+
+}  // namespace tamo

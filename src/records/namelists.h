@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QStringList>
+
+#include "common/files.h"
+#include "records/datafolder.h"
+
+namespace tamo {
+
+// The lists of names that all projects share, one name a line.
+enum class NameList {
+  Systems,     // the library's systems
+  Units,       // takeoff units to pick from; edited by hand
+  OrderUnits,  // in which materials are bought
+  Materials,
+  Wages,        // written, not read back
+  FinishAreas,  // walls, floors ... of room lines
+  Items,        // bottom line items, each with one blank behind it
+};
+
+// Error numbers as Files has them; a list that could not be read is empty.
+int ReadNames(Files& files, const DataFolder& data, NameList list, QStringList& names);
+// A comma makes two names of one, leading blanks are dropped.
+int ReadNamesDelimited(Files& files, const DataFolder& data, NameList list, QStringList& names);
+int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names);
+
+}  // namespace tamo

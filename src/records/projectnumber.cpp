@@ -1,0 +1,33 @@
+#include "records/projectnumber.h"
+
+#include "common/columns.h"
+#include "common/numbers.h"
+
+namespace tamo {
+
+QString SeedNumber(const QDate& today) {
+  return today.toString(QStringLiteral("yyMM")) + QStringLiteral("000");
+}
+
+NextNumber NumberAfter(const QString& line, const QDate& today) {
+  const QString running = NumberText(Truncated(Value((Blanks(3) + line).right(3))) + 1);
+  const QString candidate = line.right(7).left(4) +
+                            QString(qMax<qsizetype>(0, 3 - running.size()), QLatin1Char('0')) +
+                            running;
+  const QString firstOfMonth = today.toString(QStringLiteral("yyMM")) + QStringLiteral("001");
+  if (firstOfMonth > candidate) return {firstOfMonth, true};
+  return {candidate, false};
+}
+
+int ReadProjectNumber(Files& files, const DataFolder& data, QString& line) {
+  QStringList lines;
+  const int error = files.ReadLines(data.ProjectNumber(), lines);
+  if (!lines.isEmpty()) line = lines.first();
+  return error;
+}
+
+int WriteProjectNumber(Files& files, const DataFolder& data, const QString& line) {
+  return files.SaveLines(data.ProjectNumber(), {line});
+}
+
+}  // namespace tamo

@@ -1,0 +1,66 @@
+#include "records/systemfile.h"
+
+#include "common/textlines.h"
+#include "records/materialblock.h"
+
+namespace tamo {
+namespace {
+
+constexpr char kEndMark[] = "\x01";
+constexpr char kLineEnd[] = "\r\n";
+
+}  // namespace
+
+SystemFile ReadSystemFile(const QString& text) {
+  SystemFile system;
+  LineReader lines(WholeLines(text));
+  lines.Read(system.description);
+  lines.Read(system.units);
+  lines.Read(system.unitPrice);
+  lines.Read(system.lineColor);
+  QString line;
+  while (lines.Read(line) && line != QLatin1String(kEndMark))
+    system.notes += line + QLatin1String(kLineEnd);
+  lines.Skip(2);
+  while (lines.Read(line)) system.blocks += line;
+  return system;
+}
+
+QStringList StoredBlocks(const QStringList& system) {
+  QStringList rows;
+  for (qsizetype row = 0; row < system.size(); row += kBlockRows) {
+    if (!system[row].isEmpty()) rows += MaterialBlock::At(system, row).Rows();
+  }
+  return rows;
+}
+
+QString StorableNotes(const QString& notes) {
+  QString text = notes;
+  text.replace(QLatin1String(kLineEnd), QLatin1String("\n"));
+  text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  if (text.contains(QLatin1String(kEndMark))) {
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+      if (line == QLatin1String(kEndMark)) line += QLatin1Char(' ');
+    }
+    text = lines.join(QLatin1Char('\n'));
+  }
+  return text.replace(QLatin1Char('\n'), QLatin1String(kLineEnd));
+}
+
+QString SystemFileText(const SystemFile& system) {
+  return JoinedLines({system.description, system.units, system.unitPrice, system.lineColor,
+                      StorableNotes(system.notes), QString::fromLatin1(kEndMark), QString(),
+                      QString()}) +
+         JoinedLines(StoredBlocks(system.blocks));
+}
+
+QString MasterSystemPath(const SharedFields& shared, const QString& name) {
+  return DataFolder(shared).SystemFile(name);
+}
+
+QString ProjectSystemPath(const SharedFields& shared, const QString& name) {
+  return ProjectFolder(shared).SystemFile(name);
+}
+
+}  // namespace tamo
