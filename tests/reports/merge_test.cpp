@@ -261,7 +261,7 @@ TEST(Systems, EachFileIsReadOnce) {
   project.System(S("Door"), S("EA"), S("5"));
   CountingDisk disk;
   Files files(disk);
-  const ReportSource source{files, project.folder, S("/"), nullptr, {}, false};
+  const ReportSource source{files, project.folder, S("/"), {}, false};
   SystemShelf shelf(source);
   for (int i = 0; i < 3; ++i) {
     shelf.Load(u"Wall");
