@@ -5,7 +5,7 @@
 #include "common/chain.h"
 #include "common/files.h"
 #include "support/doubles.h"
-#include "support/memorydisk.h"
+#include "support/ramdisk.h"
 
 namespace tamo::test {
 namespace {
@@ -69,8 +69,8 @@ TEST(RandomPlayer, FindsNothingWhereNothingIsWrong) {
   EXPECT_FALSE(PlayerOf(false).Play(10000, 1).has_value());
 }
 
-TEST(MemoryDisk, HoldsWhatWasWrittenAndSaysWhatWasTouched) {
-  MemoryDisk disk;
+TEST(RamDisk, HoldsWhatWasWrittenAndSaysWhatWasTouched) {
+  RamDisk disk;
   Files files(disk);
   disk.Put(QStringLiteral("/h/a.txt"), {QStringLiteral("one")});
   EXPECT_EQ(files.SaveLines(QStringLiteral("/h/B.txt"), {QStringLiteral("two")}), 0);

@@ -1,4 +1,4 @@
-#include "support/memorydisk.h"
+#include "support/ramdisk.h"
 
 #include <algorithm>
 #include <cstring>
@@ -10,9 +10,9 @@
 namespace tamo::test {
 namespace {
 
-class MemoryReader : public FileReader {
+class RamReader : public FileReader {
  public:
-  explicit MemoryReader(QByteArray bytes) : bytes_(std::move(bytes)) {}
+  explicit RamReader(QByteArray bytes) : bytes_(std::move(bytes)) {}
   qint64 Size() const override { return bytes_.size(); }
   int ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const override {
     got = std::clamp<qint64>(bytes_.size() - offset, 0, count);
@@ -26,43 +26,43 @@ class MemoryReader : public FileReader {
 
 }  // namespace
 
-void MemoryDisk::Put(const QString& path, const QStringList& lines) {
+void RamDisk::Put(const QString& path, const QStringList& lines) {
   MakeFoldersAbove(path);
   files_[path] = JoinedLines(lines).toUtf8();
 }
 
-QStringList MemoryDisk::Lines(const QString& path) const {
+QStringList RamDisk::Lines(const QString& path) const {
   return WholeLines(QString::fromUtf8(files_.value(path)));
 }
 
-QStringList MemoryDisk::TakeTouched() {
+QStringList RamDisk::TakeTouched() {
   QStringList touched;
   touched.swap(touched_);
   return touched;
 }
 
-int MemoryDisk::Missing(const QString& path) const {
+int RamDisk::Missing(const QString& path) const {
   return folders_.contains(FolderOf(path)) ? kFileNotFound : kPathNotFound;
 }
 
-void MemoryDisk::MakeFoldersAbove(const QString& path) {
+void RamDisk::MakeFoldersAbove(const QString& path) {
   for (const QString& level : FolderLevels(path)) folders_.insert(level);
 }
 
-int MemoryDisk::Read(const QString& path, QByteArray& bytes) {
+int RamDisk::Read(const QString& path, QByteArray& bytes) {
   const auto file = files_.constFind(path);
   bytes = file == files_.constEnd() ? QByteArray() : *file;
   return file == files_.constEnd() ? Missing(path) : kNoError;
 }
 
-int MemoryDisk::OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) {
+int RamDisk::OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) {
   QByteArray bytes;
   const int error = Read(path, bytes);
-  if (error == kNoError) reader = std::make_shared<MemoryReader>(bytes);
+  if (error == kNoError) reader = std::make_shared<RamReader>(bytes);
   return error;
 }
 
-int MemoryDisk::OpenNew(const QString& path, int& handle) {
+int RamDisk::OpenNew(const QString& path, int& handle) {
   if (!folders_.contains(FolderOf(path))) return kPathNotFound;
   files_[path] = QByteArray();
   handle = nextHandle_++;
@@ -70,33 +70,33 @@ int MemoryDisk::OpenNew(const QString& path, int& handle) {
   return kNoError;
 }
 
-int MemoryDisk::OpenAtEnd(const QString& path, int& handle) {
+int RamDisk::OpenAtEnd(const QString& path, int& handle) {
   if (!files_.contains(path)) return Missing(path);
   handle = nextHandle_++;
   open_[handle] = path;
   return kNoError;
 }
 
-int MemoryDisk::Write(int handle, const QByteArray& bytes) {
+int RamDisk::Write(int handle, const QByteArray& bytes) {
   files_[open_.value(handle)] += bytes;
   return kNoError;
 }
 
-int MemoryDisk::Truncate(int handle, qint64 size) {
+int RamDisk::Truncate(int handle, qint64 size) {
   files_[open_.value(handle)].resize(size);
   return kNoError;
 }
 
-int MemoryDisk::Sync(int) {
+int RamDisk::Sync(int) {
   return kNoError;
 }
 
-int MemoryDisk::Close(int handle) {
+int RamDisk::Close(int handle) {
   touched_ += open_.take(handle);
   return kNoError;
 }
 
-int MemoryDisk::Rename(const QString& from, const QString& to) {
+int RamDisk::Rename(const QString& from, const QString& to) {
   if (!files_.contains(from)) return Missing(from);
   files_[to] = files_.take(from);
   touched_.removeAll(from);
@@ -104,44 +104,44 @@ int MemoryDisk::Rename(const QString& from, const QString& to) {
   return kNoError;
 }
 
-int MemoryDisk::SyncFolder(const QString&) {
+int RamDisk::SyncFolder(const QString&) {
   return kNoError;
 }
 
-int MemoryDisk::MakeFolder(const QString& path) {
+int RamDisk::MakeFolder(const QString& path) {
   if (Exists(path)) return kNoAccess;
   MakeFoldersAbove(path + QLatin1Char('/'));
   return kNoError;
 }
 
-int MemoryDisk::RemoveFile(const QString& path) {
+int RamDisk::RemoveFile(const QString& path) {
   if (files_.remove(path) == 0) return Missing(path);
   touched_ += path;
   return kNoError;
 }
 
-int MemoryDisk::RemoveFolder(const QString& path) {
+int RamDisk::RemoveFolder(const QString& path) {
   if (!Names(path).isEmpty()) return kNoAccess;
   return folders_.remove(path) ? kNoError : Missing(path);
 }
 
-bool MemoryDisk::Exists(const QString& path) {
+bool RamDisk::Exists(const QString& path) {
   return files_.contains(path) || folders_.contains(path);
 }
-bool MemoryDisk::IsFolder(const QString& path) {
+bool RamDisk::IsFolder(const QString& path) {
   return folders_.contains(path);
 }
-bool MemoryDisk::IsLink(const QString&) {
+bool RamDisk::IsLink(const QString&) {
   return false;
 }
-bool MemoryDisk::CanWrite(const QString& path) {
+bool RamDisk::CanWrite(const QString& path) {
   return files_.contains(path) || folders_.contains(FolderOf(path));
 }
-qint64 MemoryDisk::Size(const QString& path) {
+qint64 RamDisk::Size(const QString& path) {
   return files_.contains(path) ? files_.value(path).size() : -1;
 }
 
-QStringList MemoryDisk::Names(const QString& folder) {
+QStringList RamDisk::Names(const QString& folder) {
   const QString above = folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/');
   QStringList names;
   for (auto file = files_.lowerBound(above); file != files_.cend() && file.key().startsWith(above);

@@ -12,7 +12,7 @@ namespace tamo::test {
 // A file system in memory, for tests of a hundred thousand keys. Paths use /; a folder exists when
 // it was made, or when a file was put below it. Nothing is denied and nothing fails but what is
 // missing.
-class MemoryDisk : public Disk {
+class RamDisk : public Disk {
  public:
   // As if another program had left it there; folders are made as needed.
   void Put(const QString& path, const QStringList& lines);
