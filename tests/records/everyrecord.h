@@ -11,12 +11,19 @@
 
 namespace tamo::test {
 
+// The real file system without its waiting for the disk: hundreds of files are written here.
+class HastyDisk : public RealDisk {
+ public:
+  int Sync(int) override { return 0; }
+  int SyncFolder(const QString&) override { return 0; }
+};
+
 // A data folder with one project, all its folders made.
 struct RecordFolder {
   RecordFolder();
 
   QTemporaryDir dir;
-  RealDisk disk;
+  HastyDisk disk;
   Files files{disk};
   SharedFields shared;
   DataFolder data() const { return shared; }
