@@ -66,7 +66,7 @@ class TextRows {
 
   void Swap(TextRows& other) noexcept;
   char* Room(size_t bytes) {
-    if (blocks_.empty() || static_cast<size_t>(blockEnd_ - blockNext_) < bytes) AddBlock(bytes);
+    if (static_cast<size_t>(blockEnd_ - blockNext_) < bytes) AddBlock(bytes);
     char* const room = blockNext_;
     blockNext_ += bytes;
     return room;
