@@ -4,7 +4,9 @@
 #include <benchmark/benchmark.h>
 
 #include <QTemporaryDir>
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
 #include "common/files.h"
 #include "common/textsahead.h"
@@ -16,7 +18,10 @@ using namespace tamo;
 
 class Rooms {
  public:
-  Rooms() { bench::WriteProject(std::filesystem::path(folder_.path().toStdString()), 1000, 2); }
+  Rooms() {
+    bench::WriteProject(std::filesystem::path(folder_.path().toStdString()), 1000, 2);
+    std::this_thread::sleep_for(std::chrono::milliseconds(3200));  // so that they are remembered
+  }
 
   static Rooms& Get() {
     static Rooms rooms;
