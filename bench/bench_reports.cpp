@@ -47,8 +47,7 @@ class Project {
 
   // `files` has read none of them before, or all.
   ReportSource Source(Files& files) {
-    return {
-        files, {temporary_.path() + PlatformSeparator(), PlatformSeparator()}, &colour_, {}, false};
+    return {files, {temporary_.path() + PlatformSeparator(), PlatformSeparator()}, {}, false};
   }
   const QStringList& Paths() const { return paths_; }
   RealDisk& GetDisk() { return disk_; }
@@ -56,7 +55,6 @@ class Project {
  private:
   QTemporaryDir temporary_;
   RealDisk disk_;
-  QString colour_;
   QStringList paths_;
 };
 

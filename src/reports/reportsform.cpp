@@ -96,8 +96,7 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files, kit_.shared, &kit_.shared.LineColor, onProgress,
-          joins_.wholeQuantities.WholeQuantities()};
+  return {kit_.files, kit_.shared, onProgress, joins_.wholeQuantities.WholeQuantities()};
 }
 
 Markups ReportsForm::LoadedMarkups() {

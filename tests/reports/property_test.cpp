@@ -24,8 +24,7 @@ TEST(RandomProjects, EveryReportEndsWithLinesOrOneMessageAndTwiceTheSame) {
   int stopped = 0;
   for (int i = 0; i < 10000; ++i) {
     FillWithRandomProject(disk, random);
-    const ReportSource source{
-        files, {QStringLiteral("/p/"), QStringLiteral("/")}, nullptr, {}, i % 3 == 0};
+    const ReportSource source{files, {QStringLiteral("/p/"), QStringLiteral("/")}, {}, i % 3 == 0};
     const Markups markups = RandomMarkups(random());
     for (int report = 0; report < kReports; ++report) {
       const Outcome first = Play(report, source, markups);
@@ -55,8 +54,7 @@ TEST(RandomProjects, TheMergeAddsUp) {
     }
     disk.contents.insert(QStringLiteral("/p/Rooms/Rooms.tamo"), "A\r\nTrue\r\n");
     disk.contents.insert(QStringLiteral("/p/Rooms/A.rfs"), room);
-    const ReportSource source{
-        files, {QStringLiteral("/p/"), QStringLiteral("/")}, nullptr, {}, false};
+    const ReportSource source{files, {QStringLiteral("/p/"), QStringLiteral("/")}, {}, false};
     const std::vector<MergedRow> rows = Calculate(source);
     EXPECT_EQ(rows.size(), static_cast<size_t>(sums.size()));
     for (const MergedRow& row : rows)

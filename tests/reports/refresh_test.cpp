@@ -13,7 +13,7 @@ namespace {
 constexpr qint64 kSecond = 1'000'000'000;
 
 ReportSource SourceOf(Files& files) {
-  return {files, {QStringLiteral("/p/"), QStringLiteral("/")}, nullptr, {}, false};
+  return {files, {QStringLiteral("/p/"), QStringLiteral("/")}, {}, false};
 }
 
 class Changes {
