@@ -4,15 +4,13 @@
 
 #include <QDir>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <set>
 
 #include "common/failure.h"
 #include "common/kit.h"
 #include "plans/fakepdfdraw.h"
 #include "plans/ostform.h"
-#include "support/doubles.h"
-#include "support/faultdisk.h"
+#include "support/room.h"
 
 namespace tamo::test {
 
@@ -68,11 +66,9 @@ class RecordingTakeoff : public TakeoffFields {
   QStringList calls;
 };
 
-class OstTest : public ::testing::Test {
+class OstTest : public ::testing::Test, public FormRoom {
  protected:
   OstTest() {
-    shared.Separator = QStringLiteral("/");
-    shared.zDir = Path("program");
     shared.DataPath = Path("Tamo/");
     shared.JobID = QStringLiteral("00-2112002");
     shared.JobName = QStringLiteral("Clinic");
@@ -94,8 +90,6 @@ class OstTest : public ::testing::Test {
     keeper.saves = keeper.asked = 0;
   }
 
-  QString Path(const QString& name) const { return dir.path() + QLatin1Char('/') + name; }
-  QString Path(const char* name) const { return Path(QString::fromUtf8(name)); }
   void Put(const char* name, const QByteArray& bytes = "%PDF-1.4\n") {
     int handle = -1;
     ASSERT_EQ(disk.OpenNew(Path(name), handle), kNoError);
@@ -131,18 +125,6 @@ class OstTest : public ::testing::Test {
   std::string Location() { return ost.PlanLocation.Text().toStdString(); }
   std::string PathText(const char* name) { return Path(name).toStdString(); }
 
-  QTemporaryDir dir;
-  FaultDisk disk;
-  FixedClock clock;
-  ScriptedMessages messages;
-  RecordingPrinter printer;
-  RecordingClipboard clipboard;
-  Platform platform{disk,      clock,           messages, printer,
-                    clipboard, Path("program"), Path(""), Path("config")};
-  Desk desk{messages};
-  Files files{disk};
-  SharedFields shared;
-  Kit kit{desk, files, shared, platform};
   FakePdfDraw viewer;
   RecordingKeeper keeper{shared};
   RecordingTakeoff takeoff;

@@ -1,12 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QWheelEvent>
 
 #include "plans/fakepdfdraw.h"
 #include "program/program.h"
-#include "support/doubles.h"
+#include "support/room.h"
 #include "windows/application.h"
 #include "windows/formwindow.h"
 #include "windows/keys.h"
@@ -23,7 +22,7 @@ namespace {
 const char* const kForms[] = {"Tamo",       "Settings",       "Pricing", "RFSForm", "EstimateForm",
                               "BottomLine", "AdjustmentForm", "OST",     "Reports", "Docs"};
 
-struct KeeperTest : test::WithApplication, testing::Test {
+struct KeeperTest : test::WithApplication, testing::Test, test::MachineRoom {
   KeeperTest() {
     ApplyLook(Look::Light());
     program.Start();
@@ -38,20 +37,10 @@ struct KeeperTest : test::WithApplication, testing::Test {
     test::Settle();
   }
 
-  QTemporaryDir home;
-  RealDisk disk;
-  test::FixedClock clock;
-  test::ScriptedMessages messages;
-  test::RecordingPrinter printer;
-  test::RecordingClipboard clipboard;
-  Platform platform{disk,        clock,
-                    messages,    printer,
-                    clipboard,   home.path() + QStringLiteral("/program"),
-                    home.path(), home.path() + QStringLiteral("/config")};
   FakePdfDraw viewer;
   Program program{platform, viewer};
   Desk& desk = program.GetDesk();
-  WindowKeeper windows{program, nullptr, home.path() + QStringLiteral("/windows.ini")};
+  WindowKeeper windows{program, nullptr, Path("windows.ini")};
 };
 
 TEST_F(KeeperTest, EveryControlThatALayoutNamesIsThere) {
@@ -135,14 +124,14 @@ TEST_F(KeeperTest, GoingToAnotherWindowOfTheProgramActivatesItsForm) {
 }
 
 TEST_F(KeeperTest, AnUnsavedTextIsNamedInEveryWindowUntilItIsSaved) {
-  const QString path = home.path() + QStringLiteral("/gone/Areas.tamo");
+  const QString path = Path("gone/Areas.tamo");
   program.GetFiles().SaveText(path, QStringLiteral("x"));
   Menu("Tamo", "Settings1");
   for (const char* name : {"Tamo", "Settings"}) {
     EXPECT_TRUE(windows.NoticeOf(FormOf(name))->isVisible()) << name;
     EXPECT_TRUE(Window(name).Notice().Text().contains(path)) << name;
   }
-  disk.MakeFolder(home.path() + QStringLiteral("/gone"));
+  disk.MakeFolder(Path("gone"));
   test::Press(*windows.NoticeOf(FormOf("Tamo")), QPoint(5, 5), Qt::LeftButton);
   EXPECT_FALSE(windows.NoticeOf(FormOf("Tamo"))->isVisible());
   EXPECT_TRUE(disk.Exists(path));
@@ -161,7 +150,7 @@ TEST_F(KeeperTest, ThePlaceOfAWindowIsRemembered) {
   Menu("Tamo", "Settings1");
   Window("Settings").setGeometry(40, 60, 900, 650);
   Menu("Tamo", "Settings1");
-  WindowKeeper again(program, nullptr, home.path() + QStringLiteral("/windows.ini"));
+  WindowKeeper again(program, nullptr, Path("windows.ini"));
   EXPECT_EQ(again.WindowOf(FormOf("Settings"))->size(), QSize(900, 650));
 }
 
