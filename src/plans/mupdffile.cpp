@@ -1,11 +1,11 @@
-#include "plans/planfile.h"
+#include "plans/mupdffile.h"
 
 #include <algorithm>
 #include <cmath>
 #include <set>
 
 #include "plans/filetail.h"
-#include "plans/planfileinner.h"
+#include "plans/mupdffileinner.h"
 
 namespace tamo {
 namespace {
@@ -150,19 +150,19 @@ bool IsOwnMark(fz_context* context, pdf_obj* annotation) {
   return own;
 }
 
-PlanFile::PlanFile(fz_context* context, std::shared_ptr<MuWorld> world,
-                   std::shared_ptr<ReaderSlot> slot)
+MuPdfFile::MuPdfFile(fz_context* context, std::shared_ptr<MuPdfContexts> contexts,
+                   std::shared_ptr<PlanSource> source)
     : inner_(std::make_unique<Inner>()) {
   inner_->context = context;
-  inner_->world = std::move(world);
-  inner_->slot = std::move(slot);
+  inner_->contexts = std::move(contexts);
+  inner_->source = std::move(source);
 }
 
-PlanFile::~PlanFile() {
+MuPdfFile::~MuPdfFile() {
   pdf_drop_document(inner_->context, inner_->document);
 }
 
-bool PlanFile::Inner::OpenDocument(const QByteArray& password, QString& problem) {
+bool MuPdfFile::Inner::OpenDocument(const QByteArray& password, QString& problem) {
   fz_stream* stream = nullptr;
   bool locked = false;
   bool good = true;
@@ -170,7 +170,7 @@ bool PlanFile::Inner::OpenDocument(const QByteArray& password, QString& problem)
   fz_var(locked);
   fz_var(stream);
   fz_try(context) {
-    stream = NewPlanStream(context, world, slot);
+    stream = NewPlanStream(context, contexts, source);
     document = pdf_open_document_with_stream(context, stream);
     if (pdf_needs_password(context, document)) {
       locked = pdf_authenticate_password(context, document, password.constData()) == 0;
@@ -187,7 +187,7 @@ bool PlanFile::Inner::OpenDocument(const QByteArray& password, QString& problem)
   return good && !locked;
 }
 
-void PlanFile::Inner::ReadPages() {
+void MuPdfFile::Inner::ReadPages() {
   CollectPages(context, document, pages);
   for (PageRecord& page : pages) {
     fz_matrix map = fz_identity;
@@ -201,7 +201,7 @@ void PlanFile::Inner::ReadPages() {
   }
 }
 
-void PlanFile::Inner::ReadMarks(size_t index, std::vector<Mark>& marks) {
+void MuPdfFile::Inner::ReadMarks(size_t index, std::vector<Mark>& marks) {
   PageRecord& page = pages[index];
   pdf_obj* object = nullptr;
   pdf_obj* annotations = nullptr;
@@ -230,10 +230,10 @@ void PlanFile::Inner::ReadMarks(size_t index, std::vector<Mark>& marks) {
   pdf_drop_obj(context, object);
 }
 
-PlanContents PlanFile::Open(const QString& password) {
+PlanContents MuPdfFile::Open(const QString& password) {
   PlanContents contents;
-  const QByteArray start = ReadPart(*inner_->slot->Get(), 0, 1024);
-  if (inner_->slot->Size() == 0) {
+  const QByteArray start = ReadPart(*inner_->source->Reader(), 0, 1024);
+  if (inner_->source->Size() == 0) {
     contents.problem = QStringLiteral("it is empty");
   } else if (!start.contains("%PDF") && !start.contains("%!PS-Adobe")) {
     contents.problem = QStringLiteral("it is no PDF");

@@ -2,9 +2,9 @@
 
 #include "common/failure.h"
 #include "common/files.h"
-#include "plans/contentdevice.h"
-#include "plans/muworld.h"
-#include "plans/pagerun.h"
+#include "plans/mupdfcontentdevice.h"
+#include "plans/mupdfcontexts.h"
+#include "plans/mupdfrunpage.h"
 
 namespace tamo {
 namespace {
@@ -35,15 +35,15 @@ struct Reading {
   fz_cookie cookie{};
 };
 
-bool OpenPage(Reading& reading, const std::shared_ptr<MuWorld>& world,
-              const std::shared_ptr<ReaderSlot>& slot, const char* password, int index) {
+bool OpenPage(Reading& reading, const std::shared_ptr<MuPdfContexts>& contexts,
+              const std::shared_ptr<PlanSource>& source, const char* password, int index) {
   fz_context* context = reading.context;
   fz_stream* stream = nullptr;
   bool good = true;
   fz_var(stream);
   fz_var(good);
   fz_try(context) {
-    stream = NewPlanStream(context, world, slot);
+    stream = NewPlanStream(context, contexts, source);
     reading.document = pdf_open_document_with_stream(context, stream);
     reading.locked = pdf_needs_password(context, reading.document) &&
                      pdf_authenticate_password(context, reading.document, password) == 0;
@@ -89,7 +89,7 @@ void Gather(Reading& reading, PageContent& content, const std::atomic<bool>* can
 void Close(Reading& reading) {
   fz_drop_page(reading.context, reading.page == nullptr ? nullptr : &reading.page->super);
   pdf_drop_document(reading.context, reading.document);
-  MuWorld::DropContext(reading.context);
+  MuPdfContexts::DropContext(reading.context);
 }
 
 }  // namespace
@@ -98,17 +98,17 @@ PageContent ReadPageContent(std::shared_ptr<FileReader> file, int page, const QB
                             const std::atomic<bool>* cancel) {
   PageContent content;
   content.error = kFileOther;
-  const auto world = MuWorld::Make();
+  const auto contexts = MuPdfContexts::Make();
   Reading reading;
-  reading.context = world == nullptr ? nullptr : world->NewContext();
+  reading.context = contexts == nullptr ? nullptr : contexts->NewContext();
   if (reading.context == nullptr) {
     content.problem = QStringLiteral("there is not enough memory");
     return content;
   }
   const qint64 size = file->Size();
-  const auto slot = std::make_shared<ReaderSlot>(
+  const auto source = std::make_shared<PlanSource>(
       std::make_shared<CancellableReader>(std::move(file), cancel), size);
-  if (OpenPage(reading, world, slot, password.constData(), page - 1)) {
+  if (OpenPage(reading, contexts, source, password.constData(), page - 1)) {
     content.error = kNoError;
     Gather(reading, content, cancel);
   } else {

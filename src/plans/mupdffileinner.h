@@ -1,6 +1,6 @@
 #pragma once
 
-// The inside of PlanFile, shared by its two source files. Code between fz_try and fz_catch may be
+// The inside of MuPdfFile, shared by its two source files. Code between fz_try and fz_catch may be
 // left by a jump, so it holds no local object with a destructor.
 
 #include <mupdf/fitz.h>
@@ -8,7 +8,7 @@
 
 #include "plans/markpdf.h"
 #include "plans/pdfappend.h"
-#include "plans/planfile.h"
+#include "plans/mupdffile.h"
 
 namespace tamo {
 
@@ -31,10 +31,10 @@ struct PageRecord {
   QByteArray others;
 };
 
-struct PlanFile::Inner {
+struct MuPdfFile::Inner {
   fz_context* context = nullptr;
-  std::shared_ptr<MuWorld> world;
-  std::shared_ptr<ReaderSlot> slot;
+  std::shared_ptr<MuPdfContexts> contexts;
+  std::shared_ptr<PlanSource> source;
   pdf_document* document = nullptr;
   std::vector<PageRecord> pages;
   PdfEnd end;

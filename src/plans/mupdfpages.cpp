@@ -1,10 +1,9 @@
-#include "plans/pagepainter.h"
+#include "plans/mupdfpages.h"
 
-#include <atomic>
-#include <cmath>
 #include <utility>
 
-#include "plans/pagerun.h"
+#include "plans/mupdfrecord.h"
+#include "plans/mupdfrunpage.h"
 
 namespace tamo {
 namespace {
@@ -15,23 +14,21 @@ constexpr int kFineShades = 8;
 constexpr int kCoarseShades = 4;
 constexpr int kLargestSide = 16384;
 
-fz_cookie* CookieOf(PaintStop& stop) {
-  return static_cast<fz_cookie*>(stop.Cookie());
-}
+// The engine's own flag of a call, set when the call is cancelled.
+class Cookie {
+ public:
+  explicit Cookie(CancelFlag& cancel) : cancel_(cancel) {
+    cancel_.WhenCancelled([this] { cookie_.abort = 1; });
+  }
+  ~Cookie() { cancel_.WhenCancelled(nullptr); }
+  Cookie(const Cookie&) = delete;
+  Cookie& operator=(const Cookie&) = delete;
+  fz_cookie* Get() { return &cookie_; }
 
-// A pattern that would be repeated millions of times is no drawing but a trap: nothing can stop the
-// engine once it paints it, so it is refused when the page is read.
-constexpr double kMostRepeats = 4e6;
-using BeginTile = int (*)(fz_context*, fz_device*, fz_rect, fz_rect, float, float, fz_matrix, int);
-std::atomic<BeginTile> listBeginTile = nullptr;
-
-int BeginBoundedTile(fz_context* context, fz_device* device, fz_rect area, fz_rect view,
-                     float stepX, float stepY, fz_matrix place, int id) {
-  const double across = std::abs((area.x1 - area.x0) / static_cast<double>(stepX));
-  const double down = std::abs((area.y1 - area.y0) / static_cast<double>(stepY));
-  if (!(across * down < kMostRepeats)) fz_throw(context, FZ_ERROR_GENERIC, "pattern too fine");
-  return listBeginTile.load()(context, device, area, view, stepX, stepY, place, id);
-}
+ private:
+  CancelFlag& cancel_;
+  fz_cookie cookie_{};
+};
 
 bool RecordPage(fz_context* context, pdf_document* document, int index, fz_cookie* cookie,
                 fz_display_list** made, fz_rect* bounds) {
@@ -47,9 +44,7 @@ bool RecordPage(fz_context* context, pdf_document* document, int index, fz_cooki
     page = pdf_load_page(context, document, index);
     *bounds = pdf_bound_page(context, page);
     list = fz_new_display_list(context, *bounds);
-    device = fz_new_list_device(context, list);
-    listBeginTile = device->begin_tile;
-    device->begin_tile = BeginBoundedTile;
+    device = NewRecorder(context, list);
     RunPage(context, page, device, cookie);
     fz_close_device(context, device);
   }
@@ -110,38 +105,24 @@ bool PaintList(fz_context* context, fz_display_list* list, fz_matrix place, fz_i
 
 }  // namespace
 
-PaintStop::PaintStop() : cookie_(std::make_shared<fz_cookie>()) {
-  *static_cast<fz_cookie*>(cookie_.get()) = fz_cookie{};
-}
+MuPdfPage::MuPdfPage(std::shared_ptr<MuPdfContexts> contexts, void* list, PageSize size)
+    : contexts_(std::move(contexts)), list_(list), size_(size) {}
 
-PaintStop::~PaintStop() = default;
-
-void PaintStop::Stop() {
-  static_cast<fz_cookie*>(cookie_.get())->abort = 1;
-}
-
-bool PaintStop::Stopped() const {
-  return static_cast<fz_cookie*>(cookie_.get())->abort != 0;
-}
-
-PageList::PageList(std::shared_ptr<MuWorld> world, void* list, PageSize size)
-    : world_(std::move(world)), list_(list), size_(size) {}
-
-PageList::~PageList() {
-  world_->WithSpare([this](fz_context* context) {
+MuPdfPage::~MuPdfPage() {
+  contexts_->WithSpare([this](fz_context* context) {
     fz_drop_display_list(context, static_cast<fz_display_list*>(list_));
   });
 }
 
-PageSource::PageSource(fz_context* context, std::shared_ptr<MuWorld> world,
-                       const std::shared_ptr<ReaderSlot>& slot, const QByteArray& password)
-    : context_(context), world_(std::move(world)) {
+MuPdfPages::MuPdfPages(fz_context* context, std::shared_ptr<MuPdfContexts> contexts,
+                       const std::shared_ptr<PlanSource>& source, const QByteArray& password)
+    : context_(context), contexts_(std::move(contexts)) {
   fz_stream* stream = nullptr;
   pdf_document* document = nullptr;
   fz_var(stream);
   fz_var(document);
   fz_try(context) {
-    stream = NewPlanStream(context, world_, slot);
+    stream = NewPlanStream(context, contexts_, source);
     document = pdf_open_document_with_stream(context, stream);
     if (pdf_needs_password(context, document)) {
       pdf_authenticate_password(context, document, password.constData());
@@ -152,36 +133,35 @@ PageSource::PageSource(fz_context* context, std::shared_ptr<MuWorld> world,
   document_ = document;
 }
 
-PageSource::~PageSource() {
+MuPdfPages::~MuPdfPages() {
   pdf_drop_document(context_, static_cast<pdf_document*>(document_));
 }
 
-std::shared_ptr<PageList> PageSource::Read(int page, PaintStop& stop) {
+std::shared_ptr<MuPdfPage> MuPdfPages::Read(int page, CancelFlag& cancel) {
   if (document_ == nullptr) return nullptr;
   fz_display_list* list = nullptr;
   fz_rect bounds = fz_empty_rect;
+  Cookie cookie(cancel);
   auto* document = static_cast<pdf_document*>(document_);
-  if (!RecordPage(context_, document, page - 1, CookieOf(stop), &list, &bounds)) return nullptr;
+  if (!RecordPage(context_, document, page - 1, cookie.Get(), &list, &bounds)) return nullptr;
   const PageSize size = {bounds.x1 - bounds.x0, bounds.y1 - bounds.y0};
-  auto read = std::make_shared<PageList>(world_, list, size);
+  auto read = std::make_shared<MuPdfPage>(contexts_, list, size);
   const bool sheet = size.width >= 1 && size.height >= 1 && size.width < 1e7 && size.height < 1e7;
   return sheet ? read : nullptr;
 }
 
-bool PaintPage(fz_context* context, const PageList& list, const PaintPart& part, PaintStop& stop,
-               Picture& picture) {
+bool PaintPage(fz_context* context, const MuPdfPage& page, const PaintPart& part,
+               CancelFlag& cancel, uint32_t* pixels) {
   if (part.width <= 0 || part.height <= 0) return false;
   if (part.width > kLargestSide || part.height > kLargestSide) return false;
-  picture.width = part.width;
-  picture.height = part.height;
-  picture.pixels.resize(static_cast<size_t>(part.width) * static_cast<size_t>(part.height));
   fz_set_aa_level(context, part.coarse ? kCoarseShades : kFineShades);
   fz_set_graphics_min_line_width(context, kThinnestLine);
   const fz_irect rect = {part.left, part.top, part.left + part.width, part.top + part.height};
+  Cookie cookie(cancel);
   const bool good =
-      PaintList(context, static_cast<fz_display_list*>(list.List()), PlaceOf(part, list.Size()),
-                rect, reinterpret_cast<unsigned char*>(picture.pixels.data()), CookieOf(stop));
-  return good && !stop.Stopped();
+      PaintList(context, static_cast<fz_display_list*>(page.List()), PlaceOf(part, page.Size()),
+                rect, reinterpret_cast<unsigned char*>(pixels), cookie.Get());
+  return good && !cancel.Cancelled();
 }
 
 }  // namespace tamo

@@ -1,4 +1,4 @@
-#include "plans/muworld.h"
+#include "plans/mupdfcontexts.h"
 
 #include <mupdf/fitz.h>
 
@@ -36,7 +36,7 @@ void* Stamp(void* block, size_t size) {
 }
 
 void* TakeMemory(void* user, size_t size) {
-  if (static_cast<MuWorld*>(user)->Abandoned() || size > SIZE_MAX / 4) return nullptr;
+  if (static_cast<MuPdfContexts*>(user)->Abandoned() || size > SIZE_MAX / 4) return nullptr;
   if (!Take(static_cast<qint64>(size))) return nullptr;
   void* block = std::malloc(size + kHeader);
   if (block == nullptr) memoryInUse.fetch_sub(static_cast<qint64>(size));
@@ -59,7 +59,7 @@ void* ResizeMemory(void* user, void* memory, size_t size) {
   char* block = static_cast<char*>(memory) - kHeader;
   const size_t before = SizeOf(block);
   if (size > before) {
-    if (static_cast<MuWorld*>(user)->Abandoned() || size > SIZE_MAX / 4) return nullptr;
+    if (static_cast<MuPdfContexts*>(user)->Abandoned() || size > SIZE_MAX / 4) return nullptr;
     if (!Take(static_cast<qint64>(size - before))) return nullptr;
   }
   void* moved = std::realloc(block, size + kHeader);
@@ -82,18 +82,18 @@ void Unlock(void* user, int lock) {
 void Quiet(void* /*user*/, const char* /*message*/) {}
 
 struct StreamState {
-  std::shared_ptr<MuWorld> world;
-  std::shared_ptr<ReaderSlot> slot;
+  std::shared_ptr<MuPdfContexts> contexts;
+  std::shared_ptr<PlanSource> source;
   unsigned char bytes[kStreamBuffer];
 };
 
-// How many bytes now stand in the state's buffer; -1 when the world is abandoned or the file fails.
+// How many bytes now stand in the state's buffer; -1 when the contexts is abandoned or the file fails.
 int Fill(StreamState* state, qint64 place) {
-  if (state->world->Abandoned()) return -1;
-  const qint64 count = std::min<qint64>(kStreamBuffer, state->slot->Size() - place);
+  if (state->contexts->Abandoned()) return -1;
+  const qint64 count = std::min<qint64>(kStreamBuffer, state->source->Size() - place);
   if (count <= 0) return 0;
   qint64 got = 0;
-  const auto reader = state->slot->Get();
+  const auto reader = state->source->Reader();
   if (reader->ReadAt(place, reinterpret_cast<char*>(state->bytes), count, got) != 0) return -1;
   return static_cast<int>(got);
 }
@@ -111,9 +111,9 @@ int NextBytes(fz_context* context, fz_stream* stream, size_t /*max*/) {
 void SeekBytes(fz_context* /*context*/, fz_stream* stream, int64_t offset, int whence) {
   auto* state = static_cast<StreamState*>(stream->state);
   int64_t place = offset;
-  if (whence == SEEK_END) place += state->slot->Size();
+  if (whence == SEEK_END) place += state->source->Size();
   if (whence == SEEK_CUR) place += stream->pos - (stream->wp - stream->rp);
-  stream->pos = std::clamp<int64_t>(place, 0, state->slot->Size());
+  stream->pos = std::clamp<int64_t>(place, 0, state->source->Size());
   stream->rp = state->bytes;
   stream->wp = state->bytes;
 }
@@ -124,7 +124,7 @@ void DropBytes(fz_context* /*context*/, void* state) {
 
 }  // namespace
 
-struct MuWorld::Inner {
+struct MuPdfContexts::Inner {
   std::mutex locks[FZ_LOCK_MAX];
   fz_alloc_context alloc{};
   fz_locks_context lockCalls{};
@@ -132,137 +132,52 @@ struct MuWorld::Inner {
   std::mutex cloning;
 };
 
-MuWorld::MuWorld() : inner_(std::make_unique<Inner>()) {}
+MuPdfContexts::MuPdfContexts() : inner_(std::make_unique<Inner>()) {}
 
-std::shared_ptr<MuWorld> MuWorld::Make() {
-  std::shared_ptr<MuWorld> world(new MuWorld);
-  Inner& inner = *world->inner_;
-  inner.alloc = {world.get(), TakeMemory, ResizeMemory, FreeMemory};
+std::shared_ptr<MuPdfContexts> MuPdfContexts::Make() {
+  std::shared_ptr<MuPdfContexts> contexts(new MuPdfContexts);
+  Inner& inner = *contexts->inner_;
+  inner.alloc = {contexts.get(), TakeMemory, ResizeMemory, FreeMemory};
   inner.lockCalls = {inner.locks, Lock, Unlock};
   inner.base = fz_new_context(&inner.alloc, &inner.lockCalls, kStore);
   if (inner.base == nullptr) return nullptr;
   fz_set_error_callback(inner.base, Quiet, nullptr);
   fz_set_warning_callback(inner.base, Quiet, nullptr);
-  return world;
+  return contexts;
 }
 
-MuWorld::~MuWorld() {
+MuPdfContexts::~MuPdfContexts() {
   if (inner_->base != nullptr) fz_drop_context(inner_->base);
 }
 
-fz_context* MuWorld::NewContext() {
+fz_context* MuPdfContexts::NewContext() {
   const std::lock_guard<std::mutex> guard(inner_->cloning);
   return fz_clone_context(inner_->base);
 }
 
-void MuWorld::WithSpare(const std::function<void(fz_context*)>& work) {
+void MuPdfContexts::WithSpare(const std::function<void(fz_context*)>& work) {
   const std::lock_guard<std::mutex> guard(inner_->cloning);
   work(inner_->base);
 }
 
-void MuWorld::DropContext(fz_context* context) {
+void MuPdfContexts::DropContext(fz_context* context) {
   if (context != nullptr) fz_drop_context(context);
 }
 
-qint64 MuWorld::MemoryInUse() {
+qint64 MuPdfContexts::MemoryInUse() {
   return memoryInUse;
 }
 
-void MuWorld::SetMemoryLimit(qint64 bytes) {
+void MuPdfContexts::SetMemoryLimit(qint64 bytes) {
   memoryLimit = bytes;
 }
 
-void ReaderSlot::Set(std::shared_ptr<FileReader> reader) {
-  const std::lock_guard<std::mutex> guard(mutex_);
-  reader_ = std::move(reader);
-}
-
-std::shared_ptr<FileReader> ReaderSlot::Get() const {
-  const std::lock_guard<std::mutex> guard(mutex_);
-  return reader_;
-}
-
-fz_stream* NewPlanStream(fz_context* context, std::shared_ptr<MuWorld> world,
-                         std::shared_ptr<ReaderSlot> slot) {
-  auto* state = new StreamState{std::move(world), std::move(slot), {}};
+fz_stream* NewPlanStream(fz_context* context, std::shared_ptr<MuPdfContexts> contexts,
+                         std::shared_ptr<PlanSource> source) {
+  auto* state = new StreamState{std::move(contexts), std::move(source), {}};
   fz_stream* stream = fz_new_stream(context, state, NextBytes, DropBytes);
   stream->seek = SeekBytes;
   return stream;
-}
-
-// --- JobThread
-
-struct JobThread::State {
-  std::shared_ptr<MuWorld> world;
-  std::mutex mutex;
-  std::condition_variable wake;
-  std::condition_variable ended;
-  std::deque<Job> jobs;
-  bool stop = false;
-  bool done = false;
-};
-
-JobThread::JobThread(std::shared_ptr<MuWorld> world) : state_(std::make_shared<State>()) {
-  state_->world = std::move(world);
-  thread_ = std::thread([state = state_] { Loop(state); });
-}
-
-void JobThread::Loop(const std::shared_ptr<State>& state) {
-  fz_context* context = state->world->NewContext();
-  std::unique_lock<std::mutex> lock(state->mutex);
-  for (;;) {
-    state->wake.wait(lock, [&] { return state->stop || !state->jobs.empty(); });
-    if (state->jobs.empty()) break;
-    Job job = std::move(state->jobs.front());
-    state->jobs.pop_front();
-    lock.unlock();
-    if (context != nullptr) job(context);
-    job = nullptr;
-    lock.lock();
-  }
-  lock.unlock();
-  MuWorld::DropContext(context);
-  lock.lock();
-  state->done = true;
-  state->ended.notify_all();
-}
-
-JobThread::~JobThread() {
-  std::unique_lock<std::mutex> lock(state_->mutex);
-  state_->stop = true;
-  state_->wake.notify_all();
-  const bool ended =
-      state_->ended.wait_for(lock, std::chrono::milliseconds(20), [this] { return state_->done; });
-  lock.unlock();
-  if (ended) {
-    thread_.join();
-  } else {
-    thread_.detach();
-  }
-}
-
-void JobThread::Post(Job job) {
-  const std::lock_guard<std::mutex> guard(state_->mutex);
-  state_->jobs.push_back(std::move(job));
-  state_->wake.notify_all();
-}
-
-bool JobThread::Run(Job job, int milliseconds) {
-  struct Wait {
-    std::mutex mutex;
-    std::condition_variable done;
-    bool finished = false;
-  };
-  const auto wait = std::make_shared<Wait>();
-  Post([wait, job = std::move(job)](fz_context* context) {
-    job(context);
-    const std::lock_guard<std::mutex> guard(wait->mutex);
-    wait->finished = true;
-    wait->done.notify_all();
-  });
-  std::unique_lock<std::mutex> lock(wait->mutex);
-  return wait->done.wait_for(lock, std::chrono::milliseconds(milliseconds),
-                             [&] { return wait->finished; });
 }
 
 }  // namespace tamo

@@ -2,7 +2,7 @@
 #include <cstring>
 
 #include "plans/filetail.h"
-#include "plans/planfileinner.h"
+#include "plans/mupdffileinner.h"
 
 namespace tamo {
 namespace {
@@ -65,13 +65,13 @@ QByteArray ObjectText(fz_context* context, pdf_obj* object, pdf_crypt* crypt, in
   return text;
 }
 
-bool PlanFile::NeedsRewrite() const {
+bool MuPdfFile::NeedsRewrite() const {
   const Inner& inner = *inner_;
   return inner.document == nullptr || inner.document->repair_attempted != 0;
 }
 
 // What the trailer repeats, and where the next addition begins.
-bool PlanFile::Inner::ReadEnd() {
+bool MuPdfFile::Inner::ReadEnd() {
   if (end.size != 0) return true;
   bool good = true;
   fz_var(good);
@@ -90,8 +90,8 @@ bool PlanFile::Inner::ReadEnd() {
   }
   fz_catch(context) good = false;
   end.startXref = document->startxref;
-  end.size = slot->Size();
-  const QByteArray part = ReadPart(*slot->Get(), end.startXref, 32).trimmed();
+  end.size = source->Size();
+  const QByteArray part = ReadPart(*source->Reader(), end.startXref, 32).trimmed();
   end.xrefStream = !part.startsWith("xref");
   if (end.xrefStream && (part.isEmpty() || part[0] < '0' || part[0] > '9')) good = false;
   if (!good || end.nextObject < 1) end = {};
@@ -99,7 +99,7 @@ bool PlanFile::Inner::ReadEnd() {
 }
 
 // Reads once what a save has to repeat of a page.
-bool PlanFile::Inner::ReadPage(PageRecord& page) {
+bool MuPdfFile::Inner::ReadPage(PageRecord& page) {
   if (page.read) return true;
   pdf_obj* object = nullptr;
   bool good = true;
@@ -135,7 +135,7 @@ bool PlanFile::Inner::ReadPage(PageRecord& page) {
   return page.read;
 }
 
-QByteArray PlanFile::Inner::PageBody(const PageRecord& page) const {
+QByteArray MuPdfFile::Inner::PageBody(const PageRecord& page) const {
   QByteArray list = page.others;
   for (const FileMark& mark : page.own) list += QByteArray::number(mark.object) + " 0 R ";
   return "<<" + page.entries + (list.isEmpty() ? QByteArray() : "/Annots[" + list.trimmed() + ']') +
@@ -143,7 +143,7 @@ QByteArray PlanFile::Inner::PageBody(const PageRecord& page) const {
 }
 
 // In an encrypted plan the texts of a new object have to be encrypted as all others are.
-bool PlanFile::Inner::Encrypted(PdfObject& object) {
+bool MuPdfFile::Inner::Encrypted(PdfObject& object) {
   if (document->crypt == nullptr) return true;
   fz_stream* stream = nullptr;
   pdf_obj* parsed = nullptr;
@@ -171,7 +171,7 @@ bool PlanFile::Inner::Encrypted(PdfObject& object) {
   return good;
 }
 
-bool PlanFile::Inner::EncryptedStream(PdfObject& object, const QByteArray& entries,
+bool MuPdfFile::Inner::EncryptedStream(PdfObject& object, const QByteArray& entries,
                                       const QByteArray& content) {
   QByteArray data = content;
   bool good = true;
@@ -190,7 +190,7 @@ bool PlanFile::Inner::EncryptedStream(PdfObject& object, const QByteArray& entri
   return good;
 }
 
-int PlanFile::Addition(const MarkChanges& changes, QByteArray& bytes, QString& problem) {
+int MuPdfFile::Addition(const MarkChanges& changes, QByteArray& bytes, QString& problem) {
   Inner& inner = *inner_;
   problem = QStringLiteral("it is too damaged to hold marks");
   if (NeedsRewrite() || !inner.ReadEnd()) return 57;
@@ -242,7 +242,7 @@ int PlanFile::Addition(const MarkChanges& changes, QByteArray& bytes, QString& p
   return 0;
 }
 
-void PlanFile::ForgetAddition() {
+void MuPdfFile::ForgetAddition() {
   Inner& inner = *inner_;
   inner.end = inner.endBefore;
   for (size_t i = 0; i < inner.ownBefore.size() && i < inner.pages.size(); ++i) {
@@ -250,7 +250,7 @@ void PlanFile::ForgetAddition() {
   }
 }
 
-int PlanFile::Rewrite(const std::function<int(const QByteArray&)>& sink, QString& problem) {
+int MuPdfFile::Rewrite(const std::function<int(const QByteArray&)>& sink, QString& problem) {
   fz_context* context = inner_->context;
   SinkState state;
   state.sink = &sink;

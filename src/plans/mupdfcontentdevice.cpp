@@ -1,9 +1,9 @@
-#include "plans/contentdevice.h"
+#include "plans/mupdfcontentdevice.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "plans/contenttext.h"
+#include "plans/mupdfcontenttext.h"
 
 // The engine leaves a function by a jump when it fails, so what may fail comes first in each
 // callback, before any object with a destructor.

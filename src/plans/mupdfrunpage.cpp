@@ -1,6 +1,6 @@
-#include "plans/pagerun.h"
+#include "plans/mupdfrunpage.h"
 
-#include "plans/planfileinner.h"
+#include "plans/mupdffileinner.h"
 
 namespace tamo {
 

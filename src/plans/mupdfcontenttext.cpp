@@ -1,4 +1,4 @@
-#include "plans/contenttext.h"
+#include "plans/mupdfcontenttext.h"
 
 #include <cmath>
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "plans/mark.h"
-#include "plans/muworld.h"
+#include "plans/mupdfcontexts.h"
 
 namespace tamo {
 
@@ -29,12 +29,12 @@ struct MarkChanges {
 
 // The structure of an open plan: its pages, its marks, and what a save appends. Lives on one
 // thread, with that thread's context; every call catches the engine's failures.
-class PlanFile {
+class MuPdfFile {
  public:
-  PlanFile(fz_context* context, std::shared_ptr<MuWorld> world, std::shared_ptr<ReaderSlot> slot);
-  ~PlanFile();
-  PlanFile(const PlanFile&) = delete;
-  PlanFile& operator=(const PlanFile&) = delete;
+  MuPdfFile(fz_context* context, std::shared_ptr<MuPdfContexts> contexts, std::shared_ptr<PlanSource> source);
+  ~MuPdfFile();
+  MuPdfFile(const MuPdfFile&) = delete;
+  MuPdfFile& operator=(const MuPdfFile&) = delete;
 
   PlanContents Open(const QString& password);
 
