@@ -6,7 +6,7 @@
 
 #include "common/memory.h"
 #include "common/paths.h"
-#include "plans/mupdfdraw.h"
+#include "plans/pdfdraw.h"
 #include "program/program.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
@@ -56,7 +56,7 @@ class StartedProgram {
   DeskClipboard clipboard_;
   Platform platform_;
   Files files_;
-  MuPdfDraw viewer_;
+  PdfDraw viewer_;
   Program program_;
   WindowKeeper windows_;
 };

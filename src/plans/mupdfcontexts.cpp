@@ -87,7 +87,8 @@ struct StreamState {
   unsigned char bytes[kStreamBuffer];
 };
 
-// How many bytes now stand in the state's buffer; -1 when the contexts is abandoned or the file fails.
+// How many bytes now stand in the state's buffer; -1 when the contexts is abandoned or the file
+// fails.
 int Fill(StreamState* state, qint64 place) {
   if (state->contexts->Abandoned()) return -1;
   const qint64 count = std::min<qint64>(kStreamBuffer, state->source->Size() - place);

@@ -151,7 +151,7 @@ bool IsOwnMark(fz_context* context, pdf_obj* annotation) {
 }
 
 MuPdfFile::MuPdfFile(fz_context* context, std::shared_ptr<MuPdfContexts> contexts,
-                   std::shared_ptr<PlanSource> source)
+                     std::shared_ptr<PlanSource> source)
     : inner_(std::make_unique<Inner>()) {
   inner_->context = context;
   inner_->contexts = std::move(contexts);

@@ -7,8 +7,8 @@
 #include <mupdf/pdf.h>
 
 #include "plans/markpdf.h"
-#include "plans/pdfappend.h"
 #include "plans/mupdffile.h"
+#include "plans/pdfappend.h"
 
 namespace tamo {
 
@@ -49,7 +49,11 @@ struct MuPdfFile::Inner {
   QByteArray PageBody(const PageRecord& page) const;
   bool Encrypted(PdfObject& object);
   bool EncryptedStream(PdfObject& object, const QByteArray& entries, const QByteArray& content);
-  PdfObject Form(const MarkObjects& mark, int number, bool& good);
+  bool NeedsRewrite() const;
+  void Remove(const QStringList& names, std::vector<bool>& touched);
+  bool Add(const Mark& mark, double markerSize, int& next, std::vector<PdfObject>& objects);
+  // The new and changed objects of a save.
+  bool Change(const MarkChanges& changes, std::vector<PdfObject>& objects);
 };
 
 // The text of an engine's object as it stands in a file, encrypted as the document is.

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "common/failure.h"
 #include "plans/filetail.h"
 #include "plans/mupdffileinner.h"
 
@@ -18,7 +19,7 @@ void CollectEncrypted(fz_context* context, void* state, const unsigned char* dat
 }
 
 struct SinkState {
-  const std::function<int(const QByteArray&)>* sink = nullptr;
+  const EnginePlan::Sink* sink = nullptr;
   int error = 0;
   int64_t written = 0;
 };
@@ -65,9 +66,9 @@ QByteArray ObjectText(fz_context* context, pdf_obj* object, pdf_crypt* crypt, in
   return text;
 }
 
-bool MuPdfFile::NeedsRewrite() const {
-  const Inner& inner = *inner_;
-  return inner.document == nullptr || inner.document->repair_attempted != 0;
+// A damaged plan was only opened by repairing it: nothing can be appended to it.
+bool MuPdfFile::Inner::NeedsRewrite() const {
+  return document == nullptr || document->repair_attempted != 0;
 }
 
 // What the trailer repeats, and where the next addition begins.
@@ -172,7 +173,7 @@ bool MuPdfFile::Inner::Encrypted(PdfObject& object) {
 }
 
 bool MuPdfFile::Inner::EncryptedStream(PdfObject& object, const QByteArray& entries,
-                                      const QByteArray& content) {
+                                       const QByteArray& content) {
   QByteArray data = content;
   bool good = true;
   fz_var(good);
@@ -190,59 +191,75 @@ bool MuPdfFile::Inner::EncryptedStream(PdfObject& object, const QByteArray& entr
   return good;
 }
 
-int MuPdfFile::Addition(const MarkChanges& changes, QByteArray& bytes, QString& problem) {
+// Takes marks off their pages; those pages are `touched`.
+void MuPdfFile::Inner::Remove(const QStringList& names, std::vector<bool>& touched) {
+  if (names.isEmpty()) return;
+  for (size_t i = 0; i < pages.size(); ++i) {
+    const auto gone = std::erase_if(
+        pages[i].own, [&](const FileMark& mark) { return names.contains(mark.name); });
+    if (gone > 0) touched[i] = true;
+  }
+}
+
+// The form and the annotation of a new mark.
+bool MuPdfFile::Inner::Add(const Mark& mark, double markerSize, int& next,
+                           std::vector<PdfObject>& objects) {
+  const auto index = static_cast<size_t>(mark.page - 1);
+  if (index >= pages.size() || pages[index].object <= 0) return false;
+  PageRecord& page = pages[index];
+  const MarkObjects parts = MarkAsPdf(mark, markerSize, page.map);
+  PdfObject form{next++, 0, {}};
+  bool good = EncryptedStream(form, parts.formEntries, parts.formContent);
+  const QByteArray pageRef =
+      QByteArray::number(page.object) + ' ' + QByteArray::number(page.generation) + " R";
+  PdfObject annotation{next++, 0, MarkAnnotation(parts, pageRef, form.number)};
+  good = Encrypted(annotation) && good;
+  page.own.push_back({mark.name, annotation.number});
+  objects.push_back(std::move(form));
+  objects.push_back(std::move(annotation));
+  return good;
+}
+
+bool MuPdfFile::Inner::Change(const MarkChanges& changes, std::vector<PdfObject>& objects) {
+  std::vector<bool> touched(pages.size(), false);
+  Remove(changes.removed, touched);
+  bool good = true;
+  int next = end.nextObject;
+  for (const Mark& mark : changes.added) {
+    const bool added = Add(mark, changes.markerSize, next, objects);
+    if (added) touched[static_cast<size_t>(mark.page - 1)] = true;
+    good = added && good;
+  }
+  for (size_t i = 0; i < pages.size(); ++i) {
+    if (!touched[i]) continue;
+    good = ReadPage(pages[i]) && good;
+    objects.push_back({pages[i].object, pages[i].generation, PageBody(pages[i])});
+  }
+  return good;
+}
+
+PlanUpdate MuPdfFile::BuildUpdate(const MarkChanges& changes) {
   Inner& inner = *inner_;
-  problem = QStringLiteral("it is too damaged to hold marks");
-  if (NeedsRewrite() || !inner.ReadEnd()) return 57;
+  PlanUpdate update;
+  update.error = kFileOther;
+  update.needsRewrite = inner.NeedsRewrite();
+  update.problem = QStringLiteral("it is too damaged to hold marks");
+  if (update.needsRewrite || !inner.ReadEnd()) return update;
   inner.endBefore = inner.end;
   inner.ownBefore.clear();
   for (const PageRecord& page : inner.pages) inner.ownBefore.push_back(page.own);
-
   std::vector<PdfObject> objects;
-  std::vector<bool> touched(inner.pages.size(), false);
-  for (size_t i = 0; i < inner.pages.size() && !changes.removed.isEmpty(); ++i) {
-    const auto gone = std::erase_if(inner.pages[i].own, [&](const FileMark& mark) {
-      return changes.removed.contains(mark.name);
-    });
-    touched[i] = gone > 0;
+  if (!inner.Change(changes, objects)) {
+    ForgetUpdate();
+    return update;
   }
-  bool good = true;
-  int next = inner.end.nextObject;
-  for (const Mark& mark : changes.added) {
-    const auto index = static_cast<size_t>(mark.page - 1);
-    if (index >= inner.pages.size() || inner.pages[index].object <= 0) {
-      good = false;
-      continue;
-    }
-    PageRecord& page = inner.pages[index];
-    const MarkObjects parts = MarkAsPdf(mark, changes.markerSize, page.map);
-    PdfObject form{next++, 0, {}};
-    good = inner.EncryptedStream(form, parts.formEntries, parts.formContent) && good;
-    const QByteArray pageRef =
-        QByteArray::number(page.object) + ' ' + QByteArray::number(page.generation) + " R";
-    PdfObject annotation{next++, 0, MarkAnnotation(parts, pageRef, form.number)};
-    good = inner.Encrypted(annotation) && good;
-    page.own.push_back({mark.name, annotation.number});
-    touched[index] = true;
-    objects.push_back(std::move(form));
-    objects.push_back(std::move(annotation));
-  }
-  for (size_t i = 0; i < inner.pages.size(); ++i) {
-    if (!touched[i]) continue;
-    good = inner.ReadPage(inner.pages[i]) && good;
-    const PageRecord& page = inner.pages[i];
-    objects.push_back({page.object, page.generation, inner.PageBody(page)});
-  }
-  if (!good) {
-    ForgetAddition();
-    return 57;
-  }
-  bytes = objects.empty() ? QByteArray() : PdfAddition(objects, inner.end);
-  problem.clear();
-  return 0;
+  if (!objects.empty()) update.bytes = PdfAddition(objects, inner.end);
+  update.error = kNoError;
+  update.problem.clear();
+  return update;
 }
 
-void MuPdfFile::ForgetAddition() {
+void MuPdfFile::ForgetUpdate() {
   Inner& inner = *inner_;
   inner.end = inner.endBefore;
   for (size_t i = 0; i < inner.ownBefore.size() && i < inner.pages.size(); ++i) {
@@ -250,7 +267,7 @@ void MuPdfFile::ForgetAddition() {
   }
 }
 
-int MuPdfFile::Rewrite(const std::function<int(const QByteArray&)>& sink, QString& problem) {
+int MuPdfFile::WriteWhole(const EnginePlan::Sink& sink, QString& problem) {
   fz_context* context = inner_->context;
   SinkState state;
   state.sink = &sink;
@@ -269,7 +286,7 @@ int MuPdfFile::Rewrite(const std::function<int(const QByteArray&)>& sink, QStrin
   fz_catch(context) good = false;
   if (state.error != 0) return state.error;
   if (!good) problem = QStringLiteral("it is too damaged to be written anew");
-  return good ? 0 : 57;
+  return good ? kNoError : kFileOther;
 }
 
 }  // namespace tamo

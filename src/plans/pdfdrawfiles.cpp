@@ -1,4 +1,4 @@
-#include "plans/mupdfdraw.h"
+#include "plans/pdfdraw.h"
 
 #include <QMetaObject>
 #include <QTimer>
@@ -6,7 +6,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
-#include "plans/mupdfsession.h"
+#include "plans/plansession.h"
 
 namespace tamo {
 namespace {
@@ -28,33 +28,33 @@ QString OpenReason(int error) {
 
 }  // namespace
 
-// --- Bridge
+// --- News from the plan's threads
 
-void MuPdfDraw::Bridge::Cut() {
+void PdfDraw::FormsThread::Cut() {
   const std::lock_guard<std::mutex> guard(mutex_);
   draw_ = nullptr;
   anchor_.reset();
 }
 
-void MuPdfDraw::Bridge::Post(const std::shared_ptr<Bridge>& bridge,
-                             std::function<void(MuPdfDraw&)> work) {
-  const std::lock_guard<std::mutex> guard(bridge->mutex_);
-  if (bridge->draw_ == nullptr) return;
+void PdfDraw::FormsThread::Post(const std::shared_ptr<FormsThread>& forms,
+                                std::function<void(PdfDraw&)> work) {
+  const std::lock_guard<std::mutex> guard(forms->mutex_);
+  if (forms->draw_ == nullptr) return;
   QMetaObject::invokeMethod(
-      bridge->anchor_.get(),
-      [weak = std::weak_ptr<Bridge>(bridge), work = std::move(work)] {
+      forms->anchor_.get(),
+      [weak = std::weak_ptr<FormsThread>(forms), work = std::move(work)] {
         const auto alive = weak.lock();
         if (alive && alive->draw_ != nullptr) work(*alive->draw_);
       },
       Qt::QueuedConnection);
 }
 
-void MuPdfDraw::Bridge::After(const std::shared_ptr<Bridge>& bridge, int milliseconds,
-                              std::function<void(MuPdfDraw&)> work) {
-  auto* timer = new QTimer(bridge->anchor_.get());  // goes with the anchor
+void PdfDraw::FormsThread::After(const std::shared_ptr<FormsThread>& forms, int milliseconds,
+                                 std::function<void(PdfDraw&)> work) {
+  auto* timer = new QTimer(forms->anchor_.get());  // goes with the anchor
   timer->setSingleShot(true);
-  QObject::connect(timer, &QTimer::timeout, bridge->anchor_.get(),
-                   [timer, weak = std::weak_ptr<Bridge>(bridge), work = std::move(work)] {
+  QObject::connect(timer, &QTimer::timeout, forms->anchor_.get(),
+                   [timer, weak = std::weak_ptr<FormsThread>(forms), work = std::move(work)] {
                      timer->deleteLater();
                      const auto alive = weak.lock();
                      if (alive && alive->draw_ != nullptr) work(*alive->draw_);
@@ -62,65 +62,88 @@ void MuPdfDraw::Bridge::After(const std::shared_ptr<Bridge>& bridge, int millise
   timer->start(milliseconds);
 }
 
-void MuPdfDraw::Bridge::PostPictures(const std::shared_ptr<Bridge>& bridge) {
+void PdfDraw::FormsThread::PostPictures(const std::shared_ptr<FormsThread>& forms) {
   {
-    const std::lock_guard<std::mutex> guard(bridge->mutex_);
-    if (bridge->picturesPosted_) return;
-    bridge->picturesPosted_ = true;
+    const std::lock_guard<std::mutex> guard(forms->mutex_);
+    if (forms->picturesPosted_) return;
+    forms->picturesPosted_ = true;
   }
-  Post(bridge, [bridge = bridge.get()](MuPdfDraw& draw) {
+  Post(forms, [forms = forms.get()](PdfDraw& draw) {
     {
-      const std::lock_guard<std::mutex> guard(bridge->mutex_);
-      bridge->picturesPosted_ = false;
+      const std::lock_guard<std::mutex> guard(forms->mutex_);
+      forms->picturesPosted_ = false;
     }
     draw.PicturesChanged();
   });
 }
 
+// --- The plan on the board
+
+QString PdfDraw::ShownFile() const {
+  return FileNameOf(path_);
+}
+
+// A plan begins: its pages and marks are not known yet.
+void PdfDraw::BeginPlan(const QString& path) {
+  path_ = path;
+  BeginSheets();
+  ClearMarks();
+  ClearBoard();
+}
+
+void PdfDraw::FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks) {
+  FillSheets(std::move(sizes));
+  FillMarks(std::move(marks));
+  CentreCrossHair();
+  Raise(onPageChanged);
+  ViewChanged();
+  Repaint();
+}
+
 // --- Opening and closing
 
-MuPdfDraw::MuPdfDraw(Files& files) : files_(files), bridge_(std::make_shared<Bridge>(this)) {}
+PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
+    : files_(files), engine_(engine), forms_(std::make_shared<FormsThread>(this)) {}
 
-MuPdfDraw::~MuPdfDraw() {
-  bridge_->Cut();
+PdfDraw::~PdfDraw() {
+  forms_->Cut();
   Close();
 }
 
-void MuPdfDraw::Close() {
+void PdfDraw::Close() {
   opening_.reset();
   session_.reset();
 }
 
-int MuPdfDraw::ShowNothing(const QString& path, int error, const QString& reason) {
+int PdfDraw::ShowNothing(const QString& path, int error, const QString& reason) {
   Close();
-  SetProblem(QStringLiteral("The plan %1 can't be shown: %2. Pick another file; the file itself is "
-                            "unchanged.")
-                 .arg(FileNameOf(path), reason));
-  ShowPlan(QString(), {}, {});
+  problem_ = QStringLiteral(
+                 "The plan %1 can't be shown: %2. Pick another file; the file itself is unchanged.")
+                 .arg(FileNameOf(path), reason);
+  BeginPlan(QString());
+  FillPlan({}, {});
   return error;
 }
 
-std::unique_ptr<MuPdfDraw::Session> MuPdfDraw::NewSession(const QString& path,
-                                                          const QString& password, int& error) {
+std::unique_ptr<PdfDraw::Session> PdfDraw::NewSession(const QString& path, const QString& password,
+                                                      int& error) {
   std::shared_ptr<FileReader> reader;
   error = files_.GetDisk().OpenToRead(path, reader);
   if (error != kNoError) return nullptr;
   const FileTail tail = ReadTail(*reader);
   if (tail.torn) CutTornTail(path, tail.whole);
   auto session = std::make_unique<Session>();
-  session->world = MuWorld::Make();
-  if (session->world == nullptr) {
+  session->size = tail.whole;
+  session->source = std::make_shared<PlanSource>(reader, tail.whole);
+  session->plan = engine_.NewPlan(session->source);
+  if (session->plan == nullptr) {
     error = kFileOther;
     return nullptr;
   }
-  session->size = tail.whole;
-  session->slot = std::make_shared<ReaderSlot>(reader, tail.whole);
-  session->thread = std::make_unique<JobThread>(session->world);
+  session->thread = std::make_unique<WorkThread>();
   opening_ = std::make_shared<Opening>();
-  session->thread->Post([world = session->world, slot = session->slot, holder = session->holder,
-                         opening = opening_, password, bridge = bridge_](fz_context* context) {
-    holder->file = std::make_unique<PlanFile>(context, world, slot);
-    PlanContents contents = holder->file->Open(password);
+  session->thread->Post([plan = session->plan, opening = opening_, password, forms = forms_] {
+    PlanContents contents = plan->Open(password);
     bool slow = false;
     {
       const std::lock_guard<std::mutex> guard(opening->mutex);
@@ -130,7 +153,7 @@ std::unique_ptr<MuPdfDraw::Session> MuPdfDraw::NewSession(const QString& path,
       opening->ready.notify_all();
     }
     if (slow) {
-      Bridge::Post(bridge, [opening](MuPdfDraw& draw) {
+      FormsThread::Post(forms, [opening](PdfDraw& draw) {
         if (draw.opening_ == opening) draw.TakeOpened();
       });
     }
@@ -138,9 +161,9 @@ std::unique_ptr<MuPdfDraw::Session> MuPdfDraw::NewSession(const QString& path,
   return session;
 }
 
-int MuPdfDraw::OpenFile(const QString& given, const QString& password) {
+int PdfDraw::OpenFile(const QString& given, const QString& password) {
   Close();
-  SetProblem(QString());
+  problem_.clear();
   const QString path = files_.Resolved(given);
   password_ = password;
   int error = kNoError;
@@ -150,15 +173,15 @@ int MuPdfDraw::OpenFile(const QString& given, const QString& password) {
   if (FinishOpening(patience_)) return ShownPath().isEmpty() ? kFileOther : kNoError;
   // A slow plan: a blank sheet stands for it until it is there, or has taken too long.
   FillPlan({}, {});
-  Bridge::After(bridge_, longestOpening_, [opening = opening_](MuPdfDraw& draw) {
+  FormsThread::After(forms_, longestOpening_, [opening = opening_](PdfDraw& draw) {
     if (draw.opening_ != opening) return;
     draw.ShowNothing(draw.ShownPath(), kFileOther, QStringLiteral("it takes too long to open"));
-    if (draw.onProblem) draw.onProblem(draw.Problem());
+    if (draw.onProblem) draw.onProblem(draw.problem_);
   });
   return kNoError;
 }
 
-bool MuPdfDraw::FinishOpening(int milliseconds) {
+bool PdfDraw::FinishOpening(int milliseconds) {
   if (opening_ == nullptr) return true;
   {
     std::unique_lock<std::mutex> lock(opening_->mutex);
@@ -174,69 +197,68 @@ bool MuPdfDraw::FinishOpening(int milliseconds) {
 }
 
 // Takes what the plan's thread has read; it is done by now.
-void MuPdfDraw::TakeOpened() {
+void PdfDraw::TakeOpened() {
   const std::shared_ptr<Opening> opening = std::exchange(opening_, nullptr);
   PlanContents& contents = opening->contents;
   if (contents.error != kNoError) {
     ShowNothing(ShownPath(), contents.error, contents.problem);
-    if (opening->slow && onProblem) onProblem(Problem());
+    if (opening->slow && onProblem) onProblem(problem_);
     return;
   }
   session_->sizes = contents.sizes;
   for (const Mark& mark : contents.marks) session_->savedNames.insert(mark.name);
   StartPainting();
   // What was drawn on the blank sheet meanwhile is kept.
-  contents.marks.insert(contents.marks.end(), BoardMarks().begin(), BoardMarks().end());
+  contents.marks.insert(contents.marks.end(), MarksAsDrawn().begin(), MarksAsDrawn().end());
   FillPlan(std::move(contents.sizes), std::move(contents.marks));
 }
 
-void MuPdfDraw::StartPainting() {
+void PdfDraw::StartPainting() {
   session_->painter = std::make_unique<PlanPainter>(
-      session_->world, session_->slot, password_.toUtf8(), session_->sizes,
-      [bridge = bridge_] { Bridge::PostPictures(bridge); });
+      session_->plan, session_->sizes, [forms = forms_] { FormsThread::PostPictures(forms); });
 }
 
 // --- Pictures
 
-void MuPdfDraw::PicturesChanged() {
+void PdfDraw::PicturesChanged() {
   if (session_ != nullptr && session_->painter != nullptr) {
     for (const int page : session_->painter->TakeFailedPages()) {
-      SetProblem(
-          QStringLiteral("Page %1 of %2 can't be drawn: it is damaged or needs too much time "
-                         "or memory. The other pages and all marks are unaffected.")
-              .arg(page)
-              .arg(ShownFile()));
-      if (onProblem) onProblem(Problem());
+      problem_ = QStringLiteral(
+                     "Page %1 of %2 can't be drawn: it is damaged or needs too much time or "
+                     "memory. The other pages and all marks are unaffected.")
+                     .arg(page)
+                     .arg(ShownFile());
+      if (onProblem) onProblem(problem_);
     }
   }
   if (onPicturesChanged) onPicturesChanged();
 }
 
-void MuPdfDraw::Look(const PlanView& view) {
+void PdfDraw::Look(const PlanView& view) {
   if (session_ != nullptr && session_->painter != nullptr) session_->painter->Look(view);
 }
 
-std::vector<PlacedPicture> MuPdfDraw::PicturesFor(const PlanView& view) {
+std::vector<PlacedPicture> PdfDraw::PicturesFor(const PlanView& view) {
   if (session_ == nullptr || session_->painter == nullptr) return {};
   return session_->painter->PicturesFor(view);
 }
 
-std::shared_ptr<const Picture> MuPdfDraw::Thumbnail(int page, int longSide) {
+std::shared_ptr<const Picture> PdfDraw::Thumbnail(int page, int longSide) {
   if (session_ == nullptr || session_->painter == nullptr) return nullptr;
   return session_->painter->Thumbnail(page, longSide);
 }
 
-std::shared_ptr<const Picture> MuPdfDraw::PrintPicture(const PlanView& part) {
+std::shared_ptr<const Picture> PdfDraw::PrintPicture(const PlanView& part) {
   if (session_ == nullptr || session_->painter == nullptr) return nullptr;
   return session_->painter->PrintPicture(part, kPrintPatience);
 }
 
-bool MuPdfDraw::WaitUntilSharp(int milliseconds) {
+bool PdfDraw::WaitUntilSharp(int milliseconds) {
   return session_ != nullptr && session_->painter != nullptr &&
          session_->painter->WaitUntilSharp(milliseconds);
 }
 
-bool MuPdfDraw::WaitForCoarse(int milliseconds) {
+bool PdfDraw::WaitForCoarse(int milliseconds) {
   return session_ != nullptr && session_->painter != nullptr &&
          session_->painter->WaitForCoarse(milliseconds);
 }

@@ -4,10 +4,10 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
-#include "plans/mupdfsession.h"
+#include "plans/plansession.h"
 
-// How the viewer saves. A save costs what changed: nothing when no mark is new, an addition at the
-// file's end when one is. Only the first marked copy is as long as the plan.
+// How the viewer saves. A save costs what changed: nothing when no mark is new, an incremental
+// update at the file's end when one is. Only the first marked copy is as long as the plan.
 
 namespace tamo {
 namespace {
@@ -17,17 +17,20 @@ constexpr int kRepairPatience = 120000;
 constexpr qint64 kCopyChunk = qint64(1) << 20;
 constexpr int kQuietCopy = 300;  // milliseconds before progress is told
 constexpr qint64 kCompared = 2048;
+// Instead of an error number: nothing can be appended to the plan, it has to be written anew.
+constexpr int kNeedsRewrite = -1;
 
 }  // namespace
 
-int MuPdfDraw::SaveFailed(const QString& path, int error, const QString& reason) {
-  SetProblem(QStringLiteral("The plan %1 can't be saved: %2. The old file is unchanged; the marks "
-                            "stay on the screen and are saved with the next save that succeeds.")
-                 .arg(FileNameOf(path), reason.isEmpty() ? ReasonText(error) : reason));
+int PdfDraw::SaveFailed(const QString& path, int error, const QString& reason) {
+  problem_ = QStringLiteral(
+                 "The plan %1 can't be saved: %2. The old file is unchanged; the marks stay on the "
+                 "screen and are saved with the next save that succeeds.")
+                 .arg(FileNameOf(path), reason.isEmpty() ? ReasonText(error) : reason);
   return error;
 }
 
-void MuPdfDraw::CutTornTail(const QString& path, qint64 whole) {
+void PdfDraw::CutTornTail(const QString& path, qint64 whole) {
   Disk& disk = files_.GetDisk();
   int handle = -1;
   if (!disk.CanWrite(path) || disk.OpenAtEnd(path, handle) != kNoError) return;
@@ -36,11 +39,11 @@ void MuPdfDraw::CutTornTail(const QString& path, qint64 whole) {
   disk.Close(handle);
 }
 
-MarkChanges MuPdfDraw::Changes() const {
+MarkChanges PdfDraw::Changes() const {
   MarkChanges changes;
   changes.markerSize = MarkerSize();
   QSet<QString> names;
-  for (const Mark& mark : BoardMarks()) {
+  for (const Mark& mark : MarksAsDrawn()) {
     names.insert(mark.name);
     if (!session_->savedNames.contains(mark.name)) changes.added.push_back(mark);
   }
@@ -50,13 +53,13 @@ MarkChanges MuPdfDraw::Changes() const {
   return changes;
 }
 
-bool MuPdfDraw::HasUnsavedMarks() const {
+bool PdfDraw::HasUnsavedMarks() const {
   return session_ != nullptr && !Changes().Empty();
 }
 
-int MuPdfDraw::SaveAs(const QString& given) {
+int PdfDraw::SaveAs(const QString& given) {
   if (ShownPath().isEmpty() || session_ == nullptr) {
-    SetProblem(QStringLiteral("No plan is shown, so there is nothing to save."));
+    problem_ = QStringLiteral("No plan is shown, so there is nothing to save.");
     return kFileNotFound;
   }
   if (!FinishOpening(kBuildPatience)) {
@@ -68,64 +71,54 @@ int MuPdfDraw::SaveAs(const QString& given) {
   const bool same = path == files_.Resolved(ShownPath()) && disk.Exists(path);
   const MarkChanges changes = Changes();
   if (same && changes.Empty()) {
-    MarkSaved(given);
+    path_ = given;
     return kNoError;
   }
   if (disk.IsFolder(path) || (disk.Exists(path) && !disk.CanWrite(path))) {
     return SaveFailed(path, kNoAccess);
   }
-  int error = kNoError;
-  if (same && ChangedOnDisk(path)) {
-    error = TakeFromDisk(path, changes);
-  } else {
-    error = same ? Append(path, changes) : WriteCopy(path, changes);
-  }
-  if (error != kNoError) return error;
+  if (const int error = WriteChanges(path, same, changes)) return error;
   session_->savedNames.clear();
-  for (const Mark& mark : BoardMarks()) session_->savedNames.insert(mark.name);
-  MarkSaved(given);
-  SetProblem(QString());
+  for (const Mark& mark : MarksAsDrawn()) session_->savedNames.insert(mark.name);
+  path_ = given;
+  problem_.clear();
   return kNoError;
 }
 
+int PdfDraw::WriteChanges(const QString& path, bool same, const MarkChanges& changes) {
+  if (!same) return WriteCopy(path, changes);
+  return ChangedOnDisk(path) ? TakeFromDisk(path, changes) : Append(path, changes);
+}
+
 // Whether another program has written to the plan since this one read or saved it.
-bool MuPdfDraw::ChangedOnDisk(const QString& path) {
+bool PdfDraw::ChangedOnDisk(const QString& path) {
   std::shared_ptr<FileReader> reader;
   if (files_.GetDisk().OpenToRead(path, reader) != kNoError) return false;
   const FileTail tail = ReadTail(*reader);
   if (tail.whole != session_->size) return true;
   if (tail.torn) CutTornTail(path, tail.whole);
-  const qint64 shared = session_->slot->Size();
+  const qint64 shared = session_->source->Size();
   const qint64 from = std::max(qint64(0), shared - kCompared);
   return ReadPart(*reader, from, shared - from) !=
-         ReadPart(*session_->slot->Get(), from, shared - from);
+         ReadPart(*session_->source->Reader(), from, shared - from);
 }
 
-// Builds the addition on the plan's own thread; it owns all it works on, so it may come late.
-int MuPdfDraw::BuildAddition(Session& session, const MarkChanges& changes, QByteArray& bytes) {
-  struct Result {
-    int error = kFileOther;
-    bool anew = false;
-    QByteArray bytes;
-    QString problem = QStringLiteral("it takes too long");
-  };
-  const auto result = std::make_shared<Result>();
+// Built on the plan's own thread; the job owns all it works on, so it may come late.
+int PdfDraw::BuildUpdate(Session& session, const MarkChanges& changes, QByteArray& bytes) {
+  const auto update = std::make_shared<PlanUpdate>();
   const bool done = session.thread->Run(
-      [result, changes, holder = session.holder](fz_context*) {
-        if (holder->file == nullptr) return;
-        result->error = holder->file->Addition(changes, result->bytes, result->problem);
-        if (result->error != kNoError) result->anew = holder->file->NeedsRewrite();
-      },
+      [update, changes, plan = session.plan] { *update = plan->BuildUpdate(changes); },
       kBuildPatience);
-  if (!done) return SaveFailed(ShownPath(), kFileOther);
-  bytes = result->bytes;
-  if (result->error != kNoError) SaveFailed(ShownPath(), result->error, result->problem);
-  return result->error != kNoError && result->anew ? kNeedsRewrite : result->error;
+  if (!done) return SaveFailed(ShownPath(), kFileOther, QStringLiteral("it takes too long"));
+  bytes = update->bytes;
+  if (update->error == kNoError) return kNoError;
+  SaveFailed(ShownPath(), update->error, update->problem);
+  return update->needsRewrite ? kNeedsRewrite : update->error;
 }
 
-int MuPdfDraw::Append(const QString& path, const MarkChanges& changes) {
+int PdfDraw::Append(const QString& path, const MarkChanges& changes) {
   QByteArray bytes;
-  int error = BuildAddition(*session_, changes, bytes);
+  int error = BuildUpdate(*session_, changes, bytes);
   if (error == kNeedsRewrite) return WriteAnew(path, changes);
   if (error != kNoError) return error;
   Disk& disk = files_.GetDisk();
@@ -141,17 +134,17 @@ int MuPdfDraw::Append(const QString& path, const MarkChanges& changes) {
     disk.Close(handle);  // all is on the disk already, or taken back
   }
   if (error != kNoError) {
-    ForgetAddition();
+    ForgetUpdate();
     return SaveFailed(path, error);
   }
   session_->size += bytes.size();
   return kNoError;
 }
 
-int MuPdfDraw::CopyBytes(int handle) {
+int PdfDraw::CopyBytes(int handle) {
   QElapsedTimer clock;
   clock.start();
-  const auto reader = session_->slot->Get();
+  const auto reader = session_->source->Reader();
   const qint64 size = session_->size;
   bool told = false;
   for (qint64 place = 0; place < size; place += kCopyChunk) {
@@ -168,7 +161,7 @@ int MuPdfDraw::CopyBytes(int handle) {
 }
 
 // Ends a copy: on the disk, then under its name. A failure leaves what stood there.
-int MuPdfDraw::FinishCopy(int handle, int error, const QString& unfinished, const QString& path) {
+int PdfDraw::FinishCopy(int handle, int error, const QString& unfinished, const QString& path) {
   Disk& disk = files_.GetDisk();
   if (error == kNoError) error = disk.Sync(handle);
   const int closing = disk.Close(handle);
@@ -182,10 +175,10 @@ int MuPdfDraw::FinishCopy(int handle, int error, const QString& unfinished, cons
   return kNoError;
 }
 
-int MuPdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
+int PdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
   QByteArray bytes;
   int error = kNoError;
-  if (!changes.Empty()) error = BuildAddition(*session_, changes, bytes);
+  if (!changes.Empty()) error = BuildUpdate(*session_, changes, bytes);
   if (error == kNeedsRewrite) return WriteAnew(path, changes);
   if (error != kNoError) return error;
   const QString unfinished = path + QLatin1String(kUnfinishedEnding);
@@ -200,25 +193,24 @@ int MuPdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
     SaveFailed(path, error == kFileNotFound ? kPathNotFound : error);
   }
   if (error != kNoError) {
-    if (!changes.Empty()) ForgetAddition();
+    if (!changes.Empty()) ForgetUpdate();
     return error == kFileNotFound ? kPathNotFound : error;
   }
   session_->size += bytes.size();
   // From now on the copy is read, so the plan stays even when its source goes.
   std::shared_ptr<FileReader> reader;
-  if (disk.OpenToRead(path, reader) == kNoError) session_->slot->Set(std::move(reader));
+  if (disk.OpenToRead(path, reader) == kNoError) session_->source->Replace(std::move(reader));
   return kNoError;
 }
 
-// The addition that was built did not reach the disk.
-void MuPdfDraw::ForgetAddition() {
-  session_->thread->Run(
-      [holder = session_->holder](fz_context*) { holder->file->ForgetAddition(); }, kBuildPatience);
+// The update that was built did not reach the disk.
+void PdfDraw::ForgetUpdate() {
+  session_->thread->Run([plan = session_->plan] { plan->ForgetUpdate(); }, kBuildPatience);
 }
 
 // Writes the repaired plan to an open file, on the plan's own thread. When that takes too long it
 // is left alone and can't touch the file any more.
-int MuPdfDraw::WriteRepaired(int handle, QString& problem) {
+int PdfDraw::WriteRepaired(int handle, QString& problem) {
   struct Result {
     std::mutex mutex;
     bool left = false;
@@ -231,9 +223,9 @@ int MuPdfDraw::WriteRepaired(int handle, QString& problem) {
     return result->left ? kFileOther : disk->Write(handle, part);
   };
   const bool done = session_->thread->Run(
-      [result, sink, holder = session_->holder](fz_context*) {
+      [result, sink, plan = session_->plan] {
         QString words;
-        const int error = holder->file->Rewrite(sink, words);
+        const int error = plan->WriteWhole(sink, words);
         const std::lock_guard<std::mutex> guard(result->mutex);
         result->error = error;
         result->problem = words;
@@ -246,8 +238,8 @@ int MuPdfDraw::WriteRepaired(int handle, QString& problem) {
 }
 
 // Opens a plan that is not shown (yet).
-std::unique_ptr<MuPdfDraw::Session> MuPdfDraw::OpenAside(const QString& path, int& error,
-                                                         std::vector<Mark>& marks) {
+std::unique_ptr<PdfDraw::Session> PdfDraw::OpenAside(const QString& path, int& error,
+                                                     std::vector<Mark>& marks) {
   std::unique_ptr<Session> aside = NewSession(path, password_, error);
   const auto opening = std::exchange(opening_, nullptr);
   if (aside == nullptr) return nullptr;
@@ -263,7 +255,7 @@ std::unique_ptr<MuPdfDraw::Session> MuPdfDraw::OpenAside(const QString& path, in
 }
 
 // A damaged plan can't be added to: it is written anew, repaired, and the marks are added to that.
-int MuPdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
+int PdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
   const QString unfinished = path + QLatin1String(kUnfinishedEnding);
   Disk& disk = files_.GetDisk();
   int handle = -1;
@@ -275,7 +267,7 @@ int MuPdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
   QByteArray bytes;
   error = WriteRepaired(handle, problem);
   if (error == kNoError) anew = OpenAside(unfinished, error, marks);
-  if (error == kNoError && !changes.Empty()) error = BuildAddition(*anew, changes, bytes);
+  if (error == kNoError && !changes.Empty()) error = BuildUpdate(*anew, changes, bytes);
   if (error == kNeedsRewrite) error = kFileOther;
   if (error == kNoError) error = disk.Write(handle, bytes);
   if (error != kNoError) {
@@ -292,7 +284,7 @@ int MuPdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
 }
 
 // Another program has written to the plan: its state is taken, and what changed here goes on top.
-int MuPdfDraw::TakeFromDisk(const QString& path, const MarkChanges& changes) {
+int PdfDraw::TakeFromDisk(const QString& path, const MarkChanges& changes) {
   int error = kNoError;
   std::vector<Mark> marks;
   std::unique_ptr<Session> fresh = OpenAside(path, error, marks);

@@ -1,6 +1,6 @@
 #pragma once
 
-// The inside of MuPdfDraw, shared by its two source files.
+// The inside of PdfDraw, shared by its two source files.
 
 #include <QObject>
 #include <QSet>
@@ -8,17 +8,15 @@
 #include <mutex>
 
 #include "plans/filetail.h"
-#include "plans/mupdfdraw.h"
-#include "plans/planfile.h"
+#include "plans/pdfdraw.h"
+#include "plans/planengine.h"
 #include "plans/planpainter.h"
+#include "plans/workthread.h"
 
 namespace tamo {
 
-// Instead of an error number: nothing can be appended to the plan, it has to be written anew.
-inline constexpr int kNeedsRewrite = -1;
-
 // What comes back when a plan has been opened on its thread.
-struct MuPdfDraw::Opening {
+struct PdfDraw::Opening {
   std::mutex mutex;
   std::condition_variable ready;
   bool done = false;
@@ -27,16 +25,10 @@ struct MuPdfDraw::Opening {
 };
 
 // One open plan with its threads. Destroying it comes back within a moment whatever the plan does.
-struct MuPdfDraw::Session {
-  // The plan's structure; made, used and destroyed on `thread` only.
-  struct Holder {
-    std::unique_ptr<PlanFile> file;
-  };
-
-  std::shared_ptr<MuWorld> world;
-  std::shared_ptr<ReaderSlot> slot;
-  std::shared_ptr<Holder> holder = std::make_shared<Holder>();
-  std::unique_ptr<JobThread> thread;
+struct PdfDraw::Session {
+  std::shared_ptr<PlanSource> source;
+  std::shared_ptr<EnginePlan> plan;
+  std::unique_ptr<WorkThread> thread;  // opens and saves
   std::unique_ptr<PlanPainter> painter;
   std::vector<PageSize> sizes;
   QSet<QString> savedNames;  // marks that stand in the file
@@ -44,31 +36,28 @@ struct MuPdfDraw::Session {
 
   ~Session() {
     painter.reset();
-    world->Abandon();
-    if (thread) {
-      thread->Post([holder = holder](fz_context*) { holder->file.reset(); });
-      thread.reset();
-    }
+    plan->Abandon();
+    if (thread) thread->Post([last = std::move(plan)] {});
   }
 };
 
-// Carries news from the threads of a plan to the thread of the forms.
-class MuPdfDraw::Bridge {
+// Brings news from the threads of a plan to the thread of the forms.
+class PdfDraw::FormsThread {
  public:
-  explicit Bridge(MuPdfDraw* draw) : draw_(draw) {}
+  explicit FormsThread(PdfDraw* draw) : draw_(draw) {}
   void Cut();
   // Calls `work` on the viewer's own thread, if the viewer still lives then.
-  static void Post(const std::shared_ptr<Bridge>& bridge, std::function<void(MuPdfDraw&)> work);
+  static void Post(const std::shared_ptr<FormsThread>& forms, std::function<void(PdfDraw&)> work);
   // Many pictures at once are one piece of news.
-  static void PostPictures(const std::shared_ptr<Bridge>& bridge);
+  static void PostPictures(const std::shared_ptr<FormsThread>& forms);
   // The same after a time.
-  static void After(const std::shared_ptr<Bridge>& bridge, int milliseconds,
-                    std::function<void(MuPdfDraw&)> work);
+  static void After(const std::shared_ptr<FormsThread>& forms, int milliseconds,
+                    std::function<void(PdfDraw&)> work);
 
  private:
   std::mutex mutex_;
   std::unique_ptr<QObject> anchor_ = std::make_unique<QObject>();
-  MuPdfDraw* draw_;
+  PdfDraw* draw_;
   bool picturesPosted_ = false;
 };
 

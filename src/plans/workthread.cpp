@@ -63,7 +63,7 @@ bool WorkThread::Run(Job job, int milliseconds) {
     bool finished = false;
   };
   const auto wait = std::make_shared<Wait>();
-  Post([wait, job = std::move(job)]{
+  Post([wait, job = std::move(job)] {
     job();
     const std::lock_guard<std::mutex> guard(wait->mutex);
     wait->finished = true;

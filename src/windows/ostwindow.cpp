@@ -31,14 +31,14 @@ QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
   line->setContentsMargins(kGrid, kGrid / 2, kGrid, kGrid / 2);
   line->setSpacing(kGrid / 2);
   struct ToolRow {
-    int mode;
+    PlanTool mode;
     const char* text;
     const char* hover;
   };
   static constexpr ToolRow kTools[] = {
-      {PdfDraw::NoTool, "Move", "Pull the sheet with the mouse (V)"},
-      {PdfDraw::Measuring, "Measure", "Draw a line; Shift keeps it to steps of 45 degrees (M)"},
-      {PdfDraw::Counting, "Count", "Each press counts one (C)"}};
+      {PlanTool::None, "Move", "Pull the sheet with the mouse (V)"},
+      {PlanTool::Measuring, "Measure", "Draw a line; Shift keeps it to steps of 45 degrees (M)"},
+      {PlanTool::Counting, "Count", "Each press counts one (C)"}};
   std::vector<QToolButton*> tools;
   for (const ToolRow& row : kTools) {
     QToolButton* tool = Tool(QLatin1String(row.text), QLatin1String(row.hover));

@@ -78,7 +78,7 @@ TEST_F(BadPlans, EachIsAMessageOrASheetAndTheFileStaysAsItIs) {
     SCOPED_TRACE(name.toStdString());
     const QString path = bad + "/" + name;
     const qint64 size = QFileInfo(path).size();
-    MuPdfDraw viewer(files);
+    PdfDraw viewer(files, engine);
     viewer.SetPatience(1000);
     const int result = viewer.OpenFile(path, "");
     EXPECT_TRUE(result == 0 || result == kFileOther) << result;
@@ -102,7 +102,7 @@ TEST_F(BadPlans, EachIsAMessageOrASheetAndTheFileStaysAsItIs) {
     viewer.Look(view);
     viewer.WaitUntilSharp(300);
     viewer.PicturesFor(view);
-    most = std::max(most, MuWorld::MemoryInUse());
+    most = std::max(most, MuPdfContexts::MemoryInUse());
     EXPECT_EQ(QFileInfo(path).size(), size);
   }
   EXPECT_LE(most, qint64(768) << 20);
@@ -112,7 +112,7 @@ TEST_F(BadPlans, MarkingOneEitherSucceedsWholeOrLeavesNothing) {
   for (const QString& name : Names()) {
     if (name.contains("bomb") || name.contains("wide") || name.contains("many")) continue;
     SCOPED_TRACE(name.toStdString());
-    MuPdfDraw viewer(files);
+    PdfDraw viewer(files, engine);
     viewer.SetPatience(1000);
     if (viewer.OpenFile(bad + "/" + name, "") != 0) continue;
     const size_t before = viewer.Marks().size();
@@ -125,7 +125,7 @@ TEST_F(BadPlans, MarkingOneEitherSucceedsWholeOrLeavesNothing) {
       EXPECT_TRUE(viewer.HasUnsavedMarks());
       continue;
     }
-    MuPdfDraw again(files);
+    PdfDraw again(files, engine);
     EXPECT_EQ(again.OpenFile(marked, ""), 0) << again.Problem().toStdString();
     EXPECT_EQ(again.Marks().size(), before + 1);
   }
@@ -175,7 +175,7 @@ TEST_F(BadPlans, ABlankSheetStandsForASlowPlanUntilItIsRead) {
   QCoreApplication application(count, arguments);
   HeldDisk slow;
   Files slowFiles(slow);
-  MuPdfDraw viewer(slowFiles);
+  PdfDraw viewer(slowFiles);
   viewer.SetPatience(0);
   viewer.SetLongestOpening(30000);
   int pages = 0;

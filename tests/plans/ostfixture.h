@@ -9,9 +9,10 @@
 
 #include "common/failure.h"
 #include "common/kit.h"
-#include "plans/fakepdfdraw.h"
 #include "plans/ostform.h"
+#include "plans/pdfdraw.h"
 #include "support/doubles.h"
+#include "support/fakeplanengine.h"
 #include "support/faultdisk.h"
 
 namespace tamo::test {
@@ -80,17 +81,11 @@ class OstTest : public ::testing::Test {
     for (const char* folder :
          {"program", "Tamo/Plans", "Tamo/Projects/00-2112002/Plans", "Jobs", "Other"})
       QDir().mkpath(Path(folder));
-    for (const char* file : {"program/Blank.pdf", "program/About.pdf"}) Put(file);
+    for (const char* file : {"program/Blank.pdf", "program/About.pdf", "Jobs/a.pdf"}) Put(file);
     keeper.form = &ost;
-    viewer.onWriteFile = [this](const QString& path, const QByteArray& content) {
-      int handle = -1;
-      if (const int error = disk.OpenNew(path, handle)) return error;
-      disk.Write(handle, content);
-      return disk.Close(handle);
-    };
     ost.Load();
     ost.Show();
-    viewer.calls.clear();
+    engine.calls.clear();
     keeper.saves = keeper.asked = 0;
   }
 
@@ -143,7 +138,8 @@ class OstTest : public ::testing::Test {
   Files files{disk};
   SharedFields shared;
   Kit kit{desk, files, shared, platform};
-  FakePdfDraw viewer;
+  FakePlanEngine engine;
+  PdfDraw viewer{files, engine};
   RecordingKeeper keeper{shared};
   RecordingTakeoff takeoff;
   OSTForm ost{kit, viewer, keeper, takeoff};

@@ -3,9 +3,10 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "plans/fakepdfdraw.h"
+#include "plans/pdfdraw.h"
 #include "program/program.h"
 #include "support/doubles.h"
+#include "support/fakeplanengine.h"
 #include "support/faultdisk.h"
 
 namespace tamo {
@@ -44,7 +45,9 @@ class ShellTest : public ::testing::Test {
                           folder.filePath(QStringLiteral("program")),
                           folder.filePath(QStringLiteral("home")),
                           folder.filePath(QStringLiteral("config"))};
-  FakePdfDraw viewer;
+  Files planFiles{disk};
+  test::FakePlanEngine engine;
+  PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
 };
 
