@@ -6,6 +6,7 @@
 
 #include "common/memory.h"
 #include "common/paths.h"
+#include "plans/mupdfengine.h"
 #include "plans/pdfdraw.h"
 #include "program/program.h"
 #include "windows/look.h"
@@ -40,7 +41,7 @@ class StartedProgram {
       : platform_{disk_,      clock_,        messages_, printer_,
                   clipboard_, programFolder, home,      home + QStringLiteral("/config")},
         files_(disk_),
-        viewer_(files_),
+        viewer_(files_, engine_),
         program_(platform_, viewer_),
         windows_(program_, &viewer_, home + QStringLiteral("/windows.ini")) {
     program_.Start();
@@ -56,6 +57,7 @@ class StartedProgram {
   DeskClipboard clipboard_;
   Platform platform_;
   Files files_;
+  MuPdfEngine engine_;
   PdfDraw viewer_;
   Program program_;
   WindowKeeper windows_;

@@ -1,5 +1,6 @@
 #include "plans/markedcopy.h"
 
+#include "common/failure.h"
 #include "plans/planname.h"
 #include "records/datafolder.h"
 

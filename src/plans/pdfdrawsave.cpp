@@ -280,6 +280,7 @@ int PdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
   anew->size += bytes.size();
   session_ = std::move(anew);
   StartPainting();
+  ViewChanged();  // the new painter learns what is in sight
   return kNoError;
 }
 

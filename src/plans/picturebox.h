@@ -7,9 +7,9 @@ namespace tamo {
 
 // A picture box: the part of a window in which the plan, or its thumbnails, are shown. It takes the
 // focus, so that the keys of the plan go to it.
-class PlanBox : public Control {
+class PictureBox : public Control {
  public:
-  PlanBox(Form& form, const QString& name) : Control(form, name) { form.Register(this); }
+  PictureBox(Form& form, const QString& name) : Control(form, name) { form.Register(this); }
 };
 
 }  // namespace tamo

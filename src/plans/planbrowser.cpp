@@ -1,5 +1,6 @@
 #include "plans/planbrowser.h"
 
+#include "common/failure.h"
 #include "common/paths.h"
 #include "records/planpath.h"
 

@@ -36,7 +36,7 @@ struct PdfDraw::Session {
 
   ~Session() {
     painter.reset();
-    plan->Abandon();
+    if (plan != nullptr) plan->Abandon();
     if (thread) thread->Post([last = std::move(plan)] {});
   }
 };

@@ -7,7 +7,7 @@
 #include <thread>
 
 #include "common/failure.h"
-#include "plans/muworld.h"
+#include "plans/mupdfcontexts.h"
 #include "plans/planfixture.h"
 
 // Damaged and hostile plans: a message or a sheet, never a crash, a hang or unbounded memory.
@@ -175,7 +175,7 @@ TEST_F(BadPlans, ABlankSheetStandsForASlowPlanUntilItIsRead) {
   QCoreApplication application(count, arguments);
   HeldDisk slow;
   Files slowFiles(slow);
-  PdfDraw viewer(slowFiles);
+  PdfDraw viewer(slowFiles, engine);
   viewer.SetPatience(0);
   viewer.SetLongestOpening(30000);
   int pages = 0;
