@@ -29,10 +29,6 @@ QString ProgramFile(const SharedFields& shared, const char* name) {
   return InFolder(shared.zDir, QLatin1String(name));
 }
 
-QString InFolder(const QString& folder, const QString& name) {
-  return EndsInSeparator(folder) ? folder + name : folder + PlatformSeparator() + name;
-}
-
 QString WithoutDoubleMark(QString path) {
   while (path.endsWith(QLatin1String("-Marked-Marked.pdf"))) {
     path.chop(11);

@@ -20,8 +20,6 @@ QString MarkedCopyOf(const QString& path, const ProjectFolder& project, QString&
 
 // A file of the program folder.
 QString ProgramFile(const SharedFields& shared, const char* name);
-// A name in a folder, whether the folder ends in its separator or not.
-QString InFolder(const QString& folder, const QString& name);
 
 // "-Marked-Marked.pdf" at the end of a path cut back to one "-Marked".
 QString WithoutDoubleMark(QString path);
