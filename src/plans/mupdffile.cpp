@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "plans/filetail.h"
 #include "plans/mupdffileinner.h"
@@ -158,12 +159,10 @@ bool MuPdfFile::Inner::OpenDocument(const QByteArray& password, QString& problem
 
 void MuPdfFile::Inner::ReadPages() {
   WalkPages(context, document, TakePage, &pages);
+  std::map<int, size_t> homes;
   for (size_t i = 0; i < pages.size(); ++i) {
     const int object = pages[i].object;
-    const auto first = std::find_if(pages.begin(), pages.end(), [object](const PageRecord& page) {
-      return page.object == object && object > 0;
-    });
-    pages[i].home = first == pages.end() ? i : static_cast<size_t>(first - pages.begin());
+    pages[i].home = object > 0 ? homes.try_emplace(object, i).first->second : i;
   }
   for (PageRecord& page : pages) {
     fz_matrix map = fz_identity;
