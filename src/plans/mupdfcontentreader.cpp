@@ -4,6 +4,7 @@
 #include "common/files.h"
 #include "plans/mupdfcontentdevice.h"
 #include "plans/mupdfcontexts.h"
+#include "plans/mupdfpagetree.h"
 #include "plans/mupdfrunpage.h"
 
 namespace tamo {
@@ -48,6 +49,7 @@ bool OpenPage(Reading& reading, const std::shared_ptr<MuPdfContexts>& contexts,
     reading.locked = pdf_needs_password(context, reading.document) &&
                      pdf_authenticate_password(context, reading.document, password) == 0;
     if (!reading.locked) {
+      FlattenPageTree(context, reading.document);
       reading.page = pdf_load_page(context, reading.document, index);
       reading.bounds = pdf_bound_page(context, reading.page);
     }

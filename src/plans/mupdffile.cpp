@@ -2,52 +2,22 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
+#include <map>
 
 #include "plans/filetail.h"
 #include "plans/mupdffileinner.h"
+#include "plans/mupdfpagetree.h"
 
 namespace tamo {
 namespace {
 
-constexpr int kMostPages = 100000;
 constexpr int kMostAnnotations = 200000;  // of one page
 
-// The leaves of a page tree from first to last, each with its object number. A tree that runs in a
-// circle ends there; what is no page is passed over.
-void CollectPages(fz_context* context, pdf_document* document, std::vector<PageRecord>& pages) {
-  struct Node {
-    pdf_obj* kids;
-    int next;
-  };
-  std::vector<Node> way;
-  std::set<int> seen;
-  fz_var(way);
-  fz_try(context) {
-    pdf_obj* root = pdf_dict_getp(context, pdf_trailer(context, document), "Root/Pages");
-    seen.insert(pdf_to_num(context, root));
-    way.push_back({pdf_dict_get(context, root, PDF_NAME(Kids)), 0});
-    while (!way.empty() && static_cast<int>(pages.size()) < kMostPages) {
-      Node& node = way.back();
-      if (node.next >= pdf_array_len(context, node.kids) || way.size() > 200) {
-        way.pop_back();
-        continue;
-      }
-      pdf_obj* kid = pdf_array_get(context, node.kids, node.next++);
-      const int number = pdf_to_num(context, kid);
-      if (!pdf_is_dict(context, kid) || (number > 0 && !seen.insert(number).second)) continue;
-      pdf_obj* kids = pdf_dict_get(context, kid, PDF_NAME(Kids));
-      if (pdf_is_array(context, kids)) {
-        way.push_back({kids, 0});
-      } else {
-        PageRecord page;
-        page.object = number;
-        page.generation = pdf_to_gen(context, kid);
-        pages.push_back(page);
-      }
-    }
-  }
-  fz_catch(context) {}
+void TakePage(fz_context* context, pdf_obj* page, void* pages) {
+  PageRecord record;
+  record.object = pdf_to_num(context, page);
+  record.generation = pdf_to_gen(context, page);
+  static_cast<std::vector<PageRecord>*>(pages)->push_back(record);
 }
 
 // Where the page lies and how large it is, as the engine shows it.
@@ -188,7 +158,12 @@ bool MuPdfFile::Inner::OpenDocument(const QByteArray& password, QString& problem
 }
 
 void MuPdfFile::Inner::ReadPages() {
-  CollectPages(context, document, pages);
+  WalkPages(context, document, TakePage, &pages);
+  std::map<int, size_t> homes;
+  for (size_t i = 0; i < pages.size(); ++i) {
+    const int object = pages[i].object;
+    pages[i].home = object > 0 ? homes.try_emplace(object, i).first->second : i;
+  }
   for (PageRecord& page : pages) {
     fz_matrix map = fz_identity;
     fz_rect size = fz_empty_rect;
@@ -203,6 +178,7 @@ void MuPdfFile::Inner::ReadPages() {
 
 void MuPdfFile::Inner::ReadMarks(size_t index, std::vector<Mark>& marks) {
   PageRecord& page = pages[index];
+  if (page.home != index) return;
   pdf_obj* object = nullptr;
   pdf_obj* annotations = nullptr;
   int count = 0;

@@ -21,6 +21,7 @@ struct FileMark {
 struct PageRecord {
   int object = 0;
   int generation = 0;
+  size_t home = 0;  // the first page that is the same object: it has the marks of both
   PageMap map;
   PageSize size;
   std::vector<FileMark> own;

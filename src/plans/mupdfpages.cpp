@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "plans/mupdfpagetree.h"
 #include "plans/mupdfrecord.h"
 #include "plans/mupdfrunpage.h"
 
@@ -127,6 +128,7 @@ MuPdfPages::MuPdfPages(fz_context* context, std::shared_ptr<MuPdfContexts> conte
     if (pdf_needs_password(context, document)) {
       pdf_authenticate_password(context, document, password.constData());
     }
+    FlattenPageTree(context, document);
   }
   fz_always(context) fz_drop_stream(context, stream);
   fz_catch(context) {}

@@ -206,7 +206,7 @@ bool MuPdfFile::Inner::Add(const Mark& mark, double markerSize, int& next,
                            std::vector<PdfObject>& objects) {
   const auto index = static_cast<size_t>(mark.page - 1);
   if (index >= pages.size() || pages[index].object <= 0) return false;
-  PageRecord& page = pages[index];
+  PageRecord& page = pages[pages[index].home];
   const MarkObjects parts = MarkAsPdf(mark, markerSize, page.map);
   PdfObject form{next++, 0, {}};
   bool good = EncryptedStream(form, parts.formEntries, parts.formContent);
@@ -227,7 +227,7 @@ bool MuPdfFile::Inner::Change(const MarkChanges& changes, std::vector<PdfObject>
   int next = end.nextObject;
   for (const Mark& mark : changes.added) {
     const bool added = Add(mark, changes.markerSize, next, objects);
-    if (added) touched[static_cast<size_t>(mark.page - 1)] = true;
+    if (added) touched[pages[static_cast<size_t>(mark.page - 1)].home] = true;
     good = added && good;
   }
   for (size_t i = 0; i < pages.size(); ++i) {
