@@ -8,8 +8,9 @@
 
 #include "common/failure.h"
 #include "common/kit.h"
-#include "plans/fakepdfdraw.h"
 #include "plans/ostform.h"
+#include "plans/pdfdraw.h"
+#include "support/fakeplanengine.h"
 #include "support/room.h"
 
 namespace tamo::test {
@@ -76,17 +77,11 @@ class OstTest : public ::testing::Test, public FormRoom {
     for (const char* folder :
          {"program", "Tamo/Plans", "Tamo/Projects/00-2112002/Plans", "Jobs", "Other"})
       QDir().mkpath(Path(folder));
-    for (const char* file : {"program/Blank.pdf", "program/About.pdf"}) Put(file);
+    for (const char* file : {"program/Blank.pdf", "program/About.pdf", "Jobs/a.pdf"}) Put(file);
     keeper.form = &ost;
-    viewer.onWriteFile = [this](const QString& path, const QByteArray& content) {
-      int handle = -1;
-      if (const int error = disk.OpenNew(path, handle)) return error;
-      disk.Write(handle, content);
-      return disk.Close(handle);
-    };
     ost.Load();
     ost.Show();
-    viewer.calls.clear();
+    engine.calls.clear();
     keeper.saves = keeper.asked = 0;
   }
 
@@ -125,7 +120,8 @@ class OstTest : public ::testing::Test, public FormRoom {
   std::string Location() { return ost.PlanLocation.Text().toStdString(); }
   std::string PathText(const char* name) { return Path(name).toStdString(); }
 
-  FakePdfDraw viewer;
+  FakePlanEngine engine;
+  PdfDraw viewer{files, engine};
   RecordingKeeper keeper{shared};
   RecordingTakeoff takeoff;
   OSTForm ost{kit, viewer, keeper, takeoff};

@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "plans/fakepdfdraw.h"
+#include "plans/pdfdraw.h"
 #include "program/program.h"
+#include "support/fakeplanengine.h"
 #include "support/room.h"
 
 namespace tamo {
@@ -22,7 +23,9 @@ class ShellTest : public ::testing::Test, public test::MachineRoom {
     program.GetDesk().Dispatch([&] { form.FindMenu(QLatin1String(entry))->onClick(); });
   }
 
-  FakePdfDraw viewer;
+  Files planFiles{disk};
+  test::FakePlanEngine engine;
+  PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
 };
 

@@ -3,8 +3,9 @@
 #include <QLineEdit>
 #include <QWheelEvent>
 
-#include "plans/fakepdfdraw.h"
+#include "plans/pdfdraw.h"
 #include "program/program.h"
+#include "support/fakeplanengine.h"
 #include "support/room.h"
 #include "windows/application.h"
 #include "windows/formwindow.h"
@@ -37,7 +38,9 @@ struct KeeperTest : test::WithApplication, testing::Test, test::MachineRoom {
     test::Settle();
   }
 
-  FakePdfDraw viewer;
+  Files planFiles{disk};
+  test::FakePlanEngine engine;
+  PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
   Desk& desk = program.GetDesk();
   WindowKeeper windows{program, nullptr, Path("windows.ini")};
@@ -160,7 +163,7 @@ TEST_F(KeeperTest, APlaceOnThePlanIsFoundAgainAtEveryTurnAndZoom) {
   ASSERT_NE(plan, nullptr);
   for (const int turn : {0, 90, 180, 270}) {
     for (const int zoom : {40, 100, 150, 400}) {
-      viewer.SetViewValue(PdfDraw::Rotation, turn);
+      viewer.SetViewValue(ViewPart::Rotation, turn);
       viewer.SetZoom(zoom);
       const PagePoint back = plan->PageAt(windows.PlanPlace({120.5, 700.25}));
       EXPECT_NEAR(back.x, 120.5, 1e-6) << turn << ' ' << zoom;
@@ -172,7 +175,7 @@ TEST_F(KeeperTest, APlaceOnThePlanIsFoundAgainAtEveryTurnAndZoom) {
 TEST_F(KeeperTest, ALineDrawnOnThePlanIsMeasuredInPointsOfThePaper) {
   Menu("Tamo", "OST1");
   Menu("OST", "Quarter");
-  desk.Dispatch([this] { viewer.PickTool(PdfDraw::Measuring); });
+  desk.Dispatch([this] { viewer.PickTool(PlanTool::Measuring); });
   QWidget& sheet = *dynamic_cast<PlanCanvas&>(*windows.Plan()).viewport();
   const QPointF from = windows.PlanPlace({100, 100});
   const auto send = [&sheet](QEvent::Type type, QPointF at, Qt::MouseButton button,
@@ -202,11 +205,11 @@ TEST_F(KeeperTest, ScrollingThePlanIsToldOnceWhenTheSheetRests) {
     QApplication::sendEvent(&sheet, &wheel);
   }
   EXPECT_EQ(scrolled, 0);
-  EXPECT_GT(viewer.ViewValue(PdfDraw::Vertical), 0) << "the sheet moves at once";
-  const int stood = viewer.ViewValue(PdfDraw::Vertical);
+  EXPECT_GT(viewer.ViewValue(ViewPart::Vertical), 0) << "the sheet moves at once";
+  const int stood = viewer.ViewValue(ViewPart::Vertical);
   plan.FinishScroll();
   EXPECT_EQ(scrolled, 1);
-  EXPECT_EQ(viewer.ViewValue(PdfDraw::Vertical), stood);
+  EXPECT_EQ(viewer.ViewValue(ViewPart::Vertical), stood);
   plan.FinishScroll();
   EXPECT_EQ(scrolled, 1);
 }
