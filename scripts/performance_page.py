@@ -103,6 +103,10 @@ def holds(folder):
     for more, text, ratio in re.findall(r"^memory +(\d+) MB more for (\d+) MB of text: ([\d.]+)", text_of(folder, "hold.txt"),
                                         re.M):
         lines.append(row("Memory of the Office Copy of 1,000,000 lines", f"{more} MB", "its text", f"{text} MB", float(ratio), 1.5))
+    for enters, last, first, ratio in re.findall(r"^day of (\d+) Enters: ([\d.]+) MB after ([\d.]+) MB, ([\d.]+) times",
+                                                 text_of(folder, "day.txt"), re.M):
+        lines.append(row(f"Memory after a day of {int(enters):,} Enters and {int(enters) // 100} reports", f"{last} MB",
+                         "after its first hour", f"{first} MB", float(ratio), 1.1))
     return lines
 
 
