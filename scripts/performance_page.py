@@ -131,6 +131,11 @@ def refresh(folder):
 
 def start(folder):
     lines = []
+    found = re.search(r"empty window (\d+) us, with one word (\d+) us", text_of(folder, "start.txt"))
+    if found:
+        empty, word = int(found.group(1)) / 1e3, int(found.group(2)) / 1e3
+        lines.append(row("From the start to the first frame: a window with one word, for which fonts are sought", shown(word),
+                         "an empty Qt window", shown(empty), word / empty, None))
     for words, limit in (("Tamo", 1.5), ("Tamo with a project", 1.5)):
         found = re.search(rf"empty window (\d+) us, {words} (\d+) us", text_of(folder, "start.txt"))
         if found:
