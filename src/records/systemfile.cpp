@@ -14,16 +14,29 @@ constexpr char kLineEnd[] = "\r\n";
 SystemFile ReadSystemFile(const QString& text) {
   SystemFile system;
   LineReader lines(WholeLines(text));
-  lines.Read(system.description);
-  lines.Read(system.units);
-  lines.Read(system.unitPrice);
-  lines.Read(system.lineColor);
+  for (QString* text : {&system.description, &system.units, &system.unitPrice, &system.lineColor}) {
+    if (lines.Read(*text)) ++system.reached;
+  }
   QString line;
   while (lines.Read(line) && line != QLatin1String(kEndMark))
     system.notes += line + QLatin1String(kLineEnd);
   lines.Skip(2);
   while (lines.Read(line)) system.blocks += line;
   return system;
+}
+
+int ReadSystemFile(Files& files, const QString& path, SystemFile& system) {
+  QString text;
+  const int error = files.ReadText(path, text);
+  system = ReadSystemFile(text);
+  return error;
+}
+
+int ReadSystemHeadDelimited(Files& files, const QString& path, SystemHead& head) {
+  QStringList fields;
+  const int error = files.ReadFields(path, fields);
+  head = {fields.value(1), fields.value(3)};
+  return error;
 }
 
 QStringList StoredBlocks(const QStringList& system) {
