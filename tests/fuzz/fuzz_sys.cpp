@@ -49,8 +49,7 @@ void CheckImport(const QString& text) {
   Must(imported.system.blocks.size() % kBlockRows == 0);
   for (const QString& name : MaterialNames(imported.system.blocks))
     Must(NameRefusal(name).isEmpty());
-  const auto again =
-      CheckedExport(ExportedText(imported.system), QStringLiteral("it.sys"));
+  const auto again = CheckedExport(ExportedText(imported.system), QStringLiteral("it.sys"));
   Must(again.refusal.isEmpty());
   Must(again.system.blocks == StoredBlocks(imported.system.blocks));
   PrintedSystem(imported.system);
