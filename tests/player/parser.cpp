@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "support/planstroke.h"
+
 namespace tamo::player {
 namespace {
 
@@ -112,7 +114,7 @@ QString ParsePlan(Step& step, QString rest) {
     step.act = verb.act;
     if (verb.numbers == 0) return WholeNumber(rest, step.row);
     if (verb.numbers < 0) {
-      return PlanStrokeFromName(rest, step.stroke)
+      return test::PlanStrokeFromName(rest, step.stroke)
                  ? QString()
                  : QStringLiteral("there is no key \"%1\" on the plan").arg(rest);
     }

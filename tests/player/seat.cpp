@@ -197,7 +197,7 @@ void Seat::DoOnPlan(const Step& step) {
   const auto point = [&](size_t at) { return PagePoint{step.points[at], step.points[at + 1]}; };
   switch (step.act) {
     case Act::PlanMode:
-      if (step.row < PdfDraw::NoTool || step.row > PdfDraw::Counting)
+      if (step.row < 0 || step.row > static_cast<int>(PlanTool::Counting))
         NotUnderstood(
             QStringLiteral("there is no tool %1: 0 none, 1 measuring, 2 counting").arg(step.row));
       return stage_->PlanMode(step.row);

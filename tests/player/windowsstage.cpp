@@ -336,7 +336,7 @@ QWidget& WindowsStage::Plan() {
 }
 
 void WindowsStage::TakeTool(int mode) {
-  if (played_->Viewer().Tool() != mode) PlanMode(mode);
+  if (played_->Viewer().Tool() != static_cast<PlanTool>(mode)) PlanMode(mode);
 }
 
 bool WindowsStage::ClickTool(const QString& caption) {
@@ -361,12 +361,12 @@ void WindowsStage::PlanMode(int mode) {
   static const QString captions[] = {QStringLiteral("Move"), QStringLiteral("Measure"),
                                      QStringLiteral("Count")};
   if (ClickTool(captions[mode])) return;
-  GetDesk().Dispatch([&] { played_->Viewer().PickTool(mode); });
+  GetDesk().Dispatch([&] { played_->Viewer().PickTool(static_cast<PlanTool>(mode)); });
 }
 
 void WindowsStage::PlanLine(PagePoint from, PagePoint to) {
   Plan();
-  TakeTool(PdfDraw::Measuring);
+  TakeTool(static_cast<int>(PlanTool::Measuring));
   if (played_->Viewer().LineWork().active) PlanKey({tamo::PlanKey::Escape});
   PressOnPlan(from, to);
   // A press without a way is the first point of a line; the second ends it.
@@ -375,7 +375,7 @@ void WindowsStage::PlanLine(PagePoint from, PagePoint to) {
 
 void WindowsStage::PlanCircle(PagePoint at) {
   Plan();
-  TakeTool(PdfDraw::Counting);
+  TakeTool(static_cast<int>(PlanTool::Counting));
   PressOnPlan(at, at);
 }
 

@@ -23,6 +23,9 @@ class FaultDisk : public RealDisk {
   void Hide(const QString& path) { Put(hidden_, path); }
   void Unhide(const QString& path) { Take(hidden_, path); }
   void SetFull(bool full) { full_ = full; }
+  // Nothing waits for the device (and no sync counts as a step): the many saves of a test need not
+  // outlive a power cut.
+  bool quick = false;
 
   // Writing steps are counted from 1 (open, write, sync, close, rename, folder sync, make folder,
   // remove); the one with number `step` fails with `error`. 0 switches it off. `forGood`: and so do
