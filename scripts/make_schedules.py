@@ -195,7 +195,9 @@ class Table:
             head = max(width_of(w, look.size, self.head_font)
                        for w in (own.split(" ") if self.levels > 1 and look.ruled else [own]))
             if look.wraps and column.role in ("name", "remarks"):
-                longest = max(60, longest * 0.55)
+                single = [w for row in self.rows for w in row[k].split(" ")]
+                longest = max(60, longest * 0.55,
+                              *(width_of(w, look.size, look.font) for w in single))
             pad = 1.5 if look.tight else look.pad
             column.width = max(longest, head) + 2 * pad + (6 if not look.ruled else 0)
         self.width = sum(c.width for c in self.columns)
@@ -280,8 +282,9 @@ class Table:
             for i, words in enumerate(lines):
                 page.text(self.cell_x(column, left, words), base + i * look.lead, look.size, words,
                           look.font, look.way)
-        if look.strike and self.r.random() < 0.1:
-            middle = y + height / 2
+        if look.strike and height < 2 * look.lead + 6 and self.r.random() < 0.15:
+            middle = y + look.size * 0.65 + (height - look.lead) / 2 * look.middle \
+                + 3 * (not look.middle)
             page.line(x + 2, middle, x + self.width - 2, middle, 0.8)
         return merged
 
@@ -440,11 +443,13 @@ def good_sheet(r):
     count = r.choice([3, 6, 12, 18, 25, 40])
     rows = rows_of(r, columns, count, look)
     table = Table(r, look, columns, rows)
-    turned = r.random() < 0.1
+    turned = r.random() < 0.1 and count < 30
+    if turned:
+        look.blocks = 1
     page = Page(2592, 1728, r.choice([0, 0, 0, 90, 180, 270]), r.choice([0, 0, 0, 36]))
     page.frame(20, 20, 2572, 1708, 3)
     if turned:
-        page.turned = (120, 100, max(1300, table.width))
+        page.turned = (120, 100, 1500)
     boxes, at, each = [], [90.0, 110.0], -(-count // look.blocks)
     for first in range(0, count, each):
         part = rows[first:first + each]

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "schedule/headwords.h"
+#include "schedule/rulelevels.h"
 #include "schedule/tableframes.h"
 #include "schedule/tablereader.h"
 
@@ -13,6 +14,7 @@ namespace {
 constexpr int kFewestHeads = 3;
 constexpr double kHeadsAbove = 70;   // points over the first rule in which heads may stand
 constexpr double kTitleAbove = 40;   // points over a table in which its title stands
+constexpr double kThrough = 0.45;    // of a frame: a rule that goes through it
 constexpr double kMuchLarger = 2.5;  // times the area: what holds a table and more than it
 
 struct Found {
@@ -46,10 +48,10 @@ class Search {
 
   std::vector<ScheduleTable> Run() {
     if (int(headWords_.size()) < kFewestHeads) return {};
-    for (const PageBox& frame : RuledFrames(drawing_)) Try(frame);
+    for (const PageBox& frame : RuledFrames(drawing_)) Try(frame, true);
     std::vector<PageBox> taken;
     for (const Found& found : found_) taken.push_back(Grown(found.frame, 2));
-    for (const PageBox& frame : UnruledFrames(drawing_, taken)) Try(frame);
+    for (const PageBox& frame : UnruledFrames(drawing_, taken)) Try(frame, false);
     return InOrder();
   }
 
@@ -60,13 +62,28 @@ class Search {
     }));
   }
 
-  void Try(const PageBox& frame) {
+  void Try(const PageBox& frame, bool ruled) {
     PageBox held = frame;
     held.top -= kHeadsAbove;
     if (HeadWordsIn(held) < kFewestHeads) return;
     Found found = Read(frame);
     if (found.tables.empty()) found = Read(WithHeadsAbove(frame));
-    if (!found.tables.empty()) Take(std::move(found));
+    if (found.tables.empty() || (ruled && !Divided(found))) return;
+    Take(std::move(found));
+  }
+
+  // A frame whose rows or columns are ruled inside; else it is one around a drawing.
+  bool Divided(const Found& found) const {
+    const SheetDrawing inside = Inside(drawing_, found.frame);
+    const PageBox& frame = found.frame;
+    const auto rules = [&](bool along, double from, double to) {
+      const auto levels = LevelsOf(inside.rules, along, from, to);
+      return size_t(std::count_if(levels.begin(), levels.end(), [&](const RuleLevel& level) {
+        return level.covered >= kThrough * (to - from);
+      }));
+    };
+    return rules(true, frame.left, frame.right) > 2 + found.tables.front().rows.size() / 8 ||
+           rules(false, frame.top, frame.bottom) > 4;
   }
 
   // Heads without a rule over them: the lines next over the first rule.

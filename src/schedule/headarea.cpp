@@ -73,8 +73,8 @@ class Finder {
       const TextLine& line = lines_[i];
       if (IsTitle(line) && !begun) continue;
       const int turnedAbove = begun ? turnedHeads_ : 0;
-      const bool group = line.phrases.size() == 1 && LooksLikeGroup(line.phrases.front().text) &&
-                         HeadTokens(line.phrases.front().text).size() >= 2;
+      const bool group = line.phrases.size() == 1 && !IsHeadPhrase(line.phrases.front()) &&
+                         LooksLikeGroup(line.phrases.front().text);
       if (begun && heads + turnedAbove >= kFewestHeads &&
           (group || (!CanBeHeads(line) && CanBeRow(line)))) {
         body_ = i;

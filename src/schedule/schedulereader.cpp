@@ -83,9 +83,9 @@ ScheduleReading Refused(const QString& why) {
 }  // namespace
 
 std::vector<ScheduleTable> FindTables(const PageContent& page) {
-  const SheetWords words = WordsOf(page.texts);
-  if (words.words.size() > kMostWords) return {};
-  return TablesOfAllWays(DrawingOf(page, words));
+  const SheetDrawing drawing = DrawingOf(page);
+  if (drawing.words.size() > kMostWords) return {};
+  return TablesOfAllWays(drawing);
 }
 
 ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBox>& box) {
@@ -93,7 +93,7 @@ ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBo
   const PageBox area = box.has_value() ? *box : whole;
   const QString unreadable = WhyUnreadable(page, area, box.has_value());
   if (!unreadable.isEmpty()) return Refused(unreadable);
-  const SheetDrawing sheet = DrawingOf(page, WordsOf(page.texts));
+  const SheetDrawing sheet = DrawingOf(page);
   const SheetDrawing drawing = box.has_value() ? Inside(sheet, Grown(area, kEdge)) : sheet;
   if (drawing.words.size() > kMostWords) return Refused(TooMuchText(box.has_value()));
   std::vector<ScheduleTable> tables = TablesOfAllWays(drawing);

@@ -66,10 +66,11 @@ bool Holds(const PageBox& box, double x, double y) {
   return x >= box.left && x <= box.right && y >= box.top && y <= box.bottom;
 }
 
-SheetDrawing DrawingOf(const PageContent& content, const SheetWords& words) {
+SheetDrawing DrawingOf(const PageContent& content) {
   SheetDrawing drawing;
   drawing.size = content.size;
   drawing.rules = RulesOf(content.paths);
+  const SheetWords words = WordsOf(content.texts, drawing.rules);
   const std::vector<PageBox> deltas = DeltasOf(content.paths);
   std::copy_if(words.words.begin(), words.words.end(), std::back_inserter(drawing.words),
                [&deltas](const Word& word) { return !InDelta(word, deltas); });

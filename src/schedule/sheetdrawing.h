@@ -15,7 +15,7 @@ struct SheetDrawing {
 };
 
 // The words and rules of a page; the numbers of revision deltas are left out of the words.
-SheetDrawing DrawingOf(const PageContent& content, const SheetWords& words);
+SheetDrawing DrawingOf(const PageContent& content);
 
 // The sheet turned so that texts of `way` read to the right.
 SheetDrawing Turned(const SheetDrawing& drawing, Way way);

@@ -73,11 +73,42 @@ std::vector<Part> PartsOf(const std::vector<Letter>& letters) {
   return parts;
 }
 
+// The rules that stand across a reading direction, by where along it.
+class Fences {
+ public:
+  Fences(const std::vector<Rule>& rules, Way way) {
+    const bool upright = way == Way::Right || way == Way::Left;
+    const double along = way == Way::Left || way == Way::Up ? -1 : 1;
+    const double across = way == Way::Left || way == Way::Down ? -1 : 1;
+    for (const Rule& rule : rules) {
+      if (rule.along == upright) continue;
+      const double ends[] = {across * rule.from, across * rule.to};
+      fences_.push_back({along * rule.at, std::min(ends[0], ends[1]), std::max(ends[0], ends[1])});
+    }
+    std::sort(fences_.begin(), fences_.end(),
+              [](const Fence& a, const Fence& b) { return a.at < b.at; });
+  }
+  bool Between(double from, double to, double base) const {
+    auto at = std::lower_bound(fences_.begin(), fences_.end(), from,
+                               [](const Fence& fence, double low) { return fence.at < low; });
+    for (; at != fences_.end() && at->at <= to; ++at) {
+      if (at->from <= base && at->to >= base) return true;
+    }
+    return false;
+  }
+
+ private:
+  struct Fence {
+    double at, from, to;
+  };
+  std::vector<Fence> fences_;
+};
+
 // Finds for the end of each part the part that goes on there.
 class Joiner {
  public:
-  explicit Joiner(const std::vector<Part>& parts)
-      : parts_(parts), next_(parts.size(), -1), before_(parts.size(), -1) {
+  Joiner(const std::vector<Part>& parts, const Fences& fences)
+      : parts_(parts), fences_(fences), next_(parts.size(), -1), before_(parts.size(), -1) {
     for (size_t i = 0; i < parts.size(); ++i) rows_[Row(parts[i].First().base)].push_back(int(i));
     for (auto& [row, members] : rows_) {
       std::sort(members.begin(), members.end(),
@@ -100,7 +131,15 @@ class Joiner {
     const double gap = b.First().from - a.Last().to;
     return smaller >= 0.5 * size && std::abs(a.Last().base - b.First().base) <= 0.2 * smaller &&
            gap >= -kOverlap * size && gap <= std::max(a.spacing, b.spacing) + kWordGap * size &&
-           b.First().from > a.Last().from + 0.05 * size;
+           b.First().from > a.Last().from + 0.05 * size && !Fenced(a, b, size);
+  }
+
+  // Single letters may well be drawn over a rule; strings that end at one are two.
+  bool Fenced(const Part& a, const Part& b, double size) const {
+    if (a.letters.size() < 2 && b.letters.size() < 2) return false;
+    const double ends[] = {a.Last().to, b.First().from};
+    return fences_.Between(std::min(ends[0], ends[1]) - 0.25 * size,
+                           std::max(ends[0], ends[1]) + 0.25 * size, a.Last().base - 0.3 * size);
   }
 
   void FindNext(int index) {
@@ -125,6 +164,7 @@ class Joiner {
   }
 
   const std::vector<Part>& parts_;
+  const Fences& fences_;
   std::vector<int> next_;
   std::vector<int> before_;
   std::map<int, std::vector<int>> rows_;
@@ -149,9 +189,11 @@ Word WordOf(const std::vector<Letter>& letters, Way way) {
   return word;
 }
 
-void TakeWords(const std::vector<TextPiece>& texts, Way way, std::vector<Word>& words) {
+void TakeWords(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules, Way way,
+               std::vector<Word>& words) {
   const std::vector<Part> parts = PartsOf(LettersOf(texts, way));
-  const Joiner joiner(parts);
+  const Fences fences(rules, way);
+  const Joiner joiner(parts, fences);
   for (size_t i = 0; i < parts.size(); ++i) {
     if (!joiner.Begins(int(i))) continue;
     std::vector<Letter> letters;
@@ -179,13 +221,13 @@ void Count(const TextPiece& piece, SheetWords& sheet) {
 
 }  // namespace
 
-SheetWords WordsOf(const std::vector<TextPiece>& texts) {
+SheetWords WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules) {
   SheetWords sheet;
   for (const TextPiece& piece : texts) {
     if (!piece.clipped) Count(piece, sheet);
   }
   for (const Way way : {Way::Right, Way::Up, Way::Left, Way::Down}) {
-    TakeWords(texts, way, sheet.words);
+    TakeWords(texts, rules, way, sheet.words);
   }
   return sheet;
 }

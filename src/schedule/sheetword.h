@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "plans/pagecontent.h"
+#include "schedule/rules.h"
 
 namespace tamo {
 
@@ -36,7 +37,7 @@ struct SheetWords {
 };
 
 // Text drawn twice at one place counts once. Text that is neither along nor across the sheet,
-// hidden or cut away is left out.
-SheetWords WordsOf(const std::vector<TextPiece>& texts);
+// hidden or cut away is left out. Strings on both sides of one of the `rules` are never one word.
+SheetWords WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules = {});
 
 }  // namespace tamo

@@ -20,6 +20,29 @@ bool Above(const Phrase& upper, const Phrase& lower) {
   return lower.base > upper.base + 0.4 * upper.size && shared > 0;
 }
 
+// Whether heads of the line below, to the left and to the right of a head, are parts of what it
+// names: N and E of WALLS, MATL and HGT of CEILING.
+bool StandsOverBoth(const Phrase& phrase, const std::vector<Phrase>& all) {
+  const Phrase* left = nullptr;
+  const Phrase* right = nullptr;
+  for (const Phrase& other : all) {
+    const double below = other.base - phrase.base;
+    if (below < 0.4 * phrase.size || below > 4 * phrase.size) continue;
+    const bool before = other.MidX() < phrase.MidX();
+    if (before && (left == nullptr || other.MidX() > left->MidX())) left = &other;
+    if (!before && (right == nullptr || other.MidX() < right->MidX())) right = &other;
+  }
+  if (left == nullptr || right == nullptr) return false;
+  const unsigned over = MeaningOfText(phrase.text);
+  const unsigned both[] = {MeaningOfText(left->text), MeaningOfText(right->text)};
+  const auto are = [&both](unsigned what) { return (both[0] & what) != 0 && (both[1] & what) != 0; };
+  if ((over & kWallWord) != 0) return are(kSideWords);
+  if ((over & kRoomWord) != 0) return are(kNumberWord | kNameWord);
+  if (over == kMaterialWord) return are(kFinishWords);
+  const unsigned parts = kMaterialWord | kHeightWord | kColourWord;
+  return (over & (kFloorWord | kBaseWord | kCeilingWord)) != 0 && are(parts);
+}
+
 // The rules from top to bottom that go through the rows.
 std::vector<double> RuledBorders(const SheetDrawing& drawing, double top, double bottom) {
   std::vector<double> borders;
@@ -31,7 +54,8 @@ std::vector<double> RuledBorders(const SheetDrawing& drawing, double top, double
   return borders;
 }
 
-Span RowsSpan(const std::vector<TextLine>& lines, double top) {
+// From the first to the last text of the heads and rows.
+Span TextSpan(const std::vector<TextLine>& lines, double top) {
   Span span = {1e9, -1e9};
   for (const TextLine& line : lines) {
     if (line.base <= top) continue;
@@ -57,10 +81,25 @@ std::vector<Span> TextsBetween(const std::vector<TextLine>& lines, double top, d
   return texts;
 }
 
-std::vector<Span> HeadsBetween(const std::vector<Phrase>& leaves, double from, double to) {
+// Whether the cell of a head reaches over a place from top to bottom: a merged head.
+bool ReachesOver(const SheetDrawing& drawing, const Phrase& head, double from, double to) {
+  double left = -1e9;
+  double right = 1e9;
+  for (const Rule& rule : drawing.rules) {
+    if (rule.along || rule.from > head.MidY() || rule.to < head.MidY()) continue;
+    if (rule.at < head.MidX()) left = std::max(left, rule.at);
+    if (rule.at > head.MidX()) right = std::min(right, rule.at);
+  }
+  if (left < -1e8 || right > 1e8) return false;
+  return left < from - kOutside || right > to + kOutside;
+}
+
+std::vector<Span> HeadsBetween(const SheetDrawing& drawing, const std::vector<Phrase>& leaves,
+                               double from, double to) {
   std::vector<Span> heads;
   for (const Phrase& leaf : leaves) {
-    if (leaf.MidX() >= from && leaf.MidX() <= to) heads.push_back({leaf.box.left, leaf.box.right});
+    if (leaf.MidX() < from || leaf.MidX() > to || ReachesOver(drawing, leaf, from, to)) continue;
+    heads.push_back({leaf.box.left, leaf.box.right});
   }
   std::sort(heads.begin(), heads.end(), [](const Span& a, const Span& b) { return a.from < b.from; });
   return heads;
@@ -69,7 +108,7 @@ std::vector<Span> HeadsBetween(const std::vector<Phrase>& leaves, double from, d
 // Whether a rule divides the heads between two places though none divides the rows.
 void Divide(const SheetDrawing& drawing, const std::vector<TextLine>& lines, const HeadArea& heads,
             double from, double to, std::vector<double>& borders) {
-  const std::vector<Span> own = HeadsBetween(LeavesOf(heads), from, to);
+  const std::vector<Span> own = HeadsBetween(drawing, LeavesOf(heads), from, to);
   if (own.size() < 2 && heads.found) return;
   const std::vector<Span> texts = TextsBetween(lines, heads.bottom, from, to);
   const double size = UsualSize(drawing);
@@ -100,7 +139,7 @@ std::vector<Phrase> LeavesOf(const HeadArea& heads) {
     const bool over = std::any_of(all.begin(), all.end(), [&phrase](const Phrase& other) {
       return Above(phrase, other);
     });
-    if (!over) leaves.push_back(phrase);
+    if (!over && !StandsOverBoth(phrase, all)) leaves.push_back(phrase);
   }
   leaves.insert(leaves.end(), heads.turned.begin(), heads.turned.end());
   return leaves;
@@ -110,7 +149,7 @@ ColumnBorders ColumnsOf(const SheetDrawing& drawing, const std::vector<TextLine>
                         const HeadArea& heads, const PageBox& frame) {
   std::vector<double> ruled = RuledBorders(drawing, heads.bottom, frame.bottom);
   const std::vector<double> drawn = ruled;
-  AddOuter(frame, RowsSpan(lines, heads.bottom), ruled);
+  AddOuter(frame, TextSpan(lines, heads.top), ruled);
   std::vector<double> borders = ruled;
   for (size_t i = 0; i + 1 < ruled.size(); ++i) {
     Divide(drawing, lines, heads, ruled[i], ruled[i + 1], borders);

@@ -11,6 +11,7 @@ namespace {
 
 constexpr double kSameEnd = 3;      // points
 constexpr double kShortest = 60;    // points of a table's rule
+constexpr double kLowest = 12;      // points of a table's height
 constexpr size_t kFewestRules = 3;
 constexpr double kWidestGap = 50;   // points between rows, where nothing at the sides goes on
 
@@ -167,21 +168,21 @@ PageBox WithRows(const HeadRun& run, const std::vector<TextLine>& lines) {
 }  // namespace
 
 std::vector<PageBox> RuledFrames(const SheetDrawing& drawing) {
-  std::vector<PageBox> boxes;
+  std::vector<PageBox> frames;
   for (const bool along : {true, false}) {
+    std::vector<PageBox> boxes;
     for (const Family& family : FamiliesOf(drawing.rules, along)) {
       TakeChains(drawing.rules, family, boxes);
     }
+    std::stable_sort(boxes.begin(), boxes.end(), [](const PageBox& a, const PageBox& b) {
+      return a.Width() * a.Height() < b.Width() * b.Height();
+    });
+    for (const PageBox& box : boxes) {
+      if (box.Width() < kShortest || box.Height() < kLowest) continue;
+      if (frames.empty() || !SameBox(frames.back(), box)) frames.push_back(box);
+    }
   }
-  std::stable_sort(boxes.begin(), boxes.end(), [](const PageBox& a, const PageBox& b) {
-    return a.Width() * a.Height() < b.Width() * b.Height();
-  });
-  std::vector<PageBox> different;
-  for (const PageBox& box : boxes) {
-    if (box.Width() < kShortest || box.Height() < 12) continue;
-    if (different.empty() || !SameBox(different.back(), box)) different.push_back(box);
-  }
-  return different;
+  return frames;
 }
 
 std::vector<PageBox> UnruledFrames(const SheetDrawing& drawing, const std::vector<PageBox>& taken) {

@@ -90,7 +90,7 @@ class Spanner {
       const int last = columns_.ColumnAt(to - 3);
       head.first = std::max(head.first, first);
       head.last = std::max(head.first, std::min(head.last, last));
-      return head;
+      if (Alone(phrase, head)) return head;
     }
     return Around(phrase, head);
   }

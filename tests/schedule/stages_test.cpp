@@ -71,7 +71,7 @@ TEST(Rules, SlantedAndWhiteLinesAreNone) {
 TEST(Deltas, TheNumberInsideIsNoText) {
   SheetMaker sheet;
   sheet.Triangle(100, 100, 20).Text(107, 97, "2", 8).Text(200, 97, "P-1");
-  const SheetDrawing drawing = DrawingOf(sheet.Page(), WordsOf(sheet.Page().texts));
+  const SheetDrawing drawing = DrawingOf(sheet.Page());
   ASSERT_EQ(drawing.words.size(), 1u);
   EXPECT_EQ(drawing.words[0].text, "P-1");
 }
