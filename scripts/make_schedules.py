@@ -443,6 +443,7 @@ def good_sheet(r):
     count = r.choice([3, 6, 12, 18, 25, 40])
     rows = rows_of(r, columns, count, look)
     table = Table(r, look, columns, rows)
+    look.blocks = min(look.blocks, int(2400 // (table.width + 30)))
     turned = r.random() < 0.1 and count < 30
     if turned:
         look.blocks = 1

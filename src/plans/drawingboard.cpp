@@ -49,6 +49,9 @@ void DrawingBoard::BeginPlan(const QString& path) {
   unitIndex_ = Inches;
   unitName_ = QStringLiteral("feet");
   checkNext_ = false;
+  boxNext_ = false;
+  boxing_ = false;
+  box_.reset();
   line_ = LineState::None;
   marks_.clear();
   if (tool_ != NoTool) PickTool(NoTool);

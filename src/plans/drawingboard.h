@@ -59,6 +59,10 @@ class DrawingBoard : public PdfDraw {
   void PlaceCircle(PagePoint at) override;
   void ScrollBy(double dx, double dy) override;
   void TurnPage(int page) override { SetPage(page); }
+  void SetBoxNext(bool box) override { boxNext_ = box; }
+  bool BoxNext() const override { return boxNext_; }
+  void DrawBox(PagePoint from, PagePoint to) override;
+  std::optional<DrawnBox> Box() const override { return box_; }
   LineInWork LineWork() const override;
   PagePoint CrossHair() const override { return crossHair_; }
 
@@ -94,6 +98,7 @@ class DrawingBoard : public PdfDraw {
   void AddCircle(PagePoint at);
   void MoveCrossHair(PlanKey key, bool ctrl, bool shift);
   void PressSpace(bool shift);
+  void StretchBox(PagePoint to);
   PagePoint LineEnd(PagePoint at, bool shift) const;
   double PaperLength() const;
   QString PaperUnit() const;
@@ -122,6 +127,10 @@ class DrawingBoard : public PdfDraw {
   QString unitName_ = QStringLiteral("feet");
   int unitIndex_ = Inches;
   bool checkNext_ = false;
+  bool boxNext_ = false;  // the next drag draws a box
+  bool boxing_ = false;   // it is being drawn
+  PagePoint boxFrom_;
+  std::optional<DrawnBox> box_;
 
   enum class LineState { None, Dragging, Placed, Closing };
   LineState line_ = LineState::None;

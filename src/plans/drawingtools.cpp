@@ -112,6 +112,11 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   crossHair_ = at;
   Raise(onMousePressed);
+  if (boxNext_) {
+    boxing_ = true;
+    boxFrom_ = at;
+    return;
+  }
   if (tool_ == Counting) AddCircle(at);
   if (tool_ != Measuring) return;
   if (line_ == LineState::Placed) {
@@ -127,12 +132,15 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
 void DrawingBoard::Move(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   crossHair_ = at;
+  if (boxing_) return StretchBox(at);
   if (line_ != LineState::None) to_ = LineEnd(at, shift);
   if (tool_ != NoTool) Repaint();
 }
 
 void DrawingBoard::Release(PagePoint at, bool shift) {
-  if (!Sane(at) || line_ == LineState::None) return;
+  if (!Sane(at)) return;
+  if (boxing_) return DrawBox(boxFrom_, at);
+  if (line_ == LineState::None) return;
   to_ = LineEnd(at, shift);
   if (line_ == LineState::Dragging && Distance(from_, to_) <= clickReach) {
     to_ = from_;
@@ -150,6 +158,22 @@ void DrawingBoard::DrawLine(PagePoint from, PagePoint to) {
   Press(from, false);
   Move(to, false);
   if (line_ != LineState::None) EndLine();
+}
+
+void DrawingBoard::StretchBox(PagePoint to) {
+  box_ = DrawnBox{page_,
+                  {std::min(boxFrom_.x, to.x), std::min(boxFrom_.y, to.y)},
+                  {std::max(boxFrom_.x, to.x), std::max(boxFrom_.y, to.y)}};
+  Repaint();
+}
+
+void DrawingBoard::DrawBox(PagePoint from, PagePoint to) {
+  if (!Sane(from) || !Sane(to)) return;
+  boxNext_ = false;
+  boxing_ = false;
+  boxFrom_ = from;
+  StretchBox(to);
+  Raise(onBoxDrawn);
 }
 
 void DrawingBoard::PlaceCircle(PagePoint at) {
@@ -196,7 +220,11 @@ void DrawingBoard::Key(const PlanStroke& stroke) {
       break;
     case PlanKey::Escape:
       checkNext_ = false;
+      boxNext_ = false;
+      boxing_ = false;
+      box_.reset();
       DropLine();
+      Repaint();
       break;
     case PlanKey::Backspace:
       DropLine();  // the line has one point placed; without it there is no line

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "plans/mark.h"
@@ -32,6 +33,13 @@ struct LineInWork {
   PagePoint from;
   PagePoint to;
   QString text;  // its running length, as the label of the mark would say it
+};
+
+// A box that was drawn around a table of the plan; its corners in points of the page.
+struct DrawnBox {
+  int page = 1;
+  PagePoint topLeft;
+  PagePoint bottomRight;
 };
 
 // The plan viewer: shows one PDF at a time, pages and zooms it, marks and measures it. All calls
@@ -122,6 +130,12 @@ class PdfDraw {
   virtual LineInWork LineWork() const = 0;
   virtual PagePoint CrossHair() const = 0;
 
+  // --- A box around a table. It is no mark: the next box, another plan or Escape takes it away.
+  virtual void SetBoxNext(bool box) = 0;  // the next drag draws a box, whatever tool is in hand
+  virtual bool BoxNext() const = 0;
+  virtual void DrawBox(PagePoint from, PagePoint to) = 0;  // on the current page
+  virtual std::optional<DrawnBox> Box() const = 0;
+
   // --- Events
   std::function<void()> onBeforeModeChange;
   std::function<void(int mode)> onModeChanged;
@@ -133,6 +147,7 @@ class PdfDraw {
   std::function<void(double& length, QString& label)> onLineRunning;
   std::function<void(double paperLength)> onLineChecked;
   std::function<void(int count)> onCircleCountChanged;  // the circles of all pages
+  std::function<void()> onBoxDrawn;
   std::function<void()> onPageChanged;
   std::function<void()> onScrolled;  // by the user only
   std::function<void()> onMousePressed;

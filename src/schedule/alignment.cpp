@@ -6,14 +6,14 @@
 namespace tamo {
 namespace {
 
-constexpr double kStep = 0.5;        // points of one step of the profile
-constexpr double kNarrowest = 0.3;   // of the size: a narrower gap in common is none
-constexpr double kBlank = 1.0;       // of the size: a gap this narrow may lie between two words
+constexpr double kStep = 0.5;       // points of one step of the profile
+constexpr double kNarrowest = 0.3;  // of the size: a narrower gap in common is none
+constexpr double kBlank = 1.0;      // of the size: a gap this narrow may lie between two words
 
 struct Column {
   double from = 0;
   double to = 0;
-  int heads = 0;
+  std::vector<Span> heads = {};
 };
 
 // How many texts lie over each place.
@@ -35,7 +35,7 @@ class Profile {
       if (!columns.empty() && at - columns.back().to <= gap) {
         columns.back().to = at + kStep;
       } else {
-        columns.push_back({at, at + kStep, 0});
+        columns.push_back({at, at + kStep});
       }
     }
     return columns;
@@ -86,6 +86,16 @@ int BestColumn(const Span& head, double least, const std::vector<Column>& column
   return best;
 }
 
+// Of several heads over one run of text only the lowest are its own; the others stand over more.
+void KeepLowest(double size, Column& column) {
+  double lowest = -1e9;
+  for (const Span& head : column.heads) lowest = std::max(lowest, head.base);
+  auto& heads = column.heads;
+  heads.erase(std::remove_if(heads.begin(), heads.end(),
+                             [=](const Span& head) { return head.base < lowest - 0.4 * size; }),
+              heads.end());
+}
+
 // Gives each head to the column that it stands over; a head over no text makes a column, unless it
 // stands close beside one without a head.
 void GiveHeads(const std::vector<Span>& heads, double size, std::vector<Column>& columns) {
@@ -93,18 +103,19 @@ void GiveHeads(const std::vector<Span>& heads, double size, std::vector<Column>&
   for (const Span& head : heads) {
     const int best = BestColumn(head, 0, columns);
     if (best >= 0) {
-      ++columns[size_t(best)].heads;
+      columns[size_t(best)].heads.push_back(head);
     } else {
       over.push_back(head);
     }
   }
+  for (Column& column : columns) KeepLowest(size, column);
   for (const Span& head : over) {
     const int near = BestColumn(head, -1.5 * size, columns);
-    if (near >= 0 && columns[size_t(near)].heads == 0) {
-      ++columns[size_t(near)].heads;
+    if (near >= 0 && columns[size_t(near)].heads.empty()) {
+      columns[size_t(near)].heads.push_back(head);
       continue;
     }
-    columns.push_back({head.from, head.to, 1});
+    columns.push_back({head.from, head.to, {head}});
     std::sort(columns.begin(), columns.end(),
               [](const Column& a, const Column& b) { return a.from < b.from; });
   }
@@ -113,7 +124,7 @@ void GiveHeads(const std::vector<Span>& heads, double size, std::vector<Column>&
 // A column without a head that is no more than a blank away from its neighbour belongs to it.
 void JoinHeadless(double size, std::vector<Column>& columns) {
   for (size_t i = 0; i < columns.size();) {
-    if (columns[i].heads > 0 || columns.size() < 2) {
+    if (!columns[i].heads.empty() || columns.size() < 2) {
       ++i;
       continue;
     }
@@ -142,10 +153,9 @@ std::vector<double> AlignedBorders(double from, double to, const std::vector<Spa
   std::vector<double> borders;
   for (size_t i = 0; i < columns.size(); ++i) {
     if (i > 0) borders.push_back((columns[i - 1].to + columns[i].from) / 2);
-    if (columns[i].heads < 2) continue;
-    for (size_t h = 0; h + 1 < heads.size(); ++h) {  // several heads over one run of text
-      const bool both = Shared(heads[h], columns[i]) > 0 && Shared(heads[h + 1], columns[i]) > 0;
-      if (both) borders.push_back(profile.Weakest(heads[h].to - 0.5, heads[h + 1].from + 0.5));
+    const std::vector<Span>& own = columns[i].heads;
+    for (size_t h = 0; h + 1 < own.size(); ++h) {  // several heads over one run of text
+      borders.push_back(profile.Weakest(own[h].to - 0.5, own[h + 1].from + 0.5));
     }
   }
   std::sort(borders.begin(), borders.end());

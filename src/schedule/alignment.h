@@ -9,6 +9,7 @@ namespace tamo {
 struct Span {
   double from = 0;
   double to = 0;
+  double base = 0;  // of a head: its base line
 };
 
 // Divides a stretch of a table into columns by where its rows leave a gap in common and where its

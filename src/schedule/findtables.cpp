@@ -72,8 +72,12 @@ class Search {
     Take(std::move(found));
   }
 
-  // A frame whose rows or columns are ruled inside; else it is one around a drawing.
+  // A frame whose rows or columns are ruled inside, and with heads over nearly all columns; else it
+  // is one around a drawing.
   bool Divided(const Found& found) const {
+    size_t columns = 0;
+    for (const ScheduleTable& table : found.tables) columns += table.columns.size();
+    if (size_t(ColumnsWithHeads(found)) * 4 < columns * 3) return false;
     const SheetDrawing inside = Inside(drawing_, found.frame);
     const PageBox& frame = found.frame;
     const auto rules = [&](bool along, double from, double to) {
@@ -101,9 +105,11 @@ class Search {
   Found Read(const PageBox& frame) const {
     Found found = {frame, ReadTables(Inside(drawing_, Grown(frame, 2)), frame)};
     auto& tables = found.tables;
-    tables.erase(std::remove_if(tables.begin(), tables.end(), [](const ScheduleTable& table) {
-      return table.kind == TableKind::Unknown || table.rows.empty();
-    }), tables.end());
+    tables.erase(std::remove_if(tables.begin(), tables.end(),
+                                [](const ScheduleTable& table) {
+                                  return table.kind == TableKind::Unknown || table.rows.empty();
+                                }),
+                 tables.end());
     return found;
   }
 
@@ -135,7 +141,8 @@ class Search {
     QStringList title;
     for (const Word& word : drawing_.words) {
       const double gap = table.box.top - word.base;
-      if (word.way != Way::Right || gap < -1 || gap > kTitleAbove || word.size < 0.9 * best) continue;
+      if (word.way != Way::Right || gap < -1 || gap > kTitleAbove || word.size < 0.9 * best)
+        continue;
       if (word.MidX() < table.box.left - 5 || word.MidX() > table.box.right) continue;
       title.append(word.text);
     }
@@ -144,16 +151,14 @@ class Search {
 
   std::vector<ScheduleTable> InOrder() {
     std::vector<ScheduleTable> tables;
-    std::stable_sort(found_.begin(), found_.end(), [](const Found& a, const Found& b) {
-      return a.frame.top < b.frame.top;
-    });
+    std::stable_sort(found_.begin(), found_.end(),
+                     [](const Found& a, const Found& b) { return a.frame.top < b.frame.top; });
     // Frames that begin at nearly the same height read from left to right.
     for (auto first = found_.begin(); first != found_.end();) {
       auto last = first + 1;
       while (last != found_.end() && last->frame.top - first->frame.top < 30) ++last;
-      std::stable_sort(first, last, [](const Found& a, const Found& b) {
-        return a.frame.left < b.frame.left;
-      });
+      std::stable_sort(first, last,
+                       [](const Found& a, const Found& b) { return a.frame.left < b.frame.left; });
       first = last;
     }
     for (Found& found : found_) {

@@ -7,8 +7,8 @@
 namespace tamo {
 namespace {
 
-constexpr int kLongestHead = 6;   // words
-constexpr int kFewestHeads = 3;   // that make a table
+constexpr int kLongestHead = 6;  // words
+constexpr int kFewestHeads = 3;  // that make a table
 
 bool CanBeHeads(const TextLine& line) {
   const int heads = HeadPhrases(line);
@@ -34,8 +34,8 @@ bool IsTitle(const TextLine& line) {
 class Finder {
  public:
   Finder(const SheetDrawing& drawing, const std::vector<TextLine>& lines,
-         const std::vector<double>& across)
-      : lines_(lines), across_(across), turned_(TurnedPhrasesOf(drawing)) {
+         const std::vector<double>& across, const std::vector<double>& whole)
+      : lines_(lines), across_(across), whole_(whole), turned_(TurnedPhrasesOf(drawing)) {
     for (const Phrase& phrase : turned_) turnedHeads_ += IsHeadPhrase(phrase) ? 1 : 0;
   }
 
@@ -80,6 +80,10 @@ class Finder {
         body_ = i;
         return true;
       }
+      if (begun && heads + turnedAbove >= kFewestHeads && HeadPhrases(line) < 2 && RuledOff(line)) {
+        body_ = i;
+        return true;
+      }
       if (CanBeHeads(line)) {
         if (!begun || FarBelow(line)) {
           begun = true;
@@ -94,6 +98,13 @@ class Finder {
       }
     }
     return begun && heads + turnedHeads_ >= kFewestHeads;
+  }
+
+  // A rule from side to side between the heads so far and a line, close to the line.
+  bool RuledOff(const TextLine& line) const {
+    return std::any_of(whole_.begin(), whole_.end(), [&](double at) {
+      return at > lines_[last_].Bottom() - 1 && at < line.base - 0.3 * line.size;
+    });
   }
 
   bool FarBelow(const TextLine& line) const {
@@ -118,6 +129,7 @@ class Finder {
 
   const std::vector<TextLine>& lines_;
   const std::vector<double>& across_;
+  const std::vector<double>& whole_;
   const std::vector<Phrase> turned_;
   int turnedHeads_ = 0;
   size_t first_ = 0;
@@ -147,8 +159,8 @@ bool IsHeadLine(const TextLine& line) {
 }
 
 HeadArea FindHeads(const SheetDrawing& drawing, const std::vector<TextLine>& lines,
-                   const std::vector<double>& across) {
-  return Finder(drawing, lines, across).Find();
+                   const std::vector<double>& across, const std::vector<double>& whole) {
+  return Finder(drawing, lines, across, whole).Find();
 }
 
 }  // namespace tamo

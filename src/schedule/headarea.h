@@ -11,16 +11,16 @@ namespace tamo {
 struct HeadArea {
   bool found = false;
   double top = 0;
-  double bottom = 0;             // here the rows begin
-  std::vector<Phrase> phrases;   // the heads that read to the right
-  std::vector<Phrase> turned;    // and those that are turned
-  QString title;                 // of a row over the heads
+  double bottom = 0;            // here the rows begin
+  std::vector<Phrase> phrases;  // the heads that read to the right
+  std::vector<Phrase> turned;   // and those that are turned
+  QString title;                // of a row over the heads
 };
 
 // Looks for the heads in the upper part of a table's drawing. `across`: the levels of its rules
-// from side to side that cross nearly all of it.
+// that cross most of it; `whole`: of those that go from side to side.
 HeadArea FindHeads(const SheetDrawing& drawing, const std::vector<TextLine>& lines,
-                   const std::vector<double>& across);
+                   const std::vector<double>& across, const std::vector<double>& whole);
 
 // Whether a phrase is worded as a head.
 bool IsHeadPhrase(const Phrase& phrase);

@@ -14,13 +14,20 @@ unsigned SidesOf(unsigned meaning) {
 
 ColumnRole SideRole(unsigned sides) {
   switch (sides) {
-    case kNorthWord: return ColumnRole::North;
-    case kEastWord: return ColumnRole::East;
-    case kSouthWord: return ColumnRole::South;
-    case kWestWord: return ColumnRole::West;
-    case kNorthWord | kSouthWord: return ColumnRole::NorthSouth;
-    case kEastWord | kWestWord: return ColumnRole::EastWest;
-    default: return ColumnRole::Walls;
+    case kNorthWord:
+      return ColumnRole::North;
+    case kEastWord:
+      return ColumnRole::East;
+    case kSouthWord:
+      return ColumnRole::South;
+    case kWestWord:
+      return ColumnRole::West;
+    case kNorthWord | kSouthWord:
+      return ColumnRole::NorthSouth;
+    case kEastWord | kWestWord:
+      return ColumnRole::EastWest;
+    default:
+      return ColumnRole::Walls;
   }
 }
 
@@ -113,8 +120,8 @@ class HeadReader {
 
   bool Finish(unsigned m, size_t level, HeadRole& role) const {
     if ((m & kCeilingWord) != 0) return Set(role, ColumnRole::Ceiling);
-    const bool sided = SidesOf(m) != 0 && ((m & kWallWord) != 0 || WallAbove(level) ||
-                                           company_.sides >= 2);
+    const bool sided =
+        SidesOf(m) != 0 && ((m & kWallWord) != 0 || WallAbove(level) || company_.sides >= 2);
     if (sided) return Set(role, SideRole(SidesOf(m)));
     if ((m & kBaseWord) != 0) return Set(role, ColumnRole::Base);
     if ((m & kWallWord) != 0) return Set(role, ColumnRole::Walls);
@@ -216,8 +223,8 @@ TableKind KindOf(const std::vector<HeadTexts>& heads, const QString& title, doub
   const QStringList words = HeadTokens(title);
   const auto says = [&words](const char* word) { return words.contains(QLatin1String(word)); };
   if (finishes >= 2 && (rooms || finishes >= 3) && finishes + int(rooms) > doors) {
-    confidence = std::min(1.0, 0.2 * finishes + (rooms ? 0.2 : 0) +
-                                   (says("FINISH") || says("FINISHES") ? 0.2 : 0));
+    confidence = std::min(
+        1.0, 0.2 * finishes + (rooms ? 0.2 : 0) + (says("FINISH") || says("FINISHES") ? 0.2 : 0));
     return TableKind::Finish;
   }
   confidence = 0.5 + (says("SCHEDULE") || says("LEGEND") || says("KEY") ? 0.3 : 0);

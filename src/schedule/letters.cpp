@@ -16,10 +16,14 @@ struct Place {
 
 Place InWay(PagePoint at, Way way) {
   switch (way) {
-    case Way::Up: return {-at.y, at.x};
-    case Way::Left: return {-at.x, -at.y};
-    case Way::Down: return {at.y, -at.x};
-    default: return {at.x, at.y};
+    case Way::Up:
+      return {-at.y, at.x};
+    case Way::Left:
+      return {-at.x, -at.y};
+    case Way::Down:
+      return {at.y, -at.x};
+    default:
+      return {at.x, at.y};
   }
 }
 
@@ -55,9 +59,17 @@ class DrawnBefore {
 
 QChar Plain(QChar letter) {
   switch (letter.unicode()) {
-    case 0x00a0: case 0x2007: case 0x202f: case 0x3000: return u' ';
-    case 0x00ad: case 0x2010: case 0x2011: return u'-';
-    default: return letter;
+    case 0x00a0:
+    case 0x2007:
+    case 0x202f:
+    case 0x3000:
+      return u' ';
+    case 0x00ad:
+    case 0x2010:
+    case 0x2011:
+      return u'-';
+    default:
+      return letter;
   }
 }
 
@@ -67,8 +79,12 @@ void TakePiece(const TextPiece& piece, int index, Way way, DrawnBefore& before,
     const TextPlace& place = piece.places[size_t(i)];
     const Place start = InWay(place.start, way);
     const Place end = InWay(place.end, way);
-    Letter letter = {Plain(piece.text[i]), std::min(start.along, end.along),
-                     std::max(start.along, end.along), start.across, piece.size, index,
+    Letter letter = {Plain(piece.text[i]),
+                     std::min(start.along, end.along),
+                     std::max(start.along, end.along),
+                     start.across,
+                     piece.size,
+                     index,
                      piece.fixedPitch};
     if (!IsBlank(letter.letter) && before.Seen(letter)) continue;
     letters.push_back(letter);
@@ -115,10 +131,14 @@ std::vector<Letter> LettersOf(const std::vector<TextPiece>& texts, Way way) {
 
 PageBox OnSheet(const PageBox& box, Way way) {
   switch (way) {
-    case Way::Up: return {box.top, -box.right, box.bottom, -box.left};
-    case Way::Left: return {-box.right, -box.bottom, -box.left, -box.top};
-    case Way::Down: return {-box.bottom, box.left, -box.top, box.right};
-    default: return box;
+    case Way::Up:
+      return {box.top, -box.right, box.bottom, -box.left};
+    case Way::Left:
+      return {-box.right, -box.bottom, -box.left, -box.top};
+    case Way::Down:
+      return {-box.bottom, box.left, -box.top, box.right};
+    default:
+      return box;
   }
 }
 

@@ -70,12 +70,49 @@ class Placer {
 
   void Place(const TextLine& line) {
     const size_t begin = placed_.size();
-    for (const Phrase& phrase : line.phrases) PlacePhrase(phrase, line);
+    for (const Phrase& phrase : WithStringsWhole(line)) PlacePhrase(phrase, line);
+    MarkTouching(begin);
     MarkCollisions(begin);
   }
   std::vector<PlacedWord> Words() { return std::move(placed_); }
 
  private:
+  // One drawn string that a border goes through at a blank is one text, most likely.
+  std::vector<Phrase> WithStringsWhole(const TextLine& line) const {
+    std::vector<Phrase> phrases;
+    for (const Phrase& phrase : line.phrases) {
+      if (!phrases.empty() && OneString(phrases.back(), phrase)) {
+        Phrase& whole = phrases.back();
+        whole.words.insert(whole.words.end(), phrase.words.begin(), phrase.words.end());
+        whole.text += u' ' + phrase.text;
+        whole.box.Take({phrase.box.right, phrase.box.bottom});
+        whole.torn = true;
+      } else {
+        phrases.push_back(phrase);
+      }
+    }
+    return phrases;
+  }
+  bool OneString(const Phrase& left, const Phrase& right) const {
+    const Word& a = At(left.words.back());
+    const Word& b = At(right.words.front());
+    return a.piece == b.piece && b.box.left - a.box.right <= (a.fixed ? 0.95 : 0.6) * a.size;
+  }
+
+  // A word that ends right at a border, another right behind it: perhaps one text.
+  void MarkTouching(size_t begin) {
+    for (size_t i = begin; i + 1 < placed_.size(); ++i) {
+      PlacedWord& a = placed_[i];
+      PlacedWord& b = placed_[i + 1];
+      if (a.last >= b.first || b.first >= columns_.Count()) continue;
+      const double border = columns_.Left(b.first);
+      const double gap = b.word->box.left - a.word->box.right;
+      if (gap > 0.45 * a.word->size || a.word->box.right < border - 0.08 * a.word->size) continue;
+      a.doubts.push_back(Doubt::WhichColumn);
+      b.doubts.push_back(Doubt::WhichColumn);
+    }
+  }
+
   const Word& At(int index) const { return drawing_.words[size_t(index)]; }
 
   // How far a word reaches over the border on its left (or right) side out of its column.
@@ -107,7 +144,7 @@ class Placer {
   bool OnlyTextIn(const TextLine& line, const Phrase& phrase, int first, int last) const {
     return std::none_of(line.phrases.begin(), line.phrases.end(), [&](const Phrase& other) {
       const int column = columns_.ColumnAt(other.MidX());
-      return &other != &phrase && column >= first && column <= last;
+      return !Holds(phrase.box, other.MidX(), other.MidY()) && column >= first && column <= last;
     });
   }
 
@@ -129,7 +166,7 @@ class Placer {
     const int last = columns_.ColumnAt(phrase.box.right - kTouch * phrase.size);
     if (PlaceMerged(phrase, line, first, last)) return;
     const size_t begin = placed_.size();
-    bool crosses = false;
+    bool crosses = phrase.torn;
     for (const int index : phrase.words) {
       const Word& word = At(index);
       const int column = columns_.ColumnAt(word.MidX());
@@ -184,8 +221,7 @@ class Placer {
       for (size_t k = i + 1; k < placed_.size() && k < i + 3; ++k) {
         const Word& a = *placed_[i].word;
         const Word& b = *placed_[k].word;
-        const double shared =
-            std::min(a.box.right, b.box.right) - std::max(a.box.left, b.box.left);
+        const double shared = std::min(a.box.right, b.box.right) - std::max(a.box.left, b.box.left);
         if (shared <= 0.3 * std::min(a.size, b.size)) continue;
         placed_[i].doubts.push_back(Doubt::Overlapping);
         placed_[k].doubts.push_back(Doubt::Overlapping);

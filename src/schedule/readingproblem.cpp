@@ -23,9 +23,9 @@ Letters CountLetters(const PageContent& page, const PageBox& box) {
   std::vector<TextPiece> own;
   std::copy_if(page.texts.begin(), page.texts.end(), std::back_inserter(own),
                [&box](const TextPiece& piece) {
-    return Holds(box, (piece.box.left + piece.box.right) / 2,
-                 (piece.box.top + piece.box.bottom) / 2);
-  });
+                 return Holds(box, (piece.box.left + piece.box.right) / 2,
+                              (piece.box.top + piece.box.bottom) / 2);
+               });
   const SheetWords words = WordsOf(own);
   return {words.letters, words.hidden, words.foreign, words.downwards};
 }
@@ -33,8 +33,7 @@ Letters CountLetters(const PageContent& page, const PageBox& box) {
 bool PictureOver(const PageContent& page, const PageBox& box) {
   return std::any_of(page.pictures.begin(), page.pictures.end(), [&box](const PicturePiece& one) {
     const PageBox shared = one.box.Cut(box);
-    return !shared.Empty() &&
-           shared.Width() * shared.Height() > 0.3 * box.Width() * box.Height();
+    return !shared.Empty() && shared.Width() * shared.Height() > 0.3 * box.Width() * box.Height();
   });
 }
 
@@ -46,13 +45,15 @@ bool PathsIn(const PageContent& page, const PageBox& box) {
 
 QString NoText(const PageContent& page, const PageBox& box, bool boxed) {
   if (PictureOver(page, box)) {
-    return QStringLiteral("There is no text in %1: it is a scanned picture. Type the schedule, or "
-                          "ask for the drawing as the architect's program wrote it.")
+    return QStringLiteral(
+               "There is no text in %1: it is a scanned picture. Type the schedule, or "
+               "ask for the drawing as the architect's program wrote it.")
         .arg(Where(boxed));
   }
   if (PathsIn(page, box)) {
-    return QStringLiteral("There is no text in %1, only lines: what looks like text may be drawn "
-                          "as lines. Ask for a drawing with its text as text.")
+    return QStringLiteral(
+               "There is no text in %1, only lines: what looks like text may be drawn "
+               "as lines. Ask for a drawing with its text as text.")
         .arg(Where(boxed));
   }
   return QStringLiteral("There is nothing in %1. Draw the box around a room finish schedule.")
@@ -61,13 +62,18 @@ QString NoText(const PageContent& page, const PageBox& box, bool boxed) {
 
 QString KindText(TableKind kind) {
   switch (kind) {
-    case TableKind::Finish: return QStringLiteral("a room finish schedule");
-    case TableKind::Door: return QStringLiteral("a door schedule");
-    case TableKind::Window: return QStringLiteral("a window schedule");
-    case TableKind::Legend: return QStringLiteral("a legend of finishes or materials");
+    case TableKind::Finish:
+      return QStringLiteral("a room finish schedule");
+    case TableKind::Door:
+      return QStringLiteral("a door schedule");
+    case TableKind::Window:
+      return QStringLiteral("a window schedule");
+    case TableKind::Legend:
+      return QStringLiteral("a legend of finishes or materials");
     case TableKind::Matrix:
       return QStringLiteral("a schedule of marks under the finishes, which can't be read");
-    default: return QStringLiteral("a table of another kind");
+    default:
+      return QStringLiteral("a table of another kind");
   }
 }
 
@@ -91,11 +97,11 @@ bool GoesOn(const SheetDrawing& sheet, const PageBox& box, const PageBox& table)
 // Texts of a table that a side of the box goes through.
 bool CutsText(const SheetDrawing& sheet, const PageBox& box) {
   return std::count_if(sheet.words.begin(), sheet.words.end(), [&box](const Word& word) {
-    if (word.box.Cut(box).Empty()) return false;
-    const double outside = std::max({box.left - word.box.left, word.box.right - box.right,
-                                     box.top - word.box.top, word.box.bottom - box.bottom});
-    return outside > 0.4 * word.size;
-  }) >= 3;
+           if (word.box.Cut(box).Empty()) return false;
+           const double outside = std::max({box.left - word.box.left, word.box.right - box.right,
+                                            box.top - word.box.top, word.box.bottom - box.bottom});
+           return outside > 0.4 * word.size;
+         }) >= 3;
 }
 
 }  // namespace
@@ -103,9 +109,10 @@ bool CutsText(const SheetDrawing& sheet, const PageBox& box) {
 QString WhyUnreadable(const PageContent& page, const PageBox& box, bool boxed) {
   const Letters letters = CountLetters(page, box);
   if (letters.hidden > 2 * letters.seen) {
-    return QStringLiteral("The text in %1 is hidden behind a scanned picture, as a scanner's "
-                          "program guessed it, and can't be trusted. Type the schedule, or ask for "
-                          "the drawing as the architect's program wrote it.")
+    return QStringLiteral(
+               "The text in %1 is hidden behind a scanned picture, as a scanner's "
+               "program guessed it, and can't be trusted. Type the schedule, or ask for "
+               "the drawing as the architect's program wrote it.")
         .arg(Where(boxed));
   }
   if (letters.seen == 0) return NoText(page, box, boxed);
@@ -121,23 +128,26 @@ QString WhyUnreadable(const PageContent& page, const PageBox& box, bool boxed) {
 }
 
 QString TooMuchText(bool boxed) {
-  return QStringLiteral("There is too much text in %1 for a schedule. Draw a box around the table "
-                        "only.")
+  return QStringLiteral(
+             "There is too much text in %1 for a schedule. Draw a box around the table "
+             "only.")
       .arg(Where(boxed));
 }
 
 QString WhyNoSchedule(const std::vector<ScheduleTable>& tables, bool boxed) {
   if (tables.empty()) {
-    return QStringLiteral("There is no room finish schedule in %1: no heads like FLOOR, BASE, WALLS "
-                          "and CEILING. Draw the box around the whole table with its heads.")
+    return QStringLiteral(
+               "There is no room finish schedule in %1: no heads like FLOOR, BASE, WALLS "
+               "and CEILING. Draw the box around the whole table with its heads.")
         .arg(Where(boxed));
   }
   const auto finishes = std::count_if(tables.begin(), tables.end(), [](const ScheduleTable& table) {
     return table.kind == TableKind::Finish;
   });
   if (finishes == 0) {
-    return QStringLiteral("What stands in %1 is %2, not a room finish schedule. Draw the box "
-                          "around a room finish schedule.")
+    return QStringLiteral(
+               "What stands in %1 is %2, not a room finish schedule. Draw the box "
+               "around a room finish schedule.")
         .arg(Where(boxed), KindText(tables.front().kind));
   }
   const auto other = std::find_if(tables.begin(), tables.end(), [](const ScheduleTable& table) {
@@ -148,14 +158,16 @@ QString WhyNoSchedule(const std::vector<ScheduleTable>& tables, bool boxed) {
     return table.kind == TableKind::Finish && table.rows.empty();
   });
   if (boxed && empty != tables.end()) {
-    return QStringLiteral("There are heads of a room finish schedule in the box, but no rows. Draw "
-                          "the box around the whole table.");
+    return QStringLiteral(
+        "There are heads of a room finish schedule in the box, but no rows. Draw "
+        "the box around the whole table.");
   }
   return {};
 }
 
 QString TwoTables(const ScheduleTable& other) {
-  return QStringLiteral("There are two tables there, one of them %1. Draw the box around one table.")
+  return QStringLiteral(
+             "There are two tables there, one of them %1. Draw the box around one table.")
       .arg(KindText(other.kind));
 }
 
@@ -165,8 +177,9 @@ QString WhyCut(const SheetDrawing& sheet, const PageBox& box,
     return GoesOn(sheet, box, table.box);
   });
   if (!cut && !CutsText(sheet, box)) return {};
-  return QStringLiteral("The box cuts through the table. Draw it around the whole table, with its "
-                        "heads.");
+  return QStringLiteral(
+      "The box cuts through the table. Draw it around the whole table, with its "
+      "heads.");
 }
 
 }  // namespace tamo

@@ -23,8 +23,7 @@ bool Strikes(const Rule& rule, const Word& word) {
   if (word.way != Way::Right) return false;
   const double middle = word.base - 0.34 * word.size;
   if (std::abs(rule.at - middle) > 0.2 * word.size) return false;
-  const double shared =
-      std::min(rule.to, word.box.right) - std::max(rule.from, word.box.left);
+  const double shared = std::min(rule.to, word.box.right) - std::max(rule.from, word.box.left);
   return shared >= 0.6 * word.box.Width();
 }
 

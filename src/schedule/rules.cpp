@@ -6,12 +6,12 @@
 namespace tamo {
 namespace {
 
-constexpr double kStraight = 0.35;   // points a line may be off its direction
-constexpr double kShortest = 2.5;    // points
-constexpr double kThickest = 3.2;    // points of a filled area that counts as a line
-constexpr double kBreak = 1.6;       // points between two pieces of one line
-constexpr double kDashBreak = 7;     // the same of a dashed one
-constexpr double kSameLine = 0.6;    // points across, of pieces of one line
+constexpr double kStraight = 0.35;  // points a line may be off its direction
+constexpr double kShortest = 2.5;   // points
+constexpr double kThickest = 3.2;   // points of a filled area that counts as a line
+constexpr double kBreak = 1.6;      // points between two pieces of one line
+constexpr double kDashBreak = 7;    // the same of a dashed one
+constexpr double kSameLine = 0.6;   // points across, of pieces of one line
 
 struct Piece {
   Rule rule;
@@ -38,9 +38,8 @@ void TakeLine(PagePoint from, PagePoint to, double gap, std::vector<Piece>& piec
 }
 
 bool Straight(const PathPiece& path) {
-  return std::none_of(path.steps.begin(), path.steps.end(), [](const PathStep& step) {
-    return step.kind == PathStep::Kind::Curve;
-  });
+  return std::none_of(path.steps.begin(), path.steps.end(),
+                      [](const PathStep& step) { return step.kind == PathStep::Kind::Curve; });
 }
 
 void TakeStroke(const PathPiece& path, std::vector<Piece>& pieces) {

@@ -12,7 +12,7 @@
 namespace tamo {
 namespace {
 
-constexpr double kEdge = 3;            // points around a drawn box that still belong to it
+constexpr double kEdge = 3;  // points around a drawn box that still belong to it
 constexpr size_t kMostWords = 40000;
 
 void Back(ScheduleTable& table, Way way, PageSize size) {
@@ -71,9 +71,10 @@ bool SameHeads(const ScheduleTable& a, const ScheduleTable& b) {
 }
 
 void KeepFinishes(std::vector<ScheduleTable>& tables) {
-  tables.erase(std::remove_if(tables.begin(), tables.end(), [](const ScheduleTable& table) {
-    return table.kind != TableKind::Finish;
-  }), tables.end());
+  tables.erase(
+      std::remove_if(tables.begin(), tables.end(),
+                     [](const ScheduleTable& table) { return table.kind != TableKind::Finish; }),
+      tables.end());
 }
 
 ScheduleReading Refused(const QString& why) {
@@ -101,10 +102,9 @@ ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBo
   const QString wrong = WhyNoSchedule(tables, box.has_value());
   if (!wrong.isEmpty()) return Refused(wrong);
   KeepFinishes(tables);
-  const auto different = std::find_if(tables.begin() + 1, tables.end(),
-                                      [&tables](const ScheduleTable& table) {
-    return !SameHeads(table, tables.front());
-  });
+  const auto different = std::find_if(
+      tables.begin() + 1, tables.end(),
+      [&tables](const ScheduleTable& table) { return !SameHeads(table, tables.front()); });
   if (different != tables.end()) return Refused(TwoTables(*different));
   if (box.has_value()) {
     const QString cut = WhyCut(sheet, area, tables);

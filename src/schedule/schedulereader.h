@@ -14,8 +14,8 @@ std::vector<ScheduleTable> FindTables(const PageContent& page);
 
 // What was read of a room finish schedule, or in words why nothing was.
 struct ScheduleReading {
-  QString problem;                    // what, where, and what to do; empty when it was read
-  std::vector<ScheduleTable> parts;   // in reading order
+  QString problem;                   // what, where, and what to do; empty when it was read
+  std::vector<ScheduleTable> parts;  // in reading order
 };
 
 // Reads the room finish schedule inside a box (points on the page as displayed); without a box, the

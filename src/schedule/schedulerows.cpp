@@ -11,20 +11,34 @@ enum Cell { kNumber, kName, kFloor, kBase, kNorth, kEast, kSouth, kWest, kCeilin
 
 std::vector<int> CellsFor(ColumnRole role) {
   switch (role) {
-    case ColumnRole::Number: return {kNumber};
-    case ColumnRole::Name: return {kName};
-    case ColumnRole::Floor: return {kFloor};
-    case ColumnRole::Base: return {kBase};
-    case ColumnRole::North: return {kNorth};
-    case ColumnRole::East: return {kEast};
-    case ColumnRole::South: return {kSouth};
-    case ColumnRole::West: return {kWest};
-    case ColumnRole::Walls: return {kNorth, kEast, kSouth, kWest};
-    case ColumnRole::NorthSouth: return {kNorth, kSouth};
-    case ColumnRole::EastWest: return {kEast, kWest};
-    case ColumnRole::Ceiling: return {kCeiling};
-    case ColumnRole::Remarks: return {kRemarks};
-    default: return {};
+    case ColumnRole::Number:
+      return {kNumber};
+    case ColumnRole::Name:
+      return {kName};
+    case ColumnRole::Floor:
+      return {kFloor};
+    case ColumnRole::Base:
+      return {kBase};
+    case ColumnRole::North:
+      return {kNorth};
+    case ColumnRole::East:
+      return {kEast};
+    case ColumnRole::South:
+      return {kSouth};
+    case ColumnRole::West:
+      return {kWest};
+    case ColumnRole::Walls:
+      return {kNorth, kEast, kSouth, kWest};
+    case ColumnRole::NorthSouth:
+      return {kNorth, kSouth};
+    case ColumnRole::EastWest:
+      return {kEast, kWest};
+    case ColumnRole::Ceiling:
+      return {kCeiling};
+    case ColumnRole::Remarks:
+      return {kRemarks};
+    default:
+      return {};
   }
 }
 
@@ -112,11 +126,11 @@ FinishRow RowOf(const ScheduleTable& table, const ScheduleRow& from, Dittos& dit
 }  // namespace
 
 bool IsDitto(const QString& text) {
-  static const QStringList marks = {
-      QStringLiteral("\""),     QStringLiteral("\u201d"), QStringLiteral("\u201c"),
-      QStringLiteral("\u2033"), QStringLiteral("\u3003"), QStringLiteral("''"),
-      QStringLiteral("\u2019\u2019"), QStringLiteral("DITTO"), QStringLiteral("-DO-"),
-      QStringLiteral("DO.")};
+  static const QStringList marks = {QStringLiteral("\""),           QStringLiteral("\u201d"),
+                                    QStringLiteral("\u201c"),       QStringLiteral("\u2033"),
+                                    QStringLiteral("\u3003"),       QStringLiteral("''"),
+                                    QStringLiteral("\u2019\u2019"), QStringLiteral("DITTO"),
+                                    QStringLiteral("-DO-"),         QStringLiteral("DO.")};
   return marks.contains(text.toUpper());
 }
 

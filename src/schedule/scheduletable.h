@@ -10,25 +10,39 @@ namespace tamo {
 
 // What a column of a schedule tells about a room.
 enum class ColumnRole {
-  Other, Number, Name, NumberAndName, Floor, Base, North, East, South, West, Walls, NorthSouth,
-  EastWest, Ceiling, Height, Remarks
+  Other,
+  Number,
+  Name,
+  NumberAndName,
+  Floor,
+  Base,
+  North,
+  East,
+  South,
+  West,
+  Walls,
+  NorthSouth,
+  EastWest,
+  Ceiling,
+  Height,
+  Remarks
 };
 
 enum class TableKind { Unknown, Finish, Door, Window, Legend, Matrix };
 
 // Why a cell is not sure.
 enum class Doubt {
-  OverBorder,      // its text crosses the border to its neighbour
-  WhichColumn,     // its text may belong to the column beside it
-  WhichRow,        // its text may belong to the row above or below
-  Overlapping,     // two texts lie over each other
-  UnknownLetter,   // the file doesn't tell what a letter is
-  NothingAbove,    // a ditto mark with nothing above it
-  NoNumber,        // the row has no room number
-  Merged,          // one cell that stands for several rows or columns
-  GuessedHead,     // the head of its column could mean something else
-  TurnedText,      // text that reads in another direction than its table
-  FromPicture,     // read from a picture
+  OverBorder,     // its text crosses the border to its neighbour
+  WhichColumn,    // its text may belong to the column beside it
+  WhichRow,       // its text may belong to the row above or below
+  Overlapping,    // two texts lie over each other
+  UnknownLetter,  // the file doesn't tell what a letter is
+  NothingAbove,   // a ditto mark with nothing above it
+  NoNumber,       // the row has no room number
+  Merged,         // one cell that stands for several rows or columns
+  GuessedHead,    // the head of its column could mean something else
+  TurnedText,     // text that reads in another direction than its table
+  FromPicture,    // read from a picture
 };
 QString DoubtText(Doubt doubt);  // in plain words
 

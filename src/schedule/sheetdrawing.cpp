@@ -7,10 +7,14 @@ namespace {
 
 PagePoint TurnedPoint(PagePoint at, Way way, PageSize size) {
   switch (way) {
-    case Way::Up: return {size.height - at.y, at.x};
-    case Way::Left: return {size.width - at.x, size.height - at.y};
-    case Way::Down: return {at.y, size.width - at.x};
-    default: return at;
+    case Way::Up:
+      return {size.height - at.y, at.x};
+    case Way::Left:
+      return {size.width - at.x, size.height - at.y};
+    case Way::Down:
+      return {at.y, size.width - at.x};
+    default:
+      return at;
   }
 }
 
@@ -31,8 +35,8 @@ Way TurnedWay(Way word, Way way) {
 
 Word TurnedWord(Word word, Way way, PageSize size) {
   const bool upright = word.way == Way::Right || word.way == Way::Left;
-  const PagePoint base = TurnedPoint(
-      upright ? PagePoint{0, word.base} : PagePoint{word.base, 0}, way, size);
+  const PagePoint base =
+      TurnedPoint(upright ? PagePoint{0, word.base} : PagePoint{word.base, 0}, way, size);
   word.box = TurnedBox(word.box, way, size);
   word.way = TurnedWay(word.way, way);
   word.base = word.way == Way::Right || word.way == Way::Left ? base.y : base.x;

@@ -9,10 +9,10 @@
 namespace tamo {
 namespace {
 
-constexpr double kWordGap = 0.16;     // of the size: from here on a gap is a blank
-constexpr double kOverlap = 0.35;     // of the size: how far two drawn parts of a word may overlap
-constexpr double kSpaced = 0.06;      // of the size: letters set wider than this are letter-spaced
-constexpr double kCapitals = 0.72;    // of the size: height of the capitals
+constexpr double kWordGap = 0.16;   // of the size: from here on a gap is a blank
+constexpr double kOverlap = 0.35;   // of the size: how far two drawn parts of a word may overlap
+constexpr double kSpaced = 0.06;    // of the size: letters set wider than this are letter-spaced
+constexpr double kCapitals = 0.72;  // of the size: height of the capitals
 
 // Letters of one string without a blank between them.
 struct Part {
@@ -52,8 +52,8 @@ void CutString(const std::vector<Letter>& letters, size_t first, size_t last,
       continue;
     }
     const double wide = spacing + kWordGap * letter.size;
-    if (open && (letter.from - parts.back().Last().to > wide ||
-                 letter.from < parts.back().Last().from)) {
+    if (open &&
+        (letter.from - parts.back().Last().to > wide || letter.from < parts.back().Last().from)) {
       open = false;
     }
     if (!open) parts.push_back({{}, spacing});
@@ -111,8 +111,7 @@ class Joiner {
       : parts_(parts), fences_(fences), next_(parts.size(), -1), before_(parts.size(), -1) {
     for (size_t i = 0; i < parts.size(); ++i) rows_[Row(parts[i].First().base)].push_back(int(i));
     for (auto& [row, members] : rows_) {
-      std::sort(members.begin(), members.end(),
-                [this](int a, int b) { return From(a) < From(b); });
+      std::sort(members.begin(), members.end(), [this](int a, int b) { return From(a) < From(b); });
     }
     for (size_t i = 0; i < parts.size(); ++i) FindNext(int(i));
   }

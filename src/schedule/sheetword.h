@@ -15,11 +15,11 @@ enum class Way { Right, Up, Left, Down };
 // in. Points, from the sheet's top left corner.
 struct Word {
   QString text;
-  PageBox box;       // along: the letters' advance; across: from the base line to the capitals' top
-  double base = 0;   // the base line: its y for Right and Left, its x for Up and Down
-  double size = 0;   // of the largest letter
+  PageBox box;      // along: the letters' advance; across: from the base line to the capitals' top
+  double base = 0;  // the base line: its y for Right and Left, its x for Up and Down
+  double size = 0;  // of the largest letter
   Way way = Way::Right;
-  int piece = -1;     // which drawn string its first letter comes from
+  int piece = -1;        // which drawn string its first letter comes from
   bool fixed = false;    // of a typewriter face
   bool unknown = false;  // a letter that the file doesn't tell
 
@@ -30,10 +30,10 @@ struct Word {
 // The words of a sheet, and what else its text shows.
 struct SheetWords {
   std::vector<Word> words;
-  qsizetype letters = 0;      // letters that can be seen
-  qsizetype hidden = 0;       // letters drawn with no ink
-  qsizetype foreign = 0;      // letters of a script that is written from right to left
-  qsizetype downwards = 0;    // letters of a font for writing downwards
+  qsizetype letters = 0;    // letters that can be seen
+  qsizetype hidden = 0;     // letters drawn with no ink
+  qsizetype foreign = 0;    // letters of a script that is written from right to left
+  qsizetype downwards = 0;  // letters of a font for writing downwards
 };
 
 // Text drawn twice at one place counts once. Text that is neither along nor across the sheet,

@@ -10,9 +10,8 @@ constexpr double kSameLine = 0.45;  // of the size: also raised and lowered lett
 
 // Words of one cell in reading order: lines from the top down, each from left to right.
 void InReadingOrder(std::vector<const PlacedWord*>& words) {
-  std::sort(words.begin(), words.end(), [](const PlacedWord* a, const PlacedWord* b) {
-    return a->word->base < b->word->base;
-  });
+  std::sort(words.begin(), words.end(),
+            [](const PlacedWord* a, const PlacedWord* b) { return a->word->base < b->word->base; });
   for (auto first = words.begin(); first != words.end();) {
     auto last = first + 1;
     while (last != words.end() &&

@@ -10,9 +10,9 @@
 namespace tamo {
 namespace {
 
-constexpr double kCovers = 0.45;     // of the rows' height: a rule that divides columns
-constexpr double kNarrowest = 4;     // points of a column
-constexpr double kOutside = 4;       // points between the outermost rule and text outside of it
+constexpr double kCovers = 0.45;  // of the rows' height: a rule that divides columns
+constexpr double kNarrowest = 4;  // points of a column
+constexpr double kOutside = 4;    // points between the outermost rule and text outside of it
 
 bool Above(const Phrase& upper, const Phrase& lower) {
   const double shared =
@@ -35,7 +35,9 @@ bool StandsOverBoth(const Phrase& phrase, const std::vector<Phrase>& all) {
   if (left == nullptr || right == nullptr) return false;
   const unsigned over = MeaningOfText(phrase.text);
   const unsigned both[] = {MeaningOfText(left->text), MeaningOfText(right->text)};
-  const auto are = [&both](unsigned what) { return (both[0] & what) != 0 && (both[1] & what) != 0; };
+  const auto are = [&both](unsigned what) {
+    return (both[0] & what) != 0 && (both[1] & what) != 0;
+  };
   if ((over & kWallWord) != 0) return are(kSideWords);
   if ((over & kRoomWord) != 0) return are(kNumberWord | kNameWord);
   if (over == kMaterialWord) return are(kFinishWords);
@@ -56,13 +58,21 @@ std::vector<double> RuledBorders(const SheetDrawing& drawing, double top, double
 
 // From the first to the last text of the heads and rows.
 Span TextSpan(const std::vector<TextLine>& lines, double top) {
-  Span span = {1e9, -1e9};
+  Span span = {1e9, -1e9, 0};
   for (const TextLine& line : lines) {
     if (line.base <= top) continue;
     span.from = std::min(span.from, line.phrases.front().box.left);
     span.to = std::max(span.to, line.phrases.back().box.right);
   }
   return span;
+}
+
+// Whether a text lies wholly on the outer side of a place.
+bool AnyOutside(const std::vector<TextLine>& lines, double top, double at, bool left) {
+  return std::any_of(lines.begin(), lines.end(), [=](const TextLine& line) {
+    const Phrase& phrase = left ? line.phrases.front() : line.phrases.back();
+    return line.base > top && (left ? phrase.box.right < at : phrase.box.left > at);
+  });
 }
 
 // Texts of the rows between two places, but for lines of a single text.
@@ -74,7 +84,7 @@ std::vector<Span> TextsBetween(const std::vector<TextLine>& lines, double top, d
     if (line.phrases.size() == 1 && LooksLikeGroup(line.phrases.front().text)) continue;
     for (const Phrase& phrase : line.phrases) {
       if (phrase.MidX() >= from && phrase.MidX() <= to) {
-        texts.push_back({std::max(phrase.box.left, from), std::min(phrase.box.right, to)});
+        texts.push_back({std::max(phrase.box.left, from), std::min(phrase.box.right, to), 0});
       }
     }
   }
@@ -99,9 +109,10 @@ std::vector<Span> HeadsBetween(const SheetDrawing& drawing, const std::vector<Ph
   std::vector<Span> heads;
   for (const Phrase& leaf : leaves) {
     if (leaf.MidX() < from || leaf.MidX() > to || ReachesOver(drawing, leaf, from, to)) continue;
-    heads.push_back({leaf.box.left, leaf.box.right});
+    heads.push_back({leaf.box.left, leaf.box.right, leaf.box.bottom});
   }
-  std::sort(heads.begin(), heads.end(), [](const Span& a, const Span& b) { return a.from < b.from; });
+  std::sort(heads.begin(), heads.end(),
+            [](const Span& a, const Span& b) { return a.from < b.from; });
   return heads;
 }
 
@@ -115,12 +126,14 @@ void Divide(const SheetDrawing& drawing, const std::vector<TextLine>& lines, con
   for (const double at : AlignedBorders(from, to, texts, own, size)) borders.push_back(at);
 }
 
-void AddOuter(const PageBox& frame, const Span& rows, std::vector<double>& ruled) {
-  if (ruled.empty() || rows.from < ruled.front() - kOutside) {
-    ruled.insert(ruled.begin(), std::min(frame.left, rows.from));
+void AddOuter(const PageBox& frame, const std::vector<TextLine>& lines, double top,
+              std::vector<double>& ruled) {
+  const Span texts = TextSpan(lines, top);
+  if (ruled.empty() || AnyOutside(lines, top, ruled.front(), true)) {
+    ruled.insert(ruled.begin(), std::min(frame.left, texts.from));
   }
-  if (ruled.size() < 2 || rows.to > ruled.back() + kOutside) {
-    ruled.push_back(std::max(frame.right, rows.to));
+  if (ruled.size() < 2 || AnyOutside(lines, top, ruled.back(), false)) {
+    ruled.push_back(std::max(frame.right, texts.to));
   }
 }
 
@@ -136,9 +149,8 @@ std::vector<Phrase> LeavesOf(const HeadArea& heads) {
   all.insert(all.end(), heads.turned.begin(), heads.turned.end());
   std::vector<Phrase> leaves;
   for (const Phrase& phrase : heads.phrases) {
-    const bool over = std::any_of(all.begin(), all.end(), [&phrase](const Phrase& other) {
-      return Above(phrase, other);
-    });
+    const bool over = std::any_of(all.begin(), all.end(),
+                                  [&phrase](const Phrase& other) { return Above(phrase, other); });
     if (!over && !StandsOverBoth(phrase, all)) leaves.push_back(phrase);
   }
   leaves.insert(leaves.end(), heads.turned.begin(), heads.turned.end());
@@ -149,7 +161,7 @@ ColumnBorders ColumnsOf(const SheetDrawing& drawing, const std::vector<TextLine>
                         const HeadArea& heads, const PageBox& frame) {
   std::vector<double> ruled = RuledBorders(drawing, heads.bottom, frame.bottom);
   const std::vector<double> drawn = ruled;
-  AddOuter(frame, TextSpan(lines, heads.top), ruled);
+  AddOuter(frame, lines, heads.top, ruled);
   std::vector<double> borders = ruled;
   for (size_t i = 0; i + 1 < ruled.size(); ++i) {
     Divide(drawing, lines, heads, ruled[i], ruled[i + 1], borders);

@@ -18,8 +18,8 @@ struct ColumnBorders {
   double Right(int column) const { return at[size_t(column) + 1]; }
 };
 
-// The columns below the heads: by the rules from top to bottom, and by how the text is aligned where
-// there are none.
+// The columns below the heads: by the rules from top to bottom, and by how the text is aligned
+// where there are none.
 ColumnBorders ColumnsOf(const SheetDrawing& drawing, const std::vector<TextLine>& lines,
                         const HeadArea& heads, const PageBox& frame);
 

@@ -9,11 +9,11 @@
 namespace tamo {
 namespace {
 
-constexpr double kSameEnd = 3;      // points
-constexpr double kShortest = 60;    // points of a table's rule
-constexpr double kLowest = 12;      // points of a table's height
+constexpr double kSameEnd = 3;    // points
+constexpr double kShortest = 60;  // points of a table's rule
+constexpr double kLowest = 12;    // points of a table's height
 constexpr size_t kFewestRules = 3;
-constexpr double kWidestGap = 50;   // points between rows, where nothing at the sides goes on
+constexpr double kWidestGap = 50;  // points between rows, where nothing at the sides goes on
 
 // Rules of one direction with the same ends, in order.
 using Family = std::vector<Rule>;
@@ -117,8 +117,8 @@ std::vector<HeadRun> RunsOf(const TextLine& line) {
 
 bool Stacked(const HeadRun& upper, const HeadRun& lower) {
   const double gap = lower.box.top - upper.box.bottom;
-  const double shared = std::min(upper.box.right, lower.box.right) -
-                        std::max(upper.box.left, lower.box.left);
+  const double shared =
+      std::min(upper.box.right, lower.box.right) - std::max(upper.box.left, lower.box.left);
   return gap < kStacked * upper.size && shared > -kHeadsApart / 4;
 }
 
@@ -126,9 +126,8 @@ std::vector<HeadRun> HeadRunsOf(const std::vector<TextLine>& lines) {
   std::vector<HeadRun> all;
   for (const TextLine& line : lines) {
     for (const HeadRun& run : RunsOf(line)) {
-      const auto over = std::find_if(all.rbegin(), all.rend(), [&run](const HeadRun& upper) {
-        return Stacked(upper, run);
-      });
+      const auto over = std::find_if(all.rbegin(), all.rend(),
+                                     [&run](const HeadRun& upper) { return Stacked(upper, run); });
       if (over == all.rend()) {
         all.push_back(run);
         continue;

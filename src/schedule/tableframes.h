@@ -6,8 +6,8 @@
 
 namespace tamo {
 
-// Where the ruling of a sheet may be a table's: boxes of rules of the same length that lie over each
-// other, the smallest first; then those of rules beside each other.
+// Where the ruling of a sheet may be a table's: boxes of rules of the same length that lie over
+// each other, the smallest first; then those of rules beside each other.
 std::vector<PageBox> RuledFrames(const SheetDrawing& drawing);
 
 // Where tables without ruling may stand: around lines of words that are usual heads, down to where

@@ -56,20 +56,21 @@ class Spanner {
     const double left = columns_.Left(head.first);
     const double right = columns_.Right(head.last);
     const bool whole = head.first == 0 && head.last == columns_.Count() - 1;
-    return !whole && std::none_of(heads_.phrases.begin(), heads_.phrases.end(),
-                                  [&](const Phrase& other) {
-      return &other != &phrase && other.MidX() > left && other.MidX() < right &&
-             std::abs(other.MidY() - phrase.MidY()) < 0.5 * phrase.size;
-    }) && std::none_of(heads_.turned.begin(), heads_.turned.end(), [&](const Phrase& other) {
-      return &other != &phrase && other.MidX() > left && other.MidX() < right &&
-             other.box.top < phrase.MidY() && other.box.bottom > phrase.MidY();
-    });
+    return !whole &&
+           std::none_of(heads_.phrases.begin(), heads_.phrases.end(),
+                        [&](const Phrase& other) {
+                          return &other != &phrase && other.MidX() > left && other.MidX() < right &&
+                                 std::abs(other.MidY() - phrase.MidY()) < 0.5 * phrase.size;
+                        }) &&
+           std::none_of(heads_.turned.begin(), heads_.turned.end(), [&](const Phrase& other) {
+             return &other != &phrase && other.MidX() > left && other.MidX() < right &&
+                    other.box.top < phrase.MidY() && other.box.bottom > phrase.MidY();
+           });
   }
 
   bool IsLeaf(const Phrase& phrase) const {
-    return std::any_of(leaves_.begin(), leaves_.end(), [&phrase](const Phrase& leaf) {
-      return leaf.words == phrase.words;
-    });
+    return std::any_of(leaves_.begin(), leaves_.end(),
+                       [&phrase](const Phrase& leaf) { return leaf.words == phrase.words; });
   }
 
   static SpanningHead At(SpanningHead head, int column) {
@@ -165,8 +166,8 @@ bool OneCell(const SheetDrawing& drawing, const SpanningHead& upper, const Spann
   const Phrase& b = *lower.phrase;
   if (b.base - a.base > 1.9 * std::max(a.size, b.size)) return false;
   return std::none_of(drawing.rules.begin(), drawing.rules.end(), [&](const Rule& rule) {
-    return rule.along && rule.at > a.base && rule.at < b.box.top + 1 &&
-           rule.from < b.MidX() && rule.to > b.MidX();
+    return rule.along && rule.at > a.base && rule.at < b.box.top + 1 && rule.from < b.MidX() &&
+           rule.to > b.MidX();
   });
 }
 

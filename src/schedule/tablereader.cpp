@@ -15,12 +15,13 @@ namespace tamo {
 namespace {
 
 constexpr double kCrosses = 0.7;  // of the width: a rule that ends a row
+constexpr double kWhole = 0.97;   // of the width: a rule from side to side
 
-// The rules from side to side that cross nearly all of a table.
-std::vector<double> AcrossOf(const SheetDrawing& drawing, const PageBox& frame) {
+// The rules from side to side that cross at least a part of a table's width.
+std::vector<double> AcrossOf(const SheetDrawing& drawing, const PageBox& frame, double part) {
   std::vector<double> across;
   for (const RuleLevel& level : LevelsOf(drawing.rules, true, frame.left, frame.right)) {
-    if (level.covered >= kCrosses * frame.Width()) across.push_back(level.at);
+    if (level.covered >= part * frame.Width()) across.push_back(level.at);
   }
   return across;
 }
@@ -31,11 +32,11 @@ class TableReader {
       : drawing_(std::move(drawing)), frame_(frame) {
     DropStrikes(drawing_);
     lines_ = LinesOf(drawing_);
-    across_ = AcrossOf(drawing_, frame_);
+    across_ = AcrossOf(drawing_, frame_, kCrosses);
   }
 
   std::vector<ScheduleTable> Read() {
-    heads_ = FindHeads(drawing_, lines_, across_);
+    heads_ = FindHeads(drawing_, lines_, across_, AcrossOf(drawing_, frame_, kWhole));
     if (!heads_.found) return {};
     columns_ = ColumnsOf(drawing_, lines_, heads_, frame_);
     if (columns_.Count() < 2) return {};
@@ -93,7 +94,8 @@ class TableReader {
 
   // The column whose texts begin the rows: the numbers, else the first with text in most rows.
   static int KeyOf(const ScheduleTable& table) {
-    for (const ColumnRole role : {ColumnRole::Number, ColumnRole::NumberAndName, ColumnRole::Name}) {
+    for (const ColumnRole role :
+         {ColumnRole::Number, ColumnRole::NumberAndName, ColumnRole::Name}) {
       if (table.ColumnOf(role) >= 0) return table.ColumnOf(role);
     }
     return 0;
@@ -120,8 +122,8 @@ class TableReader {
         table.groups.push_back({int(table.rows.size()), places[i].text});
         continue;
       }
-      table.rows.push_back({CellsOf(words, int(i), last - first + 1), places[i].top,
-                            places[i].bottom});
+      table.rows.push_back(
+          {CellsOf(words, int(i), last - first + 1), places[i].top, places[i].bottom});
     }
     ShareMergedCells(table, drawing_, across_);
   }
@@ -134,7 +136,8 @@ class TableReader {
       const int column = columns_.ColumnAt(word.MidX());
       if (column < first || column > last) continue;
       for (size_t i = 0; i < places.size(); ++i) {
-        if (places[i].group || word.MidY() < places[i].top || word.MidY() > places[i].bottom) continue;
+        if (places[i].group || word.MidY() < places[i].top || word.MidY() > places[i].bottom)
+          continue;
         words.push_back({&word, column - first, column - first, int(i), {}});
         break;
       }

@@ -43,9 +43,8 @@ class RowMaker {
       const double y = words_[i].word->MidY();
       if (y > top && y <= bottom) order.push_back(i);
     }
-    std::sort(order.begin(), order.end(), [this](size_t a, size_t b) {
-      return words_[a].word->base < words_[b].word->base;
-    });
+    std::sort(order.begin(), order.end(),
+              [this](size_t a, size_t b) { return words_[a].word->base < words_[b].word->base; });
     Lines lines;
     for (const size_t index : order) {
       const Word& word = *words_[index].word;
@@ -57,7 +56,9 @@ class RowMaker {
     return lines;
   }
 
-  bool InKey(size_t index) const { return words_[index].first <= key_ && words_[index].last >= key_; }
+  bool InKey(size_t index) const {
+    return words_[index].first <= key_ && words_[index].last >= key_;
+  }
 
   QString KeyText(const BandLine& line) const {
     QStringList parts;
@@ -133,12 +134,22 @@ class RowMaker {
                                    [this](const BandLine& line) { return IsHeadsAgain(line); });
     if (heads && lines.size() <= 4) return;
     if (lines.size() == 1 && IsGroup(lines.front())) return AddGroup(lines.front());
+    TakeLeadingGroups(lines);
     std::vector<size_t> anchors;
     for (size_t i = 0; i < lines.size(); ++i) {
       if (IsAnchor(lines[i])) anchors.push_back(i);
     }
     if (anchors.size() < 2) return OneRow(lines, top, bottom);
     SeveralRows(lines, anchors);
+  }
+
+  // Titles over the first row of a band.
+  void TakeLeadingGroups(Lines& lines) {
+    while (lines.size() > 1 && IsGroup(lines.front()) && !IsAnchor(lines.front()) &&
+           InKey(lines.front().words.front())) {
+      AddGroup(lines.front());
+      lines.erase(lines.begin());
+    }
   }
 
   void OneRow(const Lines& lines, double top, double bottom) {
@@ -174,7 +185,8 @@ void RowMaker::SeveralRows(const Lines& lines, const std::vector<size_t>& anchor
   std::vector<int> rowOfLine(lines.size(), -1);
   for (size_t i = 0; i < lines.size(); ++i) {
     if (isAnchor(i)) {
-      rows_.push_back({lines[i].base - lines[i].size, lines[i].base + 0.2 * lines[i].size, false, {}});
+      rows_.push_back(
+          {lines[i].base - lines[i].size, lines[i].base + 0.2 * lines[i].size, false, {}});
       rowOfLine[i] = int(rows_.size()) - 1;
       Give(lines[i], rowOfLine[i], false);
     } else if (IsGroup(lines[i]) && !lines[i].words.empty() && InKey(lines[i].words.front())) {

@@ -6,9 +6,9 @@
 namespace tamo {
 namespace {
 
-constexpr double kSameLine = 0.3;      // of the size
-constexpr double kPhraseGap = 0.6;     // of the size: a wider gap is more than a blank
-constexpr double kFixedGap = 0.95;     // the same of a typewriter face
+constexpr double kSameLine = 0.3;   // of the size
+constexpr double kPhraseGap = 0.6;  // of the size: a wider gap is more than a blank
+constexpr double kFixedGap = 0.95;  // the same of a typewriter face
 
 bool OneBlank(const Word& left, const Word& right) {
   const double size = std::max(left.size, right.size);
@@ -62,9 +62,9 @@ bool Follows(const Word& before, const Word& word) {
   if (before.way != word.way || std::abs(before.base - word.base) > kSameLine * word.size) {
     return false;
   }
-  const double gap = word.way == Way::Up ? before.box.top - word.box.bottom
-                                         : word.box.top - before.box.bottom;
-  return gap > -0.5 * word.size && gap <= kPhraseGap * word.size;
+  const double gap =
+      word.way == Way::Up ? before.box.top - word.box.bottom : word.box.top - before.box.bottom;
+  return gap > -0.5 * word.size && gap <= (word.fixed ? kFixedGap : kPhraseGap) * word.size;
 }
 
 }  // namespace
@@ -91,8 +91,8 @@ std::vector<TextLine> LinesOf(const SheetDrawing& drawing) {
            word(order[end]).base - first <= kSameLine * word(order[end]).size) {
       ++end;
     }
-    lines.push_back(LineOf(drawing, {order.begin() + std::ptrdiff_t(i),
-                                     order.begin() + std::ptrdiff_t(end)}));
+    lines.push_back(
+        LineOf(drawing, {order.begin() + std::ptrdiff_t(i), order.begin() + std::ptrdiff_t(end)}));
     i = end;
   }
   return lines;

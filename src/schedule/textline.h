@@ -14,6 +14,7 @@ struct Phrase {
   double base = 0;
   double size = 0;
   std::vector<int> words;  // indices into the drawing, left to right
+  bool torn = false;       // a border goes through it at a blank
 
   double MidX() const { return (box.left + box.right) / 2; }
   double MidY() const { return (box.top + box.bottom) / 2; }

@@ -168,6 +168,7 @@ void Runner::Do(const Step& step) {
     case Act::PlanKey:
     case Act::PlanScroll:
     case Act::PlanPage:
+    case Act::PlanBox:
       return DoOnPlan(step);
     default:
       return DoToControl(step);
@@ -261,6 +262,8 @@ void Runner::DoOnPlan(const Step& step) {
       return stage_.PlanKey(step.stroke);
     case Act::PlanScroll:
       return stage_.PlanScroll(step.points[0], step.points[1]);
+    case Act::PlanBox:
+      return stage_.PlanBox(point(0), point(2));
     default:
       return stage_.PlanPage(step.row);
   }

@@ -65,7 +65,8 @@ TEST(HeadRoles, LetteredWallsAreTakenInOrderAndNeverSure) {
 }
 
 TEST(HeadRoles, WhatIsNoFinishIsOther) {
-  for (const char* head : {"AREA (SF)", "DOOR", "FLOOR COLOR", "WAINSCOT HT", "BASE HEIGHT", "DEPT."}) {
+  for (const char* head :
+       {"AREA (SF)", "DOOR", "FLOOR COLOR", "WAINSCOT HT", "BASE HEIGHT", "DEPT."}) {
     EXPECT_EQ(RoleOf({QString::fromLatin1(head)}), ColumnRole::Other) << head;
   }
 }

@@ -41,7 +41,8 @@ class SheetMaker {
     PathPiece path;
     path.kind = PathPiece::Kind::Stroke;
     path.width = 0.5;
-    path.steps = {{PathStep::Kind::Move, {x1, y1}, {}, {}}, {PathStep::Kind::Line, {x2, y2}, {}, {}}};
+    path.steps = {{PathStep::Kind::Move, {x1, y1}, {}, {}},
+                  {PathStep::Kind::Line, {x2, y2}, {}, {}}};
     Keep(path);
     return *this;
   }

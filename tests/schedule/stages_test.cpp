@@ -89,8 +89,8 @@ TEST(Turning, ThereAndBack) {
 }
 
 TEST(Alignment, GapsInCommonAreBorders) {
-  const std::vector<Span> texts = {{0, 20}, {40, 90}, {0, 22}, {40, 70}, {100, 120}};
-  const std::vector<Span> heads = {{0, 15}, {40, 60}, {100, 118}};
+  const std::vector<Span> texts = {{0, 20, 0}, {40, 90, 0}, {0, 22, 0}, {40, 70, 0}, {100, 120, 0}};
+  const std::vector<Span> heads = {{0, 15, 0}, {40, 60, 0}, {100, 118, 0}};
   const std::vector<double> borders = AlignedBorders(0, 130, texts, heads, 10);
   ASSERT_EQ(borders.size(), 2u);
   EXPECT_GT(borders[0], 22);
@@ -101,7 +101,7 @@ TEST(Alignment, GapsInCommonAreBorders) {
 
 TEST(Alignment, AHeadOverNothingIsAColumn) {
   const std::vector<double> borders =
-      AlignedBorders(0, 130, {{0, 20}, {0, 22}}, {{0, 15}, {60, 80}}, 10);
+      AlignedBorders(0, 130, {{0, 20, 0}, {0, 22, 0}}, {{0, 15, 0}, {60, 80, 0}}, 10);
   EXPECT_EQ(borders.size(), 1u);
 }
 

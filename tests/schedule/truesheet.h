@@ -31,8 +31,9 @@ inline TrueSheet ReadTrueSheet(const QString& text) {
   for (const QString& line : lines) {
     if (line.startsWith(QLatin1String("box "))) {
       const QStringList parts = line.split(u' ');
-      sheet.boxes.push_back({parts[1].toInt(), {parts[2].toDouble(), parts[3].toDouble(),
-                                                parts[4].toDouble(), parts[5].toDouble()}});
+      sheet.boxes.push_back(
+          {parts[1].toInt(),
+           {parts[2].toDouble(), parts[3].toDouble(), parts[4].toDouble(), parts[5].toDouble()}});
     } else if (line.startsWith(QLatin1String("row\t"))) {
       sheet.rows.push_back(line.split(u'\t').mid(1));
     } else if (line == QLatin1String("refuse")) {
@@ -73,9 +74,10 @@ inline void ScoreRow(const QStringList& expected, const FinishRow* found, Score&
     whole = false;
     const bool marked = found != nullptr && !found->doubts[size_t(i)].empty();
     if (!marked) ++score.wrongAndSure;
-    score.faults.append(QStringLiteral("%1: \"%2\" for \"%3\"%4")
-                            .arg(i).arg(text, expected.value(i), marked ? QStringLiteral(" (marked)")
-                                                                        : QString()));
+    score.faults.append(
+        QStringLiteral("%1: \"%2\" for \"%3\"%4")
+            .arg(i)
+            .arg(text, expected.value(i), marked ? QStringLiteral(" (marked)") : QString()));
   }
   ++score.rows;
   if (whole) ++score.rightRows;
@@ -114,8 +116,8 @@ inline bool MakeSheets(const QString& folder, int count, int seed) {
   QProcess python;
   python.start(QStringLiteral("python3"),
                {QStringLiteral("-B"),
-                QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/scripts/make_schedules.py"), folder,
-                QString::number(count), QString::number(seed)});
+                QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/scripts/make_schedules.py"),
+                folder, QString::number(count), QString::number(seed)});
   return python.waitForFinished(120000) && python.exitStatus() == QProcess::NormalExit &&
          python.exitCode() == 0;
 }
