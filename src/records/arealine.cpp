@@ -1,7 +1,6 @@
 #include "records/arealine.h"
 
 #include "common/columns.h"
-#include "common/numbers.h"
 #include "records/linewidths.h"
 
 namespace tamo {
@@ -15,16 +14,20 @@ AreaLine AreaLine::Of(const QString& system, const QString& quantity, const QStr
 }
 
 QString AreaLine::System() const {
-  return TrimmedBlanks(Columns(text_, 1, 20));
+  return SystemOfLine(text_).toString();
 }
 double AreaLine::LinearQuantity() const {
-  return Value(Columns(text_, 21, 15));
+  return ValueOf(text_, kAreaQuantityMerged);
 }
 double AreaLine::SurfaceQuantity() const {
-  return Value(Columns(text_, 22, 15));
+  return ValueOf(text_, {22, 15});
 }
 QString AreaLine::UnitsStopgap() const {
   return TrimmedBlanks(From(text_, 32));
+}
+
+QStringView UnitsOfAreaLine(QStringView line) {
+  return TrimmedBlanks(ColumnsOf(line, {36, line.size()}));
 }
 
 }  // namespace tamo

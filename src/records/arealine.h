@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
+
+#include "records/linecolumns.h"
 
 namespace tamo {
 
@@ -32,5 +35,15 @@ class AreaLine {
  private:
   QString text_;
 };
+
+// The quantity of an area line at its widest. The reports are used to reading other columns of it;
+// tests hold each.
+inline constexpr ColumnRange kAreaQuantity{22, 14};
+inline constexpr ColumnRange kAreaQuantityMerged{21, 15};  // a system that is already listed
+inline constexpr ColumnRange kAreaQuantityEnd{25, 11};     // the bill
+inline constexpr ColumnRange kAreaQuantityStart{22, 11};   // the bill, order units per takeoff unit
+
+// The takeoff unit as the merged list reads it, trimmed.
+QStringView UnitsOfAreaLine(QStringView line);
 
 }  // namespace tamo

@@ -2,6 +2,7 @@
 
 #include "common/columns.h"
 #include "common/failure.h"
+#include "common/numbers.h"
 
 namespace tamo {
 
@@ -27,6 +28,10 @@ QString ItemLine::Price() const {
 }
 QString ItemLine::SearchName() const {
   return TrimmedBlanks(Columns(text_, 1, 20));
+}
+
+double ItemPrice(const QString& item) {
+  return Value(QStringView(item).last(qMin<qsizetype>(12, item.size())));
 }
 
 }  // namespace tamo

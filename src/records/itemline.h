@@ -26,4 +26,7 @@ class ItemLine {
   QString text_;
 };
 
+// The price of an item as the reports read it: the number in its last 12 characters.
+double ItemPrice(const QString& item);
+
 }  // namespace tamo

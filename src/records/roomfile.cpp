@@ -5,12 +5,18 @@
 
 namespace tamo {
 
-RoomFile RoomFileOf(const QStringList& wholeLines) {
-  RoomFile file;
-  if (wholeLines.isEmpty()) return file;
-  file.hasHeight = true;
-  file.height = wholeLines.first();
-  file.lines = wholeLines.mid(1);
+RoomScan ScanRoom(QStringView text) {
+  RoomScan room;
+  room.lines = LineScanner(text);
+  room.hasHeight = room.lines.Next(room.height);
+  return room;
+}
+
+RoomFile RoomFileOf(const QString& text) {
+  RoomScan room = ScanRoom(text);
+  RoomFile file{room.hasHeight, room.height.toString(), {}};
+  QStringView line;
+  while (room.lines.Next(line)) file.lines += line.toString();
   return file;
 }
 
@@ -25,9 +31,9 @@ QStringList RoomFileLines(const QString& height, const QStringList& lines) {
 int ReadRoomFile(Files& files, const ProjectFolder& project, const QString& room, RoomFile& file) {
   file = {};
   if (!NameRefusal(room).isEmpty()) return kFileNotFound;
-  QStringList lines;
-  const int error = files.ReadLines(project.RoomFile(room), lines);
-  file = RoomFileOf(lines);
+  QString text;
+  const int error = files.ReadText(project.RoomFile(room), text);
+  file = RoomFileOf(text);
   return error;
 }
 

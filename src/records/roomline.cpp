@@ -1,7 +1,6 @@
 #include "records/roomline.h"
 
 #include "common/columns.h"
-#include "common/numbers.h"
 #include "records/linewidths.h"
 
 namespace tamo {
@@ -19,16 +18,21 @@ RoomLine RoomLine::Of(const QString& system, const QString& finishArea, const QS
 }
 
 QString RoomLine::System() const {
-  return TrimmedBlanks(Columns(text_, 1, 20));
+  return SystemOfLine(text_).toString();
 }
 QString RoomLine::FinishArea() const {
-  return TrimmedBlanks(Columns(text_, 21, 10));
+  return TrimmedBlanks(ColumnsOf(text_, {21, 10})).toString();
 }
 double RoomLine::Quantity() const {
-  return Value(Columns(text_, 33, 14));
+  return ValueOf(text_, kRoomQuantity);
 }
 QString RoomLine::QuantityText() const {
-  return TrimmedBlanks(Columns(text_, 32, 15));
+  return TrimmedBlanks(ColumnsOf(text_, kRoomQuantityMerged)).toString();
+}
+
+QStringView UnitsOfRoomLine(QStringView line) {
+  const qsizetype from = line.size() > 46 ? 48 : 44;
+  return TrimmedBlanks(ColumnsOf(line, {from, line.size()}));
 }
 
 }  // namespace tamo

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
+
+#include "records/linecolumns.h"
 
 namespace tamo {
 
@@ -37,5 +40,16 @@ class RoomLine {
  private:
   QString text_;
 };
+
+// The quantity of a room line as it is written. The reports are used to reading other columns of
+// it; tests hold each.
+inline constexpr ColumnRange kRoomQuantity{33, 14};
+inline constexpr ColumnRange kRoomQuantityMerged{32, 15};  // a system that is already listed
+inline constexpr ColumnRange kRoomQuantityStart{33, 10};   // copies; a material new on the bill
+inline constexpr ColumnRange kRoomQuantityEnd{37, 10};     // a material already on the bill
+
+// The takeoff unit as the merged list reads it: behind column 47, or behind column 43 of a line
+// that ends before, trimmed.
+QStringView UnitsOfRoomLine(QStringView line);
 
 }  // namespace tamo

@@ -1,6 +1,7 @@
 #include "records/systemfile.h"
 
 #include "common/textlines.h"
+#include "records/linescanner.h"
 #include "records/materialblock.h"
 
 namespace tamo {
@@ -13,17 +14,34 @@ constexpr char kLineEnd[] = "\r\n";
 
 SystemFile ReadSystemFile(const QString& text) {
   SystemFile system;
-  LineReader lines(WholeLines(text));
-  lines.Read(system.description);
-  lines.Read(system.units);
-  lines.Read(system.unitPrice);
-  lines.Read(system.lineColor);
-  QString line;
-  while (lines.Read(line) && line != QLatin1String(kEndMark))
-    system.notes += line + QLatin1String(kLineEnd);
-  lines.Skip(2);
-  while (lines.Read(line)) system.blocks += line;
+  LineScanner lines(text);
+  QStringView line;
+  for (QString* field :
+       {&system.description, &system.units, &system.unitPrice, &system.lineColor}) {
+    if (!lines.Next(line)) break;
+    *field = line.toString();
+    ++system.reached;
+  }
+  while (lines.Next(line) && line != QLatin1String(kEndMark))
+    system.notes.append(line).append(QLatin1String(kLineEnd));
+  lines.Next(line);
+  lines.Next(line);
+  while (lines.Next(line)) system.blocks += line.toString();
   return system;
+}
+
+int ReadSystemFile(Files& files, const QString& path, SystemFile& system) {
+  QString text;
+  const int error = files.ReadText(path, text);
+  system = ReadSystemFile(text);
+  return error;
+}
+
+int ReadSystemHeadDelimited(Files& files, const QString& path, SystemHead& head) {
+  QStringList fields;
+  const int error = files.ReadFields(path, fields);
+  head = {fields.value(1), fields.value(3)};
+  return error;
 }
 
 QStringList StoredBlocks(const QStringList& system) {

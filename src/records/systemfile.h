@@ -15,6 +15,7 @@ struct SystemFile {
   QString lineColor;  // nine digits, "" or "NoColor"
   QString notes;      // lines that end in CR LF
   QStringList blocks;
+  int reached = 0;  // of the first four, how many the file had; they were empty otherwise
 };
 
 // The lines of a file: name, unit, price, colour, the notes up to the end mark (one character of
@@ -24,6 +25,18 @@ struct SystemFile {
 // Each note line comes with its CR LF, so notes grow by one empty line with each save and load. A
 // test holds it.
 SystemFile ReadSystemFile(const QString& text);
+
+// The system's file at `path`. Error numbers as Files has them; `system` is empty when there is
+// nothing to read.
+int ReadSystemFile(Files& files, const QString& path, SystemFile& system);
+
+// What a takeoff line needs of a system, read delimited: a comma in the name or the unit shifts
+// what follows. Empty when there is nothing to read.
+struct SystemHead {
+  QString units;
+  QString lineColor;
+};
+int ReadSystemHeadDelimited(Files& files, const QString& path, SystemHead& head);
 
 // The text that is written: only blocks with a material, each with three empty spare rows.
 QString SystemFileText(const SystemFile& system);

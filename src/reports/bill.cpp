@@ -3,9 +3,11 @@
 #include "common/columns.h"
 #include "common/failure.h"
 #include "common/numbers.h"
+#include "records/arealine.h"
+#include "records/roomline.h"
 #include "reports/linequantity.h"
-#include "reports/projectfiles.h"
 #include "reports/rollup.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 namespace {
@@ -26,11 +28,11 @@ struct BillQuantity {
 
   BillQuantity(SheetKind sheet, QStringView line) : kind(sheet), whole(WholeQuantity(sheet, line)) {
     if (sheet == SheetKind::Room) {
-      first = firstOpu = QuantityAt(line, 33, 10);
-      found = QuantityAt(line, 37, 10);
+      first = firstOpu = ValueOf(line, kRoomQuantityStart);
+      found = ValueOf(line, kRoomQuantityEnd);
     } else {
-      first = found = QuantityAt(line, 25, 11);
-      firstOpu = QuantityAt(line, 22, 11);
+      first = found = ValueOf(line, kAreaQuantityEnd);
+      firstOpu = ValueOf(line, kAreaQuantityStart);
     }
   }
 

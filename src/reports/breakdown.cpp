@@ -2,9 +2,12 @@
 
 #include "common/columns.h"
 #include "common/numbers.h"
+#include "records/adjustmentfile.h"
+#include "records/itemline.h"
+#include "records/itemsfile.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
-#include "reports/projectfiles.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 
@@ -12,8 +15,8 @@ BreakFigures MakeBreak(const ReportSource& source, const Markups& markups,
                        QString& adjustmentText) {
   BreakFigures figures;
   QStringList items;
-  LoadoiList(source, items);
-  LoadAdj(source, adjustmentText);
+  ReadItemLines(source.files, source.project, items);
+  ReadAdjustment(source.files, source.project, adjustmentText);
   const std::vector<MergedRow> rows = Calculate(source);
   if (rows.empty()) return figures;
 

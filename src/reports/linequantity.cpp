@@ -1,16 +1,16 @@
 #include "reports/linequantity.h"
 
-#include "common/numbers.h"
+#include "records/arealine.h"
+#include "records/roomline.h"
 
 namespace tamo {
 
 double QuantityAt(QStringView line, qsizetype from, qsizetype width) {
-  if (from > line.size()) return 0;
-  return Value(line.sliced(from - 1, qMin(width, line.size() - from + 1)));
+  return ValueOf(line, {from, width});
 }
 
 double WholeQuantity(SheetKind kind, QStringView line) {
-  return QuantityAt(line, kind == SheetKind::Room ? 33 : 22, 14);
+  return ValueOf(line, kind == SheetKind::Room ? kRoomQuantity : kAreaQuantity);
 }
 
 }  // namespace tamo

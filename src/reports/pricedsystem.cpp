@@ -1,25 +1,24 @@
 #include "reports/pricedsystem.h"
 
-#include "common/columns.h"
+#include <utility>
+
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/paths.h"
-#include "common/textlines.h"
+#include "records/materialblock.h"
 
 namespace tamo {
 namespace {
 
-constexpr qsizetype kBlockLines = 12;
-
 OrderTag OrderTagOf(const QString& text) {
-  if (text == QLatin1String("upo")) return OrderTag::Upo;
-  if (text == QLatin1String("opu")) return OrderTag::Opu;
+  if (text == QLatin1String(kUpo)) return OrderTag::Upo;
+  if (text == QLatin1String(kOpu)) return OrderTag::Opu;
   return OrderTag::None;
 }
 
 LaborTag LaborTagOf(const QString& text) {
-  if (text == QLatin1String("upm")) return LaborTag::Upm;
-  if (text == QLatin1String("mpu")) return LaborTag::Mpu;
+  if (text == QLatin1String(kUpm)) return LaborTag::Upm;
+  if (text == QLatin1String(kMpu)) return LaborTag::Mpu;
   return LaborTag::None;
 }
 
@@ -27,18 +26,18 @@ LaborTag LaborTagOf(const QString& text) {
 
 std::vector<PricedBlock> PricedBlocks(const QStringList& lines) {
   std::vector<PricedBlock> blocks;
-  for (qsizetype at = 0; at < lines.size(); at += kBlockLines) {
-    const auto line = [&](qsizetype offset) { return lines.value(at + offset); };
+  for (qsizetype at = 0; at < lines.size(); at += kBlockRows) {
+    const MaterialBlock texts = MaterialBlock::At(lines, at);
     PricedBlock block;
-    block.material = line(0);
-    block.orderUnit = line(1);
-    block.price = Value(line(2));
-    block.ratio = Value(line(3));
-    block.orderTag = OrderTagOf(line(4));
-    block.manhourRatio = Value(line(5));
-    block.laborTag = LaborTagOf(line(6));
-    block.waste = Value(line(7));
-    block.wage = Value(line(8));
+    block.material = texts.material;
+    block.orderUnit = texts.orderUnits;
+    block.price = Value(texts.price);
+    block.ratio = Value(texts.upo);
+    block.orderTag = OrderTagOf(texts.upoTag);
+    block.manhourRatio = Value(texts.mnhrPO);
+    block.laborTag = LaborTagOf(texts.mnhrTag);
+    block.waste = Value(texts.waste);
+    block.wage = Value(texts.wageRate);
     blocks.push_back(block);
   }
   return blocks;
@@ -47,22 +46,10 @@ std::vector<PricedBlock> PricedBlocks(const QStringList& lines) {
 int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& system) {
   system = PricedSystem();
   if (!NameRefusal(name).isEmpty()) return kFileNotFound;
-  QStringList lines;
-  const int error = source.files.ReadLines(
-      source.folder + QStringLiteral("Systems") + source.separator + name + QStringLiteral(".sys"),
-      lines);
+  const int error = ReadSystemFile(source.files, source.project.SystemFile(name), system.file);
   if (error != kNoError) return error;
   system.found = true;
-  LineReader reader(lines);
-  for (QString* scalar : {&system.name, &system.units, &system.unitPrice, &system.lineColor}) {
-    if (reader.Read(*scalar)) ++system.scalars;
-  }
-  QString line;
-  while (reader.Read(line) && line != QLatin1String("\x01")) system.notes += line + "\r\n";
-  reader.Skip(2);
-  QStringList materials;
-  while (reader.Read(line)) materials += line;
-  system.blocks = PricedBlocks(materials);
+  system.blocks = PricedBlocks(std::exchange(system.file.blocks, {}));
   return kNoError;
 }
 
@@ -72,7 +59,7 @@ void SystemShelf::Load(QStringView name) {
     at = index_.Add(name);
     auto entry = std::make_unique<Entry>();
     LoadSystem(source_, index_.At(at), entry->system);
-    entry->unitPrice = Value(entry->system.unitPrice);
+    entry->unitPrice = Value(entry->system.file.unitPrice);
     for (const PricedBlock& block : entry->system.blocks)
       entry->readsZero = entry->readsZero || block.ReadsZero();
     entries_.push_back(std::move(entry));
@@ -84,15 +71,14 @@ void SystemShelf::Load(QStringView name) {
   readsZero_ = entry.readsZero;
   blocks_ = &entry.system.blocks;
   if (!found_) return;
-  if (entry.system.scalars > 0) name_ = &entry.system.name;
-  if (entry.system.scalars > 1) units_ = &entry.system.units;
-  if (entry.system.scalars > 2) {
-    unitPriceText_ = &entry.system.unitPrice;
+  const SystemFile& file = entry.system.file;
+  if (file.reached > 0) name_ = &file.description;
+  if (file.reached > 1) units_ = &file.units;
+  if (file.reached > 2) {
+    unitPriceText_ = &file.unitPrice;
     unitPrice_ = entry.unitPrice;
   }
-  if (entry.system.scalars > 3 && source_.lineColor != nullptr)
-    *source_.lineColor = entry.system.lineColor;
-  notes_ = &entry.system.notes;
+  notes_ = &file.notes;
 }
 
 }  // namespace tamo

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "records/systemfile.h"
 #include "reports/namerows.h"
 #include "reports/reportsource.h"
 
@@ -38,12 +39,7 @@ std::vector<PricedBlock> PricedBlocks(const QStringList& lines);
 
 // A system's file in the project, as the reports read it.
 struct PricedSystem {
-  QString name;
-  QString units;
-  QString unitPrice;
-  QString lineColor;
-  QString notes;       // a line end behind each line
-  int scalars = 0;     // how many of name, units, unit price and colour the file held
+  SystemFile file;
   bool found = false;  // there is such a file
   std::vector<PricedBlock> blocks;
 };

@@ -2,10 +2,13 @@
 
 #include "common/columns.h"
 #include "common/numbers.h"
+#include "records/adjustmentfile.h"
+#include "records/itemline.h"
+#include "records/itemsfile.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
-#include "reports/projectfiles.h"
 #include "reports/rollup.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 namespace {
@@ -163,8 +166,8 @@ class RecapSheet {
 Report MinimalRecapSheet(const ReportSource& source, const Markups& markups, bool detailed,
                          QString& adjustment) {
   QStringList items;
-  LoadoiList(source, items);
-  LoadAdj(source, adjustment);
+  ReadItemLines(source.files, source.project, items);
+  ReadAdjustment(source.files, source.project, adjustment);
   RecapSheet sheet(source, markups, detailed);
   ForEachRow(source, Calculate(source), [&](const MergedRow& row) { sheet.Row(row); });
   sheet.Totals(items, adjustment);

@@ -1,7 +1,7 @@
 #include "common/failure.h"
 #include "common/numbers.h"
+#include "records/managerfile.h"
 #include "reports/printpages.h"
-#include "reports/projectinformation.h"
 #include "reports/reportsform.h"
 
 // What is done with a report that stands: printing, copying, ticking, refreshing, leaving.
@@ -37,8 +37,8 @@ void ReportsForm::CopyReport() {
 
 void ReportsForm::WriteProjectFile() {
   const OrderedList& list = Reporter.Empty() ? Reporter1 : Reporter;
-  tamo::MakeProjectFile(kit_.files, kit_.shared.DataPath, kit_.shared.JobID, kit_.shared.JobName,
-                        list.SharedRows());
+  WriteManagerFile(kit_.files, kit_.shared, kit_.shared.JobID, kit_.shared.JobName,
+                   list.SharedRows());
 }
 
 void ReportsForm::ExitReports() {

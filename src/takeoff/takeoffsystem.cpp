@@ -2,7 +2,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
-#include "records/datafolder.h"
+#include "records/systemfile.h"
 
 namespace tamo {
 namespace {
@@ -29,22 +29,22 @@ int ImportTakeoffSystem(Files& files, const SharedFields& shared, const QString&
 
 TakeoffSystem LoadTakeoffSystem(Files& files, const SharedFields& shared, const QString& name,
                                 QStringList& fetched, int& error) {
-  QStringList fields;
+  SystemHead head;
   error = kFileNotFound;
   if (NameRefusal(name).isEmpty()) {
-    error = files.ReadFields(CopyPath(shared, name), fields);
+    error = ReadSystemHeadDelimited(files, CopyPath(shared, name), head);
     if (error == kFileNotFound) {
       ImportTakeoffSystem(files, shared, name, fetched);
-      error = files.ReadFields(CopyPath(shared, name), fields);
+      error = ReadSystemHeadDelimited(files, CopyPath(shared, name), head);
     }
     // A project whose folder for systems is gone can't take a copy; the line still gets its unit.
     if (error == kPathNotFound) {
-      error = files.ReadFields(DataFolder(shared).SystemFile(name), fields);
+      error = ReadSystemHeadDelimited(files, DataFolder(shared).SystemFile(name), head);
     }
   }
   TakeoffSystem system;
-  if (error == kNoError) system.units = fields.value(1);
-  system.lineColour = error == kNoError ? fields.value(3) : QString();
+  if (error == kNoError) system.units = head.units;
+  system.lineColour = error == kNoError ? head.lineColor : QString();
   if (system.lineColour.size() != 9) system.lineColour = shared.SettingsLineColor;
   return system;
 }

@@ -7,18 +7,23 @@ namespace tamo {
 namespace {
 
 constexpr int kPatience = 50;  // milliseconds before the bar comes up
-constexpr int kFrame = 16;     // between two movements of the bar
+constexpr int kFrame = 5;      // between two looks at what waits: thrice in a frame of the screen
 
 }  // namespace
 
 bool ReportProgress::Tell(int done, int all) {
   if (!clock_.isValid()) {
     clock_.start();
-    shown_ = 0;
+    shown_ = -kFrame;  // the files' names have been read: that may have taken most of a frame
   }
   const qint64 now = clock_.elapsed();
-  if (now < kPatience || now - shown_ < kFrame) return true;
+  if (now - shown_ < kFrame) return true;
   shown_ = now;
+  if (now < kPatience) {
+    // What the user does waits for the bar, which can tell it from a key meant for it.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    return true;
+  }
   if (dialog_.isNull()) Begin(all);
   dialog_->setMaximum(all);
   dialog_->setValue(done);

@@ -38,10 +38,10 @@ void CheckLine(const QString& text) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  const QStringList lines = tamo::WholeLines(tamo::DecodedText(
-      QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size))));
-  const tamo::RoomFile room = tamo::RoomFileOf(lines);
-  Must(room.hasHeight == !lines.isEmpty());
+  const QString text = tamo::DecodedText(
+      QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+  const tamo::RoomFile room = tamo::RoomFileOf(text);
+  Must(room.hasHeight == !text.isEmpty());
   for (const QString& line : room.lines) CheckLine(line);
   tamo::FindLine(room.lines, room.height);
   try {

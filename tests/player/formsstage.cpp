@@ -151,7 +151,7 @@ void FormsStage::GoToPlan() {
 
 void FormsStage::PlanMode(int mode) {
   GoToPlan();
-  GetDesk().Dispatch([&] { played_->Viewer().PickTool(mode); });
+  GetDesk().Dispatch([&] { played_->Viewer().PickTool(static_cast<PlanTool>(mode)); });
 }
 
 void FormsStage::PlanLine(PagePoint from, PagePoint to) {

@@ -48,7 +48,7 @@ bool Looker::LookAtMachine(const QString& word, const QString& rest, QStringList
   if (word == QStringLiteral("file") && !rest.isEmpty()) {
     lines = FileLines(rest);
   } else if (word == QStringLiteral("exists") && !rest.isEmpty()) {
-    lines = {TrueOrFalse(machine_.disk.Exists(machine_.PathOf(rest)))};
+    lines = {TrueOrFalse(RealDisk().Exists(machine_.PathOf(rest)))};
   } else if (word == QStringLiteral("files") && !rest.isEmpty()) {
     lines = AllShown(Machine::Everything(machine_.PathOf(rest)));
   } else if (!rest.isEmpty()) {
@@ -68,10 +68,10 @@ bool Looker::LookAtMachine(const QString& word, const QString& rest, QStringList
 QStringList Looker::FileLines(const QString& path) {
   const QString full = machine_.PathOf(path);
   QByteArray bytes;
-  if (machine_.disk.IsFolder(full)) Fail(QStringLiteral("%1 is a folder").arg(path));
-  if (!machine_.disk.Exists(full)) Fail(QStringLiteral("there is no file %1").arg(path));
-  if (machine_.disk.Read(full, bytes) != 0)
-    Fail(QStringLiteral("the file %1 can't be read").arg(path));
+  RealDisk disk;  // past the faults of the program's disk
+  if (disk.IsFolder(full)) Fail(QStringLiteral("%1 is a folder").arg(path));
+  if (!disk.Exists(full)) Fail(QStringLiteral("there is no file %1").arg(path));
+  if (disk.Read(full, bytes) != 0) Fail(QStringLiteral("the file %1 can't be read").arg(path));
   return ShownFileLines(DecodedText(bytes));
 }
 
@@ -90,7 +90,7 @@ bool Looker::LookAtPlan(const QString& word, QString& text) {
       text = marks.join(QStringLiteral("\r\n"));
       break;
     case 1:
-      text = QString::number(viewer.Tool());
+      text = QString::number(static_cast<int>(viewer.Tool()));
       break;
     case 2:
       text = viewer.MarkColour();

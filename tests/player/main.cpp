@@ -6,7 +6,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cerrno>
@@ -16,13 +15,12 @@
 #include <memory>
 #include <new>
 
-#include "common/textlines.h"
 #include "player/formsstage.h"
 #include "player/machine.h"
 #include "player/options.h"
-#include "player/parser.h"
 #include "player/programplayed.h"
 #include "player/runner.h"
+#include "player/script.h"
 #ifdef TAMO_PLAYER_WINDOWS
 #include "player/windowsstage.h"
 #endif
@@ -35,48 +33,50 @@ constexpr unsigned kLongestStep = 120;  // seconds
 constexpr char kUsage[] =
     "tamo_scenario --program DIR --home DIR [--windows] [--clock YYYY-MM-DD] FILE...";
 
-std::unique_ptr<Stage> MakeStage(bool windows) {
+#ifdef TAMO_PLAYER_WINDOWS
+constexpr bool kHasWindows = true;
+#else
+constexpr bool kHasWindows = false;
+#endif
+
+std::unique_ptr<Stage> MakeStage([[maybe_unused]] bool windows) {
 #ifdef TAMO_PLAYER_WINDOWS
   if (windows) return MakeWindowsStage();
 #endif
-  return windows ? nullptr : std::make_unique<FormsStage>();
-}
-
-bool ReadScenario(const QString& name, QStringList& lines) {
-  QFile file(name);
-  const bool open = name == QStringLiteral("-") ? file.open(stdin, QIODevice::ReadOnly)
-                                                : file.open(QIODevice::ReadOnly);
-  if (open) lines = WholeLines(DecodedText(file.readAll()));
-  return open;
+  return std::make_unique<FormsStage>();
 }
 
 Outcome PlayFile(const Options& options, const QString& name,
-                 const std::function<void(int line)>& onStep) {
+                 const std::function<void(const Step& step)>& onStep) {
   QTextStream out(stdout);
   QTextStream err(stderr);
   QStringList lines;
-  if (!ReadScenario(name, lines)) {
+  if (!ReadScenarioLines(name, lines)) {
     err << name << ": the scenario can't be read\n";
     return Outcome::NotUnderstood;
   }
-  const std::unique_ptr<Stage> stage = MakeStage(options.windows);
-  if (stage == nullptr) {
+  if (options.windows && !kHasWindows) {
     err << "this player was built without windows\n";
     return Outcome::NotUnderstood;
   }
   Machine machine(options.program, options.home);
   machine.clock.today = options.clock;
   Runner runner(
-      machine, *stage,
+      machine, [&] { return MakeStage(options.windows); },
       [](const Platform& platform) { return std::make_unique<ProgramPlayed>(platform); }, out, err);
   runner.onStep = onStep;
-  const QString folder = name == QStringLiteral("-") ? QStringLiteral(".") : QFileInfo(name).path();
-  return runner.Play(name, folder, ParseScenario(lines));
+  return runner.Play(name, StepsOf(name, lines));
 }
 
 // What a child that breaks down leaves for its parent.
 struct LastStep {
   int line = 0;
+  char file[1024] = {};  // as the machine spells it, cut when it is longer
+
+  void Set(const Step& step) {
+    line = step.line;
+    qstrncpy(file, QFile::encodeName(step.file).constData(), sizeof file);
+  }
 };
 
 // Each scenario in a process of its own: nothing of one is left for the next, and one that brings
@@ -84,13 +84,13 @@ struct LastStep {
 Outcome PlayApart(const Options& options, const QString& name) {
   void* shared =
       ::mmap(nullptr, sizeof(LastStep), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-  if (shared == MAP_FAILED) return PlayFile(options, name, [](int) {});
+  if (shared == MAP_FAILED) return PlayFile(options, name, [](const Step&) {});
   auto* last = new (shared) LastStep;
   std::fflush(nullptr);
   const pid_t child = ::fork();
   if (child == 0) {
-    const auto outcome = static_cast<int>(PlayFile(options, name, [last](int line) {
-      last->line = line;
+    const auto outcome = static_cast<int>(PlayFile(options, name, [last](const Step& step) {
+      last->Set(step);
       ::alarm(kLongestStep);
     }));
     std::fflush(nullptr);
@@ -99,13 +99,13 @@ Outcome PlayApart(const Options& options, const QString& name) {
   int status = 0;
   while (child > 0 && ::waitpid(child, &status, 0) < 0 && errno == EINTR) {
   }
-  const int line = last->line;
+  const QString place = QStringLiteral("%1:%2").arg(QFile::decodeName(last->file)).arg(last->line);
   ::munmap(shared, sizeof(LastStep));
-  if (child < 0) return PlayFile(options, name, [](int) {});
+  if (child < 0) return PlayFile(options, name, [](const Step&) {});
   if (WIFEXITED(status) && WEXITSTATUS(status) <= static_cast<int>(Outcome::NotUnderstood))
     return static_cast<Outcome>(WEXITSTATUS(status));
   QTextStream err(stderr);
-  err << name << ':' << line << ": ";
+  err << place << ": ";
   if (WIFSIGNALED(status) && WTERMSIG(status) == SIGALRM) {
     err << "the program did not come back from this step\n";
   } else {

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "support/planstroke.h"
+
 namespace tamo::player {
 namespace {
 
@@ -59,8 +61,13 @@ constexpr Verb kVerbs[] = {
     {"remove", Act::Remove, Shape::Path},
     {"deny", Act::Deny, Shape::Path},
     {"allow", Act::Allow, Shape::Path},
+    {"hide", Act::Hide, Shape::Path},
+    {"unhide", Act::Unhide, Shape::Path},
+    {"unreadable", Act::Unreadable, Shape::Path},
+    {"readable", Act::Readable, Shape::Path},
     {"fill", Act::Fill, Shape::Nothing},
     {"unfill", Act::Unfill, Shape::Nothing},
+    {"use", Act::Use, Shape::Path},
     {"print", Act::Print, Shape::Print},
     {"expect", Act::Expect, Shape::Expect},
 };
@@ -107,7 +114,7 @@ QString ParsePlan(Step& step, QString rest) {
     step.act = verb.act;
     if (verb.numbers == 0) return WholeNumber(rest, step.row);
     if (verb.numbers < 0) {
-      return PlanStrokeFromName(rest, step.stroke)
+      return test::PlanStrokeFromName(rest, step.stroke)
                  ? QString()
                  : QStringLiteral("there is no key \"%1\" on the plan").arg(rest);
     }
@@ -212,7 +219,10 @@ QString ParseRest(Step& step, Shape shape, const QString& rest, bool block) {
 
 QString ParseLine(Step& step, bool block) {
   QString rest = step.source;
-  const QString word = TakeWord(rest);
+  QString word = TakeWord(rest);
+  step.second = word == QStringLiteral("second");
+  if (step.second) word = TakeWord(rest);
+  if (word.isEmpty() && step.second) return QStringLiteral("what does the second program do?");
   if (word.isEmpty()) return QStringLiteral("a step begins in column 1");
   for (const Verb& verb : kVerbs) {
     if (word != QLatin1String(verb.word)) continue;

@@ -78,10 +78,20 @@ TEST(Parser, RowsPlansDatesAndAnswers) {
   EXPECT_NE(Parsed("answer perhaps").error, "");
 }
 
+TEST(Parser, AStepForTheSecondProgram) {
+  const Step step = Parsed("second expect messages <<END", {"a", "END"});
+  EXPECT_TRUE(step.second);
+  EXPECT_EQ(step.act, Act::Expect);
+  EXPECT_EQ(step.block, QStringList("a"));
+  EXPECT_EQ(Parsed("second type  a ").text.toStdString(), " a ");
+  EXPECT_FALSE(Parsed("start").second);
+}
+
 TEST(Parser, WhatCannotBeUnderstood) {
-  for (const char* line : {"dance", " start", "start now", "click", "click Tamo", "click Tamo.",
-                           "menu A.B C", "close Tamo.JobName", "expect Tamo.JobName", "write a.txt",
-                           "pick OST.Dir1", "expect  = a", "remove"})
+  for (const char* line :
+       {"dance", " start", "start now", "click", "click Tamo", "click Tamo.", "menu A.B C",
+        "close Tamo.JobName", "expect Tamo.JobName", "write a.txt", "pick OST.Dir1", "expect  = a",
+        "remove", "hide", "use", "second", "second dance", "second second start"})
     EXPECT_NE(Parsed(QString::fromLatin1(line)).error, "") << line;
 }
 
@@ -119,6 +129,14 @@ TEST(Parser, EveryDocumentedStepIsKnown) {
                            "remove a b",
                            "deny @",
                            "allow @",
+                           "hide Tamo",
+                           "unhide Tamo",
+                           "unreadable Tamo/Jobs.lst",
+                           "readable Tamo/Jobs.lst",
+                           "use shared/a b.steps",
+                           "second start",
+                           "second menu A.B",
+                           "second enter",
                            "fill",
                            "unfill",
                            "print focus",

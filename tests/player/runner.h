@@ -2,66 +2,63 @@
 
 #include <QString>
 #include <QTextStream>
+#include <array>
 #include <functional>
 #include <memory>
 #include <vector>
 
-#include "player/looker.h"
 #include "player/machine.h"
-#include "player/played.h"
-#include "player/stage.h"
+#include "player/seat.h"
 #include "player/step.h"
 #include "player/trouble.h"
 
 namespace tamo::player {
 
-// Plays one scenario: hands its steps to a stage, looks, and says on `err` what did not hold.
+// Plays one scenario: hands its steps to the program that they are meant for, does what befalls
+// files and machines, looks, and says on `err` what did not hold.
+//
+// The second program has a machine of its own on the same folders. What befalls the machine (its
+// date, faults of its disk) befalls both, but for a step that names the second one.
 class Runner {
  public:
-  // `print` writes to `out`. `file` names the scenario in messages, `folder` is where it stands.
-  Runner(Machine& machine, Stage& stage, ProgramMaker maker, QTextStream& out, QTextStream& err);
+  // `print` writes to `out`.
+  Runner(Machine& machine, StageMaker stages, ProgramMaker programs, QTextStream& out,
+         QTextStream& err);
   ~Runner();
   Runner(const Runner&) = delete;
   Runner& operator=(const Runner&) = delete;
 
-  // Called before each step with its line.
-  std::function<void(int line)> onStep;
+  // Called before each step.
+  std::function<void(const Step& step)> onStep;
 
-  Outcome Play(const QString& file, const QString& folder, const std::vector<Step>& steps);
+  // `file` is the scenario: it names steps that came without a file, and FROM is sought beside it.
+  Outcome Play(const QString& file, const std::vector<Step>& steps);
 
  private:
   void Do(const Step& step);
-  void DoToControl(const Step& step);
-  void DoToRow(const Step& step);
-  void DoOnPlan(const Step& step);
   void DoToFile(const Step& step);
-  void Start();
-  void Stop();
-  void TakeDown();
-  void ClickNotice();
-  void Pick(const Step& step);
+  static void DoToMachine(const Step& step, Machine& machine);
   void CopyIn(const Step& step);
+  QString Sought(const Step& step, const QString& from) const;
   void Print(const Step& step);
   void Expect(const Step& step);
-  void Picture(const QString& rest);
-  void AfterStep();
+  void Picture(const Step& step, const QString& rest);
+  void TakeDown();
 
-  Played& Program();
-  QString Text(const Step& step) const;  // what is typed: carets and folders taken for their sense
+  Seat& SeatOf(const Step& step);
+  Seat& Front(const Step& step);  // its windows come to the front
   void Say(const Step& step, const QString& why);
 
   Machine& machine_;
-  Stage& stage_;
-  ProgramMaker maker_;
+  Machine secondMachine_;
+  StageMaker stages_;
+  ProgramMaker programs_;
   QTextStream& out_;
   QTextStream& err_;
-  std::unique_ptr<Played> program_;
-  Played* played_ = nullptr;
-  Looker looker_;
+  std::array<std::unique_ptr<Seat>, 2> seats_;  // each made when it is first wanted
+  Seat* front_ = nullptr;
   QString file_;
-  QString folder_;
   Outcome outcome_ = Outcome::Held;
-  int unanswered_ = 0;
 };
 
 }  // namespace tamo::player

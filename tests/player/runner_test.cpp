@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 
 #include "player/formsstage.h"
-#include "player/parser.h"
+#include "player/script.h"
 #include "player/toyprogram.h"
 
 using namespace tamo;
@@ -27,11 +27,14 @@ class PlayerTest : public testing::Test {
     QTextStream outStream(&out);
     QTextStream errStream(&err);
     Runner runner(
-        machine, stage,
+        machine, [] { return std::make_unique<FormsStage>(); },
         [](const Platform& platform) { return std::make_unique<ToyProgram>(platform); }, outStream,
         errStream);
-    return runner.Play(QStringLiteral("toy"), folder.path(),
-                       ParseScenario(QString::fromUtf8(scenario).split(QLatin1Char('\n'))));
+    const QString file = folder.filePath("toy");
+    const Outcome outcome =
+        runner.Play(file, StepsOf(file, QString::fromUtf8(scenario).split(QLatin1Char('\n'))));
+    err.replace(folder.path() + QLatin1Char('/'), QString());
+    return outcome;
   }
 
   void Holds(const char* scenario) {
@@ -49,7 +52,6 @@ class PlayerTest : public testing::Test {
 
   QTemporaryDir folder;
   Machine machine;
-  FormsStage stage;
   QString out;
   QString err;
 };
@@ -294,4 +296,100 @@ expect shown =)");
 TEST_F(PlayerTest, TheClockIsSet) {
   Holds("clock 2026-11-21");
   EXPECT_EQ(machine.clock.today, QDate(2026, 11, 21));
+}
+
+TEST_F(PlayerTest, WhatAUsedFileDoesNotHoldIsSaidWithItsPlace) {
+  Machine::WriteFile(folder.filePath("x/head.steps"), "start\nexpect Toy = The toy\n");
+  Fails("use x/head.steps\nprint Toy", "x/head.steps:2: expect Toy = The toy\n  used by toy:1\n");
+  EXPECT_EQ(out.toStdString(), "A toy\n");
+  Machine::WriteFile(folder.filePath("x/head.steps"), "start\ndance\n");
+  IsNotUnderstood("use x/head.steps", "x/head.steps:2: dance\n");
+  IsNotUnderstood("start\nuse toy.steps", "toy:2: use toy.steps\n");
+}
+
+TEST_F(PlayerTest, AUsedFileCopiesWhatStandsBesideItOrTheScenario) {
+  Machine::WriteFile(folder.filePath("x/head.steps"), "copy near a\ncopy far b\n");
+  Machine::WriteFile(folder.filePath("x/near"), "1\r\n");
+  Machine::WriteFile(folder.filePath("far"), "2\r\n");
+  Holds("use x/head.steps\nexpect file a = 1\nexpect file b = 2");
+}
+
+TEST_F(PlayerTest, AHiddenFileIsGoneForTheProgramAlone) {
+  Holds(R"(start
+write a/toy.txt <<END
+old
+END
+hide a
+expect file a/toy.txt = old
+hide toy.txt
+focus Toy.Name
+type A
+click Toy.Save
+expect notice contains toy.txt
+expect exists toy.txt = False
+unhide toy.txt
+click notice
+expect notice =
+expect file toy.txt <<END
+A
+END)");
+}
+
+TEST_F(PlayerTest, AnUnreadableFileCanStillBeWritten) {
+  Holds(R"(start
+unreadable toy.txt
+click Toy.Save
+expect notice =
+expect exists toy.txt = True
+readable toy.txt)");
+}
+
+TEST_F(PlayerTest, ASecondProgramHasFormsMessagesAndFaultsOfItsOwn) {
+  Holds(R"(start
+expect running = True
+second expect running = False
+second start
+answer No
+second answer Yes
+second focus Toy.Name
+second type B
+focus Toy.Name
+type A
+expect Toy.Name = A
+second expect Toy.Name = B
+second menu Toy.Ask
+expect messages =
+second expect messages contains -- Yes
+menu Toy.Ask
+expect Toy.Hint = no
+second expect Toy.Hint = yes
+second deny toy.txt
+second click Toy.Save
+second expect notice contains toy.txt
+click Toy.Save
+expect notice =
+expect file toy.txt <<END
+A
+END
+second allow toy.txt
+second click notice
+expect file toy.txt <<END
+B
+END
+deny toy.txt
+click Toy.Save
+second click Toy.Save
+expect notice contains toy.txt
+second expect notice contains toy.txt
+second stop
+expect running = True
+second expect running = False
+second start
+second expect Toy.Name =)");
+}
+
+TEST_F(PlayerTest, WhatTheSecondProgramDoesWronglyFails) {
+  Fails("start\nsecond click Toy.Save", "toy:2: second click Toy.Save\n  the program does not run");
+  Fails("start\nsecond start\nsecond menu Toy.Ask", "toy:3: second menu Toy.Ask\n  a question");
+  Fails("second start\nsecond expect Toy = x\nexpect Toy.Name = y", "toy:3: expect Toy.Name = y");
 }

@@ -191,14 +191,14 @@ QString CheckFocus(WindowKeeper& keeper, Desk& desk) {
 
 }  // namespace
 
-QString FirstDifference(WindowKeeper& keeper, Desk& desk, const QString& notice) {
+QString FirstDifference(WindowKeeper& keeper, Desk& desk, const QString& notice, bool front) {
   for (const Form* form : desk.Forms()) {
     if (form->Controls().empty() && form->Menus().empty() && !form->Visible()) continue;
     QString wrong = CheckForm(keeper, *form);
     if (wrong.isEmpty() && form->Visible()) wrong = CheckNotice(keeper, *form, notice);
     if (!wrong.isEmpty()) return wrong;
   }
-  return CheckFocus(keeper, desk);
+  return front ? CheckFocus(keeper, desk) : QString();
 }
 
 }  // namespace tamo::player

@@ -18,6 +18,7 @@ class Stage {
 
   virtual void Raise(Played& played) = 0;  // a program was made and is about to start
   virtual void Strike() = 0;               // it is about to be taken down
+  virtual void ToFront() {}                // the person turns to it from another program
 
   virtual void ChooseMenu(MenuEntry& entry) = 0;
   virtual void Focus(Control& control) = 0;
@@ -46,8 +47,9 @@ class Stage {
   virtual void PlanPage(int page) = 0;
   virtual void PlanBox(PagePoint from, PagePoint to) = 0;
 
-  // After each step: what on the screen differs from the forms, "" when nothing does.
-  virtual QString Difference() { return {}; }
+  // After each step: what on the screen differs from the forms, "" when nothing does. `front`: the
+  // program's windows are the active ones, so the focus must be where the forms say.
+  virtual QString Difference(bool /*front*/) { return {}; }
   // A PNG of a window; false when this stage has no windows.
   virtual bool SavePicture(Form& form, const QString& path) = 0;
 };

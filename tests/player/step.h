@@ -45,8 +45,13 @@ enum class Act {
   Remove,
   Deny,
   Allow,
+  Hide,
+  Unhide,
+  Unreadable,
+  Readable,
   Fill,
   Unfill,
+  Use,
   Print,
   Expect
 };
@@ -56,7 +61,10 @@ enum class Compare { Exactly, Block, Contains };
 // One line of a scenario, with the block behind it. Texts stand as they were written: carets and
 // {home} are taken for what they mean when the step is played.
 struct Step {
-  int line = 0;  // from 1
+  QString file;         // in which it stands; "" when its lines came without a file
+  QString usedBy;       // FILE:LINE of the `use` that brought it here; "" in the scenario itself
+  int line = 0;         // from 1
+  bool second = false;  // it is done at the second program
   Act act = Act::Start;
   QString source;  // the line itself
   QString error;   // why it can't be understood; "" when it can

@@ -34,9 +34,10 @@ void SayWhatMatters(QtMsgType, const QMessageLogContext&, const QString& text) {
   QTextStream(stderr) << text << '\n';
 }
 
-class WindowsStage : public Stage {
+// The application object of this process, shared by all stages.
+class Screen {
  public:
-  WindowsStage() {
+  Screen() {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && qEnvironmentVariableIsEmpty("DISPLAY") &&
         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
       qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -46,8 +47,25 @@ class WindowsStage : public Stage {
     QApplication::setQuitOnLastWindowClosed(false);
   }
 
+  static std::shared_ptr<Screen> Shared() {
+    static std::weak_ptr<Screen> shared;
+    std::shared_ptr<Screen> screen = shared.lock();
+    if (screen == nullptr) shared = screen = std::make_shared<Screen>();
+    return screen;
+  }
+
+ private:
+  int argumentCount_ = 1;
+  char name_[15] = "tamo_scenario";
+  char* arguments_[2] = {name_, nullptr};
+  std::unique_ptr<QApplication> application_;
+};
+
+class WindowsStage : public Stage {
+ public:
   void Raise(Played& played) override;
   void Strike() override;
+  void ToFront() override;
 
   void ChooseMenu(MenuEntry& entry) override;
   void Focus(Control& control) override;
@@ -76,7 +94,7 @@ class WindowsStage : public Stage {
   void PlanPage(int page) override;
   void PlanBox(PagePoint from, PagePoint to) override;
 
-  QString Difference() override;
+  QString Difference(bool front) override;
   bool SavePicture(Form& form, const QString& path) override;
 
  private:
@@ -94,10 +112,7 @@ class WindowsStage : public Stage {
   void AnswerNoPrinter();
   void GiveBackActivation();
 
-  int argumentCount_ = 1;
-  char name_[15] = "tamo_scenario";
-  char* arguments_[2] = {name_, nullptr};
-  std::unique_ptr<QApplication> application_;
+  std::shared_ptr<Screen> screen_ = Screen::Shared();
   ProgramPlayed* played_ = nullptr;
   std::unique_ptr<WindowKeeper> keeper_;
 };
@@ -112,6 +127,10 @@ void WindowsStage::Strike() {
   keeper_.reset();
   played_ = nullptr;
   Settle();
+}
+
+void WindowsStage::ToFront() {
+  if (const Form* active = GetDesk().Active()) GoTo(*active);
 }
 
 // A click on what takes the focus comes right behind the activation that it causes; the program
@@ -318,7 +337,7 @@ QWidget& WindowsStage::Plan() {
 }
 
 void WindowsStage::TakeTool(int mode) {
-  if (played_->Viewer().Tool() != mode) PlanMode(mode);
+  if (played_->Viewer().Tool() != static_cast<PlanTool>(mode)) PlanMode(mode);
 }
 
 bool WindowsStage::ClickTool(const QString& caption) {
@@ -343,12 +362,12 @@ void WindowsStage::PlanMode(int mode) {
   static const QString captions[] = {QStringLiteral("Move"), QStringLiteral("Measure"),
                                      QStringLiteral("Count")};
   if (ClickTool(captions[mode])) return;
-  GetDesk().Dispatch([&] { played_->Viewer().PickTool(mode); });
+  GetDesk().Dispatch([&] { played_->Viewer().PickTool(static_cast<PlanTool>(mode)); });
 }
 
 void WindowsStage::PlanLine(PagePoint from, PagePoint to) {
   Plan();
-  TakeTool(PdfDraw::Measuring);
+  TakeTool(static_cast<int>(PlanTool::Measuring));
   if (played_->Viewer().LineWork().active) PlanKey({tamo::PlanKey::Escape});
   PressOnPlan(from, to);
   // A press without a way is the first point of a line; the second ends it.
@@ -357,7 +376,7 @@ void WindowsStage::PlanLine(PagePoint from, PagePoint to) {
 
 void WindowsStage::PlanCircle(PagePoint at) {
   Plan();
-  TakeTool(PdfDraw::Counting);
+  TakeTool(static_cast<int>(PlanTool::Counting));
   PressOnPlan(at, at);
 }
 
@@ -417,14 +436,14 @@ void WindowsStage::GiveBackActivation() {
 
 // The windows follow the forms by themselves; only what the window system reports late gets a
 // second look.
-QString WindowsStage::Difference() {
+QString WindowsStage::Difference(bool front) {
   Settle();
-  GiveBackActivation();
-  QString found = FirstDifference(*keeper_, GetDesk(), played_->Notice());
+  if (front) GiveBackActivation();
+  QString found = FirstDifference(*keeper_, GetDesk(), played_->Notice(), front);
   if (found.isEmpty()) return found;
   QTest::qWait(kLateReport);
-  GiveBackActivation();
-  return FirstDifference(*keeper_, GetDesk(), played_->Notice());
+  if (front) GiveBackActivation();
+  return FirstDifference(*keeper_, GetDesk(), played_->Notice(), front);
 }
 
 bool WindowsStage::SavePicture(Form& form, const QString& path) {

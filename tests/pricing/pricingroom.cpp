@@ -5,12 +5,7 @@
 
 namespace tamo::test {
 
-PricingRoom::PricingRoom()
-    : data(folder.path() + QStringLiteral("/Tamo/")), platform{disk,          clock,
-                                                               messages,      printer,
-                                                               clipboard,     folder.path(),
-                                                               folder.path(), folder.path()} {
-  shared.Separator = PlatformSeparator();
+PricingRoom::PricingRoom() : data(folder.path() + QStringLiteral("/Tamo/")) {
   shared.DataPath = data;
   QDir().mkpath(data + QStringLiteral("Systems"));
   QDir().mkpath(data + QStringLiteral("Projects"));

@@ -5,7 +5,7 @@
 #include "common/failure.h"
 #include "reportbench.h"
 #include "reports/pricedsystem.h"
-#include "reports/projectfiles.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo::test {
 namespace {
@@ -119,73 +119,6 @@ TEST(Merge, SumsAreCutTo15Digits) {
   EXPECT_EQ(Rows(Calculate(project.Source())), QStringList{S("Paint|1|SF")});
 }
 
-TEST(Loaders, RoomsAreTheFirstLinesOfPairsAndAnOddLastLineIsARoom) {
-  BenchProject project;
-  project.Write(S("Rooms/Rooms.tamo"), {S("A"), S("True"), S("B"), S("True"), S("C")});
-  QStringList rooms;
-  EXPECT_EQ(LoadRooms(project.Source(), rooms), kNoError);
-  EXPECT_EQ(rooms, (QStringList{S("A"), S("B"), S("C")}));
-  EXPECT_EQ(LoadAreas(project.Source(), rooms), kFileNotFound);
-  EXPECT_TRUE(rooms.isEmpty());
-}
-
-QStringList Lines(const TakeoffLines& lines) {
-  QStringList all;
-  LineScanner scanner = lines.Scan();
-  QStringView line;
-  while (scanner.Next(line)) all += line.toString();
-  return all;
-}
-
-TEST(Loaders, TheHeightOfARoomIsDroppedAndAnAreaHasNone) {
-  BenchProject project;
-  project.Room(S("A"), {S("one"), S(""), S("two")});
-  project.Area(S("A"), {S("one, and more"), S("two")});
-  TakeoffLines lines;
-  EXPECT_EQ(LoadRoom(project.Source(), S("A"), lines), kNoError);
-  EXPECT_EQ(Lines(lines), (QStringList{S("one"), S(""), S("two")}));
-  EXPECT_EQ(LoadArea(project.Source(), S("A"), lines), kNoError);
-  EXPECT_EQ(Lines(lines), (QStringList{S("one, and more"), S("two")}));
-}
-
-TEST(Loaders, ARoomWithNothingBehindItsHeightHasNoLines) {
-  BenchProject project;
-  project.Room(S("A"), {});
-  project.disk.RemoveFile(project.folder + S("Rooms/B.rfs"));
-  TakeoffLines lines;
-  LoadRoom(project.Source(), S("A"), lines);
-  EXPECT_TRUE(Lines(lines).isEmpty());
-  project.files.SaveText(project.folder + S("Rooms/B.rfs"), S("9"));
-  LoadRoom(project.Source(), S("B"), lines);
-  EXPECT_TRUE(Lines(lines).isEmpty());
-  project.files.SaveText(project.folder + S("Rooms/B.rfs"), S("9\rone\rtwo"));
-  LoadRoom(project.Source(), S("B"), lines);
-  EXPECT_EQ(Lines(lines), (QStringList{S("one"), S("two")}));
-}
-
-TEST(Loaders, ItemsAreDelimitedFieldsAndTheirPriceTheLast12Characters) {
-  BenchProject project;
-  project.Items({S("Bond                   1000.00"), S("Crew, crane              50.25")});
-  QStringList items;
-  LoadoiList(project.Source(), items);
-  EXPECT_EQ(items, (QStringList{S("Bond                   1000.00"), S("Crew"),
-                                S("crane              50.25")}));
-  EXPECT_EQ(ItemPrice(items[0]), 1000);
-  EXPECT_EQ(ItemPrice(items[1]), 0);
-  EXPECT_EQ(ItemPrice(items[2]), 50.25);
-  EXPECT_EQ(ItemPrice({}), 0);
-}
-
-TEST(Loaders, WithoutAFileTheAdjustmentKeepsItsText) {
-  BenchProject project;
-  QString adjustment = S("125");
-  EXPECT_EQ(LoadAdj(project.Source(), adjustment), kFileNotFound);
-  EXPECT_EQ(adjustment, S("125"));
-  project.Adjust(S("-50, agreed"));
-  LoadAdj(project.Source(), adjustment);
-  EXPECT_EQ(adjustment, S("-50"));
-}
-
 TEST(Systems, AFileIsReadLineByLine) {
   BenchProject project;
   project.Write(
@@ -195,8 +128,8 @@ TEST(Systems, AFileIsReadLineByLine) {
        S("5"),    S("46.50"), S(""),     S(""),          S(""),     S("Board"), S("SHT")});
   PricedSystem system;
   ASSERT_EQ(LoadSystem(project.Source(), S("Wall"), system), kNoError);
-  EXPECT_EQ(system.units, S("SF"));
-  EXPECT_EQ(system.notes, S("note\r\n\r\n"));
+  EXPECT_EQ(system.file.units, S("SF"));
+  EXPECT_EQ(system.file.notes, S("note\r\n\r\n"));
   ASSERT_EQ(system.blocks.size(), 2u);
   EXPECT_EQ(system.blocks[0].material, S("Stud"));
   EXPECT_EQ(system.blocks[0].price, .62);
@@ -218,7 +151,7 @@ TEST(Systems, WithoutTheEndMarkTheRestIsNotes) {
   PricedSystem system;
   LoadSystem(project.Source(), S("Wall"), system);
   EXPECT_TRUE(system.blocks.empty());
-  EXPECT_EQ(system.notes, S("Stud\r\nLF\r\n1\r\n"));
+  EXPECT_EQ(system.file.notes, S("Stud\r\nLF\r\n1\r\n"));
 }
 
 TEST(Systems, WithoutAFileTheTextsOfTheSystemBeforeStay) {
@@ -233,7 +166,6 @@ TEST(Systems, WithoutAFileTheTextsOfTheSystemBeforeStay) {
   shelf.Load(u"Wall");
   EXPECT_EQ(shelf.Blocks().size(), 1u);
   shelf.Load(u"Guard");
-  EXPECT_EQ(project.lineColor, S("010020030"));
   shelf.Load(u"Gone");
   EXPECT_EQ(shelf.UnitPrice(), 38.5);
   EXPECT_EQ(shelf.Units(), S("EA"));
@@ -262,7 +194,7 @@ TEST(Systems, EachFileIsReadOnce) {
   project.System(S("Door"), S("EA"), S("5"));
   CountingDisk disk;
   Files files(disk);
-  const ReportSource source{files, project.folder, S("/"), nullptr, {}, false};
+  const ReportSource source{files, {project.folder, S("/")}, {}, false};
   SystemShelf shelf(source);
   for (int i = 0; i < 3; ++i) {
     shelf.Load(u"Wall");

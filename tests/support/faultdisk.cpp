@@ -1,6 +1,7 @@
 #include "support/faultdisk.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include "common/failure.h"
 #include "common/files.h"
@@ -18,15 +19,36 @@ void FaultDisk::FailStep(int step, int error, bool forGood) {
   steps_ = 0;
 }
 
-// The file itself, its half-made save, or anything above it may be denied.
-bool FaultDisk::Denied(const QString& path) const {
+void FaultDisk::Put(QSet<QString>& paths, const QString& path) {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  paths.insert(Clean(path));
+}
+
+void FaultDisk::Take(QSet<QString>& paths, const QString& path) {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  paths.remove(Clean(path));
+}
+
+bool FaultDisk::IsIn(const QSet<QString>& paths, const QString& path) const {
+  const std::lock_guard<std::mutex> lock(mutex_);
+  if (paths.isEmpty()) return false;
   QString clean = Clean(path);
   if (clean.endsWith(QLatin1String(kUnfinishedEnding)))
     clean.chop(static_cast<int>(sizeof kUnfinishedEnding) - 1);
-  for (const QString& denied : denied_) {
-    if (clean == denied || clean.startsWith(denied + QLatin1Char('/'))) return true;
+  for (const QString& one : paths) {
+    if (clean == one || clean.startsWith(one + QLatin1Char('/'))) return true;
   }
   return false;
+}
+
+int FaultDisk::CannotRead(const QString& path) const {
+  if (Hidden(path)) return Hidden(QFileInfo(Clean(path)).path()) ? kPathNotFound : kFileNotFound;
+  return IsIn(unreadable_, path) ? kNoAccess : kNoError;
+}
+
+int FaultDisk::CannotWrite(const QString& path) const {
+  if (Hidden(path)) return kPathNotFound;
+  return IsIn(denied_, path) ? kNoAccess : kNoError;
 }
 
 int FaultDisk::Step() {
@@ -35,14 +57,25 @@ int FaultDisk::Step() {
   return hit ? failWith_ : kNoError;
 }
 
+int FaultDisk::Read(const QString& path, QByteArray& bytes) {
+  bytes.clear();
+  if (const int error = CannotRead(path)) return error;
+  return RealDisk::Read(path, bytes);
+}
+
+int FaultDisk::OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) {
+  if (const int error = CannotRead(path)) return error;
+  return RealDisk::OpenToRead(path, reader);
+}
+
 int FaultDisk::OpenNew(const QString& path, int& handle) {
-  if (Denied(path)) return kNoAccess;
+  if (const int error = CannotWrite(path)) return error;
   if (const int error = Step()) return error;
   return RealDisk::OpenNew(path, handle);
 }
 
 int FaultDisk::OpenAtEnd(const QString& path, int& handle) {
-  if (Denied(path)) return kNoAccess;
+  if (const int error = CannotWrite(path)) return error;
   if (const int error = Step()) return error;
   return RealDisk::OpenAtEnd(path, handle);
 }
@@ -62,6 +95,7 @@ int FaultDisk::Truncate(int handle, qint64 size) {
 }
 
 int FaultDisk::Sync(int handle) {
+  if (quick) return kNoError;
   if (const int error = Step()) return error;
   return RealDisk::Sync(handle);
 }
@@ -73,37 +107,62 @@ int FaultDisk::Close(int handle) {
 }
 
 int FaultDisk::Rename(const QString& from, const QString& to) {
-  if (Denied(to)) return kNoAccess;
+  if (Hidden(from)) return CannotRead(from);
+  if (const int error = CannotWrite(to)) return error;
   if (const int error = Step()) return error;
   return RealDisk::Rename(from, to);
 }
 
 int FaultDisk::SyncFolder(const QString& folder) {
+  if (Hidden(folder)) return kPathNotFound;
+  if (quick) return kNoError;
   if (const int error = Step()) return error;
   return RealDisk::SyncFolder(folder);
 }
 
 int FaultDisk::MakeFolder(const QString& path) {
-  if (Denied(path)) return kNoAccess;
+  if (const int error = CannotWrite(path)) return error;
   if (full_ && !Exists(path)) return kDiskFull;
   if (const int error = Step()) return error;
   return RealDisk::MakeFolder(path);
 }
 
 int FaultDisk::RemoveFile(const QString& path) {
-  if (Denied(path)) return kNoAccess;
+  if (Hidden(path)) return CannotRead(path);
+  if (const int error = CannotWrite(path)) return error;
   if (const int error = Step()) return error;
   return RealDisk::RemoveFile(path);
 }
 
 int FaultDisk::RemoveFolder(const QString& path) {
-  if (Denied(path)) return kNoAccess;
+  if (Hidden(path)) return CannotRead(path);
+  if (const int error = CannotWrite(path)) return error;
   if (const int error = Step()) return error;
   return RealDisk::RemoveFolder(path);
 }
 
 bool FaultDisk::CanWrite(const QString& path) {
-  return !Denied(path) && RealDisk::CanWrite(path);
+  return CannotWrite(path) == kNoError && RealDisk::CanWrite(path);
+}
+
+bool FaultDisk::Exists(const QString& path) {
+  return !Hidden(path) && RealDisk::Exists(path);
+}
+bool FaultDisk::IsFolder(const QString& path) {
+  return !Hidden(path) && RealDisk::IsFolder(path);
+}
+bool FaultDisk::IsLink(const QString& path) {
+  return !Hidden(path) && RealDisk::IsLink(path);
+}
+qint64 FaultDisk::Size(const QString& path) {
+  return Hidden(path) ? -1 : RealDisk::Size(path);
+}
+
+QStringList FaultDisk::Names(const QString& folder) {
+  if (CannotRead(folder) != kNoError) return {};
+  QStringList names = RealDisk::Names(folder);
+  names.removeIf([&](const QString& name) { return Hidden(folder + QLatin1Char('/') + name); });
+  return names;
 }
 
 }  // namespace tamo::test

@@ -33,9 +33,9 @@ class ScreenCheck : public testing::Test {
     played = std::make_unique<ProgramPlayed>(machine.GetPlatform());
     stage->Raise(*played);
     played->Start();
-    EXPECT_EQ(stage->Difference().toStdString(), "");
+    EXPECT_EQ(stage->Difference(true).toStdString(), "");
     stage->ChooseMenu(EntryNamed(*played, "Tamo.OpenProject"));
-    EXPECT_EQ(stage->Difference().toStdString(), "");
+    EXPECT_EQ(stage->Difference(true).toStdString(), "");
   }
   ~ScreenCheck() override { stage->Strike(); }
 
@@ -54,7 +54,7 @@ class ScreenCheck : public testing::Test {
     std::abort();
   }
   void Finds(const char* what) {
-    const QString found = stage->Difference();
+    const QString found = stage->Difference(true);
     EXPECT_TRUE(found.contains(QLatin1String(what))) << found.toStdString();
   }
 
