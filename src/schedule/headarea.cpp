@@ -80,7 +80,7 @@ class Finder {
         body_ = i;
         return true;
       }
-      if (begun && heads + turnedAbove >= kFewestHeads && HeadPhrases(line) < 2 && RuledOff(line)) {
+      if (begun && heads + turnedAbove >= kFewestHeads && HeadPhrases(line) < 2 && RuledOff(i)) {
         body_ = i;
         return true;
       }
@@ -100,9 +100,16 @@ class Finder {
     return begun && heads + turnedHeads_ >= kFewestHeads;
   }
 
-  // A rule from side to side between the heads so far and a line, close to the line.
-  bool RuledOff(const TextLine& line) const {
-    return std::any_of(whole_.begin(), whole_.end(), [&](double at) {
+  // A rule from side to side between the heads so far and a line, and no more heads below it.
+  bool RuledOff(size_t index) const {
+    const TextLine& line = lines_[index];
+    for (size_t i = index + 1; i < lines_.size() && i < index + 4; ++i) {
+      if (IsHeadLine(lines_[i])) return false;
+    }
+    const bool turned = std::any_of(turned_.begin(), turned_.end(), [&](const Phrase& phrase) {
+      return IsHeadPhrase(phrase) && phrase.box.bottom > line.base;
+    });
+    return !turned && std::any_of(whole_.begin(), whole_.end(), [&](double at) {
       return at > lines_[last_].Bottom() - 1 && at < line.base - 0.3 * line.size;
     });
   }

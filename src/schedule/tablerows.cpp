@@ -53,6 +53,11 @@ class RowMaker {
       }
       lines.back().words.push_back(index);
     }
+    for (BandLine& line : lines) {
+      std::sort(line.words.begin(), line.words.end(), [this](size_t a, size_t b) {
+        return words_[a].word->box.left < words_[b].word->box.left;
+      });
+    }
     return lines;
   }
 

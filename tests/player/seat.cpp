@@ -213,7 +213,7 @@ void Seat::DoOnPlan(const Step& step) {
     case Act::PlanScroll:
       return stage_->PlanScroll(step.points[0], step.points[1]);
     case Act::PlanBox:
-      return stage_.PlanBox(point(0), point(2));
+      return stage_->PlanBox(point(0), point(2));
     default:
       return stage_->PlanPage(step.row);
   }
