@@ -92,6 +92,7 @@ class WindowsStage : public Stage {
   void PlanKey(const PlanStroke& stroke) override;
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;
+  void PlanBox(PagePoint from, PagePoint to) override;
 
   QString Difference(bool front) override;
   bool SavePicture(Form& form, const QString& path) override;
@@ -412,6 +413,12 @@ void WindowsStage::PlanScroll(double dx, double dy) {
 void WindowsStage::PlanPage(int page) {
   Plan();
   GetDesk().Dispatch([&] { played_->Viewer().TurnPage(page); });
+}
+
+// A box may reach beyond what the window shows of the sheet.
+void WindowsStage::PlanBox(PagePoint from, PagePoint to) {
+  Plan();
+  GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
 }
 
 // On a platform without a screen a menu that closes leaves no window active; a window system gives
