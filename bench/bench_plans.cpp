@@ -14,7 +14,8 @@
 #include <memory>
 
 #include "common/files.h"
-#include "plans/mupdfdraw.h"
+#include "plans/mupdfengine.h"
+#include "plans/pdfdraw.h"
 
 namespace {
 
@@ -38,7 +39,8 @@ QString PlanPath(const char* name) {
 struct Viewer {
   RealDisk disk;
   Files files{disk};
-  std::unique_ptr<MuPdfDraw> draw = std::make_unique<MuPdfDraw>(files);
+  MuPdfEngine engine;
+  std::unique_ptr<PdfDraw> draw = std::make_unique<PdfDraw>(files, engine);
 };
 
 PlanView Window(int left, int top) {

@@ -4,7 +4,9 @@
 #include <benchmark/benchmark.h>
 
 #include <QTemporaryDir>
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
 #include "common/files.h"
 #include "common/textsahead.h"
@@ -16,13 +18,16 @@ using namespace tamo;
 
 class Rooms {
  public:
-  Rooms() { bench::WriteProject(std::filesystem::path(folder_.path().toStdString()), 1000, 2); }
+  Rooms() {
+    bench::WriteProject(std::filesystem::path(folder_.path().toStdString()), 1000, 2);
+    std::this_thread::sleep_for(std::chrono::milliseconds(3200));  // so that they are remembered
+  }
 
   static Rooms& Get() {
     static Rooms rooms;
     return rooms;
   }
-  QString Path(qsizetype at) const {
+  QString Path(size_t at) const {
     return folder_.path() + QStringLiteral("/Rooms/Room %1.rfs").arg(at);
   }
   RealDisk disk;
@@ -38,12 +43,12 @@ int Work(const QString& text) {
   return digits;
 }
 
-void Read(benchmark::State& state, Files& files, qsizetype count, const ReadingPace& pace) {
+void Read(benchmark::State& state, Files& files, size_t count, const ReadingPace& pace) {
   Rooms& rooms = Rooms::Get();
   TextsAhead texts(
-      files, count, [&rooms](qsizetype at) { return rooms.Path(at); }, pace);
+      files, count, [&rooms](size_t at) { return rooms.Path(at); }, pace);
   QString text;
-  for (qsizetype i = 0; i < count; ++i) {
+  for (size_t i = 0; i < count; ++i) {
     if (texts.Next(text) != 0) state.SkipWithError("not read");
     benchmark::DoNotOptimize(Work(text));
   }
@@ -55,10 +60,10 @@ void BM_Pace(benchmark::State& state) {
   pace.lead = static_cast<size_t>(state.range(1));
   pace.glances = static_cast<int>(state.range(2));
   pace.ahead = static_cast<size_t>(state.range(3));
-  pace.fewest = state.range(1) == 0 ? state.range(0) + 1 : 1;
+  pace.fewest = state.range(1) == 0 ? static_cast<size_t>(state.range(0)) + 1 : 1;
   for (auto _ : state) {
     Files files(Rooms::Get().disk);
-    Read(state, files, static_cast<qsizetype>(state.range(0)), pace);
+    Read(state, files, static_cast<size_t>(state.range(0)), pace);
   }
 }
 void BM_PlainTexts(benchmark::State& state) {

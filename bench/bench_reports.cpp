@@ -2,12 +2,14 @@
 
 #include <QByteArray>
 #include <QTemporaryDir>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "common/disk.h"
 #include "common/files.h"
@@ -36,6 +38,8 @@ class Project {
     namespace fs = std::filesystem;
     const fs::path folder(temporary_.path().toStdString());
     bench::WriteProject(folder, rooms, materials);
+    // A bid's files were not written just now, and such are not remembered.
+    std::this_thread::sleep_for(std::chrono::milliseconds(3200));
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
       if (entry.is_regular_file()) paths_ += QString::fromStdString(entry.path().string());
     }

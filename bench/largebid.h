@@ -69,6 +69,9 @@ inline void WriteProject(const std::filesystem::path& folder, int rooms, int mat
 inline void WriteDataFolder(const std::filesystem::path& data, int rooms, int materials) {
   const std::filesystem::path project = data / "Projects/07-2611001";
   WriteProject(project, rooms, materials);
+  std::string systems;
+  for (int s = 0; s < kSystems; ++s) systems += SystemName(s) + "\r\n";
+  WriteFile(data / "Descriptions.tamo", systems);
   WriteFile(data / "Jobs.lst", "07-2611001   Large\r\n");
   WriteFile(project / "JobNFO.tamo",
             "07-2611001\r\nLarge\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n");

@@ -12,23 +12,17 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <cstdio>
-#include <ctime>
 #include <fstream>
 
 #include "largebid.h"
 #include "startedprogram.h"
+#include "threadwork.h"
 #include "windows/rowsview.h"
 
 namespace {
 
 using tamo::OrderedList;
-
-// What this thread has worked so far, in milliseconds.
-double WorkOfThread() {
-  timespec time{};
-  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
+using tamo::bench::WorkOfThread;
 
 class Watch {
  public:

@@ -6,7 +6,8 @@
 
 #include "common/memory.h"
 #include "common/paths.h"
-#include "plans/mupdfdraw.h"
+#include "plans/mupdfengine.h"
+#include "plans/pdfdraw.h"
 #include "program/program.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
@@ -40,7 +41,7 @@ class StartedProgram {
       : platform_{disk_,      clock_,        messages_, printer_,
                   clipboard_, programFolder, home,      home + QStringLiteral("/config")},
         files_(disk_),
-        viewer_(files_),
+        viewer_(files_, engine_),
         program_(platform_, viewer_),
         windows_(program_, &viewer_, home + QStringLiteral("/windows.ini")) {
     program_.Start();
@@ -56,7 +57,8 @@ class StartedProgram {
   DeskClipboard clipboard_;
   Platform platform_;
   Files files_;
-  MuPdfDraw viewer_;
+  MuPdfEngine engine_;
+  PdfDraw viewer_;
   Program program_;
   WindowKeeper windows_;
 };

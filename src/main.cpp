@@ -7,7 +7,8 @@
 
 #include "common/memory.h"
 #include "common/paths.h"
-#include "plans/mupdfdraw.h"
+#include "plans/mupdfengine.h"
+#include "plans/pdfdraw.h"
 #include "program/program.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
@@ -64,7 +65,8 @@ int main(int argc, char** argv) {
   });
 
   tamo::Files planFiles(disk);
-  tamo::MuPdfDraw viewer(planFiles);
+  tamo::MuPdfEngine engine;
+  tamo::PdfDraw viewer(planFiles, engine);
   viewer.SetPatience(kPatience);
   tamo::Program program(platform, viewer);
   tamo::WindowKeeper windows(program, &viewer,

@@ -10,8 +10,8 @@ namespace tamo {
 // below); `text` says in plain words what failed, where, and what to do. Everything done before it
 // stands.
 //
-// It is thrown wherever a rule has no answer of its own and caught at one place, Desk::Dispatch,
-// which shows the text in a message box and goes on with the next event.
+// It is thrown wherever a rule has no answer of its own. Desk::Dispatch catches it, shows the text
+// and goes on with the next event. Only a report that is stopped keeps the failure to itself.
 class RunTimeFailure : public std::runtime_error {
  public:
   RunTimeFailure(int failureNumber, const QString& failureText)

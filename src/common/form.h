@@ -12,7 +12,7 @@ namespace tamo {
 class Desk;
 
 // One window's logic object: its controls, menus and handlers. Created once, lives until the
-// program ends; shown and hidden, never rebuilt. A form knows no other form.
+// program ends; shown and hidden, never rebuilt.
 class Form {
  public:
   Form(Desk& desk, const QString& name);

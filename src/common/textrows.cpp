@@ -115,9 +115,10 @@ char* TextRows::PlaceLong(qsizetype count, bool wide, Row& row) {
 TextRows::Text TextRows::Read(qsizetype at) const {
   const Spot spot = SpotOf(static_cast<size_t>(at), kFirstBlock / sizeof(Row));
   const Row row = rows_[spot.block][spot.place];
+  const auto size = static_cast<qsizetype>(row >> 1 & kLongRow);
+  if (size == 0) return {"", 0, false};  // an empty row has no place, it may come before any block
   const char* const block = blocks_[row >> (1 + kSizeBits + kPlaceBits)].get();
-  Text text{block + (row >> (1 + kSizeBits) & ((Row(1) << kPlaceBits) - 1)),
-            static_cast<qsizetype>(row >> 1 & kLongRow), (row & 1) != 0};
+  Text text{block + (row >> (1 + kSizeBits) & ((Row(1) << kPlaceBits) - 1)), size, (row & 1) != 0};
   if (text.size == kLongRow) std::memcpy(&text.size, block, sizeof text.size);
   return text;
 }

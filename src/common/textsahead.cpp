@@ -8,12 +8,12 @@
 #include "common/failure.h"
 
 namespace tamo {
-TextsAhead::TextsAhead(Files& files, qsizetype count, std::function<QString(qsizetype)> pathOf,
+TextsAhead::TextsAhead(Files& files, size_t count, std::function<QString(size_t)> pathOf,
                        const ReadingPace& pace)
     : files_(files), pathOf_(std::move(pathOf)), pace_(pace) {
   // A save that is pending is read from memory, which belongs to the asking thread.
   if (count < pace_.fewest || !files_.PendingSaves().empty()) return;
-  slots_ = std::vector<Slot>(static_cast<size_t>(count));
+  slots_ = std::vector<Slot>(count);
   try {
     thread_ = std::thread([this] { ReadAhead(); });
   } catch (const std::system_error&) {
@@ -42,7 +42,7 @@ void TextsAhead::ReadAhead() {
     int untouched = Untouched;
     if (!slot.state.compare_exchange_strong(untouched, InWork)) continue;
     try {
-      const QString path = pathOf_(static_cast<qsizetype>(at));
+      const QString path = pathOf_(at);
       slot.error = path.isEmpty() ? kFileNotFound : files_.ReadStored(path, slot.text);
     } catch (const std::bad_alloc&) {
       slot.error = kFileOther;  // the asking thread reads it once more, and can tell the user
@@ -53,7 +53,7 @@ void TextsAhead::ReadAhead() {
 }
 
 int TextsAhead::ReadHere(size_t at, QString& text) {
-  const QString path = pathOf_(static_cast<qsizetype>(at));
+  const QString path = pathOf_(at);
   text.clear();
   return path.isEmpty() ? kFileNotFound : files_.ReadText(path, text);
 }

@@ -14,10 +14,10 @@ namespace tamo {
 // How far the thread and the one that asks go apart; BM_Pace holds each number against its
 // neighbours.
 struct ReadingPace {
-  size_t lead = 4;        // files left to the asking thread before the other one's first
-  int glances = 100;      // at a file that is being read, before the asking thread sleeps
-  size_t ahead = 64;      // most files that are read before they are asked for
-  qsizetype fewest = 24;  // files that are worth a thread
+  size_t lead = 4;     // files left to the asking thread before the other one's first
+  int glances = 100;   // at a file that is being read, before the asking thread sleeps
+  size_t ahead = 64;   // most files that are read before they are asked for
+  size_t fewest = 24;  // files that are worth a thread
 };
 
 // Reads many text files in their order, while a thread of its own reads some of them ahead: the
@@ -28,7 +28,7 @@ struct ReadingPace {
 class TextsAhead {
  public:
   // `pathOf` gives the path of each of `count` files; it is called from both threads.
-  TextsAhead(Files& files, qsizetype count, std::function<QString(qsizetype)> pathOf,
+  TextsAhead(Files& files, size_t count, std::function<QString(size_t)> pathOf,
              const ReadingPace& pace = {});
   ~TextsAhead();
   TextsAhead(const TextsAhead&) = delete;
@@ -49,7 +49,7 @@ class TextsAhead {
   int ReadHere(size_t at, QString& text);
 
   Files& files_;
-  const std::function<QString(qsizetype)> pathOf_;
+  const std::function<QString(size_t)> pathOf_;
   const ReadingPace pace_;
   std::vector<Slot> slots_;  // empty when there is no thread
   std::atomic<size_t> next_ = 0;

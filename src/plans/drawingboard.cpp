@@ -1,210 +1,54 @@
 #include "plans/drawingboard.h"
 
-#include <QRandomGenerator>
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "plans/fraction.h"
+#include "plans/scales.h"
 
 namespace tamo {
-
 namespace {
 
-template <typename Event, typename... Args>
-void Raise(const Event& event, Args&&... args) {
-  if (event) event(std::forward<Args>(args)...);
+constexpr double kCoarseStep = 9;   // points, an eighth of an inch of paper
+constexpr double kFineStep = 0.5;   // a 144th
+constexpr double kScrollStep = 36;  // half an inch
+constexpr double kClickReach = 2;   // points the hand may shake within a click
+constexpr double kEighthTurn = 0.78539816339744830962;
+
+bool Sane(PagePoint at) {
+  return std::isfinite(at.x) && std::isfinite(at.y) && std::abs(at.x) < 1e6 && std::abs(at.y) < 1e6;
 }
 
-QStringList NamesOf(const std::vector<Mark>& marks) {
-  QStringList names;
-  for (const Mark& mark : marks) names.push_back(mark.name);
-  return names;
-}
-
-bool Sane(double value) {
-  return std::isfinite(value) && std::abs(value) < 1e6;
+PagePoint Direction(PlanKey key) {
+  switch (key) {
+    case PlanKey::Left:
+      return {-1, 0};
+    case PlanKey::Right:
+      return {1, 0};
+    case PlanKey::Up:
+      return {0, -1};
+    case PlanKey::Down:
+      return {0, 1};
+    default:
+      return {0, 0};
+  }
 }
 
 }  // namespace
 
-// --- The plan on the board
-
-QString DrawingBoard::ShownFile() const {
-  const qsizetype cut =
-      std::max(path_.lastIndexOf(QLatin1Char('/')), path_.lastIndexOf(QLatin1Char('\\')));
-  return path_.mid(cut + 1);
-}
-
-void DrawingBoard::ShowPlan(const QString& path, std::vector<PageSize> sizes,
-                            std::vector<Mark> marks) {
-  BeginPlan(path);
-  FillPlan(std::move(sizes), std::move(marks));
-}
-
-void DrawingBoard::BeginPlan(const QString& path) {
-  path_ = path;
-  wantedPage_ = 1;
-  std::fill(std::begin(view_), std::end(view_), 0);
-  unitIndex_ = Inches;
+void DrawingBoard::ClearBoard() {
+  unit_ = PaperUnit::Inches;
   unitName_ = QStringLiteral("feet");
-  checkNext_ = false;
   line_ = LineState::None;
-  marks_.clear();
-  if (tool_ != NoTool) PickTool(NoTool);
+  work_ = {};
+  DropBox();
+  if (tool_ != PlanTool::None) PickTool(PlanTool::None);
 }
 
-void DrawingBoard::FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks) {
-  if (sizes.empty()) sizes.emplace_back();
-  sizes_ = std::move(sizes);
-  marks_ = std::move(marks);
-  done_.clear();
-  undone_.clear();
-  saved_ = NamesOf(marks_);
-  lastNumber_ = 0;
-  for (const Mark& mark : marks_) lastNumber_ = std::max(lastNumber_, MarkNumber(mark.name));
-  page_ = std::clamp(wantedPage_, 1, PageCount());
-  const PageSize size = SizeOfPage(page_);
+void DrawingBoard::CentreCrossHair() {
+  const PageSize size = SizeOfPage(Page());
   crossHair_ = {size.width / 2, size.height / 2};
-  Raise(onPageChanged);
-  ViewChanged();
-  Repaint();
-}
-
-void DrawingBoard::MarkSaved(const QString& path) {
-  path_ = path;
-  saved_ = NamesOf(marks_);
-}
-
-bool DrawingBoard::HasUnsavedMarks() const {
-  return saved_ != NamesOf(marks_);
-}
-
-QString DrawingBoard::NextName() {
-  return MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-}
-
-void DrawingBoard::SetSizeOfPage(int page, PageSize size) {
-  if (page >= 1 && page <= PageCount()) sizes_[static_cast<size_t>(page) - 1] = size;
-}
-
-// --- Pages, zoom, view
-
-void DrawingBoard::SetPage(int page) {
-  wantedPage_ = page;
-  const int next = std::clamp(page, 1, PageCount());
-  if (next != page_) DropLine();
-  page_ = next;
-  Raise(onPageChanged);
-  ViewChanged();
-}
-
-PageSize DrawingBoard::SizeOfPage(int page) const {
-  if (page < 1 || page > PageCount()) return PageSize();
-  return sizes_[static_cast<size_t>(page) - 1];
-}
-
-void DrawingBoard::SetZoom(int perCent) {
-  zoom_ = std::clamp(perCent, 5, 1600);
-  ViewChanged();
-}
-
-void DrawingBoard::SetViewValue(int index, int value) {
-  if (index < Horizontal || index > Rotation) return;
-  view_[index] = value;
-  ViewChanged();
-}
-
-int DrawingBoard::ViewValue(int index) const {
-  return index < Horizontal || index > Rotation ? 0 : view_[index];
-}
-
-void DrawingBoard::ScrollBy(double dx, double dy) {
-  if (!Sane(dx) || !Sane(dy)) return;
-  PageSize size = SizeOfPage(page_);
-  if (static_cast<int>(std::floor(view_[Rotation] / 90.0 + 0.5)) % 2 != 0)
-    std::swap(size.width, size.height);
-  const auto moved = [](int from, double by, double most) {
-    const double last = std::max(0.0, std::floor(most));
-    const double start = std::clamp(static_cast<double>(from), 0.0, last);
-    return static_cast<int>(std::clamp(std::floor(start + by + 0.5), 0.0, last));
-  };
-  const int x = moved(view_[Horizontal], dx, size.width);
-  const int y = moved(view_[Vertical], dy, size.height);
-  if (x == view_[Horizontal] && y == view_[Vertical]) return;
-  view_[Horizontal] = x;
-  view_[Vertical] = y;
-  ViewChanged();
-  Raise(onScrolled);
-}
-
-// --- Marks
-
-void DrawingBoard::SetMarkColour(const QString& colour) {
-  if (IsColourCode(colour)) colour_ = colour;
-}
-
-void DrawingBoard::SetMarkWidth(double points) {
-  if (Sane(points) && points > 0) width_ = points;
-}
-
-void DrawingBoard::SetMarkerSize(double points) {
-  if (Sane(points) && points > 0) markerSize_ = points;
-}
-
-std::vector<Mark> DrawingBoard::Marks() const {
-  return {marks_.rbegin(), marks_.rend()};
-}
-
-void DrawingBoard::Add(Mark mark) {
-  mark.name = NextName();
-  const Step step{true, marks_.size(), std::move(mark)};
-  done_.push_back(step);
-  undone_.clear();
-  Do(step, true);
-}
-
-void DrawingBoard::DeleteMark(int index) {
-  if (index < 0 || static_cast<size_t>(index) >= marks_.size()) return;
-  const size_t at = marks_.size() - 1 - static_cast<size_t>(index);
-  const Step step{false, at, marks_[at]};
-  done_.push_back(step);
-  undone_.clear();
-  Do(step, true);
-}
-
-bool DrawingBoard::Undo() {
-  if (done_.empty()) return false;
-  undone_.push_back(done_.back());
-  done_.pop_back();
-  Do(undone_.back(), false);
-  return true;
-}
-
-bool DrawingBoard::Redo() {
-  if (undone_.empty()) return false;
-  done_.push_back(undone_.back());
-  undone_.pop_back();
-  Do(done_.back(), true);
-  return true;
-}
-
-void DrawingBoard::Do(const Step& step, bool forward) {
-  const auto place = static_cast<std::ptrdiff_t>(std::min(step.at, marks_.size()));
-  const bool circle = step.mark.kind == Mark::Kind::Circle;
-  if (step.added == forward) {
-    marks_.insert(marks_.begin() + place, step.mark);
-  } else {
-    marks_.erase(marks_.begin() + place);
-  }
-  Repaint();
-  if (circle) Raise(onCircleCountChanged, CircleCount());
-}
-
-int DrawingBoard::CircleCount() const {
-  return static_cast<int>(std::count_if(marks_.begin(), marks_.end(), [](const Mark& mark) {
-    return mark.kind == Mark::Kind::Circle;
-  }));
 }
 
 // --- Measuring
@@ -213,50 +57,235 @@ double DrawingBoard::EvaluateFraction(const QString& text) const {
   return FractionValue(text);
 }
 
-void DrawingBoard::SetUnitIndex(int index) {
-  if (index >= Inches && index <= Millimetres) unitIndex_ = index;
+void DrawingBoard::SetUnitName(const QString& name) {
+  unitName_ = name;
+  ScaleChanged();
+}
+
+void DrawingBoard::SetUnit(PaperUnit unit) {
+  unit_ = unit;
+  ScaleChanged();
+}
+
+void DrawingBoard::SetCheckNext(bool check) {
+  work_.check = check;
 }
 
 double DrawingBoard::PaperLength() const {
-  const double inches = Distance(from_, to_) / 72;
-  if (unitIndex_ == Centimetres) return inches * 2.54;
-  return unitIndex_ == Millimetres ? inches * 25.4 : inches;
+  const double inches = Distance(work_.from, work_.to) / 72;
+  if (unit_ == PaperUnit::Centimetres) return inches * 2.54;
+  return unit_ == PaperUnit::Millimetres ? inches * 25.4 : inches;
 }
 
-QString DrawingBoard::PaperUnit() const {
-  if (unitIndex_ == Centimetres) return QStringLiteral("cm");
-  return unitIndex_ == Millimetres ? QStringLiteral("mm") : QStringLiteral("inches");
-}
-
-LineInWork DrawingBoard::LineWork() const {
-  LineInWork work;
-  work.page = page_;
-  work.active = line_ != LineState::None;
-  if (!work.active) return work;
-  work.check = checkNext_;
-  work.from = from_;
-  work.to = to_;
+void DrawingBoard::ScaleChanged() {
+  if (!work_.active) return;
   double length = PaperLength();
-  QString label = PaperUnit();
+  QString label = UnitInWords(unit_);
   Raise(onLineRunning, length, label);
-  work.text = LengthText(length) + QLatin1Char(' ') + label;
-  return work;
+  work_.text = LengthText(length) + QLatin1Char(' ') + label;
+  Repaint();
 }
 
-void DrawingBoard::Print() {
-  Raise(onPrint);
+// --- The line in work
+
+// With Shift the line keeps to steps of 45 degrees: it ends at the foot of the pointer on the
+// nearest of those directions.
+PagePoint DrawingBoard::LineEnd(PagePoint at, bool shift) const {
+  if (!shift) return at;
+  const PagePoint from = work_.from;
+  const double dx = at.x - from.x;
+  const double dy = at.y - from.y;
+  const auto eighth = static_cast<int>(std::lround(std::atan2(dy, dx) / kEighthTurn));
+  if (eighth % 4 == 0) return {at.x, from.y};
+  if (eighth % 2 == 0) return {from.x, at.y};
+  const double along = (std::abs(dx) + std::abs(dy)) / 2;
+  return {from.x + std::copysign(along, dx), from.y + std::copysign(along, dy)};
 }
 
-void DrawingBoard::BringToFront() {
-  Raise(onBringToFront);
+void DrawingBoard::BeginLine(PagePoint at) {
+  line_ = LineState::Dragging;
+  work_.active = true;
+  work_.page = Page();
+  work_.from = at;
+  MoveLine(at);
 }
 
-void DrawingBoard::Repaint() {
-  Raise(onMarksChanged);
+void DrawingBoard::MoveLine(PagePoint to) {
+  work_.to = to;
+  ScaleChanged();
 }
 
-void DrawingBoard::ViewChanged() {
-  Raise(onViewChanged);
+void DrawingBoard::DropLine() {
+  if (line_ == LineState::None) return;
+  line_ = LineState::None;
+  work_.active = false;
+  Repaint();
+}
+
+void DrawingBoard::EndLine() {
+  line_ = LineState::None;
+  work_.active = false;
+  double length = PaperLength();
+  if (std::exchange(work_.check, false)) {
+    Repaint();
+    Raise(onLineChecked, length);
+    return;
+  }
+  // Made first: whoever is told may change the pen or begin another line.
+  Mark mark = NewMark(Mark::Kind::Line, {work_.from, work_.to});
+  QString label = UnitInWords(unit_);
+  Raise(onLineMeasured, length, label);
+  mark.label = LengthText(length);
+  if (!label.isEmpty()) mark.label += QLatin1Char(' ') + label;
+  AddMark(std::move(mark));
+}
+
+// --- The tools
+
+void DrawingBoard::PickTool(PlanTool tool) {
+  DropLine();
+  Raise(onBeforeModeChange);
+  tool_ = tool;
+  Raise(onModeChanged, tool);
+  Repaint();
+}
+
+void DrawingBoard::Press(PagePoint at, bool shift) {
+  if (!Sane(at)) return;
+  crossHair_ = at;
+  Raise(onMousePressed);
+  if (boxNext_) {
+    boxing_ = true;
+    boxFrom_ = at;
+    return;
+  }
+  if (tool_ == PlanTool::Counting) AddMark(NewMark(Mark::Kind::Circle, {at}));
+  if (tool_ != PlanTool::Measuring) return;
+  if (line_ == LineState::Placed) {
+    line_ = LineState::Closing;
+    MoveLine(LineEnd(at, shift));
+  } else {
+    BeginLine(at);
+  }
+}
+
+void DrawingBoard::Move(PagePoint at, bool shift) {
+  if (!Sane(at)) return;
+  crossHair_ = at;
+  if (boxing_) return StretchBox(at);
+  if (line_ != LineState::None) {
+    MoveLine(LineEnd(at, shift));
+  } else if (tool_ != PlanTool::None) {
+    Repaint();
+  }
+}
+
+void DrawingBoard::Release(PagePoint at, bool shift) {
+  if (!Sane(at)) return;
+  if (boxing_) return DrawBox(boxFrom_, at);
+  if (line_ == LineState::None) return;
+  work_.to = LineEnd(at, shift);
+  if (line_ == LineState::Dragging && Distance(work_.from, work_.to) <= kClickReach) {
+    line_ = LineState::Placed;
+    MoveLine(work_.from);
+  } else if (line_ == LineState::Placed) {
+    MoveLine(work_.to);
+  } else {
+    EndLine();
+  }
+}
+
+void DrawingBoard::DrawLine(PagePoint from, PagePoint to) {
+  if (!Sane(from) || !Sane(to)) return;
+  if (tool_ != PlanTool::Measuring) PickTool(PlanTool::Measuring);
+  DropLine();
+  Press(from, false);
+  Move(to, false);
+  if (line_ != LineState::None) EndLine();
+}
+
+void DrawingBoard::PlaceCircle(PagePoint at) {
+  if (tool_ != PlanTool::Counting) PickTool(PlanTool::Counting);
+  Press(at, false);
+  Release(at, false);
+}
+
+// --- The box around a table
+
+void DrawingBoard::StretchBox(PagePoint to) {
+  box_ = DrawnBox{Page(),
+                  {std::min(boxFrom_.x, to.x), std::min(boxFrom_.y, to.y)},
+                  {std::max(boxFrom_.x, to.x), std::max(boxFrom_.y, to.y)}};
+  Repaint();
+}
+
+void DrawingBoard::DrawBox(PagePoint from, PagePoint to) {
+  if (!Sane(from) || !Sane(to)) return;
+  boxNext_ = false;
+  boxing_ = false;
+  boxFrom_ = from;
+  StretchBox(to);
+}
+
+void DrawingBoard::DropBox() {
+  boxNext_ = false;
+  boxing_ = false;
+  box_.reset();
+}
+
+// --- The keys
+
+void DrawingBoard::MoveCrossHair(const PlanStroke& stroke) {
+  const PagePoint way = Direction(stroke.key);
+  const double step = stroke.ctrl ? kFineStep : kCoarseStep;
+  const PageSize size = SizeOfPage(Page());
+  Move({std::clamp(crossHair_.x + way.x * step, 0.0, size.width),
+        std::clamp(crossHair_.y + way.y * step, 0.0, size.height)},
+       stroke.shift);
+}
+
+void DrawingBoard::PressArrow(const PlanStroke& stroke) {
+  const PagePoint way = Direction(stroke.key);
+  if (tool_ == PlanTool::None) {
+    ScrollBy(way.x * kScrollStep, way.y * kScrollStep);
+  } else {
+    MoveCrossHair(stroke);
+  }
+}
+
+// Space is the mouse button of the keyboard: it places the first point, then the second.
+void DrawingBoard::PressSpace(bool shift) {
+  if (tool_ == PlanTool::None) return;
+  Press(crossHair_, shift);
+  if (line_ == LineState::Dragging) line_ = LineState::Placed;
+  if (line_ == LineState::Closing) EndLine();
+}
+
+void DrawingBoard::Key(const PlanStroke& stroke) {
+  switch (stroke.key) {
+    case PlanKey::Left:
+    case PlanKey::Right:
+    case PlanKey::Up:
+    case PlanKey::Down:
+      return PressArrow(stroke);
+    case PlanKey::Space:
+      return PressSpace(stroke.shift);
+    case PlanKey::Enter:
+      return Raise(onEnterKey);
+    case PlanKey::Escape:
+      work_.check = false;
+      DropBox();
+      DropLine();
+      return Repaint();
+    case PlanKey::Backspace:
+      return DropLine();  // the line has one point placed; without it there is no line
+    case PlanKey::Undo:
+      Undo();
+      return;
+    case PlanKey::Redo:
+      Redo();
+      return;
+  }
 }
 
 }  // namespace tamo

@@ -1,132 +1,102 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
-#include <vector>
+#include <optional>
 
-#include "plans/pdfdraw.h"
+#include "plans/markedsheets.h"
+#include "plans/paperunit.h"
+#include "plans/plankey.h"
 
 namespace tamo {
 
-// Everything of the viewer that needs no PDF: the tools, the marks with taking back and bringing
-// back, pages, zoom, view and units. The real viewer and the test double both stand on it, so they
-// behave alike.
-class DrawingBoard : public PdfDraw {
+// The line that is being drawn and is no mark yet.
+struct LineInWork {
+  bool active = false;
+  bool check = false;  // measures a known dimension and will leave no mark
+  int page = 1;
+  PagePoint from;
+  PagePoint to;
+  QString text;  // its running length, as the label of the mark would say it
+};
+
+// A box that was drawn around a table of the plan. It is no mark.
+struct DrawnBox {
+  int page = 1;
+  PagePoint topLeft;
+  PagePoint bottomRight;
+};
+
+// The tools: what the mouse and the keys draw and measure on the sheets. Places in points on the
+// current page.
+class DrawingBoard : public MarkedSheets {
  public:
-  QString ShownFile() const override;
-  QString ShownPath() const override { return path_; }
-  bool HasUnsavedMarks() const override;
-  QString Problem() const override { return problem_; }
+  // --- Measuring
+  // A whole number, a fraction, or a whole number, a blank and a fraction: "1 1/2" gives 1.5.
+  // Anything else gives 0.
+  double EvaluateFraction(const QString& text) const;
+  void SetUnitName(const QString& name);  // does not change the unit
+  QString UnitName() const { return unitName_; }
+  void SetUnit(PaperUnit unit);
+  PaperUnit Unit() const { return unit_; }
+  // The next line is a check: it raises onLineChecked instead of onLineMeasured and leaves no mark.
+  void SetCheckNext(bool check);
+  bool CheckNext() const { return work_.check; }
 
-  void SetPage(int page) override;
-  int Page() const override { return page_; }
-  int PageCount() const override { return static_cast<int>(sizes_.size()); }
-  PageSize SizeOfPage(int page) const override;
-  void SetZoom(int perCent) override;
-  int Zoom() const override { return zoom_; }
-  void SetViewValue(int index, int value) override;
-  int ViewValue(int index) const override;
+  // --- What the user does
+  // Picks a tool. Raises onBeforeModeChange and onModeChanged, also when it is in hand already.
+  void PickTool(PlanTool tool);
+  PlanTool Tool() const { return tool_; }
+  // Measuring: press, move with the button down and release draws a line; press and release in one
+  // place begins a line that the next press and release ends. Counting: a press places a circle.
+  void Press(PagePoint at, bool shift);
+  void Move(PagePoint at, bool shift);
+  void Release(PagePoint at, bool shift);
+  void Key(const PlanStroke& stroke);
+  void DrawLine(PagePoint from, PagePoint to);  // the whole line; takes the tool first
+  void PlaceCircle(PagePoint at);               // takes the tool first
 
-  void SetMarkColour(const QString& colour) override;
-  QString MarkColour() const override { return colour_; }
-  void SetMarkWidth(double points) override;
-  double MarkWidth() const override { return width_; }
-  void SetMarkerSize(double points) override;
-  double MarkerSize() const override { return markerSize_; }
-  std::vector<Mark> Marks() const override;
-  void DeleteMark(int index) override;
-  bool Undo() override;
-  bool Redo() override;
+  // A box around a table: the next drag draws it, whatever tool is in hand. It stays until the next
+  // box, another plan or Escape.
+  void SetBoxNext(bool box) { boxNext_ = box; }
+  bool BoxNext() const { return boxNext_; }
+  void DrawBox(PagePoint from, PagePoint to);
+  const std::optional<DrawnBox>& Box() const { return box_; }
 
-  double EvaluateFraction(const QString& text) const override;
-  void SetUnitName(const QString& name) override { unitName_ = name; }
-  QString UnitName() const override { return unitName_; }
-  void SetUnitIndex(int index) override;
-  int UnitIndex() const override { return unitIndex_; }
-  void SetCheckNext(bool check) override { checkNext_ = check; }
-  bool CheckNext() const override { return checkNext_; }
-
-  void Print() override;
-  void BringToFront() override;
-
-  void PickTool(int mode) override;
-  int Tool() const override { return tool_; }
-  void Press(PagePoint at, bool shift) override;
-  void Move(PagePoint at, bool shift) override;
-  void Release(PagePoint at, bool shift) override;
-  void Key(const PlanStroke& stroke) override;
-  void DrawLine(PagePoint from, PagePoint to) override;
-  void PlaceCircle(PagePoint at) override;
-  void ScrollBy(double dx, double dy) override;
-  void TurnPage(int page) override { SetPage(page); }
-  LineInWork LineWork() const override;
-  PagePoint CrossHair() const override { return crossHair_; }
+  // What is painted of it; nothing is worked out here.
+  const LineInWork& LineWork() const { return work_; }
+  PagePoint CrossHair() const { return crossHair_; }
+  // The scale has changed: the running length is worked out anew.
+  void ScaleChanged();
 
  protected:
-  // Puts a plan on the board, as OpenFile promises. `path` empty: the blank sheet. `marks` oldest
-  // first. Raises the events.
-  void ShowPlan(const QString& path, std::vector<PageSize> sizes, std::vector<Mark> marks);
-  // The two halves of it: a plan begins (its pages are not known yet), and its pages and marks
-  // come.
-  void BeginPlan(const QString& path);
-  // Takes the pages and marks of a plan that was slow to open; page, view and units stay as they
-  // were set meanwhile.
-  void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
-  // After a save: `path` is now the file shown.
-  void MarkSaved(const QString& path);
-  void SetProblem(const QString& text) { problem_ = text; }
-  void SetSizeOfPage(int page, PageSize size);
-
-  const std::vector<Mark>& BoardMarks() const { return marks_; }  // oldest first
+  // A plan is put on the board: inches, feet, no tool in hand, no line in work.
+  void ClearBoard();
+  void CentreCrossHair();
+  void LeavePage() override { DropLine(); }
 
  private:
-  struct Step {
-    bool added = true;  // or deleted
-    size_t at = 0;
-    Mark mark;
-  };
-
-  void Add(Mark mark);
-  void Do(const Step& step, bool forward);
   void BeginLine(PagePoint at);
+  void MoveLine(PagePoint to);
   void EndLine();
   void DropLine();
-  void AddCircle(PagePoint at);
-  void MoveCrossHair(PlanKey key, bool ctrl, bool shift);
+  void MoveCrossHair(const PlanStroke& stroke);
+  void PressArrow(const PlanStroke& stroke);
   void PressSpace(bool shift);
+  void StretchBox(PagePoint to);
+  void DropBox();
   PagePoint LineEnd(PagePoint at, bool shift) const;
   double PaperLength() const;
-  QString PaperUnit() const;
-  QString NextName();
-  int CircleCount() const;
-  void Repaint();
-  void ViewChanged();
 
-  QString path_;
-  QString problem_;
-  std::vector<PageSize> sizes_ = {PageSize()};
-  std::vector<Mark> marks_;
-  std::vector<Step> done_;
-  std::vector<Step> undone_;
-  QStringList saved_;  // the names of the marks that stand in the file
-  int lastNumber_ = 0;
-
-  int page_ = 1;
-  int wantedPage_ = 1;
-  int zoom_ = 100;
-  int view_[3] = {0, 0, 0};
-  int tool_ = NoTool;
-  QString colour_ = QStringLiteral("255000000");
-  double width_ = 0.75;
-  double markerSize_ = 13.5;
+  PlanTool tool_ = PlanTool::None;
   QString unitName_ = QStringLiteral("feet");
-  int unitIndex_ = Inches;
-  bool checkNext_ = false;
-
+  PaperUnit unit_ = PaperUnit::Inches;
   enum class LineState { None, Dragging, Placed, Closing };
   LineState line_ = LineState::None;
-  PagePoint from_;
-  PagePoint to_;
+  LineInWork work_;
+  bool boxNext_ = false;
+  bool boxing_ = false;  // it is being drawn
+  PagePoint boxFrom_;
+  std::optional<DrawnBox> box_;
   PagePoint crossHair_ = {306, 396};
 };
 

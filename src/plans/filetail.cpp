@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 namespace tamo {
 namespace {
@@ -122,12 +121,6 @@ quint32 Crc32(quint32 sum, const char* bytes, qint64 count) {
     sum = table[(sum ^ static_cast<unsigned char>(bytes[i])) & 0xff] ^ (sum >> 8);
   }
   return ~sum;
-}
-
-int MemoryReader::ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const {
-  got = std::clamp(static_cast<qint64>(bytes_.size()) - offset, qint64(0), count);
-  if (got > 0) std::memcpy(into, bytes_.constData() + offset, static_cast<size_t>(got));
-  return 0;
 }
 
 QByteArray ReadPart(const FileReader& file, qint64 offset, qint64 count) {

@@ -31,17 +31,6 @@ void SealAddition(QByteArray& addition, qint64 start, qint64 xref);
 
 quint32 Crc32(quint32 sum, const char* bytes, qint64 count);
 
-// A file in memory, for tests and for plans that stand on no disk.
-class MemoryReader : public FileReader {
- public:
-  explicit MemoryReader(QByteArray bytes) : bytes_(std::move(bytes)) {}
-  qint64 Size() const override { return bytes_.size(); }
-  int ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const override;
-
- private:
-  QByteArray bytes_;
-};
-
 // `count` bytes from `offset`; fewer at the file's end, none on a failure.
 QByteArray ReadPart(const FileReader& file, qint64 offset, qint64 count);
 

@@ -98,7 +98,7 @@ PixelRect PlanPainter::State::WantedOf(const TileKey& key, const PlanView& of) c
   return tile.Cut(Visible(of));
 }
 
-std::shared_ptr<PageList> PlanPainter::State::ListOf(int page) {
+std::shared_ptr<LoadedPage> PlanPainter::State::ListOf(int page) {
   const auto found = std::find_if(lists.begin(), lists.end(),
                                   [&](const auto& entry) { return entry.first == page; });
   if (found == lists.end()) return nullptr;
@@ -215,7 +215,7 @@ PaintJob PlanPainter::State::Next(bool reads) {
   for (const auto find : {&State::NextVisible, &State::NextPrint, &State::NextThumbnail}) {
     PaintJob job;
     if (!(this->*find)(reads, job)) continue;
-    job.stop = std::make_shared<PaintStop>();
+    job.cancel = std::make_shared<CancelFlag>();
     job.began = std::chrono::steady_clock::now();
     return job;
   }
@@ -276,12 +276,12 @@ void PlanPainter::State::KeepCoarse(const PaintJob& job, std::shared_ptr<const P
   }
 }
 
-void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<PageList> list,
+void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<LoadedPage> list,
                               const std::shared_ptr<const Picture>& picture) {
   using Kind = PaintJob::Kind;
   const bool good = picture != nullptr || list != nullptr;
   const bool overdue = std::chrono::steady_clock::now() - job.began >= kLongestRead;
-  if (!good && (!job.stop->Stopped() || overdue)) Fail(job.page);
+  if (!good && (!job.cancel->Cancelled() || overdue)) Fail(job.page);
   if (job.kind == Kind::Print) {
     job.print->picture = picture;
     job.print->done = true;
@@ -323,14 +323,14 @@ void PlanPainter::State::StopStale() {
     } else if (job->kind == PaintJob::Kind::Thumbnail || job->kind == PaintJob::Kind::ReadSmall) {
       stale = ListOf(view.page) == nullptr;  // the visible page has to be read first
     }
-    if (stale) job->stop->Stop();
+    if (stale) job->cancel->Cancel();
   }
 }
 
 void PlanPainter::State::StopOverdue() {
   const auto now = std::chrono::steady_clock::now();
   for (PaintJob* job : working) {
-    if (now - job->began >= kLongestRead) job->stop->Stop();
+    if (now - job->began >= kLongestRead) job->cancel->Cancel();
   }
 }
 

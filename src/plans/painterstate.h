@@ -12,7 +12,7 @@
 #include <mutex>
 #include <set>
 
-#include "plans/pagepainter.h"
+#include "plans/planengine.h"
 #include "plans/planpainter.h"
 
 namespace tamo {
@@ -59,16 +59,14 @@ struct PaintJob {
   int half = 0;  // of the coarse picture, which is painted as two, one by each thread
   TileKey tile;
   PaintPart part;
-  std::shared_ptr<PageList> list;
+  std::shared_ptr<LoadedPage> list;
   std::shared_ptr<PrintJob> print;
-  std::shared_ptr<PaintStop> stop;
+  std::shared_ptr<CancelFlag> cancel;
   std::chrono::steady_clock::time_point began;
 };
 
 struct PlanPainter::State {
-  std::shared_ptr<MuWorld> world;
-  std::shared_ptr<ReaderSlot> slot;
-  QByteArray password;
+  std::shared_ptr<EnginePlan> plan;
   std::vector<PageSize> sizes;
   std::function<void()> onChanged;
 
@@ -81,7 +79,7 @@ struct PlanPainter::State {
   PlanView view;
   bool looking = false;
   unsigned clock = 0;
-  std::list<std::pair<int, std::shared_ptr<PageList>>> lists;            // latest first
+  std::list<std::pair<int, std::shared_ptr<LoadedPage>>> lists;          // latest first
   std::map<std::pair<int, int>, std::shared_ptr<const Picture>> coarse;  // by page and half
   std::deque<int> coarseOrder;
   // The coarse picture of the page in sight as it was last turned.
@@ -94,7 +92,7 @@ struct PlanPainter::State {
   std::map<TileKey, Tile> tiles;
   std::map<int, std::shared_ptr<const Picture>> thumbnails;
   std::deque<int> wantedThumbnails;
-  std::map<int, std::shared_ptr<PageList>> smallLists;  // read for thumbnails, not yet painted
+  std::map<int, std::shared_ptr<LoadedPage>> smallLists;  // read for thumbnails, not yet painted
   int thumbnailSide = 160;
   std::deque<std::shared_ptr<PrintJob>> prints;
   std::set<int> failed;
@@ -103,7 +101,7 @@ struct PlanPainter::State {
 
   // The next job for a thread; `reads` tells whether it is the one that reads pages.
   PaintJob Next(bool reads);
-  void Done(const PaintJob& job, std::shared_ptr<PageList> list,
+  void Done(const PaintJob& job, std::shared_ptr<LoadedPage> list,
             const std::shared_ptr<const Picture>& picture);
   void StopStale();
   void StopOverdue();
@@ -113,7 +111,7 @@ struct PlanPainter::State {
   PixelRect Visible(const PlanView& of) const;
   std::vector<TileKey> VisibleTiles(const PlanView& of) const;
   PixelRect WantedOf(const TileKey& key, const PlanView& of) const;
-  std::shared_ptr<PageList> ListOf(int page);
+  std::shared_ptr<LoadedPage> ListOf(int page);
   // Turned and stretched for the view; no picture when it is not there yet.
   PlacedPicture PlacedCoarse(const PlanView& of, int half);
   bool CoarseIsThere(int page) const;

@@ -18,10 +18,15 @@ bool NamesAbout(const QString& path) {
   return PlanNameOf(path).compare(QLatin1String("About"), Qt::CaseInsensitive) == 0;
 }
 
-QString MarkedName(const QString& path, QString& refusal) {
-  const QString plain = PlainPlanName(PlanNameOf(path));
-  refusal = NameRefusal(plain.trimmed().isEmpty() ? QString() : MarkedPlanName(plain));
-  return refusal.isEmpty() ? MarkedPlanName(plain) : QString();
+QString MarkedCopyOf(const QString& path, const ProjectFolder& project, QString& refusal) {
+  const QString copy = MarkedPlanPath(PlanNameOf(path), project);
+  const bool named = !PlainPlanName(PlanNameOf(path)).trimmed().isEmpty();
+  refusal = NameRefusal(named ? FileNameOf(copy) : QString());
+  return refusal.isEmpty() ? copy : QString();
+}
+
+QString ProgramFile(const SharedFields& shared, const char* name) {
+  return InFolder(shared.zDir, QLatin1String(name));
 }
 
 QString WithoutDoubleMark(QString path) {

@@ -1,7 +1,6 @@
 #include "plans/planpainter.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 #include "plans/painterstate.h"
@@ -19,12 +18,8 @@ class Worker {
   Worker(std::shared_ptr<State> state, bool reads) : state_(std::move(state)), reads_(reads) {}
 
   void Loop() {
-    context_ = state_->world->NewContext();
-    if (context_ != nullptr && reads_) {
-      source_.emplace(context_, state_->world, state_->slot, state_->password);
-    }
     std::unique_lock<std::mutex> lock(state_->mutex);
-    while (context_ != nullptr && !state_->end) {
+    while (!state_->end) {
       PaintJob job = state_->Next(reads_);
       if (job.kind == PaintJob::Kind::None) {
         state_->wake.wait_for(lock, std::chrono::seconds(1));
@@ -36,7 +31,7 @@ class Worker {
       Do(job);
       lock.lock();
       std::erase(state_->working, &job);
-      state_->Done(job, std::move(list_), std::exchange(picture_, nullptr));
+      state_->Done(job, std::move(loaded_), std::exchange(picture_, nullptr));
       state_->wake.notify_all();
       state_->news.notify_all();
       const auto changed = state_->onChanged;
@@ -45,10 +40,6 @@ class Worker {
       if (changed) changed();
       lock.lock();
     }
-    lock.unlock();
-    source_.reset();
-    MuWorld::DropContext(context_);
-    lock.lock();
     --state_->running;
     state_->news.notify_all();
   }
@@ -56,30 +47,31 @@ class Worker {
  private:
   void Do(const PaintJob& job) {
     if (job.list == nullptr) {
-      list_ = source_->Read(job.page, *job.stop);
+      loaded_ = state_->plan->LoadPage(job.page, *job.cancel);
       return;
     }
+    if (job.part.width <= 0 || job.part.height <= 0) return;
     auto picture = std::make_shared<Picture>();
-    if (PaintPage(context_, *job.list, job.part, *job.stop, *picture)) picture_ = picture;
+    picture->width = job.part.width;
+    picture->height = job.part.height;
+    picture->pixels.resize(static_cast<size_t>(picture->width) *
+                           static_cast<size_t>(picture->height));
+    if (state_->plan->Paint(*job.list, job.part, *job.cancel, picture->pixels.data()))
+      picture_ = picture;
   }
 
   std::shared_ptr<State> state_;
-  bool reads_;
-  fz_context* context_ = nullptr;
-  std::optional<PageSource> source_;
-  std::shared_ptr<PageList> list_;
+  bool reads_;  // or only paints
+  std::shared_ptr<LoadedPage> loaded_;
   std::shared_ptr<const Picture> picture_;
 };
 
 }  // namespace
 
-PlanPainter::PlanPainter(std::shared_ptr<MuWorld> world, std::shared_ptr<ReaderSlot> slot,
-                         const QByteArray& password, std::vector<PageSize> sizes,
+PlanPainter::PlanPainter(std::shared_ptr<EnginePlan> plan, std::vector<PageSize> sizes,
                          std::function<void()> onChanged)
     : state_(std::make_shared<State>()) {
-  state_->world = std::move(world);
-  state_->slot = std::move(slot);
-  state_->password = password;
+  state_->plan = std::move(plan);
   state_->sizes = std::move(sizes);
   state_->onChanged = std::move(onChanged);
   state_->running = 2;
@@ -92,7 +84,7 @@ PlanPainter::~PlanPainter() {
   std::unique_lock<std::mutex> lock(state_->mutex);
   state_->end = true;
   state_->onChanged = nullptr;
-  for (PaintJob* job : state_->working) job->stop->Stop();
+  for (PaintJob* job : state_->working) job->cancel->Cancel();
   state_->wake.notify_all();
   const bool ended = state_->news.wait_for(lock, std::chrono::milliseconds(20),
                                            [this] { return state_->running == 0; });

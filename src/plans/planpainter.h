@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "plans/mark.h"
-#include "plans/muworld.h"
+#include "plans/planengine.h"
 #include "plans/planpictures.h"
 
 namespace tamo {
@@ -19,8 +19,7 @@ namespace tamo {
 class PlanPainter {
  public:
   // `onChanged` is called from the painter's threads.
-  PlanPainter(std::shared_ptr<MuWorld> world, std::shared_ptr<ReaderSlot> slot,
-              const QByteArray& password, std::vector<PageSize> sizes,
+  PlanPainter(std::shared_ptr<EnginePlan> plan, std::vector<PageSize> sizes,
               std::function<void()> onChanged);
   ~PlanPainter();
   PlanPainter(const PlanPainter&) = delete;

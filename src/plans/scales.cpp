@@ -106,16 +106,22 @@ std::span<const ScaleEntry> CentimetreScales() {
   return kCentimetre;
 }
 
-int UnitOfText(const QString& text5) {
-  if (text5.startsWith(QLatin1Char('m'))) return 2;
-  return text5.startsWith(QLatin1Char('c')) ? 1 : 0;
+PaperUnit UnitOfText(const QString& text5) {
+  if (text5.startsWith(QLatin1Char('m'))) return PaperUnit::Millimetres;
+  return text5.startsWith(QLatin1Char('c')) ? PaperUnit::Centimetres : PaperUnit::Inches;
 }
 
-QString ScaleInWords(const QString& scale1, const QString& scale2, int unit) {
+QString UnitInWords(PaperUnit unit) {
+  if (unit == PaperUnit::Centimetres) return QStringLiteral("cm");
+  return unit == PaperUnit::Millimetres ? QStringLiteral("mm") : QStringLiteral("inches");
+}
+
+QString ScaleInWords(const QString& scale1, const QString& scale2, PaperUnit unit) {
   if (Value(scale1) == 0 || Value(scale2) == 0) return QStringLiteral("No scale set");
-  if (unit == 0) return scale1 + QStringLiteral("\" = ") + scale2 + QLatin1Char('\'');
-  const QString paper = unit == 1 ? QStringLiteral(" cm = ") : QStringLiteral(" mm = ");
-  return scale1 + paper + scale2 + QStringLiteral(" ft");
+  if (unit == PaperUnit::Inches)
+    return scale1 + QStringLiteral("\" = ") + scale2 + QLatin1Char('\'');
+  return scale1 + QLatin1Char(' ') + UnitInWords(unit) + QStringLiteral(" = ") + scale2 +
+         QStringLiteral(" ft");
 }
 
 }  // namespace tamo

@@ -3,6 +3,8 @@
 #include <QString>
 #include <span>
 
+#include "plans/paperunit.h"
+
 namespace tamo {
 
 // One entry of the Scale menu: the plan length (Scale1) that stands for so many feet (Scale2), and
@@ -26,10 +28,12 @@ std::span<const ScaleEntry> InchScales();        // the inch and the engineer's 
 std::span<const ScaleEntry> MillimetreScales();  // on the submenu Metric, as the next
 std::span<const ScaleEntry> CentimetreScales();
 
-// The viewer's unit index that a unit text stands for: 2 for "m...", 1 for "c...", 0 for all else.
-int UnitOfText(const QString& text5);
+// The paper unit that a unit text stands for: millimetres for "m...", centimetres for "c...",
+// inches for all else.
+PaperUnit UnitOfText(const QString& text5);
+QString UnitInWords(PaperUnit unit);  // "inches", "cm", "mm"
 
 // The scale in words: 1/4" = 1', 1 mm = 50 ft; "No scale set" when either number is 0.
-QString ScaleInWords(const QString& scale1, const QString& scale2, int unit);
+QString ScaleInWords(const QString& scale1, const QString& scale2, PaperUnit unit);
 
 }  // namespace tamo

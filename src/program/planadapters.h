@@ -31,8 +31,12 @@ class PlanDeskOnOst : public PlanDesk {
     ost_->Text5.SetText(text5);
   }
   void SetProjectName(const QString& name) override { ost_->ProjectName.SetText(name); }
-  int ViewValue(int index) const override { return ost_->Viewer().ViewValue(index); }
-  void SetViewValue(int index, int value) override { ost_->Viewer().SetViewValue(index, value); }
+  int ViewValue(int index) const override {
+    return ost_->Viewer().ViewValue(static_cast<ViewPart>(index));
+  }
+  void SetViewValue(int index, int value) override {
+    ost_->Viewer().SetViewValue(static_cast<ViewPart>(index), value);
+  }
   void TurnToPage(int page) override { ost_->Viewer().SetPage(page); }
   void SetZoomByLevel(const QString& level) override { ost_->SetZoomByLevel(level); }
   void LoadFN() override { ost_->LoadFN(); }

@@ -17,7 +17,7 @@ class PlanToolsOnOst : public PlanTools {
  public:
   void Join(OSTForm& ost) { ost_ = &ost; }
 
-  void SetToolMode(int mode) override { ost_->Viewer().PickTool(mode); }
+  void SetToolMode(int mode) override { ost_->Viewer().PickTool(static_cast<PlanTool>(mode)); }
   void SetPenColour(const QString& code) override { ost_->Viewer().SetMarkColour(code); }
   void ResetMeasure() override { ost_->Viewer().SetUnitName(QStringLiteral("feet")); }
   void SaveIt() override { ost_->SaveIt(); }

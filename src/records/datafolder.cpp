@@ -1,5 +1,7 @@
 #include "records/datafolder.h"
 
+#include <QStringBuilder>
+
 namespace tamo {
 namespace {
 
@@ -64,7 +66,7 @@ QString ProjectFolder::RoomNames() const {
 }
 
 QString ProjectFolder::RoomFile(const QString& room) const {
-  return SubFolder(kRooms) + room + QStringLiteral(".rfs");
+  return path_ % QLatin1String(kRooms) % separator_ % room % QLatin1String(".rfs");
 }
 
 QString ProjectFolder::AreaNames() const {
@@ -72,7 +74,7 @@ QString ProjectFolder::AreaNames() const {
 }
 
 QString ProjectFolder::AreaFile(const QString& area) const {
-  return SubFolder(kAreas) + area + QStringLiteral(".ato");
+  return path_ % QLatin1String(kAreas) % separator_ % area % QLatin1String(".ato");
 }
 
 QString ProjectFolder::PlanNotes() const {

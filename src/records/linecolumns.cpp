@@ -1,17 +1,6 @@
 #include "records/linecolumns.h"
 
-#include "common/numbers.h"
-
 namespace tamo {
-
-QStringView ColumnsOf(QStringView line, ColumnRange columns) {
-  if (columns.from > line.size()) return {};
-  return line.sliced(columns.from - 1, qMin(columns.width, line.size() - columns.from + 1));
-}
-
-double ValueOf(QStringView line, ColumnRange columns) {
-  return Value(ColumnsOf(line, columns));
-}
 
 QStringView TrimmedBlanks(QStringView text) {
   while (!text.isEmpty() && text.front() == u' ') text = text.sliced(1);

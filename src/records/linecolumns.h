@@ -2,6 +2,8 @@
 
 #include <QStringView>
 
+#include "common/numbers.h"
+
 namespace tamo {
 
 // How a takeoff line is read without copying it. Columns count characters from 1, the one in `from`
@@ -11,9 +13,15 @@ struct ColumnRange {
   qsizetype from;
   qsizetype width;
 };
-QStringView ColumnsOf(QStringView line, ColumnRange columns);
+inline QStringView ColumnsOf(QStringView line, ColumnRange columns) {
+  if (columns.from > line.size()) return {};
+  return line.sliced(columns.from - 1, qMin(columns.width, line.size() - columns.from + 1));
+}
+
 // The number that stands there; 0 when there is none.
-double ValueOf(QStringView line, ColumnRange columns);
+inline double ValueOf(QStringView line, ColumnRange columns) {
+  return Value(ColumnsOf(line, columns));
+}
 
 // Without blanks (the character, not other white space) at both ends.
 QStringView TrimmedBlanks(QStringView text);

@@ -14,15 +14,20 @@ int ReadPairs(Files& files, const QString& path, QStringList& names) {
 
 }  // namespace
 
-// A large bid has tens of thousands of rooms: the lines between the names are not copied.
-QStringList SheetNamesOf(const QString& text) {
-  QStringList names;
+std::vector<QStringView> ScanSheetNames(QStringView text) {
+  std::vector<QStringView> names;
   LineScanner lines(text);
   QStringView line;
   while (lines.Next(line)) {
-    names += line.toString();
+    names.push_back(line);
     lines.Next(line);
   }
+  return names;
+}
+
+QStringList SheetNamesOf(const QString& text) {
+  QStringList names;
+  for (const QStringView name : ScanSheetNames(text)) names += name.toString();
   return names;
 }
 

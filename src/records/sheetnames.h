@@ -2,6 +2,8 @@
 
 #include <QString>
 #include <QStringList>
+#include <QStringView>
+#include <vector>
 
 #include "common/files.h"
 #include "records/datafolder.h"
@@ -11,6 +13,8 @@ namespace tamo {
 // The list of a project's rooms and that of its free areas: two lines a name, the second always
 // "True" and without meaning. An odd last line is a name, too. Read by whole lines.
 QStringList SheetNamesOf(const QString& text);
+// The same as views into `text`, for whoever walks through all sheets of a large bid.
+std::vector<QStringView> ScanSheetNames(QStringView text);
 QStringList SheetNamesLines(const QStringList& names);
 
 // Error numbers as Files has them; a list that could not be read is empty.

@@ -1,6 +1,7 @@
 #include "records/systemfile.h"
 
 #include "common/textlines.h"
+#include "records/linescanner.h"
 #include "records/materialblock.h"
 
 namespace tamo {
@@ -13,15 +14,19 @@ constexpr char kLineEnd[] = "\r\n";
 
 SystemFile ReadSystemFile(const QString& text) {
   SystemFile system;
-  LineReader lines(WholeLines(text));
-  for (QString* text : {&system.description, &system.units, &system.unitPrice, &system.lineColor}) {
-    if (lines.Read(*text)) ++system.reached;
+  LineScanner lines(text);
+  QStringView line;
+  for (QString* field :
+       {&system.description, &system.units, &system.unitPrice, &system.lineColor}) {
+    if (!lines.Next(line)) break;
+    *field = line.toString();
+    ++system.reached;
   }
-  QString line;
-  while (lines.Read(line) && line != QLatin1String(kEndMark))
-    system.notes += line + QLatin1String(kLineEnd);
-  lines.Skip(2);
-  while (lines.Read(line)) system.blocks += line;
+  while (lines.Next(line) && line != QLatin1String(kEndMark))
+    system.notes.append(line).append(QLatin1String(kLineEnd));
+  lines.Next(line);
+  lines.Next(line);
+  while (lines.Next(line)) system.blocks += line.toString();
   return system;
 }
 

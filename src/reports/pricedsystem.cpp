@@ -1,5 +1,7 @@
 #include "reports/pricedsystem.h"
 
+#include <utility>
+
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/paths.h"
@@ -47,7 +49,7 @@ int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& sy
   const int error = ReadSystemFile(source.files, source.project.SystemFile(name), system.file);
   if (error != kNoError) return error;
   system.found = true;
-  system.blocks = PricedBlocks(system.file.blocks);
+  system.blocks = PricedBlocks(std::exchange(system.file.blocks, {}));
   return kNoError;
 }
 

@@ -1,8 +1,6 @@
 #include "reports/projectinformation.h"
 
-#include "common/columns.h"
-#include "common/failure.h"
-#include "common/paths.h"
+#include <QStringList>
 
 namespace tamo {
 
@@ -30,25 +28,6 @@ Report ProjectInformation(const QString& jobID, const ProjectFacts& facts) {
   pieces.front().prepend(QLatin1String("      Notes:             "));
   lines += pieces;
   return report;
-}
-
-QStringList ProjectFileLines(const QString& jobID, const QString& jobName, const ListRows& report) {
-  const QString notDone = QStringLiteral("False");
-  QStringList lines{jobID + Blanks(10) + jobName, notDone};
-  for (int i = 1; i < report.Count(); ++i) {
-    lines += report.At(i);
-    lines += notDone;
-  }
-  return lines;
-}
-
-int MakeProjectFile(Files& files, const QString& dataPath, const QString& jobID,
-                    const QString& jobName, const ListRows& report) {
-  const QString name = jobID + QLatin1Char(' ') + jobName;
-  const QString refusal = NameRefusal(name);
-  if (!refusal.isEmpty()) throw RunTimeFailure(kInvalidArgument, refusal);
-  return files.SaveLines(dataPath + name + QStringLiteral(".tamo"),
-                         ProjectFileLines(jobID, jobName, report));
 }
 
 }  // namespace tamo

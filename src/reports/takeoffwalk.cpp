@@ -28,20 +28,22 @@ constexpr int kLinesBetweenTellings = 500;
 class Sheets {
  public:
   explicit Sheets(const ReportSource& source) : source_(source) {
-    if (ReadRoomNames(source.files, source.project, rooms_) != kNoError) rooms_.clear();
-    ReadAreaNames(source.files, source.project, areas_);
+    if (source.files.ReadText(source.project.RoomNames(), roomNames_) == kNoError)
+      rooms_ = ScanSheetNames(roomNames_);
+    source.files.ReadText(source.project.AreaNames(), areaNames_);
+    areas_ = ScanSheetNames(areaNames_);
   }
 
-  qsizetype Count() const { return rooms_.size() + areas_.size(); }
-  SheetKind KindOf(qsizetype at) const {
+  size_t Count() const { return rooms_.size() + areas_.size(); }
+  SheetKind KindOf(size_t at) const {
     return at < rooms_.size() ? SheetKind::Room : SheetKind::Area;
   }
-  const QString& NameOf(qsizetype at) const {
-    return at < rooms_.size() ? rooms_.at(at) : areas_.at(at - rooms_.size());
+  QString NameOf(size_t at) const {
+    return (at < rooms_.size() ? rooms_[at] : areas_[at - rooms_.size()]).toString();
   }
   // The file of a sheet, "" when it can't have one. From any thread.
-  QString PathOf(qsizetype at) const {
-    const QString& name = NameOf(at);
+  QString PathOf(size_t at) const {
+    const QString name = NameOf(at);
     if (!NameRefusal(name).isEmpty()) return {};
     return KindOf(at) == SheetKind::Room ? source_.project.RoomFile(name)
                                          : source_.project.AreaFile(name);
@@ -49,8 +51,10 @@ class Sheets {
 
  private:
   const ReportSource& source_;
-  QStringList rooms_;
-  QStringList areas_;
+  QString roomNames_;
+  QString areaNames_;
+  std::vector<QStringView> rooms_;
+  std::vector<QStringView> areas_;
 };
 
 // Walks through the sheets while the files of the next ones are read.
@@ -60,10 +64,10 @@ class Walk {
       : source_(source),
         visitor_(visitor),
         sheets_(sheets),
-        texts_(source.files, sheets.Count(), [&sheets](qsizetype at) { return sheets.PathOf(at); }),
+        texts_(source.files, sheets.Count(), [&sheets](size_t at) { return sheets.PathOf(at); }),
         all_(static_cast<int>(sheets.Count())) {}
 
-  void Sheet(qsizetype at) {
+  void Sheet(size_t at) {
     const SheetKind kind = sheets_.KindOf(at);
     visitor_.BeginSheet(kind, sheets_.NameOf(at));
     QString text;
@@ -93,7 +97,7 @@ class Walk {
 void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor) {
   const Sheets sheets(source);
   Walk walk(source, visitor, sheets);
-  for (qsizetype at = 0; at < sheets.Count(); ++at) walk.Sheet(at);
+  for (size_t at = 0; at < sheets.Count(); ++at) walk.Sheet(at);
 }
 
 }  // namespace tamo

@@ -1,13 +1,21 @@
 #include "windows/findbar.h"
 
+#include <QElapsedTimer>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollBar>
+#include <utility>
 
 #include "windows/look.h"
 
 namespace tamo {
+namespace {
+
+constexpr int kSlice = 5;               // milliseconds
+constexpr int kRowsBetweenLooks = 256;  // at the clock
+
+}  // namespace
 
 FindBar::FindBar(std::vector<RowsView*> lists, Display& display)
     : lists_(std::move(lists)), display_(display), edit_(new QLineEdit), result_(new QLabel) {
@@ -33,6 +41,8 @@ FindBar::FindBar(std::vector<RowsView*> lists, Display& display)
     line->addWidget(button);
   }
   connect(edit_, &QLineEdit::textEdited, this, [this] { TextChanged(); });
+  slices_.setSingleShot(true);
+  connect(&slices_, &QTimer::timeout, this, [this] { LookOn(); });
   hide();
 }
 
@@ -53,6 +63,8 @@ void FindBar::Open() {
 }
 
 void FindBar::Close() {
+  slices_.stop();
+  search_ = {};
   for (RowsView* list : lists_) {
     list->SetFound(QString());
     list->SetWalked(-1);
@@ -68,29 +80,65 @@ void FindBar::TextChanged() {
 }
 
 void FindBar::Go(int step) {
+  slices_.stop();
+  search_ = {};
   RowsView* list = List();
   const QString text = edit_->text();
   if (list == nullptr || text.isEmpty()) {
     result_->clear();
     return;
   }
-  const ListRows& rows = list->Model().Rows();
-  const int count = rows.Count();
-  const auto holds = [&](int row) { return rows.At(row).contains(text, Qt::CaseInsensitive); };
-  int found = 0;
-  for (int row = 0; row < count; ++row) found += holds(row) ? 1 : 0;
-  if (found == 0) {
-    result_->setText(QStringLiteral("Not in this report."));
-    list->SetWalked(-1);
+  search_.rows = list->Model().Rows();
+  search_.text = text;
+  search_.step = step;
+  search_.left = search_.rows.Count();
+  search_.at = row_ < 0 && step < 0 ? search_.rows.Count() : row_;
+  LookOn();
+}
+
+void FindBar::LookAtNextRow() {
+  if (!search_.Looking()) {
+    search_.holding += search_.Holds(search_.counted++) ? 1 : 0;
     return;
   }
-  int at = row_ < 0 ? (step > 0 ? -1 : count) : row_;
-  do {
-    at = (at + step + count) % count;
-  } while (!holds(at));
-  row_ = at;
-  list->SetWalked(at);
-  result_->setText(QStringLiteral("Line %1; %2 lines hold it.").arg(at + 1).arg(found));
+  const int count = search_.rows.Count();
+  search_.at = (search_.at + search_.step + count) % count;
+  --search_.left;
+  search_.hit = search_.Holds(search_.at);
+}
+
+void FindBar::LookOn() {
+  QElapsedTimer clock;
+  clock.start();
+  while (!search_.Done() && clock.elapsed() < kSlice) {
+    for (int i = 0; i < kRowsBetweenLooks && !search_.Done(); ++i) LookAtNextRow();
+  }
+  TellResult();
+  if (search_.Done()) {
+    search_ = {};  // the rows may be a large report
+  } else {
+    slices_.start();
+  }
+}
+
+void FindBar::TellResult() {
+  RowsView* list = List();
+  if (list == nullptr) return;
+  if (search_.hit && !std::exchange(search_.shown, true)) {
+    row_ = search_.at;
+    list->SetWalked(row_);
+  }
+  if (search_.Looking()) {
+    result_->setText(QStringLiteral("Looking ..."));
+  } else if (!search_.hit) {
+    result_->setText(QStringLiteral("Not in this report."));
+    list->SetWalked(-1);
+  } else if (!search_.Done()) {
+    result_->setText(QStringLiteral("Line %1; counting ...").arg(row_ + 1));
+  } else {
+    result_->setText(
+        QStringLiteral("Line %1; %2 lines hold it.").arg(row_ + 1).arg(search_.holding));
+  }
 }
 
 bool FindBar::eventFilter(QObject*, QEvent* event) {

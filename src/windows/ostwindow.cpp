@@ -22,6 +22,45 @@ QToolButton* Tool(const QString& text, const QString& hover) {
   return tool;
 }
 
+struct ToolRow {
+  PlanTool tool;
+  const char* text;
+  const char* hover;
+};
+constexpr ToolRow kTools[] = {
+    {PlanTool::None, "Move", "Pull the sheet with the mouse (V)"},
+    {PlanTool::Measuring, "Measure", "Draw a line; Shift keeps it to steps of 45 degrees (M)"},
+    {PlanTool::Counting, "Count", "Each press counts one (C)"}};
+
+std::vector<QToolButton*> ToolButtons(PdfDraw& viewer, Desk& desk) {
+  std::vector<QToolButton*> tools;
+  for (const ToolRow& row : kTools) {
+    QToolButton* button = Tool(QLatin1String(row.text), QLatin1String(row.hover));
+    button->setCheckable(true);
+    QObject::connect(button, &QToolButton::clicked, button, [&viewer, &desk, tool = row.tool] {
+      desk.Dispatch([&] { viewer.PickTool(tool); });
+    });
+    tools.push_back(button);
+  }
+  return tools;
+}
+
+std::vector<QToolButton*> PageButtons(PdfDraw& viewer, Desk& desk, PlanCanvas& canvas) {
+  QToolButton* before = Tool(QStringLiteral("◀"), QStringLiteral("Page before (Page Up)"));
+  QToolButton* after = Tool(QStringLiteral("▶"), QStringLiteral("Next page (Page Down)"));
+  QToolButton* rotate =
+      Tool(QStringLiteral("Turn"), QStringLiteral("Turn the sheet to the right (T)"));
+  before->setAccessibleName(QStringLiteral("Page before"));
+  after->setAccessibleName(QStringLiteral("Next page"));
+  const auto turn = [&viewer, &desk](int by) {
+    desk.Dispatch([&] { viewer.TurnPage(viewer.Page() + by); });
+  };
+  QObject::connect(before, &QToolButton::clicked, before, [turn] { turn(-1); });
+  QObject::connect(after, &QToolButton::clicked, after, [turn] { turn(1); });
+  QObject::connect(rotate, &QToolButton::clicked, rotate, [&canvas] { canvas.TurnView(); });
+  return {before, after, rotate};
+}
+
 // The viewer's own tool bar: which tool is in hand is shown by the pressed button and by Mode.
 QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
   PdfDraw& viewer = b.GetProgram().Viewer();
@@ -30,49 +69,16 @@ QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
   auto* line = new QHBoxLayout(bar);
   line->setContentsMargins(kGrid, kGrid / 2, kGrid, kGrid / 2);
   line->setSpacing(kGrid / 2);
-  struct ToolRow {
-    int mode;
-    const char* text;
-    const char* hover;
-  };
-  static constexpr ToolRow kTools[] = {
-      {PdfDraw::NoTool, "Move", "Pull the sheet with the mouse (V)"},
-      {PdfDraw::Measuring, "Measure", "Draw a line; Shift keeps it to steps of 45 degrees (M)"},
-      {PdfDraw::Counting, "Count", "Each press counts one (C)"}};
-  std::vector<QToolButton*> tools;
-  for (const ToolRow& row : kTools) {
-    QToolButton* tool = Tool(QLatin1String(row.text), QLatin1String(row.hover));
-    tool->setCheckable(true);
-    QObject::connect(tool, &QToolButton::clicked, bar, [&viewer, &desk, mode = row.mode] {
-      desk.Dispatch([&] { viewer.PickTool(mode); });
-    });
-    line->addWidget(tool);
-    tools.push_back(tool);
-  }
+  const std::vector<QToolButton*> tools = ToolButtons(viewer, desk);
+  for (QToolButton* tool : tools) line->addWidget(tool);
   line->addSpacing(2 * kGrid);
-  QToolButton* before = Tool(QStringLiteral("◀"), QStringLiteral("Page before (Page Up)"));
-  QToolButton* after = Tool(QStringLiteral("▶"), QStringLiteral("Next page (Page Down)"));
-  before->setAccessibleName(QStringLiteral("Page before"));
-  after->setAccessibleName(QStringLiteral("Next page"));
-  const auto turn = [&viewer, &desk](int by) {
-    desk.Dispatch([&] { viewer.TurnPage(viewer.Page() + by); });
-  };
-  QObject::connect(before, &QToolButton::clicked, bar, [turn] { turn(-1); });
-  QObject::connect(after, &QToolButton::clicked, bar, [turn] { turn(1); });
-  QToolButton* rotate =
-      Tool(QStringLiteral("Turn"), QStringLiteral("Turn the sheet to the right (T)"));
-  QObject::connect(rotate, &QToolButton::clicked, bar, [&canvas] { canvas.TurnView(); });
-  for (QToolButton* tool : {before, after, rotate}) line->addWidget(tool);
+  for (QToolButton* button : PageButtons(viewer, desk, canvas)) line->addWidget(button);
   line->addStretch(1);
   // Mode changes with every tool; its field tells when to look.
-  auto* mode = b.Find<TextField>("Mode");
-  if (mode != nullptr) {
-    const auto show = [&viewer, tools] {
-      for (size_t i = 0; i < tools.size(); ++i)
-        tools[i]->setChecked(viewer.Tool() == kTools[i].mode);
-    };
-    b.Window().onSynced.push_back(show);
-  }
+  if (b.Find<TextField>("Mode") == nullptr) return bar;
+  b.Window().onSynced.push_back([&viewer, tools] {
+    for (size_t i = 0; i < tools.size(); ++i) tools[i]->setChecked(viewer.Tool() == kTools[i].tool);
+  });
   return bar;
 }
 
@@ -133,14 +139,9 @@ void Scales(Builder& b, QVBoxLayout& column) {
   column.addLayout(line);
 }
 
-QWidget* Column(Builder& b) {
-  auto* side = new QWidget;
-  side->setFixedWidth(kColumnWidth);
-  auto* column = new QVBoxLayout(side);
-  column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
-  column->setSpacing(kGrid / 2);
-  Stack(*column, QStringLiteral("Job Name"), b.Field("ProjectName"));
-  Stack(*column, QStringLiteral("Plan"), b.Field("PlanLocation"));
+void Sheet(Builder& b, QVBoxLayout& column) {
+  Stack(column, QStringLiteral("Job Name"), b.Field("ProjectName"));
+  Stack(column, QStringLiteral("Plan"), b.Field("PlanLocation"));
   auto* grid = new QGridLayout;
   grid->setSpacing(kGrid / 2);
   const std::tuple<const char*, const char*, int> fields[] = {
@@ -154,32 +155,53 @@ QWidget* Column(Builder& b) {
     grid->addWidget(field, 1, at++);
   }
   grid->setColumnStretch(2, 1);
-  column->addLayout(grid);
-  column->addWidget(Rule());
-  Scales(b, *column);
+  column.addLayout(grid);
+}
+
+void Distance(Builder& b, QVBoxLayout& column) {
   QLineEdit* distance = b.Field("DistanceText", 0, QStringLiteral("Last distance or count"));
   distance->setFont(FigureFont());
   distance->setProperty("role", QStringLiteral("figure"));
   distance->setAlignment(Qt::AlignRight);
-  column->addWidget(distance);
+  column.addWidget(distance);
+}
+
+void KnownDimension(Builder& b, QVBoxLayout& column) {
+  QLabel* known = FixedPrompt(QStringLiteral("Known dimension, feet"));
+  QLineEdit* dimension = b.Field("KnownDimension", 8);
+  known->setBuddy(dimension);
+  column.addLayout(Line({known, dimension}));
+  column.addWidget(b.PushButton("CheckDimension"));
+  column.addWidget(b.Prompt("DimensionResult"));
+}
+
+void Notes(Builder& b, QVBoxLayout& column) {
+  column.addWidget(b.PushButton("Command3"));
+  QPlainTextEdit* notes = b.LongField("PlanNotes", QStringLiteral("Plan notes"));
+  notes->setMinimumHeight(8 * kGrid);
+  column.addWidget(notes, 1);
+  QLabel* problem = b.Text("PlanProblem");
+  problem->setWordWrap(true);
+  column.addWidget(problem);
+}
+
+QWidget* Column(Builder& b) {
+  auto* side = new QWidget;
+  side->setFixedWidth(kColumnWidth);
+  auto* column = new QVBoxLayout(side);
+  column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
+  column->setSpacing(kGrid / 2);
+  Sheet(b, *column);
+  column->addWidget(Rule());
+  Scales(b, *column);
+  Distance(b, *column);
   column->addWidget(Rule());
   column->addWidget(b.Check("Check1"));
   column->addWidget(Kept(b.SampleLine("Line1")));
   column->addWidget(b.PushButton("Command2"));
   column->addWidget(Rule());
-  QLabel* known = FixedPrompt(QStringLiteral("Known dimension, feet"));
-  QLineEdit* dimension = b.Field("KnownDimension", 8);
-  known->setBuddy(dimension);
-  column->addLayout(Line({known, dimension}));
-  column->addWidget(b.PushButton("CheckDimension"));
-  column->addWidget(b.Prompt("DimensionResult"));
-  column->addWidget(b.PushButton("Command3"));
-  QPlainTextEdit* notes = b.LongField("PlanNotes", QStringLiteral("Plan notes"));
-  notes->setMinimumHeight(8 * kGrid);
-  column->addWidget(notes, 1);
-  QLabel* problem = b.Text("PlanProblem");
-  problem->setWordWrap(true);
-  column->addWidget(problem);
+  KnownDimension(b, *column);
+  Notes(b, *column);
   column->addStretch(0);
   return side;
 }
@@ -203,18 +225,20 @@ std::function<void(int)> SaveProgress(QWidget& window) {
   };
 }
 
-}  // namespace
+PlanThumbnails* Thumbnails(Builder& b, PlanCanvas& canvas) {
+  auto* thumbnails =
+      new PlanThumbnails(b.GetProgram().Viewer(), b.Pictures(), b.GetProgram().GetDesk());
+  thumbnails->setFixedWidth(thumbnails->sizeHint().width());
+  if (Control* box = b.Find("picPdfThumbnails")) b.Bind<ThumbnailsBinding>(*box, *thumbnails);
+  canvas.onPictures = [thumbnails] { thumbnails->PagesChanged(); };
+  return thumbnails;
+}
 
-void LayOutOST(Builder& b) {
-  b.Window().UseWholeWindow();
+PlanCanvas* Canvas(Builder& b) {
   PdfDraw& viewer = b.GetProgram().Viewer();
   Desk& desk = b.GetProgram().GetDesk();
   auto* canvas = new PlanCanvas(viewer, b.Pictures(), desk);
-  auto* thumbnails = new PlanThumbnails(viewer, b.Pictures(), desk);
-  thumbnails->setFixedWidth(thumbnails->sizeHint().width());
   if (Control* box = b.Find("picPdfDraw")) b.Bind<PlanBinding>(*box, *canvas);
-  if (Control* box = b.Find("picPdfThumbnails")) b.Bind<ThumbnailsBinding>(*box, *thumbnails);
-  canvas->onPictures = [thumbnails] { thumbnails->PagesChanged(); };
   const auto choose = [&b, &desk](const char* name) {
     MenuEntry* entry = b.GetForm().FindMenu(QLatin1String(name));
     return [entry, &desk] {
@@ -227,9 +251,17 @@ void LayOutOST(Builder& b) {
   viewer.onPrint = [canvas] { canvas->Print(); };
   viewer.onBringToFront = [window] { window->raise(); };
   viewer.onSaveProgress = SaveProgress(*window);
+  return canvas;
+}
+
+}  // namespace
+
+void LayOutOST(Builder& b) {
+  b.Window().UseWholeWindow();
+  PlanCanvas* canvas = Canvas(b);
   auto* row = new QHBoxLayout;
   row->setSpacing(0);
-  row->addWidget(thumbnails);
+  row->addWidget(Thumbnails(b, *canvas));
   row->addWidget(Browser(b));
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
@@ -238,14 +270,14 @@ void LayOutOST(Builder& b) {
   middle->addWidget(canvas, 1);
   row->addLayout(middle, 1);
   row->addWidget(Column(b));
-  window->Body().addLayout(row, 1);
-  QHBoxLayout& foot = window->StatusLine();
+  FormWindow& window = b.Window();
+  window.Body().addLayout(row, 1);
   QLabel* keys =
       FixedPrompt(QStringLiteral("On the plan: arrows move the cross hair, Space sets a point, "
                                  "Enter goes back to the field."));
   keys->setWordWrap(false);
-  foot.addWidget(keys);
-  window->firstSize = {1340, 700};
+  window.StatusLine().addWidget(keys);
+  window.firstSize = {1340, 700};
 }
 
 }  // namespace tamo

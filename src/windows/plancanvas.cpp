@@ -1,6 +1,5 @@
 #include "windows/plancanvas.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -55,7 +54,7 @@ double PlanCanvas::Scale() const {
 }
 
 int PlanCanvas::Turn() const {
-  const int quarters = static_cast<int>(std::lround(viewer_.ViewValue(PdfDraw::Rotation) / 90.0));
+  const int quarters = static_cast<int>(std::lround(viewer_.ViewValue(ViewPart::Rotation) / 90.0));
   return ((quarters % 4 + 4) % 4) * 90;
 }
 
@@ -71,8 +70,8 @@ QPointF PlanCanvas::Origin() const {
     return whole <= shown ? std::floor((shown - whole) / 2)
                           : -std::clamp(place, 0.0, whole - shown);
   };
-  return {at(page.width(), view.width(), viewer_.ViewValue(PdfDraw::Horizontal) * Scale()),
-          at(page.height(), view.height(), viewer_.ViewValue(PdfDraw::Vertical) * Scale())};
+  return {at(page.width(), view.width(), viewer_.ViewValue(ViewPart::Horizontal) * Scale()),
+          at(page.height(), view.height(), viewer_.ViewValue(ViewPart::Vertical) * Scale())};
 }
 
 QPointF PlanCanvas::OnTurned(PagePoint at) const {
@@ -109,9 +108,9 @@ QPointF PlanCanvas::PlaceInView(PagePoint at) {
   QPointF place = Origin() + turned * Scale();
   if (!QRectF(viewport()->rect()).adjusted(8, 8, -8, -8).contains(place)) {
     const QSizeF half = QSizeF(viewport()->size()) / (2 * Scale());
-    viewer_.SetViewValue(PdfDraw::Horizontal,
+    viewer_.SetViewValue(ViewPart::Horizontal,
                          std::max(0, static_cast<int>(turned.x() - half.width())));
-    viewer_.SetViewValue(PdfDraw::Vertical,
+    viewer_.SetViewValue(ViewPart::Vertical,
                          std::max(0, static_cast<int>(turned.y() - half.height())));
     ViewChanged();
     place = Origin() + turned * Scale();
@@ -135,6 +134,7 @@ PlanView PlanCanvas::View() const {
 
 void PlanCanvas::ViewChanged() {
   SyncBars();
+  lookedRatio_ = devicePixelRatioF();
   if (pictures_ != nullptr) pictures_->Look(View());
   viewport()->update();
   if (onPictures) onPictures();
@@ -150,15 +150,15 @@ void PlanCanvas::SyncBars() {
     bar->setSingleStep(std::max(1, static_cast<int>(shown / 12)));
     bar->setValue(value);
   };
-  set(horizontalScrollBar(), page.width(), view.width(), viewer_.ViewValue(PdfDraw::Horizontal));
-  set(verticalScrollBar(), page.height(), view.height(), viewer_.ViewValue(PdfDraw::Vertical));
+  set(horizontalScrollBar(), page.width(), view.width(), viewer_.ViewValue(ViewPart::Horizontal));
+  set(verticalScrollBar(), page.height(), view.height(), viewer_.ViewValue(ViewPart::Vertical));
   syncingBars_ = false;
 }
 
 void PlanCanvas::scrollContentsBy(int, int) {
   if (syncingBars_) return;
-  const double dx = horizontalScrollBar()->value() - viewer_.ViewValue(PdfDraw::Horizontal);
-  const double dy = verticalScrollBar()->value() - viewer_.ViewValue(PdfDraw::Vertical);
+  const double dx = horizontalScrollBar()->value() - viewer_.ViewValue(ViewPart::Horizontal);
+  const double dy = verticalScrollBar()->value() - viewer_.ViewValue(ViewPart::Vertical);
   if (dx != 0 || dy != 0) Pan({dx, dy});
 }
 
@@ -176,8 +176,9 @@ void PlanCanvas::paintEvent(QPaintEvent*) {
   painter.fillRect(QRectF(origin, page), Qt::white);
   if (pictures_ != nullptr) {
     const PlanView view = View();
-    pictures_->Look(view);
     const double ratio = devicePixelRatioF();
+    // The window has come to a finer or coarser screen.
+    if (ratio != lookedRatio_) QTimer::singleShot(0, this, [this] { ViewChanged(); });
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     for (const PlacedPicture& placed : pictures_->PicturesFor(view)) {
       const QRectF target(origin.x() + placed.left / ratio, origin.y() + placed.top / ratio,
@@ -200,14 +201,13 @@ void PlanCanvas::paintEvent(QPaintEvent*) {
 }
 
 void PlanCanvas::PaintMarks(QPainter& painter) const {
-  const std::vector<Mark> marks = viewer_.Marks();
-  for (auto mark = marks.rbegin(); mark != marks.rend(); ++mark) {
-    if (mark->page == viewer_.Page()) PaintMark(painter, *mark, viewer_.MarkerSize());
+  for (const Mark& mark : viewer_.MarksAsDrawn()) {
+    if (mark.page == viewer_.Page()) PaintMark(painter, mark, viewer_.MarkerSize());
   }
 }
 
 void PlanCanvas::PaintWork(QPainter& painter) const {
-  const LineInWork line = viewer_.LineWork();
+  const LineInWork& line = viewer_.LineWork();
   if (line.active && line.page == viewer_.Page()) {
     Mark mark;
     mark.points = {line.from, line.to};
@@ -217,7 +217,14 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
     mark.label = line.text;
     PaintMark(painter, mark, viewer_.MarkerSize());
   }
-  if (viewer_.Tool() == PdfDraw::NoTool || !hasFocus()) return;
+  const std::optional<DrawnBox>& box = viewer_.Box();
+  if (box.has_value() && box->page == viewer_.Page()) {
+    painter.setPen(QPen(CurrentLook().accent.darker(110), 2 / Scale(), Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(QPointF(box->topLeft.x, box->topLeft.y),
+                            QPointF(box->bottomRight.x, box->bottomRight.y)));
+  }
+  if (viewer_.Tool() == PlanTool::None || !hasFocus()) return;
   const PagePoint hair = viewer_.CrossHair();
   const double arm = 9 / Scale();
   painter.setPen(QPen(CurrentLook().accent.darker(110), 1.4 / Scale()));
@@ -232,7 +239,7 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   FinishScroll();
   panFrom_ = event->position();
   pressedAt_ = event->position();
-  const bool tool = viewer_.Tool() != PdfDraw::NoTool;
+  const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext();
   panning_ = !left || !tool;
   if (!left) return;
   drawing_ = tool;
@@ -284,14 +291,15 @@ void PlanCanvas::Pan(const QPointF& points) {
   const double mostY = std::max(0.0, page.height() - view.height());
   if (!scrolling_) {
     scrolling_ = true;
-    for (const int index : {0, 1}) scrollFrom_[index] = viewer_.ViewValue(index);
+    scrollFrom_[0] = viewer_.ViewValue(ViewPart::Horizontal);
+    scrollFrom_[1] = viewer_.ViewValue(ViewPart::Vertical);
     scrollTo_ = {std::clamp<double>(scrollFrom_[0], 0, mostX),
                  std::clamp<double>(scrollFrom_[1], 0, mostY)};
   }
   scrollTo_ = {std::clamp(scrollTo_.x() + points.x(), 0.0, mostX),
                std::clamp(scrollTo_.y() + points.y(), 0.0, mostY)};
-  viewer_.SetViewValue(PdfDraw::Horizontal, static_cast<int>(std::lround(scrollTo_.x())));
-  viewer_.SetViewValue(PdfDraw::Vertical, static_cast<int>(std::lround(scrollTo_.y())));
+  viewer_.SetViewValue(ViewPart::Horizontal, static_cast<int>(std::lround(scrollTo_.x())));
+  viewer_.SetViewValue(ViewPart::Vertical, static_cast<int>(std::lround(scrollTo_.y())));
   rest_.start();
 }
 
@@ -299,11 +307,11 @@ void PlanCanvas::FinishScroll() {
   rest_.stop();
   if (!scrolling_) return;
   scrolling_ = false;
-  const int dx = viewer_.ViewValue(PdfDraw::Horizontal) - scrollFrom_[0];
-  const int dy = viewer_.ViewValue(PdfDraw::Vertical) - scrollFrom_[1];
+  const int dx = viewer_.ViewValue(ViewPart::Horizontal) - scrollFrom_[0];
+  const int dy = viewer_.ViewValue(ViewPart::Vertical) - scrollFrom_[1];
   if (dx == 0 && dy == 0) return;
-  viewer_.SetViewValue(PdfDraw::Horizontal, scrollFrom_[0]);
-  viewer_.SetViewValue(PdfDraw::Vertical, scrollFrom_[1]);
+  viewer_.SetViewValue(ViewPart::Horizontal, scrollFrom_[0]);
+  viewer_.SetViewValue(ViewPart::Vertical, scrollFrom_[1]);
   desk_.Dispatch([&] { viewer_.ScrollBy(dx, dy); });
 }
 
@@ -323,90 +331,11 @@ void PlanCanvas::wheelEvent(QWheelEvent* event) {
 
 void PlanCanvas::TurnView() {
   desk_.Dispatch([this] {
-    viewer_.SetViewValue(PdfDraw::Rotation, (Turn() + 90) % 360);
-    viewer_.SetViewValue(PdfDraw::Horizontal, 0);
-    viewer_.SetViewValue(PdfDraw::Vertical, 0);
+    viewer_.SetViewValue(ViewPart::Rotation, (Turn() + 90) % 360);
+    viewer_.SetViewValue(ViewPart::Horizontal, 0);
+    viewer_.SetViewValue(ViewPart::Vertical, 0);
   });
   ViewChanged();
-}
-
-// The tool bar by letters, while the keys go to the plan.
-bool PlanCanvas::TakeLetter(int key) {
-  const auto pick = [this](int mode) {
-    desk_.Dispatch([&] { viewer_.PickTool(mode); });
-    return true;
-  };
-  switch (key) {
-    case Qt::Key_V:
-      return pick(PdfDraw::NoTool);
-    case Qt::Key_M:
-      return pick(PdfDraw::Measuring);
-    case Qt::Key_C:
-      return pick(PdfDraw::Counting);
-    case Qt::Key_T:
-      TurnView();
-      return true;
-    case Qt::Key_Plus:
-      if (onZoomIn) onZoomIn();
-      return true;
-    case Qt::Key_Minus:
-      if (onZoomOut) onZoomOut();
-      return true;
-    default:
-      return false;
-  }
-}
-
-bool PlanCanvas::TakeKey(const QKeyEvent& event) {
-  static constexpr std::pair<int, PlanKey> kKeys[] = {{Qt::Key_Left, PlanKey::Left},
-                                                      {Qt::Key_Right, PlanKey::Right},
-                                                      {Qt::Key_Up, PlanKey::Up},
-                                                      {Qt::Key_Down, PlanKey::Down},
-                                                      {Qt::Key_Space, PlanKey::Space},
-                                                      {Qt::Key_Return, PlanKey::Enter},
-                                                      {Qt::Key_Enter, PlanKey::Enter},
-                                                      {Qt::Key_Escape, PlanKey::Escape},
-                                                      {Qt::Key_Backspace, PlanKey::Backspace},
-                                                      {Qt::Key_Z, PlanKey::Undo},
-                                                      {Qt::Key_Y, PlanKey::Redo}};
-  const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
-  const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
-  if (event.modifiers().testFlag(Qt::AltModifier)) return false;
-  FinishScroll();
-  if (!ctrl && TakeLetter(event.key())) return true;
-  if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
-    const int page = viewer_.Page() + (event.key() == Qt::Key_PageDown ? 1 : -1);
-    desk_.Dispatch([&] { viewer_.TurnPage(page); });
-    return true;
-  }
-  for (const auto& [code, key] : kKeys) {
-    if (event.key() != code) continue;
-    const bool needsCtrl = key == PlanKey::Undo || key == PlanKey::Redo;
-    if (needsCtrl && !ctrl) return false;
-    desk_.Dispatch([&, pressed = key] { viewer_.Key({pressed, shift, ctrl}); });
-    return true;
-  }
-  return false;
-}
-
-PlanBinding::PlanBinding(Display& display, Control& control, PlanCanvas& canvas)
-    : Binding(display, control, canvas), canvas_(canvas) {}
-
-bool PlanBinding::eventFilter(QObject*, QEvent* event) {
-  if (event->type() != QEvent::KeyPress) {
-    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
-      canvas_.viewport()->update();
-    return TakeCommon(event);
-  }
-  auto& key = static_cast<QKeyEvent&>(*event);
-  return canvas_.TakeKey(key) || GetDisplay().TakeKey(*this, key);
-}
-
-PlanCanvas* FindPlanCanvas(const QWidget& window) {
-  for (QWidget* widget : window.findChildren<QWidget*>(QStringLiteral("picPdfDraw"))) {
-    if (auto* canvas = dynamic_cast<PlanCanvas*>(widget)) return canvas;
-  }
-  return nullptr;
 }
 
 }  // namespace tamo

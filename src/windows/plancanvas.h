@@ -72,7 +72,8 @@ class PlanCanvas : public QAbstractScrollArea {
   PlanPictures* pictures_;
   Desk& desk_;
   bool syncingBars_ = false;
-  bool drawing_ = false;  // the left button is down with a tool in hand
+  double lookedRatio_ = 0;  // device pixels of a pixel when the pictures were last asked for
+  bool drawing_ = false;    // the left button is down with a tool in hand
   bool panning_ = false;
   QPointF panFrom_;
   QPointF pressedAt_;

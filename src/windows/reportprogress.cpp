@@ -14,7 +14,7 @@ constexpr int kFrame = 5;      // between two looks at what waits: thrice in a f
 bool ReportProgress::Tell(int done, int all) {
   if (!clock_.isValid()) {
     clock_.start();
-    shown_ = 0;
+    shown_ = -kFrame;  // the files' names have been read: that may have taken most of a frame
   }
   const qint64 now = clock_.elapsed();
   if (now - shown_ < kFrame) return true;

@@ -10,6 +10,11 @@
 #include "windows/rowpainter.h"
 
 namespace tamo {
+namespace {
+
+constexpr qint64 kFarAway = 1 << 20;  // pixels
+
+}  // namespace
 
 RowsView::RowsView(const OrderedList& list, QWidget* parent)
     : QListView(parent), model_(new RowsModel(list)) {
@@ -108,11 +113,13 @@ int RowsView::verticalOffset() const {
   return Top();
 }
 
+// A row far outside the viewport stands somewhere outside: no place on a screen is as far away as
+// the last of five million rows.
 QRect RowsView::visualRect(const QModelIndex& index) const {
   if (!index.isValid()) return {};
   const qint64 top = static_cast<qint64>(index.row() - Top()) * rowHeight_;
-  if (top < -rowHeight_ || top > viewport()->height()) return {};
-  return {-horizontalOffset(), static_cast<int>(top), ContentsWidth(), rowHeight_};
+  return {-horizontalOffset(), static_cast<int>(std::clamp<qint64>(top, -kFarAway, kFarAway)),
+          ContentsWidth(), rowHeight_};
 }
 
 QModelIndex RowsView::indexAt(const QPoint& point) const {

@@ -31,6 +31,26 @@ TEST(TextRows, RowsComeBackAsTheyWereAdded) {
   EXPECT_EQ(rows.SizeOf(1), 0);
 }
 
+TEST(TextRows, TheFirstRowMayBeEmpty) {
+  TextRows rows;
+  rows += QString();
+  rows.AddNarrow(0);
+  rows.SetRow(0, {QStringView()});
+  EXPECT_EQ(rows.ToList(), (QStringList{QString(), QString()}));
+}
+
+TEST(TextRows, ARowLongerThanAnyBlockStands) {
+  TextRows rows;
+  rows += S("before");
+  const QString narrow(9 << 20, u'n');
+  const QString wide(9 << 20, QChar(0x20AC));
+  rows += narrow;
+  rows += wide;
+  rows += S("behind");
+  EXPECT_EQ(rows.SizeOf(1), narrow.size());
+  EXPECT_EQ(rows.ToList(), (QStringList{S("before"), narrow, wide, S("behind")}));
+}
+
 TEST(TextRows, ARowIsReplacedAndANarrowOneIsWrittenInPlace) {
   TextRows rows;
   rows += QString();

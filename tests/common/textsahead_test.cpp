@@ -43,8 +43,8 @@ class CountingDisk : public test::FaultDisk {
   std::thread::id asking_ = std::this_thread::get_id();
 };
 
-std::function<QString(qsizetype)> PathOf(const QStringList& paths) {
-  return [paths](qsizetype at) { return paths.at(at); };
+std::function<QString(size_t)> PathOf(const QStringList& paths) {
+  return [paths](size_t at) { return paths.at(static_cast<qsizetype>(at)); };
 }
 
 struct TextsAheadTest : ::testing::Test {
@@ -64,7 +64,7 @@ struct TextsAheadTest : ::testing::Test {
     return paths;
   }
   void ExpectAsReadOneByOne(const QStringList& paths) {
-    TextsAhead texts(files, paths.size(), PathOf(paths));
+    TextsAhead texts(files, static_cast<size_t>(paths.size()), PathOf(paths));
     for (const QString& path : paths) {
       QString plain;
       const int error = path.isEmpty() ? kFileNotFound : files.ReadText(path, plain);
@@ -96,7 +96,7 @@ TEST_F(TextsAheadTest, APendingTextIsReadInsteadOfItsFile) {
   EXPECT_NE(files.SaveText(Path(40), QStringLiteral("kept")), kNoError);
   ExpectAsReadOneByOne(paths);
   QString text;
-  TextsAhead texts(files, paths.size(), PathOf(paths));
+  TextsAhead texts(files, static_cast<size_t>(paths.size()), PathOf(paths));
   for (int i = 0; i <= 40; ++i) texts.Next(text);
   EXPECT_EQ(text, QStringLiteral("kept"));
 }
@@ -104,7 +104,7 @@ TEST_F(TextsAheadTest, APendingTextIsReadInsteadOfItsFile) {
 TEST_F(TextsAheadTest, ItMayEndAtAnyPlace) {
   const QStringList paths = Written(300);
   for (int asked = 0; asked < 300; asked += 7) {
-    TextsAhead texts(files, paths.size(), PathOf(paths));
+    TextsAhead texts(files, static_cast<size_t>(paths.size()), PathOf(paths));
     QString text;
     for (int i = 0; i < asked; ++i) ASSERT_EQ(texts.Next(text), kNoError);
   }
@@ -112,7 +112,7 @@ TEST_F(TextsAheadTest, ItMayEndAtAnyPlace) {
 
 TEST_F(TextsAheadTest, AThreadReadsSomeFilesAheadAndNoMore) {
   const QStringList paths = Written(500);
-  TextsAhead texts(files, paths.size(), PathOf(paths));
+  TextsAhead texts(files, static_cast<size_t>(paths.size()), PathOf(paths));
   QString text;
   ASSERT_EQ(texts.Next(text), kNoError);
   disk.Rest(11);
@@ -126,7 +126,7 @@ TEST_F(TextsAheadTest, AThreadReadsSomeFilesAheadAndNoMore) {
 
 TEST_F(TextsAheadTest, FewFilesAreReadWhenTheyAreAskedFor) {
   const QStringList paths = Written(20);
-  const TextsAhead texts(files, paths.size(), PathOf(paths));
+  const TextsAhead texts(files, static_cast<size_t>(paths.size()), PathOf(paths));
   disk.Rest(0);
   EXPECT_EQ(disk.reads, 0);
 }

@@ -3,12 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QTemporaryDir>
 
 #include "common/failure.h"
 #include "docs/topics.h"
-#include "support/doubles.h"
-#include "support/faultdisk.h"
+#include "support/room.h"
 
 namespace tamo::test {
 namespace {
@@ -19,15 +17,12 @@ class CountingShell : public DocShell {
   int shown = 0;
 };
 
-class Docs : public ::testing::Test {
+class Docs : public ::testing::Test, public FormRoom {
  protected:
   Docs() {
-    shared.Separator = "/";
-    shared.zDir = Path("program");
     QDir().mkpath(Path("program/Docs"));
     docs.Show();
   }
-  QString Path(const char* name) const { return dir.path() + '/' + QLatin1String(name); }
   void Put(const char* name, const QByteArray& bytes) {
     int handle = -1;
     ASSERT_EQ(disk.OpenNew(Path(name), handle), kNoError);
@@ -51,19 +46,8 @@ class Docs : public ::testing::Test {
   }
   std::string Text() { return docs.DocText.Text().toStdString(); }
 
-  QTemporaryDir dir;
-  FaultDisk disk;
-  FixedClock clock;
-  ScriptedMessages messages;
-  RecordingPrinter printer;
-  RecordingClipboard clipboard;
-  Platform platform{disk,      clock,           messages, printer,
-                    clipboard, Path("program"), Path(""), Path("config")};
-  Desk desk{messages};
-  Files files{disk};
-  SharedFields shared;
   CountingShell shell;
-  DocsForm docs{Kit{desk, files, shared, platform}, shell};
+  DocsForm docs{kit, shell};
 };
 
 TEST_F(Docs, ListsItsTopicsInOrder) {

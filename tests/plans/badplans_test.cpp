@@ -7,7 +7,7 @@
 #include <thread>
 
 #include "common/failure.h"
-#include "plans/muworld.h"
+#include "plans/mupdfcontexts.h"
 #include "plans/planfixture.h"
 
 // Damaged and hostile plans: a message or a sheet, never a crash, a hang or unbounded memory.
@@ -78,7 +78,7 @@ TEST_F(BadPlans, EachIsAMessageOrASheetAndTheFileStaysAsItIs) {
     SCOPED_TRACE(name.toStdString());
     const QString path = bad + "/" + name;
     const qint64 size = QFileInfo(path).size();
-    MuPdfDraw viewer(files);
+    PdfDraw viewer(files, engine);
     viewer.SetPatience(1000);
     const int result = viewer.OpenFile(path, "");
     EXPECT_TRUE(result == 0 || result == kFileOther) << result;
@@ -102,7 +102,7 @@ TEST_F(BadPlans, EachIsAMessageOrASheetAndTheFileStaysAsItIs) {
     viewer.Look(view);
     viewer.WaitUntilSharp(300);
     viewer.PicturesFor(view);
-    most = std::max(most, MuWorld::MemoryInUse());
+    most = std::max(most, MuPdfContexts::MemoryInUse());
     EXPECT_EQ(QFileInfo(path).size(), size);
   }
   EXPECT_LE(most, qint64(768) << 20);
@@ -112,7 +112,7 @@ TEST_F(BadPlans, MarkingOneEitherSucceedsWholeOrLeavesNothing) {
   for (const QString& name : Names()) {
     if (name.contains("bomb") || name.contains("wide") || name.contains("many")) continue;
     SCOPED_TRACE(name.toStdString());
-    MuPdfDraw viewer(files);
+    PdfDraw viewer(files, engine);
     viewer.SetPatience(1000);
     if (viewer.OpenFile(bad + "/" + name, "") != 0) continue;
     const size_t before = viewer.Marks().size();
@@ -125,7 +125,7 @@ TEST_F(BadPlans, MarkingOneEitherSucceedsWholeOrLeavesNothing) {
       EXPECT_TRUE(viewer.HasUnsavedMarks());
       continue;
     }
-    MuPdfDraw again(files);
+    PdfDraw again(files, engine);
     EXPECT_EQ(again.OpenFile(marked, ""), 0) << again.Problem().toStdString();
     EXPECT_EQ(again.Marks().size(), before + 1);
   }
@@ -175,7 +175,7 @@ TEST_F(BadPlans, ABlankSheetStandsForASlowPlanUntilItIsRead) {
   QCoreApplication application(count, arguments);
   HeldDisk slow;
   Files slowFiles(slow);
-  MuPdfDraw viewer(slowFiles);
+  PdfDraw viewer(slowFiles, engine);
   viewer.SetPatience(0);
   viewer.SetLongestOpening(30000);
   int pages = 0;
@@ -191,4 +191,62 @@ TEST_F(BadPlans, ABlankSheetStandsForASlowPlanUntilItIsRead) {
   }
   EXPECT_EQ(viewer.PageCount(), 2);
   EXPECT_EQ(pages, 2);
+}
+
+namespace {
+
+// Three pages of different sizes under a tree of its own making; `kids` and `count` of its root.
+QByteArray OddTree(const QByteArray& kids, const QByteArray& count) {
+  QByteArray pdf = MakePdf({{"/MediaBox[0 0 100 200]", "BT /F1 9 Tf 9 9 Td (one) Tj ET"},
+                            {"/MediaBox[0 0 200 200]", "BT /F1 9 Tf 9 9 Td (two) Tj ET"},
+                            {"/MediaBox[0 0 300 200]", "BT /F1 9 Tf 9 9 Td (three) Tj ET"}});
+  const qsizetype at = pdf.indexOf("2 0 obj\n");
+  const qsizetype end = pdf.indexOf("\nendobj", at);
+  QByteArray body = "2 0 obj\n<</Type/Pages/Count " + count + "/Kids[" + kids + "]>>";
+  // The places in the file stay.
+  return pdf.replace(at, end - at, body.leftJustified(end - at, ' '));
+}
+
+}  // namespace
+
+// What is marked, measured, painted and read as page N is one and the same sheet, whatever the tree
+// says of its counts.
+TEST_F(BadPlans, PageNIsOneSheetForEveryone) {
+  struct Tree {
+    const char* kids;
+    const char* count;
+    QList<double> widths;
+  };
+  const Tree trees[] = {{"null 3 0 R 5 0 R", "3", {100, 200}},
+                        {"3 0 R 5 0 R 7 0 R", "1", {100, 200, 300}},
+                        {"3 0 R 5 0 R 7 0 R", "9", {100, 200, 300}},
+                        {"3 0 R 2 0 R 7 0 R", "3", {100, 300}},
+                        {"5 0 R 5 0 R 3 0 R", "3", {200, 200, 100}}};
+  for (const Tree& tree : trees) {
+    const QString path = Write("tree.pdf", OddTree(tree.kids, tree.count));
+    draw = std::make_unique<PdfDraw>(files, engine);
+    ASSERT_EQ(draw->OpenFile(path, ""), 0) << tree.kids;
+    ASSERT_EQ(draw->PageCount(), tree.widths.size()) << tree.kids;
+    for (int page = 1; page <= draw->PageCount(); ++page) {
+      EXPECT_DOUBLE_EQ(draw->SizeOfPage(page).width, tree.widths[page - 1]) << tree.kids;
+      EXPECT_NEAR(ReadPageContent(disk, path, page).size.width, tree.widths[page - 1], 1e-3);
+      PlanView part;
+      part.page = page;
+      part.width = 20;
+      part.height = 20;
+      EXPECT_NE(draw->PrintPicture(part), nullptr) << tree.kids << " page " << page;
+    }
+  }
+}
+
+TEST_F(BadPlans, MarksOnASheetThatIsNamedTwiceAreAllKept) {
+  const QString path = Write("twice.pdf", OddTree("5 0 R 5 0 R 3 0 R", "3"));
+  ASSERT_EQ(draw->OpenFile(path, ""), 0);
+  for (int page = 1; page <= 3; ++page) {
+    draw->SetPage(page);
+    draw->DrawLine({10, 10.0 * page}, {90, 10.0 * page});
+  }
+  ASSERT_EQ(draw->SaveAs(Path("twice-Marked.pdf")), 0) << draw->Problem().toStdString();
+  Reopen(Path("twice-Marked.pdf"));
+  EXPECT_EQ(draw->Marks().size(), 3U);
 }

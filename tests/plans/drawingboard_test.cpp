@@ -1,11 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <limits>
 
-#include "plans/fakepdfdraw.h"
 #include "plans/fraction.h"
+#include "plans/pdfdraw.h"
+#include "support/fakeplanengine.h"
+#include "support/planstroke.h"
 
 using namespace tamo;
+using namespace tamo::test;
 
 // --- Fractions of scales
 
@@ -52,10 +57,14 @@ TEST(ColourNumber, TakesThreePartsOfThreeDigits) {
 namespace {
 
 struct Board : ::testing::Test {
-  FakePdfDraw draw;
+  QTemporaryDir folder;
+  RealDisk disk;
+  Files files{disk};
+  FakePlanEngine engine;
+  PdfDraw draw{files, engine};
   std::vector<double> lengths;
   std::vector<int> counts;
-  std::vector<int> modes;
+  std::vector<PlanTool> modes;
   int pages = 0;
   int scrolls = 0;
   int presses = 0;
@@ -67,10 +76,17 @@ struct Board : ::testing::Test {
       label = "feet";
     };
     draw.onCircleCountChanged = [this](int count) { counts.push_back(count); };
-    draw.onModeChanged = [this](int mode) { modes.push_back(mode); };
+    draw.onModeChanged = [this](PlanTool mode) { modes.push_back(mode); };
     draw.onPageChanged = [this] { ++pages; };
     draw.onScrolled = [this] { ++scrolls; };
     draw.onMousePressed = [this] { ++presses; };
+  }
+  QString Path(const char* name) { return folder.filePath(QString::fromUtf8(name)); }
+  int Open(const char* name) {
+    QFile file(Path(name));
+    EXPECT_TRUE(file.open(QIODevice::Append));
+    file.close();
+    return draw.OpenFile(Path(name), QString());
   }
   void Stroke(const char* name) {
     PlanStroke stroke;
@@ -82,11 +98,11 @@ struct Board : ::testing::Test {
 }  // namespace
 
 TEST_F(Board, OpeningSetsInchesAndFeetAndRaisesPageButNotScroll) {
-  draw.SetUnitIndex(2);
+  draw.SetUnit(PaperUnit::Millimetres);
   draw.SetUnitName("mm");
-  draw.pagesOfNewFile = 3;
-  EXPECT_EQ(draw.OpenFile("/plans/Floor2.PDF", ""), 0);
-  EXPECT_EQ(draw.UnitIndex(), 0);
+  engine.pages = 3;
+  EXPECT_EQ(Open("Floor2.PDF"), 0);
+  EXPECT_EQ(draw.Unit(), PaperUnit::Inches);
   EXPECT_EQ(draw.UnitName(), "feet");
   EXPECT_EQ(draw.PageCount(), 3);
   EXPECT_EQ(pages, 1);
@@ -101,13 +117,13 @@ TEST_F(Board, OpeningSetsInchesAndFeetAndRaisesPageButNotScroll) {
 }
 
 TEST_F(Board, SettingTheUnitNameLeavesTheIndex) {
-  draw.SetUnitIndex(1);
+  draw.SetUnit(PaperUnit::Centimetres);
   draw.SetUnitName("feet");
-  EXPECT_EQ(draw.UnitIndex(), 1);
+  EXPECT_EQ(draw.Unit(), PaperUnit::Centimetres);
 }
 
 TEST_F(Board, APressDragReleaseMeasuresInThePaperUnit) {
-  draw.PickTool(1);
+  draw.PickTool(PlanTool::Measuring);
   draw.Press({100, 100}, false);
   draw.Move({200, 100}, false);
   draw.Release({280, 100}, false);
@@ -116,16 +132,16 @@ TEST_F(Board, APressDragReleaseMeasuresInThePaperUnit) {
   ASSERT_EQ(draw.Marks().size(), 1U);
   EXPECT_EQ(draw.Marks()[0].label, "10.0 feet");
   EXPECT_EQ(presses, 1);
-  draw.SetUnitIndex(2);
+  draw.SetUnit(PaperUnit::Millimetres);
   draw.DrawLine({0, 0}, {0, 72});
   EXPECT_DOUBLE_EQ(lengths[1], 25.4);
-  draw.SetUnitIndex(1);
+  draw.SetUnit(PaperUnit::Centimetres);
   draw.DrawLine({0, 0}, {72, 0});
   EXPECT_DOUBLE_EQ(lengths[2], 2.54);
 }
 
 TEST_F(Board, TwoClicksMeasureToo) {
-  draw.PickTool(1);
+  draw.PickTool(PlanTool::Measuring);
   draw.Press({10, 10}, false);
   draw.Release({10, 11}, false);
   EXPECT_TRUE(lengths.empty());
@@ -139,7 +155,7 @@ TEST_F(Board, TwoClicksMeasureToo) {
 }
 
 TEST_F(Board, ShiftKeepsToStepsOf45Degrees) {
-  draw.PickTool(1);
+  draw.PickTool(PlanTool::Measuring);
   draw.Press({100, 100}, false);
   draw.Move({200, 110}, true);
   EXPECT_DOUBLE_EQ(draw.LineWork().to.y, 100);
@@ -151,7 +167,7 @@ TEST_F(Board, ShiftKeepsToStepsOf45Degrees) {
 }
 
 TEST_F(Board, EscapeAndBackspaceDropTheLineInWork) {
-  draw.PickTool(1);
+  draw.PickTool(PlanTool::Measuring);
   for (const char* key : {"Escape", "Backspace"}) {
     draw.Press({10, 10}, false);
     draw.Release({10, 10}, false);
@@ -163,7 +179,7 @@ TEST_F(Board, EscapeAndBackspaceDropTheLineInWork) {
 }
 
 TEST_F(Board, APlanIsMeasuredWithTheKeysAlone) {
-  draw.PickTool(1);
+  draw.PickTool(PlanTool::Measuring);
   Stroke("Space");
   for (int i = 0; i < 20; ++i) Stroke("Right");
   EXPECT_EQ(draw.LineWork().text, "2.5 inches");
@@ -175,9 +191,37 @@ TEST_F(Board, APlanIsMeasuredWithTheKeysAlone) {
   EXPECT_DOUBLE_EQ(draw.CrossHair().y, before.y + 0.5);
 }
 
+// Painting only reads: the running length is worked out when the line or the scale changes.
+TEST_F(Board, LookingAtTheLineInWorkAsksNobody) {
+  int asked = 0;
+  draw.onLineRunning = [&](double& length, QString& label) {
+    ++asked;
+    length *= 4;
+    label = "feet";
+  };
+  draw.PickTool(PlanTool::Measuring);
+  draw.Press({100, 100}, false);
+  draw.Move({172, 100}, false);
+  const int before = asked;
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(draw.LineWork().text, "4.0 feet");
+  EXPECT_EQ(asked, before);
+  draw.onLineRunning = [&](double& length, QString& label) {
+    length *= 8;
+    label = "feet";
+  };
+  draw.ScaleChanged();
+  EXPECT_EQ(draw.LineWork().text, "8.0 feet");
+}
+
+TEST_F(Board, AMarkHasThePenOfTheMomentItWasDrawn) {
+  draw.onLineMeasured = [this](double&, QString&) { draw.SetMarkColour("000000255"); };
+  draw.DrawLine({0, 0}, {72, 0});
+  EXPECT_EQ(draw.Marks()[0].colour, "255000000");
+}
+
 TEST_F(Board, CirclesAreCountedOverAllPages) {
-  draw.pagesOfNewFile = 2;
-  draw.OpenFile("a.pdf", "");
+  engine.pages = 2;
+  Open("a.pdf");
   draw.PlaceCircle({20, 20});
   draw.SetPage(2);
   draw.PlaceCircle({20, 20});
@@ -205,34 +249,32 @@ TEST_F(Board, MarksAreListedNewestFirstTakenBackAndBroughtBack) {
 }
 
 TEST_F(Board, PickingTheToolAgainRaisesTheModeAgain) {
-  draw.PickTool(1);
-  draw.PickTool(1);
-  draw.PickTool(0);
-  EXPECT_EQ(modes, (std::vector<int>{1, 1, 0}));
-  draw.PickTool(5);
-  EXPECT_EQ(draw.Tool(), 0);
+  draw.PickTool(PlanTool::Measuring);
+  draw.PickTool(PlanTool::Measuring);
+  draw.PickTool(PlanTool::None);
+  EXPECT_EQ(modes,
+            (std::vector<PlanTool>{PlanTool::Measuring, PlanTool::Measuring, PlanTool::None}));
+  EXPECT_EQ(draw.Tool(), PlanTool::None);
 }
 
 TEST_F(Board, OpeningAPlanReleasesTheTool) {
-  draw.PickTool(1);
-  draw.OpenFile("a.pdf", "");
-  EXPECT_EQ(draw.Tool(), 0);
-  EXPECT_EQ(modes, (std::vector<int>{1, 0}));
+  draw.PickTool(PlanTool::Measuring);
+  Open("a.pdf");
+  EXPECT_EQ(draw.Tool(), PlanTool::None);
+  EXPECT_EQ(modes, (std::vector<PlanTool>{PlanTool::Measuring, PlanTool::None}));
 }
 
 TEST_F(Board, OnlyTheUsersScrollingRaisesScrolled) {
-  draw.SetViewValue(0, 30);
+  draw.SetViewValue(ViewPart::Horizontal, 30);
   EXPECT_EQ(scrolls, 0);
   draw.ScrollBy(70, 50);
   EXPECT_EQ(scrolls, 1);
-  EXPECT_EQ(draw.ViewValue(0), 100);
-  EXPECT_EQ(draw.ViewValue(1), 50);
+  EXPECT_EQ(draw.ViewValue(ViewPart::Horizontal), 100);
+  EXPECT_EQ(draw.ViewValue(ViewPart::Vertical), 50);
   draw.ScrollBy(-1000, -1000);
-  EXPECT_EQ(draw.ViewValue(0), 0);
+  EXPECT_EQ(draw.ViewValue(ViewPart::Horizontal), 0);
   draw.ScrollBy(-1, 0);
   EXPECT_EQ(scrolls, 2);
-  draw.SetViewValue(7, 3);
-  EXPECT_EQ(draw.ViewValue(7), 0);
 }
 
 TEST_F(Board, ACheckedDimensionLeavesNoMark) {
@@ -264,23 +306,23 @@ TEST_F(Board, NotANumberIsPassedOver) {
 }
 
 TEST_F(Board, SavedMarksComeBack) {
-  draw.OpenFile("a.pdf", "");
+  Open("a.pdf");
   draw.DrawLine({0, 0}, {72, 0});
   EXPECT_TRUE(draw.HasUnsavedMarks());
-  EXPECT_EQ(draw.SaveAs("b-Marked.pdf"), 0);
+  EXPECT_EQ(draw.SaveAs(Path("b-Marked.pdf")), 0);
   EXPECT_EQ(draw.ShownFile(), "b-Marked.pdf");
   EXPECT_FALSE(draw.HasUnsavedMarks());
-  draw.OpenFile("a.pdf", "");
+  Open("a.pdf");
   EXPECT_TRUE(draw.Marks().empty());
-  draw.OpenFile("b-Marked.pdf", "");
+  Open("b-Marked.pdf");
   EXPECT_EQ(draw.Marks().size(), 1U);
 }
 
 TEST_F(Board, AFailedOpenShowsABlankSheetWithNothingToSave) {
-  draw.openResult = 57;
-  EXPECT_EQ(draw.OpenFile("bad.pdf", ""), 57);
+  engine.openError = 57;
+  EXPECT_EQ(Open("bad.pdf"), 57);
   EXPECT_EQ(draw.PageCount(), 1);
   EXPECT_EQ(draw.ShownFile(), "");
   EXPECT_FALSE(draw.Problem().isEmpty());
-  EXPECT_EQ(draw.SaveAs("x.pdf"), 53);
+  EXPECT_EQ(draw.SaveAs(Path("x.pdf")), 53);
 }

@@ -2,6 +2,7 @@
 
 #include "plans/ostfixture.h"
 #include "plans/planname.h"
+#include "records/markedplan.h"
 
 namespace tamo::test {
 namespace {
@@ -91,26 +92,35 @@ TEST(PlanName, IsCutAtTheLastPointAndLosesOneMark) {
 }
 
 TEST(PlanName, OfTheMarkedCopyIsTheOneThatTheRecordKeeps) {
+  const ProjectFolder project("P/", "/");
   QString refusal;
-  EXPECT_EQ(MarkedName("E:\\Jobs\\Floor2.PDF", refusal), "Floor2-Marked.pdf");
-  EXPECT_EQ(MarkedName("/p/Floor2-Marked.pdf", refusal), "Floor2-Marked.pdf");
-  EXPECT_EQ(MarkedName("/p/Floor2.PDF.pdf", refusal), "Floor2-Marked.pdf");
-  EXPECT_EQ(MarkedName("/p/Floor2-Marked-Marked.pdf", refusal), "Floor2-Marked.pdf");
-  EXPECT_EQ(MarkedName("/p/Floor-Marked-Up.pdf", refusal), "Floor-Marked-Up-Marked.pdf");
+  EXPECT_EQ(MarkedCopyOf("E:\\Jobs\\Floor2.PDF", project, refusal), "P/Plans/Floor2-Marked.pdf");
+  EXPECT_EQ(MarkedCopyOf("/p/Floor2-Marked.pdf", project, refusal), "P/Plans/Floor2-Marked.pdf");
+  EXPECT_EQ(MarkedCopyOf("/p/Floor2.PDF.pdf", project, refusal), "P/Plans/Floor2-Marked.pdf");
+  EXPECT_EQ(MarkedCopyOf("/p/Floor2-Marked-Marked.pdf", project, refusal),
+            "P/Plans/Floor2-Marked.pdf");
+  EXPECT_EQ(MarkedCopyOf("/p/Floor-Marked-Up.pdf", project, refusal),
+            "P/Plans/Floor-Marked-Up-Marked.pdf");
   EXPECT_TRUE(refusal.isEmpty());
+  for (const char* path : {"/p/Floor2.tif", "/p/a.PDF.pdf-Marked.pdf", "/p/Floor-Marked.Rev.pdf"}) {
+    const QString copy = MarkedCopyOf(path, project, refusal);
+    EXPECT_EQ(MarkedPlanPath(copy, project), copy) << path << ": the record changes nothing";
+  }
 }
 
 TEST(PlanName, ThatNoFileCanHaveIsRefusedWithAReason) {
+  const ProjectFolder project("P/", "/");
   const QString names[] = {QStringLiteral("/p/"), QStringLiteral("/p/.pdf"),
                            QStringLiteral("/p/a\nb.pdf"),
                            QStringLiteral("/p/") + QString(300, QLatin1Char('x'))};
   for (const QString& name : names) {
     QString refusal;
-    EXPECT_EQ(MarkedName(name, refusal), "") << name.toStdString();
+    EXPECT_EQ(MarkedCopyOf(name, project, refusal), "") << name.toStdString();
     EXPECT_FALSE(refusal.isEmpty());
   }
   QString refusal;
-  EXPECT_EQ(MarkedName("/p/...pdf", refusal), "..-Marked.pdf") << "dots within a name mean nothing";
+  EXPECT_EQ(MarkedCopyOf("/p/...pdf", project, refusal), "P/Plans/..-Marked.pdf")
+      << "dots within a name mean nothing";
 }
 
 TEST(PlanName, AboutIsKnownWhateverItsFolder) {

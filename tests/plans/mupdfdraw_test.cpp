@@ -1,4 +1,4 @@
-#include "plans/mupdfdraw.h"
+#include "plans/pdfdraw.h"
 
 #include <cmath>
 
@@ -103,7 +103,7 @@ TEST_F(RealPlan, AMarkComesBackAsItWasDrawn) {
 TEST_F(RealPlan, OtherProgramsShowAMarkAndNoLongerWhenItIsRemoved) {
   for (const char* page : {"/MediaBox[0 0 612 792]", "/MediaBox[0 0 612 792]/Rotate 90",
                            "/MediaBox[50 60 662 852]/CropBox[60 70 600 800]/Rotate 270"}) {
-    draw = std::make_unique<MuPdfDraw>(files);
+    draw = std::make_unique<PdfDraw>(files, engine);
     ASSERT_EQ(draw->OpenFile(Write("a.pdf", MakePdf({{page, "q Q"}})), ""), 0);
     const QString marked = Path("a-Marked.pdf");
     draw->SetMarkColour("255000000");
@@ -242,7 +242,7 @@ TEST_F(RealPlan, AnEncryptedPlanWithoutAPasswordHoldsMarks) {
     const Ran ran = Run("qpdf", arguments);
     if (!ran.present) GTEST_SKIP() << "qpdf is not here";
     ASSERT_EQ(ran.exit, 0) << ran.output.toStdString();
-    draw = std::make_unique<MuPdfDraw>(files);
+    draw = std::make_unique<PdfDraw>(files, engine);
     ASSERT_EQ(draw->OpenFile(path, ""), 0) << draw->Problem().toStdString();
     draw->onLineMeasured = [](double& length, QString& label) {
       length = 10;

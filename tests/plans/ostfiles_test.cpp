@@ -45,7 +45,7 @@ TEST_F(PlanFiles, ADriveSetsFolderAndFileList) {
 }
 
 TEST_F(PlanFiles, ADoubleClickShowsStepOneAndPageOneInTheFields) {
-  viewer.pagesOfNewFile = 3;
+  engine.pages = 3;
   ost.ZoomLevel.SetText("7");
   Pick("Jobs/Floor2.PDF", true);
   EXPECT_EQ(ost.Mode.Text(), "Released");
@@ -98,11 +98,11 @@ TEST_F(PlanFiles, AFolderIsNoPlan) {
 }
 
 TEST_F(PlanFiles, ADamagedPlanShowsTheBlankPageAndSaysWhy) {
-  viewer.openResult = kFileOther;
+  engine.openError = kFileOther;
   Pick("Jobs/Floor2.PDF");
   EXPECT_EQ(Location(), "");
   EXPECT_TRUE(ost.PlanProblem.Caption().contains("Floor2.PDF"));
-  viewer.openResult = 0;
+  engine.openError = 0;
   Pick("Jobs/Floor2.PDF");
   EXPECT_EQ(ost.PlanProblem.Caption(), "");
   EXPECT_EQ(Location(), PathText("Jobs/Floor2.PDF"));
@@ -122,7 +122,7 @@ TEST_F(PlanFiles, ADoubleMarkIsCutBackToOneOnlyInModeTwo) {
 
 TEST_F(PlanFiles, WithNoPlanOnlyThePageIsWritten) {
   ost.LoadPDF();
-  EXPECT_TRUE(viewer.calls.empty());
+  EXPECT_TRUE(engine.calls.isEmpty());
   EXPECT_TRUE(keeper.loads.isEmpty());
   EXPECT_EQ(ost.PageText.Text(), "1/1");
   EXPECT_EQ(ost.ProjectName.Text(), "Clinic");
@@ -133,7 +133,7 @@ TEST_F(PlanFiles, APickedPlanStaysWhenTheRecordNamesAnother) {
   Pick("Jobs/Floor2.PDF");  // the keeper leaves all as it is
   EXPECT_EQ(Location(), PathText("Jobs/Floor2.PDF"));
   EXPECT_EQ(ost.Scale2.Text(), "50");
-  EXPECT_EQ(viewer.UnitIndex(), PdfDraw::Millimetres) << "the scale in the fields stays in force";
+  EXPECT_EQ(viewer.Unit(), PaperUnit::Millimetres) << "the scale in the fields stays in force";
   EXPECT_EQ(ost.ScaleInForce.Caption(), "1 mm = 50 ft");
 }
 
@@ -141,7 +141,7 @@ TEST_F(PlanFiles, AfterAnInchScaleOpeningAnotherPlanEndsTheMillimetres) {
   Choose("OneFifty");
   Choose("Quarter");
   Pick("Jobs/Floor2.PDF");
-  EXPECT_EQ(viewer.UnitIndex(), PdfDraw::Inches);
+  EXPECT_EQ(viewer.Unit(), PaperUnit::Inches);
   EXPECT_EQ(viewer.UnitName(), "feet");
   EXPECT_EQ(ost.ScaleInForce.Caption(), "1/4\" = 1'");
 }
@@ -169,7 +169,7 @@ TEST_F(PlanFiles, LoadFnReturnsAtOnceWhenNoRecordIsRead) {
   ost.PlanLocation.SetText("x");
   ost.LoadFN();
   EXPECT_EQ(Location(), "x");
-  EXPECT_TRUE(viewer.calls.empty());
+  EXPECT_TRUE(engine.calls.isEmpty());
 }
 
 TEST_F(PlanFiles, LoadFnOpensTheProjectsCopyWhateverPathStandsThere) {
@@ -212,11 +212,11 @@ TEST_F(PlanFiles, AboutIsShownByNameAndGetsNoMarkedCopy) {
   ost.Scale1.SetText("1/4");
   ost.Scale2.SetText("1");
   viewer.DrawLine({1, 1}, {100, 1});
-  viewer.calls.clear();
+  engine.calls.clear();
   keeper.asked = 0;
   Choose("Save");
   ost.SaveIt();
-  EXPECT_TRUE(viewer.calls.empty());
+  EXPECT_TRUE(engine.calls.isEmpty());
   EXPECT_EQ(keeper.asked, 0);
   EXPECT_FALSE(OnDisk("Tamo/Projects/00-2112002/Plans/About-Marked.pdf"));
 }
@@ -257,17 +257,18 @@ TEST_F(PlanFiles, SaveItHasTheSameTarget) {
 TEST_F(PlanFiles, WithoutAPlanNothingIsSaved) {
   Choose("Save");
   ost.SaveIt();
-  EXPECT_TRUE(viewer.calls.empty());
+  EXPECT_TRUE(engine.calls.isEmpty());
   EXPECT_EQ(keeper.asked, 0);
 }
 
 TEST_F(PlanFiles, TheBlankPageIsNeverSavedAsAPlan) {
   ost.OpenBlank();
-  viewer.calls.clear();
+  engine.calls.clear();
   ost.PlanLocation.SetText(Path("Jobs/Floor2.PDF"));
   Choose("Save");
   ost.SaveIt();
-  EXPECT_TRUE(viewer.calls.empty());
+  EXPECT_TRUE(engine.calls.isEmpty());
+  EXPECT_FALSE(OnDisk(kMarked));
 }
 
 TEST_F(PlanFiles, ATypedPathThatWasNotEnteredTakesNoOtherPlansMarks) {
@@ -303,7 +304,7 @@ TEST_F(PlanFiles, SaveItHasNoFolderForUnknownIds) {
 TEST_F(PlanFiles, ACopyThatCantBeWrittenWaitsAndIsTriedAgain) {
   Pick("Jobs/Floor2.PDF");
   viewer.DrawLine({1, 1}, {100, 1});
-  viewer.saveResult = kDiskFull;
+  engine.updateError = kDiskFull;
   messages.texts.clear();
   ost.SaveIt();
   EXPECT_FALSE(OnDisk(kMarked));
@@ -312,7 +313,7 @@ TEST_F(PlanFiles, ACopyThatCantBeWrittenWaitsAndIsTriedAgain) {
   EXPECT_TRUE(files.Notice().contains("Floor2-Marked.pdf"));
   EXPECT_FALSE(ost.PlanProblem.Caption().isEmpty());
   EXPECT_EQ(viewer.Marks().size(), 1U);
-  viewer.saveResult = 0;
+  engine.updateError = 0;
   files.SaveText(Path("Tamo/Project.num"), "next save of anything");
   EXPECT_TRUE(OnDisk(kMarked));
   EXPECT_TRUE(files.Notice().isEmpty());
@@ -324,10 +325,10 @@ TEST_F(PlanFiles, AWaitingCopyIsNeverWrittenFromAnotherPlan) {
   Put("Jobs/Other.pdf");
   Pick("Jobs/Floor2.PDF");
   viewer.DrawLine({1, 1}, {100, 1});
-  viewer.saveResult = kDiskFull;
+  engine.updateError = kDiskFull;
   ost.SaveIt();
   Pick("Jobs/Other.pdf");
-  viewer.saveResult = 0;
+  engine.updateError = 0;
   EXPECT_TRUE(files.TryAgain());
   EXPECT_FALSE(OnDisk(kMarked));
   EXPECT_TRUE(files.Notice().isEmpty());
@@ -337,9 +338,9 @@ TEST_F(PlanFiles, LeavingAPlanTriesItsWaitingCopyOnceMore) {
   Put("Jobs/Other.pdf");
   Pick("Jobs/Floor2.PDF");
   viewer.DrawLine({1, 1}, {100, 1});
-  viewer.saveResult = kDiskFull;
+  engine.updateError = kDiskFull;
   ost.SaveIt();
-  viewer.saveResult = 0;
+  engine.updateError = 0;
   Pick("Jobs/Other.pdf");
   EXPECT_TRUE(OnDisk(kMarked));
 }
@@ -355,7 +356,7 @@ TEST_F(PlanFiles, OpeningRemembersTheFoldersOfTheBrowser) {
 TEST_F(PlanFiles, TheBrowserStartsAtTheRememberedFolders) {
   EXPECT_EQ(ost.Dir1.Folder(), shared.zDir) << "with no Path.tam at the program folder";
   Put("Tamo/Plans/Path.tam", (Path("Jobs") + "\r\n" + Path("Other") + "\r\n").toUtf8());
-  ost.StartBrowser();
+  ost.Load();
   EXPECT_EQ(ost.Dir1.Folder(), Path("Jobs"));
   EXPECT_EQ(ost.File1.Folder(), Path("Other"));
 }

@@ -4,15 +4,14 @@
 
 #include <QDir>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <set>
 
 #include "common/failure.h"
 #include "common/kit.h"
-#include "plans/fakepdfdraw.h"
 #include "plans/ostform.h"
-#include "support/doubles.h"
-#include "support/faultdisk.h"
+#include "plans/pdfdraw.h"
+#include "support/fakeplanengine.h"
+#include "support/room.h"
 
 namespace tamo::test {
 
@@ -68,11 +67,9 @@ class RecordingTakeoff : public TakeoffFields {
   QStringList calls;
 };
 
-class OstTest : public ::testing::Test {
+class OstTest : public ::testing::Test, public FormRoom {
  protected:
   OstTest() {
-    shared.Separator = QStringLiteral("/");
-    shared.zDir = Path("program");
     shared.DataPath = Path("Tamo/");
     shared.JobID = QStringLiteral("00-2112002");
     shared.JobName = QStringLiteral("Clinic");
@@ -80,22 +77,14 @@ class OstTest : public ::testing::Test {
     for (const char* folder :
          {"program", "Tamo/Plans", "Tamo/Projects/00-2112002/Plans", "Jobs", "Other"})
       QDir().mkpath(Path(folder));
-    for (const char* file : {"program/Blank.pdf", "program/About.pdf"}) Put(file);
+    for (const char* file : {"program/Blank.pdf", "program/About.pdf", "Jobs/a.pdf"}) Put(file);
     keeper.form = &ost;
-    viewer.onWriteFile = [this](const QString& path, const QByteArray& content) {
-      int handle = -1;
-      if (const int error = disk.OpenNew(path, handle)) return error;
-      disk.Write(handle, content);
-      return disk.Close(handle);
-    };
     ost.Load();
     ost.Show();
-    viewer.calls.clear();
+    engine.calls.clear();
     keeper.saves = keeper.asked = 0;
   }
 
-  QString Path(const QString& name) const { return dir.path() + QLatin1Char('/') + name; }
-  QString Path(const char* name) const { return Path(QString::fromUtf8(name)); }
   void Put(const char* name, const QByteArray& bytes = "%PDF-1.4\n") {
     int handle = -1;
     ASSERT_EQ(disk.OpenNew(Path(name), handle), kNoError);
@@ -131,19 +120,8 @@ class OstTest : public ::testing::Test {
   std::string Location() { return ost.PlanLocation.Text().toStdString(); }
   std::string PathText(const char* name) { return Path(name).toStdString(); }
 
-  QTemporaryDir dir;
-  FaultDisk disk;
-  FixedClock clock;
-  ScriptedMessages messages;
-  RecordingPrinter printer;
-  RecordingClipboard clipboard;
-  Platform platform{disk,      clock,           messages, printer,
-                    clipboard, Path("program"), Path(""), Path("config")};
-  Desk desk{messages};
-  Files files{disk};
-  SharedFields shared;
-  Kit kit{desk, files, shared, platform};
-  FakePdfDraw viewer;
+  FakePlanEngine engine;
+  PdfDraw viewer{files, engine};
   RecordingKeeper keeper{shared};
   RecordingTakeoff takeoff;
   OSTForm ost{kit, viewer, keeper, takeoff};

@@ -180,7 +180,7 @@ TEST_F(HandOver, EnterOnThePlanReturnsTheFocus) {
 
 TEST_F(HandOver, TheRunningLengthHandsNothingOver) {
   WaitFor("RL");
-  viewer.PickTool(PdfDraw::Measuring);
+  viewer.PickTool(PlanTool::Measuring);
   viewer.Press({100, 100}, false);
   viewer.Move({280, 100}, false);
   EXPECT_EQ(viewer.LineWork().text, "10.0 feet @ 1/4\"=1'");
@@ -219,7 +219,7 @@ TEST_F(HandOver, ACheckMeasuresWithoutAMark) {
   desk.UserFocus(ost.KnownDimension);
   desk.TypeText(ost.KnownDimension, "8");
   Click(ost.CheckDimension);
-  EXPECT_EQ(viewer.Tool(), PdfDraw::Measuring);
+  EXPECT_EQ(viewer.Tool(), PlanTool::Measuring);
   EXPECT_EQ(desk.Focused(), &ost.picPdfDraw);
   Draw(180);
   EXPECT_TRUE(viewer.Marks().empty());

@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-#include "plans/filetail.h"
 #include "plans/makepdf.h"
+#include "support/memoryreader.h"
 
 using namespace tamo;
 using namespace tamo::test;

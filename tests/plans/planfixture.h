@@ -11,7 +11,9 @@
 
 #include "common/files.h"
 #include "plans/makepdf.h"
-#include "plans/mupdfdraw.h"
+#include "plans/mupdfcontexts.h"
+#include "plans/mupdfengine.h"
+#include "plans/pdfdraw.h"
 #include "support/faultdisk.h"
 
 namespace tamo::test {
@@ -21,7 +23,8 @@ struct PlanFixture : ::testing::Test {
   QTemporaryDir folder;
   FaultDisk disk;
   Files files{disk};
-  std::unique_ptr<MuPdfDraw> draw = std::make_unique<MuPdfDraw>(files);
+  MuPdfEngine engine;
+  std::unique_ptr<PdfDraw> draw = std::make_unique<PdfDraw>(files, engine);
 
   QString Path(const QString& name) const { return folder.filePath(name); }
   QString Write(const QString& name, const QByteArray& bytes) const {
@@ -36,7 +39,7 @@ struct PlanFixture : ::testing::Test {
     return file.readAll();
   }
   void Reopen(const QString& path) {
-    draw = std::make_unique<MuPdfDraw>(files);
+    draw = std::make_unique<PdfDraw>(files, engine);
     ASSERT_EQ(draw->OpenFile(path, ""), 0) << draw->Problem().toStdString();
   }
 

@@ -3,6 +3,7 @@
 #include "common/failure.h"
 #include "plans/filetail.h"
 #include "plans/planfixture.h"
+#include "support/memoryreader.h"
 
 using namespace tamo;
 using namespace tamo::test;
@@ -21,7 +22,7 @@ struct PlanSave : PlanFixture {
     ASSERT_EQ(draw->SaveAs(marked), 0) << draw->Problem().toStdString();
   }
   size_t MarksOnDisk() {
-    MuPdfDraw other(files);
+    PdfDraw other(files, engine);
     EXPECT_EQ(other.OpenFile(marked, ""), 0) << other.Problem().toStdString();
     return other.Marks().size();
   }
@@ -77,7 +78,7 @@ TEST_F(PlanSave, ATornTailIsCutBackAtTheNextOpeningWhereverItWasTorn) {
   for (qsizetype cut = first.size() + 1; cut < second.size();
        cut += cut < first.size() + 30 || cut > second.size() - 60 ? 1 : 37) {
     Write("Floor2-Marked.pdf", second.left(cut));
-    MuPdfDraw after(files);
+    PdfDraw after(files, engine);
     ASSERT_EQ(after.OpenFile(marked, ""), 0) << "cut at " << cut - first.size();
     // Only the last line end may be missing from a whole state.
     const bool whole = cut >= second.size() - 1;
@@ -109,7 +110,7 @@ TEST_F(PlanSave, ATailWhoseBlocksNeverReachedTheDiskIsCutBack) {
        {zeroed(0, added), zeroed(0, added / 2), zeroed(added / 2, added / 2), zeroed(40, 100),
         zeroed(added - 1, 1)}) {
     Write("Floor2-Marked.pdf", torn);
-    MuPdfDraw after(files);
+    PdfDraw after(files, engine);
     ASSERT_EQ(after.OpenFile(marked, ""), 0);
     if (torn.endsWith('\0') && torn.count('\0') == first.count('\0') + 1) continue;
     EXPECT_EQ(after.Marks().size(), 1U);
@@ -123,14 +124,14 @@ TEST_F(PlanSave, WhatAnotherProgramDamagedIsNotCut) {
   draw.reset();
   for (const QByteArray& junk : {QByteArray("<!-- mail gateway -->"), QByteArray(3000, 'j')}) {
     Write("Floor2-Marked.pdf", whole + junk);
-    MuPdfDraw after(files);
+    PdfDraw after(files, engine);
     ASSERT_EQ(after.OpenFile(marked, ""), 0);
     EXPECT_EQ(Read(marked), whole + junk);
     EXPECT_EQ(after.Marks().size(), 1U);
   }
   const QByteArray foreign = MakePdf({PdfPage()});
   Write("other.pdf", foreign + QByteArray(512, '\0'));
-  MuPdfDraw after(files);
+  PdfDraw after(files, engine);
   ASSERT_EQ(after.OpenFile(Path("other.pdf"), ""), 0);
   EXPECT_EQ(Read(Path("other.pdf")).size(), foreign.size() + 512);
 }
@@ -140,7 +141,7 @@ TEST_F(PlanSave, EveryStepOfASaveMayFailAndTheOldStateStays) {
   const QByteArray before = Read(marked);
   for (int step = 1; step <= 8; ++step) {
     for (const int error : {kDiskFull, kNoAccess, kFileOther}) {
-      draw = std::make_unique<MuPdfDraw>(files);
+      draw = std::make_unique<PdfDraw>(files, engine);
       Write("Floor2-Marked.pdf", before);
       ASSERT_EQ(draw->OpenFile(marked, ""), 0);
       draw->DrawLine({100, 120}, {200, 120});
@@ -165,7 +166,7 @@ TEST_F(PlanSave, EveryStepOfASaveMayFailAndTheOldStateStays) {
 
 TEST_F(PlanSave, EveryStepOfTheFirstCopyMayFailAndNothingHalfIsLeft) {
   for (int step = 1; step <= 10; ++step) {
-    draw = std::make_unique<MuPdfDraw>(files);
+    draw = std::make_unique<PdfDraw>(files, engine);
     QFile::remove(marked);
     ASSERT_EQ(draw->OpenFile(Write("Floor2.PDF", MakePdf({PdfPage()})), ""), 0);
     draw->DrawLine({100, 100}, {200, 100});
@@ -213,7 +214,7 @@ TEST_F(PlanSave, APlanThatVanishesWhileItIsOpenIsWrittenAgain) {
 TEST_F(PlanSave, WhatAnotherProgramSavedMeanwhileIsKept) {
   Begin(2);
   {
-    MuPdfDraw other(files);
+    PdfDraw other(files, engine);
     ASSERT_EQ(other.OpenFile(marked, ""), 0);
     other.DrawLine({300, 300}, {400, 300});
     ASSERT_EQ(other.SaveAs(marked), 0);

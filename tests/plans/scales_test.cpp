@@ -132,7 +132,7 @@ TEST_F(ScaleMenu, OneHundredAfterAMetricScaleStaysOnMillimetres) {
   Choose("OneFifty");
   Choose("OneHundred");
   EXPECT_EQ(ost.Text5.Text().toStdString(), kMmText);
-  EXPECT_EQ(viewer.UnitIndex(), PdfDraw::Millimetres);
+  EXPECT_EQ(viewer.Unit(), PaperUnit::Millimetres);
   EXPECT_EQ(ost.Scale2.Text(), "100");
   EXPECT_EQ(keeper.record.text5.toStdString(), kMmText);
   EXPECT_EQ(ost.ScaleInForce.Caption(), "1\" = 100' - viewer still in mm");
@@ -155,10 +155,10 @@ TEST_F(ScaleMenu, OneSevenHundredFiftyChangesNothing) {
 
 TEST_F(ScaleMenu, TheUnitTextSetsTheViewersUnit) {
   Choose("OneFifty");
-  EXPECT_EQ(viewer.UnitIndex(), PdfDraw::Millimetres);
+  EXPECT_EQ(viewer.Unit(), PaperUnit::Millimetres);
   EXPECT_EQ(viewer.UnitName(), "mm");
   Choose("OneFiftyC");
-  EXPECT_EQ(viewer.UnitIndex(), PdfDraw::Centimetres);
+  EXPECT_EQ(viewer.Unit(), PaperUnit::Centimetres);
   EXPECT_EQ(viewer.UnitName(), "cm");
   EXPECT_EQ(ost.ScaleInForce.Caption(), "1 cm = 50 ft");
   EXPECT_FALSE(ost.SetInches.Shown());
@@ -167,12 +167,12 @@ TEST_F(ScaleMenu, TheUnitTextSetsTheViewersUnit) {
 TEST_F(ScaleMenu, AnInchScaleAfterAMetricOneLeavesTheViewerInMillimetresAndSaysSo) {
   Choose("OneFifty");
   Choose("Quarter");
-  EXPECT_EQ(viewer.UnitIndex(), PdfDraw::Millimetres);
+  EXPECT_EQ(viewer.Unit(), PaperUnit::Millimetres);
   EXPECT_EQ(viewer.UnitName(), "mm");
   EXPECT_EQ(ost.ScaleInForce.Caption(), "1/4\" = 1' - viewer still in mm");
   ASSERT_TRUE(ost.SetInches.Shown());
   Click(ost.SetInches);
-  EXPECT_EQ(viewer.UnitIndex(), PdfDraw::Inches);
+  EXPECT_EQ(viewer.Unit(), PaperUnit::Inches);
   EXPECT_EQ(viewer.UnitName(), "feet");
   EXPECT_EQ(ost.ScaleInForce.Caption(), "1/4\" = 1'");
   EXPECT_FALSE(ost.SetInches.Shown());
@@ -182,7 +182,7 @@ TEST_F(ScaleMenu, SetInchesAfterOneHundredAlsoCorrectsTheRecord) {
   Choose("OneFifty");
   Choose("OneHundred");
   Click(ost.SetInches);
-  EXPECT_EQ(viewer.UnitIndex(), PdfDraw::Inches);
+  EXPECT_EQ(viewer.Unit(), PaperUnit::Inches);
   EXPECT_EQ(keeper.record.text5.toStdString(), kQuoteText);
   EXPECT_EQ(ost.ScaleInForce.Caption(), "1\" = 100'");
 }

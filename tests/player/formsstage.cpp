@@ -151,7 +151,7 @@ void FormsStage::GoToPlan() {
 
 void FormsStage::PlanMode(int mode) {
   GoToPlan();
-  GetDesk().Dispatch([&] { played_->Viewer().PickTool(mode); });
+  GetDesk().Dispatch([&] { played_->Viewer().PickTool(static_cast<PlanTool>(mode)); });
 }
 
 void FormsStage::PlanLine(PagePoint from, PagePoint to) {
@@ -187,6 +187,11 @@ void FormsStage::PlanScroll(double dx, double dy) {
 void FormsStage::PlanPage(int page) {
   GoToPlan();
   GetDesk().Dispatch([&] { played_->Viewer().TurnPage(page); });
+}
+
+void FormsStage::PlanBox(PagePoint from, PagePoint to) {
+  GoToPlan();
+  GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
 }
 
 }  // namespace tamo::player

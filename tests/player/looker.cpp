@@ -90,7 +90,7 @@ bool Looker::LookAtPlan(const QString& word, QString& text) {
       text = marks.join(QStringLiteral("\r\n"));
       break;
     case 1:
-      text = QString::number(viewer.Tool());
+      text = QString::number(static_cast<int>(viewer.Tool()));
       break;
     case 2:
       text = viewer.MarkColour();

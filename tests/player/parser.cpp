@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "support/planstroke.h"
+
 namespace tamo::player {
 namespace {
 
@@ -79,7 +81,7 @@ struct PlanVerb {
 constexpr PlanVerb kPlanVerbs[] = {
     {"mode", Act::PlanMode, 0},   {"line", Act::PlanLine, 4}, {"circle", Act::PlanCircle, 2},
     {"press", Act::PlanPress, 2}, {"key", Act::PlanKey, -1},  {"scroll", Act::PlanScroll, 2},
-    {"page", Act::PlanPage, 0},
+    {"page", Act::PlanPage, 0},   {"box", Act::PlanBox, 4},
 };
 
 constexpr char kBlockStart[] = " <<END";
@@ -112,7 +114,7 @@ QString ParsePlan(Step& step, QString rest) {
     step.act = verb.act;
     if (verb.numbers == 0) return WholeNumber(rest, step.row);
     if (verb.numbers < 0) {
-      return PlanStrokeFromName(rest, step.stroke)
+      return test::PlanStrokeFromName(rest, step.stroke)
                  ? QString()
                  : QStringLiteral("there is no key \"%1\" on the plan").arg(rest);
     }

@@ -4,7 +4,7 @@ namespace tamo::player {
 
 ProgramPlayed::ProgramPlayed(const Platform& platform)
     : planFiles_(platform.disk),
-      viewer_(std::make_unique<MuPdfDraw>(planFiles_)),
+      viewer_(std::make_unique<PdfDraw>(planFiles_, engine_)),
       program_(std::make_unique<Program>(platform, *viewer_)) {}
 
 ProgramPlayed::~ProgramPlayed() = default;

@@ -3,7 +3,8 @@
 #include <memory>
 
 #include "common/files.h"
-#include "plans/mupdfdraw.h"
+#include "plans/mupdfengine.h"
+#include "plans/pdfdraw.h"
 #include "player/played.h"
 #include "program/program.h"
 
@@ -34,7 +35,8 @@ class ProgramPlayed : public Played {
 
  private:
   Files planFiles_;  // of the viewer, which knows no forms
-  std::unique_ptr<MuPdfDraw> viewer_;
+  MuPdfEngine engine_;
+  std::unique_ptr<PdfDraw> viewer_;
   std::unique_ptr<Program> program_;
 };
 

@@ -118,6 +118,7 @@ void Seat::Do(const Step& step) {
     case Act::PlanKey:
     case Act::PlanScroll:
     case Act::PlanPage:
+    case Act::PlanBox:
       return DoOnPlan(step);
     default:
       return DoToControl(step);
@@ -197,7 +198,7 @@ void Seat::DoOnPlan(const Step& step) {
   const auto point = [&](size_t at) { return PagePoint{step.points[at], step.points[at + 1]}; };
   switch (step.act) {
     case Act::PlanMode:
-      if (step.row < PdfDraw::NoTool || step.row > PdfDraw::Counting)
+      if (step.row < 0 || step.row > static_cast<int>(PlanTool::Counting))
         NotUnderstood(
             QStringLiteral("there is no tool %1: 0 none, 1 measuring, 2 counting").arg(step.row));
       return stage_->PlanMode(step.row);
@@ -211,6 +212,8 @@ void Seat::DoOnPlan(const Step& step) {
       return stage_->PlanKey(step.stroke);
     case Act::PlanScroll:
       return stage_->PlanScroll(step.points[0], step.points[1]);
+    case Act::PlanBox:
+      return stage_->PlanBox(point(0), point(2));
     default:
       return stage_->PlanPage(step.row);
   }

@@ -2,8 +2,9 @@
 
 #include "common/desk.h"
 #include "common/form.h"
-#include "plans/fakepdfdraw.h"
+#include "plans/pdfdraw.h"
 #include "player/played.h"
+#include "support/fakeplanengine.h"
 
 namespace tamo::player {
 
@@ -25,7 +26,8 @@ class ToyProgram : public Played {
  private:
   Desk desk_;
   Files files_;
-  FakePdfDraw viewer_;
+  test::FakePlanEngine engine_;
+  PdfDraw viewer_{files_, engine_};
   QString secret_ = QStringLiteral("RL");
   QString folder_;
   Messages& messages_;

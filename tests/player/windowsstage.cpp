@@ -92,6 +92,7 @@ class WindowsStage : public Stage {
   void PlanKey(const PlanStroke& stroke) override;
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;
+  void PlanBox(PagePoint from, PagePoint to) override;
 
   QString Difference(bool front) override;
   bool SavePicture(Form& form, const QString& path) override;
@@ -336,7 +337,7 @@ QWidget& WindowsStage::Plan() {
 }
 
 void WindowsStage::TakeTool(int mode) {
-  if (played_->Viewer().Tool() != mode) PlanMode(mode);
+  if (played_->Viewer().Tool() != static_cast<PlanTool>(mode)) PlanMode(mode);
 }
 
 bool WindowsStage::ClickTool(const QString& caption) {
@@ -361,12 +362,12 @@ void WindowsStage::PlanMode(int mode) {
   static const QString captions[] = {QStringLiteral("Move"), QStringLiteral("Measure"),
                                      QStringLiteral("Count")};
   if (ClickTool(captions[mode])) return;
-  GetDesk().Dispatch([&] { played_->Viewer().PickTool(mode); });
+  GetDesk().Dispatch([&] { played_->Viewer().PickTool(static_cast<PlanTool>(mode)); });
 }
 
 void WindowsStage::PlanLine(PagePoint from, PagePoint to) {
   Plan();
-  TakeTool(PdfDraw::Measuring);
+  TakeTool(static_cast<int>(PlanTool::Measuring));
   if (played_->Viewer().LineWork().active) PlanKey({tamo::PlanKey::Escape});
   PressOnPlan(from, to);
   // A press without a way is the first point of a line; the second ends it.
@@ -375,7 +376,7 @@ void WindowsStage::PlanLine(PagePoint from, PagePoint to) {
 
 void WindowsStage::PlanCircle(PagePoint at) {
   Plan();
-  TakeTool(PdfDraw::Counting);
+  TakeTool(static_cast<int>(PlanTool::Counting));
   PressOnPlan(at, at);
 }
 
@@ -412,6 +413,12 @@ void WindowsStage::PlanScroll(double dx, double dy) {
 void WindowsStage::PlanPage(int page) {
   Plan();
   GetDesk().Dispatch([&] { played_->Viewer().TurnPage(page); });
+}
+
+// A box may reach beyond what the window shows of the sheet.
+void WindowsStage::PlanBox(PagePoint from, PagePoint to) {
+  Plan();
+  GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
 }
 
 // On a platform without a screen a menu that closes leaves no window active; a window system gives

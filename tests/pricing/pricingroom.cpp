@@ -5,12 +5,7 @@
 
 namespace tamo::test {
 
-PricingRoom::PricingRoom()
-    : data(folder.path() + QStringLiteral("/Tamo/")), platform{disk,          clock,
-                                                               messages,      printer,
-                                                               clipboard,     folder.path(),
-                                                               folder.path(), folder.path()} {
-  shared.Separator = PlatformSeparator();
+PricingRoom::PricingRoom() : data(folder.path() + QStringLiteral("/Tamo/")) {
   shared.DataPath = data;
   QDir().mkpath(data + QStringLiteral("Systems"));
   QDir().mkpath(data + QStringLiteral("Projects"));
@@ -89,7 +84,7 @@ void PricingRoom::Library(const QString& name, const QString& units, const QStri
   system.blocks = blocks;
   files.SaveText(MasterSystemPath(shared, name), SystemFileText(system));
   form.DescriptionsList.Add(name);
-  form.SaveDescriptions();
+  form.vocabulary.systems.Save();
 }
 
 QStringList Block(const QString& name, const QString& orderUnits, const QString& price,

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QTemporaryDir>
 #include <functional>
 
 #include "common/desk.h"
@@ -9,8 +8,7 @@
 #include "common/paths.h"
 #include "common/textlines.h"
 #include "pricing/pricingform.h"
-#include "support/doubles.h"
-#include "support/faultdisk.h"
+#include "support/room.h"
 
 namespace tamo::test {
 
@@ -40,7 +38,7 @@ struct CountingSeed : ProjectNumberSeed {
 };
 
 // A Pricing form on a data folder of its own, and a person at its keyboard.
-class PricingRoom {
+class PricingRoom : public FormRoom {
  public:
   PricingRoom();
 
@@ -69,18 +67,7 @@ class PricingRoom {
   void Library(const QString& name, const QString& units, const QString& price,
                const QStringList& blocks = {});
 
-  QTemporaryDir folder;
   QString data;
-  FaultDisk disk;
-  FixedClock clock;
-  ScriptedMessages messages;
-  RecordingPrinter printer;
-  RecordingClipboard clipboard;
-  Platform platform;
-  Desk desk{messages};
-  Files files{disk};
-  SharedFields shared;
-  Kit kit{desk, files, shared, platform};
   CountingRefresh refresh;
   CountingSettings settings;
   CountingSeed seed;

@@ -1,23 +1,16 @@
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QTemporaryDir>
-
-#include "plans/fakepdfdraw.h"
+#include "plans/pdfdraw.h"
 #include "program/program.h"
-#include "support/doubles.h"
-#include "support/faultdisk.h"
+#include "support/fakeplanengine.h"
+#include "support/room.h"
 
 namespace tamo {
 namespace {
 
-class ShellTest : public ::testing::Test {
+class ShellTest : public ::testing::Test, public test::MachineRoom {
  protected:
-  ShellTest() {
-    QDir(folder.path()).mkpath(QStringLiteral("program"));
-    QDir(folder.path()).mkpath(QStringLiteral("home"));
-    program.Start();
-  }
+  ShellTest() { program.Start(); }
 
   Form& Main() { return *program.FindForm(QStringLiteral("Tamo")); }
   Form& Ost() { return *program.FindForm(QStringLiteral("OST")); }
@@ -30,21 +23,9 @@ class ShellTest : public ::testing::Test {
     program.GetDesk().Dispatch([&] { form.FindMenu(QLatin1String(entry))->onClick(); });
   }
 
-  QTemporaryDir folder;
-  test::FaultDisk disk;
-  test::FixedClock clock;
-  test::ScriptedMessages messages;
-  test::RecordingPrinter printer;
-  test::RecordingClipboard clipboard;
-  const Platform platform{disk,
-                          clock,
-                          messages,
-                          printer,
-                          clipboard,
-                          folder.filePath(QStringLiteral("program")),
-                          folder.filePath(QStringLiteral("home")),
-                          folder.filePath(QStringLiteral("config"))};
-  FakePdfDraw viewer;
+  Files planFiles{disk};
+  test::FakePlanEngine engine;
+  PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
 };
 

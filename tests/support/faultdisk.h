@@ -23,6 +23,9 @@ class FaultDisk : public RealDisk {
   void Hide(const QString& path) { Put(hidden_, path); }
   void Unhide(const QString& path) { Take(hidden_, path); }
   void SetFull(bool full) { full_ = full; }
+  // Nothing waits for the device (and no sync counts as a step): the many saves of a test need not
+  // outlive a power cut.
+  bool quick = false;
 
   // Writing steps are counted from 1 (open, write, sync, close, rename, folder sync, make folder,
   // remove); the one with number `step` fails with `error`. 0 switches it off. `forGood`: and so do
@@ -32,6 +35,7 @@ class FaultDisk : public RealDisk {
   void ResetSteps() { steps_ = 0; }
 
   int Read(const QString& path, QByteArray& bytes) override;
+  FileStamp Stamp(const QString& path) override;
   int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
   int OpenAtEnd(const QString& path, int& handle) override;

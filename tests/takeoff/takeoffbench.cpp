@@ -8,7 +8,7 @@ namespace tamo::test {
 TakeoffTest::TakeoffTest() {
   data = folder.path() + QStringLiteral("/Tamo/");
   shared.DataPath = data;
-  shared.Separator = QStringLiteral("/");
+  disk.quick = true;
   shared.GUIText = QStringLiteral("1");
   shared.DriveBy = QStringLiteral("False");
   MakeSystem(QStringLiteral("Wall Paint"), QStringLiteral("SF"));

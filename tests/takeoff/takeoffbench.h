@@ -2,14 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
 #include "common/desk.h"
 #include "common/failure.h"
 #include "common/files.h"
 #include "common/kit.h"
-#include "support/doubles.h"
-#include "support/faultdisk.h"
+#include "support/room.h"
 #include "takeoff/adjustmentform.h"
 #include "takeoff/bottomline.h"
 #include "takeoff/estimateform.h"
@@ -53,17 +50,6 @@ class RecordingRefresh : public TakeoffReportRefresh {
   std::function<void()> onRefresh;
 };
 
-// The fault disk, which leaves out the waiting for the device: the many saves of these tests need
-// not outlive a power cut.
-class QuickDisk : public FaultDisk {
- public:
-  bool quick = true;
-  int Sync(int handle) override { return quick ? kNoError : FaultDisk::Sync(handle); }
-  int SyncFolder(const QString& path) override {
-    return quick ? kNoError : FaultDisk::SyncFolder(path);
-  }
-};
-
 // Two bare windows stand for the main form and the plan.
 class RecordingShell : public TakeoffExits {
  public:
@@ -85,7 +71,7 @@ class RecordingShell : public TakeoffExits {
 
 // The four takeoff forms on a data folder of their own, with a project open and some systems
 // priced.
-class TakeoffTest : public ::testing::Test {
+class TakeoffTest : public ::testing::Test, public FormRoom {
  protected:
   TakeoffTest();
 
@@ -129,18 +115,7 @@ class TakeoffTest : public ::testing::Test {
   QString FocusName() const;
   QStringList TakeMessages();
 
-  QTemporaryDir folder;
   QString data;
-  QuickDisk disk;
-  Files files{disk};
-  ScriptedMessages messages;
-  Desk desk{messages};
-  FixedClock clock;
-  RecordingPrinter printer;
-  RecordingClipboard clipboard;
-  SharedFields shared;
-  Platform platform{disk, clock, messages, printer, clipboard, {}, {}, {}};
-  Kit kit{desk, files, shared, platform};
   RecordingPlan plan;
   RecordingPricing pricing;
   RecordingRefresh reports;

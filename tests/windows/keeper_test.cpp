@@ -1,12 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
-#include <QTemporaryDir>
 #include <QWheelEvent>
 
-#include "plans/fakepdfdraw.h"
+#include "plans/pdfdraw.h"
 #include "program/program.h"
-#include "support/doubles.h"
+#include "support/fakeplanengine.h"
+#include "support/room.h"
 #include "windows/application.h"
 #include "windows/formwindow.h"
 #include "windows/keys.h"
@@ -23,7 +23,7 @@ namespace {
 const char* const kForms[] = {"Tamo",       "Settings",       "Pricing", "RFSForm", "EstimateForm",
                               "BottomLine", "AdjustmentForm", "OST",     "Reports", "Docs"};
 
-struct KeeperTest : test::WithApplication, testing::Test {
+struct KeeperTest : test::WithApplication, testing::Test, test::MachineRoom {
   KeeperTest() {
     ApplyLook(Look::Light());
     program.Start();
@@ -38,20 +38,12 @@ struct KeeperTest : test::WithApplication, testing::Test {
     test::Settle();
   }
 
-  QTemporaryDir home;
-  RealDisk disk;
-  test::FixedClock clock;
-  test::ScriptedMessages messages;
-  test::RecordingPrinter printer;
-  test::RecordingClipboard clipboard;
-  Platform platform{disk,        clock,
-                    messages,    printer,
-                    clipboard,   home.path() + QStringLiteral("/program"),
-                    home.path(), home.path() + QStringLiteral("/config")};
-  FakePdfDraw viewer;
+  Files planFiles{disk};
+  test::FakePlanEngine engine;
+  PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
   Desk& desk = program.GetDesk();
-  WindowKeeper windows{program, nullptr, home.path() + QStringLiteral("/windows.ini")};
+  WindowKeeper windows{program, nullptr, Path("windows.ini")};
 };
 
 TEST_F(KeeperTest, EveryControlThatALayoutNamesIsThere) {
@@ -135,14 +127,14 @@ TEST_F(KeeperTest, GoingToAnotherWindowOfTheProgramActivatesItsForm) {
 }
 
 TEST_F(KeeperTest, AnUnsavedTextIsNamedInEveryWindowUntilItIsSaved) {
-  const QString path = home.path() + QStringLiteral("/gone/Areas.tamo");
+  const QString path = Path("gone/Areas.tamo");
   program.GetFiles().SaveText(path, QStringLiteral("x"));
   Menu("Tamo", "Settings1");
   for (const char* name : {"Tamo", "Settings"}) {
     EXPECT_TRUE(windows.NoticeOf(FormOf(name))->isVisible()) << name;
     EXPECT_TRUE(Window(name).Notice().Text().contains(path)) << name;
   }
-  disk.MakeFolder(home.path() + QStringLiteral("/gone"));
+  disk.MakeFolder(Path("gone"));
   test::Press(*windows.NoticeOf(FormOf("Tamo")), QPoint(5, 5), Qt::LeftButton);
   EXPECT_FALSE(windows.NoticeOf(FormOf("Tamo"))->isVisible());
   EXPECT_TRUE(disk.Exists(path));
@@ -161,7 +153,7 @@ TEST_F(KeeperTest, ThePlaceOfAWindowIsRemembered) {
   Menu("Tamo", "Settings1");
   Window("Settings").setGeometry(40, 60, 900, 650);
   Menu("Tamo", "Settings1");
-  WindowKeeper again(program, nullptr, home.path() + QStringLiteral("/windows.ini"));
+  WindowKeeper again(program, nullptr, Path("windows.ini"));
   EXPECT_EQ(again.WindowOf(FormOf("Settings"))->size(), QSize(900, 650));
 }
 
@@ -171,7 +163,7 @@ TEST_F(KeeperTest, APlaceOnThePlanIsFoundAgainAtEveryTurnAndZoom) {
   ASSERT_NE(plan, nullptr);
   for (const int turn : {0, 90, 180, 270}) {
     for (const int zoom : {40, 100, 150, 400}) {
-      viewer.SetViewValue(PdfDraw::Rotation, turn);
+      viewer.SetViewValue(ViewPart::Rotation, turn);
       viewer.SetZoom(zoom);
       const PagePoint back = plan->PageAt(windows.PlanPlace({120.5, 700.25}));
       EXPECT_NEAR(back.x, 120.5, 1e-6) << turn << ' ' << zoom;
@@ -183,7 +175,7 @@ TEST_F(KeeperTest, APlaceOnThePlanIsFoundAgainAtEveryTurnAndZoom) {
 TEST_F(KeeperTest, ALineDrawnOnThePlanIsMeasuredInPointsOfThePaper) {
   Menu("Tamo", "OST1");
   Menu("OST", "Quarter");
-  desk.Dispatch([this] { viewer.PickTool(PdfDraw::Measuring); });
+  desk.Dispatch([this] { viewer.PickTool(PlanTool::Measuring); });
   QWidget& sheet = *dynamic_cast<PlanCanvas&>(*windows.Plan()).viewport();
   const QPointF from = windows.PlanPlace({100, 100});
   const auto send = [&sheet](QEvent::Type type, QPointF at, Qt::MouseButton button,
@@ -213,11 +205,11 @@ TEST_F(KeeperTest, ScrollingThePlanIsToldOnceWhenTheSheetRests) {
     QApplication::sendEvent(&sheet, &wheel);
   }
   EXPECT_EQ(scrolled, 0);
-  EXPECT_GT(viewer.ViewValue(PdfDraw::Vertical), 0) << "the sheet moves at once";
-  const int stood = viewer.ViewValue(PdfDraw::Vertical);
+  EXPECT_GT(viewer.ViewValue(ViewPart::Vertical), 0) << "the sheet moves at once";
+  const int stood = viewer.ViewValue(ViewPart::Vertical);
   plan.FinishScroll();
   EXPECT_EQ(scrolled, 1);
-  EXPECT_EQ(viewer.ViewValue(PdfDraw::Vertical), stood);
+  EXPECT_EQ(viewer.ViewValue(ViewPart::Vertical), stood);
   plan.FinishScroll();
   EXPECT_EQ(scrolled, 1);
 }

@@ -9,7 +9,8 @@
 #include <QWidget>
 
 #include "common/paths.h"
-#include "plans/mupdfdraw.h"
+#include "plans/mupdfengine.h"
+#include "plans/pdfdraw.h"
 #include "program/program.h"
 #include "support/doubles.h"
 #include "windows/look.h"
@@ -76,7 +77,8 @@ struct Pictures {
   QString out;
   QString suffix;
   Files planFiles{disk};
-  MuPdfDraw viewer{planFiles};
+  MuPdfEngine engine;
+  PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
   WindowKeeper windows{program, &viewer};
   Desk& desk = program.GetDesk();
@@ -179,7 +181,7 @@ void Plan(Pictures& p) {
   p.Menu("OST", "Quarter");
   p.viewer.OpenFile(p.platform.programFolder + QStringLiteral("/About.pdf"), QString());
   p.viewer.SetZoom(100);
-  p.desk.Dispatch([&] { p.viewer.PickTool(PdfDraw::Measuring); });
+  p.desk.Dispatch([&] { p.viewer.PickTool(PlanTool::Measuring); });
   p.desk.Dispatch([&] { p.viewer.DrawLine({100, 120}, {300, 120}); });
   p.desk.UserFocus(p.At("OST", "picPdfDraw"));
   p.windows.SyncNow();

@@ -1,0 +1,100 @@
+#include "plans/markedsheets.h"
+
+#include <QRandomGenerator>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tamo {
+namespace {
+
+bool IsWidth(double points) {
+  return std::isfinite(points) && points > 0 && points < 1e6;
+}
+
+}  // namespace
+
+void MarkedSheets::SetMarkColour(const QString& colour) {
+  if (IsColourCode(colour)) colour_ = colour;
+}
+
+void MarkedSheets::SetMarkWidth(double points) {
+  if (IsWidth(points)) width_ = points;
+}
+
+void MarkedSheets::SetMarkerSize(double points) {
+  if (IsWidth(points)) markerSize_ = points;
+}
+
+std::vector<Mark> MarkedSheets::Marks() const {
+  return {marks_.rbegin(), marks_.rend()};
+}
+
+void MarkedSheets::FillMarks(std::vector<Mark> marks) {
+  marks_ = std::move(marks);
+  done_.clear();
+  undone_.clear();
+  lastNumber_ = 0;
+  for (const Mark& mark : marks_) lastNumber_ = std::max(lastNumber_, MarkNumber(mark.name));
+}
+
+Mark MarkedSheets::NewMark(Mark::Kind kind, std::vector<PagePoint> points) const {
+  Mark mark;
+  mark.kind = kind;
+  mark.page = Page();
+  mark.points = std::move(points);
+  mark.colour = colour_;
+  mark.width = width_;
+  return mark;
+}
+
+void MarkedSheets::AddMark(Mark mark) {
+  mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
+  done_.push_back({true, marks_.size(), std::move(mark)});
+  undone_.clear();
+  Do(Step(done_.back()), true);
+}
+
+void MarkedSheets::DeleteMark(int index) {
+  if (index < 0 || static_cast<size_t>(index) >= marks_.size()) return;
+  const size_t at = marks_.size() - 1 - static_cast<size_t>(index);
+  done_.push_back({false, at, marks_[at]});
+  undone_.clear();
+  Do(Step(done_.back()), true);
+}
+
+bool MarkedSheets::Undo() {
+  if (done_.empty()) return false;
+  undone_.push_back(done_.back());
+  done_.pop_back();
+  Do(Step(undone_.back()), false);
+  return true;
+}
+
+bool MarkedSheets::Redo() {
+  if (undone_.empty()) return false;
+  done_.push_back(undone_.back());
+  undone_.pop_back();
+  Do(Step(done_.back()), true);
+  return true;
+}
+
+void MarkedSheets::Do(const Step& step, bool forward) {
+  const auto place = static_cast<std::ptrdiff_t>(std::min(step.at, marks_.size()));
+  const bool circle = step.mark.kind == Mark::Kind::Circle;
+  if (step.added == forward) {
+    marks_.insert(marks_.begin() + place, step.mark);
+  } else {
+    marks_.erase(marks_.begin() + place);
+  }
+  Repaint();
+  if (circle) Raise(onCircleCountChanged, CircleCount());
+}
+
+int MarkedSheets::CircleCount() const {
+  return static_cast<int>(std::count_if(marks_.begin(), marks_.end(), [](const Mark& mark) {
+    return mark.kind == Mark::Kind::Circle;
+  }));
+}
+
+}  // namespace tamo

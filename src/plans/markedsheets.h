@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "plans/mark.h"
+#include "plans/sheetview.h"
+
+namespace tamo {
+
+// The marks on the sheets, with taking back and bringing back, and the pen for new ones.
+class MarkedSheets : public SheetView {
+ public:
+  void SetMarkColour(const QString& colour);  // RRRGGGBBB; anything else is passed over
+  QString MarkColour() const { return colour_; }
+  void SetMarkWidth(double points);
+  double MarkWidth() const { return width_; }
+  void SetMarkerSize(double points);  // diameter of a counting circle
+  double MarkerSize() const { return markerSize_; }
+
+  std::vector<Mark> Marks() const;                                  // of all pages, newest first
+  const std::vector<Mark>& MarksAsDrawn() const { return marks_; }  // the same, oldest first
+  void DeleteMark(int index);  // 0 is the newest; no such mark: nothing happens
+  bool Undo();                 // false when there is nothing to take back
+  bool Redo();
+
+ protected:
+  // Takes the place of all marks; oldest first. Nothing can be taken back then.
+  void FillMarks(std::vector<Mark> marks);
+  void ClearMarks() { marks_.clear(); }
+  // A mark of the pen on the current page, without label and name; AddMark gives it its name.
+  Mark NewMark(Mark::Kind kind, std::vector<PagePoint> points) const;
+  void AddMark(Mark mark);
+  void Repaint() { Raise(onMarksChanged); }
+
+ private:
+  struct Step {
+    bool added = true;  // or deleted
+    size_t at = 0;
+    Mark mark;
+  };
+  void Do(const Step& step, bool forward);
+  int CircleCount() const;
+
+  std::vector<Mark> marks_;
+  std::vector<Step> done_;
+  std::vector<Step> undone_;
+  int lastNumber_ = 0;
+  QString colour_ = QStringLiteral("255000000");
+  double width_ = 0.75;  // points, as the next
+  double markerSize_ = 13.5;
+};
+
+}  // namespace tamo

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "common/form.h"
+#include "plans/picturebox.h"
+
+namespace tamo {
+
+// The controls of the plan form. What they do is in the parts of OSTForm, which share them: each
+// part can be tried with these alone.
+struct OstControls : Form {
+  explicit OstControls(Desk& desk) : Form(desk, QStringLiteral("OST")) {}
+
+  PictureBox picPdfThumbnails{*this, "picPdfThumbnails"};
+  PictureBox picPdfDraw{*this, "picPdfDraw"};
+  TextField ProjectName{*this, "ProjectName"};
+  TextField PlanLocation{*this, "PlanLocation"};
+  TextField PageText{*this, "PageText"};
+  TextField ZoomLevel{*this, "ZoomLevel"};
+  TextField Mode{*this, "Mode"};  // "Loading", "Measuring" or "Released"
+  TextField Scale1{*this, "Scale1"};
+  TextField Scale2{*this, "Scale2"};
+  TextField Text5{*this, "Text5"};
+  TextField IsScale{*this, "IsScale"};
+  // The scale in words, always in sight, with a warning when the viewer is in another unit, and the
+  // button that is shown beside that warning.
+  Label ScaleInForce{*this, "ScaleInForce"};
+  Button SetInches{*this, "SetInches", "Set Inches"};
+  TextField DistanceText{*this, "DistanceText"};
+  TextField KnownDimension{*this, "KnownDimension"};  // feet, to check the scale against
+  Button CheckDimension{*this, "CheckDimension", "Check a &Dimension"};
+  Label DimensionResult{*this, "DimensionResult"};
+  CheckBox Check1{*this, "Check1", "Turn Lines On"};
+  Swatch Line1{*this, "Line1"};
+  Button Command2{*this, "Command2", "Remove Last Mark"};
+  Button Command3{*this, "Command3", "Plan Notes"};
+  TextField PlanNotes{*this, "PlanNotes"};
+  Label PlanProblem{*this, "PlanProblem"};  // why the last plan could not be opened or saved
+  Frame Frame1{*this, "Frame1"};
+  FileBrowser Drive1{*this, "Drive1", FileBrowser::Kind::Drive};
+  FileBrowser Dir1{*this, "Dir1", FileBrowser::Kind::Folder};
+  FileBrowser File1{*this, "File1", FileBrowser::Kind::File, "*.pdf"};
+  Frame ColorFrame{*this, "ColorFrame"};
+};
+
+}  // namespace tamo

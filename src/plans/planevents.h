@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <utility>
+
+namespace tamo {
+
+enum class PlanTool { None = 0, Measuring = 1, Counting = 2 };
+
+// What the viewer tells, synchronously inside the call that causes it, on the thread of the forms.
+// The window has onMarksChanged, onViewChanged, onPrint, onBringToFront and onSaveProgress; all
+// others belong to the plan form.
+struct PlanEvents {
+  std::function<void()> onBeforeModeChange;
+  std::function<void(PlanTool tool)> onModeChanged;
+  // A line is done. The length comes in the paper unit of the unit index; the handler may change it
+  // and the unit text behind it. The mark's label becomes LengthText(length), a blank, and the
+  // label.
+  std::function<void(double& length, QString& label)> onLineMeasured;
+  // The same arithmetic for the line in work, for its running length: nothing is handed over.
+  std::function<void(double& length, QString& label)> onLineRunning;
+  std::function<void(double paperLength)> onLineChecked;
+  std::function<void(int count)> onCircleCountChanged;  // the circles of all pages
+  std::function<void()> onPageChanged;
+  std::function<void()> onScrolled;  // by the user only
+  std::function<void()> onMousePressed;
+  std::function<void()> onEnterKey;
+  std::function<void()> onPrint;
+  std::function<void()> onBringToFront;
+  std::function<void()> onMarksChanged;  // marks, the line in work or the cross hair: paint again
+  std::function<void()> onViewChanged;   // zoom, position, rotation or page: paint again
+  // While the first marked copy of a large plan is written and takes long; at 100 it is done.
+  std::function<void(int perCent)> onSaveProgress;
+  std::function<void(const QString& text)> onProblem;  // a failure found after OpenFile came back
+
+ protected:
+  template <typename Event, typename... Args>
+  static void Raise(const Event& event, Args&&... args) {
+    if (event) event(std::forward<Args>(args)...);
+  }
+};
+
+}  // namespace tamo

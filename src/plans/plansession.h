@@ -1,0 +1,64 @@
+#pragma once
+
+// The inside of PdfDraw, shared by its two source files.
+
+#include <QObject>
+#include <QSet>
+#include <condition_variable>
+#include <mutex>
+
+#include "plans/filetail.h"
+#include "plans/pdfdraw.h"
+#include "plans/planengine.h"
+#include "plans/planpainter.h"
+#include "plans/workthread.h"
+
+namespace tamo {
+
+// What comes back when a plan has been opened on its thread.
+struct PdfDraw::Opening {
+  std::mutex mutex;
+  std::condition_variable ready;
+  bool done = false;
+  bool slow = false;  // OpenFile did not wait for it
+  PlanContents contents;
+};
+
+// One open plan with its threads. Destroying it comes back within a moment whatever the plan does.
+struct PdfDraw::Session {
+  std::shared_ptr<PlanSource> source;
+  std::shared_ptr<EnginePlan> plan;
+  std::unique_ptr<WorkThread> thread;  // opens and saves
+  std::unique_ptr<PlanPainter> painter;
+  std::vector<PageSize> sizes;
+  QSet<QString> savedNames;  // marks that stand in the file
+  qint64 size = 0;           // bytes of the file as this program last knew it
+
+  ~Session() {
+    painter.reset();
+    if (plan != nullptr) plan->Abandon();
+    if (thread) thread->Post([last = std::move(plan)] {});
+  }
+};
+
+// Brings news from the threads of a plan to the thread of the forms.
+class PdfDraw::FormsThread {
+ public:
+  explicit FormsThread(PdfDraw* draw) : draw_(draw) {}
+  void Cut();
+  // Calls `work` on the viewer's own thread, if the viewer still lives then.
+  static void Post(const std::shared_ptr<FormsThread>& forms, std::function<void(PdfDraw&)> work);
+  // Many pictures at once are one piece of news.
+  static void PostPictures(const std::shared_ptr<FormsThread>& forms);
+  // The same after a time.
+  static void After(const std::shared_ptr<FormsThread>& forms, int milliseconds,
+                    std::function<void(PdfDraw&)> work);
+
+ private:
+  std::mutex mutex_;
+  std::unique_ptr<QObject> anchor_ = std::make_unique<QObject>();
+  PdfDraw* draw_;
+  bool picturesPosted_ = false;
+};
+
+}  // namespace tamo

@@ -1,0 +1,116 @@
+#include "schedule/schedulereader.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+#include "schedule/findtables.h"
+#include "schedule/readingproblem.h"
+#include "schedule/sheetdrawing.h"
+#include "schedule/tablereader.h"
+
+namespace tamo {
+namespace {
+
+constexpr double kEdge = 3;  // points around a drawn box that still belong to it
+constexpr size_t kMostWords = 40000;
+
+void Back(ScheduleTable& table, Way way, PageSize size) {
+  if (way == Way::Right) return;
+  table.box = TurnedBack(table.box, way, size);
+  for (ScheduleRow& row : table.rows) {
+    for (ScheduleCell& cell : row.cells) {
+      if (!cell.text.isEmpty()) cell.box = TurnedBack(cell.box, way, size);
+    }
+  }
+}
+
+// The reading directions of a drawing in which a table may stand, the most frequent first.
+std::vector<Way> WaysOf(const SheetDrawing& drawing) {
+  std::map<Way, size_t> counts;
+  for (const Word& word : drawing.words) ++counts[word.way];
+  std::vector<Way> ways;
+  for (const auto& [way, count] : counts) {
+    if (count >= 8 && count * 10 >= drawing.words.size()) ways.push_back(way);
+  }
+  std::sort(ways.begin(), ways.end(), [&counts](Way a, Way b) { return counts[a] > counts[b]; });
+  return ways;
+}
+
+std::vector<ScheduleTable> TablesOfAllWays(const SheetDrawing& drawing) {
+  std::vector<ScheduleTable> tables;
+  for (const Way way : WaysOf(drawing)) {
+    for (ScheduleTable& table : TablesIn(Turned(drawing, way))) {
+      Back(table, way, drawing.size);
+      tables.push_back(std::move(table));
+    }
+  }
+  return tables;
+}
+
+// All that a drawn box holds as one table, for tables without ruling.
+std::vector<ScheduleTable> WholeBox(const SheetDrawing& drawing, const PageBox& box) {
+  const std::vector<Way> ways = WaysOf(drawing);
+  const Way way = ways.empty() ? Way::Right : ways.front();
+  std::vector<ScheduleTable> tables =
+      ReadTables(Turned(drawing, way), TurnedBox(box, way, drawing.size));
+  for (ScheduleTable& table : tables) Back(table, way, drawing.size);
+  return tables;
+}
+
+PageBox Grown(const PageBox& box, double by) {
+  return {box.left - by, box.top - by, box.right + by, box.bottom + by};
+}
+
+bool SameHeads(const ScheduleTable& a, const ScheduleTable& b) {
+  if (a.columns.size() != b.columns.size()) return false;
+  for (size_t i = 0; i < a.columns.size(); ++i) {
+    if (a.columns[i].role != b.columns[i].role) return false;
+  }
+  return true;
+}
+
+void KeepFinishes(std::vector<ScheduleTable>& tables) {
+  tables.erase(
+      std::remove_if(tables.begin(), tables.end(),
+                     [](const ScheduleTable& table) { return table.kind != TableKind::Finish; }),
+      tables.end());
+}
+
+ScheduleReading Refused(const QString& why) {
+  return {why, {}};
+}
+
+}  // namespace
+
+std::vector<ScheduleTable> FindTables(const PageContent& page) {
+  const SheetDrawing drawing = DrawingOf(page);
+  if (drawing.words.size() > kMostWords) return {};
+  return TablesOfAllWays(drawing);
+}
+
+ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBox>& box) {
+  const PageBox whole = {0, 0, page.size.width, page.size.height};
+  const PageBox area = box.has_value() ? *box : whole;
+  const QString unreadable = WhyUnreadable(page, area, box.has_value());
+  if (!unreadable.isEmpty()) return Refused(unreadable);
+  const SheetDrawing sheet = DrawingOf(page);
+  const SheetDrawing drawing = box.has_value() ? Inside(sheet, Grown(area, kEdge)) : sheet;
+  if (drawing.words.size() > kMostWords) return Refused(TooMuchText(box.has_value()));
+  std::vector<ScheduleTable> tables = TablesOfAllWays(drawing);
+  if (tables.empty() && box.has_value()) tables = WholeBox(drawing, area);
+  const QString wrong = WhyNoSchedule(tables, box.has_value());
+  if (!wrong.isEmpty()) return Refused(wrong);
+  KeepFinishes(tables);
+  const auto different = std::find_if(
+      tables.begin() + 1, tables.end(),
+      [&tables](const ScheduleTable& table) { return !SameHeads(table, tables.front()); });
+  if (different != tables.end()) return Refused(TwoTables(*different));
+  if (box.has_value()) {
+    const QString cut = WhyCut(sheet, area, tables);
+    if (!cut.isEmpty()) return Refused(cut);
+  }
+  return {{}, std::move(tables)};
+}
+
+}  // namespace tamo

@@ -1,0 +1,95 @@
+#include <QKeyEvent>
+#include <optional>
+
+#include "windows/plancanvas.h"
+
+namespace tamo {
+namespace {
+
+std::optional<PlanKey> PlanKeyOf(int code) {
+  static constexpr std::pair<int, PlanKey> kKeys[] = {{Qt::Key_Left, PlanKey::Left},
+                                                      {Qt::Key_Right, PlanKey::Right},
+                                                      {Qt::Key_Up, PlanKey::Up},
+                                                      {Qt::Key_Down, PlanKey::Down},
+                                                      {Qt::Key_Space, PlanKey::Space},
+                                                      {Qt::Key_Return, PlanKey::Enter},
+                                                      {Qt::Key_Enter, PlanKey::Enter},
+                                                      {Qt::Key_Escape, PlanKey::Escape},
+                                                      {Qt::Key_Backspace, PlanKey::Backspace},
+                                                      {Qt::Key_Z, PlanKey::Undo},
+                                                      {Qt::Key_Y, PlanKey::Redo}};
+  for (const auto& [known, key] : kKeys) {
+    if (known == code) return key;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+// The tool bar by letters, while the keys go to the plan.
+bool PlanCanvas::TakeLetter(int key) {
+  const auto pick = [this](PlanTool tool) {
+    desk_.Dispatch([&] { viewer_.PickTool(tool); });
+    return true;
+  };
+  switch (key) {
+    case Qt::Key_V:
+      return pick(PlanTool::None);
+    case Qt::Key_M:
+      return pick(PlanTool::Measuring);
+    case Qt::Key_C:
+      return pick(PlanTool::Counting);
+    case Qt::Key_T:
+      TurnView();
+      return true;
+    case Qt::Key_Plus:
+      if (onZoomIn) onZoomIn();
+      return true;
+    case Qt::Key_Minus:
+      if (onZoomOut) onZoomOut();
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool PlanCanvas::TakeKey(const QKeyEvent& event) {
+  const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
+  const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
+  if (event.modifiers().testFlag(Qt::AltModifier)) return false;
+  FinishScroll();
+  if (!ctrl && TakeLetter(event.key())) return true;
+  if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
+    const int page = viewer_.Page() + (event.key() == Qt::Key_PageDown ? 1 : -1);
+    desk_.Dispatch([&] { viewer_.TurnPage(page); });
+    return true;
+  }
+  const std::optional<PlanKey> key = PlanKeyOf(event.key());
+  if (!key) return false;
+  const bool needsCtrl = *key == PlanKey::Undo || *key == PlanKey::Redo;
+  if (needsCtrl && !ctrl) return false;
+  desk_.Dispatch([&] { viewer_.Key({*key, shift, ctrl}); });
+  return true;
+}
+
+PlanBinding::PlanBinding(Display& display, Control& control, PlanCanvas& canvas)
+    : Binding(display, control, canvas), canvas_(canvas) {}
+
+bool PlanBinding::eventFilter(QObject*, QEvent* event) {
+  if (event->type() != QEvent::KeyPress) {
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+      canvas_.viewport()->update();
+    return TakeCommon(event);
+  }
+  auto& key = static_cast<QKeyEvent&>(*event);
+  return canvas_.TakeKey(key) || GetDisplay().TakeKey(*this, key);
+}
+
+PlanCanvas* FindPlanCanvas(const QWidget& window) {
+  for (QWidget* widget : window.findChildren<QWidget*>(QStringLiteral("picPdfDraw"))) {
+    if (auto* canvas = dynamic_cast<PlanCanvas*>(widget)) return canvas;
+  }
+  return nullptr;
+}
+
+}  // namespace tamo
