@@ -1,13 +1,16 @@
 #!/usr/bin/env bash
-# From the start to the visible window, offscreen, beside an empty Qt window: both whole processes, in turn, medians of
-# twenty-one runs. Argument: a build folder of the preset bench.
+# From the start to the first frame, offscreen, beside an empty Qt window: both whole processes, in turn, medians of
+# twenty-one runs; once with no project and once with one that is opened. Argument: a build folder of the preset bench.
 set -euo pipefail
 bench=$1/bench
 data=$(cd "$(dirname "$0")/../data" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-mkdir "$work/program" "$work/home"
+project=$work/home/Tamo/Projects/07-2611001
+mkdir -p "$work/program" "$work/bare" "$project"/{Rooms,Systems,ATOs}
 cp "$data"/*.pdf "$work/program/"
+printf '07-2611001   Large\r\n' >"$work/home/Tamo/Jobs.lst"
+printf '07-2611001\r\nLarge\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n' >"$project/JobNFO.tamo"
 export QT_QPA_PLATFORM=offscreen
 
 micros() {
@@ -18,11 +21,16 @@ micros() {
 }
 median() { sort -n | sed -n 11p; }
 
-"$bench/start_window" "$work/program" "$work/home" >/dev/null 2>&1
+"$bench/start_window" "$work/program" "$work/bare" >/dev/null 2>&1
 for _ in $(seq 21); do
   micros "$bench/empty_window" >>"$work/empty"
-  micros "$bench/start_window" "$work/program" "$work/home" >>"$work/tamo"
+  micros "$bench/start_window" "$work/program" "$work/bare" >>"$work/tamo"
+  micros "$bench/start_window" "$work/program" "$work/home" >>"$work/project"
 done
 empty=$(median <"$work/empty")
-tamo=$(median <"$work/tamo")
-echo "empty window $empty us, Tamo $tamo us, ratio $((tamo * 100 / empty)) / 100"
+for kind in tamo project; do
+  time=$(median <"$work/$kind")
+  words=Tamo
+  [ $kind = project ] && words="Tamo with a project"
+  echo "empty window $empty us, $words $time us, ratio $((time * 100 / empty)) / 100"
+done

@@ -1,69 +1,60 @@
-// How long each report over a million takeoff lines holds the window: a clock ticks every few
-// milliseconds in the window's own thread, and the longest silence between two ticks is told, with
-// the time of the whole report. Arguments: the program folder, and how many rooms of 20 lines.
+// How long each report over a million takeoff lines holds the window: a clock ticks every
+// millisecond in the window's own thread, and the longest silence between two ticks is told, with
+// the time of the whole report. Then the Office Copy is scrolled by the thumb, and stopped by
+// Escape halfway; last, what it keeps in memory is held against its text. Arguments: the program
+// folder, and how many rooms of 20 lines.
+#include <unistd.h>
+
 #include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QProgressDialog>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <cstdio>
-#include <filesystem>
+#include <ctime>
 #include <fstream>
-#include <random>
 
+#include "largebid.h"
 #include "startedprogram.h"
+#include "windows/rowsview.h"
 
 namespace {
 
-namespace fs = std::filesystem;
+using tamo::OrderedList;
 
-void WriteProject(const fs::path& data, int rooms) {
-  const fs::path project = data / "Projects/07-2611001";
-  for (const char* part : {"Rooms", "Systems", "ATOs"}) fs::create_directories(project / part);
-  std::ofstream(data / "Jobs.lst", std::ios::binary) << "07-2611001   Large\r\n";
-  std::ofstream(project / "JobNFO.tamo", std::ios::binary)
-      << "07-2611001\r\nLarge\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
-  for (int s = 0; s < 150; ++s) {
-    std::ofstream file(project / ("Systems/System " + std::to_string(s) + ".sys"),
-                       std::ios::binary);
-    file << "System " << s << "\r\nSF\r\n0.00\r\n255000000\r\n\r\n\x01\r\n\r\n\r\n";
-    for (int m = 0; m < 2; ++m) {
-      file << "Material " << s % 40 << "-" << m << "\r\nBX\r\n"
-           << 12 + m << ".50\r\n32\r\nupo\r\n45\r\nupm\r\n5\r\n41.50\r\n\r\n\r\n\r\n";
-    }
-  }
-  std::mt19937 dice(1);
-  std::ofstream list(project / "Rooms/Rooms.tamo", std::ios::binary);
-  for (int r = 0; r < rooms; ++r) {
-    list << "Room " << r << "\r\nTrue\r\n";
-    std::ofstream room(project / ("Rooms/Room " + std::to_string(r) + ".rfs"), std::ios::binary);
-    room << "9\r\n";
-    char line[80];
-    for (int l = 0; l < 20; ++l) {
-      std::snprintf(line, sizeof line, "%-21s%-11s%14.2f SF\r\n",
-                    ("System " + std::to_string(dice() % 150)).c_str(), "WALLS",
-                    8 + dice() % 240000 / 100.0);
-      room << line;
-    }
-  }
+// What this thread has worked so far, in milliseconds.
+double WorkOfThread() {
+  timespec time{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
 }
 
 class Watch {
  public:
   Watch() {
-    QObject::connect(&timer_, &QTimer::timeout,
-                     [this] { longest_ = std::max(longest_, silence_.restart()); });
-    timer_.start(2);
+    QObject::connect(&timer_, &QTimer::timeout, [this] {
+      longest_ = std::max(longest_, static_cast<double>(silence_.nsecsElapsed()) / 1e6);
+      const double work = WorkOfThread();
+      longestWork_ = std::max(longestWork_, work - work_);
+      work_ = work;
+      silence_.restart();
+    });
+    timer_.setTimerType(Qt::PreciseTimer);
+    timer_.start(1);
   }
   void Begin() {
     Settle();
-    longest_ = 0;
+    longest_ = longestWork_ = 0;
+    work_ = WorkOfThread();
     silence_.start();
     whole_.start();
   }
   void End(const char* what, int lines) {
     const qint64 made = whole_.elapsed();
     Settle();
-    std::printf("%-16s %8d lines  %6lld ms, longest silence %4lld ms\n", what, lines,
-                static_cast<long long>(made), static_cast<long long>(longest_));
+    std::printf("%-16s %8d lines  %6lld ms, longest silence %6.1f ms, of work %6.1f ms\n", what,
+                lines, static_cast<long long>(made), longest_, longestWork_);
     std::fflush(stdout);
   }
 
@@ -78,7 +69,100 @@ class Watch {
   QTimer timer_;
   QElapsedTimer silence_;
   QElapsedTimer whole_;
-  qint64 longest_ = 0;
+  double longest_ = 0;
+  double longestWork_ = 0;  // without what other programs took of the machine meanwhile
+  double work_ = 0;
+};
+
+// Of this process, in bytes.
+double ResidentMemory() {
+  double pages = 0;
+  std::ifstream("/proc/self/statm") >> pages >> pages;
+  return pages * static_cast<double>(sysconf(_SC_PAGESIZE));
+}
+
+class Play {
+ public:
+  explicit Play(tamo::Program& program) : program_(program) {}
+
+  OrderedList* List(const char* form, const char* name) {
+    return dynamic_cast<OrderedList*>(
+        program_.FindForm(QString::fromLatin1(form))->Find(QString::fromLatin1(name)));
+  }
+  void Choose(const char* entry) {
+    program_.GetDesk().ChooseMenu(
+        *program_.FindForm(QStringLiteral("Tamo"))->FindMenu(QString::fromLatin1(entry)));
+  }
+  void OpenTheProject() {
+    Choose("OpenProject");
+    program_.GetDesk().ClickRow(*List("Tamo", "JobsList"), 0);
+  }
+  int Lines() {
+    return List("Reports", "Reporter")->Count() + List("Reports", "Reporter1")->Count();
+  }
+
+  void EachReport() {
+    for (const char* report : {"Quantities", "RecapSheet", "BreakDown", "BillOfMaterial", "fCopy",
+                               "oCopy", "Quantities"}) {
+      watch_.Begin();
+      Choose(report);
+      watch_.End(report, Lines());
+    }
+  }
+
+  // The thumb is dragged over the whole Office Copy and back.
+  void Thumb() {
+    tamo::RowsView* view = nullptr;
+    for (QWidget* widget : QApplication::allWidgets()) {
+      auto* rows = qobject_cast<QListView*>(widget);
+      if (rows != nullptr && rows->isVisible() && rows->model()->rowCount() == Lines())
+        view = static_cast<tamo::RowsView*>(rows);
+    }
+    if (view == nullptr) return;
+    QScrollBar* bar = view->verticalScrollBar();
+    watch_.Begin();
+    for (int step = -200; step <= 200; ++step) {
+      bar->setSliderPosition(static_cast<int>(bar->maximum() / 200.0 * (200 - std::abs(step))));
+      QCoreApplication::processEvents();
+    }
+    watch_.End("thumb", Lines());
+  }
+
+  // Escape is pressed a while into the Office Copy.
+  void Escape() {
+    QElapsedTimer pressed;
+    QTimer::singleShot(700, [&pressed] {
+      QWidget* bar = QApplication::activeModalWidget();
+      if (bar == nullptr) return;
+      pressed.start();
+      QApplication::postEvent(bar, new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
+    });
+    watch_.Begin();
+    Choose("oCopy");
+    const double answered =
+        pressed.isValid() ? static_cast<double>(pressed.nsecsElapsed()) / 1e6 : -1;
+    watch_.End("Escape", Lines());
+    std::printf("%-16s answered in %.1f ms\n", "Escape", answered);
+    std::fflush(stdout);
+  }
+
+  void Memory() {
+    double before = ResidentMemory();
+    Choose("oCopy");
+    watch_.Begin();
+    const double after = ResidentMemory();
+    const OrderedList& copy = *List("Reports", "Reporter1");
+    double text = 0;
+    for (int row = 0; row < copy.Count(); ++row)
+      text += static_cast<double>(copy.SharedRows().SizeOf(row));
+    std::printf("%-16s %.0f MB more for %.0f MB of text: %.2f times\n", "memory",
+                (after - before) / 1e6, text / 1e6, (after - before) / text);
+    std::fflush(stdout);
+  }
+
+ private:
+  tamo::Program& program_;
+  Watch watch_;
 };
 
 }  // namespace
@@ -94,27 +178,15 @@ int main(int argc, char** argv) {
   }
   QTemporaryDir home;
   const int rooms = argc > 2 ? std::atoi(argv[2]) : 50000;
-  WriteProject(fs::path(home.path().toStdString()) / "Tamo", rooms);
+  tamo::bench::WriteDataFolder(std::filesystem::path(home.path().toStdString()) / "Tamo", rooms, 2);
   tamo::bench::StartedProgram started(QString::fromLocal8Bit(argv[1]), home.path());
-  tamo::Program& program = started.GetProgram();
-  const auto list = [&](const char* form, const char* name) {
-    auto* found = dynamic_cast<tamo::OrderedList*>(
-        program.FindForm(QString::fromLatin1(form))->Find(QString::fromLatin1(name)));
-    return found;
-  };
-  const auto choose = [&](const char* entry) {
-    program.GetDesk().ChooseMenu(
-        *program.FindForm(QStringLiteral("Tamo"))->FindMenu(QString::fromLatin1(entry)));
-  };
-  choose("OpenProject");
-  program.GetDesk().ClickRow(*list("Tamo", "JobsList"), 0);
-  Watch watch;
-  for (const char* report : {"Quantities", "RecapSheet", "BreakDown", "BillOfMaterial", "fCopy",
-                             "oCopy", "Quantities"}) {
-    watch.Begin();
-    choose(report);
-    watch.End(report, list("Reports", "Reporter")->Count() + list("Reports", "Reporter1")->Count());
-  }
+  Play play(started.GetProgram());
+  play.OpenTheProject();
+  play.Memory();
+  play.EachReport();
+  play.Choose("oCopy");
+  play.Thumb();
+  play.Escape();
   home.remove();
   _Exit(0);
 }

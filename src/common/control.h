@@ -172,7 +172,7 @@ class OrderedList : public Control {
 
   int Count() const { return rows_.Count(); }
   bool Empty() const { return rows_.Count() == 0; }
-  const QStringList& Rows() const { return rows_.List(); }
+  QStringList Rows() const { return rows_.List(); }
   const ListRows& SharedRows() const { return rows_; }  // for reports of any length
   // Row `at`; a row that does not exist raises a RunTimeFailure (kSubscript).
   QString Row(int at) const;

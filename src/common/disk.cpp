@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statfs.h>
 #include <unistd.h>
 
 #include <QDir>
@@ -10,6 +11,9 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <ctime>
+#include <mutex>
+#include <set>
 
 #include "common/failure.h"
 
@@ -76,6 +80,27 @@ class RealReader : public FileReader {
   qint64 size_;
 };
 
+qint64 Nanoseconds(const timespec& time) {
+  return static_cast<qint64>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+// Whether the device of the file `name` is one of this machine. Each device is asked once.
+bool IsLocal(dev_t device, const QByteArray& name) {
+  static std::mutex mutex;
+  static std::set<dev_t> local;
+  const std::lock_guard lock(mutex);
+  if (local.contains(device)) return true;
+  struct statfs info {};
+  if (::statfs(name.constData(), &info) != 0) return false;
+  // NFS, SMB (three of them), FUSE, 9P, AFS, Ceph, Coda.
+  for (const unsigned long remote : {0x6969UL, 0x517BUL, 0xFF534D42UL, 0xFE534D42UL, 0x65735546UL,
+                                     0x01021997UL, 0x5346414FUL, 0x00C36400UL, 0x73757245UL}) {
+    if ((static_cast<unsigned long>(info.f_type) & 0xFFFFFFFFUL) == remote) return false;
+  }
+  local.insert(device);
+  return true;
+}
+
 }  // namespace
 
 int RealDisk::OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) {
@@ -111,6 +136,21 @@ int RealDisk::Read(const QString& path, QByteArray& bytes) {
   }
   ::close(handle);
   return error;
+}
+
+FileStamp RealDisk::Stamp(const QString& path) {
+  const QByteArray name = Native(path);
+  struct stat info {};
+  if (::stat(name.constData(), &info) != 0 || !S_ISREG(info.st_mode)) return {};
+  if (!IsLocal(info.st_dev, name)) return {};
+  timespec now{};
+  ::clock_gettime(CLOCK_REALTIME, &now);
+  return {info.st_dev,
+          info.st_ino,
+          info.st_size,
+          Nanoseconds(info.st_mtim),
+          Nanoseconds(info.st_ctim),
+          Nanoseconds(now)};
 }
 
 int RealDisk::OpenNew(const QString& path, int& handle) {

@@ -17,6 +17,23 @@ class FileReader {
   virtual int ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const = 0;
 };
 
+// Which file stands under a name, and how it looks from outside. Two equal stamps of a file that
+// had rest before the first of them mean the same content.
+struct FileStamp {
+  quint64 device = 0;
+  quint64 number = 0;
+  qint64 size = -1;     // bytes; -1 when nothing is known of it
+  qint64 modified = 0;  // its text, in nanoseconds since 1970 as the device's clock tells
+  qint64 changed = 0;   // its text, name, rights or times
+  qint64 seen = 0;      // when it was looked at, by the program's clock
+
+  bool Known() const { return size >= 0; }
+  bool operator==(const FileStamp& other) const {
+    return device == other.device && number == other.number && size == other.size &&
+           modified == other.modified && changed == other.changed;
+  }
+};
+
 // The file system, one call a step, so that a test can make any step fail. Every call that can fail
 // returns an error number: 0, 53 file not found, 76 path not found, 75 access, 61 disk full, 57
 // other. Paths are whole paths in the platform's form.
@@ -26,6 +43,9 @@ class Disk {
 
   // From any thread.
   virtual int Read(const QString& path, QByteArray& bytes) = 0;
+  // From any thread. Unknown for what is no file, and on devices of other machines, whose stamps
+  // can be older than the file.
+  virtual FileStamp Stamp(const QString& path) = 0;
   // For files too large to be read whole.
   virtual int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) = 0;
 
@@ -63,6 +83,7 @@ class Disk {
 class RealDisk : public Disk {
  public:
   int Read(const QString& path, QByteArray& bytes) override;
+  FileStamp Stamp(const QString& path) override;
   int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
   int OpenAtEnd(const QString& path, int& handle) override;

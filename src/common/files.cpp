@@ -71,14 +71,22 @@ int Files::ReadText(const QString& path, QString& text) {
       return kNoError;
     }
   }
+  const int error = ReadStored(path, text);
+  if (error != kFileNotFound) return error;
+  const QString other = Resolved(path);
+  return other == path ? error : ReadStored(other, text);
+}
+
+// The stamp is taken before the file is read, so it is never newer than the text.
+int Files::ReadStored(const QString& path, QString& text) {
+  const FileStamp stamp = disk_.Stamp(path);
+  if (memory_.Find(path, stamp, text)) return kNoError;
   QByteArray bytes;
-  int error = disk_.Read(path, bytes);
-  if (error == kFileNotFound) {
-    const QString other = Resolved(path);
-    if (other != path) error = disk_.Read(other, bytes);
-  }
-  if (error == kNoError) text = DecodedText(bytes);
-  return error;
+  const int error = disk_.Read(path, bytes);
+  if (error != kNoError) return error;
+  text = DecodedText(bytes);
+  memory_.Keep(path, stamp, text);
+  return kNoError;
 }
 
 int Files::ReadLines(const QString& path, QStringList& lines) {
@@ -120,6 +128,7 @@ int Files::SaveText(const QString& path, const QString& text) {
 
 int Files::Replace(const QString& path, const QByteArray& bytes) {
   const QString target = Resolved(path);
+  memory_.Forget(target);
   if (disk_.Exists(target) && !disk_.CanWrite(target)) return kNoAccess;
   if (disk_.IsFolder(target)) return kNoAccess;
   const QString unfinished = target + QLatin1String(kUnfinishedEnding);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "common/disk.h"
+#include "common/filememory.h"
 
 namespace tamo {
 
@@ -28,6 +29,8 @@ class Files {
   Disk& GetDisk() { return disk_; }
 
   int ReadText(const QString& path, QString& text);
+  // The same from any thread, of what is on the disk under exactly that name: no pending save.
+  int ReadStored(const QString& path, QString& text);
   int ReadLines(const QString& path, QStringList& lines);
   int ReadFields(const QString& path, QStringList& fields);  // the delimited read
 
@@ -80,6 +83,7 @@ class Files {
   Pending* FindPendingText(const QString& path);
 
   Disk& disk_;
+  FileMemory memory_;
   std::vector<Pending> pending_;
   QStringList missingFolders_;
 };

@@ -73,6 +73,18 @@ QString NativePath(QString path) {
   return path;
 }
 
+namespace {
+
+// A report asks of every room's name; few begin as a device's does.
+bool IsDeviceName(const QString& name) {
+  static const QRegularExpression device(
+      QStringLiteral("^(CON|PRN|AUX|NUL|COM[0-9]|LPT[0-9])\\s*(\\..*)?$"),
+      QRegularExpression::CaseInsensitiveOption);
+  return QStringLiteral("CPANL").contains(name.front().toUpper()) && device.match(name).hasMatch();
+}
+
+}  // namespace
+
 QString NameRefusal(const QString& name) {
   const QString shown = name.size() > 40 ? name.left(40) + QStringLiteral("...") : name;
   if (name.trimmed().isEmpty()) return QStringLiteral("A name is missing. Type a name.");
@@ -94,15 +106,12 @@ QString NameRefusal(const QString& name) {
     return QStringLiteral("The name \"%1\" can't be used: it means a folder. Type another name.")
         .arg(shown);
   }
-  static const QRegularExpression device(
-      QStringLiteral("^(CON|PRN|AUX|NUL|COM[0-9]|LPT[0-9])\\s*(\\..*)?$"),
-      QRegularExpression::CaseInsensitiveOption);
-  if (device.match(name).hasMatch()) {
+  if (IsDeviceName(name)) {
     return QStringLiteral(
                "The name \"%1\" can't be used: it is reserved for a device. Type another name.")
         .arg(shown);
   }
-  if (name.toUtf8().size() > 200) {
+  if (name.size() > 50 && name.toUtf8().size() > 200) {
     return QStringLiteral(
                "The name \"%1\" can't be used: it is too long for a file. Type a shorter name.")
         .arg(shown);

@@ -1,14 +1,41 @@
 #include "common/textrows.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 #include <utility>
+
+#include "common/giveback.h"
 
 namespace tamo {
 namespace {
 
 constexpr size_t kFirstBlock = size_t(1) << 12;  // bytes
-constexpr size_t kLargestBlock = size_t(1) << 20;
+constexpr size_t kLargestBlock = size_t(1) << 24;
+constexpr size_t kDoublings = 12;  // from the one to the other
+
+// The block of the element `at` and its place in it, of elements of which a first block holds
+// `first`.
+struct Spot {
+  size_t block;
+  size_t place;
+};
+Spot SpotOf(size_t at, size_t first) {
+  const size_t n = at / first + 1;
+  const size_t largest = first << kDoublings;
+  if (n < (size_t(1) << kDoublings)) {
+    const auto block = static_cast<size_t>(std::bit_width(n)) - 1;
+    return {block, at - ((size_t(1) << block) - 1) * first};
+  }
+  const size_t rest = at - ((size_t(1) << kDoublings) - 1) * first;
+  return {kDoublings + rest / largest, rest % largest};
+}
+
+bool IsNarrow(QStringView text) {
+  unsigned seen = 0;
+  for (const QChar c : text) seen |= c.unicode();
+  return seen <= 0xFF;
+}
 
 }  // namespace
 
@@ -20,68 +47,104 @@ TextRows::TextRows(const QStringList& rows) {
   *this += rows;
 }
 
+TextRows::~TextRows() {
+  // Small blocks are kept for the next report, only those of their own go back to the system.
+  if (blocks_.size() <= kDoublings) return;
+  GiveBackAside(std::move(blocks_));
+  GiveBackAside(std::move(rows_));
+}
+
 TextRows::TextRows(TextRows&& other) noexcept {
-  *this = std::move(other);
+  Swap(other);
 }
 
 TextRows& TextRows::operator=(TextRows&& other) noexcept {
-  if (this == &other) return *this;
-  blocks_ = std::exchange(other.blocks_, {});
-  blockSize_ = std::exchange(other.blockSize_, 0);
-  used_ = std::exchange(other.used_, 0);
-  pages_ = std::exchange(other.pages_, {});
-  size_ = std::exchange(other.size_, 0);
-  longest_ = std::exchange(other.longest_, 0);
+  TextRows taken(std::move(other));
+  Swap(taken);
   return *this;
 }
 
-TextRows::Row& TextRows::NewRow() {
-  if (size_ % kPage == 0) pages_.push_back(std::make_unique_for_overwrite<Row[]>(kPage));
-  return At(size_++);
+void TextRows::Swap(TextRows& other) noexcept {
+  std::swap(blocks_, other.blocks_);
+  std::swap(blockBegin_, other.blockBegin_);
+  std::swap(blockNext_, other.blockNext_);
+  std::swap(blockEnd_, other.blockEnd_);
+  std::swap(filled_, other.filled_);
+  std::swap(rows_, other.rows_);
+  std::swap(rowNext_, other.rowNext_);
+  std::swap(rowEnd_, other.rowEnd_);
+  std::swap(size_, other.size_);
+  std::swap(longest_, other.longest_);
 }
 
-char* TextRows::Room(size_t bytes) {
-  if (blocks_.empty() || blockSize_ - used_ < bytes) {
-    blockSize_ = std::max(bytes, std::clamp(2 * blockSize_, kFirstBlock, kLargestBlock));
-    blocks_.push_back(std::make_unique_for_overwrite<char[]>(blockSize_));
-    used_ = 0;
-  }
-  return blocks_.back().get() + std::exchange(used_, used_ + bytes);
+size_t TextRows::Bytes() const {
+  return filled_ + static_cast<size_t>(blockNext_ - blockBegin_) +
+         static_cast<size_t>(size_) * sizeof(Row);
+}
+
+TextRows::Row& TextRows::At(qsizetype at) {
+  const Spot spot = SpotOf(static_cast<size_t>(at), kFirstBlock / sizeof(Row));
+  return rows_[spot.block][spot.place];
+}
+
+void TextRows::AddRows() {
+  const size_t count = (kFirstBlock << std::min(rows_.size(), kDoublings)) / sizeof(Row);
+  rows_.push_back(std::make_unique_for_overwrite<Row[]>(count));
+  rowNext_ = rows_.back().get();
+  rowEnd_ = rowNext_ + count;
+}
+
+void TextRows::AddBlock(size_t bytes) {
+  filled_ += static_cast<size_t>(blockNext_ - blockBegin_);
+  const size_t size = std::max(bytes, kFirstBlock << std::min(blocks_.size(), kDoublings));
+  blocks_.push_back(std::make_unique_for_overwrite<char[]>(size));
+  blockBegin_ = blockNext_ = blocks_.back().get();
+  blockEnd_ = blockBegin_ + size;
+}
+
+char* TextRows::PlaceLong(qsizetype count, bool wide, Row& row) {
+  longest_ = std::max(longest_, static_cast<int>(count));
+  AddBlock(sizeof count + (static_cast<size_t>(count) << (wide ? 1 : 0)));
+  std::memcpy(blockBegin_, &count, sizeof count);
+  row = RowOf(blockBegin_ + sizeof count, kLongRow, wide);
+  char* const text = blockBegin_ + sizeof count;
+  blockNext_ = blockEnd_;
+  return text;
+}
+
+TextRows::Text TextRows::Read(qsizetype at) const {
+  const Spot spot = SpotOf(static_cast<size_t>(at), kFirstBlock / sizeof(Row));
+  const Row row = rows_[spot.block][spot.place];
+  const char* const block = blocks_[row >> (1 + kSizeBits + kPlaceBits)].get();
+  Text text{block + (row >> (1 + kSizeBits) & ((Row(1) << kPlaceBits) - 1)),
+            static_cast<qsizetype>(row >> 1 & kLongRow), (row & 1) != 0};
+  if (text.size == kLongRow) std::memcpy(&text.size, block, sizeof text.size);
+  return text;
 }
 
 TextRows::Row TextRows::Written(std::initializer_list<QStringView> parts) {
   qsizetype count = 0;
-  for (const QStringView part : parts) count += part.size();
-  longest_ = std::max(longest_, static_cast<int>(count));
-  char* const narrow = Room(static_cast<size_t>(count));
-  char* to = narrow;
-  unsigned seen = 0;
+  bool wide = false;
   for (const QStringView part : parts) {
-    for (const QChar c : part) {
-      seen |= c.unicode();
-      *to++ = static_cast<char>(c.unicode());
+    count += part.size();
+    wide = wide || !IsNarrow(part);
+  }
+  Row row = 0;
+  char* to = Place(count, wide, row);
+  for (const QStringView part : parts) {
+    if (!wide) {
+      for (const QChar c : part) *to++ = static_cast<char>(c.unicode());
+    } else if (!part.isEmpty()) {
+      const size_t bytes = static_cast<size_t>(part.size()) * sizeof(char16_t);
+      std::memcpy(to, part.utf16(), bytes);
+      to += bytes;
     }
   }
-  if (seen <= 0xFF) return {narrow, static_cast<int>(count), false};
-  char* const wide = Room(static_cast<size_t>(count) * sizeof(char16_t));
-  to = wide;
-  for (const QStringView part : parts) {
-    const size_t bytes = static_cast<size_t>(part.size()) * sizeof(char16_t);
-    if (bytes != 0) std::memcpy(to, part.utf16(), bytes);
-    to += bytes;
-  }
-  return {wide, static_cast<int>(count), true};
-}
-
-char* TextRows::AddNarrow(qsizetype count) {
-  char* const text = Room(static_cast<size_t>(count));
-  longest_ = std::max(longest_, static_cast<int>(count));
-  NewRow() = {text, static_cast<int>(count), false};
-  return text;
+  return row;
 }
 
 QString TextRows::operator[](qsizetype at) const {
-  const Row& row = At(at);
+  const Text row = Read(at);
   if (!row.wide) return QString::fromLatin1(row.text, row.size);
   QString text(row.size, Qt::Uninitialized);
   std::memcpy(text.data(), row.text, static_cast<size_t>(row.size) * sizeof(char16_t));
@@ -121,14 +184,11 @@ QString ListRows::Joined() const {
   return text;
 }
 
-const QStringList& ListRows::List() const {
-  if (report_ != nullptr && list_.size() != report_->size()) list_ = report_->ToList();
-  return list_;
-}
-
 QStringList& ListRows::Change() {
-  List();
-  report_.reset();
+  if (report_ != nullptr) {
+    list_ = report_->ToList();
+    report_.reset();
+  }
   return list_;
 }
 

@@ -6,20 +6,14 @@
 #include <utility>
 
 #include "common/failure.h"
-#include "common/textlines.h"
 
 namespace tamo {
-namespace {
-
-constexpr size_t kLead = 4;
-constexpr int kGlances = 100;
-
-}  // namespace
-
-TextsAhead::TextsAhead(Files& files, QStringList paths) : files_(files), paths_(std::move(paths)) {
+TextsAhead::TextsAhead(Files& files, qsizetype count, std::function<QString(qsizetype)> pathOf,
+                       const ReadingPace& pace)
+    : files_(files), pathOf_(std::move(pathOf)), pace_(pace) {
   // A save that is pending is read from memory, which belongs to the asking thread.
-  if (paths_.size() < kFewestForThread || !files_.PendingSaves().empty()) return;
-  slots_ = std::vector<Slot>(static_cast<size_t>(paths_.size()));
+  if (count < pace_.fewest || !files_.PendingSaves().empty()) return;
+  slots_ = std::vector<Slot>(static_cast<size_t>(count));
   try {
     thread_ = std::thread([this] { ReadAhead(); });
   } catch (const std::system_error&) {
@@ -38,19 +32,18 @@ TextsAhead::~TextsAhead() {
 // Takes files a little ahead of the asking thread, which reads those in between itself: so neither
 // waits for the other, whichever of them is faster.
 void TextsAhead::ReadAhead() {
-  QByteArray bytes;
   size_t at = 0;
   for (;;) {
     size_t next = next_;
-    for (; at >= next + kFilesAhead && !stop_; next = next_) next_.wait(next);
-    at = std::max(at + 1, next + kLead);
+    for (; at >= next + pace_.ahead && !stop_; next = next_) next_.wait(next);
+    at = std::max(at + 1, next + pace_.lead);
     if (stop_ || at >= slots_.size()) return;
     Slot& slot = slots_[at];
     int untouched = Untouched;
     if (!slot.state.compare_exchange_strong(untouched, InWork)) continue;
     try {
-      slot.error = files_.GetDisk().Read(paths_[static_cast<qsizetype>(at)], bytes);
-      if (slot.error == kNoError) slot.text = DecodedText(bytes);
+      const QString path = pathOf_(static_cast<qsizetype>(at));
+      slot.error = path.isEmpty() ? kFileNotFound : files_.ReadStored(path, slot.text);
     } catch (const std::bad_alloc&) {
       slot.error = kFileOther;  // the asking thread reads it once more, and can tell the user
     }
@@ -60,7 +53,7 @@ void TextsAhead::ReadAhead() {
 }
 
 int TextsAhead::ReadHere(size_t at, QString& text) {
-  const QString& path = paths_[static_cast<qsizetype>(at)];
+  const QString path = pathOf_(static_cast<qsizetype>(at));
   text.clear();
   return path.isEmpty() ? kFileNotFound : files_.ReadText(path, text);
 }
@@ -68,12 +61,12 @@ int TextsAhead::ReadHere(size_t at, QString& text) {
 int TextsAhead::Next(QString& text) {
   const size_t at = next_++;
   if (!thread_.joinable()) return ReadHere(at, text);
-  if ((at + 1) % (kFilesAhead / 2) == 0) next_.notify_one();
+  if ((at + 1) % (pace_.ahead / 2) == 0) next_.notify_one();
   Slot& slot = slots_[at];
   int untouched = Untouched;
   if (slot.state.compare_exchange_strong(untouched, InWork)) return ReadHere(at, text);
   // The file is mostly there at once, sooner than a sleeping thread wakes up.
-  for (int i = 0; i < kGlances && slot.state == InWork; ++i) std::this_thread::yield();
+  for (int i = 0; i < pace_.glances && slot.state == InWork; ++i) std::this_thread::yield();
   slot.state.wait(InWork);
   // What went wrong ahead may be a name in another case, or right by now.
   if (slot.error != kNoError) return ReadHere(at, text);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QString>
-#include <QStringList>
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -11,23 +11,31 @@
 
 namespace tamo {
 
+// How far the thread and the one that asks go apart; BM_Pace holds each number against its
+// neighbours.
+struct ReadingPace {
+  size_t lead = 4;        // files left to the asking thread before the other one's first
+  int glances = 100;      // at a file that is being read, before the asking thread sleeps
+  size_t ahead = 64;      // most files that are read before they are asked for
+  qsizetype fewest = 24;  // files that are worth a thread
+};
+
 // Reads many text files in their order, while a thread of its own reads some of them ahead: the
 // device and the work on the texts go side by side. Each text and error number is what
-// Files::ReadText gives. No file is read more than kFilesAhead files before it is asked for, and
-// nothing is read after the object is gone. The files outlive it. One thread asks.
+// Files::ReadText gives. No file is read more than ReadingPace::ahead files before it is asked for,
+// and nothing is read after the object is gone. The files outlive it. One thread asks. It halves
+// what a report of files that were not read before takes: BM_TextsAhead beside BM_PlainTexts.
 class TextsAhead {
  public:
-  TextsAhead(Files& files, QStringList paths);
+  // `pathOf` gives the path of each of `count` files; it is called from both threads.
+  TextsAhead(Files& files, qsizetype count, std::function<QString(qsizetype)> pathOf,
+             const ReadingPace& pace = {});
   ~TextsAhead();
   TextsAhead(const TextsAhead&) = delete;
   TextsAhead& operator=(const TextsAhead&) = delete;
 
   // The text of the next path. An empty path is a file that is not found.
   int Next(QString& text);
-
-  static constexpr size_t kFilesAhead = 64;
-  // Fewer are not worth a thread.
-  static constexpr qsizetype kFewestForThread = 24;
 
  private:
   enum State { Untouched, InWork, Ready };
@@ -41,7 +49,8 @@ class TextsAhead {
   int ReadHere(size_t at, QString& text);
 
   Files& files_;
-  const QStringList paths_;  // read by both threads
+  const std::function<QString(qsizetype)> pathOf_;
+  const ReadingPace pace_;
   std::vector<Slot> slots_;  // empty when there is no thread
   std::atomic<size_t> next_ = 0;
   std::atomic<bool> stop_ = false;

@@ -41,10 +41,7 @@ class WorkingForms : public WorkDesk, public Desks, public DocShell {
   void InitPricing() override { forms_->pricing.Init(); }
   void RefreshPricingList() override { forms_->pricing.LoadDescriptions(); }
   void PrintReport() override { RefreshReport(forms_->reports); }
-  void ClearReports() override {
-    forms_->reports.Reporter.Clear();
-    forms_->reports.Hide();
-  }
+  void ClearReports() override { forms_->reports.ClearReport(); }
   void ForgetProject() override {
     forms_->adjustment.ForgetAmount();
     forms_->reports.ForgetProject();

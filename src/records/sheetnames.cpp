@@ -1,21 +1,28 @@
 #include "records/sheetnames.h"
 
+#include "records/linescanner.h"
+
 namespace tamo {
 namespace {
 
 int ReadPairs(Files& files, const QString& path, QStringList& names) {
-  QStringList lines;
-  const int error = files.ReadLines(path, lines);
-  names = SheetNamesOf(lines);
+  QString text;
+  const int error = files.ReadText(path, text);
+  names = SheetNamesOf(text);
   return error;
 }
 
 }  // namespace
 
-QStringList SheetNamesOf(const QStringList& wholeLines) {
+// A large bid has tens of thousands of rooms: the lines between the names are not copied.
+QStringList SheetNamesOf(const QString& text) {
   QStringList names;
-  names.reserve((wholeLines.size() + 1) / 2);
-  for (qsizetype i = 0; i < wholeLines.size(); i += 2) names += wholeLines[i];
+  LineScanner lines(text);
+  QStringView line;
+  while (lines.Next(line)) {
+    names += line.toString();
+    lines.Next(line);
+  }
   return names;
 }
 

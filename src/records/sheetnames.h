@@ -10,7 +10,7 @@ namespace tamo {
 
 // The list of a project's rooms and that of its free areas: two lines a name, the second always
 // "True" and without meaning. An odd last line is a name, too. Read by whole lines.
-QStringList SheetNamesOf(const QStringList& wholeLines);
+QStringList SheetNamesOf(const QString& text);
 QStringList SheetNamesLines(const QStringList& names);
 
 // Error numbers as Files has them; a list that could not be read is empty.

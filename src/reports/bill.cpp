@@ -6,8 +6,8 @@
 #include "records/arealine.h"
 #include "records/roomline.h"
 #include "reports/linequantity.h"
-#include "reports/projectfiles.h"
 #include "reports/rollup.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 namespace {

@@ -7,7 +7,7 @@
 #include "records/itemsfile.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
-#include "reports/projectfiles.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 

@@ -1,12 +1,14 @@
 #include "reports/copies.h"
 
+#include <algorithm>
+
+#include "common/columns.h"
 #include "common/numbers.h"
 #include "reports/detailrow.h"
-#include "reports/figuretext.h"
 #include "reports/linequantity.h"
 #include "reports/notebook.h"
-#include "reports/projectfiles.h"
 #include "reports/rollup.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 namespace {
@@ -24,6 +26,12 @@ constexpr SheetColumns kArea{20, 22, 14, 26};
 
 QStringView LastOf(QStringView text, qsizetype count) {
   return text.last(qMin(count, text.size()));
+}
+
+// Blanks that fill a column of the heads; none for a text that is wider.
+QStringView BlanksFor(qsizetype count) {
+  static const QString blanks = Blanks(32);
+  return QStringView(blanks).first(std::clamp<qsizetype>(count, 0, blanks.size()));
 }
 
 class CopyMaker : public TakeoffVisitor {
@@ -50,7 +58,7 @@ class CopyMaker : public TakeoffVisitor {
     notes_.NoteSystem(shelf_, system, static_cast<int>(head));
     const bool unitPriced = shelf_.UnitPrice() != 0;
     const QStringView end = LastOf(line, 28);
-    const QStringView pad = BlankView(columns.nameWidth - system.size());
+    const QStringView pad = BlanksFor(columns.nameWidth - system.size());
     if (unitPriced || shelf_.Blocks().empty()) {
       report_.lines.Add({u"   ", system, pad, end,
                          unitPriced ? QStringView(u"     Unit price item") : QStringView()});
@@ -60,10 +68,9 @@ class CopyMaker : public TakeoffVisitor {
     Add({});
     const double dollars = AddDetails(QuantityOf(kind, line, columns, static_cast<int>(head)));
     report_.total += dollars;
-    const FigureText subtotal = office_ ? FigureText::Money(dollars) : FigureText::Whole(0);
-    report_.lines.SetRow(head, {u"   ", system, pad, end,
-                                BlankView(office_ ? columns.subtotalWidth - subtotal.Size() : 0),
-                                office_ ? subtotal.View() : QStringView()});
+    const QString subtotal = office_ ? MoneyText(dollars) : QString();
+    const qsizetype room = office_ ? columns.subtotalWidth - subtotal.size() : 0;
+    report_.lines.SetRow(head, {u"   ", system, pad, end, BlanksFor(room), subtotal});
     report_.detail.resize(static_cast<size_t>(report_.lines.size()), true);
   }
 
@@ -92,10 +99,12 @@ class CopyMaker : public TakeoffVisitor {
     if (source_.wholeQuantities) return whole;
     if (part != whole) {
       report_.partlyRead = true;
-      notes_.Note(
-          QStringLiteral("Of the quantity of these lines only the first 10 of 14 columns are "
-                         "read. \"Read whole quantities\" takes all of it."),
-          row);
+      if (partly_ < 0) {
+        partly_ = notes_.Number(
+            QStringLiteral("Of the quantity of these lines only the first 10 of 14 columns are "
+                           "read. \"Read whole quantities\" takes all of it."));
+      }
+      notes_.AddRow(partly_, row);
     }
     return part;
   }
@@ -134,7 +143,7 @@ class CopyMaker : public TakeoffVisitor {
     CheckFigures({hundredths}, system);
     double dollars = 0;
     if (office_) {
-      const double m = FigureText::ReadWithPoint(hundredths) * block.price;
+      const double m = ReadWithPoint(hundredths) * block.price;
       const double markups = markups_.MOH * m + markups_.MTX * m + markups_.MMU * m +
                              markups_.MIOH * m + markups_.MITX * m + markups_.MIMU * m;
       dollars = Raised(m + markups);
@@ -171,6 +180,7 @@ class CopyMaker : public TakeoffVisitor {
   double manhours_ = 0;
   TakeoffCopy report_;
   NoteBook notes_;
+  int partly_ = -1;  // the number of the note on quantities that are read in part
 };
 
 TakeoffCopy MakeCopy(const ReportSource& source, const Markups& markups, bool office) {

@@ -10,7 +10,7 @@ namespace tamo {
 
 // A material or labor line of a copy: its texts stand, once for all takeoff lines, and its figures
 // are filled in at the right ends of their columns. A figure wider than its column takes the room
-// it needs.
+// it needs. A copy of a large bid has millions of them: BM_DetailRow beside BM_PlainDetailRow.
 class DetailRow {
  public:
   static DetailRow Material(const PricedBlock& block, bool office);
@@ -29,13 +29,19 @@ class DetailRow {
   DetailRow(bool office, const QString& name, const QString& unit, qsizetype quantityWidth,
             qsizetype dollarsWidth);
 
+  // The long way, for what does not fit or is not Latin-1.
+  Worth AddGrown(TextRows& rows, double hundredths, double dollars) const;
+  Worth ReadWorth(const TextRows& rows) const;
+
   bool office_;
   QString name_;
   QString unit_;
   qsizetype quantityWidth_;
   qsizetype dollarsWidth_;
-  QByteArray blank_;      // the whole line without its figures; empty when it is not Latin-1
-  qsizetype mostDigits_;  // of a quantity that fits
+  QByteArray blank_;  // the whole line without its figures
+  // Figures of at least 0 and less than these fit; none when the line is not Latin-1.
+  double endOfHundredths_ = 0;
+  double endOfDollars_ = 0;
   bool labor_;
   bool onlyDollars_;  // nothing but blanks and dollars in the last 14 characters
 };

@@ -2,7 +2,7 @@
 
 #include <QStringView>
 
-#include "reports/projectfiles.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 

@@ -4,7 +4,7 @@
 #include "records/arealine.h"
 #include "records/roomline.h"
 #include "reports/namerows.h"
-#include "reports/projectfiles.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 namespace {

@@ -20,13 +20,15 @@ QString ZeroFigures(const PricedBlock& block) {
 
 }  // namespace
 
-void NoteBook::Note(const QString& text, int row) {
-  int at = texts_.Find(text);
-  if (at < 0) {
-    at = texts_.Add(text);
-    notes_.push_back({text, {}});
-  }
-  std::vector<int>& rows = notes_[static_cast<size_t>(at)].rows;
+int NoteBook::Number(const QString& text) {
+  const int at = texts_.Find(text);
+  if (at >= 0) return at;
+  notes_.push_back({text, {}});
+  return texts_.Add(text);
+}
+
+void NoteBook::AddRow(int note, int row) {
+  std::vector<int>& rows = notes_[static_cast<size_t>(note)].rows;
   if (row >= 0 && (rows.empty() || rows.back() != row)) rows.push_back(row);
 }
 

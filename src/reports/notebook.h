@@ -13,7 +13,10 @@ namespace tamo {
 // collects the rows that it means.
 class NoteBook {
  public:
-  void Note(const QString& text, int row);
+  void Note(const QString& text, int row) { AddRow(Number(text), row); }
+  // The number of a note, which is made when it is new, and a row more for it; -1 for no row.
+  int Number(const QString& text);
+  void AddRow(int note, int row);
   // The same for the system that `shelf` has at hand, when it has no file in the project, and for
   // each of its materials that reads a figure of 0. `name` is the name in the takeoff.
   void NoteSystem(const SystemShelf& shelf, const QString& name, int row);

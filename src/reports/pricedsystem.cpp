@@ -78,7 +78,6 @@ void SystemShelf::Load(QStringView name) {
     unitPriceText_ = &file.unitPrice;
     unitPrice_ = entry.unitPrice;
   }
-  if (file.reached > 3 && source_.lineColor != nullptr) *source_.lineColor = file.lineColor;
   notes_ = &file.notes;
 }
 

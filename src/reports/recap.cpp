@@ -7,8 +7,8 @@
 #include "records/itemsfile.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
-#include "reports/projectfiles.h"
 #include "reports/rollup.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo {
 namespace {

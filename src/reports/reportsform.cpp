@@ -27,26 +27,14 @@ ReportsForm::Entries::Entries(ReportsForm& form)
 }
 
 ReportsForm::ReportsForm(const Kit& kit, const Joins& joins)
-    : Form(kit.desk, QStringLiteral("Reports")),
-      Reporter(*this, QStringLiteral("Reporter")),
-      Reporter1(*this, QStringLiteral("Reporter1")),
-      prList(*this, QStringLiteral("prList")),
-      NotesList(*this, QStringLiteral("NotesList")),
-      WholeQuantities(*this, QStringLiteral("WholeQuantities"),
-                      QStringLiteral("Read &whole quantities")),
-      Frame1(*this, QStringLiteral("Frame1")),
-      ttText(*this, QStringLiteral("ttText")),
-      tlText(*this, QStringLiteral("tlText")),
-      tmText(*this, QStringLiteral("tmText")),
-      tcText(*this, QStringLiteral("tcText")),
-      pcText(*this, QStringLiteral("pcText")),
-      lcText(*this, QStringLiteral("lcText")),
-      lpText(*this, QStringLiteral("lpText")),
-      mcText(*this, QStringLiteral("mcText")),
-      mpText(*this, QStringLiteral("mpText")),
-      menu(*this),
-      kit_(kit),
-      joins_(joins) {
+    : Form(kit.desk, QStringLiteral("Reports")), kit_(kit), joins_(joins) {
+  AddText(QStringLiteral("Flag"), &Flag);
+  AddText(QStringLiteral("Adjustment"), &Adjustment);
+  PrepareControls();
+  BindControls();
+}
+
+void ReportsForm::PrepareControls() {
   for (TextField* field :
        {&ttText, &tlText, &tmText, &tcText, &pcText, &lcText, &lpText, &mcText, &mpText}) {
     field->PutInto(Frame1);
@@ -56,8 +44,9 @@ ReportsForm::ReportsForm(const Kit& kit, const Joins& joins)
                                                           &NotesList, &WholeQuantities, &Frame1})
     control->Hide();
   prList.inTabOrder = false;
-  AddText(QStringLiteral("Flag"), &Flag);
-  AddText(QStringLiteral("Adjustment"), &Adjustment);
+}
+
+void ReportsForm::BindControls() {
   Reporter1.onTick = [this](int row) { Ticked(row); };
   NotesList.onSelect = [this] { NotePicked(); };
   WholeQuantities.onChange = [this] { WholeQuantitiesChanged(); };
@@ -107,8 +96,7 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files, kit_.shared, &kit_.shared.LineColor, onProgress,
-          joins_.wholeQuantities.WholeQuantities()};
+  return {kit_.files, kit_.shared, onProgress, joins_.wholeQuantities.WholeQuantities()};
 }
 
 Markups ReportsForm::LoadedMarkups() {
@@ -116,8 +104,8 @@ Markups ReportsForm::LoadedMarkups() {
   return joins_.markups.Texts();
 }
 
-void ReportsForm::TakeNotes(const Report& report, bool readsQuantities) {
-  notes_ = report.notes;
+void ReportsForm::TakeNotes(Report& report, bool readsQuantities) {
+  notes_ = std::move(report.notes);
   QStringList rows;
   for (const ReportNote& note : notes_) rows += NoteLine(note);
   NotesList.SetRows(rows);

@@ -33,19 +33,29 @@ class ReportsForm : public Form {
   };
   ReportsForm(const Kit& kit, const Joins& joins);
 
-  OrderedList Reporter;   // the report
-  CheckList Reporter1;    // the Office Copy, with a box to tick at each line
-  OrderedList prList;     // cleared by the recap, filled by nothing
-  OrderedList NotesList;  // what the columns of the report hide; clicking a note shows its row
-  CheckBox WholeQuantities;
-  Frame Frame1;  // the project manager's figures
-  TextField ttText, tlText, tmText, tcText, pcText, lcText, lpText, mcText, mpText;
+  OrderedList Reporter{*this, QStringLiteral("Reporter")};  // the report
+  CheckList Reporter1{*this, QStringLiteral("Reporter1")};  // the Office Copy, a box at each line
+  OrderedList prList{*this, QStringLiteral("prList")};  // cleared by the recap, filled by nothing
+  // What the columns of the report hide; clicking a note shows its row.
+  OrderedList NotesList{*this, QStringLiteral("NotesList")};
+  CheckBox WholeQuantities{*this, QStringLiteral("WholeQuantities"),
+                           QStringLiteral("Read &whole quantities")};
+  Frame Frame1{*this, QStringLiteral("Frame1")};  // the project manager's figures
+  TextField ttText{*this, QStringLiteral("ttText")};
+  TextField tlText{*this, QStringLiteral("tlText")};
+  TextField tmText{*this, QStringLiteral("tmText")};
+  TextField tcText{*this, QStringLiteral("tcText")};
+  TextField pcText{*this, QStringLiteral("pcText")};
+  TextField lcText{*this, QStringLiteral("lcText")};
+  TextField lpText{*this, QStringLiteral("lpText")};
+  TextField mcText{*this, QStringLiteral("mcText")};
+  TextField mpText{*this, QStringLiteral("mpText")};
 
   struct Entries {
     explicit Entries(ReportsForm& form);
     MenuEntry printReport, CopyReport, MakeProjectFile, ExitReports;
   };
-  Entries menu;
+  Entries menu{*this};
 
   QString Flag;        // "True" Office Copy, "False" Field Copy; stays as the last report left it
   QString Adjustment;  // the adjustment as last read
@@ -83,10 +93,12 @@ class ReportsForm : public Form {
   std::function<void(bool whole)> onMade;
 
  private:
+  void BindControls();
+  void PrepareControls();
   void Make(const std::function<void()>& report);
   void Fill(Report report, bool readsQuantities = false);
   void FillCopy(TakeoffCopy report);
-  void TakeNotes(const Report& report, bool readsQuantities);
+  void TakeNotes(Report& report, bool readsQuantities);
   void Clear();
   void ClearNotes();
   ReportSource Source();
@@ -98,7 +110,7 @@ class ReportsForm : public Form {
   void NotePicked();
   void WholeQuantitiesChanged();
 
-  const Kit& kit_;
+  const Kit kit_;
   Joins joins_;
   bool running_ = false;     // a report is being made: ticks do not count, no other begins
   bool refreshing_ = false;  // the window stays where it is

@@ -10,14 +10,10 @@
 
 namespace tamo {
 
-// Where a report reads from, and whom it tells how far it is. The files and the line colour outlive
-// it.
+// Where a report reads from, and whom it tells how far it is. The files outlive it.
 struct ReportSource {
   Files& files;
   ProjectFolder project;  // the open one
-  // Takes the plan line colour of every system that a report loads: the pen on the plans follows
-  // the system that was looked at last. May be nullptr.
-  QString* lineColor = nullptr;
   // Called again and again while a report is made, `done` of `all` sheets of takeoff; false stops
   // the report. May be empty.
   std::function<bool(int done, int all)> progress;

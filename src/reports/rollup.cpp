@@ -34,6 +34,16 @@ QString MakeMoney(const QString& text) {
   return WithPoint(Truncated(value * 100 + 0.005));
 }
 
+double ReadOddWithPoint(double hundredths) {
+  return Value(WithPoint(hundredths));
+}
+
+QString MoneyText(double dollars) {
+  if (dollars == 0 || std::abs(dollars) >= 1e13 || dollars != std::floor(dollars))
+    return MakeMoney(NumberText(dollars));
+  return NumberText(dollars) + QStringLiteral(".00");
+}
+
 QString UnitPriceText(double price) {
   const double cents = Truncated(price * 100 + 0.05);
   return cents == 0 ? QStringLiteral("0.00") : WithPoint(cents);
@@ -41,48 +51,24 @@ QString UnitPriceText(double price) {
 
 namespace {
 
-QString NoRatio(const QString& system, const PricedBlock& block, const QString& what) {
-  return QStringLiteral(
-             "The report can't be made: in the system \"%1\" the material \"%2\" has a %3 of 0, "
-             "and "
-             "nothing can be divided by 0. Correct it in Unit Pricing, then run the report again.")
-      .arg(system, block.material, what);
+[[noreturn]] void RefuseRatio(const QString& system, const PricedBlock& block,
+                              const QString& what) {
+  throw RunTimeFailure(
+      kDivisionByZero,
+      QStringLiteral(
+          "The report can't be made: in the system \"%1\" the material \"%2\" has a %3 of 0, and "
+          "nothing can be divided by 0. Correct it in Unit Pricing, then run the report again.")
+          .arg(system, block.material, what));
 }
 
 }  // namespace
 
-double OrderQuantity(const PricedBlock& block, double quantity, const QString& system,
-                     const StandingFigures& standing) {
-  switch (block.orderTag) {
-    case OrderTag::Upo:
-      if (block.ratio != 0) return quantity / block.ratio;
-      return Divided(quantity, block.ratio,
-                     NoRatio(system, block, QStringLiteral("number of units per order unit")));
-    case OrderTag::Opu:
-      return quantity * block.ratio;
-    case OrderTag::None:
-      break;
-  }
-  return standing.orderQuantity;
+void RefuseOrderRatio(const PricedBlock& block, const QString& system) {
+  RefuseRatio(system, block, QStringLiteral("number of units per order unit"));
 }
 
-double Manhours(const PricedBlock& block, double quantity, const QString& system,
-                const StandingFigures& standing) {
-  switch (block.laborTag) {
-    case LaborTag::Upm:
-      if (block.manhourRatio != 0) return quantity / block.manhourRatio;
-      return Divided(quantity, block.manhourRatio,
-                     NoRatio(system, block, QStringLiteral("number of units per manhour")));
-    case LaborTag::Mpu:
-      return quantity * block.manhourRatio;
-    case LaborTag::None:
-      break;
-  }
-  return standing.manhours;
-}
-
-double WithWaste(const PricedBlock& block, double orderQuantity) {
-  return orderQuantity + (block.waste / 100) * orderQuantity;
+void RefuseManhourRatio(const PricedBlock& block, const QString& system) {
+  RefuseRatio(system, block, QStringLiteral("number of units per manhour"));
 }
 
 BlockDollars PriceBlock(const PricedBlock& block, double quantity, const QString& system,

@@ -20,6 +20,14 @@ namespace tamo {
 QString MakeMoney(const QString& text);
 // A point before the last two digits of a whole number, zeros in front until two digits stand.
 QString WithPoint(double hundredths);
+// The number that the text of WithPoint is read as; not always a hundredth of it: -5 hundredths are
+// shown as ".-5", which is read as 0.
+double ReadOddWithPoint(double hundredths);
+inline double ReadWithPoint(double hundredths) {
+  return hundredths >= 0 && hundredths < 1e15 ? hundredths / 100 : ReadOddWithPoint(hundredths);
+}
+// The money text of a figure.
+QString MoneyText(double dollars);
 // The estimated unit price of a recap row as money.
 QString UnitPriceText(double price);
 
@@ -30,14 +38,30 @@ struct StandingFigures {
   double manhours = 0;
 };
 
+// Raise a RunTimeFailure that names the system and the material: a ratio to divide by is 0.
+[[noreturn]] void RefuseOrderRatio(const PricedBlock& block, const QString& system);
+[[noreturn]] void RefuseManhourRatio(const PricedBlock& block, const QString& system);
+
 // Order units for `quantity` takeoff units, before waste; the standing figure without a tag.
-double OrderQuantity(const PricedBlock& block, double quantity, const QString& system,
-                     const StandingFigures& standing);
+inline double OrderQuantity(const PricedBlock& block, double quantity, const QString& system,
+                            const StandingFigures& standing) {
+  if (block.orderTag == OrderTag::None) return standing.orderQuantity;
+  if (block.orderTag == OrderTag::Opu) return quantity * block.ratio;
+  if (block.ratio == 0) RefuseOrderRatio(block, system);
+  return quantity / block.ratio;
+}
 // Manhours for `quantity` takeoff units; the standing figure without a tag.
-double Manhours(const PricedBlock& block, double quantity, const QString& system,
-                const StandingFigures& standing);
+inline double Manhours(const PricedBlock& block, double quantity, const QString& system,
+                       const StandingFigures& standing) {
+  if (block.laborTag == LaborTag::None) return standing.manhours;
+  if (block.laborTag == LaborTag::Mpu) return quantity * block.manhourRatio;
+  if (block.manhourRatio == 0) RefuseManhourRatio(block, system);
+  return quantity / block.manhourRatio;
+}
 // `orderQuantity` and its waste.
-double WithWaste(const PricedBlock& block, double orderQuantity);
+inline double WithWaste(const PricedBlock& block, double orderQuantity) {
+  return orderQuantity + (block.waste / 100) * orderQuantity;
+}
 
 // What one material of a row costs before markups.
 struct BlockDollars {

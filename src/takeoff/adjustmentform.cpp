@@ -1,5 +1,6 @@
 #include "takeoff/adjustmentform.h"
 
+#include "common/chain.h"
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "records/adjustmentfile.h"
@@ -18,7 +19,7 @@ AdjustmentForm::AdjustmentForm(const Kit& kit, TakeoffReportRefresh& reports)
     LoadAdj();
     Adjustment.SelectAll();
   };
-  Adjustment.onKey = [this](Key& key) { AdjustmentKey(key); };
+  OnEnter(Adjustment, [this] { TakeAdjustment(); });
 }
 
 void AdjustmentForm::PriceAdjustment(Form* owner) {
@@ -46,9 +47,7 @@ void AdjustmentForm::ForgetAmount() {
 }
 
 // A zero is written as 0.00; an amount below a half becomes 0 (both held by a test).
-void AdjustmentForm::AdjustmentKey(Key& key) {
-  if (!key.IsEnter()) return;
-  key.Drop();
+void AdjustmentForm::TakeAdjustment() {
   const double amount = Value(Adjustment.Text());
   Adjustment.SetText(amount == 0 ? QStringLiteral("0.00") : NumberText(Rounded(amount)));
   SaveAdj();

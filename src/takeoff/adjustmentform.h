@@ -25,7 +25,7 @@ class AdjustmentForm : public Form {
   void ForgetAmount();
 
  private:
-  void AdjustmentKey(Key& key);
+  void TakeAdjustment();
 
   const Kit& kit_;
   TakeoffReportRefresh& reports_;

@@ -1,11 +1,11 @@
 #include "takeoff/bottomline.h"
 
+#include "common/chain.h"
 #include "records/itemline.h"
 #include "records/itemsfile.h"
 #include "records/namelists.h"
 #include "records/storable.h"
 #include "takeoff/bottomlinemoney.h"
-#include "takeoff/unitcodes.h"
 
 namespace tamo {
 
@@ -27,12 +27,8 @@ BottomLine::BottomLine(const Kit& kit, TakeoffReportRefresh& reports)
   for (Control* control : Controls()) {
     if (control != &oiFrame) control->PutInto(oiFrame);
   }
-  for (OrderedList* list : {&ItemList, &EditList}) {
-    list->takesFocus = false;
-    list->inTabOrder = false;
-    list->Hide();
-  }
-  ItemList.dropsFrom = &Item;
+  DropFrom(Item, ItemList);
+  KeepUnseen(EditList);
   EditList.SetRows({QStringLiteral("Delete Item"), QString(), QStringLiteral("Exit")});
   Bind();
 }
@@ -47,11 +43,12 @@ void BottomLine::Bind() {
     Finish();
     return true;
   };
-  Item.onKey = [this](Key& key) { ItemKey(key); };
-  Item.onGotFocus = [this] { Item.SelectAll(); };
+  OnEnter(
+      Item, Keys::Any, [this] { TakeItem(); }, [this] { Finish(); });
+  OnFocusSelectAll(Item);
   Item.onDoubleClick = [this] { Toggle(ItemList); };
-  iPrice.onKey = [this](Key& key) { PriceKey(key); };
-  iPrice.onGotFocus = [this] { iPrice.SelectAll(); };
+  OnEnter(iPrice, [this] { TakePrice(); });
+  OnFocusSelectAll(iPrice);
   ItemList.onSelect = [this] { NameSelected(); };
   oiList.onClick = [this] { TakeLine(); };
   oiList.onRightClick = [this] { EditList.SetShown(oiList.Index() >= 0); };
@@ -100,13 +97,7 @@ void BottomLine::SaveoiList() {
   WriteItemLines(kit_.files, DataFolder(kit_.shared).Project(listJob_), oiList.Rows());
 }
 
-void BottomLine::ItemKey(Key& key) {
-  if (!key.IsEnter()) return;
-  key.Drop();
-  if (Item.Empty()) {
-    Finish();
-    return;
-  }
+void BottomLine::TakeItem() {
   // A stored name ends in a blank, so a typed one is added each time; one taken from the list is
   // found (held by a test).
   if (ItemList.Find(Item.Text()) < 0) {
@@ -126,9 +117,7 @@ void BottomLine::Finish() {
   reports_.PrintReport();
 }
 
-void BottomLine::PriceKey(Key& key) {
-  if (!key.IsEnter()) return;
-  key.Drop();
+void BottomLine::TakePrice() {
   iPrice.SetText(BottomLineMoney(iPrice.Text()));
   const QString line = ItemLine::Of(Item.Text(), iPrice.Text()).Text();
   int at = 0;

@@ -35,9 +35,9 @@ class BottomLine : public Form {
  private:
   void Bind();
   void FollowProject();
-  void ItemKey(Key& key);
+  void TakeItem();
   void Finish();
-  void PriceKey(Key& key);
+  void TakePrice();
   void NameSelected();
   void TakeLine();
   void EditSelected();

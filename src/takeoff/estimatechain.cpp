@@ -1,5 +1,6 @@
 // The chain of the free takeoff: Area, eDescription, Hite for surfaces, eLength.
 
+#include "common/chain.h"
 #include "common/columns.h"
 #include "common/failure.h"
 #include "common/numbers.h"
@@ -12,42 +13,60 @@
 namespace tamo {
 
 void EstimateForm::BindChain() {
-  Area.onKey = [this](Key& key) { AreaKey(key); };
+  OnEnter(Area, Keys::FileName, [this] { TakeArea(); });
   Area.onGotFocus = [this] { AreaGotFocus(); };
-  Area.onLostFocus = [this] { AreasList.Hide(); };
+  Area.onLostFocus = [this] {
+    AreasList.Hide();
+    FollowAreaName();
+  };
   Area.onDoubleClick = [this] { Toggle(AreasList); };
 
-  eDescription.onKey = [this](Key& key) { DescriptionKey(key); };
-  eDescription.onGotFocus = [this] {
-    eDescription.SelectAll();
+  OnEnter(eDescription, [this] { TakeDescription(); });
+  OnFocusSelectAll(eDescription, [this] {
     if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) LoadDescriptions();
-  };
+  });
   eDescription.onLostFocus = [this] { DescriptionsList.Hide(); };
   eDescription.onDoubleClick = [this] { Toggle(DescriptionsList); };
 
-  Hite.onKey = [this](Key& key) { HiteKey(key); };
-  Hite.onGotFocus = [this] { HiteGotFocus(); };
-  eLength.onKey = [this](Key& key) { LengthKey(key); };
-  eLength.onGotFocus = [this] { LengthGotFocus(); };
+  OnEnter(Hite, Keys::Number, [this] { TakeHeight(); });
+  OnFocusSelectAll(Hite, [this] { HiteGotFocus(); });
+  OnEnter(eLength, Keys::Number, [this] { TakeLength(); });
+  OnFocusSelectAll(eLength, [this] { LengthGotFocus(); });
   eLength.onDoubleClick = [this] { Toggle(Lengths); };
 }
 
-void EstimateForm::AreaKey(Key& key) {
-  if (IsThrownAwayInNames(key)) key.Drop();
-  if (!key.IsEnter()) return;
-  key.Drop();
+void EstimateForm::TakeArea() {
   AreasList.Hide();
   if (Area.Empty()) {
     Hide();
   } else {
-    RequireName(QStringLiteral("area"), Area.Text());
-    if (AreasList.Find(Area.Text()) < 0) {
-      AreasList.Add(Area.Text());
-      SaveAreas();
-    }
+    EnterArea();
   }
   LoadArea();
   GetDesk().Focus(eDescription);
+}
+
+void EstimateForm::EnterArea() {
+  RequireName(QStringLiteral("area"), Area.Text());
+  if (AreasList.Find(Area.Text()) >= 0) return;
+  AreasList.Add(Area.Text());
+  SaveAreas();
+}
+
+// Another name than that of the lines below, left without Enter: its own lines come up. The focus
+// goes where the estimator sent it, or back to a name that is refused. False when it was refused.
+bool EstimateForm::FollowAreaName() {
+  if (Area.Empty() || !lines_.OfOpenProject() || lines_.AreOf(Area.Text())) return true;
+  bool loaded = false;
+  following_ = true;
+  GetDesk().Dispatch([&] {
+    EnterArea();
+    LoadArea();
+    loaded = true;
+  });
+  following_ = false;
+  if (!loaded) GetDesk().Focus(Area);
+  return loaded;
 }
 
 void EstimateForm::AreaGotFocus() {
@@ -65,9 +84,7 @@ void EstimateForm::AreaGotFocus() {
   AreasList.Show();
 }
 
-void EstimateForm::DescriptionKey(Key& key) {
-  if (!key.IsEnter()) return;
-  key.Drop();
+void EstimateForm::TakeDescription() {
   DescriptionsList.Hide();
   if (eDescription.Empty()) {
     LeaveDescription();
@@ -91,10 +108,7 @@ void EstimateForm::NextArea() {
   const QString next = NextName(Area.Text());
   RequireName(QStringLiteral("area"), next);
   Area.SetText(next);
-  if (AreasList.Find(next) < 0) {
-    AreasList.Add(next);
-    SaveAreas();
-  }
+  EnterArea();
   LoadArea();
   GetDesk().Focus(eDescription);
 }
@@ -104,6 +118,9 @@ void EstimateForm::NextArea() {
 void EstimateForm::UnknownSystem() {
   const QString name = eDescription.Text();
   kit_.desk.GetMessages().Tell(name + QStringLiteral(" Not Found"));
+  // No height or length that is measured meanwhile meets the line before.
+  kit_.shared.IAmHere.clear();
+  unknown_ = true;
   pricing_.ShowWithName(name);
   DescriptionsList.Insert(0, name);
 }
@@ -137,10 +154,7 @@ void EstimateForm::AskForLength() {
   GetDesk().Focus(eLength);
 }
 
-void EstimateForm::HiteKey(Key& key) {
-  if (!PassesNumberFilter(key)) key.Drop();
-  if (!key.IsEnter()) return;
-  key.Drop();
+void EstimateForm::TakeHeight() {
   if (GroupedValue(Hite.Text()) != 0) {
     plan_.SetToolMode(0);
     plan_.ClearDistance();
@@ -154,17 +168,13 @@ void EstimateForm::HiteKey(Key& key) {
 
 void EstimateForm::HiteGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("EH");
-  Hite.SelectAll();
   areaIndex_ = AreasList.Index();
   AreasList.SetTop(areasTop_);
   plan_.ReleaseMode();
   plan_.ClearDistance();
 }
 
-void EstimateForm::LengthKey(Key& key) {
-  if (!PassesNumberFilter(key)) key.Drop();
-  if (!key.IsEnter()) return;
-  key.Drop();
+void EstimateForm::TakeLength() {
   if (GroupedValue(eLength.Text()) == 0) {
     EndLineEntry();
     return;
@@ -175,14 +185,13 @@ void EstimateForm::LengthKey(Key& key) {
         QStringLiteral("No line of the area is selected, so the length has no place. Nothing was "
                        "stored; enter a system or select a line in the list first."));
   }
-  RequireName(QStringLiteral("area"), Area.Text());
+  PrepareSave();
   AddEntry();
 }
 
 void EstimateForm::LengthGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("EL");
   Lengths.Hide();
-  eLength.SelectAll();
   if (areaIndex_ < AreasList.Count()) AreasList.SetIndex(areaIndex_);
   AreasList.SetTop(areasTop_);
 }

@@ -63,14 +63,6 @@ EstimateForm::EstimateForm(const Kit& kit, PlanTools& plan, PricingDesk& pricing
   SetCaption(QStringLiteral("Estimating"));
   Units.readOnly = true;
   Units.inTabOrder = false;
-  for (OrderedList* list : {&AreasList, &DescriptionsList, &Lengths, &CopyAreaList, &System}) {
-    list->takesFocus = false;
-    list->inTabOrder = false;
-    list->Hide();
-  }
-  AreasList.dropsFrom = &Area;
-  DescriptionsList.dropsFrom = &eDescription;
-  Lengths.dropsFrom = &eLength;
   BindMenus();
   BindPopups();
   BindChain();
@@ -130,23 +122,33 @@ void EstimateForm::Init() {
   Show(OwnerForm());
   ScaleText.SetCaption(plan_.ScaleText());
   GetDesk().Focus(Area);
+  // Back from pricing a new system: the chain goes on with its name.
+  if (unknown_) GetDesk().Focus(eDescription);
+  unknown_ = false;
 }
 
 // When another project is open than the one whose area stands here, nothing of it may be stored
 // there. What Copy Area took stays.
 void EstimateForm::FollowProject() {
-  if (workJob_ == kit_.shared.JobID) return;
+  if (lines_.OfOpenProject()) return;
   for (TextField* field : {&Area, &eDescription, &Units, &Hite, &eLength}) field->Clear();
-  AreaList.Clear();
   Lengths.Clear();
-  areaError_ = kNoError;
-  workJob_ = kit_.shared.JobID;
+  unknown_ = false;
+  ForgetLines();
+  lines_.FollowProject();
 }
 
 void EstimateForm::LeaveForm() {
   for (TextField* field : {&Area, &Hite, &eLength}) field->Clear();
-  AreaList.Clear();
+  ForgetLines();
+  unknown_ = false;
   Hide();
+}
+
+void EstimateForm::ForgetLines() {
+  AreaList.Clear();
+  unread_ = false;
+  lines_.Forget();
 }
 
 void EstimateForm::LoadDescriptions() {
@@ -180,25 +182,30 @@ void EstimateForm::SaveAreas() {
 void EstimateForm::LoadArea() {
   const int kept = AreaList.Index();
   AreaList.Clear();
-  workJob_ = kit_.shared.JobID;
   QStringList lines;
   const int failure = ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), lines);
+  lines_.Begin(Area.Text(), failure);
+  unread_ = error_ != kNoError;
   if (failure != kNoError) error_ = failure;
   if (error_ == kNoError) AreaList.AddAll(lines);
-  areaError_ = error_;
   UpdateStatus();
   if (kept >= 0 && kept < AreaList.Count()) AreaList.SetIndex(kept);
 }
 
+// Asked before anything on the screen changes. Lines that were not read are never written over:
+// they come up before those that were entered meanwhile.
+void EstimateForm::PrepareSave() {
+  lines_.RequireStorable(Area.Text());
+  if (!unread_) return;
+  QStringList lines;
+  const int failure = ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), lines);
+  RequireReadable(failure, QStringLiteral("Area \"%1\"").arg(Area.Text()));
+  unread_ = false;
+  for (qsizetype i = 0; i < lines.size(); ++i) AreaList.Insert(static_cast<int>(i), lines[i]);
+}
+
 void EstimateForm::SaveArea() {
-  RequireName(QStringLiteral("area"), Area.Text());
-  if (workJob_ != kit_.shared.JobID) {
-    throw RunTimeFailure(kInvalidArgument,
-                         QStringLiteral("The area on the screen belongs to another project than "
-                                        "the open one. Nothing was stored; type the area's name "
-                                        "and press Enter."));
-  }
-  RequireReadable(areaError_, QStringLiteral("Area \"%1\"").arg(Area.Text()));
+  PrepareSave();
   WriteAreaFile(kit_.files, kit_.shared, Area.Text(), AreaList.Rows());
   reports_.PrintReport();
 }

@@ -3,6 +3,7 @@
 #include "common/control.h"
 #include "common/form.h"
 #include "common/kit.h"
+#include "takeoff/linesinwork.h"
 #include "takeoff/plantools.h"
 #include "takeoff/pricingdesk.h"
 #include "takeoff/takeoffreportrefresh.h"
@@ -76,21 +77,25 @@ class EstimateForm : public Form {
   void Activated();
   void LeaveForm();
   void FollowProject();
+  void ForgetLines();
+  void PrepareSave();
   void UpdateStatus();
 
   // estimatechain.cpp
   void BindChain();
-  void AreaKey(Key& key);
+  void TakeArea();
+  void EnterArea();
+  bool FollowAreaName();
   void AreaGotFocus();
-  void DescriptionKey(Key& key);
+  void TakeDescription();
   void LeaveDescription();
   void NextArea();
   void UnknownSystem();
   void TakeSystem();
   void AskForLength();
-  void HiteKey(Key& key);
+  void TakeHeight();
   void HiteGotFocus();
-  void LengthKey(Key& key);
+  void TakeLength();
   void LengthGotFocus();
   void AddEntry();
   void StoreQuantity(double total);
@@ -124,8 +129,10 @@ class EstimateForm : public Form {
   // lines until a system is loaded (held by a test).
   int error_ = 0;
   int areasError_ = 0;  // why the list of areas could not be read
-  int areaError_ = 0;   // why the area could not be read
-  QString workJob_;     // the project whose lines stand in AreaList
+  LinesInWork lines_{kit_.shared, QStringLiteral("area")};
+  bool unread_ = false;     // the file of the area was not read: AreaList lacks its lines
+  bool following_ = false;  // a name is followed: the focus goes where the estimator sends it
+  bool unknown_ = false;    // a system that is not there yet led to Pricing
 };
 
 }  // namespace tamo

@@ -1,5 +1,6 @@
 // The lists of the free takeoff: areas, lines, systems, and what the menus do to them.
 
+#include "common/chain.h"
 #include "records/arealine.h"
 #include "takeoff/estimateform.h"
 #include "takeoff/unitcodes.h"
@@ -7,6 +8,10 @@
 namespace tamo {
 
 void EstimateForm::BindLists() {
+  for (OrderedList* list : {&CopyAreaList, &System}) KeepUnseen(*list);
+  DropFrom(Area, AreasList);
+  DropFrom(eDescription, DescriptionsList);
+  DropFrom(eLength, Lengths);
   AreasList.onSelect = [this] { AreaSelected(); };
   AreasList.onUserScroll = [this] { areasTop_ = AreasList.Top(); };
   AreaList.onSelect = [this] { LineSelected(); };
@@ -31,16 +36,13 @@ void EstimateForm::LineSelected() {
   Units.SetText(line.UnitsStopgap());
   AreasList.Hide();
   LoadSystem();
-  if (!IsLinearOrCount(Units.Text())) {
-    LengthLabel.SetCaption(QStringLiteral("Length:"));
-    plan_.SetToolMode(1);
-    GetDesk().Focus(Hite);
-    return;
-  }
+  const bool surface = !IsLinearOrCount(Units.Text());
   const bool count = IsCount(Units.Text());
   plan_.SetToolMode(count ? 2 : 1);
-  LengthLabel.SetCaption(count ? QStringLiteral("How Many") : QStringLiteral("Length"));
-  GetDesk().Focus(eLength);
+  LengthLabel.SetCaption(surface ? QStringLiteral("Length:")
+                         : count ? QStringLiteral("How Many")
+                                 : QStringLiteral("Length"));
+  if (!following_) GetDesk().Focus(surface ? Hite : eLength);
 }
 
 // The system goes to the top of the list; Enter in the field goes on with it.
@@ -72,7 +74,8 @@ void EstimateForm::DeleteArea() {
     AreasList.Remove(at);
   }
   Area.Clear();
-  AreaList.Clear();
+  ForgetLines();
+  areaIndex_ = -1;
   SaveAreas();
   AreasList.Show();
   kit_.shared.IAmHere.clear();  // no length waits in the area any more
@@ -82,7 +85,8 @@ void EstimateForm::DeleteArea() {
 }
 
 void EstimateForm::DeleteLine() {
-  if (AreaList.Index() < 0) return;
+  if (!FollowAreaName() || AreaList.Index() < 0) return;
+  PrepareSave();
   AreaList.Remove(AreaList.Index());
   SaveArea();
   eDescription.Clear();
@@ -92,19 +96,22 @@ void EstimateForm::DeleteLine() {
 
 // The empty slot is stored, unlike that of a room.
 void EstimateForm::InsertLine() {
-  if (AreaList.Index() < 0) return;
+  if (!FollowAreaName() || AreaList.Index() < 0) return;
+  PrepareSave();
   AreaList.Insert(AreaList.Index(), QString());
   SaveArea();
   UpdateStatus();
 }
 
 void EstimateForm::CopyLines() {
+  if (!FollowAreaName()) return;
   CopyAreaList.SetRows(AreaList.Rows());
   copyHite_ = Hite.Text();
 }
 
 void EstimateForm::PasteLines() {
-  if (CopyAreaList.Empty()) return;
+  if (CopyAreaList.Empty() || !FollowAreaName()) return;
+  lines_.RequireStorable(Area.Text());
   AreaList.Clear();
   AreaList.AddAll(CopyAreaList.Rows());
   Hite.SetText(copyHite_);

@@ -1,5 +1,6 @@
 // Entering the schedule: Room, then Description and Area in a loop, then How, then the next Room.
 
+#include "common/chain.h"
 #include "common/numbers.h"
 #include "records/roomline.h"
 #include "records/storable.h"
@@ -10,25 +11,29 @@
 namespace tamo {
 
 void RFSForm::BindEntry() {
-  Room.onKey = [this](Key& key) { RoomKey(key); };
-  Room.onGotFocus = [this] { RoomGotFocus(); };
-  Room.onLostFocus = [this] { kit_.shared.IAmHere.clear(); };
+  OnEnter(Room, Keys::FileName, [this] { TakeRoom(); });
+  OnFocusSelectAll(Room, [this] { RoomGotFocus(); });
+  Room.onLostFocus = [this] {
+    kit_.shared.IAmHere.clear();
+    FollowRoomName();
+  };
   Room.onDoubleClick = [this] { Toggle(RoomsList); };
 
-  Description.onKey = [this](Key& key) { DescriptionKey(key); };
-  Description.onGotFocus = [this] { DescriptionGotFocus(); };
+  OnEnter(
+      Description, Keys::Any, [this] { TakeDescription(); }, [this] { LeaveDescription(); });
+  HideOnKey(Description, DescriptionsList);
+  OnFocusSelectAll(Description, [this] { DescriptionGotFocus(); });
   Description.onLostFocus = [this] {
     kit_.shared.IAmHere.clear();
     DescriptionsList.Hide();
   };
   Description.onDoubleClick = [this] { Toggle(DescriptionsList); };
 
-  Area.onKey = [this](Key& key) {
-    if (!key.IsEnter()) return;
-    key.Drop();
+  OnEnter(Area, [this] {
+    lines_.RequireStorable(Room.Text());
     TakeFinishArea();
     StoreLine();
-  };
+  });
   Area.onGotFocus = [this] {
     LoadAreas();
     Area.Select(static_cast<int>(Area.Text().size()), 0);
@@ -45,15 +50,11 @@ void RFSForm::SwitchAutoRoom() {
 
 void RFSForm::RoomGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("RR");
-  Room.SelectAll();
   LoadRooms();
   RoomsList.SetTop(roomsTop_);
 }
 
-void RFSForm::RoomKey(Key& key) {
-  if (IsThrownAwayInNames(key)) key.Drop();
-  if (!key.IsEnter()) return;
-  key.Drop();
+void RFSForm::TakeRoom() {
   RoomsList.Hide();
   if (Room.Empty()) {
     Hide();
@@ -76,20 +77,30 @@ void RFSForm::EnterRoom() {
   SaveRooms();
 }
 
+// Another name than that of the lines below, left without Enter: its own lines come up. The focus
+// goes where the estimator sent it, or back to a name that is refused. False when it was refused.
+bool RFSForm::FollowRoomName() {
+  if (Room.Empty() || !lines_.OfOpenProject() || lines_.AreOf(Room.Text())) return true;
+  bool loaded = false;
+  GetDesk().Dispatch([&] {
+    EnterRoom();
+    LoadRoom();
+    loaded = true;
+  });
+  if (!loaded) GetDesk().Focus(Room);
+  return loaded;
+}
+
 void RFSForm::DescriptionGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("RD");
-  Description.SelectAll();
   if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) LoadDescriptions();
 }
 
-void RFSForm::DescriptionKey(Key& key) {
-  DescriptionsList.Hide();
-  if (!key.IsEnter()) return;
-  key.Drop();
-  if (Description.Empty()) {
-    GetDesk().Focus(Flag == QLatin1String("Enter") ? How : Room);
-    return;
-  }
+void RFSForm::LeaveDescription() {
+  GetDesk().Focus(Flag == QLatin1String("Enter") ? How : Room);
+}
+
+void RFSForm::TakeDescription() {
   const int at = DescriptionsList.FindAnyCase(Description.Text());
   if (at >= 0) {
     Description.SetText(DescriptionsList.Row(at));
@@ -115,7 +126,6 @@ void RFSForm::TakeFinishArea() {
 // A system stands only once in a room: its line is rewritten, with its quantity; the first empty
 // slot takes a system that is new.
 void RFSForm::StoreLine() {
-  RequireName(QStringLiteral("room"), Room.Text());
   const int at = FindLine(RoomList.Rows(), Description.Text());
   // Another line than the selected one fills Description and Area from the line, so that a finish
   // area typed for it is not taken (held by a test).
@@ -151,7 +161,8 @@ void RFSForm::AddLine(int at) {
 }
 
 // How in "Enter" mode: the room is finished.
-void RFSForm::HowKeyInEntry() {
+void RFSForm::FinishRoom() {
+  lines_.RequireStorable(Room.Text());
   if (How.Empty()) How.SetText(CopyHeight);
   CopyHeight = How.Text();
   SaveRoom();
@@ -168,6 +179,7 @@ void RFSForm::HowKeyInEntry() {
   // With AutoRoom a room that had lines shows none from here on until it is loaded again (held by a
   // test).
   RoomList.Clear();
+  if (!autoRoom_) lines_.Forget();
   UpdateStatus();
 }
 

@@ -74,16 +74,6 @@ RFSForm::RFSForm(const Kit& kit, PlanTools& plan, PricingDesk& pricing,
   }
   Units.readOnly = true;
   Units.inTabOrder = false;
-  for (OrderedList* list :
-       {&RoomsList, &DescriptionsList, &AreaList, &Lengths, &CopyRoomList, &System}) {
-    list->takesFocus = false;
-    list->inTabOrder = false;
-    list->Hide();
-  }
-  RoomsList.dropsFrom = &Room;
-  DescriptionsList.dropsFrom = &Description;
-  AreaList.dropsFrom = &Area;
-  Lengths.dropsFrom = &Length;
   AddText(QStringLiteral("Flag"), &Flag);
   AddText(QStringLiteral("CopyHeight"), &CopyHeight);
   AddText(QStringLiteral("CopyHeight1"), &CopyHeight1);
@@ -134,6 +124,9 @@ void RFSForm::TakeOffRoomFinishSchedule(Form* owner) {
   UpdatePrompts();
   if (!Visible()) return;  // there are no systems to take off yet
   Show(owner);
+  if (!FollowRoomName()) return;
+  // Lines that belong to no room have no place in the walk.
+  if (Room.Empty()) ForgetLines();
   RoomsList.Hide();
   DescriptionsList.Hide();
   LoadRooms();
@@ -171,20 +164,24 @@ void RFSForm::Init() {
 // When another project is open than the one whose room stands here, nothing of it may be stored
 // there. What Copy Room took stays.
 void RFSForm::FollowProject() {
-  if (workJob_ == kit_.shared.JobID) return;
+  if (lines_.OfOpenProject()) return;
   for (TextField* field : {&Room, &Description, &Area, &Units, &How, &Length}) field->Clear();
   CopyHeight.clear();
-  RoomList.Clear();
   Lengths.Clear();
   roomCursor_ = -1;
   selectedLine_ = -1;
-  roomError_ = kNoError;
-  workJob_ = kit_.shared.JobID;
+  ForgetLines();
+  lines_.FollowProject();
+}
+
+void RFSForm::ForgetLines() {
+  RoomList.Clear();
+  lines_.Forget();
 }
 
 void RFSForm::LeaveForm() {
   for (TextField* field : {&Room, &Area, &How, &Length}) field->Clear();
-  RoomList.Clear();
+  ForgetLines();
   Hide();
   kit_.shared.DriveBy = QStringLiteral("True");
 }
@@ -224,9 +221,9 @@ void RFSForm::SaveRooms() {
 
 void RFSForm::LoadRoom() {
   RoomList.Clear();
-  workJob_ = kit_.shared.JobID;
   RoomFile file;
-  roomError_ = ReadRoomFile(kit_.files, kit_.shared, Room.Text(), file);
+  const int error = ReadRoomFile(kit_.files, kit_.shared, Room.Text(), file);
+  lines_.Begin(Room.Text(), error);
   if (file.hasHeight) {
     How.SetText(file.height);
     CopyHeight = file.height;
@@ -239,14 +236,7 @@ void RFSForm::LoadRoom() {
 }
 
 void RFSForm::SaveRoom() {
-  RequireName(QStringLiteral("room"), Room.Text());
-  if (workJob_ != kit_.shared.JobID) {
-    throw RunTimeFailure(kInvalidArgument,
-                         QStringLiteral("The room on the screen belongs to another project than "
-                                        "the open one. Nothing was stored; type the room's name "
-                                        "and press Enter."));
-  }
-  RequireReadable(roomError_, QStringLiteral("Room \"%1\"").arg(Room.Text()));
+  lines_.RequireStorable(Room.Text());
   if (How.Empty()) How.SetText(CopyHeight);
   WriteRoomFile(kit_.files, kit_.shared, Room.Text(), How.Text(), RoomList.Rows());
   reports_.PrintReport();

@@ -3,6 +3,7 @@
 #include "common/control.h"
 #include "common/form.h"
 #include "common/kit.h"
+#include "takeoff/linesinwork.h"
 #include "takeoff/plantools.h"
 #include "takeoff/pricingdesk.h"
 #include "takeoff/takeoffreportrefresh.h"
@@ -94,36 +95,40 @@ class RFSForm : public Form {
   void LeaveForm();
   void ShowPlan();
   void FollowProject();
+  void ForgetLines();
   void UpdateStatus();
   void UpdatePrompts();
 
   // rfsentry.cpp
   void BindEntry();
-  void RoomKey(Key& key);
+  void TakeRoom();
   void RoomGotFocus();
   void EnterRoom();
-  void DescriptionKey(Key& key);
+  bool FollowRoomName();
+  void TakeDescription();
+  void LeaveDescription();
   void DescriptionGotFocus();
   void TakeSystem();
   void TakeFinishArea();
   void StoreLine();
   void RewriteLine(int at);
   void AddLine(int at);
-  void HowKeyInEntry();
+  void FinishRoom();
   void NextRoom();
   void SwitchAutoRoom();
 
   // rfstakeoff.cpp
   void BindTakeoff();
-  void HowKey(Key& key);
+  void TakeHeight();
   void HowGotFocus();
-  void LengthKey(Key& key);
+  void TakeLength();
   void LengthGotFocus();
   void LineSelected();
   void AskForLineEntry();
   void AddEntry();
   void StoreQuantity(double total);
   void EndLineEntry();
+  void SaveAndWalkOn();
   void FinishSchedule();
 
   // rfslists.cpp
@@ -149,8 +154,7 @@ class RFSForm : public Form {
   int selectedLine_ = -1;  // the last selected line, kept across LoadRoom
   int roomsTop_ = 0;
   double heightNumber_ = 0;
-  QString workJob_;     // the project whose lines stand in RoomList
-  int roomError_ = 0;   // why the room could not be read
+  LinesInWork lines_{kit_.shared, QStringLiteral("room")};
   int roomsError_ = 0;  // why the list of rooms could not be read
   int areasError_ = 0;  // why the list of finish areas could not be read
 };

@@ -1,5 +1,6 @@
 // The lists of the schedule: rooms, systems, finish areas, and what the pop-up menus do to them.
 
+#include "common/chain.h"
 #include "common/numbers.h"
 #include "takeoff/rfsform.h"
 #include "takeoff/unitcodes.h"
@@ -7,6 +8,11 @@
 namespace tamo {
 
 void RFSForm::BindLists() {
+  for (OrderedList* list : {&CopyRoomList, &System}) KeepUnseen(*list);
+  DropFrom(Room, RoomsList);
+  DropFrom(Description, DescriptionsList);
+  DropFrom(Area, AreaList);
+  DropFrom(Length, Lengths);
   RoomsList.onSelect = [this] { RoomSelected(); };
   RoomsList.onUserScroll = [this] { roomsTop_ = RoomsList.Top(); };
   DescriptionsList.onSelect = [this] { DescriptionSelected(); };
@@ -50,6 +56,7 @@ void RFSForm::DescriptionSelected() {
 
 void RFSForm::FinishAreaSelected() {
   if (AreaList.Index() < 0) return;
+  lines_.RequireStorable(Room.Text());
   const QString name = AreaList.Selected();
   Area.SetText(name);
   AreaList.Remove(AreaList.Index());
@@ -75,9 +82,10 @@ void RFSForm::DeleteRoom() {
     gone = QStringLiteral("\"%1\" and \"%2\" are").arg(Room.Text(), RoomsList.Row(at));
     RoomsList.Remove(at);
   }
-  RoomList.Clear();
+  ForgetLines();
   Room.Clear();
   roomCursor_ = -1;
+  kit_.shared.IAmHere.clear();  // no measure waits in the room any more
   SaveRooms();
   RoomsList.Show();
   StatusText.SetCaption(
@@ -85,7 +93,8 @@ void RFSForm::DeleteRoom() {
 }
 
 void RFSForm::DeleteLine() {
-  if (RoomList.Index() < 0) return;
+  if (!FollowRoomName() || RoomList.Index() < 0) return;
+  lines_.RequireStorable(Room.Text());
   RoomList.Remove(RoomList.Index());
   Description.Clear();
   Area.Clear();
@@ -96,19 +105,22 @@ void RFSForm::DeleteLine() {
 
 // The empty slot is filled by the next new system; it is never stored.
 void RFSForm::InsertLine() {
-  if (RoomList.Index() < 0) return;
+  if (!FollowRoomName() || RoomList.Index() < 0) return;
+  lines_.RequireStorable(Room.Text());
   RoomList.Insert(RoomList.Index(), QString());
   SaveRoom();
   UpdateStatus();
 }
 
 void RFSForm::CopyLines() {
+  if (!FollowRoomName()) return;
   CopyHeight1 = How.Text();
   CopyRoomList.SetRows(RoomList.Rows());
 }
 
 void RFSForm::PasteLines() {
-  if (CopyRoomList.Empty()) return;
+  if (CopyRoomList.Empty() || !FollowRoomName()) return;
+  lines_.RequireStorable(Room.Text());
   RoomList.Clear();
   How.SetText(CopyHeight1);
   CopyHeight = How.Text();

@@ -1,5 +1,6 @@
 // Taking off: the walk through every line of every room, and the arithmetic of a line.
 
+#include "common/chain.h"
 #include "common/columns.h"
 #include "common/failure.h"
 #include "common/numbers.h"
@@ -10,9 +11,9 @@
 namespace tamo {
 
 void RFSForm::BindTakeoff() {
-  How.onKey = [this](Key& key) { HowKey(key); };
+  OnEnter(How, Keys::Number, [this] { TakeHeight(); });
   How.onGotFocus = [this] { HowGotFocus(); };
-  Length.onKey = [this](Key& key) { LengthKey(key); };
+  OnEnter(Length, [this] { TakeLength(); });
   Length.onGotFocus = [this] { LengthGotFocus(); };
   Length.onDoubleClick = [this] { Toggle(Lengths); };
   RoomList.onSelect = [this] { LineSelected(); };
@@ -34,12 +35,9 @@ void RFSForm::HowGotFocus() {
   How.SelectAll();
 }
 
-void RFSForm::HowKey(Key& key) {
-  if (!PassesNumberFilter(key)) key.Drop();
-  if (!key.IsEnter()) return;
-  key.Drop();
+void RFSForm::TakeHeight() {
   if (Flag != QLatin1String("Estimate")) {
-    HowKeyInEntry();
+    FinishRoom();
     return;
   }
   if (GroupedValue(How.Text()) != 0) {
@@ -49,8 +47,7 @@ void RFSForm::HowKey(Key& key) {
   Lengths.Clear();
   Lengths.Hide();
   for (TextField* field : {&Description, &Units, &Area, &How}) field->Clear();
-  SaveRoom();
-  EstimateRFS();
+  SaveAndWalkOn();
 }
 
 void RFSForm::LengthGotFocus() {
@@ -67,9 +64,7 @@ void RFSForm::LengthGotFocus() {
   Lengths.Hide();
 }
 
-void RFSForm::LengthKey(Key& key) {
-  if (!key.IsEnter()) return;
-  key.Drop();
+void RFSForm::TakeLength() {
   if (GroupedValue(Length.Text()) == 0) {
     Description.SetText(RoomLine(RoomList.Selected()).System());
     EndLineEntry();
@@ -81,6 +76,7 @@ void RFSForm::LengthKey(Key& key) {
         QStringLiteral("No line of the room is selected, so the length has no place. Nothing was "
                        "stored; select a line in the list, then enter the length."));
   }
+  lines_.RequireStorable(Room.Text());
   Description.SetText(RoomLine(RoomList.Selected()).System());
   AddEntry();
 }
@@ -132,7 +128,16 @@ void RFSForm::EndLineEntry() {
   Description.Clear();
   Units.Clear();
   Lengths.Clear();
-  if (RoomList.Index() >= 0) SaveRoom();
+  if (RoomList.Index() >= 0) {
+    SaveAndWalkOn();
+  } else {
+    EstimateRFS();
+  }
+}
+
+// A save that is refused says why; the walk goes on all the same.
+void RFSForm::SaveAndWalkOn() {
+  GetDesk().Dispatch([this] { SaveRoom(); });
   EstimateRFS();
 }
 

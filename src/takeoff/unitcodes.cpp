@@ -32,16 +32,4 @@ int FindLine(const QStringList& lines, const QString& system) {
   return static_cast<int>(lines.size());
 }
 
-bool PassesNumberFilter(const Key& key) {
-  if (key.Is(Key::Name::Space)) return false;
-  if (!key.Is(Key::Name::Character)) return true;
-  const QChar c = key.character;
-  return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('.') ||
-         c == QLatin1Char('-');
-}
-
-bool IsThrownAwayInNames(const Key& key) {
-  return key.Is(Key::Name::Character) && QStringLiteral("\\,\"/").contains(key.character);
-}
-
 }  // namespace tamo

@@ -3,8 +3,6 @@
 #include <QString>
 #include <QStringList>
 
-#include "common/control.h"
-
 namespace tamo {
 
 // What a takeoff unit asks of the estimator. Codes are compared in any case: "lf" is "LF".
@@ -23,16 +21,5 @@ bool AsksForWidth(const QString& finishArea);
 // there is none. The name may be the beginning of a longer one: Paint finds Paint Walls (held by a
 // test).
 int FindLine(const QStringList& lines, const QString& system);
-
-// What the number fields let through of what is typed: digits, the point, the minus sign, and the
-// keys that are no characters.
-bool PassesNumberFilter(const Key& key);
-// The characters that are thrown away in the name of a room or an area: \ , " /
-bool IsThrownAwayInNames(const Key& key);
-
-// How a double click shows or hides a drop list.
-inline void Toggle(Control& list) {
-  list.SetShown(!list.Shown());
-}
 
 }  // namespace tamo

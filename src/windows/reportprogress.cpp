@@ -7,7 +7,7 @@ namespace tamo {
 namespace {
 
 constexpr int kPatience = 50;  // milliseconds before the bar comes up
-constexpr int kFrame = 16;     // between two movements of the bar
+constexpr int kFrame = 5;      // between two looks at what waits: thrice in a frame of the screen
 
 }  // namespace
 
@@ -17,8 +17,13 @@ bool ReportProgress::Tell(int done, int all) {
     shown_ = 0;
   }
   const qint64 now = clock_.elapsed();
-  if (now < kPatience || now - shown_ < kFrame) return true;
+  if (now - shown_ < kFrame) return true;
   shown_ = now;
+  if (now < kPatience) {
+    // What the user does waits for the bar, which can tell it from a key meant for it.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    return true;
+  }
   if (dialog_.isNull()) Begin(all);
   dialog_->setMaximum(all);
   dialog_->setValue(done);

@@ -1,114 +1,21 @@
 #include "windows/rowsview.h"
 
 #include <QApplication>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "windows/look.h"
-#include "windows/tamostyle.h"
+#include "windows/rowpainter.h"
 
 namespace tamo {
-namespace {
-
-constexpr int kMostPainted = 4000;  // characters of a row
-constexpr int kBar = 4;             // the mark at the left edge of the selected row
-constexpr int kTick = 16;           // side of a tick box
-
-class RowPainter : public QStyledItemDelegate {
- public:
-  explicit RowPainter(RowsView& view) : QStyledItemDelegate(&view), view_(view) {}
-
-  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
-    const int columns = std::min(view_.Model().LongestRow(), kMostPainted);
-    if (view_.linesOfRow > 1) return {0, view_.RowHeight()};
-    return {view_.WidthOfColumns(columns), view_.RowHeight()};
-  }
-
-  void paint(QPainter* painter, const QStyleOptionViewItem& option,
-             const QModelIndex& index) const override {
-    const Look& look = CurrentLook();
-    const QRect& row = option.rect;
-    const bool selected = index.row() == view_.Selected();
-    painter->save();
-    if (selected) {
-      painter->fillRect(row, look.accentGround);
-      painter->fillRect(QRect(row.topLeft(), QSize(kBar, row.height())), look.accent);
-    } else if ((option.state & QStyle::State_MouseOver) != 0 && view_.cursor() != Qt::ArrowCursor) {
-      painter->fillRect(row, look.accentGround);
-    }
-    QRect text = row.adjusted(kGrid, 0, 0, 0);
-    if (index.data(Qt::CheckStateRole).isValid()) {
-      PaintTickBox(*painter, view_.TickRect(index.row()),
-                   index.data(Qt::CheckStateRole).toInt() == Qt::Checked, look);
-      text.setLeft(view_.TickRect(index.row()).right() + kGrid);
-    }
-    PaintText(*painter, text, index.data().toString(), look);
-    if (index.row() == view_.Walked()) {
-      painter->setPen(QPen(look.accent, 2));
-      painter->drawRect(row.adjusted(1, 1, -1, -1));
-    }
-    painter->restore();
-  }
-
- private:
-  void PaintText(QPainter& painter, const QRect& place, QString text, const Look& look) const {
-    if (text.size() > kMostPainted) text.truncate(kMostPainted);
-    painter.setFont(view_.font());
-    const QString& found = view_.Found();
-    if (!found.isEmpty()) {
-      const QFontMetrics metrics(view_.font());
-      for (qsizetype at = text.indexOf(found, 0, Qt::CaseInsensitive); at >= 0;
-           at = text.indexOf(found, at + found.size(), Qt::CaseInsensitive)) {
-        const int left = place.left() + metrics.horizontalAdvance(text.left(at));
-        const int width = metrics.horizontalAdvance(text.mid(at, found.size()));
-        painter.fillRect(QRect(left, place.top() + 2, width, place.height() - 4), look.notice);
-        painter.fillRect(QRect(left, place.bottom() - 3, width, 2), look.noticeLine);
-      }
-    }
-    painter.setPen(view_.isEnabled() ? look.text : look.quiet);
-    const int flags = view_.linesOfRow > 1 ? Qt::AlignVCenter | Qt::TextWordWrap
-                                           : Qt::AlignVCenter | Qt::TextSingleLine;
-    painter.drawText(place, Qt::AlignLeft | flags, text);
-  }
-
-  RowsView& view_;
-};
-
-}  // namespace
-
-bool RowsModel::TakeOver() {
-  if (revision_ == list_.RowsRevision()) return false;
-  revision_ = list_.RowsRevision();
-  beginResetModel();
-  rows_ = list_.SharedRows();
-  longest_ = rows_.Longest();
-  endResetModel();
-  return true;
-}
-
-int RowsModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : rows_.Count();
-}
-
-QVariant RowsModel::data(const QModelIndex& index, int role) const {
-  if (!index.isValid() || index.row() >= rows_.Count()) return {};
-  if (role == Qt::DisplayRole) return rows_.At(index.row());
-  if (role == Qt::CheckStateRole) {
-    const auto* checks = dynamic_cast<const CheckList*>(&list_);
-    if (checks != nullptr) return checks->Ticked(index.row()) ? Qt::Checked : Qt::Unchecked;
-  }
-  return {};
-}
 
 RowsView::RowsView(const OrderedList& list, QWidget* parent)
     : QListView(parent), model_(new RowsModel(list)) {
   model_->setParent(this);
   setModel(model_);
   setItemDelegate(new RowPainter(*this));
-  setUniformItemSizes(true);
-  setLayoutMode(QListView::SinglePass);
   setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   setAutoScroll(false);
@@ -178,20 +85,147 @@ QSize RowsView::sizeHint() const {
           wantedRows * RowHeight() + frame};
 }
 
+int RowsView::Top() const {
+  return verticalScrollBar()->value();
+}
+
+int RowsView::WholeRows() const {
+  return std::max(1, viewport()->height() / rowHeight_);
+}
+
+int RowsView::ContentsWidth() const {
+  const int wide =
+      linesOfRow > 1 ? 0 : WidthOfColumns(std::min(model_->LongestRow(), kMostPainted));
+  return std::max(wide, viewport()->width());
+}
+
+int RowsView::horizontalOffset() const {
+  return horizontalScrollBar()->value();
+}
+
+// In rows; only the difference of two is a length on the screen, and no int would hold it.
+int RowsView::verticalOffset() const {
+  return Top();
+}
+
+QRect RowsView::visualRect(const QModelIndex& index) const {
+  if (!index.isValid()) return {};
+  const qint64 top = static_cast<qint64>(index.row() - Top()) * rowHeight_;
+  if (top < -rowHeight_ || top > viewport()->height()) return {};
+  return {-horizontalOffset(), static_cast<int>(top), ContentsWidth(), rowHeight_};
+}
+
+QModelIndex RowsView::indexAt(const QPoint& point) const {
+  if (point.y() < 0) return {};
+  const int row = Top() + point.y() / rowHeight_;
+  return row < model_->rowCount() ? model_->index(row) : QModelIndex();
+}
+
+void RowsView::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  if (!index.isValid()) return;
+  const int row = index.row();
+  const int last = row - WholeRows() + 1;
+  if (hint == PositionAtCenter) {
+    verticalScrollBar()->setValue((row + last) / 2);
+  } else if (row < Top() || hint == PositionAtTop) {
+    verticalScrollBar()->setValue(row);
+  } else if (last > Top() || hint == PositionAtBottom) {
+    verticalScrollBar()->setValue(last);
+  }
+}
+
+void RowsView::doItemsLayout() {
+  QAbstractItemView::doItemsLayout();
+}
+
+void RowsView::updateGeometries() {
+  rowHeight_ = RowHeight();
+  const int rows = WholeRows();
+  verticalScrollBar()->setPageStep(rows);
+  verticalScrollBar()->setSingleStep(1);
+  verticalScrollBar()->setRange(0, std::max(0, model_->rowCount() - rows));
+  horizontalScrollBar()->setPageStep(viewport()->width());
+  horizontalScrollBar()->setSingleStep(2 * kGrid);
+  horizontalScrollBar()->setRange(0, ContentsWidth() - viewport()->width());
+  QAbstractItemView::updateGeometries();
+}
+
+void RowsView::scrollContentsBy(int, int) {
+  viewport()->update();
+}
+
+QModelIndex RowsView::moveCursor(CursorAction action, Qt::KeyboardModifiers) {
+  const int last = model_->rowCount() - 1;
+  if (last < 0) return {};
+  int row = currentIndex().row();
+  switch (action) {
+    case MoveUp:
+    case MovePrevious:
+      --row;
+      break;
+    case MoveDown:
+    case MoveNext:
+      ++row;
+      break;
+    case MovePageUp:
+      row -= WholeRows();
+      break;
+    case MovePageDown:
+      row += WholeRows();
+      break;
+    case MoveHome:
+      row = 0;
+      break;
+    case MoveEnd:
+      row = last;
+      break;
+    default:
+      break;
+  }
+  return model_->index(std::clamp(row, 0, last));
+}
+
+void RowsView::setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags flags) {
+  const QModelIndex index = indexAt(rect.topLeft());
+  selectionModel()->select(QItemSelection(index, index), flags);
+}
+
+QRegion RowsView::visualRegionForSelection(const QItemSelection& selection) const {
+  return selection.isEmpty() ? QRegion() : QRegion(viewport()->rect());
+}
+
+void RowsView::PaintRows(QPainter& painter, const QRect& part) const {
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  const QModelIndex pointed =
+      viewport()->underMouse() ? indexAt(viewport()->mapFromGlobal(QCursor::pos())) : QModelIndex();
+  const int end = std::min(model_->rowCount(), Top() + part.bottom() / rowHeight_ + 1);
+  for (int row = Top() + std::max(0, part.top()) / rowHeight_; row < end; ++row) {
+    const QModelIndex index = model_->index(row);
+    option.rect = visualRect(index);
+    option.state.setFlag(QStyle::State_MouseOver, index == pointed);
+    itemDelegate()->paint(&painter, option, index);
+  }
+}
+
 void RowsView::paintEvent(QPaintEvent* event) {
-  QListView::paintEvent(event);
-  if (model_->Rows().Count() != 0 || emptyText_.isEmpty()) return;
   QPainter painter(viewport());
+  if (model_->rowCount() != 0) {
+    PaintRows(painter, event->rect());
+    return;
+  }
+  if (emptyText_.isEmpty()) return;
   painter.setPen(CurrentLook().quiet);
   painter.setFont(QApplication::font());
   painter.drawText(viewport()->rect().adjusted(2 * kGrid, 2 * kGrid, -2 * kGrid, -2 * kGrid),
                    Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, emptyText_);
 }
 
-// A uniform row height is remembered by the view; another font needs another one.
+// Another font has another row height.
 void RowsView::changeEvent(QEvent* event) {
   QListView::changeEvent(event);
-  if (event->type() == QEvent::FontChange) scheduleDelayedItemsLayout();
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    scheduleDelayedItemsLayout();
 }
 
 }  // namespace tamo

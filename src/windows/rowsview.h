@@ -1,36 +1,14 @@
 #pragma once
 
-#include <QAbstractListModel>
 #include <QListView>
 
-#include "common/control.h"
+#include "windows/rowsmodel.h"
 
 namespace tamo {
 
-// The rows of a list as its widget shows them: a copy (shared, so cheap) taken over when the list's
-// rows change.
-class RowsModel : public QAbstractListModel {
- public:
-  explicit RowsModel(const OrderedList& list) : list_(list) {}
-
-  // True when the rows were other ones.
-  bool TakeOver();
-  const ListRows& Rows() const { return rows_; }
-  int LongestRow() const { return longest_; }  // characters
-
-  int rowCount(const QModelIndex& parent = {}) const override;
-  QVariant data(const QModelIndex& index, int role) const override;
-
- private:
-  const OrderedList& list_;
-  ListRows rows_;
-  int longest_ = 0;
-  unsigned revision_ = ~0U;
-};
-
-// A list of text rows. Rows are all of one height, so tens of thousands scroll as ten do. The
-// selected row is marked by a bar at its left edge and a faint ground; the row that the keys have
-// walked to, by a frame.
+// A list of text rows. Rows are all of one height, so where a row stands is a multiplication: five
+// million rows come up and scroll as ten do, and nothing is laid out. The selected row is marked by
+// a bar at its left edge and a faint ground; the row that the keys have walked to, by a frame.
 class RowsView : public QListView {
  public:
   explicit RowsView(const OrderedList& list, QWidget* parent = nullptr);
@@ -53,17 +31,36 @@ class RowsView : public QListView {
   void SetFound(const QString& text);
   const QString& Found() const { return found_; }
 
+  QRect visualRect(const QModelIndex& index) const override;
+  QModelIndex indexAt(const QPoint& point) const override;
+  void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+  void doItemsLayout() override;
+
   QSize sizeHint() const override;
   int linesOfRow = 1;  // a longer row is wrapped into so many lines; 1 scrolls sideways instead
   int wantedRows = 8;
   int wantedColumns = 24;
 
  protected:
+  int horizontalOffset() const override;
+  int verticalOffset() const override;
+  bool isIndexHidden(const QModelIndex&) const override { return false; }
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+  void setSelection(const QRect& rect, QItemSelectionModel::SelectionFlags flags) override;
+  QRegion visualRegionForSelection(const QItemSelection& selection) const override;
+  void updateGeometries() override;
+  void scrollContentsBy(int dx, int dy) override;
   void paintEvent(QPaintEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
+  int Top() const;        // the first visible row
+  int WholeRows() const;  // that stand in the viewport
+  int ContentsWidth() const;
+  void PaintRows(QPainter& painter, const QRect& part) const;
+
   RowsModel* model_;
+  int rowHeight_ = 1;  // of the present font
   int selected_ = -1;
   int walked_ = -1;
   QString emptyText_;

@@ -59,7 +59,7 @@ QWidget* Tally(Builder& b, const char* lengths) {
     QStringList entries;
     // The last ones: they are what was just typed.
     for (int i = std::max(0, list->Count() - 8); i < list->Count(); ++i)
-      entries += list->Rows()[i].trimmed();
+      entries += list->Row(i).trimmed();
     if (list->Count() > 8) entries.prepend(QStringLiteral("…"));
     tally->setText(entries.isEmpty()
                        ? QString()

@@ -43,6 +43,10 @@ class CountingDisk : public test::FaultDisk {
   std::thread::id asking_ = std::this_thread::get_id();
 };
 
+std::function<QString(qsizetype)> PathOf(const QStringList& paths) {
+  return [paths](qsizetype at) { return paths.at(at); };
+}
+
 struct TextsAheadTest : ::testing::Test {
   QTemporaryDir folder;
   CountingDisk disk;
@@ -60,7 +64,7 @@ struct TextsAheadTest : ::testing::Test {
     return paths;
   }
   void ExpectAsReadOneByOne(const QStringList& paths) {
-    TextsAhead texts(files, paths);
+    TextsAhead texts(files, paths.size(), PathOf(paths));
     for (const QString& path : paths) {
       QString plain;
       const int error = path.isEmpty() ? kFileNotFound : files.ReadText(path, plain);
@@ -92,7 +96,7 @@ TEST_F(TextsAheadTest, APendingTextIsReadInsteadOfItsFile) {
   EXPECT_NE(files.SaveText(Path(40), QStringLiteral("kept")), kNoError);
   ExpectAsReadOneByOne(paths);
   QString text;
-  TextsAhead texts(files, paths);
+  TextsAhead texts(files, paths.size(), PathOf(paths));
   for (int i = 0; i <= 40; ++i) texts.Next(text);
   EXPECT_EQ(text, QStringLiteral("kept"));
 }
@@ -100,7 +104,7 @@ TEST_F(TextsAheadTest, APendingTextIsReadInsteadOfItsFile) {
 TEST_F(TextsAheadTest, ItMayEndAtAnyPlace) {
   const QStringList paths = Written(300);
   for (int asked = 0; asked < 300; asked += 7) {
-    TextsAhead texts(files, paths);
+    TextsAhead texts(files, paths.size(), PathOf(paths));
     QString text;
     for (int i = 0; i < asked; ++i) ASSERT_EQ(texts.Next(text), kNoError);
   }
@@ -108,21 +112,21 @@ TEST_F(TextsAheadTest, ItMayEndAtAnyPlace) {
 
 TEST_F(TextsAheadTest, AThreadReadsSomeFilesAheadAndNoMore) {
   const QStringList paths = Written(500);
-  TextsAhead texts(files, paths);
+  TextsAhead texts(files, paths.size(), PathOf(paths));
   QString text;
   ASSERT_EQ(texts.Next(text), kNoError);
   disk.Rest(11);
   EXPECT_GE(disk.elsewhere, 10);
-  EXPECT_LE(disk.reads, static_cast<int>(TextsAhead::kFilesAhead) + 1);
+  EXPECT_LE(disk.reads, static_cast<int>(ReadingPace().ahead) + 1);
   for (int i = 1; i < 400; ++i) ASSERT_EQ(texts.Next(text), kNoError);
   disk.Rest(401);
-  EXPECT_LE(disk.reads, 400 + static_cast<int>(TextsAhead::kFilesAhead));
+  EXPECT_LE(disk.reads, 400 + static_cast<int>(ReadingPace().ahead));
   EXPECT_GT(disk.reads, 400);
 }
 
 TEST_F(TextsAheadTest, FewFilesAreReadWhenTheyAreAskedFor) {
   const QStringList paths = Written(20);
-  const TextsAhead texts(files, paths);
+  const TextsAhead texts(files, paths.size(), PathOf(paths));
   disk.Rest(0);
   EXPECT_EQ(disk.reads, 0);
 }

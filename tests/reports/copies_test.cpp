@@ -3,9 +3,10 @@
 #include <gtest/gtest.h>
 
 #include "common/failure.h"
+#include "common/numbers.h"
 #include "reportbench.h"
 #include "reports/breakdown.h"
-#include "reports/figuretext.h"
+#include "reports/rollup.h"
 
 namespace tamo::test {
 namespace {
@@ -178,8 +179,8 @@ class FigureTable : public ::testing::TestWithParam<FigureRow> {};
 
 TEST_P(FigureTable, WholeNumbersAndHundredths) {
   const FigureRow& row = GetParam();
-  EXPECT_EQ(FigureText::Whole(row.figure).View().toString(), QLatin1String(row.whole));
-  EXPECT_EQ(FigureText::WithPoint(row.figure).View().toString(), QLatin1String(row.withPoint));
+  EXPECT_EQ(NumberText(row.figure), QLatin1String(row.whole));
+  EXPECT_EQ(WithPoint(row.figure), QLatin1String(row.withPoint));
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -6,7 +6,6 @@
 
 #include "common/columns.h"
 #include "common/numbers.h"
-#include "reports/figuretext.h"
 #include "reports/rollup.h"
 
 using namespace tamo;
@@ -73,16 +72,16 @@ TEST(DetailRow, EqualsThePlainLineForEveryNameUnitAndFigure) {
   }
 }
 
-TEST(FigureText, ReadsAsItIsShown) {
+TEST(WithPoint, ReadsAsItIsShown) {
   for (const double hundredths :
        {0.0, 5.0, -5.0, -9.0, -10.0, 123456.0, 1e15, 1.23456789012345e17}) {
-    EXPECT_EQ(FigureText::ReadWithPoint(hundredths), Value(WithPoint(hundredths))) << hundredths;
+    EXPECT_EQ(ReadWithPoint(hundredths), Value(WithPoint(hundredths))) << hundredths;
   }
-  EXPECT_EQ(FigureText::ReadWithPoint(-5), 0);
+  EXPECT_EQ(ReadWithPoint(-5), 0);
 }
 
-TEST(FigureText, MoneyIsThatOfTheReports) {
+TEST(MoneyText, IsThatOfTheReports) {
   for (const double dollars : {0.0, -0.0, 1.0, 18.0, -7.0, .5, 12.345, 1e12, 3e13, 1e16}) {
-    EXPECT_EQ(FigureText::Money(dollars).View(), MakeMoney(NumberText(dollars))) << dollars;
+    EXPECT_EQ(MoneyText(dollars), MakeMoney(NumberText(dollars))) << dollars;
   }
 }

@@ -5,7 +5,7 @@
 #include "common/failure.h"
 #include "reportbench.h"
 #include "reports/pricedsystem.h"
-#include "reports/projectfiles.h"
+#include "reports/takeoffwalk.h"
 
 namespace tamo::test {
 namespace {
@@ -166,7 +166,6 @@ TEST(Systems, WithoutAFileTheTextsOfTheSystemBeforeStay) {
   shelf.Load(u"Wall");
   EXPECT_EQ(shelf.Blocks().size(), 1u);
   shelf.Load(u"Guard");
-  EXPECT_EQ(project.lineColor, S("010020030"));
   shelf.Load(u"Gone");
   EXPECT_EQ(shelf.UnitPrice(), 38.5);
   EXPECT_EQ(shelf.Units(), S("EA"));
@@ -195,7 +194,7 @@ TEST(Systems, EachFileIsReadOnce) {
   project.System(S("Door"), S("EA"), S("5"));
   CountingDisk disk;
   Files files(disk);
-  const ReportSource source{files, {project.folder, S("/")}, nullptr, {}, false};
+  const ReportSource source{files, {project.folder, S("/")}, {}, false};
   SystemShelf shelf(source);
   for (int i = 0; i < 3; ++i) {
     shelf.Load(u"Wall");

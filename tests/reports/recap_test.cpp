@@ -209,14 +209,6 @@ TEST(RecapSheet, TheTotalDiffersFromTheBreakdownByRoundingAndUnitPricedItems) {
   EXPECT_EQ(figures.unitPriced, 1683 + 501 + 191);
 }
 
-TEST(RecapSheet, TheLineColourFollowsTheSystemReadLast) {
-  BenchProject project;
-  project.System(S("Wall"), S("SF"), S("1"), {}, S("001002003"));
-  project.Room(S("A"), {RoomLine(S("Wall"), S("100"))});
-  Recap(project);
-  EXPECT_EQ(project.lineColor, S("001002003"));
-}
-
 TEST(DetailedRecapSheet, OneGroupOfLinesForEachMaterial) {
   BenchProject project;
   Mark(project, {S(".10"), S("0"), S("0"), S(".20"), S(".05")});

@@ -59,7 +59,7 @@ void BenchProject::System(const QString& name, const QString& units, const QStri
 }
 
 ReportSource BenchProject::Source() {
-  return {files, {folder, PlatformSeparator()}, &lineColor, {}, false};
+  return {files, {folder, PlatformSeparator()}, {}, false};
 }
 
 Markups BenchProject::MarkupsOfFile() {

@@ -60,7 +60,6 @@ class BenchProject {
   QString folder;  // with its separator
   FaultDisk disk;
   Files files{disk};
-  QString lineColor;
   QString dataPath;
 
  private:

@@ -10,6 +10,7 @@ namespace tamo {
 
 enum class SheetKind { Room, Area };
 
+// Who looks at the whole takeoff of a project, sheet by sheet.
 class TakeoffVisitor {
  public:
   virtual ~TakeoffVisitor() = default;
@@ -19,7 +20,7 @@ class TakeoffVisitor {
 };
 
 // Every line of every room, then of every area, in their order. No rooms are visited when the list
-// of rooms can't be read. Tells its progress.
+// of rooms can't be read. Tells its progress, also within a long sheet.
 void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor);
 
 }  // namespace tamo
