@@ -7,6 +7,7 @@
 #include "program/shell.h"
 #include "program/takeoffadapters.h"
 #include "program/work.h"
+#include "schedule/scheduleform.h"
 #include "workspace/form11.h"
 #include "workspace/settingsform.h"
 #include "workspace/tamoform.h"
@@ -34,6 +35,7 @@ struct Program::Parts {
     reports = std::make_unique<ReportsForm>(
         kit, ReportsForm::Joins{links, projectRecord, reportsShell, links, wholeQuantities});
     docs = std::make_unique<DocsForm>(kit, work);
+    schedule = std::make_unique<ScheduleForm>(kit, *ost);
     Join();
   }
 
@@ -80,6 +82,7 @@ struct Program::Parts {
   std::unique_ptr<AdjustmentForm> adjustment;
   std::unique_ptr<ReportsForm> reports;
   std::unique_ptr<DocsForm> docs;
+  std::unique_ptr<ScheduleForm> schedule;
   std::unique_ptr<Menus> menus;
 };
 
