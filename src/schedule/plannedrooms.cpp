@@ -130,7 +130,7 @@ RoomPlan PlanRooms(const std::vector<FinishRow>& rows, const FinishKey& key) {
 
 QString FeetOf(const QString& height) {
   static const QRegularExpression form(QStringLiteral(
-      R"(^(\d+)\s*['\u2019\u2032]\s*-?\s*(?:(\d+)(?:\s+(\d+)/(\d+))?\s*(?:["\u201d\u2033]|''))?)"));
+      R"(^(\d+)\s*['\x{2019}\x{2032}]\s*-?\s*(?:(\d+)(?:\s+(\d+)/(\d+))?\s*(?:["\x{201d}\x{2033}]|''))?)"));
   const QRegularExpressionMatch match = form.match(height.trimmed());
   if (!match.hasMatch()) return {};
   double inches = match.captured(2).toDouble();

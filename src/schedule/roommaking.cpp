@@ -24,6 +24,7 @@ class Maker {
   }
 
   MadeRooms Make(const RoomPlan& plan) {
+    MakeProjectFolders(files_, project_);
     for (size_t i = 0; i < plan.rooms.size(); ++i) {
       const int error = Write(plan.rooms[i]);
       if (error == 0) continue;

@@ -136,7 +136,6 @@ void ScheduleForm::ShowAll() {
   System.Clear();
   ShowSummary();
   Show(&ost_);
-  if (!Key.Empty()) Key.SetIndex(0);
 }
 
 void ScheduleForm::ShowUnsure() {
