@@ -24,10 +24,12 @@ median() { sort -n | sed -n 11p; }
 "$bench/start_window" "$work/program" "$work/bare" >/dev/null 2>&1
 for _ in $(seq 21); do
   micros "$bench/empty_window" >>"$work/empty"
+  micros "$bench/empty_window" Word >>"$work/word"
   micros "$bench/start_window" "$work/program" "$work/bare" >>"$work/tamo"
   micros "$bench/start_window" "$work/program" "$work/home" >>"$work/project"
 done
 empty=$(median <"$work/empty")
+echo "empty window $empty us, with one word $(median <"$work/word") us"
 for kind in tamo project; do
   time=$(median <"$work/$kind")
   words=Tamo

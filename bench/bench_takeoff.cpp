@@ -25,9 +25,9 @@ class Nobody : public Messages,
                public Printer,
                public Clipboard,
                public PlanTools,
-               public PricingDesk,
+               public MissingSystemPricing,
                public TakeoffReportRefresh,
-               public TakeoffShell {
+               public TakeoffExits {
  public:
   void Tell(const QString&) override {}
   bool Ask(const QString&) override { return false; }

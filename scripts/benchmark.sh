@@ -25,6 +25,8 @@ echo "longest_hold"
 $build/bench/longest_hold data >"$out/hold.txt" 2>/dev/null
 echo "live_refresh"
 $build/bench/live_refresh data 500 >"$out/refresh.txt" 2>/dev/null
+echo "day_of_work"
+$build/bench/day_of_work data >"$out/day.txt" 2>/dev/null
 echo "bench_start"
 bench/bench_start.sh $build >"$out/start.txt"
 python3 -B scripts/performance_page.py "$out" >docs/performance.md

@@ -103,6 +103,10 @@ def holds(folder):
     for more, text, ratio in re.findall(r"^memory +(\d+) MB more for (\d+) MB of text: ([\d.]+)", text_of(folder, "hold.txt"),
                                         re.M):
         lines.append(row("Memory of the Office Copy of 1,000,000 lines", f"{more} MB", "its text", f"{text} MB", float(ratio), 1.5))
+    for enters, last, first, ratio in re.findall(r"^day of (\d+) Enters: ([\d.]+) MB after ([\d.]+) MB, ([\d.]+) times",
+                                                 text_of(folder, "day.txt"), re.M):
+        lines.append(row(f"Memory after a day of {int(enters):,} Enters and {int(enters) // 100} reports", f"{last} MB",
+                         "after its first hour", f"{first} MB", float(ratio), 1.1))
     return lines
 
 
@@ -127,6 +131,11 @@ def refresh(folder):
 
 def start(folder):
     lines = []
+    found = re.search(r"empty window (\d+) us, with one word (\d+) us", text_of(folder, "start.txt"))
+    if found:
+        empty, word = int(found.group(1)) / 1e3, int(found.group(2)) / 1e3
+        lines.append(row("From the start to the first frame: a window with one word, for which fonts are sought", shown(word),
+                         "an empty Qt window", shown(empty), word / empty, None))
     for words, limit in (("Tamo", 1.5), ("Tamo with a project", 1.5)):
         found = re.search(rf"empty window (\d+) us, {words} (\d+) us", text_of(folder, "start.txt"))
         if found:

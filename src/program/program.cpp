@@ -28,8 +28,8 @@ struct Program::Parts {
     ost = std::make_unique<OSTForm>(kit, viewer, projectKeeper, takeoffFields);
     main = std::make_unique<TamoForm>(kit, *settings, shell, planDesk, work);
     pricing = std::make_unique<PricingForm>(kit, links, links, links);
-    rooms = std::make_unique<RFSForm>(kit, planTools, links, links, takeoffShell);
-    areas = std::make_unique<EstimateForm>(kit, planTools, links, links, takeoffShell);
+    rooms = std::make_unique<RFSForm>(kit, planTools, links, links, takeoffExits);
+    areas = std::make_unique<EstimateForm>(kit, planTools, links, links, takeoffExits);
     bottomLine = std::make_unique<BottomLine>(kit, links);
     adjustment = std::make_unique<AdjustmentForm>(kit, links);
     reports = std::make_unique<ReportsForm>(
@@ -47,7 +47,7 @@ struct Program::Parts {
     reportsShell.Join(shell, *reports, *ost);
     wholeQuantities.Join(*settings);
     planTools.Join(*ost);
-    takeoffShell.Join(shell, *main, *ost);
+    takeoffExits.Join(shell, *main, *ost);
     takeoffFields.Join(*rooms, *areas);
     links.Join(*pricing, *reports, *settings, *main, *ost);
     work.Join({*pricing, *rooms, *areas, *bottomLine, *adjustment, *reports, *docs, shell});
@@ -66,7 +66,7 @@ struct Program::Parts {
   PlanDeskOnOst planDesk;
   ProjectKeeperOnTamo projectKeeper;
   PlanToolsOnOst planTools;
-  TakeoffShellOnForms takeoffShell;
+  TakeoffExitsOnForms takeoffExits;
   TakeoffFieldsOnForms takeoffFields;
   ProjectRecordOnTamo projectRecord;
   ReportsShellOnForms reportsShell;

@@ -6,8 +6,8 @@
 #include "takeoff/estimateform.h"
 #include "takeoff/plantools.h"
 #include "takeoff/rfsform.h"
+#include "takeoff/takeoffexits.h"
 #include "takeoff/takeoffreportrefresh.h"
-#include "takeoff/takeoffshell.h"
 
 // What the takeoff forms ask of the rest, and what the plan asks of them.
 
@@ -31,7 +31,7 @@ class PlanToolsOnOst : public PlanTools {
   OSTForm* ost_ = nullptr;
 };
 
-class TakeoffShellOnForms : public TakeoffShell {
+class TakeoffExitsOnForms : public TakeoffExits {
  public:
   void Join(Shell& shell, TamoForm& main, Form& ost) {
     shell_ = &shell;

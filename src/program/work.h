@@ -9,7 +9,7 @@
 #include "takeoff/adjustmentform.h"
 #include "takeoff/bottomline.h"
 #include "takeoff/estimateform.h"
-#include "takeoff/pricingdesk.h"
+#include "takeoff/missingsystempricing.h"
 #include "takeoff/rfsform.h"
 #include "takeoff/takeoffreportrefresh.h"
 #include "workspace/settingsform.h"
@@ -74,7 +74,7 @@ class PricingLinks : public ReportRefresh,
                      public TakeoffReportRefresh,
                      public SettingsReader,
                      public ProjectNumberSeed,
-                     public PricingDesk,
+                     public MissingSystemPricing,
                      public MarkupSource,
                      public BottomLineFigure {
  public:

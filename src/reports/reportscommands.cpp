@@ -115,15 +115,11 @@ void ReportsForm::Ticked(int row) {
 }
 
 void ReportsForm::ShowProgress() {
-  ttText.SetText(progress_.ttText);
-  tlText.SetText(progress_.tlText);
-  tmText.SetText(progress_.tmText);
-  tcText.SetText(progress_.tcText);
-  pcText.SetText(progress_.pcText);
-  lcText.SetText(progress_.lcText);
-  lpText.SetText(progress_.lpText);
-  mcText.SetText(progress_.mcText);
-  mpText.SetText(progress_.mpText);
+  const std::pair<TextField&, const QString&> figures[] = {
+      {ttText, progress_.ttText}, {tlText, progress_.tlText}, {tmText, progress_.tmText},
+      {tcText, progress_.tcText}, {pcText, progress_.pcText}, {lcText, progress_.lcText},
+      {lpText, progress_.lpText}, {mcText, progress_.mcText}, {mpText, progress_.mpText}};
+  for (const auto& [field, figure] : figures) field.SetText(figure);
 }
 
 void ReportsForm::NotePicked() {

@@ -8,12 +8,7 @@
 namespace tamo {
 
 AdjustmentForm::AdjustmentForm(const Kit& kit, TakeoffReportRefresh& reports)
-    : Form(kit.desk, QStringLiteral("AdjustmentForm")),
-      AdjustmentLabel(*this, QStringLiteral("AdjustmentLabel"),
-                      QStringLiteral("Change the bottom line by")),
-      Adjustment(*this, QStringLiteral("Adjustment")),
-      kit_(kit),
-      reports_(reports) {
+    : Form(kit.desk, "AdjustmentForm"), kit_(kit), reports_(reports) {
   SetCaption(QStringLiteral("Adjustment"));
   Adjustment.onGotFocus = [this] {
     LoadAdj();

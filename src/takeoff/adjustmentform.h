@@ -12,8 +12,8 @@ class AdjustmentForm : public Form {
  public:
   AdjustmentForm(const Kit& kit, TakeoffReportRefresh& reports);
 
-  Label AdjustmentLabel;
-  TextField Adjustment;
+  Label AdjustmentLabel{*this, "AdjustmentLabel", "Change the bottom line by"};
+  TextField Adjustment{*this, "Adjustment"};
 
   // The shell's menu entry, after its guards.
   void PriceAdjustment(Form* owner);
@@ -27,7 +27,7 @@ class AdjustmentForm : public Form {
  private:
   void TakeAdjustment();
 
-  const Kit& kit_;
+  const Kit kit_;
   TakeoffReportRefresh& reports_;
   QString work_;  // the amount last read; shown again when a file is missing
 };

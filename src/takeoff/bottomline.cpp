@@ -10,19 +10,7 @@
 namespace tamo {
 
 BottomLine::BottomLine(const Kit& kit, TakeoffReportRefresh& reports)
-    : Form(kit.desk, QStringLiteral("BottomLine")),
-      oiFrame(*this, QStringLiteral("oiFrame")),
-      ItemLabel(*this, QStringLiteral("ItemLabel"), QStringLiteral("Item:")),
-      Item(*this, QStringLiteral("Item"), 20),
-      ItemPrompt(*this, QStringLiteral("ItemPrompt"),
-                 QStringLiteral("Leave blank and press Enter to finish")),
-      PriceLabel(*this, QStringLiteral("PriceLabel"), QStringLiteral("Price:")),
-      iPrice(*this, QStringLiteral("iPrice"), 11),
-      oiList(*this, QStringLiteral("oiList")),
-      ItemList(*this, QStringLiteral("ItemList")),
-      EditList(*this, QStringLiteral("EditList")),
-      kit_(kit),
-      reports_(reports) {
+    : Form(kit.desk, "BottomLine"), kit_(kit), reports_(reports) {
   SetCaption(QStringLiteral("The Bottom Line"));
   for (Control* control : Controls()) {
     if (control != &oiFrame) control->PutInto(oiFrame);

@@ -13,15 +13,15 @@ class BottomLine : public Form {
  public:
   BottomLine(const Kit& kit, TakeoffReportRefresh& reports);
 
-  Frame oiFrame;
-  Label ItemLabel;
-  TextField Item;  // at most 20 characters
-  Label ItemPrompt;
-  Label PriceLabel;
-  TextField iPrice;      // at most 11
-  OrderedList oiList;    // the project's item lines, in order of entry
-  OrderedList ItemList;  // known item names, drops from Item
-  OrderedList EditList;  // "Delete Item", "", "Exit"
+  Frame oiFrame{*this, "oiFrame"};
+  Label ItemLabel{*this, "ItemLabel", "Item:"};
+  TextField Item{*this, "Item", 20};
+  Label ItemPrompt{*this, "ItemPrompt", "Leave blank and press Enter to finish"};
+  Label PriceLabel{*this, "PriceLabel", "Price:"};
+  TextField iPrice{*this, "iPrice", 11};
+  OrderedList oiList{*this, "oiList"};      // the project's item lines, in order of entry
+  OrderedList ItemList{*this, "ItemList"};  // known item names, drops from Item
+  OrderedList EditList{*this, "EditList"};  // "Delete Item", "", "Exit"
 
   // The shell's menu entry, after its guards.
   void BottomLineItems(Form* owner);
@@ -42,7 +42,7 @@ class BottomLine : public Form {
   void TakeLine();
   void EditSelected();
 
-  const Kit& kit_;
+  const Kit kit_;
   TakeoffReportRefresh& reports_;
   QString listJob_;       // the project whose lines stand in oiList
   int itemsError_ = 0;    // why the names could not be read

@@ -22,9 +22,7 @@ void EstimateForm::BindChain() {
   Area.onDoubleClick = [this] { Toggle(AreasList); };
 
   OnEnter(eDescription, [this] { TakeDescription(); });
-  OnFocusSelectAll(eDescription, [this] {
-    if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) LoadDescriptions();
-  });
+  OnFocusSelectAll(eDescription, [this] { LoadDescriptionsIfEmpty(); });
   eDescription.onLostFocus = [this] { DescriptionsList.Hide(); };
   eDescription.onDoubleClick = [this] { Toggle(DescriptionsList); };
 
@@ -96,7 +94,7 @@ void EstimateForm::TakeDescription() {
 }
 
 void EstimateForm::LeaveDescription() {
-  if (autoRoom_) {
+  if (autoRoom_.On()) {
     NextArea();
     return;
   }

@@ -1,87 +1,29 @@
 #include "takeoff/estimateform.h"
 
+#include "common/chain.h"
 #include "common/columns.h"
 #include "common/failure.h"
 #include "records/areafile.h"
 #include "records/namelists.h"
 #include "records/sheetnames.h"
 #include "records/storable.h"
-#include "takeoff/takeoffsystem.h"
-#include "takeoff/unitcodes.h"
 
 namespace tamo {
 
-EstimateForm::EstimateForm(const Kit& kit, PlanTools& plan, PricingDesk& pricing,
-                           TakeoffReportRefresh& reports, TakeoffShell& shell)
-    : Form(kit.desk, QStringLiteral("EstimateForm")),
-      AreaLabel(*this, QStringLiteral("AreaLabel"), QStringLiteral("Area:")),
-      Area(*this, QStringLiteral("Area")),
-      AreaPrompt(*this, QStringLiteral("AreaPrompt"),
-                 QStringLiteral("Leave blank and press Enter to finish")),
-      DescriptionLabel(*this, QStringLiteral("DescriptionLabel"), QStringLiteral("System Name:")),
-      eDescription(*this, QStringLiteral("eDescription"), 20),
-      DescriptionPrompt(*this, QStringLiteral("DescriptionPrompt"),
-                        QStringLiteral("Leave blank and press Enter for new Area")),
-      UnitsLabel(*this, QStringLiteral("UnitsLabel"), QStringLiteral("TakeOff Units")),
-      Units(*this, QStringLiteral("Units"), 5),
-      HOWLabel(*this, QStringLiteral("HOWLabel"), QStringLiteral("Height or Width:")),
-      Hite(*this, QStringLiteral("Hite"), 11),
-      HitePrompt(*this, QStringLiteral("HitePrompt"),
-                 QStringLiteral("Leave blank and press Enter for new Description")),
-      LengthLabel(*this, QStringLiteral("LengthLabel"), QStringLiteral("Length:")),
-      eLength(*this, QStringLiteral("eLength")),
-      LengthPrompt(*this, QStringLiteral("LengthPrompt"),
-                   QStringLiteral("Leave blank and press Enter for new Height")),
-      AreaList(*this, QStringLiteral("AreaList")),
-      AreasList(*this, QStringLiteral("AreasList")),
-      DescriptionsList(*this, QStringLiteral("DescriptionsList")),
-      Lengths(*this, QStringLiteral("Lengths")),
-      CopyAreaList(*this, QStringLiteral("CopyAreaList")),
-      System(*this, QStringLiteral("System")),
-      ScaleLabel(*this, QStringLiteral("ScaleLabel"), QStringLiteral("Scale ")),
-      ScaleText(*this, QStringLiteral("ScaleText")),
-      StatusText(*this, QStringLiteral("StatusText")),
-      AutoRoom(*this, QStringLiteral("AutoRoom"), QStringLiteral(" &AutoRoom is Off")),
-      CopyArea(*this, QStringLiteral("CopyArea"), QStringLiteral(" &CopyArea")),
-      PasteArea(*this, QStringLiteral("PasteArea"), QStringLiteral(" &PasteArea")),
-      OST1(*this, QStringLiteral("OST1"), QStringLiteral("&DSW")),
-      Exit(*this, QStringLiteral("Exit"), QStringLiteral("E&xit")),
-      EditAreas(*this, QStringLiteral("EditAreas"), QString(), nullptr, true),
-      AreasDelete(*this, QStringLiteral("AreasDelete"), QStringLiteral("Delete Area"), &EditAreas),
-      AreasCancel(*this, QStringLiteral("AreasCancel"), QStringLiteral("Cancel"), &EditAreas),
-      EditArea(*this, QStringLiteral("EditArea"), QString(), nullptr, true),
-      SystemDelete(*this, QStringLiteral("SystemDelete"), QStringLiteral("Delete System"),
-                   &EditArea),
-      SystemInsert(*this, QStringLiteral("SystemInsert"), QStringLiteral("Insert System"),
-                   &EditArea),
-      SystemCancel(*this, QStringLiteral("SystemCancel"), QStringLiteral("Cancel"), &EditArea),
-      kit_(kit),
-      plan_(plan),
-      pricing_(pricing),
-      reports_(reports),
-      shell_(shell) {
+EstimateForm::EstimateForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
+                           TakeoffReportRefresh& reports, TakeoffExits& exits)
+    : TakeoffForm(kit, plan, pricing, reports, exits, "EstimateForm") {
   SetCaption(QStringLiteral("Estimating"));
-  Units.readOnly = true;
-  Units.inTabOrder = false;
-  BindMenus();
+  DescriptionPrompt.SetCaption(QStringLiteral("Leave blank and press Enter for new Area"));
+  DropFrom(Area, AreasList);
+  DropFrom(eDescription, DescriptionsList);
+  DropFrom(eLength, Lengths);
+  KeepUnseen(CopyAreaList);
+  BindWindow(OST1);
+  Exit.onClick = [this] { LeaveForm(); };
   BindPopups();
   BindChain();
   BindLists();
-}
-
-void EstimateForm::BindMenus() {
-  onActivate = [this] { Activated(); };
-  onKeyPreview = [this](Key& key) {
-    if (key.Is(Key::Name::Delete)) plan_.DeleteKey();
-  };
-  AutoRoom.onClick = [this] { SwitchAutoRoom(); };
-  CopyArea.onClick = [this] { CopyLines(); };
-  PasteArea.onClick = [this] { PasteLines(); };
-  OST1.onClick = [this] {
-    shell_.ShowOST();
-    Show(OwnerForm());
-  };
-  Exit.onClick = [this] { LeaveForm(); };
 }
 
 void EstimateForm::BindPopups() {
@@ -97,21 +39,13 @@ void EstimateForm::BindPopups() {
   AreasDelete.onClick = [this] { DeleteArea(); };
   SystemDelete.onClick = [this] { DeleteLine(); };
   SystemInsert.onClick = [this] { InsertLine(); };
+  CopyArea.onClick = [this] { CopyLines(); };
+  PasteArea.onClick = [this] { PasteLines(); };
 }
 
 void EstimateForm::NonFinishScheduleItems(Form* owner) {
   FollowProject();
   Show(owner);
-}
-
-void EstimateForm::Activated() {
-  if (!kit_.shared.JobID.isEmpty()) {
-    Init();
-    return;
-  }
-  shell_.ShowMainForm();
-  Hide();
-  shell_.ShowProjectPanel();
 }
 
 void EstimateForm::Init() {
@@ -120,7 +54,7 @@ void EstimateForm::Init() {
   if (!Visible()) return;
   LoadAreas();
   Show(OwnerForm());
-  ScaleText.SetCaption(plan_.ScaleText());
+  ShowScale();
   GetDesk().Focus(Area);
   // Back from pricing a new system: the chain goes on with its name.
   if (unknown_) GetDesk().Focus(eDescription);
@@ -152,17 +86,8 @@ void EstimateForm::ForgetLines() {
 }
 
 void EstimateForm::LoadDescriptions() {
-  QStringList names;
-  error_ = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Systems, names);
-  DescriptionsList.SetRows(names);
-  if (error_ == kNoError && names.isEmpty()) {
-    kit_.desk.GetMessages().Tell(QStringLiteral("Enter pricing information first."));
-    Hide();
-  }
-}
-
-void EstimateForm::SaveDescriptions() {
-  WriteNames(kit_.files, kit_.shared, NameList::Systems, DescriptionsList.Rows());
+  error_ = ReadDescriptions();
+  if (error_ == kNoError && DescriptionsList.Empty()) TellToPriceFirst();
 }
 
 void EstimateForm::LoadAreas() {
@@ -211,28 +136,12 @@ void EstimateForm::SaveArea() {
 }
 
 void EstimateForm::LoadSystem() {
-  QStringList fetched;
-  const TakeoffSystem system =
-      LoadTakeoffSystem(kit_.files, kit_.shared, eDescription.Text(), fetched, error_);
-  if (!fetched.isEmpty()) System.SetRows(fetched);
-  workUnit_ = TrimmedBlanks(system.units);
-  Units.SetText(system.units);
-  kit_.shared.LineColor = system.lineColour;
-  plan_.SetPenColour(system.lineColour);
-  plan_.ResetMeasure();
-  ScaleText.SetCaption(plan_.ScaleText());
+  error_ = FetchSystem(eDescription.Text());
+  workUnit_ = TrimmedBlanks(Units.Text());
 }
 
 void EstimateForm::UpdateStatus() {
-  const int areas = AreasList.Count();
-  const int lines = AreaList.Count();
-  const int at = AreasList.Find(Area.Text());
-  const QString area = at >= 0 ? QStringLiteral("Area %1 of %2").arg(at + 1).arg(areas)
-                               : QStringLiteral("%1 areas").arg(areas);
-  const QString line = AreaList.Index() >= 0
-                           ? QStringLiteral("line %1 of %2").arg(AreaList.Index() + 1).arg(lines)
-                           : QStringLiteral("%1 lines").arg(lines);
-  StatusText.SetCaption(area + QStringLiteral(", ") + line);
+  ShowStatus(QStringLiteral("Area"), AreasList.Find(Area.Text()), AreasList.Count(), AreaList);
 }
 
 }  // namespace tamo

@@ -1,69 +1,49 @@
 #pragma once
 
-#include "common/control.h"
-#include "common/form.h"
-#include "common/kit.h"
+#include "takeoff/autoroomswitch.h"
 #include "takeoff/linesinwork.h"
-#include "takeoff/plantools.h"
-#include "takeoff/pricingdesk.h"
-#include "takeoff/takeoffreportrefresh.h"
-#include "takeoff/takeoffshell.h"
+#include "takeoff/takeoffform.h"
 
 namespace tamo {
 
 // The free takeoff: the items of a job that belong to no room. Entry and takeoff are one step: an
 // area, a system, and at once its lengths or counts. A twin of the room schedule that rounds every
 // entry, stores no height, and spells system names exactly.
-class EstimateForm : public Form {
+class EstimateForm : public TakeoffForm {
  public:
-  EstimateForm(const Kit& kit, PlanTools& plan, PricingDesk& pricing, TakeoffReportRefresh& reports,
-               TakeoffShell& shell);
+  // All of it outlives the form.
+  EstimateForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
+               TakeoffReportRefresh& reports, TakeoffExits& exits);
 
-  Label AreaLabel;
-  TextField Area;  // no limit: a file name
-  Label AreaPrompt;
-  Label DescriptionLabel;
-  TextField eDescription;  // the system, at most 20 characters
-  Label DescriptionPrompt;
-  Label UnitsLabel;
-  TextField Units;  // read-only to the user
-  Label HOWLabel;
-  TextField Hite;  // height or width, at most 11; never stored
-  Label HitePrompt;
-  Label LengthLabel;
-  TextField eLength;
-  Label LengthPrompt;
-  OrderedList AreaList;  // the lines of the area
+  TextField Area{*this, "Area"};  // no limit: a file name
+  Label AreaPrompt{*this, "AreaPrompt", "Leave blank and press Enter to finish"};
+  TextField eDescription{*this, "eDescription", 20};  // the system
+  TextField Hite{*this, "Hite", 11};                  // height or width; never stored
+  Label HitePrompt{*this, "HitePrompt", "Leave blank and press Enter for new Description"};
+  TextField eLength{*this, "eLength"};
+  OrderedList AreaList{*this, "AreaList"};  // the lines of the area
 
-  OrderedList AreasList;         // drops from Area
-  OrderedList DescriptionsList;  // drops from eDescription, most recent first
-  OrderedList Lengths;           // what was entered for the line in work, for the eye only
-  OrderedList CopyAreaList;      // what Copy Area took; never displayed
-  OrderedList System;            // the lines of the last fetched system; never displayed
+  OrderedList AreasList{*this, "AreasList"};        // drops from Area
+  OrderedList CopyAreaList{*this, "CopyAreaList"};  // what Copy Area took; never displayed
 
-  Label ScaleLabel;
-  Label ScaleText;   // the plan's scale in force
-  Label StatusText;  // where the estimator stands: "Area 2 of 3, line 1 of 4"
-
-  MenuEntry AutoRoom;
-  MenuEntry CopyArea;
-  MenuEntry PasteArea;
-  MenuEntry OST1;
-  MenuEntry Exit;
-  MenuEntry EditAreas;
-  MenuEntry AreasDelete;
-  MenuEntry AreasCancel;
-  MenuEntry EditArea;
-  MenuEntry SystemDelete;
-  MenuEntry SystemInsert;
-  MenuEntry SystemCancel;
+  MenuEntry AutoRoom{*this, "AutoRoom", " &AutoRoom is Off"};
+  MenuEntry CopyArea{*this, "CopyArea", " &CopyArea"};
+  MenuEntry PasteArea{*this, "PasteArea", " &PasteArea"};
+  MenuEntry OST1{*this, "OST1", "&DSW"};
+  MenuEntry Exit{*this, "Exit", "E&xit"};
+  MenuEntry EditAreas{*this, "EditAreas", {}, nullptr, true};
+  MenuEntry AreasDelete{*this, "AreasDelete", "Delete Area", &EditAreas};
+  MenuEntry AreasCancel{*this, "AreasCancel", "Cancel", &EditAreas};
+  MenuEntry EditArea{*this, "EditArea", {}, nullptr, true};
+  MenuEntry SystemDelete{*this, "SystemDelete", "Delete System", &EditArea};
+  MenuEntry SystemInsert{*this, "SystemInsert", "Insert System", &EditArea};
+  MenuEntry SystemCancel{*this, "SystemCancel", "Cancel", &EditArea};
 
   // The shell's menu entry, after its guards.
   void NonFinishScheduleItems(Form* owner);
 
-  void Init();
-  void LoadDescriptions();
-  void SaveDescriptions();
+  void Init() override;
+  void LoadDescriptions() override;
   void LoadAreas();
   void SaveAreas();
   void LoadArea();
@@ -72,9 +52,7 @@ class EstimateForm : public Form {
 
  private:
   // estimateform.cpp
-  void BindMenus();
   void BindPopups();
-  void Activated();
   void LeaveForm();
   void FollowProject();
   void ForgetLines();
@@ -106,20 +84,14 @@ class EstimateForm : public Form {
   void AreaSelected();
   void LineSelected();
   void DescriptionSelected();
-  void SwitchAutoRoom();
   void DeleteArea();
+  bool LineIsSelected();
   void DeleteLine();
   void InsertLine();
   void CopyLines();
   void PasteLines();
 
-  const Kit& kit_;
-  PlanTools& plan_;
-  PricingDesk& pricing_;
-  TakeoffReportRefresh& reports_;
-  TakeoffShell& shell_;
-
-  bool autoRoom_ = false;
+  AutoRoomSwitch autoRoom_{AutoRoom};
   int areasTop_ = 0;
   int areaIndex_ = -1;  // AreasList's selected index, as last kept
   QString workUnit_;    // the loaded system's unit, trimmed
@@ -129,7 +101,7 @@ class EstimateForm : public Form {
   // lines until a system is loaded (held by a test).
   int error_ = 0;
   int areasError_ = 0;  // why the list of areas could not be read
-  LinesInWork lines_{kit_.shared, QStringLiteral("area")};
+  LinesInWork lines_{kit_.shared, "area"};
   bool unread_ = false;     // the file of the area was not read: AreaList lacks its lines
   bool following_ = false;  // a name is followed: the focus goes where the estimator sends it
   bool unknown_ = false;    // a system that is not there yet led to Pricing

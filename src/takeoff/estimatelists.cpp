@@ -8,10 +8,6 @@
 namespace tamo {
 
 void EstimateForm::BindLists() {
-  for (OrderedList* list : {&CopyAreaList, &System}) KeepUnseen(*list);
-  DropFrom(Area, AreasList);
-  DropFrom(eDescription, DescriptionsList);
-  DropFrom(eLength, Lengths);
   AreasList.onSelect = [this] { AreaSelected(); };
   AreasList.onUserScroll = [this] { areasTop_ = AreasList.Top(); };
   AreaList.onSelect = [this] { LineSelected(); };
@@ -48,18 +44,9 @@ void EstimateForm::LineSelected() {
 // The system goes to the top of the list; Enter in the field goes on with it.
 void EstimateForm::DescriptionSelected() {
   if (DescriptionsList.Index() < 0) return;
-  const QString name = DescriptionsList.Selected();
-  eDescription.SetText(name);
-  DescriptionsList.Remove(DescriptionsList.Index());
-  DescriptionsList.Insert(0, name);
+  PickToTop(DescriptionsList, eDescription);
   SaveDescriptions();
   GetDesk().Focus(eDescription);
-}
-
-void EstimateForm::SwitchAutoRoom() {
-  autoRoom_ = AutoRoom.Caption() != QLatin1String("AutoRoom is ON");
-  AutoRoom.SetCaption(autoRoom_ ? QStringLiteral("AutoRoom is ON")
-                                : QStringLiteral("AutoRoom is OFF"));
 }
 
 // The area that follows in the list goes, too (held by a test); the files of both stay.
@@ -84,9 +71,14 @@ void EstimateForm::DeleteArea() {
       gone + QStringLiteral(" off the list. Typing a name again brings it back with its lines."));
 }
 
-void EstimateForm::DeleteLine() {
-  if (!FollowAreaName() || AreaList.Index() < 0) return;
+bool EstimateForm::LineIsSelected() {
+  if (!FollowAreaName() || AreaList.Index() < 0) return false;
   PrepareSave();
+  return true;
+}
+
+void EstimateForm::DeleteLine() {
+  if (!LineIsSelected()) return;
   AreaList.Remove(AreaList.Index());
   SaveArea();
   eDescription.Clear();
@@ -96,8 +88,7 @@ void EstimateForm::DeleteLine() {
 
 // The empty slot is stored, unlike that of a room.
 void EstimateForm::InsertLine() {
-  if (!FollowAreaName() || AreaList.Index() < 0) return;
-  PrepareSave();
+  if (!LineIsSelected()) return;
   AreaList.Insert(AreaList.Index(), QString());
   SaveArea();
   UpdateStatus();

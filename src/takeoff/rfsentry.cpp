@@ -15,14 +15,17 @@ void RFSForm::BindEntry() {
   OnFocusSelectAll(Room, [this] { RoomGotFocus(); });
   Room.onLostFocus = [this] {
     kit_.shared.IAmHere.clear();
-    FollowRoomName();
+    record_.FollowName();
   };
   Room.onDoubleClick = [this] { Toggle(RoomsList); };
 
   OnEnter(
       Description, Keys::Any, [this] { TakeDescription(); }, [this] { LeaveDescription(); });
   HideOnKey(Description, DescriptionsList);
-  OnFocusSelectAll(Description, [this] { DescriptionGotFocus(); });
+  OnFocusSelectAll(Description, [this] {
+    kit_.shared.IAmHere = QStringLiteral("RD");
+    LoadDescriptionsIfEmpty();
+  });
   Description.onLostFocus = [this] {
     kit_.shared.IAmHere.clear();
     DescriptionsList.Hide();
@@ -30,28 +33,22 @@ void RFSForm::BindEntry() {
   Description.onDoubleClick = [this] { Toggle(DescriptionsList); };
 
   OnEnter(Area, [this] {
-    lines_.RequireStorable(Room.Text());
+    record_.RequireStorable();
     TakeFinishArea();
     StoreLine();
   });
   Area.onGotFocus = [this] {
-    LoadAreas();
+    record_.LoadAreas();
     Area.Select(static_cast<int>(Area.Text().size()), 0);
     AreaList.Show();
   };
   Area.onLostFocus = [this] { AreaList.Hide(); };
 }
 
-void RFSForm::SwitchAutoRoom() {
-  autoRoom_ = AutoRoom.Caption() != QLatin1String("AutoRoom is ON");
-  AutoRoom.SetCaption(autoRoom_ ? QStringLiteral("AutoRoom is ON")
-                                : QStringLiteral("AutoRoom is OFF"));
-}
-
 void RFSForm::RoomGotFocus() {
   kit_.shared.IAmHere = QStringLiteral("RR");
-  LoadRooms();
-  RoomsList.SetTop(roomsTop_);
+  record_.LoadRooms();
+  RoomsList.SetTop(place.roomsTop);
 }
 
 void RFSForm::TakeRoom() {
@@ -60,44 +57,15 @@ void RFSForm::TakeRoom() {
     Hide();
     return;
   }
-  EnterRoom();
-  LoadRoom();
+  record_.EnterRoom();
+  record_.LoadRoom();
   GetDesk().Focus(Description);
   if (Flag == QLatin1String("Estimate") && !RoomList.Empty()) RoomList.SetIndex(0);
   UpdateStatus();
 }
 
-// A found room keeps the field's spelling; its file is found whatever its case.
-void RFSForm::EnterRoom() {
-  RequireName(QStringLiteral("room"), Room.Text());
-  roomCursor_ = RoomsList.FindAnyCase(Room.Text());
-  if (roomCursor_ >= 0) return;
-  RoomsList.Add(Room.Text());
-  roomCursor_ = RoomsList.Count() - 1;
-  SaveRooms();
-}
-
-// Another name than that of the lines below, left without Enter: its own lines come up. The focus
-// goes where the estimator sent it, or back to a name that is refused. False when it was refused.
-bool RFSForm::FollowRoomName() {
-  if (Room.Empty() || !lines_.OfOpenProject() || lines_.AreOf(Room.Text())) return true;
-  bool loaded = false;
-  GetDesk().Dispatch([&] {
-    EnterRoom();
-    LoadRoom();
-    loaded = true;
-  });
-  if (!loaded) GetDesk().Focus(Room);
-  return loaded;
-}
-
-void RFSForm::DescriptionGotFocus() {
-  kit_.shared.IAmHere = QStringLiteral("RD");
-  if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) LoadDescriptions();
-}
-
 void RFSForm::LeaveDescription() {
-  GetDesk().Focus(Flag == QLatin1String("Enter") ? How : Room);
+  GetDesk().Focus(Entering() ? How : Room);
 }
 
 void RFSForm::TakeDescription() {
@@ -120,7 +88,7 @@ void RFSForm::TakeFinishArea() {
   AreaList.Hide();
   if (AreaList.Find(Area.Text()) >= 0) return;
   AreaList.Insert(0, Area.Text());
-  SaveAreas();
+  record_.SaveAreas();
 }
 
 // A system stands only once in a room: its line is rewritten, with its quantity; the first empty
@@ -135,7 +103,7 @@ void RFSForm::StoreLine() {
   } else {
     AddLine(at);
   }
-  SaveRoom();
+  record_.SaveRoom();
   Area.Clear();
   Description.Clear();
   GetDesk().Focus(Description);
@@ -156,20 +124,20 @@ void RFSForm::AddLine(int at) {
     return;
   }
   RoomList.Add(line);
-  suppress_ = true;
+  place.quiet = true;
   RoomList.SetIndex(RoomList.Count() - 1);
 }
 
 // How in "Enter" mode: the room is finished.
 void RFSForm::FinishRoom() {
-  lines_.RequireStorable(Room.Text());
+  record_.RequireStorable();
   if (How.Empty()) How.SetText(CopyHeight);
   CopyHeight = How.Text();
-  SaveRoom();
+  record_.SaveRoom();
   plan_.SaveIt();
-  if (autoRoom_) NextRoom();
+  if (autoRoom_.On()) NextRoom();
   CopyHeight = How.Text();
-  if (!autoRoom_) {
+  if (!autoRoom_.On()) {
     Room.Clear();
     GetDesk().Focus(Room);
     Lengths.Clear();
@@ -179,7 +147,7 @@ void RFSForm::FinishRoom() {
   // With AutoRoom a room that had lines shows none from here on until it is loaded again (held by a
   // test).
   RoomList.Clear();
-  if (!autoRoom_) lines_.Forget();
+  if (!autoRoom_.On()) record_.ForgetLines();
   UpdateStatus();
 }
 
@@ -187,13 +155,13 @@ void RFSForm::NextRoom() {
   const QString next = NextName(Room.Text());
   RequireName(QStringLiteral("room"), next);
   Room.SetText(next);
-  roomCursor_ = RoomsList.Find(next);
-  if (roomCursor_ < 0) {
+  place.room = RoomsList.Find(next);
+  if (place.room < 0) {
     RoomsList.Add(next);
-    roomCursor_ = RoomsList.Count() - 1;
-    SaveRooms();
+    place.room = RoomsList.Count() - 1;
+    record_.SaveRooms();
   }
-  LoadRoom();
+  record_.LoadRoom();
   GetDesk().Focus(Description);
 }
 

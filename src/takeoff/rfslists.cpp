@@ -1,4 +1,4 @@
-// The lists of the schedule: rooms, systems, finish areas, and what the pop-up menus do to them.
+// What is picked from the lists of the schedule: rooms, systems, finish areas.
 
 #include "common/chain.h"
 #include "common/numbers.h"
@@ -8,31 +8,26 @@
 namespace tamo {
 
 void RFSForm::BindLists() {
-  for (OrderedList* list : {&CopyRoomList, &System}) KeepUnseen(*list);
-  DropFrom(Room, RoomsList);
-  DropFrom(Description, DescriptionsList);
-  DropFrom(Area, AreaList);
-  DropFrom(Length, Lengths);
   RoomsList.onSelect = [this] { RoomSelected(); };
-  RoomsList.onUserScroll = [this] { roomsTop_ = RoomsList.Top(); };
+  RoomsList.onUserScroll = [this] { place.roomsTop = RoomsList.Top(); };
   DescriptionsList.onSelect = [this] { DescriptionSelected(); };
   AreaList.onSelect = [this] { FinishAreaSelected(); };
 }
 
 void RFSForm::RoomSelected() {
   if (RoomsList.Index() < 0) return;
-  roomsTop_ = RoomsList.Top();
-  roomCursor_ = RoomsList.Index();
+  place.roomsTop = RoomsList.Top();
+  place.room = RoomsList.Index();
   Room.SetText(RoomsList.Selected());
   RoomsList.Hide();
-  const bool entering = Flag == QLatin1String("Enter");
-  heightNumber_ = entering ? 0 : GroupedValue(How.Text());
-  LoadRoom();
+  const bool entering = Entering();
+  place.height = entering ? 0 : GroupedValue(How.Text());
+  record_.LoadRoom();
   // Taking off, the height in use goes on over the one just loaded (held by a test).
-  How.SetText(NumberText(heightNumber_));
-  if (selectedLine_ >= RoomList.Count()) selectedLine_ = 0;
-  if (selectedLine_ >= 0 && selectedLine_ < RoomList.Count() && RoomList.Index() < 0)
-    RoomList.SetIndex(selectedLine_);
+  How.SetText(NumberText(place.height));
+  if (place.line >= RoomList.Count()) place.line = 0;
+  if (place.line >= 0 && place.line < RoomList.Count() && RoomList.Index() < 0)
+    RoomList.SetIndex(place.line);
   if (entering) {
     GetDesk().Focus(Description);
     return;
@@ -45,10 +40,7 @@ void RFSForm::RoomSelected() {
 
 void RFSForm::DescriptionSelected() {
   if (DescriptionsList.Index() < 0) return;
-  const QString name = DescriptionsList.Selected();
-  Description.SetText(name);
-  DescriptionsList.Remove(DescriptionsList.Index());
-  DescriptionsList.Insert(0, name);
+  PickToTop(DescriptionsList, Description);
   DescriptionsList.Hide();
   SaveDescriptions();
   TakeSystem();
@@ -56,80 +48,11 @@ void RFSForm::DescriptionSelected() {
 
 void RFSForm::FinishAreaSelected() {
   if (AreaList.Index() < 0) return;
-  lines_.RequireStorable(Room.Text());
-  const QString name = AreaList.Selected();
-  Area.SetText(name);
-  AreaList.Remove(AreaList.Index());
-  AreaList.Insert(0, name);
-  SaveAreas();
+  record_.RequireStorable();
+  PickToTop(AreaList, Area);
+  record_.SaveAreas();
   AreaList.Hide();
   StoreLine();
-}
-
-// The room that follows in the list goes, too (held by a test); the files of both stay.
-void RFSForm::DeleteRoom() {
-  if (Room.Empty()) return;
-  const int at = RoomsList.Find(Room.Text());
-  if (at < 0) {
-    kit_.desk.GetMessages().Tell(
-        QStringLiteral("There is no room \"%1\" in the list of rooms. Nothing was deleted.")
-            .arg(Room.Text()));
-    return;
-  }
-  QString gone = QStringLiteral("\"%1\" is").arg(RoomsList.Row(at));
-  RoomsList.Remove(at);
-  if (at < RoomsList.Count()) {
-    gone = QStringLiteral("\"%1\" and \"%2\" are").arg(Room.Text(), RoomsList.Row(at));
-    RoomsList.Remove(at);
-  }
-  ForgetLines();
-  Room.Clear();
-  roomCursor_ = -1;
-  kit_.shared.IAmHere.clear();  // no measure waits in the room any more
-  SaveRooms();
-  RoomsList.Show();
-  StatusText.SetCaption(
-      gone + QStringLiteral(" off the list. Typing a name again brings it back with its lines."));
-}
-
-void RFSForm::DeleteLine() {
-  if (!FollowRoomName() || RoomList.Index() < 0) return;
-  lines_.RequireStorable(Room.Text());
-  RoomList.Remove(RoomList.Index());
-  Description.Clear();
-  Area.Clear();
-  GetDesk().Focus(Description);
-  SaveRoom();
-  UpdateStatus();
-}
-
-// The empty slot is filled by the next new system; it is never stored.
-void RFSForm::InsertLine() {
-  if (!FollowRoomName() || RoomList.Index() < 0) return;
-  lines_.RequireStorable(Room.Text());
-  RoomList.Insert(RoomList.Index(), QString());
-  SaveRoom();
-  UpdateStatus();
-}
-
-void RFSForm::CopyLines() {
-  if (!FollowRoomName()) return;
-  CopyHeight1 = How.Text();
-  CopyRoomList.SetRows(RoomList.Rows());
-}
-
-void RFSForm::PasteLines() {
-  if (CopyRoomList.Empty() || !FollowRoomName()) return;
-  lines_.RequireStorable(Room.Text());
-  RoomList.Clear();
-  How.SetText(CopyHeight1);
-  CopyHeight = How.Text();
-  RoomList.AddAll(CopyRoomList.Rows());
-  SaveRoom();
-  suppress_ = true;
-  RoomList.SetIndex(RoomList.Count() - 1);
-  suppress_ = false;
-  UpdateStatus();
 }
 
 }  // namespace tamo

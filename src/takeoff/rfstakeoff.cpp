@@ -28,8 +28,8 @@ void RFSForm::HowGotFocus() {
   const QString kept = How.Text();
   plan_.SetToolMode(0);
   How.SetText(kept);
-  if (roomCursor_ < RoomsList.Count()) {
-    RoomsList.SetIndex(roomCursor_);
+  if (place.room < RoomsList.Count()) {
+    RoomsList.SetIndex(place.room);
     GetDesk().Focus(How);
   }
   How.SelectAll();
@@ -53,7 +53,7 @@ void RFSForm::TakeHeight() {
 void RFSForm::LengthGotFocus() {
   if (Description.Empty() && RoomList.Index() >= 0)
     Description.SetText(RoomLine(RoomList.Selected()).System());
-  if (roomCursor_ < RoomsList.Count()) RoomsList.SetIndex(roomCursor_);
+  if (place.room < RoomsList.Count()) RoomsList.SetIndex(place.room);
   // Selecting the room may have moved the focus on; a measure then belongs to the field that has
   // it.
   if (Length.HasFocus()) kit_.shared.IAmHere = QStringLiteral("RL");
@@ -76,7 +76,7 @@ void RFSForm::TakeLength() {
         QStringLiteral("No line of the room is selected, so the length has no place. Nothing was "
                        "stored; select a line in the list, then enter the length."));
   }
-  lines_.RequireStorable(Room.Text());
+  record_.RequireStorable();
   Description.SetText(RoomLine(RoomList.Selected()).System());
   AddEntry();
 }
@@ -90,7 +90,7 @@ void RFSForm::AddEntry() {
     Lengths.Add(GrownLeft(Length.Text(), 10));
     Length.Clear();
     GetDesk().Focus(Length);
-    SaveRoom();
+    record_.SaveRoom();
     plan_.SaveIt();
     return;
   }
@@ -101,7 +101,7 @@ void RFSForm::AddEntry() {
   StoreQuantity(total);
   Lengths.Add(How.Text() + QStringLiteral(" X ") + Length.Text());
   Length.Clear();
-  SaveRoom();
+  record_.SaveRoom();
   plan_.SaveIt();
   plan_.SetToolMode(0);
   GetDesk().Focus(Length);
@@ -121,7 +121,7 @@ void RFSForm::EndLineEntry() {
   Lengths.Hide();
   How.Clear();
   if (!linear) {
-    heightNumber_ = 0;
+    place.height = 0;
     GetDesk().Focus(How);
     return;
   }
@@ -137,31 +137,31 @@ void RFSForm::EndLineEntry() {
 
 // A save that is refused says why; the walk goes on all the same.
 void RFSForm::SaveAndWalkOn() {
-  GetDesk().Dispatch([this] { SaveRoom(); });
+  GetDesk().Dispatch([this] { record_.SaveRoom(); });
   EstimateRFS();
 }
 
 // To the next line, through rooms without lines, to the end of the last room.
 void RFSForm::EstimateRFS() {
-  roomCursor_ = RoomsList.Index();
+  place.room = RoomsList.Index();
   int line = RoomList.Index();
   for (;;) {
-    selectedLine_ = ++line;
+    place.line = ++line;
     if (line < RoomList.Count()) {
       RoomList.SetIndex(line);
       AskForLineEntry();
       return;
     }
-    ++roomCursor_;
-    selectedLine_ = -1;
-    if (roomCursor_ >= RoomsList.Count()) {
+    ++place.room;
+    place.line = -1;
+    if (place.room >= RoomsList.Count()) {
       FinishSchedule();
       return;
     }
-    const int room = roomCursor_;
+    const int room = place.room;
     RoomsList.SetIndex(room);
     Room.SetText(RoomsList.Row(room));
-    LoadRoom();
+    record_.LoadRoom();
     if (!RoomList.Empty()) RoomList.SetIndex(0);
     line = -1;
   }
@@ -175,21 +175,21 @@ void RFSForm::AskForLineEntry() {
 
 void RFSForm::FinishSchedule() {
   if (kit_.shared.GUIText == QLatin1String("2")) {
-    shell_.ShowOST();
+    exits_.ShowOST();
     Hide();
     return;
   }
-  shell_.ShowMainForm();
+  exits_.ShowMainForm();
   Hide();
-  shell_.ShowMainForm();
+  exits_.ShowMainForm();
 }
 
 // The selection event of RoomList, in both modes.
 void RFSForm::LineSelected() {
-  selectedLine_ = RoomList.Index();
+  place.line = RoomList.Index();
   UpdateStatus();
-  if (suppress_) {
-    suppress_ = false;
+  if (place.quiet) {
+    place.quiet = false;
     return;
   }
   const RoomLine line(RoomList.Selected());

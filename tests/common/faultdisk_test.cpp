@@ -42,6 +42,7 @@ TEST_F(FaultDiskTest, AHiddenFileIsNotFound) {
   EXPECT_EQ(Read("Jobs.lst"), kFileNotFound);
   EXPECT_FALSE(disk.Exists(Path("Jobs.lst")));
   EXPECT_EQ(disk.Size(Path("Jobs.lst")), -1);
+  EXPECT_FALSE(disk.Stamp(Path("Jobs.lst")).Known());
   EXPECT_EQ(disk.Names(root), QStringList({"Systems"}));
   EXPECT_EQ(disk.RemoveFile(Path("Jobs.lst")), kFileNotFound);
   disk.Unhide(Path("Jobs.lst"));

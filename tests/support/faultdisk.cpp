@@ -63,6 +63,11 @@ int FaultDisk::Read(const QString& path, QByteArray& bytes) {
   return RealDisk::Read(path, bytes);
 }
 
+// Of what can't be read nothing is known, so that it is read anew.
+FileStamp FaultDisk::Stamp(const QString& path) {
+  return CannotRead(path) == kNoError ? RealDisk::Stamp(path) : FileStamp{};
+}
+
 int FaultDisk::OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) {
   if (const int error = CannotRead(path)) return error;
   return RealDisk::OpenToRead(path, reader);

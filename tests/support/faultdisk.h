@@ -35,6 +35,7 @@ class FaultDisk : public RealDisk {
   void ResetSteps() { steps_ = 0; }
 
   int Read(const QString& path, QByteArray& bytes) override;
+  FileStamp Stamp(const QString& path) override;
   int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
   int OpenAtEnd(const QString& path, int& handle) override;

@@ -236,7 +236,7 @@ TEST_F(TakeoffTest, ARoomSavedWithNoLinesAndNoHeightWritesCopyHeightOnly) {
   Enter(rfs.Room, S("101"));
   rfs.CopyHeight = S("10");
   rfs.How.Clear();
-  rfs.SaveRoom();
+  rfs.Record().SaveRoom();
   EXPECT_EQ(Room(S("101")), QStringList{S("10")});
   EXPECT_EQ(rfs.How.Text(), S("10"));
 }

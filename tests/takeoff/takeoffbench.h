@@ -34,7 +34,7 @@ class RecordingPlan : public PlanTools {
   QStringList calls;
 };
 
-class RecordingPricing : public PricingDesk {
+class RecordingPricing : public MissingSystemPricing {
  public:
   void ShowWithName(const QString& system) override { names += system; }
   QStringList names;
@@ -51,7 +51,7 @@ class RecordingRefresh : public TakeoffReportRefresh {
 };
 
 // Two bare windows stand for the main form and the plan.
-class RecordingShell : public TakeoffShell {
+class RecordingShell : public TakeoffExits {
  public:
   explicit RecordingShell(Desk& desk)
       : main(desk, QStringLiteral("Tamo")), ost(desk, QStringLiteral("OST")) {}

@@ -5,9 +5,9 @@
 namespace tamo {
 
 // Where a system that does not exist yet is priced.
-class PricingDesk {
+class MissingSystemPricing {
  public:
-  virtual ~PricingDesk() = default;
+  virtual ~MissingSystemPricing() = default;
   // Shows Pricing with `system` in its Description and the focus there.
   virtual void ShowWithName(const QString& system) = 0;
 };

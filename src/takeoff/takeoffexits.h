@@ -3,9 +3,9 @@
 namespace tamo {
 
 // Where a takeoff form goes when it is done, or when no project is open.
-class TakeoffShell {
+class TakeoffExits {
  public:
-  virtual ~TakeoffShell() = default;
+  virtual ~TakeoffExits() = default;
   virtual void ShowMainForm() = 0;      // visible, in front, with the focus
   virtual void ShowProjectPanel() = 0;  // JobNFOFrame visible, the focus on JobName
   virtual void ShowOST() = 0;           // visible, in front, with the focus

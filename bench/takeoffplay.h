@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+#include "program/program.h"
+#include "records/datafolder.h"
+#include "takeoff/rfsform.h"
+#include "threadwork.h"
+
+namespace tamo::bench {
+
+// Somebody who takes off a room of the first project while a report stands open and follows.
+class TakeoffPlay {
+ public:
+  explicit TakeoffPlay(Program& program)
+      : program_(program), rooms_(*dynamic_cast<RFSForm*>(Find("RFSForm"))) {}
+
+  void Begin() {
+    Choose("OpenProject");
+    auto* jobs = dynamic_cast<OrderedList*>(Find("Tamo")->Find(QStringLiteral("JobsList")));
+    program_.GetDesk().ClickRow(*jobs, 0);
+    program_.Shared().AutoCheck = 1;
+    Choose("RecapSheet");
+    program_.GetDesk().Dispatch([this] { rooms_.TakeOffRoomFinishSchedule(nullptr); });
+    QCoreApplication::processEvents();
+  }
+
+  void Choose(const char* entry) {
+    program_.GetDesk().ChooseMenu(*Find("Tamo")->FindMenu(QString::fromLatin1(entry)));
+  }
+
+  // What the last Enter worked, without what its save waited for the device, in milliseconds.
+  double work = 0;
+
+  // An Enter in Length, in milliseconds.
+  double Enter() {
+    rooms_.Length.SetText(QStringLiteral("1.5"));
+    const double before = WorkOfThread();
+    QElapsedTimer clock;
+    clock.start();
+    program_.GetDesk().PressKey(rooms_.Length, Key::Named(Key::Name::Enter));
+    work = WorkOfThread() - before;
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+  }
+
+  // Another room, saved as an Enter saves it.
+  double BareSave() {
+    const QString path = ProjectFolder(program_.Shared()).RoomFile(QStringLiteral("Room 1"));
+    QString text;
+    program_.GetFiles().ReadText(path, text);
+    QElapsedTimer clock;
+    clock.start();
+    program_.GetFiles().SaveText(path, text);
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+  }
+
+ private:
+  Form* Find(const char* name) { return program_.FindForm(QString::fromLatin1(name)); }
+
+  Program& program_;
+  RFSForm& rooms_;
+};
+
+}  // namespace tamo::bench

@@ -1,0 +1,102 @@
+#include "takeoff/roomrecord.h"
+
+#include "common/failure.h"
+#include "common/numbers.h"
+#include "records/namelists.h"
+#include "records/roomfile.h"
+#include "records/sheetnames.h"
+#include "records/storable.h"
+
+namespace tamo {
+
+void RoomRecord::LoadRooms() {
+  QStringList names;
+  roomsError_ = ReadRoomNames(kit_.files, kit_.shared, names);
+  screen_.RoomsList.SetRows(names);
+  screen_.UpdateStatus();
+}
+
+void RoomRecord::SaveRooms() {
+  RequireReadable(roomsError_, QStringLiteral("The list of rooms"));
+  WriteRoomNames(kit_.files, kit_.shared, screen_.RoomsList.Rows());
+}
+
+void RoomRecord::LoadRoom() {
+  const QString room = screen_.Room.Text();
+  screen_.RoomList.Clear();
+  RoomFile file;
+  const int error = ReadRoomFile(kit_.files, kit_.shared, room, file);
+  lines_.Begin(room, error);
+  if (file.hasHeight) {
+    screen_.How.SetText(file.height);
+    screen_.CopyHeight = file.height;
+    file.lines.removeAll(QString());
+    screen_.RoomList.AddAll(file.lines);
+  }
+  screen_.UpdateStatus();
+  // Last, since a height beyond all numbers fails here and must not leave the room half loaded.
+  if (file.hasHeight && screen_.Entering()) screen_.place.height = GroupedValue(file.height);
+}
+
+void RoomRecord::SaveRoom() {
+  RequireStorable();
+  if (screen_.How.Empty()) screen_.How.SetText(screen_.CopyHeight);
+  WriteRoomFile(kit_.files, kit_.shared, screen_.Room.Text(), screen_.How.Text(),
+                screen_.RoomList.Rows());
+  reports_.PrintReport();
+}
+
+void RoomRecord::LoadAreas() {
+  QStringList names;
+  areasError_ = ReadNames(kit_.files, kit_.shared, NameList::FinishAreas, names);
+  screen_.AreaList.SetRows(names);
+}
+
+void RoomRecord::SaveAreas() {
+  RequireReadable(areasError_, QStringLiteral("The list of finish areas"));
+  WriteNames(kit_.files, kit_.shared, NameList::FinishAreas, screen_.AreaList.Rows());
+}
+
+// A found room keeps the field's spelling; its file is found whatever its case.
+void RoomRecord::EnterRoom() {
+  const QString room = screen_.Room.Text();
+  RequireName(QStringLiteral("room"), room);
+  screen_.place.room = screen_.RoomsList.FindAnyCase(room);
+  if (screen_.place.room >= 0) return;
+  screen_.RoomsList.Add(room);
+  screen_.place.room = screen_.RoomsList.Count() - 1;
+  SaveRooms();
+}
+
+bool RoomRecord::FollowName() {
+  const TextField& room = screen_.Room;
+  if (room.Empty() || !lines_.OfOpenProject() || lines_.AreOf(room.Text())) return true;
+  bool loaded = false;
+  kit_.desk.Dispatch([&] {
+    EnterRoom();
+    LoadRoom();
+    loaded = true;
+  });
+  if (!loaded) kit_.desk.Focus(screen_.Room);
+  return loaded;
+}
+
+void RoomRecord::ForgetLines() {
+  screen_.RoomList.Clear();
+  lines_.Forget();
+}
+
+void RoomRecord::FollowProject() {
+  if (lines_.OfOpenProject()) return;
+  for (TextField* field : {&screen_.Room, &screen_.Description, &screen_.Area, &screen_.Units,
+                           &screen_.How, &screen_.Length})
+    field->Clear();
+  screen_.CopyHeight.clear();
+  screen_.Lengths.Clear();
+  screen_.place.room = -1;
+  screen_.place.line = -1;
+  ForgetLines();
+  lines_.FollowProject();
+}
+
+}  // namespace tamo

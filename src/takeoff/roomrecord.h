@@ -1,0 +1,45 @@
+#pragma once
+
+#include "common/kit.h"
+#include "takeoff/linesinwork.h"
+#include "takeoff/rfsscreen.h"
+
+namespace tamo {
+
+// The room on the screen as it stands in the project: RoomList is written whole to the room's file
+// at each Enter that changes something. Operations that can't store raise a RunTimeFailure that
+// says why, before anything on the screen changes.
+class RoomRecord {
+ public:
+  // All of it outlives this.
+  RoomRecord(RFSScreen& screen, const Kit& kit, TakeoffReportRefresh& reports)
+      : screen_(screen), kit_(kit), reports_(reports) {}
+
+  void LoadRooms();  // the names of the project's rooms
+  void SaveRooms();
+  void LoadRoom();  // the room named in Room, with its height
+  void SaveRoom();
+  void LoadAreas();  // the finish areas of all projects
+  void SaveAreas();
+
+  // The room named in Room is the room in work; a new name goes to the end of the list.
+  void EnterRoom();
+  // Another name than that of the lines below, left without Enter: its own lines come up. The focus
+  // goes where the estimator sent it, or back to a name that is refused, which answers false.
+  bool FollowName();
+  void RequireStorable() const { lines_.RequireStorable(screen_.Room.Text()); }
+  void ForgetLines();  // no room's lines stand on the screen
+  // When another project is open than the one whose room stands here, nothing of it may be stored
+  // there. What Copy Room took stays.
+  void FollowProject();
+
+ private:
+  RFSScreen& screen_;
+  const Kit kit_;
+  TakeoffReportRefresh& reports_;
+  LinesInWork lines_{kit_.shared, "room"};
+  int roomsError_ = 0;  // why the list of rooms could not be read
+  int areasError_ = 0;  // why the list of finish areas could not be read
+};
+
+}  // namespace tamo

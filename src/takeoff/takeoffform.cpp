@@ -1,0 +1,93 @@
+#include "takeoff/takeoffform.h"
+
+#include "common/chain.h"
+#include "records/namelists.h"
+#include "takeoff/takeoffsystem.h"
+
+namespace tamo {
+
+TakeoffForm::TakeoffForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
+                         TakeoffReportRefresh& reports, TakeoffExits& exits, const QString& name)
+    : Form(kit.desk, name),
+      kit_(kit),
+      plan_(plan),
+      pricing_(pricing),
+      reports_(reports),
+      exits_(exits) {
+  Units.readOnly = true;
+  Units.inTabOrder = false;
+  KeepUnseen(System);
+}
+
+void TakeoffForm::BindWindow(MenuEntry& dsw) {
+  onActivate = [this] { Activated(); };
+  onKeyPreview = [this](Key& key) {
+    if (key.Is(Key::Name::Delete)) plan_.DeleteKey();
+  };
+  dsw.onClick = [this] {
+    exits_.ShowOST();
+    Show(OwnerForm());
+  };
+}
+
+void TakeoffForm::Activated() {
+  if (!kit_.shared.JobID.isEmpty()) {
+    Init();
+    return;
+  }
+  exits_.ShowMainForm();
+  Hide();
+  exits_.ShowProjectPanel();
+}
+
+int TakeoffForm::ReadDescriptions() {
+  QStringList names;
+  const int error = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Systems, names);
+  DescriptionsList.SetRows(names);
+  return error;
+}
+
+void TakeoffForm::LoadDescriptionsIfEmpty() {
+  if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) LoadDescriptions();
+}
+
+void TakeoffForm::SaveDescriptions() {
+  WriteNames(kit_.files, kit_.shared, NameList::Systems, DescriptionsList.Rows());
+}
+
+void TakeoffForm::TellToPriceFirst() {
+  kit_.desk.GetMessages().Tell(QStringLiteral("Enter pricing information first."));
+  Hide();
+}
+
+int TakeoffForm::FetchSystem(const QString& name) {
+  int error = 0;
+  QStringList fetched;
+  const TakeoffSystem system = LoadTakeoffSystem(kit_.files, kit_.shared, name, fetched, error);
+  if (!fetched.isEmpty()) System.SetRows(fetched);
+  Units.SetText(system.units);
+  kit_.shared.LineColor = system.lineColour;
+  plan_.SetPenColour(system.lineColour);
+  plan_.ResetMeasure();
+  ShowScale();
+  return error;
+}
+
+void TakeoffForm::ShowStatus(const QString& what, int at, int names, const OrderedList& lines) {
+  const QString place = at >= 0 ? QStringLiteral("%1 %2 of %3").arg(what).arg(at + 1).arg(names)
+                                : QStringLiteral("%1 %2s").arg(names).arg(what.toLower());
+  const int count = lines.Count();
+  const QString line = lines.Index() >= 0
+                           ? QStringLiteral("line %1 of %2").arg(lines.Index() + 1).arg(count)
+                           : QStringLiteral("%1 lines").arg(count);
+  StatusText.SetCaption(place + QStringLiteral(", ") + line);
+}
+
+void PickToTop(OrderedList& list, TextField& field) {
+  const QString name = list.Selected();
+  field.SetText(name);
+  list.Remove(list.Index());
+  list.Insert(0, name);
+}
+
+}  // namespace tamo

@@ -1,0 +1,131 @@
+// Random keys into the two takeoff forms: what must hold after every one of them, whatever was
+// done. TAMO_RANDOM_KEYS says how many keys (20000), TAMO_RANDOM_SEED where to begin (1).
+
+#include <algorithm>
+
+#include "common/columns.h"
+#include "common/numbers.h"
+#include "records/arealine.h"
+#include "records/roomline.h"
+#include "takeoff/takeoffgame.h"
+
+namespace tamo::test {
+namespace {
+
+#define S QStringLiteral
+
+Vocabulary Words() {
+  Vocabulary vocabulary;
+  vocabulary.words =
+      QStringList{QString(),       QString(),        S("101"),   S("102"),    S("Lobby"),
+                  S("lobby"),      S("Wall Paint"),  S("Paint"), S("Carpet"), S("Rubber Base"),
+                  S("HM Door"),    S("ACT Ceiling"), S("Ghost"), S("CLNG"),   S("FLR"),
+                  S("NORTH WALL"), S("8"),           S("10.3"),  S("-4"),     S("99999999999"),
+                  S("0"),          S("2.5"),         S("CON"),   S("9")};
+  vocabulary.pastes =
+      QStringList{S("../../x"), S("a\r\nb"), S("1,500.0"), S("a,b"), QString(), S("102")};
+  return vocabulary;
+}
+
+class RoomsGame : public TakeoffGame {
+ public:
+  RoomsGame() {
+    const ProjectFolder project(shared);
+    disk.Put(project.RoomNames(), {S("101"), S("True"), S("102"), S("True")});
+    disk.Put(project.RoomFile(S("101")),
+             {S("8"), RoomLine::Of(S("Wall Paint"), S("NORTH"), S("450"), S("SF")).Text(),
+              RoomLine::Of(S("HM Door"), QString(), S("2"), S("EA")).Text()});
+    disk.Put(project.RoomFile(S("102")),
+             {S("9"), RoomLine::Of(S("Rubber Base"), S("BASE"), S("20.5"), S("LF")).Text()});
+    Listen(rfs, {&rfs.Room, &rfs.Description, &rfs.Units, &rfs.How, &rfs.Length, &rfs.RoomList,
+                 &rfs.CopyRoomList, &rfs.RmListDelete, &rfs.PasteRoom, "RR", "RD", "RH", "RL",
+                 false, true});
+  }
+  Form& Played() override { return rfs; }
+  std::vector<Deed> Doors() override {
+    return {{S("menu Tamo.EnterRoomFinishSchedule"),
+             [this] { rfs.EnterRoomFinishSchedule(&shell.ost); }},
+            {S("menu Tamo.TakeOffRoomFinishSchedule"),
+             [this] { rfs.TakeOffRoomFinishSchedule(&shell.ost); }}};
+  }
+
+ protected:
+  QString FileOf(const QString& name) const override {
+    return ProjectFolder(shared).RoomFile(name);
+  }
+  QStringList LinesIn(const QStringList& file) const override { return Stored(file.mid(1)); }
+  QStringList Stored(const QStringList& onScreen) const override {
+    QStringList lines = onScreen;
+    lines.removeAll(QString());
+    return lines;
+  }
+  QString QuantityIn(const QString& line) const override {
+    return TrimmedBlanks(Columns(line, 33, 14));
+  }
+  bool MayDiffer(const QStringList&, const QStringList&) const override { return false; }
+  double Entered(const QString& line, bool surface, double height, double length) const override {
+    return Value(Columns(line, 33, 14)) + (surface ? height * length : length);
+  }
+
+ private:
+  RFSForm rfs{kit, plan, pricing, reports, shell};
+};
+
+class AreasGame : public TakeoffGame {
+ public:
+  AreasGame() {
+    const ProjectFolder project(shared);
+    disk.Put(project.AreaNames(), {S("Lobby"), S("True"), S("101"), S("True")});
+    disk.Put(project.AreaFile(S("Lobby")), {AreaLine::Of(S("Wall Paint"), S("450"), S("SF")).Text(),
+                                            AreaLine::Of(S("HM Door"), S("2"), S("EA")).Text()});
+    disk.Put(project.AreaFile(S("101")), {AreaLine::Of(S("Rubber Base"), S("20"), S("LF")).Text()});
+    Listen(ato,
+           {&ato.Area, &ato.eDescription, &ato.Units, &ato.Hite, &ato.eLength, &ato.AreaList,
+            &ato.CopyAreaList, &ato.SystemDelete, &ato.PasteArea, "", "", "EH", "EL", true, false});
+  }
+  Form& Played() override { return ato; }
+  std::vector<Deed> Doors() override {
+    return {{S("menu Tamo.NonFinishScheduleItems"),
+             [this] { ato.NonFinishScheduleItems(&shell.ost); }}};
+  }
+
+ protected:
+  QString FileOf(const QString& name) const override {
+    return ProjectFolder(shared).AreaFile(name);
+  }
+  QStringList LinesIn(const QStringList& file) const override { return file; }
+  QStringList Stored(const QStringList& onScreen) const override { return onScreen; }
+  QString QuantityIn(const QString& line) const override {
+    return TrimmedBlanks(Columns(line, 21, 15));
+  }
+  // A new line reaches the disk with its first entry; lines that were not read come up then.
+  bool MayDiffer(const QStringList& onDisk, const QStringList& onScreen) const override {
+    const auto empty = [this](const QString& line) { return Value(QuantityIn(line)) == 0; };
+    const bool more = onScreen.mid(0, onDisk.size()) == onDisk;
+    const QStringList unsaved = more ? onScreen.mid(onDisk.size()) : onScreen;
+    return std::all_of(unsaved.begin(), unsaved.end(), empty);
+  }
+  double Entered(const QString& line, bool surface, double height, double length) const override {
+    return Value(Columns(line, surface ? 22 : 21, 15)) + (surface ? height * length : length);
+  }
+
+ private:
+  EstimateForm ato{kit, plan, pricing, reports, shell};
+};
+
+template <typename AGame>
+void PlayAtRandom() {
+  RandomPlayer player([] { return std::make_unique<AGame>(); }, Words());
+  const auto finding = player.Play(RandomPlayer::KeysAsked(20000), RandomPlayer::SeedAsked());
+  if (finding) FAIL() << qPrintable(finding->Text());
+}
+
+TEST(RandomPlayer, RFSForm) {
+  PlayAtRandom<RoomsGame>();
+}
+TEST(RandomPlayer, EstimateForm) {
+  PlayAtRandom<AreasGame>();
+}
+
+}  // namespace
+}  // namespace tamo::test
