@@ -54,7 +54,7 @@ constexpr Row kPlan[] = {
     {"ZoomIn", "Zoom I&n", ""},
     {"ScaleA", "S&cale", ""},
     {"GetFiles", "&Files", ""},
-    {"ScheduleMenu", "Sche&dule", ""},
+    {"ScheduleMenu", "Sche&d.", ""},
     {"ReadSchedule", "&Read Schedule", "ScheduleMenu"},
     {"DrawScheduleBox", "Draw a &Box", "ScheduleMenu"},
     {"AddToSchedule", "&Add to Schedule", "ScheduleMenu"},

@@ -188,6 +188,19 @@ void SettleNumber(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& ro
   }
 }
 
+// Walls beside walls of one side, and one head over two columns, are no more than likely.
+void DoubtTwins(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& roles) {
+  const bool sides = Has(roles, ColumnRole::North) || Has(roles, ColumnRole::East) ||
+                     Has(roles, ColumnRole::South) || Has(roles, ColumnRole::West);
+  for (size_t i = 0; i < roles.size(); ++i) {
+    if (roles[i].role == ColumnRole::Walls && sides) roles[i].guessed = true;
+    for (size_t k = 0; k < roles.size(); ++k) {
+      if (k == i || roles[i].role == ColumnRole::Other || roles[k].role != roles[i].role) continue;
+      if (heads[k].join(u' ') == heads[i].join(u' ')) roles[i].guessed = true;
+    }
+  }
+}
+
 int Columns(const std::vector<HeadTexts>& heads, unsigned meaning) {
   return int(std::count_if(heads.begin(), heads.end(), [meaning](const HeadTexts& texts) {
     return (MeaningOfText(texts.join(u' ')) & meaning) != 0;
@@ -204,6 +217,7 @@ std::vector<HeadRole> RolesOf(const std::vector<HeadTexts>& heads) {
   for (const HeadTexts& texts : heads) roles.push_back(HeadReader(texts, company).Read());
   SettleRooms(heads, roles);
   SettleNumber(heads, roles);
+  DoubtTwins(heads, roles);
   return roles;
 }
 

@@ -19,6 +19,7 @@ struct Word {
   double base = 0;  // the base line: its y for Right and Left, its x for Up and Down
   double size = 0;  // of the largest letter
   Way way = Way::Right;
+  double spacing = 0;    // between its letters, beyond what the face has
   int piece = -1;        // which drawn string its first letter comes from
   bool fixed = false;    // of a typewriter face
   bool unknown = false;  // a letter that the file doesn't tell

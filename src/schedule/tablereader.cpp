@@ -126,6 +126,19 @@ class TableReader {
           {CellsOf(words, int(i), last - first + 1), places[i].top, places[i].bottom});
     }
     ShareMergedCells(table, drawing_, across_);
+    DoubtHeadless(table);
+  }
+
+  // A text under no head may belong to what stands beside it.
+  static void DoubtHeadless(ScheduleTable& table) {
+    for (size_t i = 0; i < table.columns.size(); ++i) {
+      if (!table.columns[i].head.isEmpty()) continue;
+      for (ScheduleRow& row : table.rows) {
+        if (row.cells[i].text.isEmpty()) continue;
+        if (i > 0) row.cells[i - 1].Add(Doubt::WhichColumn);
+        if (i + 1 < row.cells.size()) row.cells[i + 1].Add(Doubt::WhichColumn);
+      }
+    }
   }
 
   // Turned texts between the rows: shown where they lie, and never sure.

@@ -91,7 +91,7 @@ class RowMaker {
     for (size_t i = 1; i < line.words.size(); ++i) {
       const Word& a = *words_[line.words[i - 1]].word;
       const Word& b = *words_[line.words[i]].word;
-      if (b.box.left - a.box.right > 1.0 * std::max(a.size, b.size)) return false;
+      if (b.box.left - a.box.right > std::max(a.size, b.size) + a.spacing + b.spacing) return false;
     }
     return true;
   }
