@@ -64,7 +64,7 @@ constexpr Row kPlan[] = {
     {"Save", "&Save", ""},
     {"Printit", "&Print", ""},
     {"Spacer2", kSpace, ""},
-    {"Spacer3", kSpace, ""},
+    {"Spacer3", " ", ""},
     {"Documentation", "D&ocumentation", ""},
     {"Settings1", "&Settings", ""},
     {"Exit", "E&xit", ""},

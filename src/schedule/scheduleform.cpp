@@ -97,7 +97,7 @@ bool ScheduleForm::TakeFromPlan() {
     kit_.desk.GetMessages().Tell(QStringLiteral("The sheet can't be read: %1.").arg(page.problem));
     return false;
   }
-  ScheduleReading reading = ReadSchedule(page, box);
+  ScheduleReading reading = ReadSchedule(page, box, parts_.empty() ? nullptr : &parts_.back());
   if (!reading.problem.isEmpty()) {
     kit_.desk.GetMessages().Tell(reading.problem);
     return false;

@@ -12,8 +12,8 @@
 namespace tamo {
 namespace {
 
-constexpr double kEdge = 3;  // points around a drawn box that still belong to it
-constexpr size_t kMostWords = 40000;
+constexpr double kEdge = 3;     // points around a drawn box that still belong to it
+constexpr double kAround = 40;  // and those that are looked at, for what the box cuts through
 
 void Back(ScheduleTable& table, Way way, PageSize size) {
   if (way == Way::Right) return;
@@ -49,11 +49,15 @@ std::vector<ScheduleTable> TablesOfAllWays(const SheetDrawing& drawing) {
 }
 
 // All that a drawn box holds as one table, for tables without ruling.
-std::vector<ScheduleTable> WholeBox(const SheetDrawing& drawing, const PageBox& box) {
+std::vector<ScheduleTable> WholeBox(const SheetDrawing& drawing, const PageBox& box,
+                                    const ScheduleTable* before) {
   const std::vector<Way> ways = WaysOf(drawing);
   const Way way = ways.empty() ? Way::Right : ways.front();
-  std::vector<ScheduleTable> tables =
-      ReadTables(Turned(drawing, way), TurnedBox(box, way, drawing.size));
+  const PageBox turned = TurnedBox(box, way, drawing.size);
+  std::vector<ScheduleTable> tables = ReadTables(Turned(drawing, way), turned);
+  if (tables.empty() && before != nullptr) {
+    tables = ReadFurtherPart(Turned(drawing, way), turned, *before);
+  }
   for (ScheduleTable& table : tables) Back(table, way, drawing.size);
   return tables;
 }
@@ -84,21 +88,22 @@ ScheduleReading Refused(const QString& why) {
 }  // namespace
 
 std::vector<ScheduleTable> FindTables(const PageContent& page) {
-  const SheetDrawing drawing = DrawingOf(page);
-  if (drawing.words.size() > kMostWords) return {};
-  return TablesOfAllWays(drawing);
+  const PageBox whole = {0, 0, page.size.width, page.size.height};
+  if (!WhyUnreadable(page, whole, false).isEmpty()) return {};
+  return TablesOfAllWays(DrawingOf(page));
 }
 
-ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBox>& box) {
+ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBox>& box,
+                             const ScheduleTable* before) {
   const PageBox whole = {0, 0, page.size.width, page.size.height};
   const PageBox area = box.has_value() ? *box : whole;
   const QString unreadable = WhyUnreadable(page, area, box.has_value());
   if (!unreadable.isEmpty()) return Refused(unreadable);
-  const SheetDrawing sheet = DrawingOf(page);
+  const SheetDrawing sheet =
+      box.has_value() ? DrawingOf(Near(page, Grown(area, kAround))) : DrawingOf(page);
   const SheetDrawing drawing = box.has_value() ? Inside(sheet, Grown(area, kEdge)) : sheet;
-  if (drawing.words.size() > kMostWords) return Refused(TooMuchText(box.has_value()));
   std::vector<ScheduleTable> tables = TablesOfAllWays(drawing);
-  if (tables.empty() && box.has_value()) tables = WholeBox(drawing, area);
+  if (tables.empty() && box.has_value()) tables = WholeBox(drawing, area, before);
   const QString wrong = WhyNoSchedule(tables, box.has_value());
   if (!wrong.isEmpty()) return Refused(wrong);
   KeepFinishes(tables);

@@ -17,6 +17,9 @@ struct SheetDrawing {
 // The words and rules of a page; the numbers of revision deltas are left out of the words.
 SheetDrawing DrawingOf(const PageContent& content);
 
+// What of a page lies in a box or touches it.
+PageContent Near(const PageContent& content, const PageBox& box);
+
 // The sheet turned so that texts of `way` read to the right.
 SheetDrawing Turned(const SheetDrawing& drawing, Way way);
 // A place on the turned sheet back on the sheet of `size` as it lay before.

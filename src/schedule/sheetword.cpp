@@ -244,26 +244,31 @@ bool RightToLeft(QChar letter) {
   return letter.direction() == QChar::DirR || letter.direction() == QChar::DirAL;
 }
 
-void Count(const TextPiece& piece, SheetWords& sheet) {
+void Count(const TextPiece& piece, LetterCounts& counts) {
   for (const QChar letter : piece.text) {
     if (IsBlank(letter)) continue;
-    ++(piece.hidden ? sheet.hidden : sheet.letters);
-    if (RightToLeft(letter)) ++sheet.foreign;
-    if (piece.vertical) ++sheet.downwards;
+    ++(piece.hidden ? counts.hidden : counts.letters);
+    if (RightToLeft(letter)) ++counts.foreign;
+    if (piece.vertical) ++counts.downwards;
   }
 }
 
 }  // namespace
 
-SheetWords WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules) {
-  SheetWords sheet;
+LetterCounts CountLetters(const std::vector<TextPiece>& texts) {
+  LetterCounts counts;
   for (const TextPiece& piece : texts) {
-    if (!piece.clipped) Count(piece, sheet);
+    if (!piece.clipped) Count(piece, counts);
   }
+  return counts;
+}
+
+std::vector<Word> WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules) {
+  std::vector<Word> words;
   for (const Way way : {Way::Right, Way::Up, Way::Left, Way::Down}) {
-    TakeWords(texts, rules, way, sheet.words);
+    TakeWords(texts, rules, way, words);
   }
-  return sheet;
+  return words;
 }
 
 }  // namespace tamo

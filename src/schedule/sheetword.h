@@ -28,17 +28,19 @@ struct Word {
   double MidY() const { return (box.top + box.bottom) / 2; }
 };
 
-// The words of a sheet, and what else its text shows.
-struct SheetWords {
-  std::vector<Word> words;
+// What the letters of a sheet are.
+struct LetterCounts {
   qsizetype letters = 0;    // letters that can be seen
   qsizetype hidden = 0;     // letters drawn with no ink
   qsizetype foreign = 0;    // letters of a script that is written from right to left
   qsizetype downwards = 0;  // letters of a font for writing downwards
 };
 
-// Text drawn twice at one place counts once. Text that is neither along nor across the sheet,
-// hidden or cut away is left out. Strings on both sides of one of the `rules` are never one word.
-SheetWords WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules = {});
+LetterCounts CountLetters(const std::vector<TextPiece>& texts);
+
+// The words of a sheet. Text drawn twice at one place counts once. Text that is neither along nor
+// across the sheet, hidden or cut away is left out. Strings on both sides of one of the `rules` are
+// never one word.
+std::vector<Word> WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules = {});
 
 }  // namespace tamo

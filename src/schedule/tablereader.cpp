@@ -14,8 +14,9 @@
 namespace tamo {
 namespace {
 
-constexpr double kCrosses = 0.7;  // of the width: a rule that ends a row
-constexpr double kWhole = 0.97;   // of the width: a rule from side to side
+constexpr double kCrosses = 0.7;    // of the width: a rule that ends a row
+constexpr double kSamePart = 0.03;  // of the width: columns of two parts that are the same
+constexpr double kWhole = 0.97;     // of the width: a rule from side to side
 
 // The rules from side to side that cross at least a part of a table's width.
 std::vector<double> AcrossOf(const SheetDrawing& drawing, const PageBox& frame, double part) {
@@ -45,6 +46,30 @@ class TableReader {
     std::vector<ScheduleTable> tables;
     for (const auto& [first, last] : Stretches()) tables.push_back(TableOf(first, last));
     return tables;
+  }
+
+  std::vector<ScheduleTable> ReadLike(const ScheduleTable& before) {
+    heads_.top = heads_.bottom = frame_.top - 1;
+    columns_ = ColumnsOf(drawing_, lines_, heads_, frame_);
+    if (size_t(columns_.Count()) != before.columns.size()) return {};
+    words_ = PlaceWords(drawing_, lines_, columns_, heads_.bottom);
+    ScheduleTable table;
+    table.kind = before.kind;
+    table.confidence = before.confidence;
+    table.columns = before.columns;
+    const double wide = columns_.at.back() - columns_.at.front();
+    const double wideBefore = before.columns.back().right - before.columns.front().left;
+    for (int i = 0; i < columns_.Count(); ++i) {
+      ScheduleColumn& column = table.columns[size_t(i)];
+      const double part = (columns_.Right(i) - columns_.Left(i)) / wide;
+      const double partBefore = (column.right - column.left) / wideBefore;
+      column.guessed = column.guessed || std::abs(part - partBefore) > kSamePart;
+      column.left = columns_.Left(i);
+      column.right = columns_.Right(i);
+    }
+    table.box = {columns_.Left(0), frame_.top, columns_.Right(columns_.Count() - 1), frame_.bottom};
+    TakeRows(table, 0, columns_.Count() - 1);
+    return {std::move(table)};
   }
 
  private:
@@ -168,6 +193,11 @@ class TableReader {
 };
 
 }  // namespace
+
+std::vector<ScheduleTable> ReadFurtherPart(SheetDrawing drawing, const PageBox& frame,
+                                           const ScheduleTable& before) {
+  return TableReader(std::move(drawing), frame).ReadLike(before);
+}
 
 std::vector<ScheduleTable> ReadTables(SheetDrawing drawing, const PageBox& frame) {
   return TableReader(std::move(drawing), frame).Read();

@@ -119,6 +119,24 @@ TEST(Reading, TwoTablesInABoxAreRefused) {
   EXPECT_EQ(ReadSchedule(sheet.Page(), std::nullopt).parts.size(), 1u);
 }
 
+TEST(Reading, AFurtherPartNeedsNoHeads) {
+  SheetMaker sheet;
+  sheet.Table(50, 50, {kHeads, {"101", "LOBBY", "CPT-1", "RB-1", "P-1", "ACT-1"}});
+  const ScheduleReading first = ReadSchedule(sheet.Page(), std::nullopt);
+  ASSERT_EQ(first.parts.size(), 1u);
+  SheetMaker next;
+  next.Table(50, 50,
+             {{"102", "HALL", "CPT-1", "RB-1", "P-1", "ACT-1"},
+              {"103", "MEN", "CT-1", "CT-2", "P-2", "ACT-2"}});
+  const PageBox box = {50, 50, 650, 90};
+  EXPECT_FALSE(ReadSchedule(next.Page(), box).problem.isEmpty());
+  const ScheduleReading second = ReadSchedule(next.Page(), box, &first.parts[0]);
+  EXPECT_EQ(second.problem.toStdString(), "");
+  const auto rows = FinishRowsOf(second.parts);
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[1].Text().toStdString(), "103\tMEN\tCT-1\tCT-2\tP-2\tP-2\tP-2\tP-2\tACT-2\t");
+}
+
 TEST(Reading, LettersOfAnotherScriptAreSaid) {
   SheetMaker sheet;
   sheet.Text(100, 100, QString(QChar(0x05d0)).repeated(20));
