@@ -7,6 +7,7 @@
 #include "program/pricingadapters.h"
 #include "program/reportadapters.h"
 #include "program/takeoffadapters.h"
+#include "schedule/scheduleform.h"
 #include "workspace/form11.h"
 
 namespace tamo {
@@ -57,6 +58,7 @@ struct Program::Parts {
   ReportsForm reports{kit,
                       {pricingOnForm, projectRecord, reportsShell, pricingOnForm, wholeQuantities}};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
+  ScheduleForm schedule{kit, ost};
   Menus menus{kit,
               shell,
               {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs}};
