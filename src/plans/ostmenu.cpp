@@ -54,10 +54,6 @@ constexpr Row kPlan[] = {
     {"ZoomIn", "Zoom I&n", ""},
     {"ScaleA", "S&cale", ""},
     {"GetFiles", "&Files", ""},
-    {"ScheduleMenu", "Sche&d.", ""},
-    {"ReadSchedule", "&Read Schedule", "ScheduleMenu"},
-    {"DrawScheduleBox", "Draw a &Box", "ScheduleMenu"},
-    {"AddToSchedule", "&Add to Schedule", "ScheduleMenu"},
     {"LinesColor", "Line &Color", ""},
     {"LastPage", "&Last Page", ""},
     {"NextPage", "&Next Page", ""},
@@ -68,6 +64,10 @@ constexpr Row kPlan[] = {
     {"Documentation", "D&ocumentation", ""},
     {"Settings1", "&Settings", ""},
     {"Exit", "E&xit", ""},
+    {"ScheduleMenu", "Sche&dule", ""},
+    {"ReadSchedule", "&Read Schedule", "ScheduleMenu"},
+    {"DrawScheduleBox", "Draw a &Box", "ScheduleMenu"},
+    {"AddToSchedule", "&Add to Schedule", "ScheduleMenu"},
 };
 
 class Bar {

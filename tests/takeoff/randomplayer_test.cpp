@@ -38,8 +38,8 @@ class RoomsGame : public TakeoffGame {
     disk.Put(project.RoomFile(S("102")),
              {S("9"), RoomLine::Of(S("Rubber Base"), S("BASE"), S("20.5"), S("LF")).Text()});
     Listen(rfs, {&rfs.Room, &rfs.Description, &rfs.Units, &rfs.How, &rfs.Length, &rfs.RoomList,
-                 &rfs.CopyRoomList, &rfs.RmListDelete, &rfs.PasteRoom, "RR", "RD", "RH", "RL",
-                 false, true});
+                 &rfs.CopyRoomList, &rfs.RmsDelete, &rfs.RmListDelete, &rfs.PasteRoom, "RR", "RD",
+                 "RH", "RL", false, true});
   }
   Form& Played() override { return rfs; }
   std::vector<Deed> Doors() override {
@@ -79,9 +79,9 @@ class AreasGame : public TakeoffGame {
     disk.Put(project.AreaFile(S("Lobby")), {AreaLine::Of(S("Wall Paint"), S("450"), S("SF")).Text(),
                                             AreaLine::Of(S("HM Door"), S("2"), S("EA")).Text()});
     disk.Put(project.AreaFile(S("101")), {AreaLine::Of(S("Rubber Base"), S("20"), S("LF")).Text()});
-    Listen(ato,
-           {&ato.Area, &ato.eDescription, &ato.Units, &ato.Hite, &ato.eLength, &ato.AreaList,
-            &ato.CopyAreaList, &ato.SystemDelete, &ato.PasteArea, "", "", "EH", "EL", true, false});
+    Listen(ato, {&ato.Area, &ato.eDescription, &ato.Units, &ato.Hite, &ato.eLength, &ato.AreaList,
+                 &ato.CopyAreaList, &ato.AreasDelete, &ato.SystemDelete, &ato.PasteArea, "", "",
+                 "EH", "EL", true, false});
   }
   Form& Played() override { return ato; }
   std::vector<Deed> Doors() override {
