@@ -108,8 +108,7 @@ void MaterialInWork::LoadFromLibrary() {
 
 void MaterialInWork::SaveToLibrary(const MaterialBlock& block) {
   RequireFileName(block.material);
-  kit_.files.SaveText(MaterialPath(kit_.shared, block.material),
-                      MaterialFileText(block, {block.upoTag}, {block.mnhrTag}));
+  kit_.files.SaveText(MaterialPath(kit_.shared, block.material), MaterialFileText(block));
 }
 
 }  // namespace tamo

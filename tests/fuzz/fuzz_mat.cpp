@@ -23,8 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const MaterialFile file = ReadMaterialFile(text);
   Must(file.reached >= 0 && file.reached <= 9);
   const MaterialBlock& block = file.block;
-  const MaterialFile again =
-      ReadMaterialFile(MaterialFileText(block, {block.upoTag}, {block.mnhrTag}));
+  const MaterialFile again = ReadMaterialFile(MaterialFileText(block));
   Must(again.reached == 9 && again.block.Rows() == block.Rows());
 
   const PromptNames names = {block.wageRate, block.orderUnits, block.material, block.material};

@@ -74,10 +74,6 @@ QStringList Texts(const PricingForm& form) {
   return texts;
 }
 
-QString TextOf(const MaterialBlock& block) {
-  return MaterialFileText(block, {block.upoTag}, {block.mnhrTag});
-}
-
 SystemFile Priced(const QString& name, const QString& units, const QString& price,
                   const QStringList& blocks = {}) {
   return {name, units, price, {}, {}, blocks};
@@ -121,7 +117,7 @@ void PricingGame::PutLibrary() {
   }
   put(S("Inn.sys"), S("Inn\r\nSF\r\n0.00\r\n\r\n\r\n\r\n\r\n") + JoinedLines(Drywall() + tee));
   for (const QStringList& block : {Stud(), Compound(), tee})
-    put(S("Tamo/Systems/") + block[0] + S(".mat"), TextOf(MaterialBlock::At(block, 0)));
+    put(S("Tamo/Systems/") + block[0] + S(".mat"), MaterialFileText(MaterialBlock::At(block, 0)));
   put(S("Tamo/Descriptions.tamo"), S("Wall\r\nCeiling\r\nBase\r\nCaulk\r\n"));
   put(S("Tamo/Materials.tamo"), S("Stud\r\nDrywall\r\nCompound\r\nMain Tee\r\n"));
   put(S("Tamo/Units.tamo"), S("SF\r\nM\r\nEA\r\n"));

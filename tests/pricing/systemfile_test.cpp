@@ -105,7 +105,7 @@ TEST(SystemFileTest, OlderFilesWithOtherLineEndsAndBytesOpen) {
 
 TEST(MaterialFileTest, IsTheFirstNineRowsOfABlock) {
   const MaterialBlock block = MaterialBlock::At(Stud(), 0);
-  const QString text = MaterialFileText(block, {"opu"}, {"upm"});
+  const QString text = MaterialFileText(block);
   EXPECT_EQ(text, "Stud\r\nLF\r\n0.62\r\n.75\r\nopu\r\n42\r\nupm\r\n5\r\n46.50\r\n");
   const MaterialFile read = ReadMaterialFile(text);
   EXPECT_EQ(read.reached, 9);
