@@ -89,10 +89,6 @@ std::vector<ScheduleTable> TablesInBox(const SheetDrawing& drawing, const PageBo
   return better ? whole : tables;
 }
 
-PageBox Grown(const PageBox& box, double by) {
-  return {box.left - by, box.top - by, box.right + by, box.bottom + by};
-}
-
 bool SameHeads(const ScheduleTable& a, const ScheduleTable& b) {
   if (a.columns.size() != b.columns.size()) return false;
   for (size_t i = 0; i < a.columns.size(); ++i) {
