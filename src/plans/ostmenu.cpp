@@ -13,7 +13,7 @@ struct Row {
   const char* parent;  // "" on the bar
 };
 
-constexpr char kSpace[] = "    ";
+constexpr char kSpace[] = " ";
 
 constexpr Row kShell[] = {
     {"ProjectS", "P&rojects", ""},
@@ -60,11 +60,11 @@ constexpr Row kPlan[] = {
     {"Save", "&Save", ""},
     {"Printit", "&Print", ""},
     {"Spacer2", kSpace, ""},
-    {"Spacer3", " ", ""},
+    {"Spacer3", kSpace, ""},
     {"Documentation", "D&ocumentation", ""},
     {"Settings1", "&Settings", ""},
     {"Exit", "E&xit", ""},
-    {"ScheduleMenu", "Sche&dule", ""},
+    {"ScheduleMenu", "Sche&d.", ""},
     {"ReadSchedule", "&Read Schedule", "ScheduleMenu"},
     {"DrawScheduleBox", "Draw a &Box", "ScheduleMenu"},
     {"AddToSchedule", "&Add to Schedule", "ScheduleMenu"},

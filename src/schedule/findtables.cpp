@@ -26,10 +26,6 @@ double Area(const PageBox& box) {
   return box.Empty() ? 0 : box.Width() * box.Height();
 }
 
-PageBox Grown(const PageBox& box, double by) {
-  return {box.left - by, box.top - by, box.right + by, box.bottom + by};
-}
-
 int ColumnsWithHeads(const Found& found) {
   int columns = 0;
   for (const ScheduleTable& table : found.tables) {

@@ -188,7 +188,14 @@ void SettleNumber(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& ro
   }
 }
 
-// Walls beside walls of one side, and one head over two columns, are no more than likely.
+// MAT and FIN under one head.
+bool ArePartsOfOne(const HeadTexts& a, const HeadTexts& b) {
+  const unsigned parts = kMaterialWord | kHeightWord | kColourWord | kDescriptionWord;
+  return !a.isEmpty() && !b.isEmpty() && a.last() != b.last() &&
+         ((MeaningOfText(a.last()) | MeaningOfText(b.last())) & parts) != 0;
+}
+
+// Walls beside walls of one side, and two columns that mean the same, are no more than likely.
 void DoubtTwins(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& roles) {
   const bool sides = Has(roles, ColumnRole::North) || Has(roles, ColumnRole::East) ||
                      Has(roles, ColumnRole::South) || Has(roles, ColumnRole::West);
@@ -196,7 +203,7 @@ void DoubtTwins(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& role
     if (roles[i].role == ColumnRole::Walls && sides) roles[i].guessed = true;
     for (size_t k = 0; k < roles.size(); ++k) {
       if (k == i || roles[i].role == ColumnRole::Other || roles[k].role != roles[i].role) continue;
-      if (heads[k].join(u' ') == heads[i].join(u' ')) roles[i].guessed = true;
+      if (!ArePartsOfOne(heads[i], heads[k])) roles[i].guessed = true;
     }
   }
 }

@@ -106,6 +106,7 @@ bool ScheduleForm::TakeFromPlan() {
     parts_.push_back(std::move(table));
     pages_.push_back(viewer.Page());
   }
+  if (!box.has_value()) FrameOnPlan(parts_.back().box, pages_.back());
   return true;
 }
 

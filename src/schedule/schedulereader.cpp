@@ -37,12 +37,18 @@ std::vector<Way> WaysOf(const SheetDrawing& drawing) {
   return ways;
 }
 
+// Whether a box lies over one of the tables: its turned heads seen from the side.
+bool Overlaps(const std::vector<ScheduleTable>& tables, const PageBox& box) {
+  return std::any_of(tables.begin(), tables.end(),
+                     [&box](const ScheduleTable& table) { return !table.box.Cut(box).Empty(); });
+}
+
 std::vector<ScheduleTable> TablesOfAllWays(const SheetDrawing& drawing) {
   std::vector<ScheduleTable> tables;
   for (const Way way : WaysOf(drawing)) {
     for (ScheduleTable& table : TablesIn(Turned(drawing, way))) {
       Back(table, way, drawing.size);
-      tables.push_back(std::move(table));
+      if (!Overlaps(tables, table.box)) tables.push_back(std::move(table));
     }
   }
   return tables;
@@ -62,8 +68,25 @@ std::vector<ScheduleTable> WholeBox(const SheetDrawing& drawing, const PageBox& 
   return tables;
 }
 
-PageBox Grown(const PageBox& box, double by) {
-  return {box.left - by, box.top - by, box.right + by, box.bottom + by};
+size_t HeadedColumns(const std::vector<ScheduleTable>& tables) {
+  size_t columns = 0;
+  for (const ScheduleTable& table : tables) {
+    for (const ScheduleColumn& column : table.columns) columns += column.head.isEmpty() ? 0 : 1;
+  }
+  return columns;
+}
+
+// The tables in a drawn box; the whole box as one where that has more columns.
+std::vector<ScheduleTable> TablesInBox(const SheetDrawing& drawing, const PageBox& box,
+                                       const ScheduleTable* before) {
+  std::vector<ScheduleTable> tables = TablesOfAllWays(drawing);
+  if (tables.size() > 1) return tables;
+  std::vector<ScheduleTable> whole = WholeBox(drawing, box, before);
+  if (tables.empty()) return whole;
+  const bool better = whole.size() == 1 && whole[0].kind == tables[0].kind &&
+                      whole[0].rows.size() >= tables[0].rows.size() &&
+                      HeadedColumns(whole) > HeadedColumns(tables);
+  return better ? whole : tables;
 }
 
 bool SameHeads(const ScheduleTable& a, const ScheduleTable& b) {
@@ -102,8 +125,8 @@ ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBo
   const SheetDrawing sheet =
       box.has_value() ? DrawingOf(Near(page, Grown(area, kAround))) : DrawingOf(page);
   const SheetDrawing drawing = box.has_value() ? Inside(sheet, Grown(area, kEdge)) : sheet;
-  std::vector<ScheduleTable> tables = TablesOfAllWays(drawing);
-  if (tables.empty() && box.has_value()) tables = WholeBox(drawing, area, before);
+  std::vector<ScheduleTable> tables =
+      box.has_value() ? TablesInBox(drawing, area, before) : TablesOfAllWays(drawing);
   const QString wrong = WhyNoSchedule(tables, box.has_value());
   if (!wrong.isEmpty()) return Refused(wrong);
   KeepFinishes(tables);

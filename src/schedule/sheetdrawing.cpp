@@ -66,6 +66,10 @@ bool InDelta(const Word& word, const std::vector<PageBox>& deltas) {
 
 }  // namespace
 
+PageBox Grown(const PageBox& box, double by) {
+  return {box.left - by, box.top - by, box.right + by, box.bottom + by};
+}
+
 bool Holds(const PageBox& box, double x, double y) {
   return x >= box.left && x <= box.right && y >= box.top && y <= box.bottom;
 }

@@ -29,6 +29,7 @@ PageBox TurnedBox(const PageBox& box, Way way, PageSize size);
 // The part of the sheet inside a box: words whose middle is inside, rules cut to it.
 SheetDrawing Inside(const SheetDrawing& drawing, const PageBox& box);
 
+PageBox Grown(const PageBox& box, double by);
 bool Holds(const PageBox& box, double x, double y);
 
 }  // namespace tamo

@@ -14,7 +14,8 @@
 namespace tamo {
 namespace {
 
-constexpr double kCrosses = 0.7;    // of the width: a rule that ends a row
+constexpr double kCrosses = 0.7;  // of the width: a rule that ends a row
+constexpr size_t kFewRows = 4;
 constexpr double kSamePart = 0.03;  // of the width: columns of two parts that are the same
 constexpr double kWhole = 0.97;     // of the width: a rule from side to side
 
@@ -114,7 +115,26 @@ class TableReader {
     table.kind = KindOf(heads, table.title, table.confidence);
     table.box = {columns_.Left(first), heads_.top, columns_.Right(last), frame_.bottom};
     TakeRows(table, first, last);
+    if (table.kind == TableKind::Finish && IsMatrix(table)) table.kind = TableKind::Matrix;
     return table;
+  }
+
+  // Marks under the finishes instead of their codes.
+  static bool IsMatrix(const ScheduleTable& table) {
+    static const QString marks =
+        QStringLiteral("\u2022\u25cf\u25cb\u25a0\u25a1\u2713\u2714\u00b7*XxoO");
+    int filled = 0;
+    int marked = 0;
+    for (size_t i = 0; i < table.columns.size(); ++i) {
+      const ColumnRole role = table.columns[i].role;
+      if (role < ColumnRole::Floor || role > ColumnRole::Ceiling) continue;
+      for (const ScheduleRow& row : table.rows) {
+        const QString& text = row.cells[i].text;
+        filled += text.isEmpty() ? 0 : 1;
+        marked += text.size() == 1 && marks.contains(text) ? 1 : 0;
+      }
+    }
+    return marked * 2 > filled || (filled == 0 && table.rows.size() >= kFewRows);
   }
 
   // The column whose texts begin the rows: the numbers, else the first with text in most rows.

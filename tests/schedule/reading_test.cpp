@@ -137,6 +137,27 @@ TEST(Reading, AFurtherPartNeedsNoHeads) {
   EXPECT_EQ(rows[1].Text().toStdString(), "103\tMEN\tCT-1\tCT-2\tP-2\tP-2\tP-2\tP-2\tACT-2\t");
 }
 
+TEST(Reading, MarksUnderTheFinishesAreRefused) {
+  SheetMaker sheet;
+  sheet.Table(50, 50,
+              {{"NO.", "NAME", "FLOOR", "BASE", "WALLS", "CEILING"},
+               {"101", "LOBBY", "X", "", "X", "X"},
+               {"102", "HALL", "", "X", "X", ""}});
+  const ScheduleReading reading = ReadSchedule(sheet.Page(), std::nullopt);
+  EXPECT_TRUE(reading.parts.empty());
+  EXPECT_TRUE(reading.problem.contains("marks")) << reading.problem.toStdString();
+}
+
+TEST(Reading, TwoColumnsThatMeanTheSameAreNeverSure) {
+  SheetMaker sheet;
+  sheet.Table(50, 50,
+              {{"NO.", "NAME", "FLOOR", "FLOOR", "WALLS", "CEILING"},
+               {"101", "LOBBY", "1", "CPT-1", "P-1", "ACT-1"}});
+  const auto rows = RowsOfPage(sheet.Page());
+  ASSERT_EQ(rows.size(), 1u);
+  EXPECT_FALSE(rows[0].doubts[2].empty());
+}
+
 TEST(Reading, LettersOfAnotherScriptAreSaid) {
   SheetMaker sheet;
   sheet.Text(100, 100, QString(QChar(0x05d0)).repeated(20));
