@@ -78,9 +78,7 @@ FormBench::FormBench(BenchProject& bench)
     : project(bench),
       platform{bench.disk, clock, messages, printer, clipboard, {}, {}, {}},
       kit{desk, bench.files, shared, platform},
-      form(kit, {markups, record, shell, bottomLine, setting}) {
-  markups.project = &bench;
-  shell.reports = &form;
+      form(kit, {pricing, record, windows, settings, plan}) {
   shared.Separator = PlatformSeparator();
   shared.DataPath = bench.dataPath;
   shared.JobID = FileNameOf(bench.folder.chopped(1));
