@@ -25,6 +25,9 @@ LetterCounts LettersIn(const PageContent& page, const PageBox& box) {
 
 bool PictureOver(const PageContent& page, const PageBox& box) {
   return std::any_of(page.pictures.begin(), page.pictures.end(), [&box](const PicturePiece& one) {
+    const bool picture =
+        one.kind == PicturePiece::Kind::Picture || one.kind == PicturePiece::Kind::Stencil;
+    if (!picture) return false;
     const PageBox shared = one.box.Cut(box);
     return !shared.Empty() && shared.Width() * shared.Height() > 0.3 * box.Width() * box.Height();
   });
