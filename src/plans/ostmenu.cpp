@@ -13,7 +13,7 @@ struct Row {
   const char* parent;  // "" on the bar
 };
 
-constexpr char kSpace[] = "    ";
+constexpr char kSpace[] = " ";
 
 constexpr Row kShell[] = {
     {"ProjectS", "P&rojects", ""},
@@ -64,7 +64,7 @@ constexpr Row kPlan[] = {
     {"Documentation", "D&ocumentation", ""},
     {"Settings1", "&Settings", ""},
     {"Exit", "E&xit", ""},
-    {"ScheduleMenu", "Sche&dule", ""},
+    {"ScheduleMenu", "Sche&d.", ""},
     {"ReadSchedule", "&Read Schedule", "ScheduleMenu"},
     {"DrawScheduleBox", "Draw a &Box", "ScheduleMenu"},
     {"AddToSchedule", "&Add to Schedule", "ScheduleMenu"},

@@ -67,12 +67,12 @@ void ScheduleForm::BindMenus() {
 
 void ScheduleForm::Read() {
   std::vector<ScheduleTable> before = std::move(parts_);
+  std::vector<int> pagesBefore = std::move(pages_);
   parts_.clear();
-  if (!TakeFromPlan()) {
-    parts_ = std::move(before);
-    return;
-  }
-  ShowAll();
+  pages_.clear();
+  if (TakeFromPlan()) return ShowAll();
+  parts_ = std::move(before);
+  pages_ = std::move(pagesBefore);
 }
 
 void ScheduleForm::AddPart() {
@@ -90,18 +90,23 @@ bool ScheduleForm::TakeFromPlan() {
   const std::optional<DrawnBox>& drawn = viewer.Box();
   if (drawn.has_value() && drawn->page == viewer.Page()) {
     box = PageBox{drawn->topLeft.x, drawn->topLeft.y, drawn->bottomRight.x, drawn->bottomRight.y};
+    if (box->left == framed_.left && box->top == framed_.top) box.reset();  // only shows a row
   }
   const PageContent page = ReadPageContent(kit_.files.GetDisk(), viewer.ShownPath(), viewer.Page());
   if (page.error != 0) {
     kit_.desk.GetMessages().Tell(QStringLiteral("The sheet can't be read: %1.").arg(page.problem));
     return false;
   }
-  ScheduleReading reading = ReadSchedule(page, box);
+  ScheduleReading reading = ReadSchedule(page, box, parts_.empty() ? nullptr : &parts_.back());
   if (!reading.problem.isEmpty()) {
     kit_.desk.GetMessages().Tell(reading.problem);
     return false;
   }
-  for (ScheduleTable& table : reading.parts) parts_.push_back(std::move(table));
+  for (ScheduleTable& table : reading.parts) {
+    parts_.push_back(std::move(table));
+    pages_.push_back(viewer.Page());
+  }
+  if (!box.has_value()) FrameOnPlan(parts_.back().box, pages_.back());
   return true;
 }
 
@@ -149,15 +154,30 @@ void ScheduleForm::ShowUnsure() {
   Unsure.SetRows(places);
 }
 
+// The place of a row on the drawing, in the box's colour.
+void ScheduleForm::FrameOnPlan(const PageBox& box, int page) {
+  PdfDraw& viewer = ost_.Viewer();
+  if (box.Empty() || viewer.ShownPath().isEmpty()) return;
+  if (viewer.Page() != page) viewer.SetPage(page);
+  framed_ = {box.left - 2, box.top - 2, box.right + 2, box.bottom + 2};
+  viewer.DrawBox({framed_.left, framed_.top}, {framed_.right, framed_.bottom});
+}
+
 void ScheduleForm::ShowCells() {
   QStringList cells;
   if (Rows.Index() >= 0) {
     const FinishRow& row = rows_[size_t(Rows.Index())];
+    const ScheduleTable& part = parts_[size_t(row.part)];
+    PageBox place = NoBox();
+    for (const ScheduleCell& cell : part.rows[size_t(row.row)].cells) {
+      if (cell.text.isEmpty()) continue;
+      place.Take({cell.box.left, cell.box.top});
+      place.Take({cell.box.right, cell.box.bottom});
+    }
+    FrameOnPlan(place, pages_[size_t(row.part)]);
     for (size_t i = 0; i < row.cells.size(); ++i) {
-      cells.append(QStringLiteral("%1%2 %3")
-                       .arg(row.doubts[i].empty() ? u' ' : u'?')
-                       .arg(QLatin1String(kCellNames[i]), -8)
-                       .arg(row.cells[i]));
+      const QString mark = row.doubts[i].empty() ? QString() : QStringLiteral("? ");
+      cells.append(mark + QLatin1String(kCellNames[i]) + u'\t' + row.cells[i]);
     }
   }
   Cells.SetRows(cells);

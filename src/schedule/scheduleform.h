@@ -58,10 +58,13 @@ class ScheduleForm : public Form {
   void WriteRooms();
   void TakeRoomsBack();
   bool MayWrite();
+  void FrameOnPlan(const PageBox& box, int page);
 
   const Kit kit_;
   OSTForm& ost_;
   std::vector<ScheduleTable> parts_;
+  std::vector<int> pages_;  // on which page each part stands
+  PageBox framed_;          // what is framed on the plan of the selected row
   std::vector<FinishRow> rows_;
   FinishKey key_;
   MadeRooms made_;
