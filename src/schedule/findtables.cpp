@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kFewestHeads = 3;
 constexpr double kHeadsAbove = 70;   // points over the first rule in which heads may stand
+constexpr double kKeyWidth = 60;     // points from a table's edge in which its numbers begin
 constexpr double kTitleAbove = 40;   // points over a table in which its title stands
 constexpr double kThrough = 0.45;    // of a frame: a rule that goes through it
 constexpr double kMuchLarger = 2.5;  // times the area: what holds a table and more than it
@@ -24,10 +25,6 @@ struct Found {
 
 double Area(const PageBox& box) {
   return box.Empty() ? 0 : box.Width() * box.Height();
-}
-
-PageBox Grown(const PageBox& box, double by) {
-  return {box.left - by, box.top - by, box.right + by, box.bottom + by};
 }
 
 int ColumnsWithHeads(const Found& found) {
@@ -66,18 +63,25 @@ class Search {
     PageBox held = frame;
     held.top -= kHeadsAbove;
     if (HeadWordsIn(held) < kFewestHeads) return;
-    Found found = Read(frame);
+    Found found = Read(ruled ? WithRowsBelow(frame) : frame);
     if (found.tables.empty()) found = Read(WithHeadsAbove(frame));
-    if (found.tables.empty() || (ruled && !Divided(found))) return;
+    if (found.tables.empty() || !Headed(found) || (ruled && !Divided(found))) return;
     Take(std::move(found));
   }
 
-  // A frame whose rows or columns are ruled inside, and with heads over nearly all columns; else it
-  // is one around a drawing.
-  bool Divided(const Found& found) const {
+  // Heads stand over nearly all columns; else words of a drawing were taken for heads.
+  static bool Headed(const Found& found) {
     size_t columns = 0;
-    for (const ScheduleTable& table : found.tables) columns += table.columns.size();
-    if (size_t(ColumnsWithHeads(found)) * 4 < columns * 3) return false;
+    size_t guessed = 0;
+    for (const ScheduleTable& table : found.tables) {
+      columns += table.columns.size();
+      for (const ScheduleColumn& column : table.columns) guessed += column.guessed ? 1 : 0;
+    }
+    return size_t(ColumnsWithHeads(found)) * 4 >= columns * 3 && guessed * 2 <= columns;
+  }
+
+  // A frame whose rows or columns are ruled inside; else it is one around a drawing.
+  bool Divided(const Found& found) const {
     const SheetDrawing inside = Inside(drawing_, found.frame);
     const PageBox& frame = found.frame;
     const auto rules = [&](bool along, double from, double to) {
@@ -88,6 +92,29 @@ class Search {
     };
     return rules(true, frame.left, frame.right) > 2 + found.tables.front().rows.size() / 8 ||
            rules(false, frame.top, frame.bottom) > 4;
+  }
+
+  // Rows without a rule below them: lines that begin with a number, close below the last rule.
+  PageBox WithRowsBelow(PageBox frame) const {
+    for (bool more = true; more;) {
+      more = false;
+      for (const Word& word : drawing_.words) {
+        const double below = word.base - frame.bottom;
+        if (word.way != Way::Right || below <= 0.5 * word.size || below > 2.2 * word.size) continue;
+        if (word.MidX() < frame.left || word.box.left > frame.left + kKeyWidth) continue;
+        if (!LooksLikeNumber(word.text) || WordsBeside(word, frame) < 3) continue;
+        frame.bottom = word.base + 0.4 * word.size;
+        more = true;
+        break;
+      }
+    }
+    return frame;
+  }
+  int WordsBeside(const Word& word, const PageBox& frame) const {
+    return int(std::count_if(drawing_.words.begin(), drawing_.words.end(), [&](const Word& other) {
+      return other.way == Way::Right && std::abs(other.base - word.base) < 0.3 * word.size &&
+             other.box.left > word.box.right + word.size && other.MidX() < frame.right;
+    }));
   }
 
   // Heads without a rule over them: the lines next over the first rule.

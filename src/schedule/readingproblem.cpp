@@ -6,32 +6,28 @@
 namespace tamo {
 namespace {
 
-constexpr double kBeyond = 12;  // points that a table's rules go on outside of a box
+constexpr qsizetype kMostLetters = 200000;  // a schedule of 1,000 rooms has half of them
+constexpr double kBeyond = 12;              // points that a table's rules go on outside of a box
 
 QString Where(bool boxed) {
   return boxed ? QStringLiteral("the box") : QStringLiteral("this sheet");
 }
 
-struct Letters {
-  qsizetype seen = 0;
-  qsizetype hidden = 0;
-  qsizetype foreign = 0;
-  qsizetype downwards = 0;
-};
-
-Letters CountLetters(const PageContent& page, const PageBox& box) {
+LetterCounts LettersIn(const PageContent& page, const PageBox& box) {
   std::vector<TextPiece> own;
   std::copy_if(page.texts.begin(), page.texts.end(), std::back_inserter(own),
                [&box](const TextPiece& piece) {
                  return Holds(box, (piece.box.left + piece.box.right) / 2,
                               (piece.box.top + piece.box.bottom) / 2);
                });
-  const SheetWords words = WordsOf(own);
-  return {words.letters, words.hidden, words.foreign, words.downwards};
+  return CountLetters(own);
 }
 
 bool PictureOver(const PageContent& page, const PageBox& box) {
   return std::any_of(page.pictures.begin(), page.pictures.end(), [&box](const PicturePiece& one) {
+    const bool picture =
+        one.kind == PicturePiece::Kind::Picture || one.kind == PicturePiece::Kind::Stencil;
+    if (!picture) return false;
     const PageBox shared = one.box.Cut(box);
     return !shared.Empty() && shared.Width() * shared.Height() > 0.3 * box.Width() * box.Height();
   });
@@ -95,9 +91,10 @@ bool GoesOn(const SheetDrawing& sheet, const PageBox& box, const PageBox& table)
 }
 
 // Texts of a table that a side of the box goes through.
-bool CutsText(const SheetDrawing& sheet, const PageBox& box) {
-  return std::count_if(sheet.words.begin(), sheet.words.end(), [&box](const Word& word) {
-           if (word.box.Cut(box).Empty()) return false;
+bool CutsText(const SheetDrawing& sheet, const PageBox& box, const PageBox& table) {
+  return std::count_if(sheet.words.begin(), sheet.words.end(), [&](const Word& word) {
+           const PageBox inside = word.box.Cut(box);
+           if (inside.Empty() || inside.Cut(table).Empty()) return false;
            const double outside = std::max({box.left - word.box.left, word.box.right - box.right,
                                             box.top - word.box.top, word.box.bottom - box.bottom});
            return outside > 0.4 * word.size;
@@ -107,31 +104,30 @@ bool CutsText(const SheetDrawing& sheet, const PageBox& box) {
 }  // namespace
 
 QString WhyUnreadable(const PageContent& page, const PageBox& box, bool boxed) {
-  const Letters letters = CountLetters(page, box);
-  if (letters.hidden > 2 * letters.seen) {
+  const LetterCounts letters = LettersIn(page, box);
+  if (letters.hidden > 2 * letters.letters) {
     return QStringLiteral(
                "The text in %1 is hidden behind a scanned picture, as a scanner's "
                "program guessed it, and can't be trusted. Type the schedule, or ask for "
                "the drawing as the architect's program wrote it.")
         .arg(Where(boxed));
   }
-  if (letters.seen == 0) return NoText(page, box, boxed);
-  if (letters.foreign * 3 > letters.seen) {
+  if (letters.letters == 0) return NoText(page, box, boxed);
+  if (letters.letters > kMostLetters) {
+    return QStringLiteral(
+               "There is too much text in %1 for a schedule. Draw a box around the table "
+               "only.")
+        .arg(Where(boxed));
+  }
+  if (letters.foreign * 3 > letters.letters) {
     return QStringLiteral("The text in %1 is written from right to left, which can't be read.")
         .arg(Where(boxed));
   }
-  if (letters.downwards * 3 > letters.seen) {
+  if (letters.downwards * 3 > letters.letters) {
     return QStringLiteral("The text in %1 is written downwards, which can't be read.")
         .arg(Where(boxed));
   }
   return {};
-}
-
-QString TooMuchText(bool boxed) {
-  return QStringLiteral(
-             "There is too much text in %1 for a schedule. Draw a box around the table "
-             "only.")
-      .arg(Where(boxed));
 }
 
 QString WhyNoSchedule(const std::vector<ScheduleTable>& tables, bool boxed) {
@@ -174,9 +170,9 @@ QString TwoTables(const ScheduleTable& other) {
 QString WhyCut(const SheetDrawing& sheet, const PageBox& box,
                const std::vector<ScheduleTable>& tables) {
   const bool cut = std::any_of(tables.begin(), tables.end(), [&](const ScheduleTable& table) {
-    return GoesOn(sheet, box, table.box);
+    return GoesOn(sheet, box, table.box) || CutsText(sheet, box, table.box);
   });
-  if (!cut && !CutsText(sheet, box)) return {};
+  if (!cut) return {};
   return QStringLiteral(
       "The box cuts through the table. Draw it around the whole table, with its "
       "heads.");
