@@ -265,18 +265,21 @@ QString PricingGame::BrokenPrice(bool saved) {
 }
 
 // Whoever types a conversion number reads what will be stored with it. The takeoff unit and the
-// price set their prompts also over a number that came with a direction: the direction holds.
+// price set their prompts also over a number that came with a direction: the direction holds. With
+// no direction a prompt that begins with "How many" is stored as takeoff units, also one for order
+// units (of a system that is named as the unit, of a material that was deleted).
 QString PricingGame::BrokenPrompt() const {
   const MaterialBlock stored = form.inWork.ToStore();
   const QString units = form.Units.Text();
   const QString upo = form.LabelUPO.Caption();
   const QString mnhr = form.LabelMnhr.Caption();
   const Directions& held = form.inWork.directions;
-  const bool ofUnits = upo.startsWith(units + S(" per ")) || upo.startsWith(S("How many per "));
+  const bool ofUnits = upo.startsWith(units + S(" per ")) ||
+                       (upo.startsWith(S("How many per ")) && !upo.endsWith(QLatin1Char(':')));
   const bool ofPrice =
       upo == S("How many per ") + units + ':' && !form.inWork.fields.Typed(MaterialFields::kUpo);
   if (desk_.Focused() == &form.UPO && RatioAsked(upo, units) != stored.upoTag &&
-      !(!held.Ratio().isEmpty() && (ofUnits || ofPrice)))
+      !(held.Ratio().isEmpty() ? upo.contains(S("(s) per ")) : ofUnits || ofPrice))
     return S("prompt: \"%1\" and %2").arg(upo, stored.upoTag);
   if (desk_.Focused() == &form.MnhrPO && LaborAsked(mnhr) != stored.mnhrTag &&
       !(!held.Labor().isEmpty() && mnhr.endsWith(S(" per Manhour:"))))
