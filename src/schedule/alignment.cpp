@@ -96,6 +96,20 @@ void KeepLowest(double size, Column& column) {
               heads.end());
 }
 
+// The nearest heads to the left and to the right are lower: they are parts of what it names.
+bool BetweenLower(const Span& head, const std::vector<Span>& heads, double size) {
+  const Span* left = nullptr;
+  const Span* right = nullptr;
+  for (const Span& other : heads) {
+    if (other.to < head.from && (left == nullptr || other.to > left->to)) left = &other;
+    if (other.from > head.to && (right == nullptr || other.from < right->from)) right = &other;
+  }
+  const auto lower = [&](const Span* other) {
+    return other != nullptr && other->base > head.base + 0.4 * size;
+  };
+  return lower(left) && lower(right);
+}
+
 // Gives each head to the column that it stands over; a head over no text makes a column, unless it
 // stands close beside one without a head.
 void GiveHeads(const std::vector<Span>& heads, double size, std::vector<Column>& columns) {
@@ -110,6 +124,7 @@ void GiveHeads(const std::vector<Span>& heads, double size, std::vector<Column>&
   }
   for (Column& column : columns) KeepLowest(size, column);
   for (const Span& head : over) {
+    if (BetweenLower(head, heads, size)) continue;
     const int near = BestColumn(head, -1.5 * size, columns);
     if (near >= 0 && columns[size_t(near)].heads.empty()) {
       columns[size_t(near)].heads.push_back(head);

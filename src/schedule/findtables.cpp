@@ -26,10 +26,6 @@ double Area(const PageBox& box) {
   return box.Empty() ? 0 : box.Width() * box.Height();
 }
 
-PageBox Grown(const PageBox& box, double by) {
-  return {box.left - by, box.top - by, box.right + by, box.bottom + by};
-}
-
 int ColumnsWithHeads(const Found& found) {
   int columns = 0;
   for (const ScheduleTable& table : found.tables) {
@@ -68,16 +64,23 @@ class Search {
     if (HeadWordsIn(held) < kFewestHeads) return;
     Found found = Read(frame);
     if (found.tables.empty()) found = Read(WithHeadsAbove(frame));
-    if (found.tables.empty() || (ruled && !Divided(found))) return;
+    if (found.tables.empty() || !Headed(found) || (ruled && !Divided(found))) return;
     Take(std::move(found));
   }
 
-  // A frame whose rows or columns are ruled inside, and with heads over nearly all columns; else it
-  // is one around a drawing.
-  bool Divided(const Found& found) const {
+  // Heads stand over nearly all columns; else words of a drawing were taken for heads.
+  static bool Headed(const Found& found) {
     size_t columns = 0;
-    for (const ScheduleTable& table : found.tables) columns += table.columns.size();
-    if (size_t(ColumnsWithHeads(found)) * 4 < columns * 3) return false;
+    size_t guessed = 0;
+    for (const ScheduleTable& table : found.tables) {
+      columns += table.columns.size();
+      for (const ScheduleColumn& column : table.columns) guessed += column.guessed ? 1 : 0;
+    }
+    return size_t(ColumnsWithHeads(found)) * 4 >= columns * 3 && guessed * 2 <= columns;
+  }
+
+  // A frame whose rows or columns are ruled inside; else it is one around a drawing.
+  bool Divided(const Found& found) const {
     const SheetDrawing inside = Inside(drawing_, found.frame);
     const PageBox& frame = found.frame;
     const auto rules = [&](bool along, double from, double to) {

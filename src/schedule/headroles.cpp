@@ -188,6 +188,26 @@ void SettleNumber(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& ro
   }
 }
 
+// MAT and FIN under one head.
+bool ArePartsOfOne(const HeadTexts& a, const HeadTexts& b) {
+  const unsigned parts = kMaterialWord | kHeightWord | kColourWord | kDescriptionWord;
+  return !a.isEmpty() && !b.isEmpty() && a.last() != b.last() &&
+         ((MeaningOfText(a.last()) | MeaningOfText(b.last())) & parts) != 0;
+}
+
+// Walls beside walls of one side, and two columns that mean the same, are no more than likely.
+void DoubtTwins(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& roles) {
+  const bool sides = Has(roles, ColumnRole::North) || Has(roles, ColumnRole::East) ||
+                     Has(roles, ColumnRole::South) || Has(roles, ColumnRole::West);
+  for (size_t i = 0; i < roles.size(); ++i) {
+    if (roles[i].role == ColumnRole::Walls && sides) roles[i].guessed = true;
+    for (size_t k = 0; k < roles.size(); ++k) {
+      if (k == i || roles[i].role == ColumnRole::Other || roles[k].role != roles[i].role) continue;
+      if (!ArePartsOfOne(heads[i], heads[k])) roles[i].guessed = true;
+    }
+  }
+}
+
 int Columns(const std::vector<HeadTexts>& heads, unsigned meaning) {
   return int(std::count_if(heads.begin(), heads.end(), [meaning](const HeadTexts& texts) {
     return (MeaningOfText(texts.join(u' ')) & meaning) != 0;
@@ -204,6 +224,7 @@ std::vector<HeadRole> RolesOf(const std::vector<HeadTexts>& heads) {
   for (const HeadTexts& texts : heads) roles.push_back(HeadReader(texts, company).Read());
   SettleRooms(heads, roles);
   SettleNumber(heads, roles);
+  DoubtTwins(heads, roles);
   return roles;
 }
 

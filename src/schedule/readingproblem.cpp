@@ -6,28 +6,21 @@
 namespace tamo {
 namespace {
 
-constexpr double kBeyond = 12;  // points that a table's rules go on outside of a box
+constexpr qsizetype kMostLetters = 200000;  // a schedule of 1,000 rooms has half of them
+constexpr double kBeyond = 12;              // points that a table's rules go on outside of a box
 
 QString Where(bool boxed) {
   return boxed ? QStringLiteral("the box") : QStringLiteral("this sheet");
 }
 
-struct Letters {
-  qsizetype seen = 0;
-  qsizetype hidden = 0;
-  qsizetype foreign = 0;
-  qsizetype downwards = 0;
-};
-
-Letters CountLetters(const PageContent& page, const PageBox& box) {
+LetterCounts LettersIn(const PageContent& page, const PageBox& box) {
   std::vector<TextPiece> own;
   std::copy_if(page.texts.begin(), page.texts.end(), std::back_inserter(own),
                [&box](const TextPiece& piece) {
                  return Holds(box, (piece.box.left + piece.box.right) / 2,
                               (piece.box.top + piece.box.bottom) / 2);
                });
-  const SheetWords words = WordsOf(own);
-  return {words.letters, words.hidden, words.foreign, words.downwards};
+  return CountLetters(own);
 }
 
 bool PictureOver(const PageContent& page, const PageBox& box) {
@@ -107,31 +100,30 @@ bool CutsText(const SheetDrawing& sheet, const PageBox& box) {
 }  // namespace
 
 QString WhyUnreadable(const PageContent& page, const PageBox& box, bool boxed) {
-  const Letters letters = CountLetters(page, box);
-  if (letters.hidden > 2 * letters.seen) {
+  const LetterCounts letters = LettersIn(page, box);
+  if (letters.hidden > 2 * letters.letters) {
     return QStringLiteral(
                "The text in %1 is hidden behind a scanned picture, as a scanner's "
                "program guessed it, and can't be trusted. Type the schedule, or ask for "
                "the drawing as the architect's program wrote it.")
         .arg(Where(boxed));
   }
-  if (letters.seen == 0) return NoText(page, box, boxed);
-  if (letters.foreign * 3 > letters.seen) {
+  if (letters.letters == 0) return NoText(page, box, boxed);
+  if (letters.letters > kMostLetters) {
+    return QStringLiteral(
+               "There is too much text in %1 for a schedule. Draw a box around the table "
+               "only.")
+        .arg(Where(boxed));
+  }
+  if (letters.foreign * 3 > letters.letters) {
     return QStringLiteral("The text in %1 is written from right to left, which can't be read.")
         .arg(Where(boxed));
   }
-  if (letters.downwards * 3 > letters.seen) {
+  if (letters.downwards * 3 > letters.letters) {
     return QStringLiteral("The text in %1 is written downwards, which can't be read.")
         .arg(Where(boxed));
   }
   return {};
-}
-
-QString TooMuchText(bool boxed) {
-  return QStringLiteral(
-             "There is too much text in %1 for a schedule. Draw a box around the table "
-             "only.")
-      .arg(Where(boxed));
 }
 
 QString WhyNoSchedule(const std::vector<ScheduleTable>& tables, bool boxed) {

@@ -12,8 +12,8 @@
 namespace tamo {
 namespace {
 
-constexpr double kEdge = 3;  // points around a drawn box that still belong to it
-constexpr size_t kMostWords = 40000;
+constexpr double kEdge = 3;     // points around a drawn box that still belong to it
+constexpr double kAround = 40;  // and those that are looked at, for what the box cuts through
 
 void Back(ScheduleTable& table, Way way, PageSize size) {
   if (way == Way::Right) return;
@@ -37,29 +37,56 @@ std::vector<Way> WaysOf(const SheetDrawing& drawing) {
   return ways;
 }
 
+// Whether a box lies over one of the tables: its turned heads seen from the side.
+bool Overlaps(const std::vector<ScheduleTable>& tables, const PageBox& box) {
+  return std::any_of(tables.begin(), tables.end(),
+                     [&box](const ScheduleTable& table) { return !table.box.Cut(box).Empty(); });
+}
+
 std::vector<ScheduleTable> TablesOfAllWays(const SheetDrawing& drawing) {
   std::vector<ScheduleTable> tables;
   for (const Way way : WaysOf(drawing)) {
     for (ScheduleTable& table : TablesIn(Turned(drawing, way))) {
       Back(table, way, drawing.size);
-      tables.push_back(std::move(table));
+      if (!Overlaps(tables, table.box)) tables.push_back(std::move(table));
     }
   }
   return tables;
 }
 
 // All that a drawn box holds as one table, for tables without ruling.
-std::vector<ScheduleTable> WholeBox(const SheetDrawing& drawing, const PageBox& box) {
+std::vector<ScheduleTable> WholeBox(const SheetDrawing& drawing, const PageBox& box,
+                                    const ScheduleTable* before) {
   const std::vector<Way> ways = WaysOf(drawing);
   const Way way = ways.empty() ? Way::Right : ways.front();
-  std::vector<ScheduleTable> tables =
-      ReadTables(Turned(drawing, way), TurnedBox(box, way, drawing.size));
+  const PageBox turned = TurnedBox(box, way, drawing.size);
+  std::vector<ScheduleTable> tables = ReadTables(Turned(drawing, way), turned);
+  if (tables.empty() && before != nullptr) {
+    tables = ReadFurtherPart(Turned(drawing, way), turned, *before);
+  }
   for (ScheduleTable& table : tables) Back(table, way, drawing.size);
   return tables;
 }
 
-PageBox Grown(const PageBox& box, double by) {
-  return {box.left - by, box.top - by, box.right + by, box.bottom + by};
+size_t HeadedColumns(const std::vector<ScheduleTable>& tables) {
+  size_t columns = 0;
+  for (const ScheduleTable& table : tables) {
+    for (const ScheduleColumn& column : table.columns) columns += column.head.isEmpty() ? 0 : 1;
+  }
+  return columns;
+}
+
+// The tables in a drawn box; the whole box as one where that has more columns.
+std::vector<ScheduleTable> TablesInBox(const SheetDrawing& drawing, const PageBox& box,
+                                       const ScheduleTable* before) {
+  std::vector<ScheduleTable> tables = TablesOfAllWays(drawing);
+  if (tables.size() > 1) return tables;
+  std::vector<ScheduleTable> whole = WholeBox(drawing, box, before);
+  if (tables.empty()) return whole;
+  const bool better = whole.size() == 1 && whole[0].kind == tables[0].kind &&
+                      whole[0].rows.size() >= tables[0].rows.size() &&
+                      HeadedColumns(whole) > HeadedColumns(tables);
+  return better ? whole : tables;
 }
 
 bool SameHeads(const ScheduleTable& a, const ScheduleTable& b) {
@@ -84,21 +111,22 @@ ScheduleReading Refused(const QString& why) {
 }  // namespace
 
 std::vector<ScheduleTable> FindTables(const PageContent& page) {
-  const SheetDrawing drawing = DrawingOf(page);
-  if (drawing.words.size() > kMostWords) return {};
-  return TablesOfAllWays(drawing);
+  const PageBox whole = {0, 0, page.size.width, page.size.height};
+  if (!WhyUnreadable(page, whole, false).isEmpty()) return {};
+  return TablesOfAllWays(DrawingOf(page));
 }
 
-ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBox>& box) {
+ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBox>& box,
+                             const ScheduleTable* before) {
   const PageBox whole = {0, 0, page.size.width, page.size.height};
   const PageBox area = box.has_value() ? *box : whole;
   const QString unreadable = WhyUnreadable(page, area, box.has_value());
   if (!unreadable.isEmpty()) return Refused(unreadable);
-  const SheetDrawing sheet = DrawingOf(page);
+  const SheetDrawing sheet =
+      box.has_value() ? DrawingOf(Near(page, Grown(area, kAround))) : DrawingOf(page);
   const SheetDrawing drawing = box.has_value() ? Inside(sheet, Grown(area, kEdge)) : sheet;
-  if (drawing.words.size() > kMostWords) return Refused(TooMuchText(box.has_value()));
-  std::vector<ScheduleTable> tables = TablesOfAllWays(drawing);
-  if (tables.empty() && box.has_value()) tables = WholeBox(drawing, area);
+  std::vector<ScheduleTable> tables =
+      box.has_value() ? TablesInBox(drawing, area, before) : TablesOfAllWays(drawing);
   const QString wrong = WhyNoSchedule(tables, box.has_value());
   if (!wrong.isEmpty()) return Refused(wrong);
   KeepFinishes(tables);

@@ -20,6 +20,8 @@ struct ScheduleReading {
 
 // Reads the room finish schedule inside a box (points on the page as displayed); without a box, the
 // one that stands on the page. Nothing is taken of a table that the box cuts through.
-ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBox>& box);
+// `before`: the part that a further one follows; then its heads need not be repeated.
+ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBox>& box,
+                             const ScheduleTable* before = nullptr);
 
 }  // namespace tamo

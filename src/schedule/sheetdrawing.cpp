@@ -66,6 +66,10 @@ bool InDelta(const Word& word, const std::vector<PageBox>& deltas) {
 
 }  // namespace
 
+PageBox Grown(const PageBox& box, double by) {
+  return {box.left - by, box.top - by, box.right + by, box.bottom + by};
+}
+
 bool Holds(const PageBox& box, double x, double y) {
   return x >= box.left && x <= box.right && y >= box.top && y <= box.bottom;
 }
@@ -74,11 +78,27 @@ SheetDrawing DrawingOf(const PageContent& content) {
   SheetDrawing drawing;
   drawing.size = content.size;
   drawing.rules = RulesOf(content.paths);
-  const SheetWords words = WordsOf(content.texts, drawing.rules);
+  const std::vector<Word> words = WordsOf(content.texts, drawing.rules);
   const std::vector<PageBox> deltas = DeltasOf(content.paths);
-  std::copy_if(words.words.begin(), words.words.end(), std::back_inserter(drawing.words),
+  std::copy_if(words.begin(), words.end(), std::back_inserter(drawing.words),
                [&deltas](const Word& word) { return !InDelta(word, deltas); });
   return drawing;
+}
+
+PageContent Near(const PageContent& content, const PageBox& box) {
+  const auto touches = [&box](const PageBox& one) {
+    return one.right >= box.left && one.left <= box.right && one.bottom >= box.top &&
+           one.top <= box.bottom;
+  };
+  PageContent part;
+  part.size = content.size;
+  std::copy_if(content.texts.begin(), content.texts.end(), std::back_inserter(part.texts),
+               [&touches](const TextPiece& piece) { return touches(piece.box); });
+  std::copy_if(content.paths.begin(), content.paths.end(), std::back_inserter(part.paths),
+               [&touches](const PathPiece& path) { return touches(path.box); });
+  std::copy_if(content.pictures.begin(), content.pictures.end(), std::back_inserter(part.pictures),
+               [&touches](const PicturePiece& picture) { return touches(picture.box); });
+  return part;
 }
 
 SheetDrawing Turned(const SheetDrawing& drawing, Way way) {

@@ -17,6 +17,9 @@ struct SheetDrawing {
 // The words and rules of a page; the numbers of revision deltas are left out of the words.
 SheetDrawing DrawingOf(const PageContent& content);
 
+// What of a page lies in a box or touches it.
+PageContent Near(const PageContent& content, const PageBox& box);
+
 // The sheet turned so that texts of `way` read to the right.
 SheetDrawing Turned(const SheetDrawing& drawing, Way way);
 // A place on the turned sheet back on the sheet of `size` as it lay before.
@@ -26,6 +29,7 @@ PageBox TurnedBox(const PageBox& box, Way way, PageSize size);
 // The part of the sheet inside a box: words whose middle is inside, rules cut to it.
 SheetDrawing Inside(const SheetDrawing& drawing, const PageBox& box);
 
+PageBox Grown(const PageBox& box, double by);
 bool Holds(const PageBox& box, double x, double y);
 
 }  // namespace tamo

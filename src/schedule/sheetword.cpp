@@ -12,6 +12,7 @@ namespace {
 constexpr double kWordGap = 0.16;   // of the size: from here on a gap is a blank
 constexpr double kOverlap = 0.35;   // of the size: how far two drawn parts of a word may overlap
 constexpr double kSpaced = 0.06;    // of the size: letters set wider than this are letter-spaced
+constexpr double kWidest = 0.75;    // of the size: the widest gap between spaced letters
 constexpr double kCapitals = 0.72;  // of the size: height of the capitals
 
 // Letters of one string without a blank between them.
@@ -113,7 +114,12 @@ class Joiner {
     for (auto& [row, members] : rows_) {
       std::sort(members.begin(), members.end(), [this](int a, int b) { return From(a) < From(b); });
     }
+    EstimateSpacing();
     for (size_t i = 0; i < parts.size(); ++i) FindNext(int(i));
+  }
+  double SpacingOf(int part) const {
+    const Part& one = parts_[size_t(part)];
+    return one.letters.size() > 1 ? one.spacing : spacing_ * one.Last().size;
   }
   int Next(int part) const { return next_[size_t(part)]; }
   bool Begins(int part) const { return before_[size_t(part)] < 0; }
@@ -124,12 +130,37 @@ class Joiner {
   static int Row(double base) { return static_cast<int>(std::floor(base / kRow)); }
   double From(int part) const { return parts_[size_t(part)].First().from; }
 
-  bool GoesOn(const Part& a, const Part& b) const {
+  // How far apart letters stand that are drawn one by one, in parts of their size.
+  void EstimateSpacing() {
+    std::vector<double> gaps;
+    for (const auto& [row, members] : rows_) {
+      for (size_t i = 0; i + 1 < members.size(); ++i) {
+        const Part& a = parts_[size_t(members[i])];
+        const Part& b = parts_[size_t(members[i + 1])];
+        if (a.letters.size() > 1 || b.letters.size() > 1) continue;
+        const double size = a.Last().size;
+        const double gap = (b.First().from - a.Last().to) / size;
+        const bool level = std::abs(a.Last().base - b.First().base) <= 0.2 * size;
+        if (level && gap > -kOverlap && gap < kWidest) gaps.push_back(gap);
+      }
+    }
+    const auto singles = std::count_if(parts_.begin(), parts_.end(),
+                                       [](const Part& part) { return part.letters.size() == 1; });
+    if (gaps.size() < 12 || size_t(singles) * 10 < parts_.size() * 8) return;
+    const auto middle = gaps.begin() + std::ptrdiff_t(gaps.size() / 2);
+    std::nth_element(gaps.begin(), middle, gaps.end());
+    if (*middle > kSpaced) spacing_ = *middle;
+  }
+
+  bool GoesOn(int first, int second) const {
+    const Part& a = parts_[size_t(first)];
+    const Part& b = parts_[size_t(second)];
+    const double spacing = std::max(SpacingOf(first), SpacingOf(second));
     const double size = std::max(a.Last().size, b.First().size);
     const double smaller = std::min(a.Last().size, b.First().size);
     const double gap = b.First().from - a.Last().to;
     return smaller >= 0.5 * size && std::abs(a.Last().base - b.First().base) <= 0.2 * smaller &&
-           gap >= -kOverlap * size && gap <= std::max(a.spacing, b.spacing) + kWordGap * size &&
+           gap >= -kOverlap * size && gap <= spacing + kWordGap * size &&
            b.First().from > a.Last().from + 0.05 * size && !Fenced(a, b, size);
   }
 
@@ -143,7 +174,7 @@ class Joiner {
 
   void FindNext(int index) {
     const Part& part = parts_[size_t(index)];
-    const double reach = kOverlap * part.Last().size * 2;
+    const double reach = kWidest * 1.4 * part.Last().size;
     double best = 1e9;
     for (int row = Row(part.Last().base) - 1; row <= Row(part.Last().base) + 1; ++row) {
       const auto found = rows_.find(row);
@@ -154,7 +185,7 @@ class Joiner {
       for (; at != members.end() && From(*at) <= part.Last().to + reach; ++at) {
         const double gap = std::abs(From(*at) - part.Last().to);
         if (*at == index || gap >= best || before_[size_t(*at)] >= 0) continue;
-        if (!GoesOn(part, parts_[size_t(*at)])) continue;
+        if (!GoesOn(index, *at)) continue;
         best = gap;
         next_[size_t(index)] = *at;
       }
@@ -167,10 +198,12 @@ class Joiner {
   std::vector<int> next_;
   std::vector<int> before_;
   std::map<int, std::vector<int>> rows_;
+  double spacing_ = 0;
 };
 
-Word WordOf(const std::vector<Letter>& letters, Way way) {
+Word WordOf(const std::vector<Letter>& letters, double spacing, Way way) {
   Word word;
+  word.spacing = spacing;
   word.way = way;
   word.piece = letters.front().piece;
   word.fixed = letters.front().fixed;
@@ -196,12 +229,14 @@ void TakeWords(const std::vector<TextPiece>& texts, const std::vector<Rule>& rul
   for (size_t i = 0; i < parts.size(); ++i) {
     if (!joiner.Begins(int(i))) continue;
     std::vector<Letter> letters;
+    double spacing = 0;
     size_t steps = 0;
     for (int at = int(i); at >= 0 && steps <= parts.size(); at = joiner.Next(at), ++steps) {
       const std::vector<Letter>& more = parts[size_t(at)].letters;
       letters.insert(letters.end(), more.begin(), more.end());
+      spacing = std::max(spacing, joiner.SpacingOf(at));
     }
-    words.push_back(WordOf(letters, way));
+    words.push_back(WordOf(letters, spacing, way));
   }
 }
 
@@ -209,26 +244,31 @@ bool RightToLeft(QChar letter) {
   return letter.direction() == QChar::DirR || letter.direction() == QChar::DirAL;
 }
 
-void Count(const TextPiece& piece, SheetWords& sheet) {
+void Count(const TextPiece& piece, LetterCounts& counts) {
   for (const QChar letter : piece.text) {
     if (IsBlank(letter)) continue;
-    ++(piece.hidden ? sheet.hidden : sheet.letters);
-    if (RightToLeft(letter)) ++sheet.foreign;
-    if (piece.vertical) ++sheet.downwards;
+    ++(piece.hidden ? counts.hidden : counts.letters);
+    if (RightToLeft(letter)) ++counts.foreign;
+    if (piece.vertical) ++counts.downwards;
   }
 }
 
 }  // namespace
 
-SheetWords WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules) {
-  SheetWords sheet;
+LetterCounts CountLetters(const std::vector<TextPiece>& texts) {
+  LetterCounts counts;
   for (const TextPiece& piece : texts) {
-    if (!piece.clipped) Count(piece, sheet);
+    if (!piece.clipped) Count(piece, counts);
   }
+  return counts;
+}
+
+std::vector<Word> WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules) {
+  std::vector<Word> words;
   for (const Way way : {Way::Right, Way::Up, Way::Left, Way::Down}) {
-    TakeWords(texts, rules, way, sheet.words);
+    TakeWords(texts, rules, way, words);
   }
-  return sheet;
+  return words;
 }
 
 }  // namespace tamo

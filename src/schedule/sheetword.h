@@ -19,6 +19,7 @@ struct Word {
   double base = 0;  // the base line: its y for Right and Left, its x for Up and Down
   double size = 0;  // of the largest letter
   Way way = Way::Right;
+  double spacing = 0;    // between its letters, beyond what the face has
   int piece = -1;        // which drawn string its first letter comes from
   bool fixed = false;    // of a typewriter face
   bool unknown = false;  // a letter that the file doesn't tell
@@ -27,17 +28,19 @@ struct Word {
   double MidY() const { return (box.top + box.bottom) / 2; }
 };
 
-// The words of a sheet, and what else its text shows.
-struct SheetWords {
-  std::vector<Word> words;
+// What the letters of a sheet are.
+struct LetterCounts {
   qsizetype letters = 0;    // letters that can be seen
   qsizetype hidden = 0;     // letters drawn with no ink
   qsizetype foreign = 0;    // letters of a script that is written from right to left
   qsizetype downwards = 0;  // letters of a font for writing downwards
 };
 
-// Text drawn twice at one place counts once. Text that is neither along nor across the sheet,
-// hidden or cut away is left out. Strings on both sides of one of the `rules` are never one word.
-SheetWords WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules = {});
+LetterCounts CountLetters(const std::vector<TextPiece>& texts);
+
+// The words of a sheet. Text drawn twice at one place counts once. Text that is neither along nor
+// across the sheet, hidden or cut away is left out. Strings on both sides of one of the `rules` are
+// never one word.
+std::vector<Word> WordsOf(const std::vector<TextPiece>& texts, const std::vector<Rule>& rules = {});
 
 }  // namespace tamo

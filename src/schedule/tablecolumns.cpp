@@ -42,7 +42,7 @@ bool StandsOverBoth(const Phrase& phrase, const std::vector<Phrase>& all) {
   if ((over & kRoomWord) != 0) return are(kNumberWord | kNameWord);
   if (over == kMaterialWord) return are(kFinishWords);
   const unsigned parts = kMaterialWord | kHeightWord | kColourWord;
-  return (over & (kFloorWord | kBaseWord | kCeilingWord)) != 0 && are(parts);
+  return (over & (kFloorWord | kBaseWord | kCeilingWord | kSideWords)) != 0 && are(parts);
 }
 
 // The rules from top to bottom that go through the rows.

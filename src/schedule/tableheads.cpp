@@ -135,9 +135,10 @@ class Spanner {
     double nearest = 1e9;
     for (int first = middle; first >= head.first && Below(phrase, first, middle); --first) {
       for (int last = middle; last <= head.last && Below(phrase, last, middle); ++last) {
-        const double off = std::abs(Middle(phrase, first, last) - phrase.MidX());
-        if (off > nearest - 0.1) continue;
-        nearest = off;
+        const double off = Off(phrase, first, last);
+        const bool wider = best.first == best.last && last > first;
+        if (off > nearest + (wider ? 0.1 : -0.1)) continue;
+        nearest = std::min(nearest, off);
         best.first = first;
         best.last = last;
       }
@@ -146,10 +147,21 @@ class Spanner {
   }
   bool Below(const Phrase& phrase, int column, int middle) const {
     const Phrase* leaf = LeafBelow(phrase, column);
-    return leaf != nullptr && (column == middle || CanBeBelow(*leaf));
+    if (leaf == nullptr) return false;
+    return column == middle || (CanBeBelow(*leaf) && !UnderAnother(phrase, column));
   }
-  double Middle(const Phrase& phrase, int first, int last) const {
-    return (LeafBelow(phrase, first)->box.left + LeafBelow(phrase, last)->box.right) / 2;
+  // Another head at the height of this one stands over the column.
+  bool UnderAnother(const Phrase& phrase, int column) const {
+    return std::any_of(heads_.phrases.begin(), heads_.phrases.end(), [&](const Phrase& other) {
+      return &other != &phrase && std::abs(other.MidY() - phrase.MidY()) < 0.5 * phrase.size &&
+             columns_.ColumnAt(other.MidX()) == column;
+    });
+  }
+  // How far a head stands off the middle of a run of columns: of their heads, or of their borders.
+  double Off(const Phrase& phrase, int first, int last) const {
+    const double heads = (LeafBelow(phrase, first)->MidX() + LeafBelow(phrase, last)->MidX()) / 2;
+    const double borders = (columns_.Left(first) + columns_.Right(last)) / 2;
+    return std::min(std::abs(heads - phrase.MidX()), std::abs(borders - phrase.MidX()));
   }
 
   const SheetDrawing& drawing_;

@@ -15,7 +15,9 @@ namespace tamo {
 namespace {
 
 constexpr double kCrosses = 0.7;  // of the width: a rule that ends a row
-constexpr double kWhole = 0.97;   // of the width: a rule from side to side
+constexpr size_t kFewRows = 4;
+constexpr double kSamePart = 0.03;  // of the width: columns of two parts that are the same
+constexpr double kWhole = 0.97;     // of the width: a rule from side to side
 
 // The rules from side to side that cross at least a part of a table's width.
 std::vector<double> AcrossOf(const SheetDrawing& drawing, const PageBox& frame, double part) {
@@ -45,6 +47,30 @@ class TableReader {
     std::vector<ScheduleTable> tables;
     for (const auto& [first, last] : Stretches()) tables.push_back(TableOf(first, last));
     return tables;
+  }
+
+  std::vector<ScheduleTable> ReadLike(const ScheduleTable& before) {
+    heads_.top = heads_.bottom = frame_.top - 1;
+    columns_ = ColumnsOf(drawing_, lines_, heads_, frame_);
+    if (size_t(columns_.Count()) != before.columns.size()) return {};
+    words_ = PlaceWords(drawing_, lines_, columns_, heads_.bottom);
+    ScheduleTable table;
+    table.kind = before.kind;
+    table.confidence = before.confidence;
+    table.columns = before.columns;
+    const double wide = columns_.at.back() - columns_.at.front();
+    const double wideBefore = before.columns.back().right - before.columns.front().left;
+    for (int i = 0; i < columns_.Count(); ++i) {
+      ScheduleColumn& column = table.columns[size_t(i)];
+      const double part = (columns_.Right(i) - columns_.Left(i)) / wide;
+      const double partBefore = (column.right - column.left) / wideBefore;
+      column.guessed = column.guessed || std::abs(part - partBefore) > kSamePart;
+      column.left = columns_.Left(i);
+      column.right = columns_.Right(i);
+    }
+    table.box = {columns_.Left(0), frame_.top, columns_.Right(columns_.Count() - 1), frame_.bottom};
+    TakeRows(table, 0, columns_.Count() - 1);
+    return {std::move(table)};
   }
 
  private:
@@ -89,7 +115,26 @@ class TableReader {
     table.kind = KindOf(heads, table.title, table.confidence);
     table.box = {columns_.Left(first), heads_.top, columns_.Right(last), frame_.bottom};
     TakeRows(table, first, last);
+    if (table.kind == TableKind::Finish && IsMatrix(table)) table.kind = TableKind::Matrix;
     return table;
+  }
+
+  // Marks under the finishes instead of their codes.
+  static bool IsMatrix(const ScheduleTable& table) {
+    static const QString marks =
+        QStringLiteral("\u2022\u25cf\u25cb\u25a0\u25a1\u2713\u2714\u00b7*XxoO");
+    int filled = 0;
+    int marked = 0;
+    for (size_t i = 0; i < table.columns.size(); ++i) {
+      const ColumnRole role = table.columns[i].role;
+      if (role < ColumnRole::Floor || role > ColumnRole::Ceiling) continue;
+      for (const ScheduleRow& row : table.rows) {
+        const QString& text = row.cells[i].text;
+        filled += text.isEmpty() ? 0 : 1;
+        marked += text.size() == 1 && marks.contains(text) ? 1 : 0;
+      }
+    }
+    return marked * 2 > filled || (filled == 0 && table.rows.size() >= kFewRows);
   }
 
   // The column whose texts begin the rows: the numbers, else the first with text in most rows.
@@ -126,6 +171,19 @@ class TableReader {
           {CellsOf(words, int(i), last - first + 1), places[i].top, places[i].bottom});
     }
     ShareMergedCells(table, drawing_, across_);
+    DoubtHeadless(table);
+  }
+
+  // A text under no head may belong to what stands beside it.
+  static void DoubtHeadless(ScheduleTable& table) {
+    for (size_t i = 0; i < table.columns.size(); ++i) {
+      if (!table.columns[i].head.isEmpty()) continue;
+      for (ScheduleRow& row : table.rows) {
+        if (row.cells[i].text.isEmpty()) continue;
+        if (i > 0) row.cells[i - 1].Add(Doubt::WhichColumn);
+        if (i + 1 < row.cells.size()) row.cells[i + 1].Add(Doubt::WhichColumn);
+      }
+    }
   }
 
   // Turned texts between the rows: shown where they lie, and never sure.
@@ -155,6 +213,11 @@ class TableReader {
 };
 
 }  // namespace
+
+std::vector<ScheduleTable> ReadFurtherPart(SheetDrawing drawing, const PageBox& frame,
+                                           const ScheduleTable& before) {
+  return TableReader(std::move(drawing), frame).ReadLike(before);
+}
 
 std::vector<ScheduleTable> ReadTables(SheetDrawing drawing, const PageBox& frame) {
   return TableReader(std::move(drawing), frame).Read();

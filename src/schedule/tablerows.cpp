@@ -91,7 +91,7 @@ class RowMaker {
     for (size_t i = 1; i < line.words.size(); ++i) {
       const Word& a = *words_[line.words[i - 1]].word;
       const Word& b = *words_[line.words[i]].word;
-      if (b.box.left - a.box.right > 1.0 * std::max(a.size, b.size)) return false;
+      if (b.box.left - a.box.right > std::max(a.size, b.size) + a.spacing + b.spacing) return false;
     }
     return true;
   }
@@ -163,59 +163,76 @@ class RowMaker {
   }
 
   void SeveralRows(const Lines& lines, const std::vector<size_t>& anchors);
+  bool Centred(const Lines& lines, const std::vector<size_t>& anchors) const;
+  static size_t NearestRow(const Lines& lines, const std::vector<size_t>& anchors, size_t line,
+                           bool centred, bool& unsure);
+  void GiveMore(const BandLine& line, int row, bool unsure);
 
   std::vector<PlacedWord>& words_;
   const int key_;
   std::vector<RowPlace> rows_;
 };
 
+// Whether lines between two rows stand nearer to the lower one as well as to the upper one: the
+// texts of a row are centred on its middle.
+bool RowMaker::Centred(const Lines& lines, const std::vector<size_t>& anchors) const {
+  bool above = false;
+  bool below = false;
+  for (size_t i = 0; i + 1 < anchors.size(); ++i) {
+    const size_t line = anchors[i] + 1;
+    if (anchors[i + 1] != line + 1 || IsGroup(lines[line])) continue;
+    const double up = lines[line].base - lines[anchors[i]].base;
+    const double down = lines[anchors[i + 1]].base - lines[line].base;
+    above = above || up < 0.85 * down;
+    below = below || down < 0.85 * up;
+  }
+  return above && below;
+}
+
 // Rows without rules between them: each line with a number begins one; the others belong to the
 // nearest.
 void RowMaker::SeveralRows(const Lines& lines, const std::vector<size_t>& anchors) {
-  const auto isAnchor = [&](size_t i) {
-    return std::binary_search(anchors.begin(), anchors.end(), i);
-  };
-  int above = 0;  // lines nearer to the row above than to the one below, and the contrary
-  int below = 0;
-  for (size_t i = 0; i + 1 < lines.size(); ++i) {
-    if (isAnchor(i) || IsGroup(lines[i])) continue;
-    if (i > 0 && isAnchor(i - 1) && isAnchor(i + 1)) {
-      const double up = lines[i].base - lines[i - 1].base;
-      const double down = lines[i + 1].base - lines[i].base;
-      if (up < 0.85 * down) ++above;
-      if (down < 0.85 * up) ++below;
+  std::vector<int> rowOf(lines.size(), -1);
+  std::vector<size_t> others;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const BandLine& line = lines[i];
+    if (std::binary_search(anchors.begin(), anchors.end(), i)) {
+      rows_.push_back({line.base - line.size, line.base + 0.2 * line.size, false, {}});
+      rowOf[i] = int(rows_.size()) - 1;
+      Give(line, rowOf[i], false);
+    } else if (IsGroup(line) && InKey(line.words.front())) {
+      AddGroup(line);
+    } else {
+      others.push_back(i);
     }
   }
-  const bool middle = above > 0 && below > 0;
-  std::vector<int> rowOfLine(lines.size(), -1);
-  for (size_t i = 0; i < lines.size(); ++i) {
-    if (isAnchor(i)) {
-      rows_.push_back(
-          {lines[i].base - lines[i].size, lines[i].base + 0.2 * lines[i].size, false, {}});
-      rowOfLine[i] = int(rows_.size()) - 1;
-      Give(lines[i], rowOfLine[i], false);
-    } else if (IsGroup(lines[i]) && !lines[i].words.empty() && InKey(lines[i].words.front())) {
-      AddGroup(lines[i]);
-    }
+  const bool centred = Centred(lines, anchors);
+  for (const size_t i : others) {
+    bool unsure = false;
+    const size_t anchor = NearestRow(lines, anchors, i, centred, unsure);
+    GiveMore(lines[i], rowOf[anchor], unsure);
   }
-  for (size_t i = 0; i < lines.size(); ++i) {
-    if (rowOfLine[i] >= 0) continue;
-    if (IsGroup(lines[i]) && InKey(lines[i].words.front())) continue;
-    const auto next = std::upper_bound(anchors.begin(), anchors.end(), i);
-    const bool hasNext = next != anchors.end();
-    const bool hasBefore = next != anchors.begin();
-    const double up = hasBefore ? lines[i].base - lines[*(next - 1)].base : 1e9;
-    const double down = hasNext ? lines[*next].base - lines[i].base : 1e9;
-    const bool toNext = !hasBefore || (hasNext && (middle || below > above) && down < 0.95 * up);
-    const size_t anchor = toNext ? *next : *(next - 1);
-    const double chosen = toNext ? down : up;
-    const double other = toNext ? up : down;
-    const bool unsure = other < 1.15 * chosen || chosen > 2.6 * lines[i].size;
-    Give(lines[i], rowOfLine[anchor], unsure);
-    RowPlace& place = rows_[size_t(rowOfLine[anchor])];
-    place.top = std::min(place.top, lines[i].base - lines[i].size);
-    place.bottom = std::max(place.bottom, lines[i].base + 0.2 * lines[i].size);
-  }
+}
+
+// The line with a number to which another line belongs.
+size_t RowMaker::NearestRow(const Lines& lines, const std::vector<size_t>& anchors, size_t line,
+                            bool centred, bool& unsure) {
+  const auto next = std::upper_bound(anchors.begin(), anchors.end(), line);
+  const bool hasNext = next != anchors.end();
+  const bool hasBefore = next != anchors.begin();
+  const double up = hasBefore ? lines[line].base - lines[*(next - 1)].base : 1e9;
+  const double down = hasNext ? lines[*next].base - lines[line].base : 1e9;
+  const bool toNext = !hasBefore || (hasNext && centred && down < 0.95 * up);
+  const double chosen = toNext ? down : up;
+  unsure = (toNext ? up : down) < 1.15 * chosen || chosen > 2.6 * lines[line].size;
+  return toNext ? *next : *(next - 1);
+}
+
+void RowMaker::GiveMore(const BandLine& line, int row, bool unsure) {
+  Give(line, row, unsure);
+  RowPlace& place = rows_[size_t(row)];
+  place.top = std::min(place.top, line.base - line.size);
+  place.bottom = std::max(place.bottom, line.base + 0.2 * line.size);
 }
 
 }  // namespace

@@ -13,7 +13,8 @@ constexpr double kFixedGap = 0.95;  // the same of a typewriter face
 bool OneBlank(const Word& left, const Word& right) {
   const double size = std::max(left.size, right.size);
   const double gap = right.box.left - left.box.right;
-  return gap <= (left.fixed && right.fixed ? kFixedGap : kPhraseGap) * size;
+  const double spacing = left.spacing + right.spacing;
+  return gap <= (left.fixed && right.fixed ? kFixedGap : kPhraseGap) * size + spacing;
 }
 
 void AddTo(Phrase& phrase, const Word& word, int index) {

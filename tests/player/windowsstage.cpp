@@ -19,7 +19,7 @@
 #include "player/widgets.h"
 #include "windows/look.h"
 #include "windows/plancanvas.h"
-#include "windows/windowkeeper.h"
+#include "windows/windowprobe.h"
 
 namespace tamo::player {
 namespace {
@@ -114,13 +114,13 @@ class WindowsStage : public Stage {
 
   std::shared_ptr<Screen> screen_ = Screen::Shared();
   ProgramPlayed* played_ = nullptr;
-  std::unique_ptr<WindowKeeper> keeper_;
+  std::unique_ptr<test::WindowProbe> keeper_;
 };
 
 void WindowsStage::Raise(Played& played) {
   played_ = dynamic_cast<ProgramPlayed*>(&played);
   if (played_ == nullptr) Fail(QStringLiteral("this program has no windows"));
-  keeper_ = std::make_unique<WindowKeeper>(played_->GetProgram(), played_->Pictures());
+  keeper_ = std::make_unique<test::WindowProbe>(played_->GetProgram(), played_->Pictures());
 }
 
 void WindowsStage::Strike() {

@@ -119,6 +119,45 @@ TEST(Reading, TwoTablesInABoxAreRefused) {
   EXPECT_EQ(ReadSchedule(sheet.Page(), std::nullopt).parts.size(), 1u);
 }
 
+TEST(Reading, AFurtherPartNeedsNoHeads) {
+  SheetMaker sheet;
+  sheet.Table(50, 50, {kHeads, {"101", "LOBBY", "CPT-1", "RB-1", "P-1", "ACT-1"}});
+  const ScheduleReading first = ReadSchedule(sheet.Page(), std::nullopt);
+  ASSERT_EQ(first.parts.size(), 1u);
+  SheetMaker next;
+  next.Table(50, 50,
+             {{"102", "HALL", "CPT-1", "RB-1", "P-1", "ACT-1"},
+              {"103", "MEN", "CT-1", "CT-2", "P-2", "ACT-2"}});
+  const PageBox box = {50, 50, 650, 90};
+  EXPECT_FALSE(ReadSchedule(next.Page(), box).problem.isEmpty());
+  const ScheduleReading second = ReadSchedule(next.Page(), box, &first.parts[0]);
+  EXPECT_EQ(second.problem.toStdString(), "");
+  const auto rows = FinishRowsOf(second.parts);
+  ASSERT_EQ(rows.size(), 2u);
+  EXPECT_EQ(rows[1].Text().toStdString(), "103\tMEN\tCT-1\tCT-2\tP-2\tP-2\tP-2\tP-2\tACT-2\t");
+}
+
+TEST(Reading, MarksUnderTheFinishesAreRefused) {
+  SheetMaker sheet;
+  sheet.Table(50, 50,
+              {{"NO.", "NAME", "FLOOR", "BASE", "WALLS", "CEILING"},
+               {"101", "LOBBY", "X", "", "X", "X"},
+               {"102", "HALL", "", "X", "X", ""}});
+  const ScheduleReading reading = ReadSchedule(sheet.Page(), std::nullopt);
+  EXPECT_TRUE(reading.parts.empty());
+  EXPECT_TRUE(reading.problem.contains("marks")) << reading.problem.toStdString();
+}
+
+TEST(Reading, TwoColumnsThatMeanTheSameAreNeverSure) {
+  SheetMaker sheet;
+  sheet.Table(50, 50,
+              {{"NO.", "NAME", "FLOOR", "FLOOR", "WALLS", "CEILING"},
+               {"101", "LOBBY", "1", "CPT-1", "P-1", "ACT-1"}});
+  const auto rows = RowsOfPage(sheet.Page());
+  ASSERT_EQ(rows.size(), 1u);
+  EXPECT_FALSE(rows[0].doubts[2].empty());
+}
+
 TEST(Reading, LettersOfAnotherScriptAreSaid) {
   SheetMaker sheet;
   sheet.Text(100, 100, QString(QChar(0x05d0)).repeated(20));

@@ -11,7 +11,7 @@ namespace {
 
 QStringList TextsOf(const PageContent& page) {
   QStringList texts;
-  for (const Word& word : WordsOf(page.texts).words) texts.append(word.text);
+  for (const Word& word : WordsOf(page.texts)) texts.append(word.text);
   return texts;
 }
 
@@ -36,19 +36,18 @@ TEST(SheetWords, HiddenTextIsCountedAndLeftOut) {
   SheetMaker sheet;
   sheet.Text(100, 50, "LOBBY");
   sheet.Page().texts.front().hidden = true;
-  const SheetWords words = WordsOf(sheet.Page().texts);
-  EXPECT_TRUE(words.words.empty());
-  EXPECT_EQ(words.hidden, 5);
+  EXPECT_TRUE(WordsOf(sheet.Page().texts).empty());
+  EXPECT_EQ(CountLetters(sheet.Page().texts).hidden, 5);
 }
 
 TEST(SheetWords, ATurnedTextIsOneWord) {
   SheetMaker sheet;
   sheet.Upwards(100, 200, "CEILING");
-  const SheetWords words = WordsOf(sheet.Page().texts);
-  ASSERT_EQ(words.words.size(), 1u);
-  EXPECT_EQ(words.words[0].way, Way::Up);
-  EXPECT_NEAR(words.words[0].box.bottom, 200, 0.01);
-  EXPECT_NEAR(words.words[0].box.top, 158, 0.01);
+  const std::vector<Word> words = WordsOf(sheet.Page().texts);
+  ASSERT_EQ(words.size(), 1u);
+  EXPECT_EQ(words[0].way, Way::Up);
+  EXPECT_NEAR(words[0].box.bottom, 200, 0.01);
+  EXPECT_NEAR(words[0].box.top, 158, 0.01);
 }
 
 TEST(Rules, LinesAndThinAreasAreRulesAndPiecesAreJoined) {

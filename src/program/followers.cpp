@@ -1,4 +1,4 @@
-#include "program/work.h"
+#include "program/followers.h"
 
 namespace tamo {
 

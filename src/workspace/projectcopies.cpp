@@ -1,13 +1,11 @@
-#include "records/projectlist.h"
+#include "workspace/projectcopies.h"
+
 #include "workspace/projectcopy.h"
 #include "workspace/projectdelete.h"
-#include "workspace/tamoform.h"
-
-// Copying a project into a new one, and deleting a project.
 
 namespace tamo {
 
-void TamoForm::CopyProject() {
+void ProjectCopies::CopyProject() {
   kit_.shared.CopyJobID = kit_.shared.JobID;
   kit_.desk.GetMessages().Tell(
       QStringLiteral(
@@ -15,7 +13,7 @@ void TamoForm::CopyProject() {
           .arg(kit_.shared.CopyJobID));
 }
 
-void TamoForm::PasteProject() {
+void ProjectCopies::PasteProject() {
   const QString& source = kit_.shared.CopyJobID;
   const QString& target = kit_.shared.JobID;
   Messages& messages = kit_.desk.GetMessages();
@@ -32,28 +30,17 @@ void TamoForm::PasteProject() {
   messages.Tell(QStringLiteral("%1 has been copied into %2.").arg(source, target));
 }
 
-void TamoForm::DeleteProject() {
+void ProjectCopies::DeleteProject() {
   kit_.shared.OPN = QStringLiteral("3");
-  if (!NeedUnlocked()) return;
+  if (!parts_.lock.NeedUnlocked()) return;
   const QString id = kit_.shared.JobID;
-  if (JobName.Empty() || id.isEmpty()) return;
-  if (!kit_.desk.GetMessages().Ask(QStringLiteral("Delete %1\r%2 ?").arg(id, JobName.Text())))
-    return;
-  NeedJobsList();
-  const QString entry = ProjectEntry(id, JobName.Text());
-  for (int row = 0; row < JobsList.Count(); ++row) {
-    if (JobsList.Row(row) != entry) continue;
-    JobsList.Remove(row);
-    break;
-  }
-  SaveJobsList();
+  const QString name = parts_.panel.JobName.Text();
+  if (name.isEmpty() || id.isEmpty()) return;
+  if (!kit_.desk.GetMessages().Ask(QStringLiteral("Delete %1\r%2 ?").arg(id, name))) return;
+  parts_.picker.RemoveProject();
   DeleteProjectFiles(kit_.files, kit_.shared, id);
-  kit_.shared.JobID.clear();
-  ClearRecord();
-  work_.ForgetProject();
-  LeavePlan();
-  work_.ClearReports();
-  SaveJobsList();
+  projects_.ClearProject();
+  near_.followers.ClearReports();
 }
 
 }  // namespace tamo

@@ -2,10 +2,10 @@
 
 namespace tamo {
 
-// The two shells, as the workspace asks for them.
-class ModeShell {
+// Which of the two main windows stands in front: what the project panel and the settings ask for.
+class FrontWindows {
  public:
-  virtual ~ModeShell() = default;
+  virtual ~FrontWindows() = default;
   // Mode 1 (On Site Takeoff: the main form carries the menus) or 2 (Online Plans: OST does): sets
   // GUIText, the menus and captions of both forms, and brings the shell to the front.
   virtual void EnterMode(int mode) = 0;
@@ -16,8 +16,6 @@ class ModeShell {
   virtual void HideMainForm() = 0;
   // The Settings form with the focus on the estimator's number.
   virtual void AskForEstimatorNumber() = 0;
-  // The program ends: all forms are unloaded in their order.
-  virtual void EndProgram() = 0;
 };
 
 }  // namespace tamo

@@ -6,9 +6,9 @@ namespace tamo {
 
 // What a project's record keeps of the plan, and what opening and closing a project asks of the
 // plan form.
-class PlanDesk {
+class PlanOfProject {
  public:
-  virtual ~PlanDesk() = default;
+  virtual ~PlanOfProject() = default;
 
   // The fields of the record that stand on the plan form. Setting them is not a user's change.
   struct Record {

@@ -3,9 +3,9 @@
 namespace tamo {
 
 // What the project panel asks of the working forms when a project comes or goes.
-class WorkDesk {
+class ProjectFollowers {
  public:
-  virtual ~WorkDesk() = default;
+  virtual ~ProjectFollowers() = default;
   virtual void InitPricing() = 0;         // makes the Pricing form ready at the start
   virtual void RefreshPricingList() = 0;  // the library's names are read again
   virtual void PrintReport() = 0;         // an open report follows, when it is set to
