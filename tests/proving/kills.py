@@ -29,5 +29,7 @@ def prove(ground, restarts, report, most, chance, every=False, first=0):
         for at, deed in places[:most - done]:
             done += 1
             report.one(f"kills: bid {bid.seed} AT={at} DO={deed}", kill(ground, restarts, bid, at, deed))
-        if done >= most or report.late():
+            if report.late():
+                return
+        if done >= most:
             return
