@@ -26,25 +26,24 @@ bool Directions::CameFor(const QString& orderUnits) const {
 }
 
 QString Directions::RatioToStore(const Prompts& prompts, const PromptNames& names,
-                                 const std::optional<QString>& standing) const {
-  // A prompt that asks how many order units a takeoff unit takes is answered in these.
-  if (prompts.AsksHowManyPer(names.units)) return QString::fromLatin1(kOpu);
+                                 const std::optional<QString>& standing, bool numberTyped) const {
+  // A prompt that asks how many order units a takeoff unit takes is answered in these; whoever only
+  // walks through a number that came with this order unit answers nothing.
+  if (prompts.AsksHowManyPer(names.units) && (numberTyped || !CameFor(names.orderUnits)))
+    return QString::fromLatin1(kOpu);
   if (!ratio_.isEmpty()) return ratio_;
-  if (!prompts.labelUPO.isEmpty()) return prompts.RatioRead(names);
-  return standing && IsRatioTag(*standing) ? *standing : RatioTagOfNewBlock(prompts, names);
+  return standing ? RatioTagOfBlock(prompts, names, *standing) : RatioTagOfNewBlock(prompts, names);
 }
 
 QString Directions::LaborToStore(const Prompts& prompts, const PromptNames& names,
                                  const std::optional<QString>& standing) const {
   if (!labor_.isEmpty()) return labor_;
-  const QString told = LaborTagOfNewBlock(prompts, names);
-  if (!told.isEmpty()) return told;
-  return standing && IsLaborTag(*standing) ? *standing : LaborTagOfBlock(prompts);
+  const QString told = standing ? QString() : LaborTagOfNewBlock(prompts, names);
+  return told.isEmpty() ? LaborTagOfBlock(prompts) : told;
 }
 
-void Directions::TurnRatio(const Prompts& prompts, const PromptNames& names,
-                           const std::optional<QString>& standing) {
-  ratio_ = Other(RatioToStore(prompts, names, standing), kUpo, kOpu);
+void Directions::TurnRatio(const Prompts& prompts, const PromptNames& names) {
+  ratio_ = Other(ratio_.isEmpty() ? RatioTagToTurn(prompts, names) : ratio_, kUpo, kOpu);
 }
 
 void Directions::TurnLabor(const Prompts& prompts, const PromptNames& names,

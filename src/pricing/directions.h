@@ -13,8 +13,8 @@ namespace tamo {
 // ("mpu").
 //
 // A direction is in force that the library or the system holds, or that the estimator turned to; it
-// is the one that is stored. A material that is typed new has none: what its prompt asks for is
-// stored.
+// is the one that is stored. A material that is typed new has none: its prompt is then read by its
+// first and last letters.
 class Directions {
  public:
   // A material that is typed new.
@@ -27,18 +27,19 @@ class Directions {
 
   const QString& Ratio() const { return ratio_; }  // in force; "" for none
   const QString& Labor() const { return labor_; }
-  // The direction came with the number, for this order unit: its prompt is not asked anew.
+  // The direction came with the number, for this order unit.
   bool CameFor(const QString& orderUnits) const;
 
   // What is stored with the numbers when the material is finished now; never "". `standing` is the
-  // tag of the block that the material has in the system, nullopt for a new material.
+  // tag of the block that the material has in the system ("" for a place that was inserted),
+  // nullopt for a new material; `numberTyped` that the number in UPO is the estimator's own.
   QString RatioToStore(const Prompts& prompts, const PromptNames& names,
-                       const std::optional<QString>& standing) const;
+                       const std::optional<QString>& standing, bool numberTyped) const;
   QString LaborToStore(const Prompts& prompts, const PromptNames& names,
                        const std::optional<QString>& standing) const;
-  // The other direction than the one that would be stored is in force from now on.
-  void TurnRatio(const Prompts& prompts, const PromptNames& names,
-                 const std::optional<QString>& standing);
+  // The other direction than the one in force, or the one that the prompt tells, is in force from
+  // now on.
+  void TurnRatio(const Prompts& prompts, const PromptNames& names);
   void TurnLabor(const Prompts& prompts, const PromptNames& names,
                  const std::optional<QString>& standing);
 

@@ -5,7 +5,7 @@
 
 namespace tamo {
 
-void LaborPrice::Make() {
+void LaborPrice::MakeEUP() {
   const EstimatedPrice price = EstimateUnitPrice(blocks_.Rows(), markups_.MarkupTexts());
   material_.EUP.SetCaption(price.text);
   if (price.stoppedAt < 0) return;

@@ -18,7 +18,7 @@ class LaborPrice {
 
   // Shows the sum of the materials. A conversion number of 0 brings its material up, puts the focus
   // on the number and raises a RunTimeFailure that names it; the sum of those before it is shown.
-  void Make();
+  void MakeEUP();
   // The same for a system that has just been read: it opens whatever its numbers are.
   void ShowAsFarAsItGoes();
 

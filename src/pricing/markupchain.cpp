@@ -23,35 +23,35 @@ MarkupChain::MarkupChain(const Kit& kit, MarkupControls& controls, MaterialContr
     OnFocusSelectAll(*c_.MarkupRing[i]);
   }
   // The labor markup alone is saved when it is entered, too. A test holds it.
-  OnFocusSelectAll(c_.LMU, [this] { Save(); });
+  OnFocusSelectAll(c_.LMU, [this] { SaveMarkups(); });
   c_.ExitMarkups.onClick = [this] {
     c_.MarkupsFrame.Hide();
     if (!systemFrame_.Shown()) c_.form.Hide();
   };
 }
 
-int MarkupChain::Load() {
+int MarkupChain::LoadMarkups() {
   Markups texts = c_.MarkupTexts();
-  const int error = LoadMarkups(kit_.files, kit_.shared, texts);
+  const int error = tamo::LoadMarkups(kit_.files, kit_.shared, texts);
   c_.PutMarkupTexts(texts);
   return error;
 }
 
-void MarkupChain::Save() {
+void MarkupChain::SaveMarkups() {
   Store();
   refresh_.PrintReport();
 }
 
 void MarkupChain::Store() {
-  SaveMarkups(kit_.files, kit_.shared, c_.MarkupTexts());
-  if (materials_.LandMFrame.Shown()) price_.Make();
+  tamo::SaveMarkups(kit_.files, kit_.shared, c_.MarkupTexts());
+  if (materials_.LandMFrame.Shown()) price_.MakeEUP();
 }
 
 void MarkupChain::ToggleFrame() {
   refresh_.DisableProjectFileEntry();
   Toggle(c_.MarkupsFrame);
   if (!c_.MarkupsFrame.Shown()) return;
-  Load();
+  LoadMarkups();
   FocusByCommand(kit_.desk, c_.MOH);
 }
 

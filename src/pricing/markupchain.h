@@ -13,8 +13,8 @@ class MarkupChain {
   MarkupChain(const Kit& kit, MarkupControls& controls, MaterialControls& materials,
               Frame& systemFrame, LaborPrice& price, ReportRefresh& refresh);
 
-  int Load();  // the error number of the last file that was tried
-  void Save();
+  int LoadMarkups();  // the error number of the last file that was tried
+  void SaveMarkups();
   // The entry of the menu: shows or hides the frame.
   void ToggleFrame();
 

@@ -19,7 +19,7 @@ MaterialChain::MaterialChain(const Kit& kit, Form& form, const PricingParts& par
 void MaterialChain::BindName() {
   MaterialControls& c = p_.materials;
   OnEnter(
-      c.Material, Keys::FileName, [this] { EnterMaterial(); }, [this] { EndSystem(); });
+      c.Material, Keys::FileName, [this] { EnterMaterial(); }, [this] { FinishSystem(); });
   c.Material.onGotFocus = [this] { MaterialGotFocus(); };
   c.Material.onLostFocus = [this] { MaterialLostFocus(); };
   c.Material.onClick = [&c] { ToggleDropList(c.MaterialsList, c.Material); };
@@ -45,7 +45,7 @@ void MaterialChain::BindOrder() {
     c.OrderUnits.SelectAll();
   });
   OnEnter(c.Price, Keys::Number, [this] { EnterPrice(); });
-  OnFocusSelectAll(c.Price, [this] { AskPrice(); });
+  OnFocusSelectAll(c.Price, [this] { p_.material.prompts.Change(&Prompts::AtPrice); });
   c.Price.onLostFocus = [this, &c] {
     if (c.UPO.Usable()) kit_.desk.Focus(c.UPO);
   };
@@ -140,13 +140,13 @@ void MaterialChain::EnterMaterial() {
       p_.material.fields.AllEmpty() && p_.vocabulary.materials.Find(c.Material.Text()) >= 0;
   const bool another = p_.material.FromLibrary() && c.MaterialList.Index() >= 0 &&
                        c.MaterialList.Selected().isEmpty();
-  if (known || another) p_.material.LoadFromLibrary();
+  if (known || another) p_.material.LoadMaterial();
   RememberName();
   c.MaterialsList.Hide();
   kit_.desk.Focus(c.OrderUnits);
 }
 
-void MaterialChain::EndSystem() {
+void MaterialChain::FinishSystem() {
   clearFields_();
   p_.materials.MaterialsList.Hide();
   p_.open.Empty();
@@ -162,7 +162,7 @@ void MaterialChain::ChooseMaterial(const QString& name) {
   c.Material.SetText(name);
   if (!name.isEmpty() && !TellIfUnusable(kit_.desk, name) &&
       c.MaterialList.Index() >= c.MaterialList.Count() - 1)
-    p_.material.LoadFromLibrary();
+    p_.material.LoadMaterial();
   // The field mostly has the focus already; what comes with it (the whole name selected, the
   // prompts) is due all the same.
   if (c.Material.HasFocus()) {
@@ -187,18 +187,13 @@ void MaterialChain::EnterOrderUnits() {
   p_.vocabulary.orderUnits.Remember(c.OrderUnits.Text());
   c.oUnitsList.Hide();
   prompts.Change(&Prompts::CostPer);
-  prompts.Reword(p_.material.directions);
+  prompts.SetUpoUpm(p_.material.directions);
   kit_.desk.Focus(c.Price);
 }
 
-// An order unit that counts is asked for anew; a number that came with it keeps its prompt.
-void MaterialChain::AskPrice() {
-  const bool came = p_.material.directions.CameFor(p_.materials.OrderUnits.Text());
-  p_.material.prompts.Change(came ? &Prompts::CostPer : &Prompts::AtPrice);
-}
-
 void MaterialChain::EnterPrice() {
-  p_.material.fields.Respell(MaterialFields::kPrice, PriceMoney(p_.materials.Price.Text()));
+  p_.material.fields.Respell(MaterialFields::kPrice,
+                             PriceFormat::MakeMoney(p_.materials.Price.Text()));
   kit_.desk.Focus(p_.materials.UPO);
 }
 
@@ -209,22 +204,22 @@ void MaterialChain::FinishMaterial() {
   RequireFileName(c.Material.Text());
   if (!p_.system.Description.Empty()) RequireFileName(p_.system.Description.Text());
   p_.open.RequireOwnName();
-  c.WageRate.SetText(PriceMoney(c.WageRate.Text()));
+  c.WageRate.SetText(PriceFormat::MakeMoney(c.WageRate.Text()));
   c.WagesList.Hide();
   const MaterialBlock block = p_.material.ToStore();
-  p_.material.SaveToLibrary(block);
+  p_.material.SaveMaterial(block);
   p_.vocabulary.wages.Remember(c.WageRate.Text());
 
   const int place = p_.blocks.Place();
   const bool isNew = place >= p_.blocks.Count();
   p_.blocks.Put(place, block);
   if (isNew) {
-    p_.material.Clear();
+    p_.material.ClearSomeStuff();
     StepOn();
-    p_.open.Store();
+    p_.open.SaveSystem();
   } else {
     p_.material.Stored(block);
-    p_.open.Store();
+    p_.open.SaveSystem();
     StepOn();
   }
   kit_.desk.Focus(c.Material);
@@ -234,7 +229,7 @@ void MaterialChain::FinishMaterial() {
 // On to the next material: the following row comes up; behind the last one an empty row is made
 // for a new one.
 void MaterialChain::StepOn() {
-  if (p_.blocks.SelectNext()) p_.material.ComeUpWithPrompts();
+  if (p_.blocks.SelectNext()) p_.material.ShowSystem();
 }
 
 // --- the list of the system's materials ---
@@ -252,7 +247,7 @@ void MaterialChain::SelectMaterial() {
   if (c.Material.Usable()) kit_.desk.Focus(c.Material);
   // The next name typed replaces the one that came up.
   if (c.Material.HasFocus()) c.Material.SelectAll();
-  p_.material.prompts.Reword(p_.material.directions);
+  p_.material.prompts.SetUpoUpm(p_.material.directions);
   ShowHover();
 }
 
@@ -265,9 +260,9 @@ void MaterialChain::DeleteMaterial() {
   if (row < list.Count()) {
     list.SetIndex(row);
   } else {
-    p_.material.Clear();
+    p_.material.ClearSomeStuff();
   }
-  p_.open.Store();
+  p_.open.SaveSystem();
   KeepRowReady();
   p_.refresh.PrintReport();
 }

@@ -26,11 +26,10 @@ class MaterialChain {
   void MaterialLostFocus();
   void ShowHover();
   void EnterMaterial();
-  void EndSystem();
+  void FinishSystem();
   void ChooseMaterial(const QString& name);
   void RememberName();
   void EnterOrderUnits();
-  void AskPrice();
   void EnterPrice();
   void FinishMaterial();
   void StepOn();

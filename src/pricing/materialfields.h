@@ -20,6 +20,8 @@ class MaterialFields {
 
   void Clear();
   bool AllEmpty() const;  // but for the name
+  // What stands in the field is the estimator's own; an empty field is nobody's.
+  bool Typed(Fillable field) const;
   void Take(const MaterialBlock& block);
   // The block of the fields, with no tags.
   MaterialBlock Block() const;
@@ -32,7 +34,6 @@ class MaterialFields {
   void ForgetGiven(Fillable field) { given_[field].clear(); }
 
  private:
-  bool Typed(Fillable field) const;
   void Fill(Fillable field, const QString& text);
 
   MaterialControls& controls_;

@@ -13,7 +13,7 @@ MaterialInWork::MaterialInWork(const Kit& kit, SystemControls& system, MaterialC
       controls_(controls),
       blocks_(blocks) {}
 
-void MaterialInWork::Clear() {
+void MaterialInWork::ClearSomeStuff() {
   fields.Clear();
   library_ = false;
   directions.Forget();
@@ -26,14 +26,14 @@ void MaterialInWork::ComeUp() {
   directions.TakeBlock(block);
 }
 
-void MaterialInWork::ComeUpWithPrompts() {
+void MaterialInWork::ShowSystem() {
   ComeUp();
   const MaterialBlock block = blocks_.At(blocks_.Place());
   Prompts shown = prompts.Now();
   shown.ShowRatio(prompts.Names(), block.upoTag);
   shown.ShowLabor(prompts.Names(), block.mnhrTag);
   prompts.Put(shown);
-  prompts.Reword(directions);
+  prompts.SetUpoUpm(directions);
 }
 
 // --- directions ---
@@ -48,10 +48,10 @@ std::optional<QString> MaterialInWork::StandingTag(int tagRow) const {
 void MaterialInWork::TurnRatio() {
   controls_.UPO.SetHover(QString());
   fields.ForgetGiven(MaterialFields::kUpo);
-  directions.TurnRatio(prompts.Now(), prompts.Names(), StandingTag(kUpoTagRow));
+  directions.TurnRatio(prompts.Now(), prompts.Names());
   if (InSystem()) {
     blocks_.SetTag(blocks_.Place(), kUpoTagRow, directions.Ratio());
-    prompts.Reword(directions);
+    prompts.SetUpoUpm(directions);
     return;
   }
   Prompts turned = prompts.Now();
@@ -73,14 +73,15 @@ void MaterialInWork::TurnLabor() {
 
 MaterialBlock MaterialInWork::ToStore() const {
   MaterialBlock block = fields.Block();
-  block.upoTag = directions.RatioToStore(prompts.Now(), prompts.Names(), StandingTag(kUpoTagRow));
+  block.upoTag = directions.RatioToStore(prompts.Now(), prompts.Names(), StandingTag(kUpoTagRow),
+                                         fields.Typed(MaterialFields::kUpo));
   block.mnhrTag = directions.LaborToStore(prompts.Now(), prompts.Names(), StandingTag(kMnhrTagRow));
   return block;
 }
 
 // --- the library ---
 
-void MaterialInWork::LoadFromLibrary() {
+void MaterialInWork::LoadMaterial() {
   library_ = true;
   RequireFileName(controls_.Material.Text());
   QString text;
@@ -106,7 +107,7 @@ void MaterialInWork::LoadFromLibrary() {
   fields.FillFrom(file, 9, MaterialFields::kWageRate, block.wageRate);
 }
 
-void MaterialInWork::SaveToLibrary(const MaterialBlock& block) {
+void MaterialInWork::SaveMaterial(const MaterialBlock& block) {
   RequireFileName(block.material);
   kit_.files.SaveText(MaterialPath(kit_.shared, block.material), MaterialFileText(block));
 }

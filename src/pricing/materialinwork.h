@@ -17,10 +17,10 @@ class MaterialInWork {
   MaterialInWork(const Kit& kit, SystemControls& system, MaterialControls& controls,
                  SystemBlocks& blocks);
 
-  void Clear();
+  void ClearSomeStuff();
   // The material of the selected row comes up; with `wording`, with prompts of its own.
   void ComeUp();
-  void ComeUpWithPrompts();
+  void ShowSystem();
   // Enter in the empty UPO or MnhrPO: the number is never touched, its direction turns.
   void TurnRatio();
   void TurnLabor();
@@ -30,8 +30,8 @@ class MaterialInWork {
   void Stored(const MaterialBlock& block) { directions.TakeBlock(block); }
 
   // The library's file of the name in Material. A file that is not there fills nothing.
-  void LoadFromLibrary();
-  void SaveToLibrary(const MaterialBlock& block);
+  void LoadMaterial();
+  void SaveMaterial(const MaterialBlock& block);
   bool FromLibrary() const { return library_; }
 
   MaterialFields fields;

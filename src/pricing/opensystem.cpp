@@ -48,7 +48,7 @@ void OpenSystem::Take(const SystemFile& file) {
 void OpenSystem::Empty() {
   system_.Units.Clear();
   system_.UnitPrice.Clear();
-  material_.Clear();
+  material_.ClearSomeStuff();
   lineColor_.clear();
   PaintLine();
   look_.PricingNotes.Clear();
@@ -81,10 +81,10 @@ void OpenSystem::Write() {
   price_.ShowAsFarAsItGoes();
 }
 
-void OpenSystem::Store() {
+void OpenSystem::SaveSystem() {
   if (system_.Description.Empty()) return;
   Write();
-  price_.Make();
+  price_.MakeEUP();
 }
 
 }  // namespace tamo

@@ -31,10 +31,10 @@ class OpenSystem {
 
   // Raises a RunTimeFailure when the name in Description is that of another system.
   void RequireOwnName();
-  // Writes the files of the system and shows its price as far as it goes; Store also tells when it
-  // goes no further. Without a name nothing is done.
+  // Writes the files of the system and shows its price as far as it goes; SaveSystem also tells
+  // when it goes no further. Without a name nothing is done.
   void Write();
-  void Store();
+  void SaveSystem();
 
   void PaintLine();  // in the system's colour
 

@@ -67,10 +67,10 @@ void PricingForm::BindWindow() {
 void PricingForm::Init() {
   if (kit_.shared.DataPath.isEmpty()) settings_.LoadSettings();
   bool missing = false;
-  for (VocabularyList* list :
-       {&vocabulary.systems, &vocabulary.units, &vocabulary.materials, &vocabulary.orderUnits})
-    missing |= list->Load() == kFileNotFound;
-  missing |= markups_.Load() == kFileNotFound;
+  for (const int error :
+       {vocabulary.LoadDescriptions(), vocabulary.LoadUnits(), vocabulary.LoadMaterials(),
+        vocabulary.LoadOrderUnits(), markups_.LoadMarkups()})
+    missing |= error == kFileNotFound;
   if (missing) seed_.SeedProjectNumber();
   look_.PaintPalette();
 }

@@ -42,8 +42,8 @@ class PricingForm : public Form,
   // A system that the takeoff misses: shows the form with the name in Description and the focus
   // there.
   void ShowWithName(const QString& name, Form* owner = nullptr);
-  void LoadMarkups() { markups_.Load(); }  // the project's, or the master's
-  void LoadDescriptions() { vocabulary.systems.Load(); }
+  void LoadMarkups() { markups_.LoadMarkups(); }  // the project's, or the master's
+  void LoadDescriptions() { vocabulary.LoadDescriptions(); }
 
   // The open system's colour code, nine digits, "" or "NoColor".
   QString LineColor;

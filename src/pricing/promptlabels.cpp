@@ -29,21 +29,10 @@ void PromptLabels::Change(void (Prompts::*change)(const PromptNames&)) {
   Put(prompts);
 }
 
-void PromptLabels::Reword(const Directions& directions) {
+void PromptLabels::SetUpoUpm(const Directions& directions) {
   Prompts prompts = Now();
   prompts.SetUpoUpm(Names(), directions.Ratio(), directions.Labor());
   Put(prompts);
-}
-
-void PromptLabels::RewordRatioIfItMisleads(const Directions& directions) {
-  const QString stored = directions.RatioToStore(Now(), Names(), std::nullopt);
-  const bool misleads = !directions.Ratio().isEmpty() && Now().RatioRead(Names()) != stored;
-  if (misleads || Now().labelUPO.isEmpty()) Reword(directions);
-}
-
-void PromptLabels::RewordLaborIfItMisleads(const Directions& directions) {
-  const bool misleads = !directions.Labor().isEmpty() && Now().LaborRead() != directions.Labor();
-  if (misleads || Now().labelMnhr.isEmpty()) Reword(directions);
 }
 
 }  // namespace tamo

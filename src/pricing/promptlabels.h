@@ -20,11 +20,7 @@ class PromptLabels {
   // One change of the wording: Change(&Prompts::AfterUnits).
   void Change(void (Prompts::*change)(const PromptNames&));
   // The wording of the directions in force.
-  void Reword(const Directions& directions);
-  // The same, but only of a prompt that says nothing, or under which another direction would be
-  // read.
-  void RewordRatioIfItMisleads(const Directions& directions);
-  void RewordLaborIfItMisleads(const Directions& directions);
+  void SetUpoUpm(const Directions& directions);
 
  private:
   SystemControls& system_;

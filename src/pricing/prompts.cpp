@@ -168,22 +168,8 @@ bool Prompts::AsksHowManyPer(const QString& units) const {
   return labelUPO == kHowManyPer + units + QLatin1Char(':');
 }
 
-bool Prompts::AsksForOrderUnits() const {
-  return labelUPO.contains(kSeveralPer);
-}
-
 bool Prompts::AsksForManhours() const {
   return labelMnhr.startsWith(QLatin1String("Manhours per"));
-}
-
-QString Prompts::RatioRead(const PromptNames& n) const {
-  const bool orderUnits = AsksForOrderUnits() || AsksHowManyPer(n.units) ||
-                          (!n.units.isEmpty() && labelUPO == kHowManyPer + n.units);
-  return QString::fromLatin1(orderUnits ? kOpu : kUpo);
-}
-
-QString Prompts::LaborRead() const {
-  return QString::fromLatin1(AsksForManhours() ? kMpu : kUpm);
 }
 
 QString RatioTagOfNewBlock(const Prompts& prompts, const PromptNames& n) {
@@ -202,10 +188,21 @@ QString LaborTagOfNewBlock(const Prompts& prompts, const PromptNames& n) {
   return {};
 }
 
+QString RatioTagOfBlock(const Prompts& prompts, const PromptNames& n, const QString& standing) {
+  if (prompts.labelUPO.endsWith(n.orderUnits)) return QString::fromLatin1(kUpo);
+  if (prompts.labelUPO.endsWith(n.units)) return QString::fromLatin1(kOpu);
+  return standing.isEmpty() ? RatioTagOfNewBlock(prompts, n) : standing;
+}
+
 QString LaborTagOfBlock(const Prompts& prompts) {
   const bool upm =
       !prompts.AsksForManhours() && prompts.labelMnhr.endsWith(QLatin1String("Manhour:"));
   return QString::fromLatin1(upm ? kUpm : kMpu);
+}
+
+QString RatioTagToTurn(const Prompts& prompts, const PromptNames& n) {
+  if (prompts.AsksHowManyPer(n.units)) return QString::fromLatin1(kOpu);
+  return RatioTagOfBlock(prompts, n, QString());
 }
 
 QString ReservedTerm(const PromptNames& n) {

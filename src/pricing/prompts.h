@@ -54,13 +54,8 @@ struct Prompts {
   // --- what an estimator reads ---
   // "How many per SF:", the prompt of an order unit that counts.
   bool AsksHowManyPer(const QString& units) const;
-  // "How many SHT(s) per SF": order units for a takeoff unit.
-  bool AsksForOrderUnits() const;
   // "Manhours per SF", whatever letter the takeoff unit begins with.
   bool AsksForManhours() const;
-  // The direction that the words under the eye tell, "upo" or "opu".
-  QString RatioRead(const PromptNames& names) const;
-  QString LaborRead() const;
 };
 
 // --- the tags, read off the prompts ---
@@ -69,8 +64,13 @@ struct Prompts {
 QString RatioTagOfNewBlock(const Prompts& prompts, const PromptNames& names);
 QString LaborTagOfNewBlock(const Prompts& prompts, const PromptNames& names);
 
-// A block that is there.
+// A block that is there: its ratio tag is kept when the prompt ends in neither unit. A place that
+// was only inserted has none to keep and is taken as a new block.
+QString RatioTagOfBlock(const Prompts& prompts, const PromptNames& names, const QString& standing);
 QString LaborTagOfBlock(const Prompts& prompts);
+
+// What a toggle turns from while no direction is in force.
+QString RatioTagToTurn(const Prompts& prompts, const PromptNames& names);
 
 // The message for an order unit that is the takeoff unit of its own system, whatever the case; ""
 // when it may be used.

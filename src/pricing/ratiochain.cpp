@@ -11,11 +11,9 @@ RatioChain::RatioChain(const Kit& kit, MaterialControls& controls, MaterialInWor
   OnEnter(
       c_.UPO, Keys::Number, [this] { kit_.desk.Focus(c_.MnhrPO); },
       [this] { material_.TurnRatio(); });
-  OnFocusSelectAll(c_.UPO,
-                   [this] { material_.prompts.RewordRatioIfItMisleads(material_.directions); });
+  OnFocusSelectAll(c_.UPO);
   OnEnter(c_.MnhrPO, Keys::Number, [this] { EnterMnhrPO(); });
-  OnFocusSelectAll(c_.MnhrPO,
-                   [this] { material_.prompts.RewordLaborIfItMisleads(material_.directions); });
+  OnFocusSelectAll(c_.MnhrPO);
   c_.MnhrPO.onLostFocus = [this] { LeaveMnhrPO(); };
 }
 
@@ -31,7 +29,7 @@ void RatioChain::EnterMnhrPO() {
     return;
   }
   if (!HasNoTagYet()) material_.TurnLabor();
-  material_.prompts.Reword(material_.directions);
+  material_.prompts.SetUpoUpm(material_.directions);
   kit_.desk.Focus(c_.Waste);
   kit_.desk.Focus(c_.MnhrPO);
 }

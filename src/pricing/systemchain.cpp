@@ -59,17 +59,13 @@ void SystemChain::EnterDescription() {
   const int row = p_.vocabulary.systems.Find(name.Text());
   if (row >= 0) name.SetText(p_.system.DescriptionsList.Row(row));
   if (TellIfUnusable(kit_.desk, name.Text())) return;
-  // A system that came by import is in the library, but in no list yet.
-  const bool unlisted =
-      row < 0 && p_.open.store.Has(name.Text()) && !deleted_.contains(name.Text().toUpper());
-  if (row < 0 && !unlisted) {
+  if (row < 0) {
     BeginSystem();
     return;
   }
   if (!LoadSystem()) return;
-  if (unlisted) p_.vocabulary.systems.Remember(name.Text());
   if (!p_.blocks.Empty()) {
-    p_.price.Make();
+    p_.price.MakeEUP();
     p_.materials.MaterialList.SetIndex(0);
   }
   if (Value(p_.system.UnitPrice.Text()) != 0) {
@@ -102,7 +98,6 @@ void SystemChain::ChooseDescription(const QString& name) {
 // The name is in the library at once; its file follows with the price.
 void SystemChain::BeginSystem() {
   p_.vocabulary.systems.Remember(p_.system.Description.Text());
-  deleted_.remove(p_.system.Description.Text().toUpper());
   ShowNewSystem();
   p_.look.ColorFrame.Hide();
 }
@@ -146,7 +141,7 @@ bool SystemChain::LoadSystem() {
 void SystemChain::ClearStuff() {
   p_.system.Description.Clear();
   p_.system.Units.Clear();
-  p_.material.Clear();
+  p_.material.ClearSomeStuff();
   p_.system.UnitPrice.Clear();
   p_.materials.EUP.SetCaption(QString());
   p_.materials.EUP.Hide();
@@ -179,15 +174,15 @@ void SystemChain::LeaveUnits() {
 
 void SystemChain::EnterUnitPrice() {
   TextField& price = p_.system.UnitPrice;
-  price.SetText(PriceMoney(price.Text()));
-  p_.open.Store();
+  price.SetText(PriceFormat::MakeMoney(price.Text()));
+  p_.open.SaveSystem();
   if (Value(price.Text()) != 0) {
     p_.look.ColorFrame.Show();
   } else {
     p_.price.Show();
     p_.menus.CopySystem.SetEnabled(true);
     p_.menus.PasteSystem.SetEnabled(!p_.exchange.CopySys.Empty());
-    p_.price.Make();
+    p_.price.MakeEUP();
     p_.materials.Label19.Show();
     kit_.desk.Focus(p_.materials.Material);
   }
@@ -204,10 +199,9 @@ void SystemChain::DeleteSystem() {
   OrderedList& list = p_.system.DescriptionsList;
   for (int row = list.Find(name); row >= 0; row = list.Find(name)) {
     list.Remove(row);
-    p_.vocabulary.systems.Save();
+    p_.vocabulary.SaveDescriptions();
   }
   if (!TellIfUnusable(kit_.desk, name)) p_.open.store.Remove(name);
-  deleted_.insert(name.toUpper());
   ClearStuff();
   p_.open.Empty();
   p_.price.Hide();

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QSet>
-
 #include "pricing/pricingparts.h"
 
 namespace tamo {
@@ -37,7 +35,6 @@ class SystemChain {
   const Kit kit_;
   Form& form_;
   const PricingParts p_;
-  QSet<QString> deleted_;  // names of this run, in capitals: typed again they begin anew
 };
 
 }  // namespace tamo

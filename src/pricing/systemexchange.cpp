@@ -84,7 +84,7 @@ void SystemExchange::Copy() {
 void SystemExchange::Paste() {
   p_.open.RequireOwnName();
   p_.blocks.Take(p_.exchange.CopySys.Rows());
-  p_.open.Store();
+  p_.open.SaveSystem();
   OrderedList& names = p_.materials.MaterialList;
   if (!names.Empty()) names.SetIndex(names.Count() - 1);
   p_.refresh.PrintReport();
@@ -122,7 +122,7 @@ void SystemExchange::Import() {
   }
   beforeImport_();
   Take(imported.system);
-  p_.price.Make();
+  p_.price.MakeEUP();
   p_.refresh.PrintReport();
 }
 
@@ -131,10 +131,14 @@ void SystemExchange::Take(const SystemFile& system) {
   p_.open.Take(system);
   p_.open.TakeName();
   p_.open.Write();
-  for (int place = 0; place < p_.blocks.Count(); ++place)
-    p_.material.SaveToLibrary(p_.blocks.At(place));
-  if (!p_.blocks.Empty()) p_.materials.MaterialList.SetIndex(0);
+  SaveImportedMaterial();
   afterImport_();
+}
+
+void SystemExchange::SaveImportedMaterial() {
+  for (int place = 0; place < p_.blocks.Count(); ++place)
+    p_.material.SaveMaterial(p_.blocks.At(place));
+  if (!p_.blocks.Empty()) p_.materials.MaterialList.SetIndex(0);
 }
 
 // --- paper ---

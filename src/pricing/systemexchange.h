@@ -24,6 +24,7 @@ class SystemExchange {
   void PressInFolders(Key& key);
   void ExportInto(const QString& folder);
   void Take(const SystemFile& system);
+  void SaveImportedMaterial();
 
   const Kit kit_;
   const PricingParts p_;

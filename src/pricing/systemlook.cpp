@@ -44,9 +44,13 @@ void SystemLook::ChooseColour(const QString& code) {
   lineColor_ = code;
   look_.ColorFrame.Hide();
   open_.PaintLine();
-  open_.Store();
-  if (afterColour_.Usable()) kit_.desk.Focus(afterColour_);
+  open_.SaveSystem();
+  EndSystem();
   refresh_.PrintReport();
+}
+
+void SystemLook::EndSystem() {
+  if (afterColour_.Usable()) kit_.desk.Focus(afterColour_);
 }
 
 // The background's number stands in the colour's place and is not saved until something else is. A
@@ -62,7 +66,7 @@ void SystemLook::ToggleNotes() {
   if (look_.PricingNotes.Shown()) {
     kit_.desk.Focus(look_.PricingNotes);
   } else if (!system_.Description.Empty()) {
-    open_.Store();
+    open_.SaveSystem();
     refresh_.PrintReport();
   }
 }

@@ -21,6 +21,7 @@ class SystemLook {
   void BindNotes();
   void ChooseColour(const QString& code);
   void ChooseBackgroundNumber();
+  void EndSystem();  // on to the materials, when they are shown
   void ToggleNotes();
 
   const Kit kit_;

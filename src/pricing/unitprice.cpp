@@ -82,7 +82,7 @@ EstimatedPrice EstimateUnitPrice(const QStringList& system, const Markups& marku
   return price;
 }
 
-QString PriceMoney(const QString& text) {
+QString PriceFormat::MakeMoney(const QString& text) {
   const double value = Value(text);
   if (value == 0) return QStringLiteral("0.00");
   QString cents = NumberText(std::floor(value * 100 + 0.005));

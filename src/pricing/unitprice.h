@@ -27,8 +27,11 @@ struct EstimatedPrice {
 EstimatedPrice EstimateUnitPrice(const QStringList& system, const Markups& markups);
 
 // Money text of a typed price: cents are cut, not rounded (1.999 is 1.99), there is no digit before
-// the point below one (.05), and -.05 comes out as .-5. Tests hold it.
-QString PriceMoney(const QString& text);
+// the point below one (.05), and -.05 comes out as .-5. Tests hold it. The bottom line and the
+// reports write money by routines of their own.
+struct PriceFormat {
+  static QString MakeMoney(const QString& text);
+};
 
 // The texts of the three material markups joined end to end, read as one number and divided by the
 // markup. A markup of 0 raises a RunTimeFailure.

@@ -15,6 +15,17 @@ struct Vocabulary {
         orderUnits(kit, material.oUnitsList, NameList::OrderUnits),
         wages(kit, material.WagesList, NameList::Wages) {}
 
+  // Each load gives its error number; a file that is not there leaves the list empty.
+  int LoadDescriptions() { return systems.Load(); }
+  int LoadUnits() { return units.Load(); }
+  int LoadMaterials() { return materials.Load(); }
+  int LoadOrderUnits() { return orderUnits.Load(); }
+  void SaveDescriptions() { systems.Save(); }
+  void SaveUnits() { units.Save(); }
+  void SaveMaterials() { materials.Save(); }
+  void SaveOrderUnits() { orderUnits.Save(); }
+  void SaveWagesList() { wages.Save(); }
+
   VocabularyList systems;
   VocabularyList units;  // kept outside the program: nothing is added to it
   VocabularyList materials;

@@ -3,8 +3,6 @@
 #include "plans/ostform.h"
 #include "pricing/pricingform.h"
 #include "program/followers.h"
-#include "reports/bottomlinefigure.h"
-#include "reports/markupsource.h"
 #include "takeoff/missingsystempricing.h"
 #include "takeoff/takeoffreportrefresh.h"
 #include "workspace/tamoform.h"
@@ -38,15 +36,12 @@ class StartOfPricing : public SettingsReader, public ProjectNumberSeed {
   TamoForm& main_;
 };
 
-// The price library as takeoff and reports ask for it.
-class PricingOnForm : public MissingSystemPricing, public MarkupSource, public BottomLineFigure {
+// The price library as the takeoff asks for it.
+class PricingOnForm : public MissingSystemPricing {
  public:
   PricingOnForm(PricingForm& pricing, OSTForm& ost) : pricing_(pricing), ost_(ost) {}
 
   void ShowWithName(const QString& system) override { pricing_.ShowWithName(system, &ost_); }
-  void LoadMarkups() override { pricing_.LoadMarkups(); }
-  Markups Texts() const override { return pricing_.MarkupTexts(); }
-  void SetTotalBL(const QString& text) override { pricing_.TotalBL = text; }
 
  private:
   PricingForm& pricing_;

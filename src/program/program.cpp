@@ -43,8 +43,6 @@ struct Program::Parts {
   TakeoffExitsOnForms takeoffExits{shell, main, ost};
   TakeoffFieldsOnForms takeoffFields{rooms, areas};
   ProjectRecordOnTamo projectRecord{main};
-  ReportsShellOnForms reportsShell{shell, reports, ost};
-  WholeQuantitiesInSettings wholeQuantities{settings};
 
   Form11 form11{kit};
   SettingsForm settings{kit, shell};
@@ -55,8 +53,7 @@ struct Program::Parts {
   EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
   BottomLine bottomLine{kit, reportFollows};
   AdjustmentForm adjustment{kit, reportFollows};
-  ReportsForm reports{kit,
-                      {pricingOnForm, projectRecord, reportsShell, pricingOnForm, wholeQuantities}};
+  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost}};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
   Menus menus{kit,

@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kFewestHeads = 3;
 constexpr double kHeadsAbove = 70;   // points over the first rule in which heads may stand
+constexpr double kKeyWidth = 60;     // points from a table's edge in which its numbers begin
 constexpr double kTitleAbove = 40;   // points over a table in which its title stands
 constexpr double kThrough = 0.45;    // of a frame: a rule that goes through it
 constexpr double kMuchLarger = 2.5;  // times the area: what holds a table and more than it
@@ -62,7 +63,7 @@ class Search {
     PageBox held = frame;
     held.top -= kHeadsAbove;
     if (HeadWordsIn(held) < kFewestHeads) return;
-    Found found = Read(frame);
+    Found found = Read(ruled ? WithRowsBelow(frame) : frame);
     if (found.tables.empty()) found = Read(WithHeadsAbove(frame));
     if (found.tables.empty() || !Headed(found) || (ruled && !Divided(found))) return;
     Take(std::move(found));
@@ -91,6 +92,29 @@ class Search {
     };
     return rules(true, frame.left, frame.right) > 2 + found.tables.front().rows.size() / 8 ||
            rules(false, frame.top, frame.bottom) > 4;
+  }
+
+  // Rows without a rule below them: lines that begin with a number, close below the last rule.
+  PageBox WithRowsBelow(PageBox frame) const {
+    for (bool more = true; more;) {
+      more = false;
+      for (const Word& word : drawing_.words) {
+        const double below = word.base - frame.bottom;
+        if (word.way != Way::Right || below <= 0.5 * word.size || below > 2.2 * word.size) continue;
+        if (word.MidX() < frame.left || word.box.left > frame.left + kKeyWidth) continue;
+        if (!LooksLikeNumber(word.text) || WordsBeside(word, frame) < 3) continue;
+        frame.bottom = word.base + 0.4 * word.size;
+        more = true;
+        break;
+      }
+    }
+    return frame;
+  }
+  int WordsBeside(const Word& word, const PageBox& frame) const {
+    return int(std::count_if(drawing_.words.begin(), drawing_.words.end(), [&](const Word& other) {
+      return other.way == Way::Right && std::abs(other.base - word.base) < 0.3 * word.size &&
+             other.box.left > word.box.right + word.size && other.MidX() < frame.right;
+    }));
   }
 
   // Heads without a rule over them: the lines next over the first rule.

@@ -25,6 +25,9 @@ LetterCounts LettersIn(const PageContent& page, const PageBox& box) {
 
 bool PictureOver(const PageContent& page, const PageBox& box) {
   return std::any_of(page.pictures.begin(), page.pictures.end(), [&box](const PicturePiece& one) {
+    const bool picture =
+        one.kind == PicturePiece::Kind::Picture || one.kind == PicturePiece::Kind::Stencil;
+    if (!picture) return false;
     const PageBox shared = one.box.Cut(box);
     return !shared.Empty() && shared.Width() * shared.Height() > 0.3 * box.Width() * box.Height();
   });
@@ -88,9 +91,10 @@ bool GoesOn(const SheetDrawing& sheet, const PageBox& box, const PageBox& table)
 }
 
 // Texts of a table that a side of the box goes through.
-bool CutsText(const SheetDrawing& sheet, const PageBox& box) {
-  return std::count_if(sheet.words.begin(), sheet.words.end(), [&box](const Word& word) {
-           if (word.box.Cut(box).Empty()) return false;
+bool CutsText(const SheetDrawing& sheet, const PageBox& box, const PageBox& table) {
+  return std::count_if(sheet.words.begin(), sheet.words.end(), [&](const Word& word) {
+           const PageBox inside = word.box.Cut(box);
+           if (inside.Empty() || inside.Cut(table).Empty()) return false;
            const double outside = std::max({box.left - word.box.left, word.box.right - box.right,
                                             box.top - word.box.top, word.box.bottom - box.bottom});
            return outside > 0.4 * word.size;
@@ -166,9 +170,9 @@ QString TwoTables(const ScheduleTable& other) {
 QString WhyCut(const SheetDrawing& sheet, const PageBox& box,
                const std::vector<ScheduleTable>& tables) {
   const bool cut = std::any_of(tables.begin(), tables.end(), [&](const ScheduleTable& table) {
-    return GoesOn(sheet, box, table.box);
+    return GoesOn(sheet, box, table.box) || CutsText(sheet, box, table.box);
   });
-  if (!cut && !CutsText(sheet, box)) return {};
+  if (!cut) return {};
   return QStringLiteral(
       "The box cuts through the table. Draw it around the whole table, with its "
       "heads.");

@@ -12,8 +12,10 @@
 namespace tamo {
 namespace {
 
-constexpr double kEdge = 3;     // points around a drawn box that still belong to it
-constexpr double kAround = 40;  // and those that are looked at, for what the box cuts through
+constexpr double kEdge = 3;      // points around a drawn box that still belong to it
+constexpr double kTooSmall = 8;  // points by which a drawn box may miss a rule
+constexpr double kMost = 0.7;    // of a side, that such a rule is long
+constexpr double kAround = 40;   // and those that are looked at, for what the box cuts through
 
 void Back(ScheduleTable& table, Way way, PageSize size) {
   if (way == Way::Right) return;
@@ -68,15 +70,16 @@ std::vector<ScheduleTable> WholeBox(const SheetDrawing& drawing, const PageBox& 
   return tables;
 }
 
-size_t HeadedColumns(const std::vector<ScheduleTable>& tables) {
+size_t KnownColumns(const std::vector<ScheduleTable>& tables) {
   size_t columns = 0;
   for (const ScheduleTable& table : tables) {
-    for (const ScheduleColumn& column : table.columns) columns += column.head.isEmpty() ? 0 : 1;
+    for (const ScheduleColumn& column : table.columns)
+      columns += column.role == ColumnRole::Other ? 0 : 1;
   }
   return columns;
 }
 
-// The tables in a drawn box; the whole box as one where that has more columns.
+// The tables in a drawn box; the whole box as one where that has more of a room's columns.
 std::vector<ScheduleTable> TablesInBox(const SheetDrawing& drawing, const PageBox& box,
                                        const ScheduleTable* before) {
   std::vector<ScheduleTable> tables = TablesOfAllWays(drawing);
@@ -85,7 +88,7 @@ std::vector<ScheduleTable> TablesInBox(const SheetDrawing& drawing, const PageBo
   if (tables.empty()) return whole;
   const bool better = whole.size() == 1 && whole[0].kind == tables[0].kind &&
                       whole[0].rows.size() >= tables[0].rows.size() &&
-                      HeadedColumns(whole) > HeadedColumns(tables);
+                      KnownColumns(whole) > KnownColumns(tables);
   return better ? whole : tables;
 }
 
@@ -104,6 +107,23 @@ void KeepFinishes(std::vector<ScheduleTable>& tables) {
       tables.end());
 }
 
+// A box drawn a little too small: out to the rule beside each of its sides.
+PageBox OutToRules(const PageBox& box, const SheetDrawing& sheet) {
+  PageBox out = box;
+  for (const Rule& rule : sheet.rules) {
+    const double from = std::max(rule.from, rule.along ? box.left : box.top);
+    const double to = std::min(rule.to, rule.along ? box.right : box.bottom);
+    if (to - from < kMost * (rule.along ? box.Width() : box.Height())) continue;
+    double& low = rule.along ? out.top : out.left;
+    double& high = rule.along ? out.bottom : out.right;
+    const double boxLow = rule.along ? box.top : box.left;
+    const double boxHigh = rule.along ? box.bottom : box.right;
+    if (rule.at < boxLow && rule.at >= boxLow - kTooSmall) low = std::min(low, rule.at);
+    if (rule.at > boxHigh && rule.at <= boxHigh + kTooSmall) high = std::max(high, rule.at);
+  }
+  return out;
+}
+
 ScheduleReading Refused(const QString& why) {
   return {why, {}};
 }
@@ -119,11 +139,12 @@ std::vector<ScheduleTable> FindTables(const PageContent& page) {
 ScheduleReading ReadSchedule(const PageContent& page, const std::optional<PageBox>& box,
                              const ScheduleTable* before) {
   const PageBox whole = {0, 0, page.size.width, page.size.height};
-  const PageBox area = box.has_value() ? *box : whole;
+  PageBox area = box.has_value() ? *box : whole;
   const QString unreadable = WhyUnreadable(page, area, box.has_value());
   if (!unreadable.isEmpty()) return Refused(unreadable);
   const SheetDrawing sheet =
       box.has_value() ? DrawingOf(Near(page, Grown(area, kAround))) : DrawingOf(page);
+  if (box.has_value()) area = OutToRules(area, sheet);
   const SheetDrawing drawing = box.has_value() ? Inside(sheet, Grown(area, kEdge)) : sheet;
   std::vector<ScheduleTable> tables =
       box.has_value() ? TablesInBox(drawing, area, before) : TablesOfAllWays(drawing);

@@ -24,7 +24,7 @@ void CheckPrice(const tamo::SystemFile& system) {
   try {
     const auto price = tamo::EstimateUnitPrice(system.blocks, {});
     Must(!price.text.contains(QLatin1String("inf")) && !price.text.contains(QLatin1String("nan")));
-    tamo::PriceMoney(system.unitPrice);
+    tamo::PriceFormat::MakeMoney(system.unitPrice);
   } catch (const tamo::RunTimeFailure& failure) {
     Must(failure.number == tamo::kOverflow);
   }

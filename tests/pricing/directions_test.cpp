@@ -23,37 +23,51 @@ MaterialBlock Stored(const char* orderUnits, const char* ratio, const char* labo
   return block;
 }
 
-TEST(Directions, AMaterialThatIsTypedNewIsStoredAsItsPromptsAsk) {
+TEST(Directions, AMaterialThatIsTypedNewIsStoredAsItsPromptBegins) {
   const Directions none;
   EXPECT_EQ(none.Ratio(), "");
-  EXPECT_EQ(none.RatioToStore(Asking("How many SF per SHT"), kBoard, {}), "upo");
-  EXPECT_EQ(none.RatioToStore(Asking("How many (s) per SF"), kBoard, {}), "opu");
+  EXPECT_EQ(none.RatioToStore(Asking("How many SF per SHT"), kBoard, {}, true), "upo");
+  EXPECT_EQ(none.RatioToStore(Asking("SHT(s) per SF:"), kBoard, {}, true), "opu");
   EXPECT_EQ(none.LaborToStore(Asking("", "SF per Manhour:"), kBoard, {}), "upm");
   EXPECT_EQ(none.LaborToStore(Asking("", "Manhours per SF:"), kBoard, {}), "mpu");
-  EXPECT_EQ(none.LaborToStore(Asking("", "How many per manhour"), kBoard, QString()), "upm");
+  EXPECT_EQ(none.LaborToStore(Asking("", "How many per manhour"), kBoard, {}), "upm");
 }
 
-TEST(Directions, APromptThatEndsInBothUnitsIsReadByItsWords) {
+TEST(Directions, ABlockWithoutADirectionIsStoredAsItsPromptEnds) {
   const PromptNames feet{"LFT", "FT", "Rail", "Tube"};
   const Directions none;
-  EXPECT_EQ(none.RatioToStore(Asking("How many LFT per FT"), feet, QString()), "upo");
-  EXPECT_EQ(none.RatioToStore(Asking("How many FT(s) per LFT"), feet, QString()), "opu");
+  EXPECT_EQ(none.RatioToStore(Asking("How many LFT per FT"), feet, QString(), true), "upo");
+  EXPECT_EQ(none.RatioToStore(Asking("How many FT(s) per LFT"), feet, QString(), true), "upo");
+  EXPECT_EQ(none.RatioToStore(Asking("SHT(s) per SF"), kBoard, QString(), true), "opu");
+  EXPECT_EQ(none.RatioToStore(Asking("SF per SHT:"), kBoard, QString("was"), true), "was");
+  EXPECT_EQ(none.LaborToStore(Asking("", "How many per manhour"), kBoard, QString()), "mpu");
 }
 
 TEST(Directions, HowManyPerTakeoffUnitIsAnsweredInOrderUnits) {
   Directions directions;
-  EXPECT_EQ(directions.RatioToStore(Asking("How many per SF:"), kClip, {}), "opu");
-  EXPECT_EQ(directions.RatioToStore(Asking("How many per SF:"), kClip, QString()), "opu");
-  // Once it stands there, whatever was in force.
+  const Prompts asked = Asking("How many per SF:");
+  EXPECT_EQ(directions.RatioToStore(asked, kClip, {}, true), "opu");
+  EXPECT_EQ(directions.RatioToStore(asked, kClip, QString(), true), "opu");
+  // Bought by the sheet before: once it stands there, whatever was in force.
   directions.TakeRatio("upo", "SHT");
-  EXPECT_EQ(directions.RatioToStore(Asking("How many per SF:"), kClip, QString("upo")), "opu");
-  EXPECT_EQ(directions.RatioToStore(Asking("How many SF per EA"), kClip, QString("upo")), "upo");
+  EXPECT_EQ(directions.RatioToStore(asked, kClip, QString("upo"), false), "opu");
+  EXPECT_EQ(directions.RatioToStore(Asking("How many SF per EA"), kClip, QString("upo"), true),
+            "upo");
+}
+
+TEST(Directions, WalkingThroughANumberNeverTurnsIt) {
+  Directions directions;
+  const Prompts asked = Asking("How many per SF:");
+  directions.TakeRatio("upo", "EA");
+  EXPECT_EQ(directions.RatioToStore(asked, kClip, QString("upo"), false), "upo");
+  EXPECT_EQ(directions.RatioToStore(asked, kClip, {}, false), "upo");  // from the library
+  EXPECT_EQ(directions.RatioToStore(asked, kClip, QString("upo"), true), "opu");
 }
 
 TEST(Directions, WhatIsInForceIsStored) {
   Directions directions;
   directions.TakeBlock(Stored("SHT", "opu", "mpu"));
-  EXPECT_EQ(directions.RatioToStore(Asking("SF per SHT"), kBoard, QString("opu")), "opu");
+  EXPECT_EQ(directions.RatioToStore(Asking("SF per SHT"), kBoard, QString("opu"), true), "opu");
   EXPECT_EQ(directions.LaborToStore(Asking("", "SF per Manhour:"), kBoard, QString("mpu")), "mpu");
   directions.Forget();
   EXPECT_EQ(directions.Ratio(), "");
@@ -81,9 +95,9 @@ TEST(Directions, ANumberCameForItsOrderUnit) {
 
 TEST(Directions, AToggleTurnsOnceAndBack) {
   Directions directions;
-  directions.TurnRatio(Asking("How many SF per SHT"), kBoard, {});
+  directions.TurnRatio(Asking("How many SF per SHT"), kBoard);
   EXPECT_EQ(directions.Ratio(), "opu");
-  directions.TurnRatio(Asking("How many SHT(s) per SF Wall"), kBoard, {});
+  directions.TurnRatio(Asking("How many SHT(s) per SF Wall"), kBoard);
   EXPECT_EQ(directions.Ratio(), "upo");
   directions.TurnLabor(Asking(""), kBoard, {});
   EXPECT_EQ(directions.Labor(), "mpu");
@@ -93,7 +107,7 @@ TEST(Directions, AToggleTurnsOnceAndBack) {
 
 TEST(Directions, AToggleTurnsAwayFromWhatIsRead) {
   Directions counted;
-  counted.TurnRatio(Asking("How many per SF:"), kClip, {});
+  counted.TurnRatio(Asking("How many per SF:"), kClip);
   EXPECT_EQ(counted.Ratio(), "upo");
   Directions metres;
   metres.TurnLabor(Asking("", "Manhours per M of Cable:"), {"M", "BOX", "Cable", "Tape"}, {});

@@ -68,15 +68,17 @@ TEST(OpenSystem, UnderANewNameItIsANewSystem) {
   EXPECT_TRUE(room.messages.texts.isEmpty());
 }
 
-TEST(OpenSystem, ASystemThatIsInNoListIsOpenedByItsName) {
+TEST(OpenSystem, ANameThatIsInNoListBeginsAnEmptySystem) {
   PricingRoom room;
   room.Library("Wall", "SF", "0.00", Stud());
+  const QByteArray wall = room.Bytes("Systems/Wall.sys");
   room.form.DescriptionsList.Clear();  // as after an import
   room.Open();
   room.Enter("Wall");
-  EXPECT_EQ(room.FocusName(), "Material");
-  EXPECT_EQ(room.form.Material.Text(), "Stud");
+  EXPECT_EQ(room.FocusName(), "Units");
+  EXPECT_TRUE(room.form.System.Empty());
   EXPECT_EQ(room.Lines("Descriptions.tamo"), QStringList{"Wall"});
+  EXPECT_EQ(room.Bytes("Systems/Wall.sys"), wall);
 }
 
 TEST(OpenSystem, ANameThatWasDeletedBeginsAnew) {

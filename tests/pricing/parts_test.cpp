@@ -58,7 +58,7 @@ TEST_F(Parts, AnOpenSystemIsTakenAndWritten) {
   EXPECT_EQ(bench.MaterialList.Rows(), (QStringList{"Stud", "Drywall"}));
   EXPECT_GT(Value(bench.EUP.Caption()), 0);
   EXPECT_EQ(bench.open.AsFile().blocks, Stud() + Drywall());
-  bench.open.Store();
+  bench.open.SaveSystem();
   EXPECT_EQ(Library(S("Wall.sys")).mid(8), Stud() + Drywall());
   bench.open.Empty();
   EXPECT_TRUE(bench.blocks.Empty());
@@ -78,7 +78,7 @@ TEST_F(Parts, ThePriceBringsUpTheNumberThatIsZero) {
   blocks[12 + 3] = S("0");
   bench.open.Take({S("Wall"), S("SF"), S("0.00"), {}, {}, blocks});
   const QString soFar = bench.EUP.Caption();
-  EXPECT_THROW(bench.price.Make(), RunTimeFailure);
+  EXPECT_THROW(bench.price.MakeEUP(), RunTimeFailure);
   EXPECT_EQ(bench.EUP.Caption(), soFar);
   EXPECT_EQ(bench.MaterialList.Index(), 1);
   EXPECT_TRUE(bench.UPO.HasFocus());
@@ -87,7 +87,7 @@ TEST_F(Parts, ThePriceBringsUpTheNumberThatIsZero) {
 TEST_F(Parts, AMaterialComesUpAndGoesBackAsItWas) {
   bench.open.Take(Wall());
   bench.MaterialList.SetIndex(0);
-  bench.material.ComeUpWithPrompts();
+  bench.material.ShowSystem();
   EXPECT_EQ(bench.LabelUPO.Caption(), S("How many LF(s) per SF"));
   EXPECT_EQ(bench.material.ToStore().Rows(), Stud());
   bench.material.TurnRatio();
@@ -100,28 +100,13 @@ TEST_F(Parts, AMaterialComesUpAndGoesBackAsItWas) {
 TEST_F(Parts, AMaterialFileReadsBackAsItWasWritten) {
   bench.Description.SetText(S("Wall"));
   bench.Units.SetText(S("SF"));
-  bench.material.SaveToLibrary(MaterialBlock::At(Stud(), 0));
+  bench.material.SaveMaterial(MaterialBlock::At(Stud(), 0));
   EXPECT_EQ(Library(S("Stud.mat")), Stud().mid(0, 9));
-  bench.material.Clear();
+  bench.material.ClearSomeStuff();
   bench.Material.SetText(S("Stud"));
-  bench.material.LoadFromLibrary();
+  bench.material.LoadMaterial();
   EXPECT_TRUE(bench.material.FromLibrary());
   EXPECT_EQ(bench.material.ToStore().Rows(), Stud());
-}
-
-TEST_F(Parts, APromptThatMisleadsIsReworded) {
-  bench.Units.SetText(S("SF"));
-  bench.OrderUnits.SetText(S("LF"));
-  bench.LabelUPO.SetCaption(S("SF per LF"));
-  bench.LabelMnhr.SetCaption(S("SF per Manhour:"));
-  Directions directions;
-  bench.material.prompts.RewordRatioIfItMisleads(directions);  // no direction, nothing to say
-  EXPECT_EQ(bench.LabelUPO.Caption(), S("SF per LF"));
-  directions.TakeRatio(S("opu"), S("LF"));
-  directions.TakeLabor(S("mpu"));
-  bench.material.prompts.RewordRatioIfItMisleads(directions);
-  EXPECT_EQ(bench.LabelUPO.Caption(), S("How many LF(s) per SF"));
-  EXPECT_EQ(bench.LabelMnhr.Caption(), S("Manhours per SF of :"));
 }
 
 }  // namespace

@@ -264,14 +264,23 @@ QString PricingGame::BrokenPrice(bool saved) {
   return S("price: %1 is shown for %2").arg(shown).arg(SumOf(form.System.Rows(), markups));
 }
 
-// Whoever stands in a conversion number reads what will be stored with it.
+// Whoever types a conversion number reads what will be stored with it. The takeoff unit and the
+// price set their prompts also over a number that came with a direction: the direction holds.
 QString PricingGame::BrokenPrompt() const {
   const MaterialBlock stored = form.inWork.ToStore();
-  const QString ratio = RatioAsked(form.LabelUPO.Caption(), form.Units.Text());
-  if (desk_.Focused() == &form.UPO && ratio != stored.upoTag)
-    return S("prompt: \"%1\" and %2").arg(form.LabelUPO.Caption(), stored.upoTag);
-  if (desk_.Focused() == &form.MnhrPO && LaborAsked(form.LabelMnhr.Caption()) != stored.mnhrTag)
-    return S("prompt: \"%1\" and %2").arg(form.LabelMnhr.Caption(), stored.mnhrTag);
+  const QString units = form.Units.Text();
+  const QString upo = form.LabelUPO.Caption();
+  const QString mnhr = form.LabelMnhr.Caption();
+  const Directions& held = form.inWork.directions;
+  const bool ofUnits = upo.startsWith(units + S(" per ")) || upo.startsWith(S("How many per "));
+  const bool ofPrice =
+      upo == S("How many per ") + units + ':' && !form.inWork.fields.Typed(MaterialFields::kUpo);
+  if (desk_.Focused() == &form.UPO && RatioAsked(upo, units) != stored.upoTag &&
+      !(!held.Ratio().isEmpty() && (ofUnits || ofPrice)))
+    return S("prompt: \"%1\" and %2").arg(upo, stored.upoTag);
+  if (desk_.Focused() == &form.MnhrPO && LaborAsked(mnhr) != stored.mnhrTag &&
+      !(!held.Labor().isEmpty() && mnhr.endsWith(S(" per Manhour:"))))
+    return S("prompt: \"%1\" and %2").arg(mnhr, stored.mnhrTag);
   return {};
 }
 

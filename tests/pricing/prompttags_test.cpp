@@ -19,27 +19,47 @@ struct TagCase {
   const char* orderUnits;
   const char* label;
   const char* newBlock;
+  const char* block;  // with "was" standing
 };
 
 TEST(RatioTags, Table) {
   const TagCase cases[] = {
-      {"SF", "SHT", "How many SF per SHT", "upo"},
-      {"SF", "SHT", "How many SHT(s) per SF", "upo"},
-      {"SF", "SHT", "SF per SHT:", "upo"},
-      {"SF", "SHT", "SHT(s) per SF:", "opu"},
-      {"SF", "SHT", "SHT(s) per SF", "opu"},
-      {"SF", "EA", "How many per SF:", "upo"},
-      {"SF", "SHT", "How many", "opu"},  // eight characters are not longer than eight
-      {"SF", "SHT", "something", "opu"},
-      {"S", "SHT", "SHT(s) per S", "upo"},
-      {"LFT", "FT", "FT(s) per LFT", "opu"},
+      {"SF", "SHT", "How many SF per SHT", "upo", "upo"},
+      {"SF", "SHT", "How many SHT(s) per SF", "upo", "opu"},
+      {"SF", "SHT", "SF per SHT:", "upo", "was"},
+      {"SF", "SHT", "SHT(s) per SF:", "opu", "was"},
+      {"SF", "SHT", "SHT(s) per SF", "opu", "opu"},
+      {"SF", "EA", "How many per SF:", "upo", "was"},
+      {"SF", "SHT", "How many", "opu", "was"},  // eight characters are not longer than eight
+      {"SF", "SHT", "something", "opu", "was"},
+      {"S", "SHT", "SHT(s) per S", "upo", "opu"},
+      {"LFT", "FT", "FT(s) per LFT", "opu", "upo"},  // ends in both: the first wins
   };
   for (const TagCase& c : cases) {
     Prompts prompts;
     prompts.labelUPO = c.label;
     const PromptNames names = With(c.units, c.orderUnits);
     EXPECT_TEXT(RatioTagOfNewBlock(prompts, names), c.newBlock) << c.label;
+    EXPECT_TEXT(RatioTagOfBlock(prompts, names, "was"), c.block) << c.label;
   }
+}
+
+TEST(RatioTags, APlaceThatWasInsertedHasNoTagToKeep) {
+  Prompts prompts;
+  prompts.labelUPO = "SHT(s) per SF:";
+  EXPECT_TEXT(RatioTagOfBlock(prompts, With("SF", "SHT"), QString()), "opu");
+}
+
+TEST(RatioTags, AToggleAlwaysHasADirectionToTurnFrom) {
+  const auto turned = [](const char* label) {
+    Prompts prompts;
+    prompts.labelUPO = label;
+    return RatioTagToTurn(prompts, With("SF", "EA"));
+  };
+  EXPECT_TEXT(turned("How many SF per EA"), "upo");
+  EXPECT_TEXT(turned("How many EA(s) per SF"), "opu");
+  EXPECT_TEXT(turned("EA(s) per SF:"), "opu");
+  EXPECT_TEXT(turned("How many per SF:"), "opu");  // as a finished material would be stored
 }
 
 TEST(LaborTags, Table) {
@@ -64,32 +84,6 @@ TEST(LaborTags, Table) {
     EXPECT_TEXT(LaborTagOfNewBlock(prompts, With(c.units, "SHT")), c.newBlock) << c.label;
     EXPECT_TEXT(LaborTagOfBlock(prompts), c.block) << c.label;
   }
-}
-
-TEST(WhatIsRead, TheDirectionThatTheWordsTell) {
-  const auto ratio = [](const char* label, const char* orderUnits = "SHT") {
-    Prompts prompts;
-    prompts.labelUPO = label;
-    return prompts.RatioRead(With("SF", orderUnits));
-  };
-  EXPECT_TEXT(ratio("SF per SHT"), "upo");
-  EXPECT_TEXT(ratio("How many SF per SHT"), "upo");
-  EXPECT_TEXT(ratio("How many per SHT:"), "upo");
-  EXPECT_TEXT(ratio("How many Wall per SHT:"), "upo");
-  EXPECT_TEXT(ratio("SHT(s) per SF:"), "opu");
-  EXPECT_TEXT(ratio("How many SHT(s) per SF Wall:"), "opu");
-  EXPECT_TEXT(ratio("How many per SF:", "EA"), "opu");
-  EXPECT_TEXT(ratio("How many per SF", "EA"), "opu");
-  const auto labor = [](const char* label) {
-    Prompts prompts;
-    prompts.labelMnhr = label;
-    return prompts.LaborRead();
-  };
-  EXPECT_TEXT(labor("SF per Manhour:"), "upm");
-  EXPECT_TEXT(labor("M per Manhour:"), "upm");
-  EXPECT_TEXT(labor("How many per Manhour:"), "upm");
-  EXPECT_TEXT(labor("How many per manhour"), "upm");
-  EXPECT_TEXT(labor("Manhours per M:"), "mpu");
 }
 
 }  // namespace

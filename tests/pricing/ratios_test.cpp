@@ -173,7 +173,7 @@ TEST(LoadedPrompts, ATagOfTheLibraryWinsOverTheEndOfThePrompt) {
   PricingRoom room;
   room.Write("Systems/Stud.mat", Stud().mid(0, 9));
   room.Write("Materials.tamo", {"Stud"});
-  room.form.vocabulary.materials.Load();
+  room.form.vocabulary.LoadMaterials();
   room.NewSystem("Wall");
   room.Enter("Stud");
   room.Press(Key::Name::Enter);
@@ -192,7 +192,7 @@ TEST(LoadedPrompts, AMaterialFileWithALostTagLineLoadsShiftedByTheLetter) {
   lines.removeAt(4);
   room.Write("Systems/Board.mat", lines);
   room.Write("Materials.tamo", {"Board"});
-  room.form.vocabulary.materials.Load();
+  room.form.vocabulary.LoadMaterials();
   room.NewSystem("Wall");
   room.Enter("Board");
   EXPECT_EQ(room.form.UPO.Text(), "16");

@@ -166,7 +166,7 @@ TEST(SystemChain, AnEmptyNameLeavesTheForm) {
 TEST(SystemChain, UnitsThatAreTypedAreNotAddedToTheList) {
   PricingRoom room;
   room.Write("Units.tamo", {"SF", "LF"});
-  room.form.vocabulary.units.Load();
+  room.form.vocabulary.LoadUnits();
   room.Open();
   room.Enter("Wall");
   EXPECT_TRUE(room.form.UnitsList.Shown());
@@ -179,7 +179,7 @@ TEST(SystemChain, UnitsThatAreTypedAreNotAddedToTheList) {
 TEST(SystemChain, AChosenUnitLeadsToThePrice) {
   PricingRoom room;
   room.Write("Units.tamo", {"SF", "LF"});
-  room.form.vocabulary.units.Load();
+  room.form.vocabulary.LoadUnits();
   room.Open();
   room.Enter("Wall");
   room.Row(room.form.UnitsList, 1);

@@ -119,11 +119,11 @@ TEST(PriceMoney, Table) {
       {"  7", "7.00"},      {"1,500", "1.00"},
       {"-12.34", "-12.34"}, {"1234567", "1234567.00"},
       {".001", ".00"}};
-  for (const auto& [text, money] : cases) EXPECT_EQ(PriceMoney(text), money) << text;
+  for (const auto& [text, money] : cases) EXPECT_EQ(PriceFormat::MakeMoney(text), money) << text;
 }
 
 TEST(PriceMoney, AValueBeyondEveryNumberIsAFailure) {
-  EXPECT_THROW(PriceMoney(QString(400, '9')), RunTimeFailure);
+  EXPECT_THROW(PriceFormat::MakeMoney(QString(400, '9')), RunTimeFailure);
 }
 
 TEST(ActualProfit, JoinsTheTextsAndDividesByTheMarkup) {

@@ -16,12 +16,4 @@ struct MarkupFactors {
   double BottomLineSum() const { return BLOH + BLTX + BLMU + MIOH + MITX + MIMU; }
 };
 
-// What the reports need of the form that keeps the markups.
-class MarkupSource {
- public:
-  virtual ~MarkupSource() = default;
-  virtual void LoadMarkups() = 0;  // the open project's markups into the fields
-  virtual Markups Texts() const = 0;
-};
-
 }  // namespace tamo
