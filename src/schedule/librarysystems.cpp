@@ -46,11 +46,7 @@ QString MakeEmptySystem(Files& files, const SharedFields& shared, const QString&
   system.description = name;
   system.units = units;
   system.unitPrice = QStringLiteral("0.00");
-  const int error = files.SaveText(path, SystemFileText(system));
-  if (error != 0) {
-    return QStringLiteral("The system %1 is not on the disk yet: %2. Make room, then try again.")
-        .arg(name, ReasonText(error));
-  }
+  files.SaveText(path, SystemFileText(system));
   systems.prepend(name);
   WriteNames(files, shared, NameList::Systems, systems);
   return {};

@@ -13,7 +13,8 @@ QString InLibrary(const QStringList& systems, const QString& name);
 
 // A new system of the library without a price, to be priced later: its file with the takeoff unit
 // `units`, and its name at the top of the list. "" when it was made; else why not, and nothing was
-// changed. A name that a comma, a line end or 20 characters would spoil is refused.
+// changed. A name with a comma, a quotation mark or more than 20 characters is refused. What the
+// disk does not take is tried again with the pending saves.
 QString MakeEmptySystem(Files& files, const SharedFields& shared, const QString& name,
                         const QString& units);
 

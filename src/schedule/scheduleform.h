@@ -46,7 +46,7 @@ class ScheduleForm : public Form {
   Label AreasLabel{*this, "AreasLabel", "Finish areas:"};
   TextField FloorArea{*this, "FloorArea", 10};  // of the lines that are made
   TextField BaseArea{*this, "BaseArea", 10};
-  TextField WallsArea{*this, "WallsArea", 7};  // a blank and the sides may follow
+  TextField WallsArea{*this, "WallsArea", 6};  // a blank and the sides may follow
   TextField CeilingArea{*this, "CeilingArea", 10};
   OrderedList Columns{*this, "Columns"};  // of the last part: the head, a tab, its meaning
   Label MeaningLabel{*this, "MeaningLabel", "Meaning:"};
