@@ -104,6 +104,8 @@ bool ScheduleForm::TakeFromPlan() {
     return false;
   }
   taken_ = box.value_or(PageBox{});
+  if (parts_.empty()) legend_.clear();
+  legend_.merge(LegendOf(FindTables(page)));
   for (ScheduleTable& table : reading.parts) {
     parts_.push_back(std::move(table));
     pages_.push_back(viewer.Page());
@@ -245,6 +247,8 @@ void ScheduleForm::ShowSystem() {
   const QString code = Key.Selected();
   CodeLabel.SetCaption(code.isEmpty() ? QStringLiteral("System:")
                                       : QStringLiteral("System of %1:").arg(code));
+  const auto told = legend_.find(code.toUpper());
+  LegendText.SetCaption(told == legend_.end() ? QString() : told->second);
   System.SetText(SystemOfCode(key_, code));
   if (Key.Index() >= 0) GetDesk().Focus(System);
 }

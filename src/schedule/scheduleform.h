@@ -7,6 +7,7 @@
 #include "common/kit.h"
 #include "plans/ostform.h"
 #include "records/finishkey.h"
+#include "schedule/legend.h"
 #include "schedule/plannedrooms.h"
 #include "schedule/roommaking.h"
 #include "schedule/scheduleedits.h"
@@ -60,6 +61,7 @@ class ScheduleForm : public Form {
   OrderedList Key{*this, "Key"};        // the codes
   Label CodeLabel{*this, "CodeLabel", "System:"};
   TextField System{*this, "System", 20};
+  Label LegendText{*this, "LegendText"};  // what the sheet says of the selected code
   Label SystemPrompt{*this, "SystemPrompt", "Leave blank and press Enter to leave the code out"};
 
  private:
@@ -107,6 +109,7 @@ class ScheduleForm : public Form {
   std::vector<FinishRow> rows_;
   ScheduleEdits edits_;
   FinishKey key_;
+  Legend legend_;  // of the sheets that were read
   MadeRooms made_;
 };
 

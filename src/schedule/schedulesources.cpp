@@ -34,6 +34,7 @@ void ScheduleForm::ReadText(const QString& text) {
   parts_ = std::move(reading.parts);
   pages_.assign(parts_.size(), kNoPage);
   edits_.Clear();
+  legend_.clear();
   Pasted.Clear();
   ShowAll();
 }

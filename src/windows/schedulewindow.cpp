@@ -79,6 +79,7 @@ void LayOutSchedule(Builder& b) {
   auto* codes = new QVBoxLayout;
   codes->addWidget(Section(QStringLiteral("Finish codes")));
   codes->addWidget(b.List("Key", QStringLiteral("Finish codes"), 24, 8), 1);
+  codes->addWidget(b.Text("LegendText"));
   FieldColumn system(*codes);
   system.Add(b.Caption("CodeLabel"), b.Field("System", 22), b.Prompt("SystemPrompt"));
   codes->addWidget(b.Text("UnpricedNames"));
