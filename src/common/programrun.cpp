@@ -54,7 +54,7 @@ QString MachineId() {
 
 QString UserName() {
   for (const char* name : {"USER", "LOGNAME", "USERNAME"}) {
-    const QString user = qEnvironmentVariable(name).simplified();
+    QString user = qEnvironmentVariable(name).simplified();
     if (!user.isEmpty()) return user;
   }
   return QStringLiteral("user %1").arg(::getuid());
@@ -65,9 +65,8 @@ QString UserName() {
 ProgramRun BeginRun() {
   const qint64 process = QCoreApplication::applicationPid();
   static const QString machineId = MachineId();
-  const ProgramRun run{UserName(),       QSysInfo::machineHostName().simplified(),
-                       machineId,        process,
-                       StartOf(process), QUuid::createUuid().toString(QUuid::Id128)};
+  ProgramRun run{UserName(),       QSysInfo::machineHostName().simplified(),  machineId, process,
+                 StartOf(process), QUuid::createUuid().toString(QUuid::Id128)};
   const std::lock_guard lock(Live().mutex);
   Live().names.insert(run.run);
   return run;
