@@ -21,6 +21,8 @@ namespace {
 
 // How long the window waits for a plan before it shows a blank sheet and goes on.
 constexpr int kPatience = 80;
+// How often it is looked whether a project that another program has open is free; milliseconds.
+constexpr int kTick = 3000;
 
 QString HomeFolder() {
 #ifdef Q_OS_WIN
@@ -77,6 +79,9 @@ int main(int argc, char** argv) {
                    [&program](QSessionManager& session) {
                      if (!program.MayEnd()) session.cancel();
                    });
+  QTimer ticks;
+  QObject::connect(&ticks, &QTimer::timeout, &ticks, [&program] { program.Tick(); });
   program.Start();
+  ticks.start(kTick);
   return QApplication::exec();
 }

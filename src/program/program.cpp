@@ -33,7 +33,8 @@ struct Program::Parts {
   const Kit kit{desk, files, shared, platform};
 
   Shell shell{kit, main, settings, ost};
-  FollowersOnForms followers{pricing, adjustment, reports};
+  FollowersOnForms followers{
+      pricing, adjustment, reports, ost, {&pricing, &rooms, &areas, &bottomLine, &adjustment}};
   ReportFollows reportFollows{reports};
   StartOfPricing startOfPricing{settings, main};
   PricingOnForm pricingOnForm{pricing, ost};
@@ -64,7 +65,8 @@ struct Program::Parts {
 Program::Program(const Platform& platform, PdfDraw& viewer)
     : parts_(new Parts{.platform = platform, .viewer = viewer}) {
   Parts& parts = *parts_;
-  parts.shell.onEnded = [this] {
+  parts.shell.onEnded = [this, &parts] {
+    parts.main.hold.End();
     if (onEnded) onEnded();
   };
   parts.shell.beforeEnd = [&parts] { parts.bottomLine.SaveUnsaved(); };
@@ -107,6 +109,11 @@ const QString* Program::FindText(const QString& form, const QString& name) {
 
 void Program::TrySavesAgain() {
   parts_->desk.Dispatch([this] { parts_->files.TryAgain(); });
+}
+
+void Program::Tick() {
+  if (parts_->desk.InEvent() || !Running()) return;
+  parts_->desk.Dispatch([this] { parts_->main.hold.Tick(); });
 }
 
 bool Program::MayEnd() {

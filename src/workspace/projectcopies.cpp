@@ -26,6 +26,7 @@ void ProjectCopies::PasteProject() {
     messages.Tell(QStringLiteral("Create new project to paste %1 into.").arg(source));
     return;
   }
+  if (!parts_.hold.NeedWritable()) return;
   CopyProjectFiles(kit_.files, kit_.shared, source, target);
   messages.Tell(QStringLiteral("%1 has been copied into %2.").arg(source, target));
 }

@@ -75,6 +75,7 @@ Seat& Runner::SeatOf(const Step& step) {
   std::unique_ptr<Seat>& seat = seats_[step.second ? 1 : 0];
   if (seat == nullptr)
     seat = std::make_unique<Seat>(step.second ? secondMachine_ : machine_, stages_(), programs_);
+  seat->Tick();
   return *seat;
 }
 
