@@ -37,6 +37,11 @@ QString ConfigFolder() {
       QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
 }
 
+void LookAbout(QTimer& ticks, tamo::Program& program) {
+  QObject::connect(&ticks, &QTimer::timeout, &ticks, [&program] { program.Tick(); });
+  ticks.start(kTick);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -79,9 +84,8 @@ int main(int argc, char** argv) {
                    [&program](QSessionManager& session) {
                      if (!program.MayEnd()) session.cancel();
                    });
-  QTimer ticks;
-  QObject::connect(&ticks, &QTimer::timeout, &ticks, [&program] { program.Tick(); });
   program.Start();
-  ticks.start(kTick);
+  QTimer ticks;
+  LookAbout(ticks, program);
   return QApplication::exec();
 }

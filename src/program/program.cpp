@@ -119,7 +119,8 @@ void Program::TrySavesAgain() {
 }
 
 void Program::Tick() {
-  if (parts_->desk.InEvent() || !Running()) return;
+  if (!Running()) return;
+  if (parts_->desk.InEvent()) return parts_->main.hold.TickInEvent();
   parts_->desk.Dispatch([this] { parts_->main.hold.Tick(); });
 }
 

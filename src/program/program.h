@@ -41,7 +41,7 @@ class Program {
   // The strip at the foot of every window was clicked.
   void TrySavesAgain();
   // Every few seconds: renews the hold on the open project, or looks whether it is free by now.
-  // Does nothing in the middle of an event.
+  // In the middle of an event, while a message waits for its answer, it only renews.
   void Tick();
   // Asks, when saves are pending, whether to end all the same; true when the program may end.
   bool MayEnd();

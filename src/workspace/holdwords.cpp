@@ -49,11 +49,37 @@ QString TakeOverQuestion(const InUse& sign, const QDateTime& now) {
       .arg(User(sign), Machine(sign), LocalTime(last, now));
 }
 
-QString TakenOverText(const InUse& sign) {
+QString TakenOverText(const InUse& sign, const QStringList& unsaved) {
+  const QString saved = unsaved.isEmpty()
+                            ? QStringLiteral("What you entered until then is saved")
+                            : QStringLiteral("What you entered until then is saved, but for:\n%1\n")
+                                  .arg(unsaved.join(QLatin1Char('\n')));
   return QStringLiteral(
-             "This project was taken over on %1 by %2. What you entered until then is saved; from "
-             "here on you can only read it, until it is closed there.")
-      .arg(Machine(sign), User(sign));
+             "This project was taken over on %1 by %2. %3; from here on you can only read it, "
+             "until it is closed there.")
+      .arg(Machine(sign), User(sign), saved);
+}
+
+QString WaitingQuestion(const QStringList& waiting) {
+  return QStringLiteral(
+             "This project can be written here again. What you entered before it was taken over "
+             "still waits to be saved:\n%1\n\nSave it now over what stands there? With No it is "
+             "dropped.")
+      .arg(waiting.join(QLatin1Char('\n')));
+}
+
+QString UnsignedTitle() {
+  return QStringLiteral("other programs can't be told that this project is open");
+}
+
+QString GoneText() {
+  return QStringLiteral(
+      "The folder of this project is gone: it was deleted elsewhere, or its drive can't be "
+      "reached. Nothing is written there until it is back.");
+}
+
+QString GoneTitle() {
+  return QStringLiteral("read only, its folder is gone");
 }
 
 }  // namespace tamo

@@ -34,7 +34,9 @@ bool ProjectHold::Gone(const InUse& sign) const {
   return Here(sign) && RunIsGone(sign.owner);
 }
 
-bool ProjectHold::NeedWritable() const {
+bool ProjectHold::NeedWritable() {
+  if (state_ == State::Mine) RenewIfDue(held_, kPatience);
+  SayLost();
   if (!ReadOnly()) return true;
   kit_.desk.GetMessages().Tell(kit_.shared.ReadOnly);
   return false;
@@ -46,12 +48,13 @@ void ProjectHold::Open() {
   Leave();
   held_ = {project.InUse(), project.Path(), {}};
   std::erase_if(kept_, [&](const Held& kept) { return kept.path == held_.path; });
-  Take(true);
+  Take();
 }
 
 void ProjectHold::Leave() {
   if (state_ == State::None) return;
-  if (state_ == State::Mine && WaitsBelow(held_.folder)) {
+  if (state_ != State::Unsigned && !WaitingBelow(held_.folder).isEmpty()) {
+    held_.lost = held_.lost || state_ == State::Theirs;
     kept_.push_back(held_);
   } else if (state_ == State::Mine) {
     ReleaseInUse(kit_.files.GetDisk(), held_.path, me_);
@@ -66,58 +69,64 @@ void ProjectHold::End() {
   if (state_ != State::None) Become(State::None);
 }
 
-void ProjectHold::Take(bool mayAsk) {
+void ProjectHold::Take() {
   Disk& disk = kit_.files.GetDisk();
+  InUse sign;
   for (int tries = 0; tries < kMostTries; ++tries) {
     const int error = TakeInUse(disk, held_.path, me_, kit_.platform.clock.Now());
     if (error == kNoError) return Become(State::Mine);
     if (error != kFileExists) return BecomeUnsigned(error);
-    InUse sign;
     const int reading = ReadInUse(disk, held_.path, sign);
     if (reading == kFileNotFound) continue;  // it left at this very moment
     if (reading == kNoError && sign.owner == me_) return Become(State::Mine);
-    if (reading != kNoError || !TakeFrom(sign, mayAsk)) return BecomeTheirs(sign);
+    if (reading != kNoError || !Gone(sign)) return BecomeTheirs(sign);
+    if (!TakeFrom(sign)) return;
   }
-  InUse sign;
   ReadInUse(disk, held_.path, sign);
   BecomeTheirs(sign);
 }
 
-// True when the sign was taken away, so that this program can set its own.
-bool ProjectHold::TakeFrom(const InUse& sign, bool mayAsk) {
-  bool may = Gone(sign);
-  if (!may && mayAsk && sign.Whole() && !Here(sign)) {
-    const QDateTime now = kit_.platform.clock.Now();
-    const QDateTime last = sign.renewed.isValid() ? sign.renewed : sign.taken;
-    may = last.secsTo(now) >= kLongAgo && kit_.desk.GetMessages().Ask(TakeOverQuestion(sign, now));
-  }
-  return may && BreakInUse(kit_.files.GetDisk(), held_.path, sign, me_) != kFileExists;
+// Takes the sign away so that this program can set its own. False: it can't be taken away, and the
+// state says so.
+bool ProjectHold::TakeFrom(const InUse& sign) {
+  const int error = BreakInUse(kit_.files.GetDisk(), held_.path, sign, me_);
+  if (error == kNoError || error == kFileExists || error == kFileNotFound) return true;
+  BecomeUnsigned(error);
+  return false;
 }
 
 void ProjectHold::Become(State state) {
   const State before = state_;
   state_ = state;
   held_.renewed = kit_.platform.clock.Now();
+  held_.lost = false;
   if (state == State::None) held_ = {};
   Say({}, {});
-  if (before == State::Theirs && state == State::Mine && onFree) onFree();
+  if (before != State::Theirs || state == State::None) return;
+  AskAboutWaiting();
+  if (onFree) onFree();
 }
 
 void ProjectHold::BecomeTheirs(const InUse& sign) {
   state_ = State::Theirs;
   seen_ = sign.bytes;
-  seenAt_ = kit_.platform.clock.Now();
+  watched_ = 0;
+  lookedAt_ = kit_.platform.clock.Now();
   declined_ = false;
-  Say(ReadOnlyText(sign, seenAt_), ReadOnlyTitle(sign));
+  Say(ReadOnlyText(sign, lookedAt_), ReadOnlyTitle(sign));
 }
 
 // Without a folder there is nothing to guard; without the right to write there nobody writes.
 void ProjectHold::BecomeUnsigned(int error) {
-  state_ = State::Unsigned;
-  held_.renewed = kit_.platform.clock.Now();
-  const bool missing = error == kFileNotFound || error == kPathNotFound;
-  Say({}, missing ? QString()
-                  : QStringLiteral("other programs can't be told that this project is open"));
+  Become(State::Unsigned);
+  if (error != kFileNotFound && error != kPathNotFound) Say({}, UnsignedTitle());
+}
+
+// It was read while another program had it, and now its folder is gone. Nothing is written there
+// as if it were a new one.
+void ProjectHold::BecomeGone() {
+  seen_.clear();
+  Say(GoneText(), GoneTitle());
 }
 
 void ProjectHold::Say(const QString& readOnly, const QString& title) {

@@ -19,7 +19,7 @@ void ProjectLock::LoadLocked() {
   ReadLock(kit_.files, kit_.shared, kit_.shared.Locked);
 }
 
-bool ProjectLock::NeedUnlocked() const {
+bool ProjectLock::NeedUnlocked() {
   if (kit_.shared.Locked != QLatin1String("True")) return hold_.NeedWritable();
   kit_.desk.GetMessages().Tell(QStringLiteral("Project is locked."));
   return false;

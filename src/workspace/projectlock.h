@@ -9,18 +9,18 @@ namespace tamo {
 // take it off again.
 class ProjectLock {
  public:
-  ProjectLock(const Kit& kit, const ProjectHold& hold) : kit_(kit), hold_(hold) {}
+  ProjectLock(const Kit& kit, ProjectHold& hold) : kit_(kit), hold_(hold) {}
 
   // The menu entry: locks or unlocks the open project; without one it does nothing.
   void LockProject();
   void SaveLocked();
   void LoadLocked();
   // True when the project may be changed; otherwise says that it is locked, or who has it open.
-  bool NeedUnlocked() const;
+  bool NeedUnlocked();
 
  private:
   const Kit kit_;
-  const ProjectHold& hold_;
+  ProjectHold& hold_;
 };
 
 }  // namespace tamo

@@ -1,6 +1,9 @@
 #include "records/inusefile.h"
 
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "common/failure.h"
 #include "support/room.h"
@@ -109,6 +112,29 @@ TEST(ProgramRunTest, ADeadProcessAndANumberGivenAgainAreGone) {
   EXPECT_TRUE(RunIsGone(run));
   run.process = 0;
   EXPECT_FALSE(RunIsGone(run));  // nothing is known of it
+}
+
+TEST(ProgramRunTest, AnotherProcessIsGoneOnlyWhenItHasEnded) {
+  int ends[2];
+  ASSERT_EQ(::pipe(ends), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    const QByteArray start = BeginRun().processStart.toUtf8();
+    if (::write(ends[1], start.constData(), static_cast<size_t>(start.size())) > 0) ::pause();
+    ::_exit(0);
+  }
+  char start[200] = {};
+  ASSERT_GT(::read(ends[0], start, sizeof start - 1), 0);
+  ProgramRun run = BeginRun();
+  EndRun(run);
+  run.process = child;
+  run.processStart = QString::fromUtf8(start);
+  EXPECT_FALSE(RunIsGone(run));
+  ::kill(child, SIGKILL);
+  ::waitpid(child, nullptr, 0);
+  EXPECT_TRUE(RunIsGone(run));
+  ::close(ends[0]);
+  ::close(ends[1]);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "common/failure.h"
 #include "records/datafolder.h"
 #include "support/room.h"
@@ -25,7 +27,11 @@ class ProjectHoldTest : public FormRoom, public ::testing::Test {
   QString Sign() const { return Project() + QStringLiteral("/InUse.lock"); }
   QString File() const { return Project() + QStringLiteral("/Locked.tamo"); }
   int Save() { return files.SaveText(File(), QStringLiteral("True")); }
+  // As the program looks about while they go by.
   void After(int seconds) {
+    for (int gone = 0; gone < seconds; gone += 5) Look(std::min(5, seconds - gone));
+  }
+  void Look(int seconds) {
     clock.now = clock.now.addSecs(seconds);
     hold.Tick();
   }
@@ -130,9 +136,11 @@ TEST_F(ProjectHoldTest, WhoSleptAndLostItWritesNothing) {
   clock.now = clock.now.addSecs(1000);
   Leave(false);
   EXPECT_EQ(Save(), kNoAccess);
-  EXPECT_TRUE(hold.ReadOnly());
-  EXPECT_EQ(messages.texts.size(), 1);
   EXPECT_FALSE(disk.Exists(File()));
+  After(3);
+  EXPECT_TRUE(hold.ReadOnly());
+  ASSERT_EQ(messages.texts.size(), 1);
+  EXPECT_TRUE(messages.texts[0].contains(File()));  // it says what was not saved
 }
 
 TEST_F(ProjectHoldTest, WithoutTheRightToWriteItOpensAndSaysSo) {
@@ -166,6 +174,123 @@ TEST_F(ProjectHoldTest, ASignThatATidyHandTookAwayIsSetAgain) {
   After(31);
   EXPECT_TRUE(disk.Exists(Sign()));
   EXPECT_FALSE(hold.ReadOnly());
+}
+
+// Both clocks may be wrong, and one may be set while the programs run.
+TEST_F(ProjectHoldTest, NoClockMakesASignOld) {
+  Leave(false);
+  clock.now = clock.now.addDays(400);  // the other's clock is far behind
+  hold.Open();
+  After(60);
+  clock.now = clock.now.addDays(1);  // set forward, or a night's sleep
+  After(30);
+  clock.now = clock.now.addDays(-2);
+  After(20);
+  EXPECT_EQ(messages.texts.size(), 0);
+  After(20);
+  EXPECT_EQ(messages.texts.size(), 1);
+}
+
+TEST_F(ProjectHoldTest, AClockSetBackDoesNotStopTheRenewal) {
+  hold.Open();
+  clock.now = clock.now.addSecs(-3600);
+  After(3);
+  InUse sign;
+  ReadInUse(disk, Sign(), sign);
+  EXPECT_EQ(sign.renewed, clock.now);
+}
+
+TEST_F(ProjectHoldTest, ItIsRenewedWhileAMessageWaits) {
+  hold.Open();
+  clock.now = clock.now.addSecs(40);
+  hold.TickInEvent();
+  InUse sign;
+  ReadInUse(disk, Sign(), sign);
+  EXPECT_EQ(sign.renewed, clock.now);
+  // What it must say waits until nothing else is said.
+  clock.now = clock.now.addSecs(40);
+  Leave(false);
+  hold.TickInEvent();
+  EXPECT_FALSE(hold.ReadOnly());
+  EXPECT_EQ(Save(), kNoAccess);
+  EXPECT_EQ(messages.texts.size(), 0);
+  After(3);
+  EXPECT_TRUE(hold.ReadOnly());
+  EXPECT_EQ(messages.texts.size(), 1);
+}
+
+TEST_F(ProjectHoldTest, ADeletedProjectIsNotMadeAgainByWhoReadsIt) {
+  Leave(false);
+  hold.Open();
+  disk.RemoveFile(Sign());
+  disk.RemoveFolder(Project());
+  After(3);
+  EXPECT_TRUE(hold.ReadOnly());
+  EXPECT_TRUE(shared.TitleNote.contains(QStringLiteral("gone")));
+  EXPECT_EQ(Save(), kNoAccess);
+  EXPECT_FALSE(disk.Exists(Project()));
+  files.GetDisk().MakeFolder(Project());  // the drive is back
+  After(3);
+  EXPECT_FALSE(hold.ReadOnly());
+  EXPECT_EQ(freed, 1);
+}
+
+TEST_F(ProjectHoldTest, ADeadOnesSignThatCannotBeTakenAwayIsNoOwner) {
+  Leave(true);
+  disk.Deny(Project());
+  hold.Open();
+  EXPECT_FALSE(hold.ReadOnly());
+  EXPECT_TRUE(shared.TitleNote.contains(QStringLiteral("can't be told")));
+}
+
+// An entry that waits for the disk, and meanwhile the other one writes: neither goes under unasked.
+TEST_F(ProjectHoldTest, WhatWaitsIsAskedAboutWhenTheProjectComesBack) {
+  for (const bool mine : {true, false}) {
+    hold.Open();
+    disk.SetFull(true);
+    EXPECT_EQ(Save(), kDiskFull);
+    clock.now = clock.now.addSecs(1000);
+    disk.SetFull(false);
+    Leave(false);
+    After(3);
+    EXPECT_TRUE(hold.ReadOnly());
+    EXPECT_TRUE(messages.texts.back().contains(File()));
+    Put(File(), "of the other");
+    EXPECT_FALSE(files.TryAgain());
+    messages.answers = {mine};
+    ReleaseInUse(disk, Sign(), other);
+    After(3);
+    EXPECT_FALSE(hold.ReadOnly());
+    EXPECT_TRUE(messages.texts.back().contains(File()));
+    EXPECT_TRUE(files.TryAgain());
+    EXPECT_EQ(Bytes(File()), mine ? "True" : "of the other");
+    hold.Leave();
+  }
+}
+
+TEST_F(ProjectHoldTest, AProjectLeftWithSavesThatWaitMayBeLostToo) {
+  hold.Open();
+  disk.SetFull(true);
+  Save();
+  hold.Leave();
+  disk.SetFull(false);
+  clock.now = clock.now.addSecs(1000);
+  Leave(false);
+  EXPECT_FALSE(files.TryAgain());
+  EXPECT_FALSE(disk.Exists(File()));
+}
+
+TEST_F(ProjectHoldTest, AnotherDataFolderHasASignOfItsOwn) {
+  hold.Open();
+  const QString first = Sign();
+  shared.DataPath += QStringLiteral("other/");
+  After(3);
+  EXPECT_TRUE(disk.Exists(first));  // there is no such project
+  for (const QString& folder : {Data({}), Data(QStringLiteral("Projects")), Project()})
+    disk.MakeFolder(folder);
+  After(3);
+  EXPECT_FALSE(disk.Exists(first));
+  EXPECT_TRUE(disk.Exists(Sign()));
 }
 
 }  // namespace
