@@ -106,7 +106,12 @@ const QString* Program::FindText(const QString& form, const QString& name) {
 }
 
 void Program::TrySavesAgain() {
-  parts_->desk.Dispatch([this] { parts_->files.TryAgain(); });
+  parts_->desk.Dispatch([this] {
+    Files& files = parts_->files;
+    files.TryAgain();
+    const QString question = files.BeginAnewQuestion();
+    if (!question.isEmpty() && parts_->platform.messages.Ask(question)) files.BeginAnew();
+  });
 }
 
 bool Program::MayEnd() {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+namespace tamo {
+
+// What a text file is made of, for a save that finds another text there than the one it was made
+// from.
+enum class FileKind {
+  Record,  // one whole: two different texts of it can't be merged
+  List,    // an entry a line
+  Pairs,   // an entry two lines, of which the first is its name
+  Sheet,   // a first line of its own, then an entry a line
+};
+
+// What the file must hold so that neither side loses an entry. `base` is what both began with, ""
+// when that is not known; `mine` is to be stored; `theirs` is in the file. A list keeps the order
+// of `theirs`, with the entries that were added to `mine` behind and without those that were taken
+// out of it. False, and nothing in `merged`, when only a person can choose.
+bool MergeTexts(FileKind kind, const QString& base, const QString& mine, const QString& theirs,
+                QString& merged);
+
+}  // namespace tamo
