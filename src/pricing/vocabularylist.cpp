@@ -4,9 +4,9 @@ namespace tamo {
 
 int VocabularyList::Load() {
   QStringList names;
-  const int error = ReadNames(kit_.files, kit_.shared, file_, names);
+  error_ = ReadNames(kit_.files, kit_.shared, file_, names);
   list_.SetRows(names);
-  return error;
+  return error_;
 }
 
 void VocabularyList::Save() {

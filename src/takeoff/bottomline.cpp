@@ -4,7 +4,6 @@
 #include "records/itemline.h"
 #include "records/itemsfile.h"
 #include "records/namelists.h"
-#include "records/storable.h"
 #include "takeoff/bottomlinemoney.h"
 
 namespace tamo {
@@ -61,18 +60,17 @@ void BottomLine::FollowProject() {
 
 void BottomLine::LoadItems() {
   QStringList names;
-  itemsError_ = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Items, names);
+  ReadNamesDelimited(kit_.files, kit_.shared, NameList::Items, names);
   ItemList.SetRows(names);
 }
 
 void BottomLine::SaveItems() {
-  RequireReadable(itemsError_, QStringLiteral("The list of item names"));
   WriteNames(kit_.files, kit_.shared, NameList::Items, ItemList.Rows());
 }
 
 void BottomLine::LoadoiList() {
   QStringList lines;
-  listError_ = ReadItemLines(kit_.files, kit_.shared, lines);
+  ReadItemLines(kit_.files, kit_.shared, lines);
   oiList.SetRows(lines);
   listJob_ = kit_.shared.JobID;
   unsaved_ = false;
@@ -81,7 +79,6 @@ void BottomLine::LoadoiList() {
 void BottomLine::SaveoiList() {
   unsaved_ = false;
   if (listJob_.isEmpty()) return;
-  RequireReadable(listError_, QStringLiteral("The list of bottom line items"));
   WriteItemLines(kit_.files, DataFolder(kit_.shared).Project(listJob_), oiList.Rows());
 }
 

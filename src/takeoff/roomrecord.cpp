@@ -11,13 +11,12 @@ namespace tamo {
 
 void RoomRecord::LoadRooms() {
   QStringList names;
-  roomsError_ = ReadRoomNames(kit_.files, kit_.shared, names);
+  ReadRoomNames(kit_.files, kit_.shared, names);
   screen_.RoomsList.SetRows(names);
   screen_.UpdateStatus();
 }
 
 void RoomRecord::SaveRooms() {
-  RequireReadable(roomsError_, QStringLiteral("The list of rooms"));
   WriteRoomNames(kit_.files, kit_.shared, screen_.RoomsList.Rows());
 }
 
@@ -25,8 +24,8 @@ void RoomRecord::LoadRoom() {
   const QString room = screen_.Room.Text();
   screen_.RoomList.Clear();
   RoomFile file;
-  const int error = ReadRoomFile(kit_.files, kit_.shared, room, file);
-  lines_.Begin(room, error);
+  ReadRoomFile(kit_.files, kit_.shared, room, file);
+  lines_.Begin(room);
   if (file.hasHeight) {
     screen_.How.SetText(file.height);
     screen_.CopyHeight = file.height;
@@ -48,12 +47,11 @@ void RoomRecord::SaveRoom() {
 
 void RoomRecord::LoadAreas() {
   QStringList names;
-  areasError_ = ReadNames(kit_.files, kit_.shared, NameList::FinishAreas, names);
+  ReadNames(kit_.files, kit_.shared, NameList::FinishAreas, names);
   screen_.AreaList.SetRows(names);
 }
 
 void RoomRecord::SaveAreas() {
-  RequireReadable(areasError_, QStringLiteral("The list of finish areas"));
   WriteNames(kit_.files, kit_.shared, NameList::FinishAreas, screen_.AreaList.Rows());
 }
 

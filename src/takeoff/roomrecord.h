@@ -40,8 +40,6 @@ class RoomRecord {
   const Kit kit_;
   TakeoffReportRefresh& reports_;
   LinesInWork lines_{kit_.shared, "room"};
-  int roomsError_ = 0;  // why the list of rooms could not be read
-  int areasError_ = 0;  // why the list of finish areas could not be read
 };
 
 }  // namespace tamo

@@ -2,6 +2,7 @@
 
 #include "common/columns.h"
 #include "common/paths.h"
+#include "records/datafolder.h"
 
 namespace tamo {
 
@@ -53,6 +54,9 @@ void ProjectLifeCycle::OpenSelected() {
   panel.JobsList.Hide();
   const QString id = parts_.picker.SelectedId();
   if (id.isEmpty()) return;
+  const ProjectFolder project = DataFolder(kit_.shared).Project(id);
+  kit_.files.ExpectFolder(project.Path());
+  kit_.files.Expect(project.Record());
   kit_.shared.JobID = id;
   panel.JobName.SetText(From(entry, 14));
   kit_.shared.LoadingJobNFO = QStringLiteral("False");
