@@ -102,8 +102,14 @@ void OSTForm::BindViewer() {
     kit_.desk.Focus(picPdfDraw);
     measure_.WarnOfMissingScale();
   });
-  viewer_.onEnterKey = event([this] { measure_.ReturnFocus(); });
+  viewer_.onEnterKey = event([this] { EnterOnPlan(); });
   viewer_.onProblem = event([this](const QString& text) { PlanLost(text); });
+}
+
+void OSTForm::EnterOnPlan() {
+  const bool boxed = viewer_.Tool() == PlanTool::None && viewer_.Box().has_value();
+  if (boxed && onEnterBox && onEnterBox()) return;
+  measure_.ReturnFocus();
 }
 
 void OSTForm::PlanLost(const QString& problem) {
