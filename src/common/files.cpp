@@ -66,6 +66,10 @@ bool Files::IsGone(const QString& path) const {
   return book_.SeenFolder(path) || GoneOrMissing(path, kPathNotFound) == kGone;
 }
 
+bool Files::IsBehind(const QString& path) {
+  return book_.Apart(path) && !book_.IsFailing(path) && FindPending(path) == nullptr;
+}
+
 // What a read came to is told in the notice, or taken out of it.
 int Files::Noted(const QString& path, int error) {
   error = GoneOrMissing(path, error);

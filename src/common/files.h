@@ -75,6 +75,11 @@ class Files {
   // It, or a folder above it, was there earlier in this run, and can't be found now.
   bool IsGone(const QString& path) const;
 
+  // The file holds more than the program last read of it, and can be read: after a reading that
+  // failed, or a save that was merged. Whoever shows the file reads it again.
+  bool IsBehind(const QString& path);
+  bool AnyIsBehind() const { return book_.AnyApart(); }
+
   // The path of the existing file that `path` means (last part compared without case when there is
   // no exact match), or `path` itself.
   QString Resolved(const QString& path);

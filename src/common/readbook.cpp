@@ -51,6 +51,12 @@ void ReadBook::Failed(const QString& path, int number) {
   if (failures_.size() < kMostFailures) failures_.push_back({path, number});
 }
 
+bool ReadBook::IsFailing(const QString& path) const {
+  return std::any_of(failures_.begin(), failures_.end(), [&](const ReadFailure& failure) {
+    return failure.path.compare(path, Qt::CaseInsensitive) == 0;
+  });
+}
+
 void ReadBook::Forget(const QString& path) {
   const QString key = Key(path);
   seen_.remove(key);

@@ -35,8 +35,10 @@ class ReadBook {
   // The file may hold more than the program's own text: a save must look and merge. It holds from
   // a failed read, or a merged save, to the next time that the program reads the file.
   bool Apart(const QString& path) const { return apart_.contains(Key(path)); }
+  bool AnyApart() const { return !apart_.isEmpty(); }
   // What the program last read there or stored, "" when it knows nothing.
   QString LastText(const QString& path) const;
+  bool IsFailing(const QString& path) const;
   const std::vector<ReadFailure>& Failures() const { return failures_; }
 
   static constexpr size_t kMostFailures = 50;         // more are not named

@@ -9,6 +9,10 @@ int VocabularyList::Load() {
   return error_;
 }
 
+void VocabularyList::LoadIfBehind() {
+  if (NamesAreBehind(kit_.files, kit_.shared, file_)) Load();
+}
+
 void VocabularyList::Save() {
   // The last system of a library can't be deleted for good: its list is not written when it is
   // empty. A test holds it.

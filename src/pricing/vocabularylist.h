@@ -16,6 +16,7 @@ class VocabularyList {
       : kit_(kit), list_(list), index_(list), file_(file) {}
 
   int Load();  // its error number; a file that is not there leaves the list empty
+  void LoadIfBehind();
   void Save();
   // Remembers a name exactly as it was typed, once.
   void Remember(const QString& name);

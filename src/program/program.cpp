@@ -5,6 +5,7 @@
 #include "program/menus.h"
 #include "program/planadapters.h"
 #include "program/pricingadapters.h"
+#include "program/readagain.h"
 #include "program/reportadapters.h"
 #include "program/takeoffadapters.h"
 #include "schedule/scheduleform.h"
@@ -56,6 +57,7 @@ struct Program::Parts {
   ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost}};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
+  ReadAgain readAgain{kit, {main, ost, pricing, rooms, areas, bottomLine, reports}};
   Menus menus{kit,
               shell,
               {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs}};
@@ -118,6 +120,7 @@ void Program::TrySavesAgain() {
     files.TryAgain();
     const QString question = files.BeginAnewQuestion();
     if (!question.isEmpty() && parts_->platform.messages.Ask(question)) files.BeginAnew();
+    parts_->readAgain.Run();
   });
 }
 

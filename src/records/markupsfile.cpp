@@ -22,6 +22,11 @@ int LoadMarkups(Files& files, const SharedFields& shared, Markups& into) {
   return error;
 }
 
+bool MarkupsAreBehind(Files& files, const SharedFields& shared) {
+  return files.IsBehind(DataFolder(shared).Markups()) ||
+         (!shared.JobID.isEmpty() && files.IsBehind(ProjectFolder(shared).Markups()));
+}
+
 int SaveMarkups(Files& files, const SharedFields& shared, Markups markups) {
   QStringList lines;
   for (const QString* text : markups.InFileOrder()) lines += *text;

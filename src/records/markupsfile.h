@@ -26,6 +26,9 @@ struct Markups {
 // number of the last open.
 int LoadMarkups(Files& files, const SharedFields& shared, Markups& into);
 
+// The file that LoadMarkups would read holds more than was last read of it.
+bool MarkupsAreBehind(Files& files, const SharedFields& shared);
+
 // Writes the project's file with a project open, the master file otherwise.
 int SaveMarkups(Files& files, const SharedFields& shared, Markups markups);
 

@@ -37,4 +37,8 @@ int WriteNames(Files& files, const DataFolder& data, NameList list, const QStrin
   return files.SaveLines(data.NameFile(FileNameOf(list)), names, FileKind::List);
 }
 
+bool NamesAreBehind(Files& files, const DataFolder& data, NameList list) {
+  return files.IsBehind(data.NameFile(FileNameOf(list)));
+}
+
 }  // namespace tamo

@@ -41,7 +41,7 @@ int ReadProjectNumber(Files& files, const DataFolder& data, QString& line) {
 }
 
 int WriteProjectNumber(Files& files, const DataFolder& data, const QString& line) {
-  return files.SaveLines(data.ProjectNumber(), {line});
+  return files.SaveLines(data.ProjectNumber(), {line}, FileKind::Latest);
 }
 
 }  // namespace tamo

@@ -1,6 +1,8 @@
 #include "takeoff/bottomline.h"
 
 #include "common/chain.h"
+#include "common/failure.h"
+#include "records/datafolder.h"
 #include "records/itemline.h"
 #include "records/itemsfile.h"
 #include "records/namelists.h"
@@ -74,6 +76,15 @@ void BottomLine::LoadoiList() {
   oiList.SetRows(lines);
   listJob_ = kit_.shared.JobID;
   unsaved_ = false;
+}
+
+void BottomLine::ReadAgain() {
+  if (NamesAreBehind(kit_.files, kit_.shared, NameList::Items)) LoadItems();
+  if (unsaved_ || listJob_.isEmpty() || listJob_ != kit_.shared.JobID) return;
+  QStringList lines;
+  if (kit_.files.IsBehind(ProjectFolder(kit_.shared).Items()) &&
+      ReadItemLines(kit_.files, kit_.shared, lines) == kNoError)
+    oiList.Refill(lines);
 }
 
 void BottomLine::SaveoiList() {

@@ -31,6 +31,8 @@ class BottomLine : public Form {
   void SaveItems();
   void LoadoiList();
   void SaveoiList();
+  // What is behind its file is read again; the estimator stays where he is.
+  void ReadAgain();
 
  private:
   void Bind();

@@ -135,6 +135,23 @@ void EstimateForm::SaveArea() {
   reports_.PrintReport();
 }
 
+void EstimateForm::ReadAgain() {
+  if (!lines_.OfOpenProject()) return;
+  const ProjectFolder project(kit_.shared);
+  QStringList rows;
+  if (kit_.files.IsBehind(project.AreaNames()) &&
+      ReadAreaNames(kit_.files, kit_.shared, rows) == kNoError) {
+    const QStringList before = AreasList.Rows();
+    AreasList.Refill(rows);
+    areaIndex_ = AreasList.RowAfter(before, areaIndex_);
+  }
+  if (!Area.Empty() && NameStands() && !unread_ &&
+      kit_.files.IsBehind(project.AreaFile(Area.Text())) &&
+      ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), rows) == kNoError)
+    AreaList.Refill(rows);
+  UpdateStatus();
+}
+
 void EstimateForm::LoadSystem() {
   error_ = FetchSystem(eDescription.Text());
   workUnit_ = TrimmedBlanks(Units.Text());

@@ -49,6 +49,8 @@ class EstimateForm : public TakeoffForm {
   void LoadArea();
   void SaveArea();
   void LoadSystem();  // the system named in eDescription
+  // What is behind its file is read again; the estimator stays where he is.
+  void ReadAgain();
 
  private:
   // estimateform.cpp

@@ -78,6 +78,36 @@ bool RoomRecord::FollowName() {
   return loaded;
 }
 
+void RoomRecord::ReadAgain() {
+  if (!lines_.OfOpenProject()) return;
+  const ProjectFolder project(kit_.shared);
+  if (NamesAreBehind(kit_.files, kit_.shared, NameList::FinishAreas)) LoadAreas();
+  if (kit_.files.IsBehind(project.RoomNames())) ReadNamesAgain();
+  const QString room = screen_.Room.Text();
+  if (!room.isEmpty() && NameStands() && kit_.files.IsBehind(project.RoomFile(room)))
+    ReadLinesAgain();
+  screen_.UpdateStatus();
+}
+
+void RoomRecord::ReadNamesAgain() {
+  QStringList names;
+  if (ReadRoomNames(kit_.files, kit_.shared, names) != kNoError) return;
+  const QStringList before = screen_.RoomsList.Rows();
+  screen_.RoomsList.Refill(names);
+  screen_.place.room = screen_.RoomsList.RowAfter(before, screen_.place.room);
+}
+
+void RoomRecord::ReadLinesAgain() {
+  RoomFile file;
+  if (ReadRoomFile(kit_.files, kit_.shared, screen_.Room.Text(), file) != kNoError) return;
+  file.lines.removeAll(QString());
+  const QStringList before = screen_.RoomList.Rows();
+  screen_.RoomList.Refill(file.lines);
+  screen_.place.line = screen_.RoomList.RowAfter(before, screen_.place.line);
+  if (screen_.How.Empty()) screen_.How.SetText(file.height);
+  if (screen_.CopyHeight.isEmpty()) screen_.CopyHeight = file.height;
+}
+
 void RoomRecord::ForgetLines() {
   screen_.RoomList.Clear();
   lines_.Forget();

@@ -26,10 +26,11 @@ void ProjectIds::SeedProjectNumber() {
 }
 
 void ProjectIds::LoadProjectNumber() {
-  ReadProjectNumber(kit_.files, kit_.shared, numberLine_);
+  const int error = ReadProjectNumber(kit_.files, kit_.shared, numberLine_);
   const NextNumber next = NumberAfter(numberLine_, kit_.platform.clock.Today());
   kit_.shared.JobID = next.number;
-  if (next.newMonth) {
+  // Of a file that can't be read it is not known which month it holds.
+  if (next.newMonth && (error == kNoError || IsMissing(error))) {
     SaveProjectNumber();
     numberLine_ = next.number;
   }

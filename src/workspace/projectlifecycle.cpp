@@ -70,6 +70,23 @@ void ProjectLifeCycle::OpenSelected() {
   near_.windows.BringUpShell();
 }
 
+void ProjectLifeCycle::ReadBehind() {
+  Files& files = kit_.files;
+  if (files.IsBehind(DataFolder(kit_.shared).ProjectList())) parts_.picker.LoadJobsList();
+  if (kit_.shared.JobID.isEmpty()) return;
+  const ProjectFolder project(kit_.shared);
+  if (files.IsBehind(project.Lock())) parts_.lock.LoadLocked();
+  // A record brings its plan and the shell's window with it, so it waits for the shell.
+  const Form* active = kit_.desk.Active();
+  const bool working =
+      active != nullptr && active->Name() != QLatin1String("OST") && active != &parts_.panel.form;
+  if (!files.IsBehind(project.Record()) || !parts_.panel.HoldsNameOnly() || working) return;
+  const bool shown = parts_.panel.JobNFOFrame.Shown();
+  parts_.record.LoadJobNFO();
+  if (!near_.plan.Fields().planLocation.isEmpty()) near_.plan.LoadPDF();
+  parts_.panel.JobNFOFrame.SetShown(shown);
+}
+
 void ProjectLifeCycle::ClearProject() {
   kit_.shared.JobID.clear();
   parts_.record.Clear();

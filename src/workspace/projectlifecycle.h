@@ -29,6 +29,8 @@ class ProjectLifeCycle {
   // The project of the line that is selected in the list.
   void OpenSelected();
   void ClearProject();
+  // What is behind its file is read again; nothing that was typed goes.
+  void ReadBehind();
   // The button of the panel: the project is listed, if it is new, and its record written.
   void ExitProjectInformation();
 

@@ -229,13 +229,33 @@ TEST(Merging, KeepsWhatBothSidesEntered) {
   EXPECT_TRUE(MergeTexts(FileKind::Pairs, "", "R2\r\nTrue\r\nR3\r\nTrue\r\n",
                          "R1\r\nTrue\r\nR2\r\nTrue\r\n", merged));
   EXPECT_EQ(merged, "R1\r\nTrue\r\nR2\r\nTrue\r\nR3\r\nTrue\r\n");
+  EXPECT_TRUE(MergeTexts(FileKind::Lines, "x\r\n", "x\r\nx\r\n", "x\r\ny\r\n", merged));
+  EXPECT_EQ(merged, "x\r\ny\r\nx\r\n");  // a second line of the same text is an entry
+  EXPECT_TRUE(MergeTexts(FileKind::Lines, "x\r\n", "x\r\na\r\nb\r\n", "x\r\na\r\n", merged));
+  EXPECT_EQ(merged, "x\r\na\r\nb\r\n");  // what both added is there once
   EXPECT_TRUE(MergeTexts(FileKind::Sheet, "", "8\r\nx\r\n", "9\r\ny\r\n", merged));
   EXPECT_EQ(merged, "9\r\ny\r\nx\r\n");
   EXPECT_TRUE(MergeTexts(FileKind::Sheet, "9\r\n", "9\r\nx\r\n", "10\r\ny\r\n", merged));
   EXPECT_EQ(merged, "10\r\ny\r\nx\r\n");
+  EXPECT_TRUE(MergeTexts(FileKind::Sheet, "9\r\nPaint 40\r\n", "9\r\nPaint 50\r\n",
+                         "9\r\nPaint 40\r\nBase 7\r\n", merged));
+  EXPECT_EQ(merged, "9\r\nBase 7\r\nPaint 50\r\n");
   EXPECT_FALSE(MergeTexts(FileKind::Record, "1", "2", "3", merged));
   EXPECT_TRUE(MergeTexts(FileKind::Record, "1", "2", "1", merged));
   EXPECT_EQ(merged, "2");
+}
+
+// Nothing is counted twice, and nothing goes, because two sides changed it.
+TEST(Merging, LeavesToAPersonWhatBothSidesChanged) {
+  QString merged;
+  EXPECT_FALSE(MergeTexts(FileKind::Lines, "Paint 40\r\n", "Paint 50\r\n", "Paint 60\r\n", merged));
+  EXPECT_FALSE(MergeTexts(FileKind::Sheet, "9\r\n", "8\r\nx\r\n", "10\r\ny\r\n", merged));
+  EXPECT_FALSE(
+      MergeTexts(FileKind::Pairs, "R1\r\nTrue\r\n", "R1\r\nTrue\r\nR2\r\nTrue\r\n", "", merged));
+  EXPECT_TRUE(merged.isEmpty());
+  // Of names nothing but the names counts.
+  EXPECT_TRUE(MergeTexts(FileKind::List, "a\r\n", "b\r\n", "c\r\n", merged));
+  EXPECT_EQ(merged, "c\r\nb\r\n");
 }
 
 }  // namespace
