@@ -39,6 +39,8 @@ inline constexpr int kPathNotFound = 76;  // the folder of the file does not exi
 inline constexpr int kNotText = 321;      // a file that holds something else than text
 // A file holds another text than the one that a waiting save was made from.
 inline constexpr int kChangedMeanwhile = 1001;
+// A save is done, but the device did not confirm that it outlives a power cut.
+inline constexpr int kNotConfirmed = 1002;
 
 // The file was never there, which is no failure: its defaults stand, or its list is empty.
 inline constexpr bool IsMissing(int number) {

@@ -4,6 +4,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "common/replacement.h"
 #include "common/textlines.h"
 
 namespace tamo {
@@ -144,7 +145,8 @@ int Files::Store(Pending& save) {
   save.held = save.reason != kNoError;
   if (save.held) return save.reason;
   save.reason = ReplaceInItsFolder(save.path, text.toUtf8());
-  if (save.reason == kNoError) book_.Stored(save.path, save.text, text != save.text);
+  if (save.reason == kNoError || save.reason == kNotConfirmed)
+    book_.Stored(save.path, save.text, text != save.text);
   return save.reason;
 }
 
@@ -169,25 +171,9 @@ int Files::Replace(const QString& path, const QByteArray& bytes) {
   memory_.Forget(target);
   if (disk_.Exists(target) && !disk_.CanWrite(target)) return kNoAccess;
   if (disk_.IsFolder(target)) return kNoAccess;
-  const QString unfinished = target + QLatin1String(kUnfinishedEnding);
-  int error = WriteWhole(unfinished, bytes);
-  if (error == kNoError) error = disk_.Rename(unfinished, target);
-  if (error != kNoError) {
-    disk_.RemoveFile(unfinished);
-    return error;
-  }
-  return disk_.SyncFolder(FolderOf(target));
-}
-
-int Files::WriteWhole(const QString& path, const QByteArray& bytes) {
-  int handle = -1;
-  int error = disk_.OpenNew(path, handle);
-  if (error == kFileNotFound) error = kPathNotFound;
-  if (error != kNoError) return error;
-  error = disk_.Write(handle, bytes);
-  if (error == kNoError) error = disk_.Sync(handle);
-  const int closing = disk_.Close(handle);
-  return error != kNoError ? error : closing;
+  Replacement fresh(disk_, target);
+  const int error = fresh.Begin();
+  return error != kNoError ? error : fresh.Finish(disk_.Write(fresh.Handle(), bytes));
 }
 
 bool Files::Exists(const QString& path) {
@@ -213,10 +199,19 @@ int Files::MakeFolder(const QString& path) {
   const QString bare = BareFolder(path);
   if (book_.SeenFolder(bare) && !disk_.Exists(bare)) return kGone;
   const int error = disk_.MakeFolder(bare);
+  if (error == kNoError) MakeLasting(bare);
   if (error != kNoError && !missingFolders_.contains(bare) && !disk_.Exists(bare)) {
     missingFolders_ += bare;
   }
   return error;
+}
+
+// A new folder stands after a power cut only when the folder above it is on the device.
+void Files::MakeLasting(const QString& folder) {
+  const auto sync = [this, above = FolderOf(folder)] {
+    return disk_.SyncFolder(above) == kNoError ? kNoError : kNotConfirmed;
+  };
+  if (sync() != kNoError) KeepTrying(folder, kNotConfirmed, sync);
 }
 
 void Files::MakeFolders(const QString& path) {
@@ -240,6 +235,7 @@ int Files::MakeMissingFolders() {
   missingFolders_.removeIf([&](const QString& folder) {
     if (disk_.Exists(folder)) return true;
     const int made = disk_.MakeFolder(folder);
+    if (made == kNoError) disk_.SyncFolder(FolderOf(folder));
     if (made != kNoError && error == kNoError) error = made;
     return made == kNoError;
   });
@@ -249,7 +245,9 @@ int Files::MakeMissingFolders() {
 void Files::Sweep(const QString& folder) {
   const QString bare = BareFolder(folder);
   for (const QString& name : disk_.Names(bare)) {
-    if (name.endsWith(QLatin1String(kUnfinishedEnding))) disk_.RemoveFile(InFolder(bare, name));
+    if (!name.endsWith(QLatin1String(kUnfinishedEnding))) continue;
+    const QString path = InFolder(bare, name);
+    if (LeftByTheDead(name, disk_.SecondsSinceWritten(path))) disk_.RemoveFile(path);
   }
 }
 

@@ -7,6 +7,16 @@
 // What could not be saved or read: kept, tried again, and told in the notice.
 
 namespace tamo {
+namespace {
+
+QString UnsureText(const QString& path) {
+  return QStringLiteral(
+             "Saved, but not surely: %1 holds your entry, but the device did not confirm it. A "
+             "power cut could bring back the old state; your entry is kept here, too.")
+      .arg(path);
+}
+
+}  // namespace
 
 QString ReasonText(int number) {
   switch (number) {
@@ -17,6 +27,8 @@ QString ReasonText(int number) {
       return QStringLiteral("there is no right to write it");
     case kDiskFull:
       return QStringLiteral("the disk is full");
+    case kNotConfirmed:
+      return QStringLiteral("the device did not confirm it");
     default:
       return QStringLiteral("the device reports a failure");
   }
@@ -144,7 +156,9 @@ QString Files::Notice() const {
   }
   const Pending& last = pending_.back();
   QString text;
-  if (!last.held) {
+  if (last.reason == kNotConfirmed) {
+    text = UnsureText(last.path);
+  } else if (!last.held) {
     text = QStringLiteral(
                "Not saved: %1, because %2. The file on disk is unchanged; your entry is kept here.")
                .arg(last.path, ReasonText(last.reason));

@@ -53,6 +53,12 @@ void BottomLine::BottomLineItems(Form* owner) {
   GetDesk().Focus(Item);
 }
 
+void BottomLine::PutBack(Form* owner, const QStringList& lines) {
+  BottomLineItems(owner);
+  oiList.SetRows(lines);
+  unsaved_ = true;
+}
+
 // The lines of another project than the open one are written there before they leave the screen.
 void BottomLine::FollowProject() {
   if (listJob_ == kit_.shared.JobID) return;
@@ -88,9 +94,10 @@ void BottomLine::ReadAgain() {
 }
 
 void BottomLine::SaveoiList() {
+  if (!listJob_.isEmpty()) {
+    WriteItemLines(kit_.files, DataFolder(kit_.shared).Project(listJob_), oiList.Rows());
+  }
   unsaved_ = false;
-  if (listJob_.isEmpty()) return;
-  WriteItemLines(kit_.files, DataFolder(kit_.shared).Project(listJob_), oiList.Rows());
 }
 
 void BottomLine::TakeItem() {

@@ -4,6 +4,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "common/replacement.h"
 #include "common/textlines.h"
 
 namespace tamo {
