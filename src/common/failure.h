@@ -29,7 +29,8 @@ inline constexpr int kSubscript = 9;  // a row that does not exist
 inline constexpr int kDivisionByZero = 11;
 inline constexpr int kTooLarge = 14;  // a file far too large to be one of this program
 inline constexpr int kFileNotFound = 53;
-inline constexpr int kFileOther = 57;  // any other failure of the device
+inline constexpr int kFileOther = 57;   // any other failure of the device
+inline constexpr int kFileExists = 58;  // a new file was to be made where one is already
 inline constexpr int kDiskFull = 61;
 inline constexpr int kPastEnd = 62;  // a read past the end of a file
 // A file or folder that was there earlier in this run, or that a list names, can't be found.

@@ -119,6 +119,7 @@ int Files::SaveLines(const QString& path, const QStringList& lines, FileKind kin
 }
 
 int Files::SaveText(const QString& path, const QString& text, FileKind kind) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   if (!pending_.empty() || !book_.Failures().empty()) RetryPending(path);
   Pending save{path, text, kNoError, {}, kind};
   save.text.remove(QChar(u'\0'));  // no text that can be read again holds one
@@ -181,6 +182,7 @@ bool Files::Exists(const QString& path) {
 }
 
 int Files::Remove(const QString& path) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   StopTrying(path);
   const int error = disk_.RemoveFile(Resolved(path));
   names_.Forget();
@@ -196,6 +198,7 @@ void Files::ForgetFolder(const QString& folder) {
 
 // A folder that went away is not begun anew: what it held may come back.
 int Files::MakeFolder(const QString& path) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   const QString bare = BareFolder(path);
   if (book_.SeenFolder(bare) && !disk_.Exists(bare)) return kGone;
   const int error = disk_.MakeFolder(bare);

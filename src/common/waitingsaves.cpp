@@ -87,6 +87,7 @@ void Files::RetryPending(const QString& except) {
   const auto before = pending_.size();
   std::erase_if(pending_, [&](Pending& pending) {
     if (pending.path.compare(except, Qt::CaseInsensitive) == 0) return false;
+    if (mayWrite && !mayWrite(pending.path)) return false;
     if (pending.save) {
       pending.reason = pending.save();
     } else {

@@ -36,7 +36,8 @@ struct Program::Parts {
   const Kit kit{desk, files, shared, platform};
 
   Shell shell{kit, main, settings, ost};
-  FollowersOnForms followers{pricing, adjustment, reports};
+  FollowersOnForms followers{
+      pricing, adjustment, reports, ost, {&pricing, &rooms, &areas, &bottomLine, &adjustment}};
   ReportFollows reportFollows{reports};
   StartOfPricing startOfPricing{settings, main};
   PricingOnForm pricingOnForm{pricing, ost};
@@ -71,6 +72,7 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
   Parts& parts = *parts_;
   parts.shell.onEnded = [this] {
     parts_->recovery.End();
+    parts_->main.hold.End();
     if (onEnded) onEnded();
   };
   parts.shell.beforeEnd = [&parts] {
@@ -131,6 +133,12 @@ void Program::TrySavesAgain() {
     if (!question.isEmpty() && parts_->platform.messages.Ask(question)) files.BeginAnew();
     parts_->readAgain.Run();
   });
+}
+
+void Program::Tick() {
+  if (!Running()) return;
+  if (parts_->desk.InEvent()) return parts_->main.hold.TickInEvent();
+  parts_->desk.Dispatch([this] { parts_->main.hold.Tick(); });
 }
 
 bool Program::MayEnd() {

@@ -57,6 +57,7 @@ void ProjectCopies::PasteProject() {
     messages.Tell(QStringLiteral("Create new project to paste %1 into.").arg(source));
     return;
   }
+  if (!parts_.hold.NeedWritable()) return;
   messages.Tell(ToldOf(CopyProjectFiles(kit_.files, kit_.shared, source, target), source, target));
 }
 
@@ -67,6 +68,7 @@ void ProjectCopies::DeleteProject() {
   const QString name = parts_.panel.JobName.Text();
   if (name.isEmpty() || id.isEmpty()) return;
   if (!kit_.desk.GetMessages().Ask(QStringLiteral("Delete %1\r%2 ?").arg(id, name))) return;
+  if (!parts_.hold.NeedWritable()) return;
   const QString folder = DataFolder(kit_.shared).Project(id).Path();
   if (kit_.files.IsGone(folder)) {
     kit_.desk.GetMessages().Tell(

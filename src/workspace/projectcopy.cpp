@@ -28,7 +28,9 @@ QStringList FilesIn(Files& files, const QString& folder) {
   QStringList paths;
   for (const QString& name : disk.Names(folder)) {
     const QString path = InFolder(folder, name);
-    if (!disk.IsFolder(path) && !name.endsWith(QLatin1String(kUnfinishedEnding))) paths << path;
+    const bool passing = name.endsWith(QLatin1String(kUnfinishedEnding)) ||
+                         name.startsWith(QLatin1String(kInUseName), Qt::CaseInsensitive);
+    if (!passing && !disk.IsFolder(path)) paths << path;
   }
   for (const Files::Pending& waiting : files.PendingSaves()) {
     const bool inside =

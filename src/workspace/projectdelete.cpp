@@ -73,7 +73,8 @@ bool HoldsProjectFiles(Files& files, const DataFolder& data, const QString& id) 
   for (const char* part : kProjectSubFolders) folders << InFolder(project, QLatin1String(part));
   for (const QString& folder : folders) {
     for (const QString& name : disk.Names(files.Resolved(folder))) {
-      if (!disk.IsFolder(InFolder(folder, name))) return true;
+      const bool sign = name.startsWith(QLatin1String(kInUseName), Qt::CaseInsensitive);
+      if (!sign && !disk.IsFolder(InFolder(folder, name))) return true;
     }
   }
   return false;
