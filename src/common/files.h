@@ -78,7 +78,7 @@ class Files {
   // The file holds more than the program last read of it, and can be read: after a reading that
   // failed, or a save that was merged. Whoever shows the file reads it again.
   bool IsBehind(const QString& path);
-  bool AnyIsBehind() const { return book_.AnyApart(); }
+  qsizetype CountBehind() const { return book_.CountApart(); }  // at most
 
   // The path of the existing file that `path` means (last part compared without case when there is
   // no exact match), or `path` itself.

@@ -35,7 +35,7 @@ class ReadBook {
   // The file may hold more than the program's own text: a save must look and merge. It holds from
   // a failed read, or a merged save, to the next time that the program reads the file.
   bool Apart(const QString& path) const { return apart_.contains(Key(path)); }
-  bool AnyApart() const { return !apart_.isEmpty(); }
+  qsizetype CountApart() const { return apart_.size(); }
   // What the program last read there or stored, "" when it knows nothing.
   QString LastText(const QString& path) const;
   bool IsFailing(const QString& path) const;

@@ -138,7 +138,10 @@ void Program::TrySavesAgain() {
 void Program::Tick() {
   if (!Running()) return;
   if (parts_->desk.InEvent()) return parts_->main.hold.TickInEvent();
-  parts_->desk.Dispatch([this] { parts_->main.hold.Tick(); });
+  parts_->desk.Dispatch([this] {
+    parts_->main.hold.Tick();
+    parts_->readAgain.Tick();
+  });
 }
 
 bool Program::MayEnd() {

@@ -4,9 +4,28 @@
 #include "records/namelists.h"
 
 namespace tamo {
+namespace {
+
+constexpr int kSecondsBetweenTries = 15;
+
+}  // namespace
+
+void ReadAgain::Tick() {
+  if (kit_.files.Notice().isEmpty()) {
+    tried_ = {};
+  } else {
+    const QDateTime now = kit_.platform.clock.Now();
+    if (!tried_.isValid()) tried_ = now;
+    if (tried_.secsTo(now) < kSecondsBetweenTries) return;
+    tried_ = now;
+    kit_.files.TryAgain();
+  }
+  Run();
+}
 
 void ReadAgain::Run() {
-  if (!kit_.files.AnyIsBehind()) return;
+  const qsizetype before = kit_.files.CountBehind();
+  if (before == 0) return;
   ReadSystemNames();
   forms_.pricing.ReadAgain();
   forms_.rooms.Record().ReadAgain();
@@ -16,7 +35,7 @@ void ReadAgain::Run() {
   if (!kit_.shared.JobID.isEmpty() && forms_.ost.PlanNotes.Empty() &&
       kit_.files.IsBehind(ProjectFolder(kit_.shared).PlanNotes()))
     forms_.ost.LoadPlanNotes();
-  RefreshReport(forms_.reports);
+  if (kit_.files.CountBehind() < before) RefreshReport(forms_.reports);
 }
 
 // Three forms have the list of systems; the first reading of it brings it up to date.

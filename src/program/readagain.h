@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDateTime>
+
 #include "common/kit.h"
 #include "plans/ostform.h"
 #include "pricing/pricingform.h"
@@ -28,12 +30,16 @@ class ReadAgain {
   ReadAgain(const Kit& kit, const Forms& forms) : kit_(kit), forms_(forms) {}
 
   void Run();
+  // Every few seconds. While something can't be read or saved it is tried again now and then: a
+  // drive that comes back is found without a click.
+  void Tick();
 
  private:
   void ReadSystemNames();
 
   const Kit kit_;
   const Forms forms_;
+  QDateTime tried_;  // invalid while all is well
 };
 
 }  // namespace tamo
