@@ -2,10 +2,12 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "program/changedquestion.h"
 #include "program/followers.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
 #include "program/pricingadapters.h"
+#include "program/readagain.h"
 #include "program/recovery.h"
 #include "program/reportadapters.h"
 #include "program/takeoffadapters.h"
@@ -59,6 +61,7 @@ struct Program::Parts {
   ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost}};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
+  ReadAgain readAgain{kit, {main, ost, pricing, rooms, areas, bottomLine, reports}};
   Menus menus{kit,
               shell,
               {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs}};
@@ -84,6 +87,10 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
                               &parts.areas.DescriptionsList}) {
       if (!list->Empty() && list->FindAnyCase(name) < 0) list->Insert(0, name);
     }
+  };
+  parts.files.keepMine = [&parts](const QString& path, const QString& mine, const QString& theirs) {
+    return parts.desk.GetMessages().Ask(
+        ChangedQuestion({path, mine, theirs}, parts.pricing.MarkupTexts()));
   };
   parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
   parts.ost.onClose = [&parts] { return parts.shell.CloseOst(); };
@@ -124,13 +131,29 @@ const QString* Program::FindText(const QString& form, const QString& name) {
 }
 
 void Program::TrySavesAgain() {
-  parts_->desk.Dispatch([this] { parts_->files.TryAgain(); });
+  parts_->desk.Dispatch([this] {
+    Files& files = parts_->files;
+    files.TryAgain();
+    const QString question = files.BeginAnewQuestion();
+    if (!question.isEmpty() && parts_->platform.messages.Ask(question)) files.BeginAnew();
+    parts_->readAgain.Run();
+    parts_->main.conflicts.LookAround();
+  });
+}
+
+QString Program::Notice() const {
+  const QString unsaved = parts_->files.Notice();
+  return unsaved.isEmpty() ? parts_->main.conflicts.Notice() : unsaved;
 }
 
 void Program::Tick() {
   if (!Running()) return;
   if (parts_->desk.InEvent()) return parts_->main.hold.TickInEvent();
-  parts_->desk.Dispatch([this] { parts_->main.hold.Tick(); });
+  parts_->desk.Dispatch([this] {
+    parts_->main.hold.Tick();
+    parts_->readAgain.Tick();
+    parts_->main.conflicts.Tick();
+  });
 }
 
 bool Program::MayEnd() {

@@ -1,5 +1,7 @@
 #include "records/namelists.h"
 
+#include "common/textlines.h"
+
 namespace tamo {
 namespace {
 
@@ -34,7 +36,16 @@ int ReadNamesDelimited(Files& files, const DataFolder& data, NameList list, QStr
 }
 
 int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names) {
-  return files.SaveLines(data.NameFile(FileNameOf(list)), names);
+  return files.SaveLines(data.NameFile(FileNameOf(list)), names, FileKind::List);
+}
+
+int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names,
+               const QStringList& base) {
+  return files.SaveLines(data.NameFile(FileNameOf(list)), names, FileKind::List, JoinedLines(base));
+}
+
+bool NamesAreBehind(Files& files, const DataFolder& data, NameList list) {
+  return files.IsBehind(data.NameFile(FileNameOf(list)));
 }
 
 }  // namespace tamo

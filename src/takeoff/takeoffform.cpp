@@ -44,6 +44,7 @@ int TakeoffForm::ReadDescriptions() {
   QStringList names;
   const int error = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Systems, names);
   DescriptionsList.SetRows(names);
+  namesRead_ = names;
   return error;
 }
 
@@ -52,7 +53,9 @@ void TakeoffForm::LoadDescriptionsIfEmpty() {
 }
 
 void TakeoffForm::SaveDescriptions() {
-  WriteNames(kit_.files, kit_.shared, NameList::Systems, DescriptionsList.Rows());
+  const QStringList names = DescriptionsList.Rows();
+  WriteNames(kit_.files, kit_.shared, NameList::Systems, names, namesRead_);
+  namesRead_ = names;
 }
 
 void TakeoffForm::TellToPriceFirst() {

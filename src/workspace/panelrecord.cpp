@@ -64,9 +64,10 @@ void PanelRecord::SaveJobNFO() {
   if (kit_.shared.JobID.isEmpty() || panel_.JobName.Empty()) return;
   const QString plan = near_.plan.Fields().planLocation;
   if (!plan.isEmpty()) near_.plan.SetPlanLocation(MarkedPlanPath(plan, kit_.shared));
-  WriteProjectRecord(kit_.files, kit_.shared, RecordOfFields());
+  const int error = WriteProjectRecord(kit_.files, kit_.shared, RecordOfFields());
   shownFolder_ = ProjectFolder(kit_.shared).Path();
   stored_ = Texts();
+  if (error == kTheirsTaken) LoadJobNFO();
 }
 
 QStringList PanelRecord::Texts() const {
@@ -78,13 +79,15 @@ QStringList PanelRecord::Texts() const {
 void PanelRecord::ReadRecord(const QString& picked) {
   kit_.shared.LoadingJobNFO = QStringLiteral("True");
   panel_.JobNFOFrame.Hide();
-  JobNFO record = std::exchange(emptied_, false) ? JobNFO() : RecordOfFields();
+  const bool other = std::exchange(emptied_, false);
+  JobNFO record = other ? JobNFO() : RecordOfFields();
   record.planLocation.clear();
-  if (ReadProjectRecord(kit_.files, kit_.shared, record) != kNoError) {
+  if (const int error = ReadProjectRecord(kit_.files, kit_.shared, record); error != kNoError) {
     kit_.shared.LoadingJobNFO = QStringLiteral("False");
     stored_ = Texts();
-    // A project without a record has no plan; the one on the screen belongs to another project.
-    if (picked.isEmpty()) LeavePlan();
+    // A project without a record has no plan; the one on the screen belongs to another project. One
+    // whose record can't be read now keeps what stands.
+    if (picked.isEmpty() && (other || IsMissing(error))) LeavePlan();
     return;
   }
   TakeFields(record);
