@@ -102,6 +102,16 @@ bool MuPdfFile::Inner::ReadEnd() {
 // Reads once what a save has to repeat of a page.
 bool MuPdfFile::Inner::ReadPage(PageRecord& page) {
   if (page.read) return true;
+  page.read = ReadPageBytes(page);
+  if (page.read) return true;
+  page.entries.clear();
+  page.others.clear();
+  page.read = PrintPage(page);
+  return page.read;
+}
+
+// The same as the engine writes it, when the file's own bytes are of no use.
+bool MuPdfFile::Inner::PrintPage(PageRecord& page) {
   pdf_obj* object = nullptr;
   bool good = true;
   fz_var(object);
@@ -128,12 +138,10 @@ bool MuPdfFile::Inner::ReadPage(PageRecord& page) {
   }
   fz_always(context) pdf_drop_obj(context, object);
   fz_catch(context) good = false;
-  page.read = good && !page.entries.isEmpty();
-  if (!page.read) {
-    page.entries.clear();
-    page.others.clear();
-  }
-  return page.read;
+  if (good && !page.entries.isEmpty()) return true;
+  page.entries.clear();
+  page.others.clear();
+  return false;
 }
 
 QByteArray MuPdfFile::Inner::PageBody(const PageRecord& page) const {

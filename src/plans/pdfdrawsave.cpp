@@ -1,5 +1,5 @@
-#include <QElapsedTimer>
 #include <algorithm>
+#include <atomic>
 #include <utility>
 
 #include "common/failure.h"
@@ -15,12 +15,31 @@ namespace {
 constexpr int kBuildPatience = 20000;
 constexpr int kRepairPatience = 120000;
 constexpr qint64 kCopyChunk = qint64(1) << 20;
-constexpr int kQuietCopy = 300;  // milliseconds before progress is told
+constexpr int kCopyPatience = 600000;
 constexpr qint64 kCompared = 2048;
 // Instead of an error number: nothing can be appended to the plan, it has to be written anew.
 constexpr int kNeedsRewrite = -1;
 
 }  // namespace
+
+struct PdfDraw::Progress {
+  std::mutex writing;
+  bool left = false;  // nobody waits for it any more: nothing may be written
+  std::atomic<int> perCent = 0;
+  int error = kFileOther;
+  QString problem;  // in words, where the work has some
+};
+
+int PdfDraw::DoAside(const SavePart& work, int patience, QString* problem) {
+  const auto progress = std::make_shared<Progress>();
+  const bool done =
+      session_->thread->Run([progress, work] { progress->error = work(*progress); }, patience,
+                            [&] { Raise(onSaveProgress, progress->perCent.load()); });
+  const std::lock_guard<std::mutex> guard(progress->writing);
+  progress->left = true;
+  if (done && problem != nullptr) *problem = progress->problem;
+  return done ? progress->error : kFileOther;
+}
 
 int PdfDraw::SaveFailed(const QString& path, int error, const QString& reason) {
   problem_ = QStringLiteral(
@@ -58,6 +77,15 @@ bool PdfDraw::HasUnsavedMarks() const {
 }
 
 int PdfDraw::SaveAs(const QString& given) {
+  if (saving_) return SaveFailed(given, kFileOther, QStringLiteral("it is just being saved"));
+  saving_ = true;
+  const int error = SaveNow(given);
+  saving_ = false;
+  Raise(onSaveProgress, 100);
+  return error;
+}
+
+int PdfDraw::SaveNow(const QString& given) {
   if (ShownPath().isEmpty() || session_ == nullptr) {
     problem_ = QStringLiteral("No plan is shown, so there is nothing to save.");
     return kFileNotFound;
@@ -85,6 +113,16 @@ int PdfDraw::SaveAs(const QString& given) {
   return kNoError;
 }
 
+// Writes to an open file, down to the disk.
+PdfDraw::SavePart PdfDraw::WriteBytes(int handle, const QByteArray& bytes) const {
+  return [disk = &files_.GetDisk(), handle, bytes](Progress& progress) {
+    const std::lock_guard<std::mutex> guard(progress.writing);
+    if (progress.left) return kFileOther;
+    const int error = bytes.isEmpty() ? kNoError : disk->Write(handle, bytes);
+    return error != kNoError ? error : disk->Sync(handle);
+  };
+}
+
 int PdfDraw::WriteChanges(const QString& path, bool same, const MarkChanges& changes) {
   if (!same) return WriteCopy(path, changes);
   return ChangedOnDisk(path) ? TakeFromDisk(path, changes) : Append(path, changes);
@@ -108,7 +146,7 @@ int PdfDraw::BuildUpdate(Session& session, const MarkChanges& changes, QByteArra
   const auto update = std::make_shared<PlanUpdate>();
   const bool done = session.thread->Run(
       [update, changes, plan = session.plan] { *update = plan->BuildUpdate(changes); },
-      kBuildPatience);
+      kBuildPatience, [this] { Raise(onSaveProgress, 0); });
   if (!done) return SaveFailed(ShownPath(), kFileOther, QStringLiteral("it takes too long"));
   bytes = update->bytes;
   if (update->error == kNoError) return kNoError;
@@ -125,12 +163,9 @@ int PdfDraw::Append(const QString& path, const MarkChanges& changes) {
   int handle = -1;
   error = disk.OpenAtEnd(path, handle);
   if (error == kNoError) {
-    error = disk.Write(handle, bytes);
-    if (error == kNoError) error = disk.Sync(handle);
-    if (error != kNoError) {
-      // What part of it arrived goes again; should that fail, too, the next opening cuts it.
-      disk.Truncate(handle, session_->size);
-    }
+    error = DoAside(WriteBytes(handle, bytes), kCopyPatience);
+    // What part of it arrived goes again; should that fail, too, the next opening cuts it.
+    if (error != kNoError) disk.Truncate(handle, session_->size);
     disk.Close(handle);  // all is on the disk already, or taken back
   }
   if (error != kNoError) {
@@ -141,29 +176,26 @@ int PdfDraw::Append(const QString& path, const MarkChanges& changes) {
   return kNoError;
 }
 
-int PdfDraw::CopyBytes(int handle) {
-  QElapsedTimer clock;
-  clock.start();
-  const auto reader = session_->source->Reader();
-  const qint64 size = session_->size;
-  bool told = false;
-  for (qint64 place = 0; place < size; place += kCopyChunk) {
-    const qint64 count = std::min(kCopyChunk, size - place);
-    const QByteArray part = ReadPart(*reader, place, count);
-    if (part.size() != count) return kFileOther;
-    if (const int error = files_.GetDisk().Write(handle, part)) return error;
-    if (clock.elapsed() < kQuietCopy || !onSaveProgress) continue;
-    told = true;
-    onSaveProgress(static_cast<int>((place + count) * 99 / size));
-  }
-  if (told) onSaveProgress(100);
-  return kNoError;
+// Copies the plan and `more` behind it to an open file, down to the disk.
+PdfDraw::SavePart PdfDraw::CopyBytes(int handle, const QByteArray& more) const {
+  return [handle, rest = WriteBytes(handle, more), disk = &files_.GetDisk(),
+          reader = session_->source->Reader(), size = session_->size](Progress& progress) {
+    for (qint64 place = 0; place < size; place += kCopyChunk) {
+      const qint64 count = std::min(kCopyChunk, size - place);
+      const QByteArray part = ReadPart(*reader, place, count);
+      if (part.size() != count) return kFileOther;
+      const std::lock_guard<std::mutex> guard(progress.writing);
+      if (progress.left) return kFileOther;
+      if (const int error = disk->Write(handle, part)) return error;
+      progress.perCent = static_cast<int>((place + count) * 99 / size);
+    }
+    return rest(progress);
+  };
 }
 
-// Ends a copy: on the disk, then under its name. A failure leaves what stood there.
+// Ends a copy that is on the disk: under its name. A failure leaves what stood there.
 int PdfDraw::FinishCopy(int handle, int error, const QString& unfinished, const QString& path) {
   Disk& disk = files_.GetDisk();
-  if (error == kNoError) error = disk.Sync(handle);
   const int closing = disk.Close(handle);
   if (error == kNoError) error = closing;
   if (error == kNoError) error = disk.Rename(unfinished, path);
@@ -186,8 +218,7 @@ int PdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
   int handle = -1;
   error = disk.OpenNew(unfinished, handle);
   if (error == kNoError) {
-    error = CopyBytes(handle);
-    if (error == kNoError && !bytes.isEmpty()) error = disk.Write(handle, bytes);
+    error = DoAside(CopyBytes(handle, bytes), kCopyPatience);
     error = FinishCopy(handle, error, unfinished, path);
   } else {
     SaveFailed(path, error == kFileNotFound ? kPathNotFound : error);
@@ -208,33 +239,27 @@ void PdfDraw::ForgetUpdate() {
   session_->thread->Run([plan = session_->plan] { plan->ForgetUpdate(); }, kBuildPatience);
 }
 
-// Writes the repaired plan to an open file, on the plan's own thread. When that takes too long it
-// is left alone and can't touch the file any more.
+// Writes the repaired plan to an open file. When that takes too long it is left alone and can't
+// touch the file any more.
 int PdfDraw::WriteRepaired(int handle, QString& problem) {
-  struct Result {
-    std::mutex mutex;
-    bool left = false;
-    int error = kFileOther;
-    QString problem = QStringLiteral("it takes too long to repair");
-  };
-  const auto result = std::make_shared<Result>();
-  const auto sink = [result, handle, disk = &files_.GetDisk()](const QByteArray& part) {
-    const std::lock_guard<std::mutex> guard(result->mutex);
-    return result->left ? kFileOther : disk->Write(handle, part);
-  };
-  const bool done = session_->thread->Run(
-      [result, sink, plan = session_->plan] {
+  problem = QStringLiteral("it takes too long to repair");
+  return DoAside(
+      [handle, disk = &files_.GetDisk(), plan = session_->plan,
+       size = std::max(session_->size, qint64(1))](Progress& progress) {
+        qint64 written = 0;
+        const auto sink = [&](const QByteArray& part) {
+          const std::lock_guard<std::mutex> guard(progress.writing);
+          written += part.size();
+          progress.perCent = static_cast<int>(std::min(qint64(90), written * 90 / size));
+          return progress.left ? kFileOther : disk->Write(handle, part);
+        };
         QString words;
         const int error = plan->WriteWhole(sink, words);
-        const std::lock_guard<std::mutex> guard(result->mutex);
-        result->error = error;
-        result->problem = words;
+        const std::lock_guard<std::mutex> guard(progress.writing);
+        progress.problem = words;
+        return error;
       },
-      kRepairPatience);
-  const std::lock_guard<std::mutex> guard(result->mutex);
-  result->left = true;
-  problem = result->problem;
-  return done ? result->error : kFileOther;
+      kRepairPatience, &problem);
 }
 
 // Opens a plan that is not shown (yet).
@@ -243,9 +268,9 @@ std::unique_ptr<PdfDraw::Session> PdfDraw::OpenAside(const QString& path, int& e
   std::unique_ptr<Session> aside = NewSession(path, password_, error);
   const auto opening = std::exchange(opening_, nullptr);
   if (aside == nullptr) return nullptr;
-  std::unique_lock<std::mutex> lock(opening->mutex);
-  opening->ready.wait_for(lock, std::chrono::milliseconds(kBuildPatience),
-                          [&] { return opening->done; });
+  // The opening is the first of the thread's jobs.
+  aside->thread->Run([] {}, kBuildPatience, [this] { Raise(onSaveProgress, 90); });
+  const std::lock_guard<std::mutex> lock(opening->mutex);
   error = opening->done ? opening->contents.error : kFileOther;
   if (error != kNoError) return nullptr;
   aside->sizes = std::move(opening->contents.sizes);
@@ -269,7 +294,9 @@ int PdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
   if (error == kNoError) anew = OpenAside(unfinished, error, marks);
   if (error == kNoError && !changes.Empty()) error = BuildUpdate(*anew, changes, bytes);
   if (error == kNeedsRewrite) error = kFileOther;
-  if (error == kNoError) error = disk.Write(handle, bytes);
+  if (error == kNoError) {
+    error = DoAside(WriteBytes(handle, bytes), kCopyPatience);
+  }
   if (error != kNoError) {
     disk.Close(handle);
     disk.RemoveFile(unfinished);
