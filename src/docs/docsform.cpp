@@ -1,5 +1,6 @@
 #include "docs/docsform.h"
 
+#include "common/chain.h"
 #include "common/failure.h"
 #include "common/paths.h"
 #include "docs/topics.h"
@@ -11,17 +12,8 @@ const QString kEnding = QStringLiteral(".tamo");
 
 }  // namespace
 
-DocsForm::DocsForm(const Kit& kit, DocShell& shell)
-    : Form(kit.desk, QStringLiteral("Docs")),
-      ExitDocs(*this, QStringLiteral("ExitDocs"), QStringLiteral("  &Exit Docs")),
-      MenuList(*this, QStringLiteral("MenuList")),
-      Text1(*this, QStringLiteral("Text1")),
-      Command2(*this, QStringLiteral("Command2"), QStringLiteral("Load")),
-      Command1(*this, QStringLiteral("Command1"), QStringLiteral("Save")),
-      DocText(*this, QStringLiteral("DocText")),
-      DocList(*this, QStringLiteral("DocList")),
-      kit_(kit),
-      shell_(shell) {
+DocsForm::DocsForm(const Kit& kit, std::function<void()> returnToShell)
+    : Form(kit.desk, QStringLiteral("Docs")), kit_(kit), returnToShell_(std::move(returnToShell)) {
   SetCaption(QStringLiteral("Documentation"));
   for (const Topic& topic : Topics()) MenuList.Add(QLatin1String(topic.row));
   DocText.multiLine = true;
@@ -29,11 +21,7 @@ DocsForm::DocsForm(const Kit& kit, DocShell& shell)
   // A click on the row that is selected already shows its topic again.
   MenuList.onSelect = [this] { ChooseTopic(); };
   MenuList.onClick = [this] { ChooseTopic(); };
-  Text1.onKey = [this](Key& key) {
-    if (!key.IsEnter()) return;
-    key.Drop();
-    TakeFileName();
-  };
+  OnEnter(Text1, [this] { TakeFileName(); });
   Command2.onClick = [this] { LoadDocs(); };
   Command1.onClick = [this] { SaveDocs(); };
   ExitDocs.onClick = [this] { Leave(); };
@@ -123,7 +111,7 @@ void DocsForm::ShowTopicOf(const QString& form) {
 
 void DocsForm::Leave() {
   Hide();
-  shell_.ShowShell();
+  returnToShell_();
 }
 
 }  // namespace tamo

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <functional>
+
 #include "common/form.h"
 #include "common/kit.h"
-#include "docs/docshell.h"
 
 namespace tamo {
 
@@ -11,7 +12,8 @@ namespace tamo {
 // has the edited ones in a folder Docs of their own, which is looked at first.
 class DocsForm : public Form {
  public:
-  DocsForm(const Kit& kit, DocShell& shell);
+  // `returnToShell` is where the reader goes who leaves: the main form in mode 1, OST in mode 2.
+  DocsForm(const Kit& kit, std::function<void()> returnToShell);
 
   // Shows the topic of the file name in work; a topic without a file is empty.
   void LoadDocs();
@@ -19,12 +21,13 @@ class DocsForm : public Form {
   // Selects and shows the topic that explains `form` ("Pricing", "RFSForm", ...).
   void ShowTopicOf(const QString& form);
 
-  MenuEntry ExitDocs;
-  OrderedList MenuList;
-  TextField Text1;
-  Button Command2, Command1;
-  TextField DocText;
-  OrderedList DocList;
+  MenuEntry ExitDocs{*this, "ExitDocs", "  &Exit Docs"};
+  OrderedList MenuList{*this, "MenuList"};
+  TextField Text1{*this, "Text1"};
+  Button Command2{*this, "Command2", "Load"};
+  Button Command1{*this, "Command1", "Save"};
+  TextField DocText{*this, "DocText"};
+  OrderedList DocList{*this, "DocList"};
 
  private:
   void ChooseTopic();
@@ -36,7 +39,7 @@ class DocsForm : public Form {
   QString FolderForSaving() const;
 
   const Kit kit_;
-  DocShell& shell_;
+  const std::function<void()> returnToShell_;
   QString fileName_;  // the topic in work, with its ".tamo"
 };
 

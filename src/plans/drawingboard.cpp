@@ -42,6 +42,7 @@ void DrawingBoard::ClearBoard() {
   unitName_ = QStringLiteral("feet");
   line_ = LineState::None;
   work_ = {};
+  DropBox();
   if (tool_ != PlanTool::None) PickTool(PlanTool::None);
 }
 
@@ -154,6 +155,11 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   crossHair_ = at;
   Raise(onMousePressed);
+  if (boxNext_) {
+    boxing_ = true;
+    boxFrom_ = at;
+    return;
+  }
   if (tool_ != PlanTool::None && !MayMark()) return PickTool(PlanTool::None);
   if (tool_ == PlanTool::Counting) AddMark(NewMark(Mark::Kind::Circle, {at}));
   if (tool_ != PlanTool::Measuring) return;
@@ -168,6 +174,7 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
 void DrawingBoard::Move(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   crossHair_ = at;
+  if (boxing_) return StretchBox(at);
   if (line_ != LineState::None) {
     MoveLine(LineEnd(at, shift));
   } else if (tool_ != PlanTool::None) {
@@ -176,7 +183,9 @@ void DrawingBoard::Move(PagePoint at, bool shift) {
 }
 
 void DrawingBoard::Release(PagePoint at, bool shift) {
-  if (!Sane(at) || line_ == LineState::None) return;
+  if (!Sane(at)) return;
+  if (boxing_) return DrawBox(boxFrom_, at);
+  if (line_ == LineState::None) return;
   work_.to = LineEnd(at, shift);
   if (line_ == LineState::Dragging && Distance(work_.from, work_.to) <= kClickReach) {
     line_ = LineState::Placed;
@@ -201,6 +210,29 @@ void DrawingBoard::PlaceCircle(PagePoint at) {
   if (tool_ != PlanTool::Counting) PickTool(PlanTool::Counting);
   Press(at, false);
   Release(at, false);
+}
+
+// --- The box around a table
+
+void DrawingBoard::StretchBox(PagePoint to) {
+  box_ = DrawnBox{Page(),
+                  {std::min(boxFrom_.x, to.x), std::min(boxFrom_.y, to.y)},
+                  {std::max(boxFrom_.x, to.x), std::max(boxFrom_.y, to.y)}};
+  Repaint();
+}
+
+void DrawingBoard::DrawBox(PagePoint from, PagePoint to) {
+  if (!Sane(from) || !Sane(to)) return;
+  boxNext_ = false;
+  boxing_ = false;
+  boxFrom_ = from;
+  StretchBox(to);
+}
+
+void DrawingBoard::DropBox() {
+  boxNext_ = false;
+  boxing_ = false;
+  box_.reset();
 }
 
 // --- The keys
@@ -244,7 +276,9 @@ void DrawingBoard::Key(const PlanStroke& stroke) {
       return Raise(onEnterKey);
     case PlanKey::Escape:
       work_.check = false;
-      return DropLine();
+      DropBox();
+      DropLine();
+      return Repaint();
     case PlanKey::Backspace:
       return DropLine();  // the line has one point placed; without it there is no line
     case PlanKey::Undo:

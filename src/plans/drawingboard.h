@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "plans/markedsheets.h"
 #include "plans/paperunit.h"
@@ -16,6 +17,13 @@ struct LineInWork {
   PagePoint from;
   PagePoint to;
   QString text;  // its running length, as the label of the mark would say it
+};
+
+// A box that was drawn around a table of the plan. It is no mark.
+struct DrawnBox {
+  int page = 1;
+  PagePoint topLeft;
+  PagePoint bottomRight;
 };
 
 // The tools: what the mouse and the keys draw and measure on the sheets. Places in points on the
@@ -47,6 +55,13 @@ class DrawingBoard : public MarkedSheets {
   void DrawLine(PagePoint from, PagePoint to);  // the whole line; takes the tool first
   void PlaceCircle(PagePoint at);               // takes the tool first
 
+  // A box around a table: the next drag draws it, whatever tool is in hand. It stays until the next
+  // box, another plan or Escape.
+  void SetBoxNext(bool box) { boxNext_ = box; }
+  bool BoxNext() const { return boxNext_; }
+  void DrawBox(PagePoint from, PagePoint to);
+  const std::optional<DrawnBox>& Box() const { return box_; }
+
   // What is painted of it; nothing is worked out here.
   const LineInWork& LineWork() const { return work_; }
   PagePoint CrossHair() const { return crossHair_; }
@@ -69,6 +84,8 @@ class DrawingBoard : public MarkedSheets {
   void MoveCrossHair(const PlanStroke& stroke);
   void PressArrow(const PlanStroke& stroke);
   void PressSpace(bool shift);
+  void StretchBox(PagePoint to);
+  void DropBox();
   PagePoint LineEnd(PagePoint at, bool shift) const;
   double PaperLength() const;
 
@@ -78,6 +95,10 @@ class DrawingBoard : public MarkedSheets {
   enum class LineState { None, Dragging, Placed, Closing };
   LineState line_ = LineState::None;
   LineInWork work_;
+  bool boxNext_ = false;
+  bool boxing_ = false;  // it is being drawn
+  PagePoint boxFrom_;
+  std::optional<DrawnBox> box_;
   PagePoint crossHair_ = {306, 396};
 };
 

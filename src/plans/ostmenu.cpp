@@ -13,7 +13,7 @@ struct Row {
   const char* parent;  // "" on the bar
 };
 
-constexpr char kSpace[] = "    ";
+constexpr char kSpace[] = " ";
 
 constexpr Row kShell[] = {
     {"ProjectS", "P&rojects", ""},
@@ -50,13 +50,24 @@ constexpr Row kShell[] = {
 };
 
 constexpr Row kPlan[] = {
-    {"ZoomOut", "Zoom &Out", ""},      {"ZoomIn", "Zoom I&n", ""},
-    {"ScaleA", "S&cale", ""},          {"GetFiles", "&Files", ""},
-    {"LinesColor", "Line &Color", ""}, {"LastPage", "&Last Page", ""},
-    {"NextPage", "&Next Page", ""},    {"Save", "&Save", ""},
-    {"Printit", "&Print", ""},         {"Spacer2", kSpace, ""},
-    {"Spacer3", kSpace, ""},           {"Documentation", "D&ocumentation", ""},
-    {"Settings1", "&Settings", ""},    {"Exit", "E&xit", ""},
+    {"ZoomOut", "Zoom &Out", ""},
+    {"ZoomIn", "Zoom I&n", ""},
+    {"ScaleA", "S&cale", ""},
+    {"GetFiles", "&Files", ""},
+    {"LinesColor", "Line &Color", ""},
+    {"LastPage", "&Last Page", ""},
+    {"NextPage", "&Next Page", ""},
+    {"Save", "&Save", ""},
+    {"Printit", "&Print", ""},
+    {"Spacer2", kSpace, ""},
+    {"Spacer3", kSpace, ""},
+    {"Documentation", "D&ocumentation", ""},
+    {"Settings1", "&Settings", ""},
+    {"Exit", "E&xit", ""},
+    {"ScheduleMenu", "Sche&d.", ""},
+    {"ReadSchedule", "&Read Schedule", "ScheduleMenu"},
+    {"DrawScheduleBox", "Draw a &Box", "ScheduleMenu"},
+    {"AddToSchedule", "&Add to Schedule", "ScheduleMenu"},
 };
 
 class Bar {

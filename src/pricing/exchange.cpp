@@ -9,7 +9,7 @@
 #include "common/textlines.h"
 #include "records/materialblock.h"
 
-namespace tamo::pricing {
+namespace tamo {
 namespace {
 
 constexpr int kHeadLines = 7;  // name, unit, price, colour, three empty lines
@@ -124,4 +124,4 @@ QStringList PrintedSystem(const SystemFile& system) {
   return lines;
 }
 
-}  // namespace tamo::pricing
+}  // namespace tamo

@@ -7,7 +7,7 @@
 #include "records/systemfile.h"
 
 // Systems that leave or enter the library as files, and the printed page.
-namespace tamo::pricing {
+namespace tamo {
 
 // An exported file: as a system's own, but without notes and end mark.
 QString ExportedText(const SystemFile& system);
@@ -32,4 +32,4 @@ ImportedSystem CheckedExport(const QString& text, const QString& fileName);
 // column 30. A test holds it.
 QStringList PrintedSystem(const SystemFile& system);
 
-}  // namespace tamo::pricing
+}  // namespace tamo

@@ -1,433 +1,270 @@
-#include "common/failure.h"
-#include "common/numbers.h"
-#include "common/paths.h"
-#include "pricing/pricingform.h"
-#include "pricing/unitprice.h"
-#include "records/materialfile.h"
+#include "pricing/materialchain.h"
 
-// The chain of a material, from its name to its wage rate, and the list of the system's materials.
+#include "common/chain.h"
+#include "common/paths.h"
+#include "pricing/steps.h"
+#include "pricing/unitprice.h"
 
 namespace tamo {
 
-void PricingForm::SetUpMaterialChain() {
-  OnEnter(Material, Keys::FileName, [this] { EnterMaterial(); });
-  Material.onGotFocus = [this] { MaterialGotFocus(); };
-  Material.onLostFocus = [this] { MaterialLostFocus(); };
-  Material.onClick = [this] { Toggle(MaterialsList); };
+MaterialChain::MaterialChain(const Kit& kit, Form& form, const PricingParts& parts,
+                             OrderedList& ordinals, std::function<void()> clearFields)
+    : kit_(kit), form_(form), p_(parts), ordinals_(ordinals), clearFields_(std::move(clearFields)) {
+  BindName();
+  BindOrder();
+  BindLabor();
+  BindList();
+}
 
-  OnEnter(OrderUnits, Keys::Any, [this] { EnterOrderUnits(); });
-  OnGotFocus(OrderUnits, [this] {
-    OrderUnits.SetHover(QStringLiteral("Order units used when ordering ") + Material.Text() +
-                        QLatin1Char('.'));
+void MaterialChain::BindName() {
+  MaterialControls& c = p_.materials;
+  OnEnter(
+      c.Material, Keys::FileName, [this] { EnterMaterial(); }, [this] { FinishSystem(); });
+  c.Material.onGotFocus = [this] { MaterialGotFocus(); };
+  c.Material.onLostFocus = [this] { MaterialLostFocus(); };
+  c.Material.onClick = [&c] { ToggleDropList(c.MaterialsList, c.Material); };
+  OnPick(c.Material, c.MaterialsList, [this](const QString& row) { ChooseMaterial(row); });
+}
+
+void MaterialChain::BindOrder() {
+  MaterialControls& c = p_.materials;
+  OnEnter(c.OrderUnits, [this] { EnterOrderUnits(); });
+  OnFocusSelectAll(c.OrderUnits, [&c] {
+    c.OrderUnits.SetHover(QStringLiteral("Order units used when ordering ") + c.Material.Text() +
+                          QLatin1Char('.'));
   });
-  OrderUnits.onLostFocus = [this] { oUnitsList.Hide(); };
-  OrderUnits.onClick = [this] {
-    if (MaterialList.Index() < 0 && !MaterialList.Empty())
-      MaterialList.SetIndex(MaterialList.Count() - 1);
-    Toggle(oUnitsList);
+  c.OrderUnits.onLostFocus = [&c] { c.oUnitsList.Hide(); };
+  c.OrderUnits.onClick = [&c] {
+    if (c.MaterialList.Index() < 0 && !c.MaterialList.Empty())
+      c.MaterialList.SetIndex(c.MaterialList.Count() - 1);
+    ToggleDropList(c.oUnitsList, c.OrderUnits);
   };
-
-  OnEnter(Price, Keys::Money, [this] { EnterPrice(); });
-  OnGotFocus(Price, [this] {
-    pricing::Prompts prompts = TakePrompts();
-    prompts.AtPrice(Names());
-    PutPrompts(prompts);
+  OnPick(c.OrderUnits, c.oUnitsList, [this, &c](const QString& row) {
+    c.OrderUnits.SetText(row);
+    kit_.desk.Focus(c.OrderUnits);
+    c.OrderUnits.SelectAll();
   });
-  Price.onLostFocus = [this] {
-    if (UPO.Usable()) Focus(UPO);
+  OnEnter(c.Price, Keys::Number, [this] { EnterPrice(); });
+  OnFocusSelectAll(c.Price, [this] { p_.material.prompts.Change(&Prompts::AtPrice); });
+  c.Price.onLostFocus = [this, &c] {
+    if (c.UPO.Usable()) kit_.desk.Focus(c.UPO);
   };
+}
 
-  OnEnter(Waste, Keys::Whole, [this] { Focus(WageRate); });
-  OnGotFocus(Waste);
-  OnEnter(WageRate, Keys::Money, [this] { FinishMaterial(); });
-  OnGotFocus(WageRate);
-  WageRate.onLostFocus = [this] { WagesList.Hide(); };
-  WageRate.onClick = [this] { Toggle(WagesList); };
+void MaterialChain::BindLabor() {
+  MaterialControls& c = p_.materials;
+  OnEnter(c.Waste, Keys::WholeNumber, [this, &c] { kit_.desk.Focus(c.WageRate); });
+  OnFocusSelectAll(c.Waste);
+  OnEnter(c.WageRate, Keys::Number, [this] { FinishMaterial(); });
+  OnFocusSelectAll(c.WageRate);
+  c.WageRate.onLostFocus = [&c] { c.WagesList.Hide(); };
+  c.WageRate.onClick = [&c] { ToggleDropList(c.WagesList, c.WageRate); };
+  OnPick(c.WageRate, c.WagesList, [this, &c](const QString& row) {
+    c.WageRate.SetText(row);
+    kit_.desk.Focus(c.WageRate);
+    c.WageRate.SelectAll();
+  });
+}
 
-  MaterialList.onSelect = [this] { SelectMaterial(); };
-  MaterialList.onClick = [this] {
-    if (Material.Usable()) Focus(Material);
+void MaterialChain::BindList() {
+  MaterialControls& c = p_.materials;
+  c.MaterialList.onSelect = [this] { SelectMaterial(); };
+  c.MaterialList.onClick = [this, &c] {
+    if (c.Material.Usable()) kit_.desk.Focus(c.Material);
   };
-  MaterialList.onRightClick = [this] {
-    if (MaterialList.Index() >= 0) PopUp(MaterialMenu);
+  c.MaterialList.onRightClick = [this, &c] {
+    if (c.MaterialList.Index() >= 0) form_.PopUp(p_.menus.MaterialMenu);
   };
-  MaterialDelete.onClick = [this] { DeleteMaterial(); };
-  MaterialInsert.onClick = [this] { InsertMaterial(); };
+  p_.menus.MaterialDelete.onClick = [this] { DeleteMaterial(); };
+  // Nothing is saved until the material is finished.
+  p_.menus.MaterialInsert.onClick = [this, &c] {
+    if (c.MaterialList.Index() >= 0) p_.blocks.InsertPlace(c.MaterialList.Index());
+  };
 }
 
 // --- Material ---
 
-void PricingForm::MaterialGotFocus() {
-  if (Description.Empty()) {
-    FramePricing.Show();
-    Focus(Description);
+void MaterialChain::MaterialGotFocus() {
+  if (p_.system.Description.Empty()) {
+    p_.system.FramePricing.Show();
+    kit_.desk.Focus(p_.system.Description);
     return;
   }
-  if (Material.Empty() && OrderUnits.Empty()) {
-    Waste.Clear();
-    WageRate.Clear();
+  MaterialControls& c = p_.materials;
+  if (c.Material.Empty() && c.OrderUnits.Empty()) {
+    c.Waste.Clear();
+    c.WageRate.Clear();
   }
-  Material.SelectAll();
-  FramePricing.Show();
-  pricing::Prompts prompts = TakePrompts();
-  prompts.AtMaterial(Names());
-  PutPrompts(prompts);
-  Label5.Show();
-  Label8.Show();
-  if (System.Empty()) StepOn();
-  ShowMaterialHover();
+  c.Material.SelectAll();
+  p_.system.FramePricing.Show();
+  p_.material.prompts.Change(&Prompts::AtMaterial);
+  c.Label5.Show();
+  c.Label8.Show();
+  KeepRowReady();
+  ShowHover();
 }
 
-void PricingForm::ShowMaterialHover() {
-  const int row = MaterialList.Index();
+void MaterialChain::KeepRowReady() {
+  if (p_.materials.Material.HasFocus() && p_.blocks.Empty()) StepOn();
+}
+
+void MaterialChain::ShowHover() {
+  const int row = p_.materials.MaterialList.Index();
   if (row < 0) return;
-  Material.SetHover(row < nth.Count()
-                        ? nth.Row(row) + QStringLiteral(" material used in ") + Description.Text()
-                        : QStringLiteral("Material #") + QString::number(row + 1) +
-                              QStringLiteral(" used in ") + Description.Text());
+  const QString& system = p_.system.Description.Text();
+  p_.materials.Material.SetHover(
+      row < ordinals_.Count() ? ordinals_.Row(row) + QStringLiteral(" material used in ") + system
+                              : QStringLiteral("Material #") + QString::number(row + 1) +
+                                    QStringLiteral(" used in ") + system);
 }
 
-void PricingForm::MaterialLostFocus() {
-  MaterialsList.Hide();
-  if (!Material.Empty()) {
-    KeepMaterialName();
-  } else if (Description.Usable() && MaterialsList.Index() < 0) {
-    Focus(Description);
+void MaterialChain::MaterialLostFocus() {
+  p_.materials.MaterialsList.Hide();
+  if (!p_.materials.Material.Empty()) {
+    RememberName();
+  } else if (p_.system.Description.Usable() && p_.materials.MaterialsList.Index() < 0) {
+    kit_.desk.Focus(p_.system.Description);
   }
 }
 
 // A name that can't be a file's name is told at Enter; on leaving it is only not kept.
-void PricingForm::KeepMaterialName() {
-  if (NameRefusal(Material.Text()).isEmpty())
-    AddName(MaterialsList, Material.Text(), &PricingForm::SaveMaterials);
+void MaterialChain::RememberName() {
+  const QString& name = p_.materials.Material.Text();
+  if (NameRefusal(name).isEmpty()) p_.vocabulary.materials.Remember(name);
 }
 
-void PricingForm::EnterMaterial() {
-  if (Material.Empty()) {
-    EndOfSystem();
-    return;
-  }
-  if (Refused(Material.Text())) return;
-  bool untouched = true;
-  for (const TextField* field : fillable_) untouched = untouched && field->Empty();
-  const bool known = untouched && materials_.Find(Material.Text()) >= 0;
-  if (known || (library_ && MaterialList.Index() >= 0 && MaterialList.Selected().isEmpty()))
-    LoadMaterial();
-  KeepMaterialName();
-  MaterialsList.Hide();
-  Focus(OrderUnits);
+void MaterialChain::EnterMaterial() {
+  MaterialControls& c = p_.materials;
+  if (TellIfUnusable(kit_.desk, c.Material.Text())) return;
+  const bool known =
+      p_.material.fields.AllEmpty() && p_.vocabulary.materials.Find(c.Material.Text()) >= 0;
+  const bool another = p_.material.FromLibrary() && c.MaterialList.Index() >= 0 &&
+                       c.MaterialList.Selected().isEmpty();
+  if (known || another) p_.material.LoadMaterial();
+  RememberName();
+  c.MaterialsList.Hide();
+  kit_.desk.Focus(c.OrderUnits);
 }
 
-void PricingForm::EndOfSystem() {
-  ClearStuff();
-  MaterialsList.Hide();
-  EmptySystem();
-  HideLabor();
-  CopySystem.SetEnabled(false);
-  PricingNotes.Hide();
-  Focus(Description);
-  ColorFrame.Hide();
+void MaterialChain::FinishSystem() {
+  clearFields_();
+  p_.materials.MaterialsList.Hide();
+  p_.open.Empty();
+  p_.price.Hide();
+  p_.menus.CopySystem.SetEnabled(false);
+  p_.look.PricingNotes.Hide();
+  kit_.desk.Focus(p_.system.Description);
+  p_.look.ColorFrame.Hide();
 }
 
-void PricingForm::ChooseMaterial(const QString& name) {
-  Material.SetText(name);
-  if (!name.isEmpty() && !Refused(name) && MaterialList.Index() >= MaterialList.Count() - 1)
-    LoadMaterial();
+void MaterialChain::ChooseMaterial(const QString& name) {
+  MaterialControls& c = p_.materials;
+  c.Material.SetText(name);
+  if (!name.isEmpty() && !TellIfUnusable(kit_.desk, name) &&
+      c.MaterialList.Index() >= c.MaterialList.Count() - 1)
+    p_.material.LoadMaterial();
   // The field mostly has the focus already; what comes with it (the whole name selected, the
   // prompts) is due all the same.
-  if (Material.HasFocus()) {
+  if (c.Material.HasFocus()) {
     MaterialGotFocus();
   } else {
-    Focus(Material);
+    kit_.desk.Focus(c.Material);
   }
-}
-
-// --- the material library ---
-
-bool PricingForm::Typed(Fillable field) const {
-  const QString& text = fillable_[field]->Text();
-  return !text.isEmpty() && text != given_[field];
-}
-
-void PricingForm::Fill(Fillable field, const QString& text) {
-  fillable_[field]->SetText(text);
-  given_[field] = text;
-}
-
-void PricingForm::ClearSomeStuff() {
-  Material.Clear();
-  for (TextField* field : fillable_) field->Clear();
-  given_.fill(QString());
-  library_ = false;
-  ratioTag_.clear();
-  laborTag_.clear();
-}
-
-void PricingForm::FillFrom(const MaterialBlock& block) {
-  Material.SetText(block.material);
-  Fill(kOrderUnitsField, block.orderUnits);
-  Fill(kPriceField, block.price);
-  Fill(kUpoField, block.upo);
-  Fill(kMnhrPOField, block.mnhrPO);
-  Fill(kWasteField, block.waste);
-  Fill(kWageRateField, block.wageRate);
-  library_ = false;
-  ratioTag_ = IsRatioTag(block.upoTag) ? block.upoTag : QString();
-  laborTag_ = IsLaborTag(block.mnhrTag) ? block.mnhrTag : QString();
-}
-
-void PricingForm::LoadMaterial() {
-  library_ = true;
-  RefuseOrGoOn(Material.Text());
-  QString text;
-  if (kit_.files.ReadText(MaterialPath(kit_.shared, Material.Text()), text) != kNoError) return;
-  const MaterialFile file = ReadMaterialFile(text);
-  const MaterialBlock& block = file.block;
-  // Lines of the file, from 1: a line that was not reached, or whose field was typed in, fills
-  // nothing.
-  const auto fill = [this, &file](int line, Fillable field, const QString& value) {
-    if (file.reached < line || Typed(field)) return false;
-    Fill(field, value);
-    return true;
-  };
-  if (file.reached >= 1) Material.SetText(block.material);
-  fill(2, kOrderUnitsField, block.orderUnits);
-  fill(3, kPriceField, block.price);
-  pricing::Prompts prompts = TakePrompts();
-  if (fill(4, kUpoField, block.upo) && IsRatioTag(block.upoTag)) {
-    ratioTag_ = block.upoTag;
-    prompts.AfterFileRatioTag(Names(), ratioTag_);
-  }
-  if (fill(6, kMnhrPOField, block.mnhrPO) && IsLaborTag(block.mnhrTag)) {
-    laborTag_ = block.mnhrTag;
-    prompts.AfterFileLaborTag(Names(), laborTag_);
-  }
-  PutPrompts(prompts);
-  fill(8, kWasteField, block.waste);
-  fill(9, kWageRateField, block.wageRate);
-}
-
-void PricingForm::SaveMaterial() {
-  RefuseOrGoOn(Material.Text());
-  const pricing::Prompts prompts = TakePrompts();
-  const QStringList ratio =
-      ratioTag_.isEmpty() ? pricing::RatioTagLines(prompts, Names()) : QStringList(ratioTag_);
-  const QStringList labor =
-      laborTag_.isEmpty() ? pricing::LaborTagLines(prompts, Names()) : QStringList(laborTag_);
-  kit_.files.SaveText(MaterialPath(kit_.shared, Material.Text()),
-                      MaterialFileText(BlockOfFields(), ratio, labor));
 }
 
 // --- OrderUnits and Price ---
 
-// Where the block of the material in work stands, or will stand.
-int PricingForm::PlaceOfMaterial() const {
-  if (MaterialList.Index() >= 0) return MaterialList.Index() * kBlockRows;
-  return (System.Count() + kBlockRows - 1) / kBlockRows * kBlockRows;
-}
-
-void PricingForm::EnterOrderUnits() {
-  if (OrderUnits.Text().trimmed().isEmpty()) return;
-  pricing::Prompts prompts = TakePrompts();
-  prompts.AppendOrderUnits(Names());
-  PutPrompts(prompts);
-  if (const QString reserved = pricing::ReservedTerm(Names()); !reserved.isEmpty()) {
+void MaterialChain::EnterOrderUnits() {
+  MaterialControls& c = p_.materials;
+  if (c.OrderUnits.Text().trimmed().isEmpty()) return;
+  PromptLabels& prompts = p_.material.prompts;
+  prompts.Change(&Prompts::AppendOrderUnits);
+  if (const QString reserved = ReservedTerm(prompts.Names()); !reserved.isEmpty()) {
     kit_.desk.GetMessages().Tell(reserved);
-    Focus(OrderUnits);
+    kit_.desk.Focus(c.OrderUnits);
     return;
   }
-  AddName(oUnitsList, OrderUnits.Text(), &PricingForm::SaveOrderUnits);
-  oUnitsList.Hide();
-  position_ = PlaceOfMaterial();
-  LabelPrice.SetCaption(QStringLiteral("Cost per ") + OrderUnits.Text() + QLatin1Char(':'));
-  SetUpoUpm();
-  Focus(Price);
+  p_.vocabulary.orderUnits.Remember(c.OrderUnits.Text());
+  c.oUnitsList.Hide();
+  prompts.Change(&Prompts::CostPer);
+  prompts.SetUpoUpm(p_.material.directions);
+  kit_.desk.Focus(c.Price);
 }
 
-void PricingForm::EnterPrice() {
-  const bool typed = Typed(kPriceField);
-  Price.SetText(pricing::MakeMoney(Price.Text()));
-  if (!typed) given_[kPriceField] = Price.Text();
-  Focus(UPO);
+void MaterialChain::EnterPrice() {
+  p_.material.fields.Respell(MaterialFields::kPrice,
+                             PriceFormat::MakeMoney(p_.materials.Price.Text()));
+  kit_.desk.Focus(p_.materials.UPO);
 }
 
 // --- WageRate: the material is finished ---
 
-MaterialBlock PricingForm::BlockOfFields() const {
-  MaterialBlock block;
-  block.material = Material.Text();
-  block.orderUnits = OrderUnits.Text();
-  block.price = Price.Text();
-  block.upo = UPO.Text();
-  block.mnhrPO = MnhrPO.Text();
-  block.waste = Waste.Text();
-  block.wageRate = WageRate.Text();
-  return block;
-}
+void MaterialChain::FinishMaterial() {
+  MaterialControls& c = p_.materials;
+  RequireFileName(c.Material.Text());
+  if (!p_.system.Description.Empty()) RequireFileName(p_.system.Description.Text());
+  p_.open.RequireOwnName();
+  c.WageRate.SetText(PriceFormat::MakeMoney(c.WageRate.Text()));
+  c.WagesList.Hide();
+  const MaterialBlock block = p_.material.ToStore();
+  p_.material.SaveMaterial(block);
+  p_.vocabulary.wages.Remember(c.WageRate.Text());
 
-// A block stands at `row`, more than an inserted place for one.
-bool PricingForm::Stored(int row) const {
-  return row >= 0 && !RowAt(System.Rows(), row).isEmpty();
-}
-
-void PricingForm::FinishMaterial() {
-  RefuseOrGoOn(Material.Text());
-  if (!Description.Empty()) RefuseOrGoOn(Description.Text());
-  WageRate.SetText(pricing::MakeMoney(WageRate.Text()));
-  WagesList.Hide();
-  SaveMaterial();
-  AddName(WagesList, WageRate.Text(), &PricingForm::SaveWagesList);
-
-  position_ = PlaceOfMaterial();
-  if (position_ >= System.Count()) {
-    AddBlock();
+  const int place = p_.blocks.Place();
+  const bool isNew = place >= p_.blocks.Count();
+  p_.blocks.Put(place, block);
+  if (isNew) {
+    p_.material.ClearSomeStuff();
     StepOn();
-    position_ = PlaceOfMaterial();
-    StoreSystem();
+    p_.open.SaveSystem();
   } else {
-    OverwriteBlock();
-    StoreSystem();
+    p_.material.Stored(block);
+    p_.open.SaveSystem();
     StepOn();
   }
-  Focus(Material);
-  refresh_.PrintReport();
-}
-
-void PricingForm::AddBlock() {
-  const pricing::Prompts prompts = TakePrompts();
-  MaterialBlock block = BlockOfFields();
-  block.upoTag = ratioTag_.isEmpty() ? pricing::RatioTagOfNewBlock(prompts, Names()) : ratioTag_;
-  block.mnhrTag = laborTag_.isEmpty() ? pricing::LaborTagOfNewBlock(prompts) : laborTag_;
-  // A prompt that was never set tells a new block nothing; the material file takes it for a count
-  // per manhour, and so does the block.
-  if (block.mnhrTag.isEmpty()) block.mnhrTag = pricing::LaborTagLines(prompts, Names()).value(0);
-  while (System.Count() % kBlockRows != 0) System.Add(QString());
-  System.AddAll(block.Rows());
-  const int last = MaterialList.Count() - 1;
-  if (last >= 0 && MaterialList.Row(last).isEmpty()) {
-    MaterialList.Insert(last, block.material);
-  } else {
-    MaterialList.Add(block.material);
-  }
-  ClearSomeStuff();
-}
-
-void PricingForm::OverwriteBlock() {
-  const pricing::Prompts prompts = TakePrompts();
-  const MaterialBlock old = MaterialBlock::At(System.Rows(), position_);
-  MaterialBlock block = BlockOfFields();
-  block.upoTag =
-      ratioTag_.isEmpty() ? pricing::RatioTagOfBlock(prompts, Names(), old.upoTag) : ratioTag_;
-  // A place that was only inserted has no tag that could stand.
-  if (block.upoTag.isEmpty()) block.upoTag = pricing::RatioTagOfNewBlock(prompts, Names());
-  block.mnhrTag = laborTag_.isEmpty() ? pricing::LaborTagOfBlock(prompts) : laborTag_;
-  while (System.Count() < position_ + kBlockRows) System.Add(QString());
-  const QStringList rows = block.Rows();
-  for (int i = 0; i < kBlockRows - 3; ++i) System.SetRow(position_ + i, rows[i]);
-  MaterialList.SetRow(MaterialList.Index(), block.material);
+  kit_.desk.Focus(c.Material);
+  p_.refresh.PrintReport();
 }
 
 // On to the next material: the following row comes up; behind the last one an empty row is made
 // for a new one.
-void PricingForm::StepOn() {
-  const int row = MaterialList.Index();
-  const int last = MaterialList.Count() - 1;
-  const bool emptyLast = last >= 0 && MaterialList.Row(last).isEmpty();
-  if (row >= 0 && row < last) {
-    if (!emptyLast && row == last - 1) MaterialList.Add(QString());
-    MaterialList.SetIndex(row + 1);
-    ShowSystem();
-    return;
-  }
-  if (!emptyLast) MaterialList.Add(QString());
-  MaterialList.SetIndex(MaterialList.Count() - 1);
+void MaterialChain::StepOn() {
+  if (p_.blocks.SelectNext()) p_.material.ShowSystem();
 }
 
 // --- the list of the system's materials ---
 
-void PricingForm::SelectMaterial() {
-  const int row = MaterialList.Index();
+void MaterialChain::SelectMaterial() {
+  MaterialControls& c = p_.materials;
+  const int row = c.MaterialList.Index();
   if (row < 0) return;
-  if (row < nth.Count()) nth.SetIndex(row);
-  position_ = row * kBlockRows;
-  FillFrom(MaterialBlock::At(System.Rows(), position_));
-  if (Material.Empty()) {
-    Waste.Clear();
-    WageRate.Clear();
+  if (row < ordinals_.Count()) ordinals_.SetIndex(row);
+  p_.material.ComeUp();
+  if (c.Material.Empty()) {
+    c.Waste.Clear();
+    c.WageRate.Clear();
   }
-  if (Material.Usable()) Focus(Material);
+  if (c.Material.Usable()) kit_.desk.Focus(c.Material);
   // The next name typed replaces the one that came up.
-  if (Material.HasFocus()) Material.SelectAll();
-  SetUpoUpm();
-  ShowMaterialHover();
+  if (c.Material.HasFocus()) c.Material.SelectAll();
+  p_.material.prompts.SetUpoUpm(p_.material.directions);
+  ShowHover();
 }
 
-void PricingForm::ShowSystem() {
-  if (MaterialList.Index() < 0) return;
-  position_ = MaterialList.Index() * kBlockRows;
-  const MaterialBlock block = MaterialBlock::At(System.Rows(), position_);
-  FillFrom(block);
-  pricing::Prompts prompts = TakePrompts();
-  prompts.ShowRatio(Names(), block.upoTag);
-  prompts.ShowLabor(Names(), block.mnhrTag);
-  PutPrompts(prompts);
-  SetUpoUpm();
-}
-
-void PricingForm::DeleteMaterial() {
-  const int row = MaterialList.Index();
+void MaterialChain::DeleteMaterial() {
+  OrderedList& list = p_.materials.MaterialList;
+  const int row = list.Index();
   if (row < 0) return;
-  const int place = row * kBlockRows;
-  for (int i = 0; i < kBlockRows && place < System.Count(); ++i) System.Remove(place);
-  MaterialList.Remove(row);
-  if (row < MaterialList.Count()) {
-    MaterialList.SetIndex(row);
+  p_.open.RequireOwnName();
+  p_.blocks.Delete(row);
+  if (row < list.Count()) {
+    list.SetIndex(row);
   } else {
-    ClearSomeStuff();
-    position_ = PlaceOfMaterial();
+    p_.material.ClearSomeStuff();
   }
-  StoreSystem();
-  if (System.Empty() && Material.HasFocus()) StepOn();
-  refresh_.PrintReport();
-}
-
-// Nothing is saved until the material is finished.
-void PricingForm::InsertMaterial() {
-  const int row = MaterialList.Index();
-  if (row < 0) return;
-  const int place = row * kBlockRows;
-  while (System.Count() < place) System.Add(QString());
-  for (int i = 0; i < kBlockRows; ++i) System.Insert(place, QString());
-  MaterialList.Insert(row, QString());
-  MaterialList.SetIndex(row);
-}
-
-// --- the estimated unit price ---
-
-void PricingForm::MakeEUP() {
-  const pricing::EstimatedPrice price = pricing::EstimateUnitPrice(System.Rows(), MarkupTexts());
-  EUP.SetCaption(price.text);
-  if (price.stoppedAt < 0) return;
-  const QString material = RowAt(System.Rows(), price.stoppedAt * kBlockRows);
-  BringUp(price.stoppedAt, price.labor);
-  throw RunTimeFailure(
-      kDivisionByZero,
-      QStringLiteral("The unit price of \"%1\" can't be estimated: the material \"%2\" has 0, or "
-                     "no number, in "
-                     "the field \"%3\". Enter another number there.")
-          .arg(Description.Text(), material, (price.labor ? LabelMnhr : LabelUPO).Caption()));
-}
-
-// The number to correct, with the material that it belongs to in the fields.
-void PricingForm::BringUp(int block, bool labor) {
-  FramePricing.Show();
-  ShowLabor();
-  if (block < MaterialList.Count()) MaterialList.SetIndex(block);
-  Focus(labor ? MnhrPO : UPO);
-}
-
-double PricingForm::ActualProfit() const {
-  return pricing::ActualProfit(MarkupTexts());
+  p_.open.SaveSystem();
+  KeepRowReady();
+  p_.refresh.PrintReport();
 }
 
 }  // namespace tamo

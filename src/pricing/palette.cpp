@@ -4,7 +4,7 @@
 
 #include "common/numbers.h"
 
-namespace tamo::pricing {
+namespace tamo {
 
 QString ShownColour(const QString& code) {
   if (code.isEmpty() || code == QLatin1String("NoColor")) return {};
@@ -16,4 +16,4 @@ QString ShownColour(const QString& code) {
   return shown;
 }
 
-}  // namespace tamo::pricing
+}  // namespace tamo

@@ -3,7 +3,7 @@
 #include <QString>
 #include <array>
 
-namespace tamo::pricing {
+namespace tamo {
 
 // The line colours that a system can have on the plan.
 struct PaletteRow {
@@ -41,4 +41,4 @@ inline constexpr int kBackgroundNumber = 15790320;
 // for no colour: an empty code or "NoColor".
 QString ShownColour(const QString& code);
 
-}  // namespace tamo::pricing
+}  // namespace tamo

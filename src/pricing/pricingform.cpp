@@ -1,26 +1,19 @@
 #include "pricing/pricingform.h"
 
+#include "common/chain.h"
 #include "common/failure.h"
-#include "common/paths.h"
 
 namespace tamo {
 namespace {
 
-const QStringList& Ordinals() {
-  static const QStringList words = {
-      QStringLiteral("First"),      QStringLiteral("Second"),      QStringLiteral("Third"),
-      QStringLiteral("Fourth"),     QStringLiteral("Fifth"),       QStringLiteral("Sixth"),
-      QStringLiteral("Seventh"),    QStringLiteral("Eighth"),      QStringLiteral("Ninth"),
-      QStringLiteral("Tenth"),      QStringLiteral("Eleventh"),    QStringLiteral("Twelfth"),
-      QStringLiteral("Thirteenth"), QStringLiteral("Fourteenth"),  QStringLiteral("Fifteenth"),
-      QStringLiteral("Sixteenth"),  QStringLiteral("Seventeenth"), QStringLiteral("Eighteenth"),
-      QStringLiteral("Nineteenth"), QStringLiteral("Twentieth")};
-  return words;
-}
-
-// What a field of the chain takes as a typed character.
-bool Passes(QChar c, const char* allowed) {
-  return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || QLatin1String(allowed).contains(c);
+QStringList Ordinals() {
+  return {QStringLiteral("First"),      QStringLiteral("Second"),      QStringLiteral("Third"),
+          QStringLiteral("Fourth"),     QStringLiteral("Fifth"),       QStringLiteral("Sixth"),
+          QStringLiteral("Seventh"),    QStringLiteral("Eighth"),      QStringLiteral("Ninth"),
+          QStringLiteral("Tenth"),      QStringLiteral("Eleventh"),    QStringLiteral("Twelfth"),
+          QStringLiteral("Thirteenth"), QStringLiteral("Fourteenth"),  QStringLiteral("Fifteenth"),
+          QStringLiteral("Sixteenth"),  QStringLiteral("Seventeenth"), QStringLiteral("Eighteenth"),
+          QStringLiteral("Nineteenth"), QStringLiteral("Twentieth")};
 }
 
 }  // namespace
@@ -28,219 +21,58 @@ bool Passes(QChar c, const char* allowed) {
 PricingForm::PricingForm(const Kit& kit, ReportRefresh& refresh, SettingsReader& settings,
                          ProjectNumberSeed& seed)
     : Form(kit.desk, QStringLiteral("Pricing")),
+      PricingMenus(static_cast<Form&>(*this)),
+      SystemControls(static_cast<Form&>(*this)),
+      MaterialControls(static_cast<Form&>(*this)),
+      LookControls(static_cast<Form&>(*this), FramePricing),
+      MarkupControls(static_cast<Form&>(*this)),
+      ExchangeControls(static_cast<Form&>(*this)),
+      vocabulary(kit, *this, *this),
+      inWork(kit, *this, *this, blocks),
       kit_(kit),
-      refresh_(refresh),
       settings_(settings),
-      seed_(seed) {
+      seed_(seed),
+      parts_{*this, *this, *this, *this, *this, vocabulary, blocks, inWork, price_, open_, refresh},
+      systemChain_(kit, *this, parts_),
+      materialChain_(kit, *this, parts_, nth, [this] { systemChain_.ClearStuff(); }),
+      look_(kit, *this, *this, open_, refresh, LineColor, Material),
+      markups_(kit, *this, *this, FramePricing, price_, refresh),
+      exchange_(
+          kit, parts_, [this] { look_.KeepNotes(); }, [this] { materialChain_.KeepRowReady(); }) {
   AddText(QStringLiteral("LineColor"), &LineColor);
   AddText(QStringLiteral("TotalBL"), &TotalBL);
-  SetUpFrames();
-  SetUpPalette();
-  SetUpLists();
-  SetUpSystemChain();
-  SetUpMaterialChain();
-  SetUpRatios();
-  SetUpMarkups();
-  SetUpExchange();
+  KeepUnseen(System);
+  KeepUnseen(nth);
   nth.SetRows(Ordinals());
+  inWork.fields.WatchKeys();
+  BindWindow();
+}
+
+PricingForm::~PricingForm() = default;
+
+void PricingForm::BindWindow() {
   onDeactivate = [this] { Leave(); };
   onClose = [this] {
     MarkupsFrame.Hide();
     return true;
   };
   UnitsPricing.onClick = [this] { ToggleUnitsFrame(); };
+  PricingMenus::Markups.onClick = [this] { markups_.ToggleFrame(); };
   Xit.onClick = [this] {
     MarkupsFrame.Hide();
     Hide();
   };
 }
 
-PricingForm::~PricingForm() = default;
-
-void PricingForm::SetUpFrames() {
-  for (Control* control :
-       std::initializer_list<Control*>{&LabelUnits, &Units, &UnitsList, &LabelUnitPrice, &UnitPrice,
-                                       &Label3, &Line1, &Command1, &Command2})
-    control->PutInto(FramePricing);
-  for (Control* control : std::initializer_list<Control*>{
-           &LabelMaterial, &Material,   &MaterialsList, &Label18,  &LabelOrderUnits,
-           &OrderUnits,    &oUnitsList, &LabelPrice,    &Price,    &LabelUPO,
-           &UPO,           &Label5,     &LabelMnhr,     &MnhrPO,   &Label8,
-           &Label4,        &Waste,      &Label7,        &WageRate, &WagesList,
-           &MaterialList})
-    control->PutInto(LandMFrame);
-  iNoColor.PutInto(ColorFrame);
-  Label20.PutInto(ColorFrame);
-  for (Control* control : std::initializer_list<Control*>{
-           &LabelMOH,  &MOH,       &LabelMTX,  &MTX,        &LabelMMU,  &MMU,       &LabelLOH,
-           &LOH,       &LabelLTX,  &LTX,       &LabelLMU,   &LMU,       &LabelBLOH, &BLOH,
-           &LabelBLTX, &BLTX,      &LabelBLMU, &BLMU,       &LabelMIOH, &MIOH,      &LabelMITX,
-           &MITX,      &LabelMIMU, &MIMU,      &ExitMarkups})
-    control->PutInto(MarkupsFrame);
-  for (Control* control : std::initializer_list<Control*>{&IELabel, &Drive1, &Dir1, &File1})
-    control->PutInto(IEFrame);
-  for (Control* control : std::initializer_list<Control*>{
-           &FramePricing, &LandMFrame, &ColorFrame, &MarkupsFrame, &IEFrame, &Label3, &Label9,
-           &Label19, &EUP, &PricingNotes, &System, &nth, &CopySys})
-    control->Hide();
-  for (Control* control : std::initializer_list<Control*>{&System, &nth, &CopySys})
-    control->takesFocus = false;
-  PricingNotes.multiLine = true;
-  CopySystem.SetEnabled(false);
-  PasteSystem.SetEnabled(false);
-}
-
-void PricingForm::SetUpPalette() {
-  for (const pricing::PaletteRow& row : pricing::kPalette) {
-    Palette.push_back(std::make_unique<Swatch>(*this, QString::fromLatin1(row.name),
-                                               QString::fromLatin1(row.label)));
-    Palette.back()->PutInto(ColorFrame);
-    Palette.back()->onClick = [this, &row] { ChooseColour(QString::fromLatin1(row.code)); };
-  }
-  iNoColor.onClick = [this] { ChooseColour(QString()); };
-  Label20.onClick = [this] { ChooseBackgroundNumber(); };
-}
-
-void PricingForm::SetUpLists() {
-  Drops(DescriptionsList, Description, [this](const QString& row) { ChooseDescription(row); });
-  Drops(UnitsList, Units, [this](const QString& row) {
-    Units.SetText(row);
-    Focus(UnitPrice);
-  });
-  Drops(MaterialsList, Material, [this](const QString& row) { ChooseMaterial(row); });
-  Drops(oUnitsList, OrderUnits, [this](const QString& row) {
-    OrderUnits.SetText(row);
-    Focus(OrderUnits);
-    OrderUnits.SelectAll();
-  });
-  Drops(WagesList, WageRate, [this](const QString& row) {
-    WageRate.SetText(row);
-    Focus(WageRate);
-    WageRate.SelectAll();
-  });
-}
-
-// --- building blocks of the chains ---
-
-void PricingForm::OnEnter(TextField& field, Keys keys, std::function<void()> enter) {
-  field.onKey = [keys, enter = std::move(enter)](Key& key) {
-    if (key.IsEnter()) {
-      key.Drop();
-      enter();
-      return;
-    }
-    if (!key.Is(Key::Name::Character) && !key.Is(Key::Name::Space)) return;
-    const QChar c = key.character;
-    const bool passes =
-        keys == Keys::Any || (keys == Keys::FileName && !QStringLiteral(",\"/\\").contains(c)) ||
-        (keys == Keys::Money && Passes(c, ".-")) || (keys == Keys::Whole && Passes(c, "-"));
-    if (!passes) key.Drop();
-  };
-}
-
-void PricingForm::OnGotFocus(TextField& field, std::function<void()> also) {
-  field.onGotFocus = [&field, also = std::move(also)] {
-    field.SelectAll();
-    if (also) also();
-  };
-}
-
-void PricingForm::Drops(OrderedList& list, TextField& field,
-                        std::function<void(const QString&)> chosen) {
-  list.Hide();
-  list.takesFocus = false;
-  list.inTabOrder = false;
-  list.dropsFrom = &field;
-  list.onClick = [&list, chosen = std::move(chosen)] {
-    if (list.Index() < 0) return;
-    const QString row = list.Selected();
-    list.Hide();
-    chosen(row);
-  };
-}
-
-// A field that is left may lead elsewhere (an empty Material to the system's name, Price to UPO).
-// That holds for whoever walks away from it, not for a command that says where to go.
-void PricingForm::Insist(Control& control) {
-  Focus(control);
-  if (!control.HasFocus()) Focus(control);
-}
-
-bool PricingForm::Refused(const QString& name) {
-  const QString refusal = NameRefusal(name);
-  if (refusal.isEmpty()) return false;
-  kit_.desk.GetMessages().Tell(refusal);
-  return true;
-}
-
-void PricingForm::RefuseOrGoOn(const QString& name) const {
-  const QString refusal = NameRefusal(name);
-  if (!refusal.isEmpty()) throw RunTimeFailure(kInvalidArgument, refusal);
-}
-
-// --- the lists of names ---
-
-int PricingForm::LoadNames(OrderedList& list, NameList file) {
-  QStringList names;
-  const int error = ReadNames(kit_.files, kit_.shared, file, names);
-  list.SetRows(names);
-  return error;
-}
-
-void PricingForm::SaveNames(const OrderedList& list, NameList file) {
-  WriteNames(kit_.files, kit_.shared, file, list.Rows());
-}
-
-// A name is remembered exactly as it was typed, once, in the order of first use.
-void PricingForm::AddName(OrderedList& list, const QString& name, void (PricingForm::*save)()) {
-  if (list.Find(name) >= 0) return;
-  list.Add(name);
-  (this->*save)();
-}
-
-void PricingForm::LoadDescriptions() {
-  LoadNames(DescriptionsList, NameList::Systems);
-}
-void PricingForm::LoadUnits() {
-  LoadNames(UnitsList, NameList::Units);
-}
-void PricingForm::LoadMaterials() {
-  LoadNames(MaterialsList, NameList::Materials);
-}
-void PricingForm::LoadOrderUnits() {
-  LoadNames(oUnitsList, NameList::OrderUnits);
-}
-
-// The last name of a library can't be deleted for good: an empty list is not written. A test holds
-// it.
-void PricingForm::SaveDescriptions() {
-  if (DescriptionsList.Empty() || DescriptionsList.Row(0).isEmpty()) return;
-  SaveNames(DescriptionsList, NameList::Systems);
-}
-void PricingForm::SaveUnits() {
-  SaveNames(UnitsList, NameList::Units);
-}
-void PricingForm::SaveMaterials() {
-  SaveNames(MaterialsList, NameList::Materials);
-}
-void PricingForm::SaveOrderUnits() {
-  SaveNames(oUnitsList, NameList::OrderUnits);
-}
-void PricingForm::SaveWagesList() {
-  SaveNames(WagesList, NameList::Wages);
-}
-
 void PricingForm::Init() {
   if (kit_.shared.DataPath.isEmpty()) settings_.LoadSettings();
   bool missing = false;
-  missing |= LoadNames(DescriptionsList, NameList::Systems) == kFileNotFound;
-  missing |= LoadNames(UnitsList, NameList::Units) == kFileNotFound;
-  missing |= LoadNames(MaterialsList, NameList::Materials) == kFileNotFound;
-  missing |= LoadNames(oUnitsList, NameList::OrderUnits) == kFileNotFound;
-  missing |= ReadMarkups() == kFileNotFound;
+  for (const int error :
+       {vocabulary.LoadDescriptions(), vocabulary.LoadUnits(), vocabulary.LoadMaterials(),
+        vocabulary.LoadOrderUnits(), markups_.LoadMarkups()})
+    missing |= error == kFileNotFound;
   if (missing) seed_.SeedProjectNumber();
-  for (size_t i = 0; i < Palette.size(); ++i)
-    Palette[i]->SetColour(QString::fromLatin1(pricing::kPalette[i].painted));
+  look_.PaintPalette();
 }
 
 // --- shown and hidden ---
@@ -252,10 +84,8 @@ void PricingForm::ToggleUnitsPricing(Form* owner) {
   }
   Show(owner);
   FramePricing.Show();
-  LandMFrame.Hide();
-  EUP.Hide();
-  Label19.Hide();
-  Focus(Description);
+  HideAll({&LandMFrame, &EUP, &Label19});
+  kit_.desk.Focus(Description);
 }
 
 void PricingForm::TogglePricing2(Form* owner) {
@@ -270,18 +100,18 @@ void PricingForm::TogglePricing2(Form* owner) {
 void PricingForm::ToggleUnitsFrame() {
   if (FramePricing.Shown()) {
     FramePricing.Hide();
-    HideLabor();
+    price_.Hide();
     if (!MarkupsFrame.Shown()) Hide();
     return;
   }
   FramePricing.Show();
-  Focus(Description);
+  kit_.desk.Focus(Description);
 }
 
 void PricingForm::ShowWithName(const QString& name, Form* owner) {
   Show(owner);
   Description.SetText(name);
-  Focus(Description);
+  kit_.desk.Focus(Description);
   Description.SelectAll();
 }
 
@@ -289,12 +119,10 @@ void PricingForm::ShowWithName(const QString& name, Form* owner) {
 // Everything of it is on the disk.
 void PricingForm::Leave() {
   FramePricing.Hide();
-  HideLabor();
-  ClearStuff();
-  EmptySystem();
-  PricingNotes.Hide();
-  ColorFrame.Hide();
-  IEFrame.Hide();
+  price_.Hide();
+  systemChain_.ClearStuff();
+  open_.Empty();
+  HideAll({&PricingNotes, &ColorFrame, &IEFrame});
   if (MarkupsFrame.Shown()) return;
   Hide();
   CopySystem.SetEnabled(false);

@@ -3,7 +3,7 @@
 #include "common/columns.h"
 #include "records/materialblock.h"
 
-namespace tamo::pricing {
+namespace tamo {
 namespace {
 
 const QString kUse = QStringLiteral("Leave blank and press Enter to use ");
@@ -50,8 +50,12 @@ void Prompts::AtMaterial(const PromptNames& n) {
   label8 = kUse + QStringLiteral("Manhours per ") + n.units;
 }
 
-void Prompts::AtPrice(const PromptNames& n) {
+void Prompts::CostPer(const PromptNames& n) {
   labelPrice = QStringLiteral("Cost per ") + n.orderUnits + QLatin1Char(':');
+}
+
+void Prompts::AtPrice(const PromptNames& n) {
+  CostPer(n);
   if (!IsCountUnitLong(n.orderUnits)) return;
   labelUPO = kHowManyPer + n.units + QLatin1Char(':');
   label5 = kUse + n.units + kPer + n.orderUnits;
@@ -160,17 +164,12 @@ void Prompts::TurnLabor(const PromptNames& n, const QString& newTag) {
            QStringLiteral(" per manhour");
 }
 
-QString PresentRatioTag(const Prompts& prompts, const PromptNames& n) {
-  if (prompts.labelUPO.endsWith(n.orderUnits)) return QString::fromLatin1(kUpo);
-  if (prompts.labelUPO.endsWith(n.units)) return QString::fromLatin1(kOpu);
-  return RatioTagOfNewBlock(prompts, n);
+bool Prompts::AsksHowManyPer(const QString& units) const {
+  return labelUPO == kHowManyPer + units + QLatin1Char(':');
 }
 
-QString PresentLaborTag(const Prompts& prompts, const PromptNames& n) {
-  const bool counted = prompts.labelMnhr.startsWith(n.units) ||
-                       prompts.labelMnhr.startsWith(QLatin1String("How many"));
-  return QString::fromLatin1(
-      !counted && prompts.labelMnhr.startsWith(QLatin1String("Manhours")) ? kMpu : kUpm);
+bool Prompts::AsksForManhours() const {
+  return labelMnhr.startsWith(QLatin1String("Manhours per"));
 }
 
 QString RatioTagOfNewBlock(const Prompts& prompts, const PromptNames& n) {
@@ -180,38 +179,30 @@ QString RatioTagOfNewBlock(const Prompts& prompts, const PromptNames& n) {
   return QString::fromLatin1(upo ? kUpo : kOpu);
 }
 
-QString LaborTagOfNewBlock(const Prompts& prompts) {
-  if (prompts.labelMnhr.startsWith(QLatin1String("Manhour"))) return QString::fromLatin1(kMpu);
-  if (prompts.labelMnhr.endsWith(QLatin1String("Manhour:"))) return QString::fromLatin1(kUpm);
+QString LaborTagOfNewBlock(const Prompts& prompts, const PromptNames& n) {
+  const QString& label = prompts.labelMnhr;
+  if (prompts.AsksForManhours()) return QString::fromLatin1(kMpu);
+  if (label.endsWith(QLatin1String("Manhour:")) || label.startsWith(QLatin1String("How many")) ||
+      (!n.units.isEmpty() && label.startsWith(n.units)))
+    return QString::fromLatin1(kUpm);
   return {};
 }
 
 QString RatioTagOfBlock(const Prompts& prompts, const PromptNames& n, const QString& standing) {
   if (prompts.labelUPO.endsWith(n.orderUnits)) return QString::fromLatin1(kUpo);
   if (prompts.labelUPO.endsWith(n.units)) return QString::fromLatin1(kOpu);
-  return standing;
+  return standing.isEmpty() ? RatioTagOfNewBlock(prompts, n) : standing;
 }
 
 QString LaborTagOfBlock(const Prompts& prompts) {
-  return QString::fromLatin1(prompts.labelMnhr.endsWith(QLatin1String("Manhour:")) ? kUpm : kMpu);
+  const bool upm =
+      !prompts.AsksForManhours() && prompts.labelMnhr.endsWith(QLatin1String("Manhour:"));
+  return QString::fromLatin1(upm ? kUpm : kMpu);
 }
 
-QStringList RatioTagLines(const Prompts& prompts, const PromptNames& n) {
-  QStringList tags;
-  if (prompts.labelUPO.startsWith(n.units) ||
-      prompts.labelUPO.startsWith(QLatin1String("How many")))
-    tags += QString::fromLatin1(kUpo);
-  if (prompts.labelUPO.startsWith(n.orderUnits)) tags += QString::fromLatin1(kOpu);
-  return tags;
-}
-
-QStringList LaborTagLines(const Prompts& prompts, const PromptNames& n) {
-  QStringList tags;
-  if (prompts.labelMnhr.startsWith(QLatin1String("Manhours"))) tags += QString::fromLatin1(kMpu);
-  if (prompts.labelMnhr.startsWith(QLatin1String("How many")) ||
-      prompts.labelMnhr.startsWith(n.units))
-    tags += QString::fromLatin1(kUpm);
-  return tags;
+QString RatioTagToTurn(const Prompts& prompts, const PromptNames& n) {
+  if (prompts.AsksHowManyPer(n.units)) return QString::fromLatin1(kOpu);
+  return RatioTagOfBlock(prompts, n, QString());
 }
 
 QString ReservedTerm(const PromptNames& n) {
@@ -221,4 +212,4 @@ QString ReservedTerm(const PromptNames& n) {
          QStringLiteral(" is being used as the unit for ") + n.description;
 }
 
-}  // namespace tamo::pricing
+}  // namespace tamo

@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace tamo::pricing {
+namespace tamo {
 
 // A unit that counts things instead of measuring them. The short test knows EA and CT, the long
 // one EACH and COUNT as well; which prompt asks which of the two is as it stands, and tests hold
@@ -34,8 +34,9 @@ struct Prompts {
   void AfterUnits(const PromptNames& names);
   // Material got the focus.
   void AtMaterial(const PromptNames& names);
-  // Price got the focus.
+  // Price got the focus. An order unit that counts is asked for by the takeoff unit.
   void AtPrice(const PromptNames& names);
+  void CostPer(const PromptNames& names);  // the prompt of the price alone
   // Enter in OrderUnits: the order unit is put behind the prompt as it stands.
   void AppendOrderUnits(const PromptNames& names);
   // A tag line of a material file was read.
@@ -49,30 +50,30 @@ struct Prompts {
   // A toggle of a number that no block holds yet: the wording of the new direction.
   void TurnRatio(const PromptNames& names, const QString& newTag);
   void TurnLabor(const PromptNames& names, const QString& newTag);
+
+  // --- what an estimator reads ---
+  // "How many per SF:", the prompt of an order unit that counts.
+  bool AsksHowManyPer(const QString& units) const;
+  // "Manhours per SF", whatever letter the takeoff unit begins with.
+  bool AsksForManhours() const;
 };
 
 // --- the tags, read off the prompts ---
 
-// The direction that a toggle of a material with no stored block turns away from; never "".
-QString PresentRatioTag(const Prompts& prompts, const PromptNames& names);
-QString PresentLaborTag(const Prompts& prompts, const PromptNames& names);
-
 // A new block. The labor tag is "" when the prompt tells none.
 QString RatioTagOfNewBlock(const Prompts& prompts, const PromptNames& names);
-QString LaborTagOfNewBlock(const Prompts& prompts);
+QString LaborTagOfNewBlock(const Prompts& prompts, const PromptNames& names);
 
-// A block that is there: `standing` is its tag, kept when the prompt tells none. Where a prompt
-// matches both ends, "upo" wins.
+// A block that is there: its ratio tag is kept when the prompt ends in neither unit. A place that
+// was only inserted has none to keep and is taken as a new block.
 QString RatioTagOfBlock(const Prompts& prompts, const PromptNames& names, const QString& standing);
 QString LaborTagOfBlock(const Prompts& prompts);
 
-// The tag lines of a material file: a prompt that tells no direction loses the line, one that tells
-// both gives two.
-QStringList RatioTagLines(const Prompts& prompts, const PromptNames& names);
-QStringList LaborTagLines(const Prompts& prompts, const PromptNames& names);
+// What a toggle turns from while no direction is in force.
+QString RatioTagToTurn(const Prompts& prompts, const PromptNames& names);
 
 // The message for an order unit that is the takeoff unit of its own system, whatever the case; ""
 // when it may be used.
 QString ReservedTerm(const PromptNames& names);
 
-}  // namespace tamo::pricing
+}  // namespace tamo

@@ -6,7 +6,7 @@
 #include "common/numbers.h"
 #include "records/materialblock.h"
 
-namespace tamo::pricing {
+namespace tamo {
 namespace {
 
 // The adjustment of a base: added and left in, each step cut.
@@ -82,7 +82,7 @@ EstimatedPrice EstimateUnitPrice(const QStringList& system, const Markups& marku
   return price;
 }
 
-QString MakeMoney(const QString& text) {
+QString PriceFormat::MakeMoney(const QString& text) {
   const double value = Value(text);
   if (value == 0) return QStringLiteral("0.00");
   QString cents = NumberText(std::floor(value * 100 + 0.005));
@@ -96,4 +96,4 @@ double ActualProfit(const Markups& markups) {
                                 "material markup."));
 }
 
-}  // namespace tamo::pricing
+}  // namespace tamo

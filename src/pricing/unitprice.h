@@ -7,7 +7,7 @@
 
 // What a takeoff unit costs, estimated from the materials of a system. These are the figures of the
 // Pricing form; the reports round on their own.
-namespace tamo::pricing {
+namespace tamo {
 
 // Price of a takeoff unit. `text` is the sum with all its digits, not in money format, "0" without
 // a block. A conversion number of 0 stops the sum: `stoppedAt` is then the block (from 0), `text`
@@ -27,11 +27,14 @@ struct EstimatedPrice {
 EstimatedPrice EstimateUnitPrice(const QStringList& system, const Markups& markups);
 
 // Money text of a typed price: cents are cut, not rounded (1.999 is 1.99), there is no digit before
-// the point below one (.05), and -.05 comes out as .-5. Tests hold it.
-QString MakeMoney(const QString& text);
+// the point below one (.05), and -.05 comes out as .-5. Tests hold it. The bottom line and the
+// reports write money by routines of their own.
+struct PriceFormat {
+  static QString MakeMoney(const QString& text);
+};
 
 // The texts of the three material markups joined end to end, read as one number and divided by the
 // markup. A markup of 0 raises a RunTimeFailure.
 double ActualProfit(const Markups& markups);
 
-}  // namespace tamo::pricing
+}  // namespace tamo

@@ -2,19 +2,13 @@
 
 namespace tamo {
 
-Menus::Menus(const Kit& kit, Shell& shell, TamoForm& main, SettingsForm& settings, OSTForm& ost,
-             ReportsForm& reports, Desks& desks)
-    : kit_(kit),
-      shell_(shell),
-      main_(main),
-      settings_(settings),
-      ost_(ost),
-      reports_(reports),
-      desks_(desks) {
-  JoinProject();
-  JoinWork();
-  JoinReports();
-  JoinShell();
+Menus::Menus(const Kit& kit, Shell& shell, const Forms& forms)
+    : kit_(kit), shell_(shell), forms_(forms) {
+  BindProject();
+  BindProjectFromOst();
+  BindWork();
+  BindReports();
+  BindShell();
 }
 
 bool Menus::Passes(Guard guard) {
@@ -22,13 +16,13 @@ bool Menus::Passes(Guard guard) {
     case Guard::None:
       return true;
     case Guard::Lock:
-      return main_.NeedUnlocked();
+      return forms_.main.lock.NeedUnlocked();
     case Guard::Project:
-      return main_.NeedProject();
+      return forms_.main.NeedProject();
     case Guard::LockThenProject:
-      return main_.NeedUnlocked() && main_.NeedProject();
+      return forms_.main.lock.NeedUnlocked() && forms_.main.NeedProject();
     case Guard::ProjectThenLock:
-      return main_.NeedProject() && main_.NeedUnlocked();
+      return forms_.main.NeedProject() && forms_.main.lock.NeedUnlocked();
   }
   return false;
 }
@@ -40,7 +34,7 @@ void Menus::OnMain(MenuEntry& entry, Guard guard, std::function<void()> action) 
 }
 
 void Menus::OnOst(const char* name, Guard guard, std::function<void()> action) {
-  OnMain(*ost_.FindMenu(QLatin1String(name)), guard, std::move(action));
+  OnMain(*forms_.ost.FindMenu(QLatin1String(name)), guard, std::move(action));
 }
 
 void Menus::OnBoth(MenuEntry& entry, const char* ostName, Guard guard,
@@ -49,134 +43,153 @@ void Menus::OnBoth(MenuEntry& entry, const char* ostName, Guard guard,
   OnOst(ostName, guard, action);
 }
 
-void Menus::JoinProject() {
-  OnMain(main_.OpenProjectEntry, Guard::None, [this] {
+void Menus::BindProject() {
+  OnMain(forms_.main.menu.OpenProject, Guard::None, [this] {
     kit_.shared.OPN = QStringLiteral("2");
-    main_.OpenProject();
+    forms_.main.projects.OpenProject();
   });
-  OnMain(main_.NewProjectEntry, Guard::None, [this] { main_.NewProject(); });
-  OnMain(main_.ProjectInformationEntry, Guard::Project, [this] { main_.ProjectInformation(); });
-  OnMain(main_.LockProjectEntry, Guard::None, [this] { main_.LockProject(); });
-  OnMain(main_.CopyProjectEntry, Guard::Project, [this] { main_.CopyProject(); });
+  OnMain(forms_.main.menu.NewProject, Guard::None, [this] { forms_.main.projects.NewProject(); });
+  OnMain(forms_.main.menu.ProjectInformation, Guard::Project,
+         [this] { forms_.main.ProjectInformation(); });
+  OnMain(forms_.main.menu.LockProject, Guard::None, [this] { forms_.main.lock.LockProject(); });
+  OnMain(forms_.main.menu.CopyProject, Guard::Project,
+         [this] { forms_.main.copies.CopyProject(); });
+  OnBoth(forms_.main.menu.ClearProject, "ClearProject", Guard::None,
+         [this] { forms_.main.projects.ClearProject(); });
+  OnBoth(forms_.main.menu.PasteProject, "PasteProject", Guard::None,
+         [this] { forms_.main.copies.PasteProject(); });
+  OnBoth(forms_.main.menu.DeleteProject, "DeleteProject", Guard::None,
+         [this] { forms_.main.copies.DeleteProject(); });
+}
+
+void Menus::BindProjectFromOst() {
   OnOst("OpenProject", Guard::None, [this] { OpenFromOst(); });
   OnOst("NewProject", Guard::None, [this] { NewFromOst(); });
   OnOst("ProjectInformation", Guard::Project, [this] { InformationFromOst(); });
   OnOst("CopyProject", Guard::Project, [this] { CopyFromOst(); });
-  OnBoth(main_.ClearProjectEntry, "ClearProject", Guard::None, [this] { main_.ClearProject(); });
-  OnBoth(main_.PasteProjectEntry, "PasteProject", Guard::None, [this] { main_.PasteProject(); });
-  OnBoth(main_.DeleteProjectEntry, "DeleteProject", Guard::None, [this] { main_.DeleteProject(); });
 }
 
-void Menus::JoinWork() {
-  OnMain(main_.UnitsPricing, Guard::Lock, [this] { desks_.ToggleUnitPricing(&ost_); });
-  OnBoth(main_.Pricing2, "Pricing2", Guard::Lock, [this] { desks_.TogglePricing(&ost_); });
-  OnBoth(main_.EnterRoomFinishSchedule, "EnterRFS", Guard::LockThenProject,
-         [this] { desks_.EnterSchedule(&ost_); });
-  OnBoth(main_.TakeOffRoomFinishSchedule, "TakeoffRFS", Guard::LockThenProject,
-         [this] { desks_.TakeOffSchedule(&ost_); });
-  OnBoth(main_.NonFinishScheduleItems, "NRFS", Guard::LockThenProject,
-         [this] { desks_.ShowFreeItems(&ost_); });
-  OnBoth(main_.BottomLineItems, "BottomLine1", Guard::ProjectThenLock,
-         [this] { desks_.ShowBottomLine(&ost_); });
-  OnBoth(main_.PriceAdjustment, "PriceAdjustment", Guard::ProjectThenLock,
-         [this] { desks_.ShowAdjustment(&ost_); });
+void Menus::BindWork() {
+  OnMain(forms_.main.menu.UnitsPricing, Guard::Lock,
+         [this] { forms_.pricing.ToggleUnitsPricing(&forms_.ost); });
+  OnBoth(forms_.main.menu.Pricing2, "Pricing2", Guard::Lock,
+         [this] { forms_.pricing.TogglePricing2(&forms_.ost); });
+  OnBoth(forms_.main.menu.EnterRoomFinishSchedule, "EnterRFS", Guard::LockThenProject,
+         [this] { forms_.rooms.EnterRoomFinishSchedule(&forms_.ost); });
+  OnBoth(forms_.main.menu.TakeOffRoomFinishSchedule, "TakeoffRFS", Guard::LockThenProject,
+         [this] { forms_.rooms.TakeOffRoomFinishSchedule(&forms_.ost); });
+  OnBoth(forms_.main.menu.NonFinishScheduleItems, "NRFS", Guard::LockThenProject,
+         [this] { forms_.areas.NonFinishScheduleItems(&forms_.ost); });
+  OnBoth(forms_.main.menu.BottomLineItems, "BottomLine1", Guard::ProjectThenLock,
+         [this] { forms_.bottomLine.BottomLineItems(&forms_.ost); });
+  OnBoth(forms_.main.menu.PriceAdjustment, "PriceAdjustment", Guard::ProjectThenLock,
+         [this] { forms_.adjustment.PriceAdjustment(&forms_.ost); });
 }
 
-void Menus::JoinReports() {
-  OnBoth(main_.ProjectNFO, "ProjectNFO", Guard::Project, [this] { ProjectInformationReport(); });
-  OnBoth(main_.Quantities, "Quantities", Guard::Project,
-         [this] { ShowReport([this] { reports_.Quantities(); }); });
-  OnBoth(main_.RecapSheet, "Recap", Guard::Project, [this] { Recap(QStringLiteral("False")); });
-  OnBoth(main_.DetailedRecap, "DetailedRecap", Guard::Project,
+void Menus::BindReports() {
+  OnBoth(forms_.main.menu.ProjectNFO, "ProjectNFO", Guard::Project,
+         [this] { ProjectInformationReport(); });
+  OnBoth(forms_.main.menu.Quantities, "Quantities", Guard::Project,
+         [this] { ShowReport([this] { forms_.reports.Quantities(); }); });
+  OnBoth(forms_.main.menu.RecapSheet, "Recap", Guard::Project,
+         [this] { Recap(QStringLiteral("False")); });
+  OnBoth(forms_.main.menu.DetailedRecap, "DetailedRecap", Guard::Project,
          [this] { Recap(QStringLiteral("True")); });
-  OnBoth(main_.BreakDown, "BreakDown", Guard::None, [this] {
-    reports_.menu.MakeProjectFile.Hide();
-    reports_.BreakDown();
+  OnBoth(forms_.main.menu.BreakDown, "BreakDown", Guard::None, [this] {
+    forms_.reports.menu.MakeProjectFile.Hide();
+    forms_.reports.BreakDown();
   });
-  OnBoth(main_.BillOfMaterial, "BillofMaterial", Guard::Project,
-         [this] { ShowReport([this] { reports_.BillofMaterial(); }); });
-  OnBoth(main_.oCopy, "oCopy", Guard::Project, [this] { OfficeCopy(); });
-  OnBoth(main_.fCopy, "fCopy", Guard::Project, [this] { FieldCopy(); });
+  OnBoth(forms_.main.menu.BillOfMaterial, "BillofMaterial", Guard::Project,
+         [this] { ShowReport([this] { forms_.reports.BillofMaterial(); }); });
+  OnBoth(forms_.main.menu.oCopy, "oCopy", Guard::Project, [this] { OfficeCopy(); });
+  OnBoth(forms_.main.menu.fCopy, "fCopy", Guard::Project, [this] { FieldCopy(); });
   // These two only ask for a project.
-  OnMain(main_.BillOfLabor, Guard::Project, [] {});
-  OnMain(main_.Proposal, Guard::Project, [] {});
+  OnMain(forms_.main.menu.BillOfLabor, Guard::Project, [] {});
+  OnMain(forms_.main.menu.Proposal, Guard::Project, [] {});
 }
 
-void Menus::JoinShell() {
-  OnMain(main_.OST1, Guard::None, [this] { ShowOst(); });
-  OnBoth(main_.Settings1, "Settings1", Guard::None,
-         [this] { settings_.Toggle(&shell_.ShellForm()); });
-  OnBoth(main_.Docs1, "Documentation", Guard::None,
-         [this] { desks_.ToggleDocs(&shell_.ShellForm()); });
-  OnMain(main_.Exit, Guard::None, [this] { shell_.ExitMain(); });
+void Menus::BindShell() {
+  OnMain(forms_.main.menu.OST1, Guard::None, [this] { ShowOst(); });
+  OnBoth(forms_.main.menu.Settings1, "Settings1", Guard::None,
+         [this] { forms_.settings.Toggle(&shell_.ShellForm()); });
+  OnBoth(forms_.main.menu.Docs1, "Documentation", Guard::None, [this] { ToggleDocs(); });
+  OnMain(forms_.main.menu.Exit, Guard::None, [this] { shell_.ExitMain(); });
   OnOst("Exit", Guard::None, [this] { shell_.ExitOst(); });
 }
 
 void Menus::ProjectInformationReport() {
-  reports_.menu.MakeProjectFile.Hide();
-  if (main_.JobNFOFrame.Shown()) main_.HidePanel();
-  reports_.ProjectInformation();
+  forms_.reports.menu.MakeProjectFile.Hide();
+  if (forms_.main.panel.JobNFOFrame.Shown()) forms_.main.panel.JobNFOFrame.Hide();
+  forms_.reports.ProjectInformation();
 }
 
 void Menus::ShowReport(const std::function<void()>& report) {
-  reports_.menu.MakeProjectFile.Hide();
-  reports_.Show(&ost_);
+  forms_.reports.menu.MakeProjectFile.Hide();
+  forms_.reports.Show(&forms_.ost);
   report();
 }
 
 void Menus::Recap(const QString& detailed) {
   ShowReport([&] {
     kit_.shared.DTText = detailed;
-    reports_.MinimalRecapSheet();
+    forms_.reports.MinimalRecapSheet();
   });
 }
 
 void Menus::OfficeCopy() {
-  reports_.menu.MakeProjectFile.Show();
+  forms_.reports.menu.MakeProjectFile.Show();
   // The markups may have put it out of reach; with an Office Copy it can be chosen.
-  reports_.menu.MakeProjectFile.SetEnabled(true);
-  desks_.LoadMarkups();
-  reports_.Show(&ost_);
-  reports_.Flag = QStringLiteral("True");
-  reports_.AreaRoomWP();
+  forms_.reports.menu.MakeProjectFile.SetEnabled(true);
+  forms_.pricing.LoadMarkups();
+  forms_.reports.Show(&forms_.ost);
+  forms_.reports.Flag = QStringLiteral("True");
+  forms_.reports.AreaRoomWP();
 }
 
 void Menus::FieldCopy() {
   ShowReport([this] {
-    reports_.Flag = QStringLiteral("False");
-    reports_.AreaRoomWP();
+    forms_.reports.Flag = QStringLiteral("False");
+    forms_.reports.AreaRoomWP();
   });
 }
 
 // From OST the list stands on the main form, and a pick comes back to OST.
 void Menus::OpenFromOst() {
-  const bool away = main_.Visible() && main_.JobsList.Shown();
+  const bool away = forms_.main.Visible() && forms_.main.panel.JobsList.Shown();
   kit_.shared.OPN = QStringLiteral("7");
   shell_.ShowMainForm();
-  main_.OpenProject();
+  forms_.main.projects.OpenProject();
   if (away) shell_.HideMainForm();
 }
 
 void Menus::NewFromOst() {
   shell_.ShowMainForm();
-  main_.NewProject();
-  if (!main_.JobNFOFrame.Shown()) shell_.HideMainForm();
+  forms_.main.projects.NewProject();
+  if (!forms_.main.panel.JobNFOFrame.Shown()) shell_.HideMainForm();
 }
 
 void Menus::InformationFromOst() {
   shell_.ShowMainForm();
-  main_.ProjectInformation();
-  if (!main_.JobNFOFrame.Shown()) shell_.HideMainForm();
+  forms_.main.ProjectInformation();
+  if (!forms_.main.panel.JobNFOFrame.Shown()) shell_.HideMainForm();
 }
 
 void Menus::CopyFromOst() {
   shell_.HideMainForm();
-  main_.CopyProject();
+  forms_.main.copies.CopyProject();
 }
 
 void Menus::ShowOst() {
-  ost_.PlanNotes.Hide();
-  ost_.Show();
+  forms_.ost.PlanNotes.Hide();
+  forms_.ost.Show();
+}
+
+void Menus::ToggleDocs() {
+  if (forms_.docs.Visible()) {
+    forms_.docs.Hide();
+  } else {
+    forms_.docs.Show(&shell_.ShellForm());
+  }
 }
 
 }  // namespace tamo

@@ -1,10 +1,15 @@
 #pragma once
 
 #include "common/kit.h"
+#include "docs/docsform.h"
 #include "plans/ostform.h"
-#include "program/desks.h"
+#include "pricing/pricingform.h"
 #include "program/shell.h"
 #include "reports/reportsform.h"
+#include "takeoff/adjustmentform.h"
+#include "takeoff/bottomline.h"
+#include "takeoff/estimateform.h"
+#include "takeoff/rfsform.h"
 #include "workspace/tamoform.h"
 
 namespace tamo {
@@ -13,8 +18,20 @@ namespace tamo {
 // shows a form and hands over to it. An entry that is named nowhere here does nothing, by design.
 class Menus {
  public:
-  Menus(const Kit& kit, Shell& shell, TamoForm& main, SettingsForm& settings, OSTForm& ost,
-        ReportsForm& reports, Desks& desks);
+  // All forms that an entry leads to; they outlive this.
+  struct Forms {
+    TamoForm& main;
+    SettingsForm& settings;
+    OSTForm& ost;
+    PricingForm& pricing;
+    RFSForm& rooms;
+    EstimateForm& areas;
+    BottomLine& bottomLine;
+    AdjustmentForm& adjustment;
+    ReportsForm& reports;
+    DocsForm& docs;
+  };
+  Menus(const Kit& kit, Shell& shell, const Forms& forms);
 
  private:
   enum class Guard { None, Lock, Project, LockThenProject, ProjectThenLock };
@@ -25,10 +42,11 @@ class Menus {
               const std::function<void()>& action);
   bool Passes(Guard guard);
 
-  void JoinProject();
-  void JoinWork();
-  void JoinReports();
-  void JoinShell();
+  void BindProject();
+  void BindProjectFromOst();
+  void BindWork();
+  void BindReports();
+  void BindShell();
 
   void ProjectInformationReport();
   void ShowReport(const std::function<void()>& report);
@@ -40,14 +58,11 @@ class Menus {
   void InformationFromOst();
   void CopyFromOst();
   void ShowOst();
+  void ToggleDocs();
 
   const Kit kit_;
   Shell& shell_;
-  TamoForm& main_;
-  SettingsForm& settings_;
-  OSTForm& ost_;
-  ReportsForm& reports_;
-  Desks& desks_;
+  const Forms forms_;
 };
 
 }  // namespace tamo

@@ -1,102 +1,83 @@
 #include "program/program.h"
 
 #include "common/paths.h"
+#include "program/followers.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
+#include "program/pricingadapters.h"
 #include "program/reportadapters.h"
-#include "program/shell.h"
 #include "program/takeoffadapters.h"
-#include "program/work.h"
+#include "schedule/scheduleform.h"
 #include "workspace/form11.h"
-#include "workspace/settingsform.h"
-#include "workspace/tamoform.h"
 
 namespace tamo {
+namespace {
+
+SharedFields FirstFields(const Platform& platform) {
+  SharedFields shared;
+  shared.Separator = PlatformSeparator();
+  shared.zDir = platform.programFolder;
+  return shared;
+}
+
+}  // namespace
+
+// The hand-overs stand before the forms: they hold references to forms that are made after them,
+// and are asked nothing before all is made.
 struct Program::Parts {
-  Parts(const Platform& given, PdfDraw& pdfDraw)
-      : platform(given),
-        viewer(pdfDraw),
-        desk(platform.messages),
-        files(platform.disk),
-        kit{desk, files, shared, platform},
-        shell(kit) {
-    shared.Separator = PlatformSeparator();
-    shared.zDir = platform.programFolder;
-    form11 = std::make_unique<Form11>(kit);
-    settings = std::make_unique<SettingsForm>(kit, shell);
-    ost = std::make_unique<OSTForm>(kit, viewer, projectKeeper, takeoffFields);
-    main = std::make_unique<TamoForm>(kit, *settings, shell, planDesk, work);
-    pricing = std::make_unique<PricingForm>(kit, links, links, links);
-    rooms = std::make_unique<RFSForm>(kit, planTools, links, links, takeoffExits);
-    areas = std::make_unique<EstimateForm>(kit, planTools, links, links, takeoffExits);
-    bottomLine = std::make_unique<BottomLine>(kit, links);
-    adjustment = std::make_unique<AdjustmentForm>(kit, links);
-    reports = std::make_unique<ReportsForm>(
-        kit, ReportsForm::Joins{links, projectRecord, reportsShell, links, wholeQuantities});
-    docs = std::make_unique<DocsForm>(kit, work);
-    Join();
-  }
-
-  void Join() {
-    shell.Join(*main, *settings, *ost);
-    planDesk.Join(*ost);
-    projectKeeper.Join(*main);
-    projectRecord.Join(*main);
-    reportsShell.Join(shell, *reports, *ost);
-    wholeQuantities.Join(*settings);
-    planTools.Join(*ost);
-    takeoffExits.Join(shell, *main, *ost);
-    takeoffFields.Join(*rooms, *areas);
-    links.Join(*pricing, *reports, *settings, *main, *ost);
-    work.Join({*pricing, *rooms, *areas, *bottomLine, *adjustment, *reports, *docs, shell});
-    menus = std::make_unique<Menus>(kit, shell, *main, *settings, *ost, *reports, work);
-  }
-
   const Platform platform;
   PdfDraw& viewer;
-  Desk desk;
-  Files files;
-  SharedFields shared;
-  const Kit kit;
-  Shell shell;
-  PricingLinks links;
-  WorkingForms work;
-  PlanDeskOnOst planDesk;
-  ProjectKeeperOnTamo projectKeeper;
-  PlanToolsOnOst planTools;
-  TakeoffExitsOnForms takeoffExits;
-  TakeoffFieldsOnForms takeoffFields;
-  ProjectRecordOnTamo projectRecord;
-  ReportsShellOnForms reportsShell;
-  WholeQuantitiesInSettings wholeQuantities;
-  std::unique_ptr<Form11> form11;
-  std::unique_ptr<SettingsForm> settings;
-  std::unique_ptr<OSTForm> ost;
-  std::unique_ptr<TamoForm> main;
-  std::unique_ptr<PricingForm> pricing;
-  std::unique_ptr<RFSForm> rooms;
-  std::unique_ptr<EstimateForm> areas;
-  std::unique_ptr<BottomLine> bottomLine;
-  std::unique_ptr<AdjustmentForm> adjustment;
-  std::unique_ptr<ReportsForm> reports;
-  std::unique_ptr<DocsForm> docs;
-  std::unique_ptr<Menus> menus;
+  Desk desk{platform.messages};
+  Files files{platform.disk};
+  SharedFields shared = FirstFields(platform);
+  const Kit kit{desk, files, shared, platform};
+
+  Shell shell{kit, main, settings, ost};
+  FollowersOnForms followers{pricing, adjustment, reports};
+  ReportFollows reportFollows{reports};
+  StartOfPricing startOfPricing{settings, main};
+  PricingOnForm pricingOnForm{pricing, ost};
+  PlanOfProjectOnOst planOfProject{ost};
+  ProjectKeeperOnTamo projectKeeper{main};
+  PlanToolsOnOst planTools{ost};
+  TakeoffExitsOnForms takeoffExits{shell, main, ost};
+  TakeoffFieldsOnForms takeoffFields{rooms, areas};
+  ProjectRecordOnTamo projectRecord{main};
+
+  Form11 form11{kit};
+  SettingsForm settings{kit, shell};
+  OSTForm ost{kit, viewer, projectKeeper, takeoffFields};
+  TamoForm main{kit, settings, {shell, planOfProject, followers}};
+  PricingForm pricing{kit, reportFollows, startOfPricing, startOfPricing};
+  RFSForm rooms{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
+  EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
+  BottomLine bottomLine{kit, reportFollows};
+  AdjustmentForm adjustment{kit, reportFollows};
+  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost}};
+  DocsForm docs{kit, [this] { shell.BringUpShell(); }};
+  ScheduleForm schedule{kit, ost};
+  Menus menus{kit,
+              shell,
+              {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs}};
 };
 
 Program::Program(const Platform& platform, PdfDraw& viewer)
-    : parts_(std::make_unique<Parts>(platform, viewer)) {
-  parts_->shell.onEnded = [this] {
+    : parts_(new Parts{.platform = platform, .viewer = viewer}) {
+  Parts& parts = *parts_;
+  parts.shell.onEnded = [this] {
     if (onEnded) onEnded();
   };
-  parts_->shell.beforeEnd = [this] { parts_->bottomLine->SaveUnsaved(); };
+  parts.shell.beforeEnd = [&parts] { parts.bottomLine.SaveUnsaved(); };
+  parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
+  parts.ost.onClose = [&parts] { return parts.shell.CloseOst(); };
 }
 
 Program::~Program() = default;
 
 void Program::Start() {
   parts_->desk.Dispatch([this] {
-    parts_->ost->Load();
-    parts_->main->Init();
+    parts_->ost.Load();
+    parts_->main.Init();
   });
 }
 

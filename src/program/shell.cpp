@@ -2,14 +2,6 @@
 
 namespace tamo {
 
-void Shell::Join(TamoForm& main, SettingsForm& settings, Form& ost) {
-  main_ = &main;
-  settings_ = &settings;
-  ost_ = &ost;
-  main.onClose = [this] { return CloseMain(); };
-  ost.onClose = [this] { return CloseOst(); };
-}
-
 void Shell::ShowMenus(Form& form, std::initializer_list<const char*> names, bool shown) {
   for (const char* name : names) {
     if (MenuEntry* entry = form.FindMenu(QLatin1String(name))) entry->SetShown(shown);
@@ -20,46 +12,46 @@ void Shell::EnterMode(int mode) {
   const bool online = mode == 2;
   kit_.shared.GUIText = online ? QStringLiteral("2") : QStringLiteral("1");
   ShowMenus(
-      *ost_,
+      ost_,
       {"ProjectS", "Pricing2", "Estimate", "Reports1", "Settings1", "Spacer1", "Documentation"},
       online);
-  ShowMenus(*ost_, {"Spacer2"}, !online);
-  if (online) ShowMenus(*ost_, {"Exit"}, true);
-  ost_->SetCaption(online ? QStringLiteral("Digital Sheetwell Beta 1.4")
-                          : QStringLiteral("Digital Plan Takeoff"));
-  ShowMenus(*main_,
+  ShowMenus(ost_, {"Spacer2"}, !online);
+  if (online) ShowMenus(ost_, {"Exit"}, true);
+  ost_.SetCaption(online ? QStringLiteral("Digital Sheetwell Beta 1.4")
+                         : QStringLiteral("Digital Plan Takeoff"));
+  ShowMenus(main_,
             {"Project", "Pricing2", "Estimate", "Reports1", "Settings1", "Docs1", "Exit", "OST1"},
             !online);
-  main_->SetCaption(online ? QStringLiteral("Projects") : QStringLiteral("Estimating Beta 1.4"));
+  main_.SetCaption(online ? QStringLiteral("Projects") : QStringLiteral("Estimating Beta 1.4"));
   BringUpShell();
-  if (!online && settings_->Visible()) settings_->Show(main_);
+  if (!online && settings_.Visible()) settings_.Show(&main_);
 }
 
 // The shell is shown before the other form goes, so that no third window comes to the front in
 // between.
 void Shell::BringUpShell() {
   if (Online()) {
-    ost_->Show();
-    main_->Hide();
+    ost_.Show();
+    main_.Hide();
   } else {
-    main_->Show(ost_);
-    ost_->Hide();
+    main_.Show(&ost_);
+    ost_.Hide();
   }
 }
 
 void Shell::ShowMainForm() {
-  main_->Show(ost_);
+  main_.Show(&ost_);
 }
 void Shell::HideMainForm() {
-  main_->Hide();
+  main_.Hide();
 }
 Form& Shell::ShellForm() const {
-  return Online() ? *ost_ : static_cast<Form&>(*main_);
+  return Online() ? static_cast<Form&>(ost_) : main_;
 }
 
 void Shell::AskForEstimatorNumber() {
-  settings_->Show(&ShellForm());
-  kit_.desk.Focus(settings_->EstimatorNumber);
+  settings_.Show(&ShellForm());
+  kit_.desk.Focus(settings_.EstimatorNumber);
 }
 
 void Shell::EndProgram() {
@@ -82,8 +74,8 @@ bool Shell::MayEnd() {
 
 void Shell::ExitMain() {
   if (Online()) {
-    ost_->Show();
-    main_->Hide();
+    ost_.Show();
+    main_.Hide();
   } else if (MayEnd()) {
     EndProgram();
   }
@@ -106,7 +98,7 @@ bool Shell::CloseMain() {
 
 bool Shell::CloseOst() {
   if (!Online()) {
-    main_->Show();
+    main_.Show();
     return true;
   }
   if (!MayEnd()) return false;

@@ -2,27 +2,25 @@
 
 #include <functional>
 
-#include "common/form.h"
 #include "common/kit.h"
-#include "workspace/modeshell.h"
+#include "plans/ostform.h"
+#include "workspace/frontwindows.h"
 #include "workspace/tamoform.h"
 
 namespace tamo {
 
 // The two shells: which menus stand where, which form is in front, and how the program ends.
-class Shell : public ModeShell {
+class Shell : public FrontWindows {
  public:
-  explicit Shell(const Kit& kit) : kit_(kit) {}
-
-  // Set once the forms exist.
-  void Join(TamoForm& main, SettingsForm& settings, Form& ost);
+  // The forms are used only once they are made.
+  Shell(const Kit& kit, TamoForm& main, SettingsForm& settings, OSTForm& ost)
+      : kit_(kit), main_(main), settings_(settings), ost_(ost) {}
 
   void EnterMode(int mode) override;
   void BringUpShell() override;
   void ShowMainForm() override;
   void HideMainForm() override;
   void AskForEstimatorNumber() override;
-  void EndProgram() override;
 
   bool Online() const { return kit_.shared.GUIText == QLatin1String("2"); }
   // The form that carries the menus in the mode in force.
@@ -40,12 +38,13 @@ class Shell : public ModeShell {
   std::function<void()> beforeEnd;
 
  private:
+  void EndProgram();
   void ShowMenus(Form& form, std::initializer_list<const char*> names, bool shown);
 
   const Kit kit_;
-  TamoForm* main_ = nullptr;
-  SettingsForm* settings_ = nullptr;
-  Form* ost_ = nullptr;
+  TamoForm& main_;
+  SettingsForm& settings_;
+  OSTForm& ost_;
   bool running_ = true;
 };
 

@@ -12,6 +12,7 @@ constexpr char kAreas[] = "ATOs";
 constexpr char kPlans[] = "Plans";
 constexpr char kRecord[] = "JobNFO.tamo";
 constexpr char kMarkups[] = "Markups.tamo";
+constexpr char kFinishKey[] = "FinishKey.tamo";
 
 QString Named(const QString& folder, const char* fileName) {
   return folder + QLatin1String(fileName);
@@ -79,6 +80,14 @@ QString ProjectFolder::AreaFile(const QString& area) const {
 
 QString ProjectFolder::PlanNotes() const {
   return Named(Plans(), "PlanNotes.tamo");
+}
+
+QString ProjectFolder::FinishKey() const {
+  return Named(path_, kFinishKey);
+}
+
+QString DataFolder::FinishKey() const {
+  return Named(path_, kFinishKey);
 }
 
 QString DataFolder::Systems() const {

@@ -41,6 +41,7 @@ class ProjectFolder {
   QString AreaNames() const;
   QString AreaFile(const QString& area) const;
   QString PlanNotes() const;
+  QString FinishKey() const;
 
  private:
   QString path_;
@@ -64,6 +65,7 @@ class DataFolder {
   QString ProjectList() const;
   QString Markups() const;
   QString PickedPlans() const;
+  QString FinishKey() const;
   QString NameFile(const char* fileName) const;
   QString SystemFile(const QString& system) const;
   QString MaterialFile(const QString& material) const;

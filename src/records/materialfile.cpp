@@ -15,15 +15,9 @@ MaterialFile ReadMaterialFile(const QString& text) {
   return file;
 }
 
-QString MaterialFileText(const MaterialBlock& block, const QStringList& ratioTags,
-                         const QStringList& laborTags) {
-  QStringList lines = {block.material, block.orderUnits, block.price, block.upo};
-  lines += ratioTags;
-  lines += block.mnhrPO;
-  lines += laborTags;
-  lines += block.waste;
-  lines += block.wageRate;
-  return JoinedLines(lines);
+QString MaterialFileText(const MaterialBlock& block) {
+  return JoinedLines({block.material, block.orderUnits, block.price, block.upo, block.upoTag,
+                      block.mnhrPO, block.mnhrTag, block.waste, block.wageRate});
 }
 
 QString MaterialPath(const SharedFields& shared, const QString& name) {

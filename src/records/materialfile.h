@@ -18,10 +18,8 @@ struct MaterialFile {
 // shifted values. Tests hold it.
 MaterialFile ReadMaterialFile(const QString& text);
 
-// `ratioTags` and `laborTags` stand in the places of the two tag lines: one text each as a rule,
-// none when no prompt told the direction, two when it told both.
-QString MaterialFileText(const MaterialBlock& block, const QStringList& ratioTags,
-                         const QStringList& laborTags);
+// Always nine lines, one for each tag, so that a file reads back as it was written.
+QString MaterialFileText(const MaterialBlock& block);
 
 // Materials lie in the master library only.
 QString MaterialPath(const SharedFields& shared, const QString& name);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "reports/markupsource.h"
+#include "reports/markupfactors.h"
 #include "reports/reportsource.h"
 #include "reports/rollup.h"
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "reports/markupsource.h"
+#include "reports/markupfactors.h"
 #include "reports/reportsource.h"
 
 namespace tamo {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/markupsource.h"
+#include "reports/markupfactors.h"
 #include "reports/reportsource.h"
 
 namespace tamo {

@@ -43,9 +43,9 @@ void ReportsForm::WriteProjectFile() {
 
 void ReportsForm::ExitReports() {
   if (kit_.shared.GUIText == QLatin1String("1")) {
-    joins_.shell.ShowMainForm();
+    joins_.windows.ShowMainForm();
   } else if (kit_.shared.GUIText == QLatin1String("2")) {
-    joins_.shell.HideMainForm();
+    joins_.windows.HideMainForm();
   }
   Reporter.Clear();
   Reporter1.Clear();
@@ -136,8 +136,8 @@ void ReportsForm::NotePicked() {
 
 void ReportsForm::WholeQuantitiesChanged() {
   const bool whole = WholeQuantities.Value() == 1;
-  if (whole == joins_.wholeQuantities.WholeQuantities()) return;
-  joins_.wholeQuantities.SetWholeQuantities(whole);
+  if (whole == joins_.settings.WholeQuantities()) return;
+  joins_.settings.SetWholeQuantities(whole);
   if (Reporter.Empty() && Reporter1.Empty()) return;
   refreshing_ = true;
   struct Ending {

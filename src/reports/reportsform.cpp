@@ -96,12 +96,12 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files, kit_.shared, onProgress, joins_.wholeQuantities.WholeQuantities()};
+  return {kit_.files, kit_.shared, onProgress, joins_.settings.WholeQuantities()};
 }
 
 Markups ReportsForm::LoadedMarkups() {
-  joins_.markups.LoadMarkups();
-  return joins_.markups.Texts();
+  joins_.pricing.LoadMarkups();
+  return joins_.pricing.MarkupTexts();
 }
 
 void ReportsForm::TakeNotes(Report& report, bool readsQuantities) {
@@ -110,7 +110,7 @@ void ReportsForm::TakeNotes(Report& report, bool readsQuantities) {
   for (const ReportNote& note : notes_) rows += NoteLine(note);
   NotesList.SetRows(rows);
   NotesList.SetShown(!rows.isEmpty());
-  const bool whole = joins_.wholeQuantities.WholeQuantities();
+  const bool whole = joins_.settings.WholeQuantities();
   WholeQuantities.SetValue(whole ? 1 : 0);
   WholeQuantities.SetShown(readsQuantities && (report.partlyRead || whole));
 }
@@ -133,7 +133,7 @@ void ReportsForm::FillCopy(TakeoffCopy report) {
 
 void ReportsForm::ShowWindow() {
   // A refresh finds the window open and takes the focus from nobody.
-  if (!refreshing_) joins_.shell.ShowReports();
+  if (!refreshing_) Show(&joins_.planWindow);
 }
 
 void ReportsForm::MinimalRecapSheet() {
@@ -179,7 +179,7 @@ void ReportsForm::BreakDown() {
     // The sum is made only when the items are listed behind an adjustment; otherwise the field
     // shows the sum made before. A test holds it.
     if (figures.bottomLineListed) bottomLineSum_ = figures.roll.rawBottomLine;
-    joins_.bottomLine.SetTotalBL(NumberText(bottomLineSum_));
+    joins_.pricing.TotalBL = NumberText(bottomLineSum_);
     ShowWindow();
     Fill(std::move(report));
   });

@@ -6,14 +6,13 @@
 
 #include "common/form.h"
 #include "common/kit.h"
-#include "reports/bottomlinefigure.h"
+#include "pricing/pricingform.h"
 #include "reports/copies.h"
-#include "reports/markupsource.h"
 #include "reports/projectprogress.h"
 #include "reports/projectrecord.h"
 #include "reports/reportsource.h"
-#include "reports/reportsshell.h"
-#include "reports/wholequantitiessetting.h"
+#include "workspace/frontwindows.h"
+#include "workspace/settingsform.h"
 
 namespace tamo {
 
@@ -25,11 +24,11 @@ class ReportsForm : public Form {
  public:
   // What it is joined to; all of it outlives the form.
   struct Joins {
-    MarkupSource& markups;
+    PricingForm& pricing;  // keeps the markups, and shows the sum of the bottom line items
     ProjectRecord& record;
-    ReportsShell& shell;
-    BottomLineFigure& bottomLine;
-    WholeQuantitiesSetting& wholeQuantities;
+    FrontWindows& windows;
+    SettingsForm& settings;  // keeps whether whole quantities are read
+    Form& planWindow;        // the report stands above it
   };
   ReportsForm(const Kit& kit, const Joins& joins);
 

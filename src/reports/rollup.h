@@ -5,7 +5,7 @@
 #include <initializer_list>
 #include <vector>
 
-#include "reports/markupsource.h"
+#include "reports/markupfactors.h"
 #include "reports/merge.h"
 #include "reports/pricedsystem.h"
 

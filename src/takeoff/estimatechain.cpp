@@ -54,7 +54,7 @@ void EstimateForm::EnterArea() {
 // Another name than that of the lines below, left without Enter: its own lines come up. The focus
 // goes where the estimator sent it, or back to a name that is refused. False when it was refused.
 bool EstimateForm::FollowAreaName() {
-  if (Area.Empty() || !lines_.OfOpenProject() || lines_.AreOf(Area.Text())) return true;
+  if (!lines_.OfOpenProject() || NameStands()) return true;
   bool loaded = false;
   following_ = true;
   GetDesk().Dispatch([&] {
@@ -70,13 +70,14 @@ bool EstimateForm::FollowAreaName() {
 void EstimateForm::AreaGotFocus() {
   AreasList.SetTop(areasTop_);
   const QString& waiting = kit_.shared.IAmHere;
-  if (waiting == QLatin1String("EL") && !eDescription.Empty()) {
+  const bool inWork = !eDescription.Empty() && NameStands();
+  if (waiting == QLatin1String("EL") && inWork) {
     GetDesk().Focus(eLength);
     return;
   }
   // A height that waits for its measure takes the focus back; the list of areas comes up all the
   // same, so that another area can be chosen. A test holds it.
-  if (waiting == QLatin1String("EH") && !eDescription.Empty()) GetDesk().Focus(Hite);
+  if (waiting == QLatin1String("EH") && inWork) GetDesk().Focus(Hite);
   Area.SelectAll();
   LoadAreas();
   AreasList.Show();

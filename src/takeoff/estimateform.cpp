@@ -57,7 +57,7 @@ void EstimateForm::Init() {
   ShowScale();
   GetDesk().Focus(Area);
   // Back from pricing a new system: the chain goes on with its name.
-  if (unknown_) GetDesk().Focus(eDescription);
+  if (unknown_ && NameStands()) GetDesk().Focus(eDescription);
   unknown_ = false;
 }
 

@@ -64,6 +64,8 @@ class EstimateForm : public TakeoffForm {
   void TakeArea();
   void EnterArea();
   bool FollowAreaName();
+  // No other name stands in Area than that of the lines below (one that was refused, say).
+  bool NameStands() const { return Area.Empty() || lines_.AreOf(Area.Text()); }
   void AreaGotFocus();
   void TakeDescription();
   void LeaveDescription();

@@ -27,7 +27,7 @@ void EstimateForm::AreaSelected() {
 void EstimateForm::LineSelected() {
   UpdateStatus();
   const AreaLine line(AreaList.Selected());
-  if (line.Text().isEmpty()) return;
+  if (line.Text().isEmpty() || !NameStands()) return;
   eDescription.SetText(line.System());
   Units.SetText(line.UnitsStopgap());
   AreasList.Hide();

@@ -193,7 +193,7 @@ void RFSForm::LineSelected() {
     return;
   }
   const RoomLine line(RoomList.Selected());
-  if (line.Text().isEmpty()) return;
+  if (line.Text().isEmpty() || !record_.NameStands()) return;
   Description.SetText(line.System());
   Area.SetText(line.FinishArea());
   LoadSystem();

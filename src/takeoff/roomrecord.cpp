@@ -69,8 +69,7 @@ void RoomRecord::EnterRoom() {
 }
 
 bool RoomRecord::FollowName() {
-  const TextField& room = screen_.Room;
-  if (room.Empty() || !lines_.OfOpenProject() || lines_.AreOf(room.Text())) return true;
+  if (!lines_.OfOpenProject() || NameStands()) return true;
   bool loaded = false;
   kit_.desk.Dispatch([&] {
     EnterRoom();

@@ -27,6 +27,8 @@ class RoomRecord {
   // Another name than that of the lines below, left without Enter: its own lines come up. The focus
   // goes where the estimator sent it, or back to a name that is refused, which answers false.
   bool FollowName();
+  // No other name stands in Room than that of the lines below (one that was refused, say).
+  bool NameStands() const { return screen_.Room.Empty() || lines_.AreOf(screen_.Room.Text()); }
   void RequireStorable() const { lines_.RequireStorable(screen_.Room.Text()); }
   void ForgetLines();  // no room's lines stand on the screen
   // When another project is open than the one whose room stands here, nothing of it may be stored

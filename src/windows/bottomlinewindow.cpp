@@ -6,9 +6,7 @@ namespace tamo {
 
 void LayOutBottomLine(Builder& b) {
   QWidget* frame = b.Group("oiFrame");
-  auto* column = new QVBoxLayout(frame);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGrid);
+  auto* column = ColumnIn(frame);
   FieldColumn fields(*column);
   fields.captionWidth = 10 * kGrid;
   fields.Add(b.Caption("ItemLabel"), b.Field("Item", 26), b.Prompt("ItemPrompt"));

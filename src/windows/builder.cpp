@@ -5,6 +5,44 @@
 #include "windows/plainbindings.h"
 
 namespace tamo {
+namespace {
+
+template <class Widget, class... Arguments>
+Widget* Named(const char* name, Arguments&&... arguments) {
+  auto* widget = new Widget(std::forward<Arguments>(arguments)...);
+  widget->setObjectName(QLatin1String(name));
+  return widget;
+}
+
+// Binds the widget to the control of its name.
+template <class ControlKind, class BindingKind, class Widget>
+Widget* Bound(Builder& builder, Widget* widget) {
+  const QByteArray name = widget->objectName().toLatin1();
+  if (auto* control = builder.Find<ControlKind>(name.constData()))
+    builder.Bind<BindingKind>(*control, *widget);
+  return widget;
+}
+
+template <class Layout>
+Layout* Flush(Layout* layout, int spacing) {
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(spacing);
+  return layout;
+}
+
+QLabel* AsCaption(QLabel* label) {
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  return label;
+}
+
+QLabel* AsPrompt(QLabel* label) {
+  label->setFont(PromptFont());
+  label->setProperty("role", QStringLiteral("prompt"));
+  label->setWordWrap(true);
+  return label;
+}
+
+}  // namespace
 
 Builder::Builder(FormWindow& window, Display& display, Program& program, PlanPictures* pictures)
     : window_(window), display_(display), program_(program), pictures_(pictures) {}
@@ -13,32 +51,28 @@ Control* Builder::Find(const char* name) {
   return window_.GetForm().Find(QLatin1String(name));
 }
 
-QLineEdit* Builder::Field(const char* name, int columns, const QString& saidName) {
-  auto* edit = new QLineEdit;
-  edit->setObjectName(QLatin1String(name));
-  edit->setAccessibleName(saidName);
+QLineEdit* Builder::Field(const char* name, int columns, const QString& accessibleName) {
+  auto* edit = Named<QLineEdit>(name);
+  edit->setAccessibleName(accessibleName);
   if (columns > 0) {
     const int one = edit->fontMetrics().horizontalAdvance(QLatin1Char('0'));
     edit->setFixedWidth(columns * one + 3 * kGrid);
   }
-  if (auto* field = Find<TextField>(name)) Bind<LineBinding>(*field, *edit);
-  return edit;
+  return Bound<TextField, LineBinding>(*this, edit);
 }
 
-QPlainTextEdit* Builder::LongField(const char* name, const QString& saidName) {
-  auto* edit = new QPlainTextEdit;
-  edit->setObjectName(QLatin1String(name));
-  edit->setAccessibleName(saidName);
-  if (auto* field = Find<TextField>(name)) Bind<TextBinding>(*field, *edit);
-  return edit;
+QPlainTextEdit* Builder::LongField(const char* name, const QString& accessibleName) {
+  auto* edit = Named<QPlainTextEdit>(name);
+  edit->setAccessibleName(accessibleName);
+  return Bound<TextField, TextBinding>(*this, edit);
 }
 
-RowsView* Builder::List(const char* name, const QString& saidName, int columns, int rows) {
+RowsView* Builder::List(const char* name, const QString& accessibleName, int columns, int rows) {
   auto* list = Find<OrderedList>(name);
   if (list == nullptr) return nullptr;
   auto* view = new RowsView(*list);
   view->setObjectName(QLatin1String(name));
-  view->setAccessibleName(saidName);
+  view->setAccessibleName(accessibleName);
   view->wantedColumns = columns;
   view->wantedRows = rows;
   Bind<ListBinding>(*list, *view);
@@ -56,109 +90,81 @@ RowsView* Builder::DropList(const char* name, const char* field) {
   return view;
 }
 
-RowsView* Builder::PopList(const char* name, const QString& saidName, int columns) {
-  RowsView* view = List(name, saidName, columns, 3);
+RowsView* Builder::PopList(const char* name, const QString& accessibleName, int columns) {
+  RowsView* view = List(name, accessibleName, columns, 3);
   if (view != nullptr) static_cast<ListBinding*>(display_.Of(*Find(name)))->PopUpIn(window_);
   return view;
 }
 
 QPushButton* Builder::PushButton(const char* name) {
-  auto* button = new QPushButton;
-  button->setObjectName(QLatin1String(name));
+  auto* button = Named<QPushButton>(name);
   button->setAutoDefault(false);
-  if (auto* control = Find<Button>(name)) Bind<ButtonBinding>(*control, *button);
-  return button;
+  return Bound<Button, ButtonBinding>(*this, button);
 }
 
 QCheckBox* Builder::Check(const char* name) {
-  auto* box = new QCheckBox;
-  box->setObjectName(QLatin1String(name));
-  if (auto* control = Find<CheckBox>(name)) Bind<ButtonBinding>(*control, *box);
-  return box;
+  return Bound<CheckBox, ButtonBinding>(*this, Named<QCheckBox>(name));
 }
 
 QRadioButton* Builder::Choice(const char* name) {
-  auto* choice = new QRadioButton;
-  choice->setObjectName(QLatin1String(name));
-  if (auto* control = Find<Option>(name)) Bind<ButtonBinding>(*control, *choice);
-  return choice;
+  return Bound<Option, ButtonBinding>(*this, Named<QRadioButton>(name));
 }
 
 SwatchPatch* Builder::Patch(const char* name) {
-  auto* patch = new SwatchPatch(SwatchPatch::Kind::Patch);
-  patch->setObjectName(QLatin1String(name));
-  if (auto* control = Find<Swatch>(name)) {
+  auto* patch = Named<SwatchPatch>(name, SwatchPatch::Kind::Patch);
+  if (const auto* control = Find<Swatch>(name)) {
     patch->setAccessibleName(control->Caption().isEmpty() ? QString(QLatin1String(name)).mid(1)
                                                           : control->Caption());
     patch->setToolTip(patch->accessibleName());
-    Bind<SwatchBinding>(*control, *patch);
   }
-  return patch;
+  return Bound<Swatch, SwatchBinding>(*this, patch);
 }
 
 SwatchPatch* Builder::SampleLine(const char* name) {
-  auto* line = new SwatchPatch(SwatchPatch::Kind::Line);
-  line->setObjectName(QLatin1String(name));
+  auto* line = Named<SwatchPatch>(name, SwatchPatch::Kind::Line);
   line->setAccessibleName(QStringLiteral("Sample line"));
-  if (auto* control = Find<Swatch>(name)) Bind<SwatchBinding>(*control, *line);
-  return line;
+  return Bound<Swatch, SwatchBinding>(*this, line);
 }
 
-QSlider* Builder::Bar(const char* name, const QString& saidName) {
-  auto* slider = new QSlider(Qt::Horizontal);
-  slider->setObjectName(QLatin1String(name));
-  slider->setAccessibleName(saidName);
+QSlider* Builder::Bar(const char* name, const QString& accessibleName) {
+  auto* slider = Named<QSlider>(name, Qt::Horizontal);
+  slider->setAccessibleName(accessibleName);
   slider->setPageStep(1);
   slider->setTickPosition(QSlider::TicksBelow);
   slider->setTickInterval(1);
-  if (auto* control = Find<ScrollBar>(name)) Bind<BarBinding>(*control, *slider);
-  return slider;
+  return Bound<ScrollBar, BarBinding>(*this, slider);
 }
 
-BrowserView* Builder::Browser(const char* name, const QString& saidName) {
+BrowserView* Builder::Browser(const char* name, const QString& accessibleName) {
   auto* control = Find<FileBrowser>(name);
   auto* view = new BrowserView(control == nullptr ? FileBrowser::Kind::File : control->GetKind());
   view->setObjectName(QLatin1String(name));
-  view->setAccessibleName(saidName);
-  view->Rows().setAccessibleName(saidName);
+  view->setAccessibleName(accessibleName);
+  view->Rows().setAccessibleName(accessibleName);
   if (control != nullptr) Bind<BrowserBinding>(*control, *view, program_.GetFiles().GetDisk());
   return view;
 }
 
 QWidget* Builder::Group(const char* name) {
-  auto* group = new QWidget;
-  group->setObjectName(QLatin1String(name));
-  if (auto* frame = Find<Frame>(name)) Bind<FrameBinding>(*frame, *group);
-  return group;
+  return Bound<Frame, FrameBinding>(*this, Named<QWidget>(name));
 }
 
 QFrame* Builder::Panel(const char* name) {
-  auto* panel = new QFrame;
-  panel->setObjectName(QLatin1String(name));
+  auto* panel = Named<QFrame>(name);
   panel->setProperty("role", QStringLiteral("panel"));
-  if (auto* frame = Find<Frame>(name)) Bind<FrameBinding>(*frame, *panel);
-  return panel;
+  return Bound<Frame, FrameBinding>(*this, panel);
 }
 
 QLabel* Builder::LabelFor(const char* name) {
-  auto* label = new QLabel;
-  label->setObjectName(QLatin1String(name));
-  if (auto* control = Find<Label>(name)) Bind<LabelBinding>(*control, *label);
-  return label;
+  return Bound<Label, LabelBinding>(*this, Named<QLabel>(name));
 }
 
 QLabel* Builder::Caption(const char* name) {
-  QLabel* label = LabelFor(name);
-  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  return label;
+  return AsCaption(LabelFor(name));
 }
 
 QLabel* Builder::Prompt(const char* name) {
-  QLabel* label = LabelFor(name);
-  label->setFont(PromptFont());
-  label->setProperty("role", QStringLiteral("prompt"));
-  label->setWordWrap(true);
-  return label;
+  return AsPrompt(LabelFor(name));
 }
 
 QLabel* Builder::Text(const char* name) {
@@ -166,17 +172,12 @@ QLabel* Builder::Text(const char* name) {
 }
 
 QLabel* FixedCaption(const QString& text) {
-  auto* label = new QLabel(text);
-  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  return label;
+  return AsCaption(new QLabel(text));
 }
 
 QLabel* FixedPrompt(const QString& text) {
-  auto* label = new QLabel(text);
+  auto* label = AsPrompt(new QLabel(text));
   label->setTextFormat(Qt::PlainText);
-  label->setFont(PromptFont());
-  label->setProperty("role", QStringLiteral("prompt"));
-  label->setWordWrap(true);
   return label;
 }
 
@@ -194,24 +195,38 @@ QFrame* Rule() {
   return rule;
 }
 
-QWidget* Kept(QWidget* widget) {
+QWidget* KeepPlaceWhenHidden(QWidget* widget) {
   QSizePolicy policy = widget->sizePolicy();
   policy.setRetainSizeWhenHidden(true);
   widget->setSizePolicy(policy);
   return widget;
 }
 
+QVBoxLayout* ColumnIn(QWidget* in, int spacing) {
+  return Flush(new QVBoxLayout(in), spacing);
+}
+
+QHBoxLayout* RowIn(QWidget* in, int spacing) {
+  return Flush(new QHBoxLayout(in), spacing);
+}
+
+QHBoxLayout* NewRow(int spacing) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(spacing);
+  return row;
+}
+
 FieldColumn::FieldColumn(QVBoxLayout& into) : grid_(new QGridLayout) {
   into.addLayout(grid_);
-  SetUp();
+  SetSpacing();
 }
 
 FieldColumn::FieldColumn(QWidget& in) : grid_(new QGridLayout(&in)) {
   grid_->setContentsMargins(0, 0, 0, 0);
-  SetUp();
+  SetSpacing();
 }
 
-void FieldColumn::SetUp() {
+void FieldColumn::SetSpacing() {
   grid_->setHorizontalSpacing(kGrid);
   grid_->setVerticalSpacing(kGrid / 2);
   grid_->setColumnStretch(1, 1);
@@ -226,7 +241,7 @@ void FieldColumn::Add(QLabel* caption, QWidget* field, QLabel* prompt) {
   grid_->addWidget(caption, row_, 0, Qt::AlignRight | (tall ? Qt::AlignTop : Qt::AlignVCenter));
   grid_->addWidget(field, row_, 1, whole ? Qt::Alignment() : Qt::AlignLeft);
   ++row_;
-  if (prompt != nullptr) grid_->addWidget(Kept(prompt), row_++, 1);
+  if (prompt != nullptr) grid_->addWidget(KeepPlaceWhenHidden(prompt), row_++, 1);
 }
 
 }  // namespace tamo

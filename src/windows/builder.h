@@ -33,22 +33,22 @@ class Builder {
   Program& GetProgram() { return program_; }
   PlanPictures* Pictures() { return pictures_; }
 
-  // `columns` is the width in characters; 0 takes all the width there is. `saidName` is the name
-  // for a reader of screens where no caption stands before the field.
-  QLineEdit* Field(const char* name, int columns = 0, const QString& saidName = {});
-  QPlainTextEdit* LongField(const char* name, const QString& saidName);
-  RowsView* List(const char* name, const QString& saidName, int columns, int rows);
+  // `columns` is the width in characters; 0 takes all the width there is. `accessibleName` is the
+  // name for a reader of screens where no caption stands before the field.
+  QLineEdit* Field(const char* name, int columns = 0, const QString& accessibleName = {});
+  QPlainTextEdit* LongField(const char* name, const QString& accessibleName);
+  RowsView* List(const char* name, const QString& accessibleName, int columns, int rows);
   // A list that pops up under its field. The field must have been made before.
   RowsView* DropList(const char* name, const char* field);
   // A list that opens where the right click was.
-  RowsView* PopList(const char* name, const QString& saidName, int columns);
+  RowsView* PopList(const char* name, const QString& accessibleName, int columns);
   QPushButton* PushButton(const char* name);
   QCheckBox* Check(const char* name);
   QRadioButton* Choice(const char* name);
   SwatchPatch* Patch(const char* name);
   SwatchPatch* SampleLine(const char* name);
-  QSlider* Bar(const char* name, const QString& saidName);
-  BrowserView* Browser(const char* name, const QString& saidName);
+  QSlider* Bar(const char* name, const QString& accessibleName);
+  BrowserView* Browser(const char* name, const QString& accessibleName);
   // The group of a frame's controls: an empty widget to lay them out in.
   QWidget* Group(const char* name);
   QFrame* Panel(const char* name);  // the same with a frame and a ground of its own
@@ -85,8 +85,14 @@ QLabel* FixedCaption(const QString& text);
 QLabel* FixedPrompt(const QString& text);
 QLabel* Section(const QString& text);  // a caption in semibold over a group
 QFrame* Rule();                        // a thin line across
-// Keeps its place while it is hidden, so that nothing jumps.
-QWidget* Kept(QWidget* widget);
+// The widget keeps its place while it is hidden, so that nothing jumps.
+QWidget* KeepPlaceWhenHidden(QWidget* widget);
+
+// The usual layouts: from top to bottom in `in`, its margins 0; from left to right, on its own or
+// in `in`. Spacing and margins in pixels.
+QVBoxLayout* ColumnIn(QWidget* in, int spacing = kGrid);
+QHBoxLayout* NewRow(int spacing = kGrid);
+QHBoxLayout* RowIn(QWidget* in, int spacing = kGrid);
 
 // Captions in one right-aligned column, fields in the next, prompts under their fields.
 class FieldColumn {
@@ -99,7 +105,7 @@ class FieldColumn {
   int captionWidth = 0;  // of all captions, in pixels; 0 lets each column find its own
 
  private:
-  void SetUp();
+  void SetSpacing();
   QGridLayout* grid_;
   int row_ = 0;
 };

@@ -5,8 +5,7 @@
 namespace tamo {
 
 void LayOutDocs(Builder& b) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(2 * kGrid);
+  auto* row = NewRow(2 * kGrid);
   auto* left = new QVBoxLayout;
   left->addWidget(Section(QStringLiteral("Topics")));
   RowsView* topics = b.List("MenuList", QStringLiteral("Topics"), 34, 24);
@@ -15,8 +14,7 @@ void LayOutDocs(Builder& b) {
   row->addLayout(left);
   auto* right = new QVBoxLayout;
   right->setSpacing(kGrid);
-  auto* line = new QHBoxLayout;
-  line->setSpacing(kGrid);
+  auto* line = NewRow();
   QLabel* caption = FixedCaption(QStringLiteral("File:"));
   QLineEdit* file = b.Field("Text1");
   caption->setBuddy(file);

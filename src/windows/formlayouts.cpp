@@ -7,7 +7,7 @@ namespace tamo {
 
 bool LayOut(Builder& builder) {
   using Make = void (*)(Builder&);
-  static constexpr std::array<std::pair<const char*, Make>, 10> kLayouts = {
+  static constexpr std::array<std::pair<const char*, Make>, 11> kLayouts = {
       {{"Tamo", LayOutTamo},
        {"Settings", LayOutSettings},
        {"Pricing", LayOutPricing},
@@ -16,6 +16,7 @@ bool LayOut(Builder& builder) {
        {"BottomLine", LayOutBottomLine},
        {"AdjustmentForm", LayOutAdjustmentForm},
        {"OST", LayOutOST},
+       {"Schedule", LayOutSchedule},
        {"Reports", LayOutReports},
        {"Docs", LayOutDocs}}};
   for (const auto& [name, make] : kLayouts) {

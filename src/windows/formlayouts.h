@@ -15,6 +15,7 @@ void LayOutEstimateForm(Builder& builder);
 void LayOutBottomLine(Builder& builder);
 void LayOutAdjustmentForm(Builder& builder);
 void LayOutOST(Builder& builder);
+void LayOutSchedule(Builder& builder);
 void LayOutReports(Builder& builder);
 void LayOutDocs(Builder& builder);
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "windows/stylesheet.h"
 #include "windows/tamostyle.h"
 
 namespace tamo {
@@ -40,10 +41,6 @@ QColor Readable(QColor colour, const QColor& ground, const QColor& away) {
   return colour;
 }
 
-QString Name(const QColor& colour) {
-  return colour.name();
-}
-
 }  // namespace
 
 double Contrast(const QColor& one, const QColor& other) {
@@ -53,34 +50,31 @@ double Contrast(const QColor& one, const QColor& other) {
 }
 
 Look Look::Light() {
-  Look look;
-  look.window = QColor(0xf4, 0xf5, 0xf7);
-  look.base = QColor(0xff, 0xff, 0xff);
-  look.text = QColor(0x1a, 0x1e, 0x24);
-  look.quiet = QColor(0x58, 0x61, 0x6c);
-  look.line = QColor(0x8a, 0x93, 0x9e);
-  look.faintLine = QColor(0xd5, 0xd9, 0xde);
-  look.accent = QColor(0x0b, 0x5c, 0xc4);
-  look.accentGround = QColor(0xe6, 0xf0, 0xfc);
-  look.notice = QColor(0xff, 0xee, 0xc2);
-  look.noticeLine = QColor(0xb8, 0x7a, 0x00);
-  return look;
+  return {.dark = false,
+          .window = QColor(0xf4, 0xf5, 0xf7),
+          .base = QColor(0xff, 0xff, 0xff),
+          .text = QColor(0x1a, 0x1e, 0x24),
+          .quiet = QColor(0x58, 0x61, 0x6c),
+          .line = QColor(0x8a, 0x93, 0x9e),
+          .faintLine = QColor(0xd5, 0xd9, 0xde),
+          .accent = QColor(0x0b, 0x5c, 0xc4),
+          .accentGround = QColor(0xe6, 0xf0, 0xfc),
+          .notice = QColor(0xff, 0xee, 0xc2),
+          .noticeLine = QColor(0xb8, 0x7a, 0x00)};
 }
 
 Look Look::Dark() {
-  Look look;
-  look.dark = true;
-  look.window = QColor(0x20, 0x23, 0x28);
-  look.base = QColor(0x17, 0x19, 0x1d);
-  look.text = QColor(0xe8, 0xeb, 0xef);
-  look.quiet = QColor(0xa7, 0xb0, 0xbb);
-  look.line = QColor(0x6c, 0x76, 0x82);
-  look.faintLine = QColor(0x3a, 0x40, 0x48);
-  look.accent = QColor(0x74, 0xb4, 0xff);
-  look.accentGround = QColor(0x1b, 0x2b, 0x40);
-  look.notice = QColor(0x4a, 0x38, 0x08);
-  look.noticeLine = QColor(0xe0, 0xa8, 0x30);
-  return look;
+  return {.dark = true,
+          .window = QColor(0x20, 0x23, 0x28),
+          .base = QColor(0x17, 0x19, 0x1d),
+          .text = QColor(0xe8, 0xeb, 0xef),
+          .quiet = QColor(0xa7, 0xb0, 0xbb),
+          .line = QColor(0x6c, 0x76, 0x82),
+          .faintLine = QColor(0x3a, 0x40, 0x48),
+          .accent = QColor(0x74, 0xb4, 0xff),
+          .accentGround = QColor(0x1b, 0x2b, 0x40),
+          .notice = QColor(0x4a, 0x38, 0x08),
+          .noticeLine = QColor(0xe0, 0xa8, 0x30)};
 }
 
 Look Look::Of(const QPalette& platform) {
@@ -120,75 +114,6 @@ QPalette Look::Palette() const {
   return palette;
 }
 
-QString Look::StyleSheet() const {
-  QString sheet = QStringLiteral(R"(
-QLineEdit, QPlainTextEdit, RowsView, QListView {
-  background: @base; color: @text; border: 1px solid @line; border-radius: 3px;
-  selection-background-color: @accent; selection-color: @onAccent;
-}
-QLineEdit { padding: 3px 6px; min-height: 22px; max-height: 22px; }
-QLineEdit[role="figure"] { min-height: 40px; max-height: 40px; }
-QLineEdit:read-only { background: @window; border-color: @faint; }
-QLineEdit:focus { border: 2px solid @accent; padding: 2px 5px; background: @ground; }
-QPlainTextEdit { padding: 4px; }
-QPlainTextEdit:focus { border: 2px solid @accent; padding: 3px; background: @ground; }
-QListView { padding: 1px; }
-QListView:focus { border: 2px solid @accent; padding: 0px; }
-QListView[role="drop"] { border: 1px solid @accent; }
-QPushButton {
-  min-height: 22px; padding: 3px 14px; border: 1px solid @line; border-radius: 3px;
-  background: @button; color: @text;
-}
-QPushButton:hover { border-color: @accent; }
-QPushButton:pressed { background: @ground; }
-QPushButton:focus { border: 2px solid @accent; padding: 2px 13px; background: @ground; }
-QPushButton:disabled { color: @quiet; border-color: @faint; }
-QToolButton {
-  border: 1px solid @line; border-radius: 3px; padding: 3px 10px; background: @button;
-  color: @text;
-}
-QToolButton:hover { border-color: @accent; }
-QToolButton:checked { border: 2px solid @accent; padding: 2px 9px; background: @ground; }
-QCheckBox, QRadioButton { padding: 3px; border: 2px solid transparent; border-radius: 3px; }
-QCheckBox:focus, QRadioButton:focus { border-color: @accent; background: @ground; }
-QLabel[role="prompt"], QLabel[role="quiet"] { color: @quiet; }
-QLabel[role="title"] { color: @text; }
-QFrame[role="rule"] { background: @faint; border: none; max-height: 1px; min-height: 1px; }
-QFrame[role="panel"] { background: @base; border: 1px solid @line; border-radius: 4px; }
-QFrame[role="foot"] { background: @window; border: none; border-top: 1px solid @faint; }
-QFrame[role="notice"] { background: @notice; border: none; border-top: 2px solid @noticeLine; }
-QFrame[role="notice"] QLabel { color: @text; background: transparent; }
-QMenuBar { background: @window; color: @text; padding: 2px 8px; }
-QMenuBar::item { padding: 5px 6px; margin-right: 1px; border-radius: 3px; background: transparent; }
-QMenuBar::item:selected { background: @ground; border: 1px solid @accent; padding: 4px 5px; }
-QMenu { background: @base; color: @text; border: 1px solid @line; padding: 4px; }
-QMenu::item { padding: 6px 28px 6px 20px; border-radius: 3px; }
-QMenu::item:selected { background: @accent; color: @onAccent; }
-QMenu::item:disabled { color: @quiet; }
-QToolTip { background: @base; color: @text; border: 1px solid @line; padding: 4px; }
-)");
-  const QPalette palette = Palette();
-  const std::pair<const char*, QColor> names[] = {
-      {"@noticeLine", noticeLine},
-      {"@notice", notice},
-      {"@accent", accent},
-      {"@ground", accentGround},
-      {"@base", base},
-      {"@window", window},
-      {"@text", text},
-      {"@quiet", quiet},
-      {"@line", line},
-      {"@faint", faintLine},
-      {"@button", palette.color(QPalette::Button)},
-      {"@onAccent", palette.color(QPalette::HighlightedText)}};
-  // Longer names first, so that no name is read as the beginning of another.
-  for (const auto& [name, colour] : names) {
-    if (QLatin1String(name).size() > 7) sheet.replace(QLatin1String(name), Name(colour));
-  }
-  for (const auto& [name, colour] : names) sheet.replace(QLatin1String(name), Name(colour));
-  return sheet;
-}
-
 void ApplyLook(const Look& look) {
   Current() = look;
   QApplication::setStyle(new TamoStyle);
@@ -198,7 +123,7 @@ void ApplyLook(const Look& look) {
     font.setPointSizeF(kLeastPoints);
     QApplication::setFont(font);
   }
-  qApp->setStyleSheet(look.StyleSheet());
+  qApp->setStyleSheet(StyleSheetOf(look));
 }
 
 const Look& CurrentLook() {

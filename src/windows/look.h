@@ -32,7 +32,6 @@ struct Look {
   static Look Of(const QPalette& platform);
 
   QPalette Palette() const;
-  QString StyleSheet() const;
 };
 
 // Contrast of two colours, 1 to 21.

@@ -214,7 +214,7 @@ QWidget* Column(Builder& b) {
   Distance(b, *column);
   column->addWidget(Rule());
   column->addWidget(b.Check("Check1"));
-  column->addWidget(Kept(b.SampleLine("Line1")));
+  column->addWidget(KeepPlaceWhenHidden(b.SampleLine("Line1")));
   column->addWidget(b.PushButton("Command2"));
   column->addWidget(Rule());
   KnownDimension(b, *column);

@@ -4,94 +4,92 @@
 #include <QMouseEvent>
 
 namespace tamo {
+namespace {
+
+bool IsLeftPress(const QEvent& event) {
+  return event.type() == QEvent::MouseButtonPress &&
+         static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
+}
+
+void TakeTabFocus(QWidget& widget, const Control& control) {
+  widget.setFocusPolicy(control.takesFocus ? Qt::TabFocus : Qt::NoFocus);
+}
+
+}  // namespace
 
 LabelBinding::LabelBinding(Display& display, Label& label, QLabel& widget)
-    : Binding(display, label, widget), label_(label), text_(widget) {
+    : BindingOf(display, label, widget) {
   widget.setTextFormat(Qt::PlainText);
   if (label.onClick) widget.setCursor(Qt::PointingHandCursor);
 }
 
 void LabelBinding::Apply() {
   Binding::Apply();
-  QString caption = label_.Caption();
-  if (text_.buddy() != nullptr) caption.replace(QLatin1Char('&'), QLatin1String("&&"));
-  if (text_.text() != caption) text_.setText(caption);
+  QString caption = own_.Caption();
+  if (shown_.buddy() != nullptr) caption.replace(QLatin1Char('&'), QLatin1String("&&"));
+  if (shown_.text() != caption) shown_.setText(caption);
 }
 
 bool LabelBinding::eventFilter(QObject*, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress && label_.onClick &&
-      static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-    GetDesk().ClickInto(label_);
-    return true;
-  }
-  return TakeCommon(event);
+  if (!own_.onClick || !IsLeftPress(*event)) return TakeCommon(event);
+  GetDesk().ClickInto(own_);
+  return true;
 }
 
 ButtonBinding::ButtonBinding(Display& display, Captioned& control, QAbstractButton& button)
-    : Binding(display, control, button), captioned_(control), button_(button) {
-  button.setFocusPolicy(control.takesFocus ? Qt::TabFocus : Qt::NoFocus);
+    : BindingOf(display, control, button) {
+  TakeTabFocus(button, control);
   button.setAutoExclusive(false);
   connect(&button, &QAbstractButton::clicked, this, [this] {
     GetDisplay().MarkDirty(*this);
-    GetDesk().ClickInto(captioned_);
+    GetDesk().ClickInto(own_);
   });
 }
 
 void ButtonBinding::Apply() {
   Binding::Apply();
-  if (button_.text() != captioned_.Caption()) button_.setText(captioned_.Caption());
+  if (shown_.text() != own_.Caption()) shown_.setText(own_.Caption());
   bool on = false;
-  if (const auto* box = dynamic_cast<const CheckBox*>(&captioned_)) on = box->Value() != 0;
-  if (const auto* option = dynamic_cast<const Option*>(&captioned_)) on = option->Selected();
-  if (button_.isCheckable() && button_.isChecked() != on) button_.setChecked(on);
-}
-
-bool ButtonBinding::eventFilter(QObject*, QEvent* event) {
-  return TakeCommon(event);
+  if (const auto* box = dynamic_cast<const CheckBox*>(&own_)) on = box->Value() != 0;
+  if (const auto* option = dynamic_cast<const Option*>(&own_)) on = option->Selected();
+  if (shown_.isCheckable() && shown_.isChecked() != on) shown_.setChecked(on);
 }
 
 SwatchBinding::SwatchBinding(Display& display, Swatch& swatch, SwatchPatch& patch)
-    : Binding(display, swatch, patch), swatch_(swatch), patch_(patch) {
-  patch.setFocusPolicy(swatch.takesFocus ? Qt::TabFocus : Qt::NoFocus);
+    : BindingOf(display, swatch, patch) {
+  TakeTabFocus(patch, swatch);
   if (swatch.onClick) patch.setCursor(Qt::PointingHandCursor);
 }
 
 void SwatchBinding::Apply() {
   Binding::Apply();
-  patch_.SetColour(swatch_.Colour());
-  patch_.SetLineWidth(swatch_.Width());
-  patch_.SetCaption(swatch_.Caption());
+  shown_.SetColour(own_.Colour());
+  shown_.SetLineWidth(own_.Width());
+  shown_.SetCaption(own_.Caption());
 }
 
 bool SwatchBinding::eventFilter(QObject*, QEvent* event) {
-  if (event->type() == QEvent::MouseButtonPress &&
-      static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton) {
-    GetDesk().ClickInto(swatch_);
-    return true;
-  }
-  return TakeCommon(event);
+  if (!IsLeftPress(*event)) return TakeCommon(event);
+  GetDesk().ClickInto(own_);
+  return true;
 }
 
 BarBinding::BarBinding(Display& display, ScrollBar& bar, QSlider& slider)
-    : Binding(display, bar, slider), bar_(bar), slider_(slider) {
-  slider.setFocusPolicy(bar.takesFocus ? Qt::TabFocus : Qt::NoFocus);
+    : BindingOf(display, bar, slider) {
+  TakeTabFocus(slider, bar);
   slider.setRange(bar.Least(), bar.Most());
   connect(&slider, &QSlider::valueChanged, this, [this](int value) {
     if (GetDisplay().Syncing()) return;
     GetDesk().Dispatch([this, value] {
-      if (bar_.takesFocus) GetDesk().Focus(bar_);
-      bar_.SetValue(value);
+      if (own_.takesFocus) GetDesk().Focus(own_);
+      own_.SetValue(value);
     });
   });
 }
 
 void BarBinding::Apply() {
   Binding::Apply();
-  if (slider_.value() != bar_.Value()) slider_.setValue(bar_.Value());
-}
-
-bool BarBinding::eventFilter(QObject*, QEvent* event) {
-  return TakeCommon(event);
+  if (shown_.value() != own_.Value()) shown_.setValue(own_.Value());
 }
 
 void FrameBinding::Apply() {

@@ -9,58 +9,50 @@
 
 namespace tamo {
 
-class LabelBinding : public Binding {
+// A binding that knows the kinds of its control and its widget.
+template <class ControlKind, class WidgetKind>
+class BindingOf : public Binding {
+ public:
+  BindingOf(Display& display, ControlKind& control, WidgetKind& widget)
+      : Binding(display, control, widget), own_(control), shown_(widget) {}
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override { return TakeCommon(event); }
+
+  ControlKind& own_;
+  WidgetKind& shown_;
+};
+
+class LabelBinding : public BindingOf<Label, QLabel> {
  public:
   LabelBinding(Display& display, Label& label, QLabel& widget);
   void Apply() override;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
-
- private:
-  Label& label_;
-  QLabel& text_;
 };
 
 // A push button, a check box or an option: the widget's click is the Desk's; its state is always
 // the control's.
-class ButtonBinding : public Binding {
+class ButtonBinding : public BindingOf<Captioned, QAbstractButton> {
  public:
   ButtonBinding(Display& display, Captioned& control, QAbstractButton& button);
   void Apply() override;
-
- protected:
-  bool eventFilter(QObject* object, QEvent* event) override;
-
- private:
-  Captioned& captioned_;
-  QAbstractButton& button_;
 };
 
-class SwatchBinding : public Binding {
+class SwatchBinding : public BindingOf<Swatch, SwatchPatch> {
  public:
   SwatchBinding(Display& display, Swatch& swatch, SwatchPatch& patch);
   void Apply() override;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
-
- private:
-  Swatch& swatch_;
-  SwatchPatch& patch_;
 };
 
-class BarBinding : public Binding {
+class BarBinding : public BindingOf<ScrollBar, QSlider> {
  public:
   BarBinding(Display& display, ScrollBar& bar, QSlider& slider);
   void Apply() override;
-
- protected:
-  bool eventFilter(QObject* object, QEvent* event) override;
-
- private:
-  ScrollBar& bar_;
-  QSlider& slider_;
 };
 
 // A group that is shown or hidden; what stands in it follows, wherever its widget is.

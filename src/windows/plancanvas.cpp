@@ -217,6 +217,13 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
     mark.label = line.text;
     PaintMark(painter, mark, viewer_.MarkerSize());
   }
+  const std::optional<DrawnBox>& box = viewer_.Box();
+  if (box.has_value() && box->page == viewer_.Page()) {
+    painter.setPen(QPen(CurrentLook().accent.darker(110), 2 / Scale(), Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(QPointF(box->topLeft.x, box->topLeft.y),
+                            QPointF(box->bottomRight.x, box->bottomRight.y)));
+  }
   if (viewer_.Tool() == PlanTool::None || !hasFocus()) return;
   const PagePoint hair = viewer_.CrossHair();
   const double arm = 9 / Scale();
@@ -232,7 +239,7 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   FinishScroll();
   panFrom_ = event->position();
   pressedAt_ = event->position();
-  const bool tool = viewer_.Tool() != PlanTool::None;
+  const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext();
   panning_ = !left || !tool;
   if (!left) return;
   drawing_ = tool;

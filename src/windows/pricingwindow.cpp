@@ -12,11 +12,8 @@ constexpr int kPrompts = 42 * kGrid;
 
 QWidget* SystemFields(Builder& b) {
   QWidget* frame = b.Group("FramePricing");
-  auto* column = new QVBoxLayout(frame);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGrid / 4);
-  auto* line = new QHBoxLayout;
-  line->setSpacing(kGrid);
+  auto* column = ColumnIn(frame, kGrid / 4);
+  auto* line = NewRow();
   QLabel* units = b.Caption("LabelUnits");
   units->setFixedWidth(kCaptions);
   QLabel* price = b.Caption("LabelUnitPrice");
@@ -39,7 +36,7 @@ QWidget* SystemFields(Builder& b) {
   column->addLayout(line);
   auto* under = new QHBoxLayout;
   under->addSpacing(kCaptions + kGrid);
-  under->addWidget(Kept(b.Prompt("Label3")), 1);
+  under->addWidget(KeepPlaceWhenHidden(b.Prompt("Label3")), 1);
   column->addLayout(under);
   return frame;
 }
@@ -62,12 +59,9 @@ QWidget* MaterialFields(Builder& b) {
 
 QWidget* Labor(Builder& b) {
   QWidget* frame = b.Group("LandMFrame");
-  auto* column = new QVBoxLayout(frame);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGrid);
+  auto* column = ColumnIn(frame);
   column->addWidget(Rule());
-  auto* row = new QHBoxLayout;
-  row->setSpacing(2 * kGrid);
+  auto* row = NewRow(2 * kGrid);
   auto* left = new QVBoxLayout;
   left->addWidget(Section(QStringLiteral("Labor and material")));
   left->addWidget(MaterialFields(b), 1);
@@ -84,9 +78,7 @@ QWidget* Labor(Builder& b) {
 
 QWidget* Price(Builder& b) {
   auto* line = new QWidget;
-  auto* row = new QHBoxLayout(line);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(2 * kGrid);
+  auto* row = RowIn(line, 2 * kGrid);
   QLabel* price = b.Text("EUP");
   price->setFont(FigureFont());
   price->setAccessibleName(QStringLiteral("Estimated unit price"));
@@ -161,9 +153,7 @@ QWidget* Exchange(Builder& b) {
 QWidget* Side(Builder& b) {
   auto* side = new QWidget;
   side->setFixedWidth(kSideWidth);
-  auto* column = new QVBoxLayout(side);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGrid);
+  auto* column = ColumnIn(side);
   column->addWidget(Colours(b));
   column->addWidget(Exchange(b), 1);
   QPlainTextEdit* notes = b.LongField("PricingNotes", QStringLiteral("Notes of the system"));
@@ -184,8 +174,7 @@ QWidget* Side(Builder& b) {
 }  // namespace
 
 void LayOutPricing(Builder& b) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(2 * kGrid);
+  auto* row = NewRow(2 * kGrid);
   auto* main = new QVBoxLayout;
   main->setSpacing(kGrid / 2);
   FieldColumn name(*main);
@@ -193,8 +182,8 @@ void LayOutPricing(Builder& b) {
   name.Add(b.Caption("LabelDescription"), b.Field("Description", 40),
            FixedPrompt(QStringLiteral("Leave blank and press Enter to finish. A click shows the "
                                       "systems of the library.")));
-  main->addWidget(Kept(SystemFields(b)));
-  main->addWidget(Kept(Labor(b)), 1);
+  main->addWidget(KeepPlaceWhenHidden(SystemFields(b)));
+  main->addWidget(KeepPlaceWhenHidden(Labor(b)), 1);
   main->addWidget(Price(b));
   row->addLayout(main, 1);
   row->addWidget(Side(b));

@@ -7,9 +7,7 @@ namespace tamo {
 
 void LayOutRFSForm(Builder& b) {
   QWidget* frame = b.Group("RFSFrame");
-  auto* column = new QVBoxLayout(frame);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGrid);
+  auto* column = ColumnIn(frame);
   column->addLayout(TakeoffFields(b, {{"RoomLabel", "Room", 30, "RoomPrompt"},
                                       {"HOWLabel", "How", 12, "HowPrompt"},
                                       {"DescriptionLabel", "Description", 30, "DescriptionPrompt"},

@@ -60,12 +60,27 @@ void RowPainter::PaintFound(QPainter& painter, const QRect& place, const QString
   }
 }
 
+void RowPainter::PaintCells(QPainter& painter, const QRect& place, const QString& text) const {
+  const QStringList cells = text.split(u'\t');
+  const QFontMetrics metrics(view_.font());
+  for (qsizetype i = 0; i < cells.size(); ++i) {
+    const auto cell = size_t(i);
+    const int left = place.left() + view_.CellLeft(cell) - view_.CellLeft(0);
+    const bool last = cell >= view_.cellWidths.size();
+    const int right = last ? place.right() : place.left() + view_.CellLeft(cell + 1) - 2 * kGrid;
+    const QRect own(left, place.top(), std::max(0, right - left), place.height());
+    painter.drawText(own, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                     metrics.elidedText(cells[i], Qt::ElideRight, own.width()));
+  }
+}
+
 void RowPainter::PaintText(QPainter& painter, const QRect& place, QString text) const {
   if (text.size() > kMostPainted) text.truncate(kMostPainted);
   painter.setFont(view_.font());
   PaintFound(painter, place, text);
   const Look& look = CurrentLook();
   painter.setPen(view_.isEnabled() ? look.text : look.quiet);
+  if (!view_.cellWidths.empty()) return PaintCells(painter, place, text);
   const int flags = view_.linesOfRow > 1 ? Qt::AlignVCenter | Qt::TextWordWrap
                                          : Qt::AlignVCenter | Qt::TextSingleLine;
   painter.drawText(place, Qt::AlignLeft | flags, text);

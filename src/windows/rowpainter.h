@@ -21,6 +21,7 @@ class RowPainter : public QStyledItemDelegate {
   void PaintGround(QPainter& painter, const QStyleOptionViewItem& option, int row) const;
   void PaintFound(QPainter& painter, const QRect& place, const QString& text) const;
   void PaintText(QPainter& painter, const QRect& place, QString text) const;
+  void PaintCells(QPainter& painter, const QRect& place, const QString& text) const;
 
   RowsView& view_;
 };

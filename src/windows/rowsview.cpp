@@ -201,6 +201,12 @@ QRegion RowsView::visualRegionForSelection(const QItemSelection& selection) cons
   return selection.isEmpty() ? QRegion() : QRegion(viewport()->rect());
 }
 
+int RowsView::CellLeft(size_t cell) const {
+  int left = kGrid;
+  for (size_t i = 0; i < cell && i < cellWidths.size(); ++i) left += WidthOfColumns(cellWidths[i]);
+  return left;
+}
+
 void RowsView::PaintRows(QPainter& painter, const QRect& part) const {
   QStyleOptionViewItem option;
   initViewItemOption(&option);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QListView>
+#include <vector>
 
 #include "windows/rowsmodel.h"
 
@@ -38,6 +39,9 @@ class RowsView : public QListView {
 
   QSize sizeHint() const override;
   int linesOfRow = 1;  // a longer row is wrapped into so many lines; 1 scrolls sideways instead
+  // Rows whose texts have tabs stand in columns so many characters wide; the last takes the rest.
+  std::vector<int> cellWidths;
+  int CellLeft(size_t cell) const;  // in the viewport, before scrolling
   int wantedRows = 8;
   int wantedColumns = 24;
 

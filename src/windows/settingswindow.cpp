@@ -27,9 +27,7 @@ QWidget* Palette(Builder& b) {
 
 QWidget* Pair(QWidget* one, QWidget* other) {
   auto* pair = new QWidget;
-  auto* line = new QHBoxLayout(pair);
-  line->setContentsMargins(0, 0, 0, 0);
-  line->setSpacing(3 * kGrid);
+  auto* line = RowIn(pair, 3 * kGrid);
   line->addWidget(one);
   line->addWidget(other);
   line->addStretch(1);

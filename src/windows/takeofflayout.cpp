@@ -25,22 +25,21 @@ QGridLayout* TakeoffFields(Builder& b, const std::vector<TakeoffField>& fields) 
     if (*field.prompt == '\0') continue;
     QLabel* prompt = b.Prompt(field.prompt);
     prompt->setWordWrap(false);
-    grid->addWidget(Kept(prompt), row + 1, column + 1);
+    grid->addWidget(KeepPlaceWhenHidden(prompt), row + 1, column + 1);
   }
   return grid;
 }
 
-QWidget* TakeoffLines(Builder& b, const char* list, const QString& saidName, const QString& heads) {
+QWidget* TakeoffLines(Builder& b, const char* list, const QString& accessibleName,
+                      const QString& heads) {
   auto* box = new QWidget;
-  auto* column = new QVBoxLayout(box);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGrid / 2);
+  auto* column = ColumnIn(box, kGrid / 2);
   auto* head = new QLabel(heads);
   head->setFont(FixedFont());
   head->setProperty("role", QStringLiteral("prompt"));
   head->setContentsMargins(kGrid + 2, 0, 0, 0);
   column->addWidget(head);
-  RowsView* rows = b.List(list, saidName, 56, 12);
+  RowsView* rows = b.List(list, accessibleName, 56, 12);
   rows->UseFixedColumns();
   column->addWidget(rows, 1);
   return box;

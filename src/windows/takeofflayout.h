@@ -17,7 +17,7 @@ struct TakeoffField {
 QGridLayout* TakeoffFields(Builder& builder, const std::vector<TakeoffField>& fields);
 
 // The heads of the fixed columns and the list under them.
-QWidget* TakeoffLines(Builder& builder, const char* list, const QString& saidName,
+QWidget* TakeoffLines(Builder& builder, const char* list, const QString& accessibleName,
                       const QString& heads);
 
 // What was entered for the line in work, in one row under the lines; also while its list is hidden.

@@ -7,9 +7,7 @@ namespace {
 
 QWidget* ProjectList(Builder& b) {
   auto* side = new QWidget;
-  auto* column = new QVBoxLayout(side);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGrid);
+  auto* column = ColumnIn(side);
   column->addWidget(Section(QStringLiteral("Projects")));
   RowsView* list = b.List("JobsList", QStringLiteral("Projects"), 44, 16);
   list->UseFixedColumns();
@@ -66,11 +64,10 @@ QWidget* ProjectPanel(Builder& b) {
 }  // namespace
 
 void LayOutTamo(Builder& b) {
-  auto* row = new QHBoxLayout;
-  row->setSpacing(2 * kGrid);
+  auto* row = NewRow(2 * kGrid);
   row->addWidget(ProjectList(b), 2);
   auto* right = new QVBoxLayout;
-  right->addWidget(Kept(ProjectPanel(b)));
+  right->addWidget(KeepPlaceWhenHidden(ProjectPanel(b)));
   right->addStretch(0);
   row->addLayout(right, 3);
   b.Window().Body().addLayout(row, 1);

@@ -1,24 +1,15 @@
 #pragma once
 
 #include <QObject>
-#include <QPointF>
-#include <QRect>
 #include <QString>
-#include <map>
 #include <memory>
 
-#include "common/control.h"
 #include "common/form.h"
-#include "plans/mark.h"
-
-class QAction;
-class QWidget;
 
 namespace tamo {
 
 class Display;
 class FormWindow;
-class PlanCanvas;
 class PlanPictures;
 class Program;
 
@@ -42,39 +33,19 @@ class WindowKeeper : public QObject {
   // system reported about activation has been taken in.
   void SyncNow();
 
-  // --- What stands for what: for tests and for playing scenarios through the windows.
-  // The widget of a control: QLineEdit or QPlainTextEdit for a field, RowsView (a QListView) for a
-  // list, QLabel, QPushButton, QCheckBox, QRadioButton, SwatchPatch, QSlider, BrowserView,
-  // PlanCanvas. nullptr for a control that only holds data and has no widget.
-  QWidget* WidgetOf(const Control& control);
-  QWidget* WindowOf(const Form& form);
-  // The action of a menu or pop-up entry; an entry that has entries below it has the action of its
-  // QMenu. nullptr when there is none.
-  QAction* ActionOf(const MenuEntry& entry);
-  // The row of a list, in coordinates of ClickTarget(list); it is scrolled into view first. Empty
-  // when there is no such row.
-  QRect RowRect(const OrderedList& list, int row);
-  QRect TickRect(const CheckList& list, int row);
-  // The widget that takes the mouse events of a control: a list's viewport, else the widget itself.
-  QWidget* ClickTarget(const Control& control);
-  // Scrolls as a user does who drags the bar until `row` is the first visible row (or the last page
-  // is in sight).
-  void DragTo(const OrderedList& list, int row);
-  // Chooses a folder or file in a browser as a user does who went there, whatever it shows now.
-  void PickPath(FileBrowser& browser, const QString& path, bool twice);
-  // The strip of saves that are not on the disk, in the window of `form`; hidden when all is saved.
-  QWidget* NoticeOf(const Form& form);
-  // The plan's widget and where a place of the current page stands in it; it is scrolled into view
-  // first, which raises no scrolled event.
-  QWidget* Plan();
-  QPointF PlanPlace(PagePoint at);
+ protected:
+  // The window of a form, made when it was never asked for.
+  FormWindow& WindowOf(const Form& form);
+  Display& GetDisplay();
+  Program& GetProgram();
 
  private:
   struct Parts;
-  FormWindow* Window(Form& form);
+  std::unique_ptr<FormWindow> MakeWindow(Form& form);
   void SyncWindows();
+  bool ShowWindow(FormWindow& window);
+  void HideWindows(bool all);
   void ShowPopups();
-  void EndWindows();
   bool eventFilter(QObject* object, QEvent* event) override;
 
   std::unique_ptr<Parts> parts_;

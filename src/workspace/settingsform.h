@@ -1,13 +1,12 @@
 #pragma once
 
-#include <array>
-#include <functional>
 #include <memory>
 #include <vector>
 
 #include "common/form.h"
 #include "common/kit.h"
-#include "workspace/modeshell.h"
+#include "records/settingsfile.h"
+#include "workspace/frontwindows.h"
 
 namespace tamo {
 
@@ -16,7 +15,7 @@ namespace tamo {
 // reach the disk by "Exit Settings".
 class SettingsForm : public Form {
  public:
-  SettingsForm(const Kit& kit, ModeShell& shell);
+  SettingsForm(const Kit& kit, FrontWindows& windows);
 
   void LoadSettings();
   void SaveSettings();
@@ -31,25 +30,35 @@ class SettingsForm : public Form {
   bool WholeQuantities() const { return wholeQuantities_; }
   void SetWholeQuantities(bool on);
 
-  TextField EstimatorNumber, EstimatorName, CompanyName, Telephone, DataPath;
-  Swatch Line1;  // the sample line
-  ScrollBar HScroll1;
-  Option Option1, Option2;
-  CheckBox AutoCheck;
-  Option Option3, Option4;
-  Button Command1;
+  TextField EstimatorNumber{*this, "EstimatorNumber"};
+  TextField EstimatorName{*this, "EstimatorName"};
+  TextField CompanyName{*this, "CompanyName"};
+  TextField Telephone{*this, "Telephone"};
+  TextField DataPath{*this, "DataPath"};
+  Swatch Line1{*this, "Line1"};  // the sample line
+  ScrollBar HScroll1{*this, "HScroll1", 2, 6, 3};
+  Option Option1{*this, "Option1", "On Site Takeoff", 1};
+  Option Option2{*this, "Option2", "Online Plans", 1};
+  CheckBox AutoCheck{*this, "AutoCheck", "AutoUpdate Reports"};
+  Option Option3{*this, "Option3", "U.S. Scale", 2};
+  Option Option4{*this, "Option4", "Metric Scale", 2};
+  Button Command1{*this, "Command1", "Exit Settings"};
   std::vector<std::unique_ptr<Swatch>> swatches;
 
  private:
-  QString SettingsPath(bool forWriting) const;
-  void TakeLine6(QString code);
+  void BindChain();
+  void BindDataPath();
+  void BindChoices();
+  void MakeSwatches();
+  SettingsRecord RecordOfFields() const;
+  void TakeRecord(const SettingsRecord& record);
   void NormaliseEstimatorNumber();
   void RepairDataPath();
-  void MakeSwatches();
+  void EnterDataPath();
   void PaintSampleLine(const QString& code);
 
   const Kit kit_;
-  ModeShell& shell_;
+  FrontWindows& windows_;
   bool wholeQuantities_ = false;
   QString lineColor_ = QStringLiteral("255000000");
 };

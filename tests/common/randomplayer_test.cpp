@@ -80,6 +80,7 @@ TEST(RamDisk, HoldsWhatWasWrittenAndSaysWhatWasTouched) {
   EXPECT_EQ(lines, QStringList{QStringLiteral("two")});
   EXPECT_EQ(disk.Names(QStringLiteral("/h")),
             (QStringList{QStringLiteral("B.txt"), QStringLiteral("a.txt")}));
+  EXPECT_TRUE(disk.IsFolder(QStringLiteral("/h/")));
   EXPECT_EQ(files.ReadLines(QStringLiteral("/h/c.txt"), lines), 53);
   EXPECT_EQ(files.ReadLines(QStringLiteral("/x/c.txt"), lines), 76);
   EXPECT_EQ(files.Remove(QStringLiteral("/h/a.txt")), 0);

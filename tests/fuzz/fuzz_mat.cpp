@@ -5,7 +5,7 @@
 #include <cstdlib>
 
 #include "common/textlines.h"
-#include "pricing/prompts.h"
+#include "pricing/directions.h"
 #include "records/materialfile.h"
 
 namespace {
@@ -23,23 +23,25 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const MaterialFile file = ReadMaterialFile(text);
   Must(file.reached >= 0 && file.reached <= 9);
   const MaterialBlock& block = file.block;
-  const MaterialFile again =
-      ReadMaterialFile(MaterialFileText(block, {block.upoTag}, {block.mnhrTag}));
+  const MaterialFile again = ReadMaterialFile(MaterialFileText(block));
   Must(again.reached == 9 && again.block.Rows() == block.Rows());
 
-  const pricing::PromptNames names = {block.wageRate, block.orderUnits, block.material,
-                                      block.material};
-  pricing::Prompts prompts;
+  const PromptNames names = {block.wageRate, block.orderUnits, block.material, block.material};
+  Prompts prompts;
   prompts.AfterUnits(names);
   prompts.AfterFileRatioTag(names, block.upoTag);
   prompts.AfterFileLaborTag(names, block.mnhrTag);
   prompts.SetUpoUpm(names, block.upoTag, block.mnhrTag);
   prompts.AtPrice(names);
-  Must(IsRatioTag(pricing::PresentRatioTag(prompts, names)));
-  Must(IsLaborTag(pricing::PresentLaborTag(prompts, names)));
-  Must(IsRatioTag(pricing::RatioTagOfNewBlock(prompts, names)));
-  Must(IsLaborTag(pricing::LaborTagOfBlock(prompts)));
-  Must(pricing::RatioTagLines(prompts, names).size() <= 2);
-  Must(pricing::LaborTagLines(prompts, names).size() <= 2);
+  // Whatever stands in the file, one direction of each pair is stored, and it can be turned.
+  Directions directions;
+  for (const std::optional<QString>& standing : {std::optional<QString>(), {block.upoTag}}) {
+    Must(IsRatioTag(directions.RatioToStore(prompts, names, standing)));
+    Must(IsLaborTag(directions.LaborToStore(prompts, names, standing)));
+  }
+  directions.TakeBlock(block);
+  directions.TurnRatio(prompts, names, block.upoTag);
+  directions.TurnLabor(prompts, names, block.mnhrTag);
+  Must(IsRatioTag(directions.Ratio()) && IsLaborTag(directions.Labor()));
   return 0;
 }

@@ -22,9 +22,9 @@ void Must(bool holds) {
 
 void CheckPrice(const tamo::SystemFile& system) {
   try {
-    const auto price = tamo::pricing::EstimateUnitPrice(system.blocks, {});
+    const auto price = tamo::EstimateUnitPrice(system.blocks, {});
     Must(!price.text.contains(QLatin1String("inf")) && !price.text.contains(QLatin1String("nan")));
-    tamo::pricing::MakeMoney(system.unitPrice);
+    tamo::PriceFormat::MakeMoney(system.unitPrice);
   } catch (const tamo::RunTimeFailure& failure) {
     Must(failure.number == tamo::kOverflow);
   }
@@ -43,17 +43,16 @@ void CheckStored(const tamo::SystemFile& system) {
 
 void CheckImport(const QString& text) {
   using namespace tamo;
-  const pricing::ImportedSystem imported = pricing::CheckedExport(text, QStringLiteral("it.sys"));
+  const ImportedSystem imported = CheckedExport(text, QStringLiteral("it.sys"));
   if (!imported.refusal.isEmpty()) return;
   Must(NameRefusal(imported.system.description).isEmpty());
   Must(imported.system.blocks.size() % kBlockRows == 0);
   for (const QString& name : MaterialNames(imported.system.blocks))
     Must(NameRefusal(name).isEmpty());
-  const auto again =
-      pricing::CheckedExport(pricing::ExportedText(imported.system), QStringLiteral("it.sys"));
+  const auto again = CheckedExport(ExportedText(imported.system), QStringLiteral("it.sys"));
   Must(again.refusal.isEmpty());
   Must(again.system.blocks == StoredBlocks(imported.system.blocks));
-  pricing::PrintedSystem(imported.system);
+  PrintedSystem(imported.system);
 }
 
 }  // namespace
@@ -63,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   const QString text =
       DecodedText(QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
   const SystemFile system = ReadSystemFile(text);
-  const QString colour = pricing::ShownColour(system.lineColor);
+  const QString colour = ShownColour(system.lineColor);
   Must(colour.isEmpty() || colour.size() == 9);
   CheckPrice(system);
   CheckStored(system);

@@ -54,7 +54,8 @@ TEST_F(OstForm, TheBarStandsInOrder) {
                                 "LinesColor Line &Color", "LastPage &Last Page",
                                 "NextPage &Next Page",    "Save &Save",
                                 "Printit &Print",         "Documentation D&ocumentation",
-                                "Settings1 &Settings",    "Exit E&xit"};
+                                "Settings1 &Settings",    "Exit E&xit",
+                                "ScheduleMenu Sche&d."};
   EXPECT_EQ(bar.filter(QRegularExpression("^(?!Spacer)")), expected);
   for (const char* spacer : {"Spacer1", "Spacer2", "Spacer3"}) {
     ASSERT_NE(ost.FindMenu(spacer), nullptr);

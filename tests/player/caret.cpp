@@ -57,6 +57,22 @@ QString Unshown(const QString& text) {
   return meant;
 }
 
+QString Printed(const QString& shown) {
+  QString printed;
+  printed.reserve(shown.size());
+  for (qsizetype i = 0; i < shown.size(); ++i) {
+    const bool sign = shown[i] == kCaret && i + 1 < shown.size();
+    if (sign && shown[i + 1] == QLatin1Char('I')) {
+      printed += QLatin1Char('\t');
+      ++i;
+    } else {
+      printed += shown[i];
+      if (sign) printed += shown[++i];
+    }
+  }
+  return printed;
+}
+
 QString Respelled(const QString& written) {
   return written == QLatin1String(kNoLineEnd) ? written : Shown(Unshown(written));
 }

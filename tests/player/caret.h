@@ -16,6 +16,9 @@ QString Unshown(const QString& text);  // the text meant; a caret that means not
 // The one spelling of what a scenario wrote, so that ^I and a real tab compare equal.
 QString Respelled(const QString& written);
 
+// The same for standard output, where a tab is a tab: what is printed pastes into a table.
+QString Printed(const QString& shown);
+
 // A text as its lines, with carets. CR LF ends a line and begins no other; the text "" has none.
 QStringList ShownLines(const QString& text);
 // The lines of a file: as above, and a last line without an end is followed by the line ^$.

@@ -189,4 +189,9 @@ void FormsStage::PlanPage(int page) {
   GetDesk().Dispatch([&] { played_->Viewer().TurnPage(page); });
 }
 
+void FormsStage::PlanBox(PagePoint from, PagePoint to) {
+  GoToPlan();
+  GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
+}
+
 }  // namespace tamo::player

@@ -35,6 +35,7 @@ class FormsStage : public Stage {
   void PlanKey(const PlanStroke& stroke) override;
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;
+  void PlanBox(PagePoint from, PagePoint to) override;
 
   bool SavePicture(Form&, const QString&) override { return false; }
 

@@ -31,7 +31,7 @@ namespace {
 constexpr unsigned kLongestStep = 120;  // seconds
 
 constexpr char kUsage[] =
-    "tamo_scenario --program DIR --home DIR [--windows] [--clock YYYY-MM-DD] FILE...";
+    "tamo_scenario --program DIR --home DIR [--windows] [--tell] [--clock YYYY-MM-DD] FILE...";
 
 #ifdef TAMO_PLAYER_WINDOWS
 constexpr bool kHasWindows = true;
@@ -79,6 +79,13 @@ struct LastStep {
   }
 };
 
+// In one call and unbuffered, so that it is out even if the program is killed in the step.
+void Tell(const Step& step) {
+  const QByteArray line = "step " + QByteArray::number(step.line) + '\n';
+  [[maybe_unused]] const ssize_t wrote =
+      ::write(STDOUT_FILENO, line.constData(), static_cast<size_t>(line.size()));
+}
+
 // Each scenario in a process of its own: nothing of one is left for the next, and one that brings
 // the program down, or never comes back from a step, does not hide those behind it.
 Outcome PlayApart(const Options& options, const QString& name) {
@@ -89,10 +96,12 @@ Outcome PlayApart(const Options& options, const QString& name) {
   std::fflush(nullptr);
   const pid_t child = ::fork();
   if (child == 0) {
-    const auto outcome = static_cast<int>(PlayFile(options, name, [last](const Step& step) {
-      last->Set(step);
-      ::alarm(kLongestStep);
-    }));
+    const auto outcome =
+        static_cast<int>(PlayFile(options, name, [&options, last](const Step& step) {
+          last->Set(step);
+          if (options.tell) Tell(step);
+          ::alarm(kLongestStep);
+        }));
     std::fflush(nullptr);
     ::_exit(outcome);
   }

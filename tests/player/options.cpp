@@ -31,6 +31,8 @@ QString ReadOptions(const QStringList& arguments, Options& options) {
     const QString& argument = arguments[at];
     if (argument == QStringLiteral("--windows")) {
       options.windows = true;
+    } else if (argument == QStringLiteral("--tell")) {
+      options.tell = true;
     } else if (valued.contains(argument)) {
       if (at + 1 == arguments.size()) return argument + QStringLiteral(" wants a value");
       const QString wrong = ReadValue(argument, arguments[++at], options);

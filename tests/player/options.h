@@ -6,7 +6,7 @@
 
 namespace tamo::player {
 
-// The command line: --program DIR --home DIR [--windows] [--clock YYYY-MM-DD] FILE...
+// The command line: --program DIR --home DIR [--windows] [--tell] [--clock YYYY-MM-DD] FILE...
 struct Options {
   QString program;
   QString home;
@@ -14,6 +14,7 @@ struct Options {
   // it. In the place of --program and --home, for tests that begin at nothing.
   QString fresh;
   bool windows = false;
+  bool tell = false;  // each step says its line on standard output before it is played
   QDate clock = QDate(2021, 12, 14);
   QStringList files;
 };

@@ -81,7 +81,7 @@ struct PlanVerb {
 constexpr PlanVerb kPlanVerbs[] = {
     {"mode", Act::PlanMode, 0},   {"line", Act::PlanLine, 4}, {"circle", Act::PlanCircle, 2},
     {"press", Act::PlanPress, 2}, {"key", Act::PlanKey, -1},  {"scroll", Act::PlanScroll, 2},
-    {"page", Act::PlanPage, 0},
+    {"page", Act::PlanPage, 0},   {"box", Act::PlanBox, 4},
 };
 
 constexpr char kBlockStart[] = " <<END";

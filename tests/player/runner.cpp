@@ -174,7 +174,7 @@ void Runner::CopyIn(const Step& step) {
 void Runner::Print(const Step& step) {
   const QString what = machine_.Expanded(step.text);
   if (what.startsWith(QStringLiteral("picture "))) return Picture(step, what.mid(8).trimmed());
-  for (const QString& line : SeatOf(step).Look(what)) out_ << line << '\n';
+  for (const QString& line : SeatOf(step).Look(what)) out_ << Printed(line) << '\n';
   out_.flush();
 }
 

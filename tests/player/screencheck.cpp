@@ -135,7 +135,7 @@ QString CheckControl(const Control& control, QWidget& widget, QWidget& window) {
   return {};
 }
 
-QString CheckMenus(WindowKeeper& keeper, const Form& form) {
+QString CheckMenus(test::WindowProbe& keeper, const Form& form) {
   for (const MenuEntry* entry : form.Menus()) {
     const QAction* action = keeper.ActionOf(*entry);
     if (action == nullptr || entry->IsPopup()) continue;
@@ -151,7 +151,7 @@ QString CheckMenus(WindowKeeper& keeper, const Form& form) {
   return {};
 }
 
-QString CheckForm(WindowKeeper& keeper, const Form& form) {
+QString CheckForm(test::WindowProbe& keeper, const Form& form) {
   QWidget* window = keeper.WindowOf(form);
   if (window == nullptr)
     return form.Visible() ? QStringLiteral("%1 has no window").arg(form.Name()) : QString();
@@ -167,14 +167,14 @@ QString CheckForm(WindowKeeper& keeper, const Form& form) {
   return wrong.isEmpty() ? CheckMenus(keeper, form) : wrong;
 }
 
-QString CheckNotice(WindowKeeper& keeper, const Form& form, const QString& notice) {
+QString CheckNotice(test::WindowProbe& keeper, const Form& form, const QString& notice) {
   const QWidget* strip = keeper.NoticeOf(form);
   if (strip == nullptr) return {};
   const QString shown = strip->isVisible() ? strip->accessibleName() : QString();
   return Differs(form.Name(), "its notice of what is not saved", notice, shown);
 }
 
-QString CheckFocus(WindowKeeper& keeper, Desk& desk) {
+QString CheckFocus(test::WindowProbe& keeper, Desk& desk) {
   const Form* active = desk.Active();
   if (active == nullptr || QApplication::activePopupWidget() != nullptr) return {};
   const QWidget* window = keeper.WindowOf(*active);
@@ -191,7 +191,7 @@ QString CheckFocus(WindowKeeper& keeper, Desk& desk) {
 
 }  // namespace
 
-QString FirstDifference(WindowKeeper& keeper, Desk& desk, const QString& notice, bool front) {
+QString FirstDifference(test::WindowProbe& keeper, Desk& desk, const QString& notice, bool front) {
   for (const Form* form : desk.Forms()) {
     if (form->Controls().empty() && form->Menus().empty() && !form->Visible()) continue;
     QString wrong = CheckForm(keeper, *form);

@@ -118,6 +118,7 @@ void Seat::Do(const Step& step) {
     case Act::PlanKey:
     case Act::PlanScroll:
     case Act::PlanPage:
+    case Act::PlanBox:
       return DoOnPlan(step);
     default:
       return DoToControl(step);
@@ -211,6 +212,8 @@ void Seat::DoOnPlan(const Step& step) {
       return stage_->PlanKey(step.stroke);
     case Act::PlanScroll:
       return stage_->PlanScroll(step.points[0], step.points[1]);
+    case Act::PlanBox:
+      return stage_->PlanBox(point(0), point(2));
     default:
       return stage_->PlanPage(step.row);
   }

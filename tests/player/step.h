@@ -39,6 +39,7 @@ enum class Act {
   PlanKey,
   PlanScroll,
   PlanPage,
+  PlanBox,
   Write,
   Copy,
   Remove,

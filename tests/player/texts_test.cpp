@@ -19,6 +19,10 @@ TEST(Caret, WhatIsShownReadsBack) {
   }
 }
 
+TEST(Caret, ATabIsPrintedAsATab) {
+  EXPECT_EQ(Printed(QStringLiteral("101^ILOBBY^^I^A^")), QStringLiteral("101\tLOBBY^^I^A^"));
+}
+
 TEST(Caret, ATabAndItsSignAreTheSame) {
   EXPECT_EQ(Respelled(QStringLiteral("a\tb")), QStringLiteral("a^Ib"));
   EXPECT_EQ(Respelled(QStringLiteral("a^Ib")), QStringLiteral("a^Ib"));

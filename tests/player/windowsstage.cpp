@@ -19,7 +19,7 @@
 #include "player/widgets.h"
 #include "windows/look.h"
 #include "windows/plancanvas.h"
-#include "windows/windowkeeper.h"
+#include "windows/windowprobe.h"
 
 namespace tamo::player {
 namespace {
@@ -92,6 +92,7 @@ class WindowsStage : public Stage {
   void PlanKey(const PlanStroke& stroke) override;
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;
+  void PlanBox(PagePoint from, PagePoint to) override;
 
   QString Difference(bool front) override;
   bool SavePicture(Form& form, const QString& path) override;
@@ -113,13 +114,13 @@ class WindowsStage : public Stage {
 
   std::shared_ptr<Screen> screen_ = Screen::Shared();
   ProgramPlayed* played_ = nullptr;
-  std::unique_ptr<WindowKeeper> keeper_;
+  std::unique_ptr<test::WindowProbe> keeper_;
 };
 
 void WindowsStage::Raise(Played& played) {
   played_ = dynamic_cast<ProgramPlayed*>(&played);
   if (played_ == nullptr) Fail(QStringLiteral("this program has no windows"));
-  keeper_ = std::make_unique<WindowKeeper>(played_->GetProgram(), played_->Pictures());
+  keeper_ = std::make_unique<test::WindowProbe>(played_->GetProgram(), played_->Pictures());
 }
 
 void WindowsStage::Strike() {
@@ -412,6 +413,12 @@ void WindowsStage::PlanScroll(double dx, double dy) {
 void WindowsStage::PlanPage(int page) {
   Plan();
   GetDesk().Dispatch([&] { played_->Viewer().TurnPage(page); });
+}
+
+// A box may reach beyond what the window shows of the sheet.
+void WindowsStage::PlanBox(PagePoint from, PagePoint to) {
+  Plan();
+  GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
 }
 
 // On a platform without a screen a menu that closes leaves no window active; a window system gives

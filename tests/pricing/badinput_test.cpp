@@ -188,7 +188,7 @@ TEST(CutFiles, AMaterialFileCutShortLeavesTheRestToBeTyped) {
   PricingRoom room;
   room.Write("Systems/Board.mat", {"Board", "SHT", "13.40"});
   room.Write("Materials.tamo", {"Board"});
-  room.form.LoadMaterials();
+  room.form.vocabulary.LoadMaterials();
   room.NewSystem("Wall");
   room.Enter("Board");
   EXPECT_EQ(room.form.Price.Text(), "13.40");

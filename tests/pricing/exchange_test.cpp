@@ -6,7 +6,7 @@
 
 #include "pricing/pricingroom.h"
 
-namespace tamo::pricing {
+namespace tamo {
 namespace {
 
 using test::Drywall;
@@ -144,4 +144,4 @@ TEST(Print, MaterialsFollowWhenThePriceIsZero) {
 }
 
 }  // namespace
-}  // namespace tamo::pricing
+}  // namespace tamo

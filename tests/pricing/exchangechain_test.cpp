@@ -174,7 +174,7 @@ TEST(ImportChain, WritesTheMasterAndTheProjectsCopyAndTheMaterials) {
   room.OpenProject("00-2112001");
   room.Write("Systems/Drywall.mat", {"Drywall", "old"});
   room.Open();
-  ImportFrom(room, pricing::ExportedText(Wall()).toUtf8());
+  ImportFrom(room, ExportedText(Wall()).toUtf8());
   EXPECT_FALSE(room.form.IEFrame.Shown());
   EXPECT_EQ(room.form.Description.Text(), "Wall");
   EXPECT_EQ(room.form.Line1.Colour(), "000000175");
@@ -223,7 +223,7 @@ TEST(ImportChain, AFixedPriceHidesLaborAndMaterial) {
   caulk.unitPrice = "4.15";
   caulk.lineColor = "NoColor";
   room.NewSystem("Other");
-  ImportFrom(room, pricing::ExportedText(caulk).toUtf8());
+  ImportFrom(room, ExportedText(caulk).toUtf8());
   EXPECT_FALSE(room.form.LandMFrame.Shown());
   EXPECT_FALSE(room.form.EUP.Shown());
   EXPECT_EQ(room.form.Line1.Colour(), "");
@@ -237,10 +237,10 @@ TEST(ImportChain, WhatCantBeTakenLeavesEverythingAsItWas) {
   leaving.description = "../../outside";
   SystemFile material = Wall();
   material.blocks[12] = "..\\outside";
-  QByteArray half = pricing::ExportedText(Wall()).toUtf8();
+  QByteArray half = ExportedText(Wall()).toUtf8();
   half.chop(40);
-  for (const QByteArray& bytes : {garbage, pricing::ExportedText(leaving).toUtf8(),
-                                  pricing::ExportedText(material).toUtf8(), half, QByteArray()}) {
+  for (const QByteArray& bytes : {garbage, ExportedText(leaving).toUtf8(),
+                                  ExportedText(material).toUtf8(), half, QByteArray()}) {
     PricingRoom room;
     room.Library("Caulk", "LF", "4.15");
     room.Open();
@@ -261,7 +261,7 @@ TEST(ImportChain, AZeroRatioIsToldAfterEverythingIsWritten) {
   SystemFile wall = Wall();
   wall.blocks[3] = "0";
   room.Open();
-  ImportFrom(room, pricing::ExportedText(wall).toUtf8());
+  ImportFrom(room, ExportedText(wall).toUtf8());
   EXPECT_EQ(room.messages.texts.size(), 1);
   EXPECT_TRUE(room.Exists("Systems/Wall.sys"));
   EXPECT_TRUE(room.Exists("Systems/Compound.mat"));

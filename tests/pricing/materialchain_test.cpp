@@ -135,7 +135,7 @@ TEST(MaterialChain, TheLibraryFlagEndsWithItsMaterial) {
 TEST(MaterialChain, ANameWithoutAMaterialFileLoadsNothing) {
   PricingRoom room;
   room.Write("Materials.tamo", {"Ghost"});
-  room.form.LoadMaterials();
+  room.form.vocabulary.LoadMaterials();
   room.NewSystem("Wall");
   room.Enter("ghost");
   EXPECT_EQ(room.form.OrderUnits.Text(), "");
@@ -149,7 +149,7 @@ TEST(MaterialChain, AMaterialOfTheLibraryKeepsItsDirections) {
   PricingRoom room;
   room.Write("Systems/Stud.mat", Stud().mid(0, 9));
   room.Write("Materials.tamo", {"Stud"});
-  room.form.LoadMaterials();
+  room.form.vocabulary.LoadMaterials();
   room.NewSystem("Wall");
   room.Enter("Stud");
   EXPECT_EQ(room.form.LabelUPO.Caption(), "LF(s) per SF:");
@@ -263,7 +263,7 @@ TEST(MaterialInsert, ALibraryMaterialKeepsItsDirectionThereToo) {
   PricingRoom room;
   room.Write("Systems/Stud.mat", Stud().mid(0, 9));
   room.Write("Materials.tamo", {"Stud"});
-  room.form.LoadMaterials();
+  room.form.vocabulary.LoadMaterials();
   room.Library("Wall", "SF", "0.00", Drywall() + Compound());
   room.Open();
   room.Enter("Wall");
@@ -385,7 +385,7 @@ TEST(OrderUnits, EmptyItCantBeLeftByEnter) {
 TEST(OrderUnits, HoverNamesTheMaterialAndAChosenRowComesBack) {
   PricingRoom room;
   room.Write("oUnits.tamo", {"GL", "SHT"});
-  room.form.LoadOrderUnits();
+  room.form.vocabulary.LoadOrderUnits();
   room.NewSystem("Wall");
   room.Enter("Paint");
   EXPECT_EQ(room.form.OrderUnits.Hover(), "Order units used when ordering Paint.");
@@ -401,7 +401,7 @@ TEST(MaterialsList, AChosenRowOfTheLibraryFillsANewMaterial) {
   PricingRoom room;
   room.Write("Systems/Stud.mat", Stud().mid(0, 9));
   room.Write("Materials.tamo", {"Tape", "Stud"});
-  room.form.LoadMaterials();
+  room.form.vocabulary.LoadMaterials();
   room.NewSystem("Wall");
   room.Click(room.form.Material);
   EXPECT_TRUE(room.form.MaterialsList.Shown());
@@ -416,7 +416,7 @@ TEST(MaterialsList, AMaterialBeforeTheLastIsOnlyRenamed) {
   PricingRoom room;
   room.Write("Systems/Stud.mat", Stud().mid(0, 9));
   room.Write("Materials.tamo", {"Stud"});
-  room.form.LoadMaterials();
+  room.form.vocabulary.LoadMaterials();
   room.Library("Wall", "SF", "0.00", Drywall() + Compound());
   room.Open();
   room.Enter("Wall");

@@ -84,7 +84,7 @@ void PricingRoom::Library(const QString& name, const QString& units, const QStri
   system.blocks = blocks;
   files.SaveText(MasterSystemPath(shared, name), SystemFileText(system));
   form.DescriptionsList.Add(name);
-  form.SaveDescriptions();
+  form.vocabulary.SaveDescriptions();
 }
 
 QStringList Block(const QString& name, const QString& orderUnits, const QString& price,

@@ -4,7 +4,7 @@
 
 // The wording around the two conversion numbers, and the directions read off it.
 
-namespace tamo::pricing {
+namespace tamo {
 namespace {
 
 // D "Wall", M "Board" everywhere.
@@ -290,80 +290,6 @@ TEST(TurnLabor, Table) {
   }
 }
 
-struct TagCase {
-  const char* units;
-  const char* orderUnits;
-  const char* label;
-  const char* newBlock;
-  const char* block;  // with "was" standing
-  const char* file;   // lines joined by a comma
-};
-
-TEST(RatioTags, Table) {
-  const TagCase cases[] = {
-      {"SF", "SHT", "How many SF per SHT", "upo", "upo", "upo"},
-      {"SF", "SHT", "How many SHT(s) per SF", "upo", "opu", "upo"},
-      {"SF", "SHT", "SF per SHT:", "upo", "was", "upo"},
-      {"SF", "SHT", "SHT(s) per SF:", "opu", "was", "opu"},
-      {"SF", "SHT", "SHT(s) per SF", "opu", "opu", "opu"},
-      {"SF", "EA", "How many per SF:", "upo", "was", "upo"},
-      {"SF", "SHT", "How many", "opu", "was", "upo"},  // eight characters are not longer than eight
-      {"SF", "SHT", "something", "opu", "was", ""},    // the line is lost
-      {"S", "SHT", "SHT(s) per S", "upo", "opu", "upo,opu"},  // the line is doubled
-      {"LFT", "FT", "FT(s) per LFT", "opu", "upo", "opu"},    // ends in both: the first wins
-  };
-  for (const TagCase& c : cases) {
-    Prompts prompts;
-    prompts.labelUPO = c.label;
-    const PromptNames names = With(c.units, c.orderUnits);
-    EXPECT_TEXT(RatioTagOfNewBlock(prompts, names), c.newBlock) << c.label;
-    EXPECT_TEXT(RatioTagOfBlock(prompts, names, "was"), c.block) << c.label;
-    EXPECT_TEXT(RatioTagLines(prompts, names).join(','), c.file) << c.label;
-  }
-}
-
-TEST(LaborTags, Table) {
-  struct Case {
-    const char *units, *label, *newBlock, *block, *file;
-  };
-  const Case cases[] = {
-      {"SF", "SF per Manhour:", "upm", "upm", "upm"},
-      {"EA", "How many per Manhour:", "upm", "upm", "upm"},
-      {"SF", "Manhours per SF:", "mpu", "mpu", "mpu"},
-      {"SF", "Manhours per SF of Wall:", "mpu", "mpu", "mpu"},
-      {"SF", "How many per manhour", "", "mpu", "upm"},
-      {"SF", "something", "", "mpu", ""},                 // the line is lost
-      {"M", "Manhours per M:", "mpu", "mpu", "mpu,upm"},  // the line is doubled
-  };
-  for (const Case& c : cases) {
-    Prompts prompts;
-    prompts.labelMnhr = c.label;
-    EXPECT_TEXT(LaborTagOfNewBlock(prompts), c.newBlock) << c.label;
-    EXPECT_TEXT(LaborTagOfBlock(prompts), c.block) << c.label;
-    EXPECT_TEXT(LaborTagLines(prompts, With(c.units, "SHT")).join(','), c.file) << c.label;
-  }
-}
-
-TEST(PresentTags, AToggleAlwaysHasADirectionToTurnFrom) {
-  const auto ratio = [](const char* label) {
-    Prompts prompts;
-    prompts.labelUPO = label;
-    return PresentRatioTag(prompts, With("SF", "EA"));
-  };
-  EXPECT_TEXT(ratio("How many SF per EA"), "upo");
-  EXPECT_TEXT(ratio("EA(s) per SF"), "opu");
-  EXPECT_TEXT(ratio("How many per SF:"), "upo");  // as a finished material would be stored
-  const auto labor = [](const char* label) {
-    Prompts prompts;
-    prompts.labelMnhr = label;
-    return PresentLaborTag(prompts, With("SF", "EA"));
-  };
-  EXPECT_TEXT(labor("SF per Manhour:"), "upm");
-  EXPECT_TEXT(labor("How many per Manhour:"), "upm");
-  EXPECT_TEXT(labor("Manhours per SF:"), "mpu");
-  EXPECT_TEXT(labor("LF per Manhour:"), "upm");
-}
-
 TEST(ReservedTerm, FiresWhateverTheCase) {
   EXPECT_TEXT(ReservedTerm(With("sf", "SF")),
               "The term \"SF\" Can't be used.\r\n\r\nSF is being used as the unit for Wall");
@@ -372,4 +298,4 @@ TEST(ReservedTerm, FiresWhateverTheCase) {
 }
 
 }  // namespace
-}  // namespace tamo::pricing
+}  // namespace tamo

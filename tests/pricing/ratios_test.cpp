@@ -85,7 +85,7 @@ TEST(Upo, ACountedOrderUnitAsksHowMany) {
   ToUpo(room, "SF", "EA");
   EXPECT_EQ(room.form.LabelUPO.Caption(), "How many per SF:");
   room.EnterAll({"24", "60", "0", "40"});
-  EXPECT_EQ(room.form.System.Row(4), "upo");
+  EXPECT_EQ(room.form.System.Row(4), "opu");
 }
 
 TEST(Upo, ItCanBeLeftWithAZero) {
@@ -173,7 +173,7 @@ TEST(LoadedPrompts, ATagOfTheLibraryWinsOverTheEndOfThePrompt) {
   PricingRoom room;
   room.Write("Systems/Stud.mat", Stud().mid(0, 9));
   room.Write("Materials.tamo", {"Stud"});
-  room.form.LoadMaterials();
+  room.form.vocabulary.LoadMaterials();
   room.NewSystem("Wall");
   room.Enter("Stud");
   room.Press(Key::Name::Enter);
@@ -192,7 +192,7 @@ TEST(LoadedPrompts, AMaterialFileWithALostTagLineLoadsShiftedByTheLetter) {
   lines.removeAt(4);
   room.Write("Systems/Board.mat", lines);
   room.Write("Materials.tamo", {"Board"});
-  room.form.LoadMaterials();
+  room.form.vocabulary.LoadMaterials();
   room.NewSystem("Wall");
   room.Enter("Board");
   EXPECT_EQ(room.form.UPO.Text(), "16");

@@ -13,9 +13,9 @@ TEST(Lists, AnEmptyListOfNamesIsNotWrittenAnEmptyListOfMaterialsIs) {
   PricingRoom room;
   room.Write("Descriptions.tamo", {"Wall"});
   room.Write("Materials.tamo", {"Stud"});
-  room.form.SaveDescriptions();
-  room.form.SaveMaterials();
-  room.form.SaveUnits();
+  room.form.vocabulary.SaveDescriptions();
+  room.form.vocabulary.SaveMaterials();
+  room.form.vocabulary.SaveUnits();
   EXPECT_EQ(room.Lines("Descriptions.tamo"), QStringList{"Wall"});
   EXPECT_TRUE(room.Exists("Materials.tamo"));
   EXPECT_EQ(room.Bytes("Materials.tamo"), "");

@@ -2,6 +2,7 @@
 
 #include "common/failure.h"
 #include "pricing/exchange.h"
+#include "pricing/palette.h"
 #include "pricing/pricingroom.h"
 
 // The chain of a system, from its name to its colour.
@@ -165,7 +166,7 @@ TEST(SystemChain, AnEmptyNameLeavesTheForm) {
 TEST(SystemChain, UnitsThatAreTypedAreNotAddedToTheList) {
   PricingRoom room;
   room.Write("Units.tamo", {"SF", "LF"});
-  room.form.LoadUnits();
+  room.form.vocabulary.LoadUnits();
   room.Open();
   room.Enter("Wall");
   EXPECT_TRUE(room.form.UnitsList.Shown());
@@ -178,7 +179,7 @@ TEST(SystemChain, UnitsThatAreTypedAreNotAddedToTheList) {
 TEST(SystemChain, AChosenUnitLeadsToThePrice) {
   PricingRoom room;
   room.Write("Units.tamo", {"SF", "LF"});
-  room.form.LoadUnits();
+  room.form.vocabulary.LoadUnits();
   room.Open();
   room.Enter("Wall");
   room.Row(room.form.UnitsList, 1);
@@ -214,11 +215,11 @@ TEST(SystemChain, ARowOfTheNamesOpensItsSystem) {
   EXPECT_EQ(room.form.Material.Text(), "Stud");
   room.Click(room.form.Description);
   room.Row(room.form.DescriptionsList, 0);
-  EXPECT_EQ(room.FocusName(), "UnitPrice");
+  EXPECT_EQ(room.FocusName(), "Units");
   EXPECT_FALSE(room.form.LandMFrame.Shown());
   room.Click(room.form.Description);
   room.Row(room.form.DescriptionsList, 2);
-  EXPECT_EQ(room.FocusName(), "Units");
+  EXPECT_EQ(room.FocusName(), "Material");
 }
 
 TEST(SystemChain, TheProjectCopyComesFirst) {
@@ -264,9 +265,9 @@ TEST(SystemChain, AReportThatFailsStopsNoChain) {
 TEST(SystemChain, ColourCodeAndPreviewAndSwatch) {
   PricingRoom room;
   room.form.Init();
-  for (size_t i = 0; i < pricing::kPalette.size(); ++i) {
-    EXPECT_EQ(room.form.Palette[i]->Colour(), pricing::kPalette[i].painted);
-    EXPECT_EQ(room.form.Palette[i]->Caption(), pricing::kPalette[i].label);
+  for (size_t i = 0; i < kPalette.size(); ++i) {
+    EXPECT_EQ(room.form.Palette[i]->Colour(), kPalette[i].painted);
+    EXPECT_EQ(room.form.Palette[i]->Caption(), kPalette[i].label);
   }
   room.Open();
   room.EnterAll({"Caulk", "LF", "4"});

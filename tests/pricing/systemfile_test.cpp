@@ -59,7 +59,7 @@ TEST(SystemFileTest, ANoteGrowsByOneLineEndWithEachSaveAndLoad) {
 }
 
 TEST(SystemFileTest, WithoutAnEndMarkEverythingIsNotes) {
-  const SystemFile read = ReadSystemFile(pricing::ExportedText(Wall()));
+  const SystemFile read = ReadSystemFile(ExportedText(Wall()));
   EXPECT_TRUE(read.blocks.isEmpty());
   EXPECT_TRUE(read.notes.startsWith("\r\n\r\n\r\nStud\r\nLF\r\n")) << read.notes.toStdString();
 }
@@ -105,16 +105,17 @@ TEST(SystemFileTest, OlderFilesWithOtherLineEndsAndBytesOpen) {
 
 TEST(MaterialFileTest, IsTheFirstNineRowsOfABlock) {
   const MaterialBlock block = MaterialBlock::At(Stud(), 0);
-  const QString text = MaterialFileText(block, {"opu"}, {"upm"});
+  const QString text = MaterialFileText(block);
   EXPECT_EQ(text, "Stud\r\nLF\r\n0.62\r\n.75\r\nopu\r\n42\r\nupm\r\n5\r\n46.50\r\n");
   const MaterialFile read = ReadMaterialFile(text);
   EXPECT_EQ(read.reached, 9);
   EXPECT_EQ(read.block.Rows(), Stud());
 }
 
-TEST(MaterialFileTest, ALostTagLineShiftsWhatFollows) {
-  const MaterialFile read =
-      ReadMaterialFile(MaterialFileText(MaterialBlock::At(Stud(), 0), {}, {"upm"}));
+TEST(MaterialFileTest, ALostTagLineOfAnOlderFileShiftsWhatFollows) {
+  QStringList lines = Stud().mid(0, 9);
+  lines.removeAt(4);
+  const MaterialFile read = ReadMaterialFile(JoinedLines(lines));
   EXPECT_EQ(read.reached, 8);
   EXPECT_EQ(read.block.upoTag, "42");
   EXPECT_EQ(read.block.mnhrPO, "upm");
@@ -123,9 +124,10 @@ TEST(MaterialFileTest, ALostTagLineShiftsWhatFollows) {
   EXPECT_EQ(read.block.wageRate, "");
 }
 
-TEST(MaterialFileTest, ADoubledTagLineShiftsWhatFollows) {
-  const MaterialFile read =
-      ReadMaterialFile(MaterialFileText(MaterialBlock::At(Stud(), 0), {"upo", "opu"}, {"upm"}));
+TEST(MaterialFileTest, ADoubledTagLineOfAnOlderFileShiftsWhatFollows) {
+  QStringList lines = Stud().mid(0, 9);
+  lines.insert(4, "upo");
+  const MaterialFile read = ReadMaterialFile(JoinedLines(lines));
   EXPECT_EQ(read.reached, 9);
   EXPECT_EQ(read.block.upoTag, "upo");
   EXPECT_EQ(read.block.mnhrPO, "opu");

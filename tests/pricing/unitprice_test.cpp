@@ -6,7 +6,7 @@
 #include "pricing/palette.h"
 #include "pricing/pricingroom.h"
 
-namespace tamo::pricing {
+namespace tamo {
 namespace {
 
 using test::Block;
@@ -109,7 +109,7 @@ TEST(EstimateUnitPrice, FiguresBeyondEveryNumberAreAFailureNotAnInfinity) {
                RunTimeFailure);
 }
 
-TEST(MakeMoney, Table) {
+TEST(PriceMoney, Table) {
   const std::pair<const char*, const char*> cases[] = {
       {"1.5", "1.50"},      {"12", "12.00"},
       {"1.999", "1.99"},    {"0.05", ".05"},
@@ -119,11 +119,11 @@ TEST(MakeMoney, Table) {
       {"  7", "7.00"},      {"1,500", "1.00"},
       {"-12.34", "-12.34"}, {"1234567", "1234567.00"},
       {".001", ".00"}};
-  for (const auto& [text, money] : cases) EXPECT_EQ(MakeMoney(text), money) << text;
+  for (const auto& [text, money] : cases) EXPECT_EQ(PriceFormat::MakeMoney(text), money) << text;
 }
 
-TEST(MakeMoney, AValueBeyondEveryNumberIsAFailure) {
-  EXPECT_THROW(MakeMoney(QString(400, '9')), RunTimeFailure);
+TEST(PriceMoney, AValueBeyondEveryNumberIsAFailure) {
+  EXPECT_THROW(PriceFormat::MakeMoney(QString(400, '9')), RunTimeFailure);
 }
 
 TEST(ActualProfit, JoinsTheTextsAndDividesByTheMarkup) {
@@ -157,4 +157,4 @@ TEST(ShownColour, Table) {
 }
 
 }  // namespace
-}  // namespace tamo::pricing
+}  // namespace tamo

@@ -104,8 +104,7 @@ QStringList ReadMaterial(RecordFolder& at, int& error) {
 
 int WriteMaterial(RecordFolder& at, const QStringList& texts) {
   const MaterialBlock block = MaterialBlock::At(texts, 0);
-  return at.files.SaveText(at.data().MaterialFile(kName),
-                           MaterialFileText(block, {block.upoTag}, {block.mnhrTag}));
+  return at.files.SaveText(at.data().MaterialFile(kName), MaterialFileText(block));
 }
 
 QStringList ReadMarkups(RecordFolder& at, int& error) {

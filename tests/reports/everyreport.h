@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "reports/markupsource.h"
+#include "reports/markupfactors.h"
 #include "reports/reportsource.h"
 
 namespace tamo::test {

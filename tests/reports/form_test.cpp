@@ -71,7 +71,7 @@ TEST(Form, TheCopiesGoToTheirLists) {
   EXPECT_TRUE(w.form.Reporter1.Shown());
   EXPECT_TRUE(w.form.Frame1.Shown());
   EXPECT_EQ(w.form.Reporter1.Row(1), S("Office Copy"));
-  EXPECT_EQ(w.bench.markups.loads, 1);
+  EXPECT_EQ(w.bench.pricing.MarkupTexts().MOH, w.project.MarkupsOfFile().MOH);
   w.form.Flag = S("False");
   w.bench.Run(&ReportsForm::AreaRoomWP);
   EXPECT_EQ(w.form.Reporter.Row(1), S("Field Copy"));
@@ -116,14 +116,14 @@ TEST(BottomLineField, TheSumIsMadeOnlyBehindAnAdjustment) {
   Wall w;
   w.project.Items({S("Bond                   1000.50")});
   w.bench.Run(&ReportsForm::BreakDown);
-  EXPECT_EQ(w.bench.bottomLine.text, S("0"));
+  EXPECT_EQ(w.bench.pricing.TotalBL, S("0"));
   w.project.Adjust(S("1"));
   w.bench.Run(&ReportsForm::BreakDown);
-  EXPECT_EQ(w.bench.bottomLine.text, S("1000.5"));
+  EXPECT_EQ(w.bench.pricing.TotalBL, S("1000.5"));
   w.project.Items({S("Bond                      2.00")});
   w.project.Adjust(S("0"));
   w.bench.Run(&ReportsForm::BreakDown);
-  EXPECT_EQ(w.bench.bottomLine.text, S("1000.5"));
+  EXPECT_EQ(w.bench.pricing.TotalBL, S("1000.5"));
 }
 
 TEST(Print, AnEmptyOrHiddenReportPrintsNothing) {
@@ -231,12 +231,12 @@ TEST(Exit, ShowsOrHidesTheMainFormAndEmptiesTheLists) {
   w.form.Show();
   w.bench.Run(&ReportsForm::Quantities);
   w.bench.Run(&ReportsForm::ExitReports);
-  EXPECT_EQ(w.bench.shell.asked, QStringList{S("show main")});
+  EXPECT_EQ(w.bench.windows.asked, QStringList{S("show main")});
   EXPECT_TRUE(w.form.Reporter.Empty());
   EXPECT_FALSE(w.form.Visible());
   w.bench.shared.GUIText = S("2");
   w.bench.Run(&ReportsForm::ExitReports);
-  EXPECT_EQ(w.bench.shell.asked.last(), S("hide main"));
+  EXPECT_EQ(w.bench.windows.asked.last(), S("hide main"));
 }
 
 TEST(Refresh, DoesNothingUnlessAutoCheckIsOnAndTheFormIsVisible) {
@@ -294,7 +294,7 @@ TEST(Refresh, ADetailedRecapStaysDetailed) {
 
 TEST(Refresh, BothCopiesLeaveTheFlagOff) {
   Wall w;
-  w.bench.setting.on = true;
+  w.bench.settings.SetWholeQuantities(true);
   w.bench.shared.AutoCheck = 1;
   w.form.Show();
   w.form.Flag = S("True");
@@ -354,9 +354,10 @@ TEST(Refresh, TheWindowIsNotBroughtToTheFront) {
   Wall w;
   w.bench.shared.AutoCheck = 1;
   w.bench.Run(&ReportsForm::BreakDown);
-  EXPECT_EQ(w.bench.shell.asked, QStringList{S("show reports")});
+  EXPECT_EQ(w.bench.desk.Active(), &w.form);
+  w.bench.plan.Show();
   w.bench.Run(&ReportsForm::Refresh);
-  EXPECT_EQ(w.bench.shell.asked.size(), 1);
+  EXPECT_EQ(w.bench.desk.Active(), &w.bench.plan);
 }
 
 TEST(Notes, StandInTheStripAndLeadToTheirRows) {
@@ -385,7 +386,7 @@ TEST(Notes, TheSwitchReadsWholeQuantitiesAndIsKept) {
   EXPECT_EQ(w.form.Reporter.Row(2),
             S("     Stud                          1  LF        ____________"));
   w.bench.desk.ClickInto(w.form.WholeQuantities);
-  EXPECT_TRUE(w.bench.setting.on);
+  EXPECT_TRUE(w.bench.settings.WholeQuantities());
   EXPECT_EQ(w.form.Reporter.Row(2),
             S("     Stud                        100  LF        ____________"));
   EXPECT_TRUE(w.form.WholeQuantities.Shown());
@@ -395,7 +396,7 @@ TEST(Notes, TheSwitchReadsWholeQuantitiesAndIsKept) {
   w.bench.Run(&ReportsForm::AreaRoomWP);
   EXPECT_TRUE(w.form.WholeQuantities.Shown());
   w.bench.desk.ClickInto(w.form.WholeQuantities);
-  EXPECT_FALSE(w.bench.setting.on);
+  EXPECT_FALSE(w.bench.settings.WholeQuantities());
 }
 
 TEST(Progress, IsToldSheetBySheetAndStopsTheReport) {

@@ -76,12 +76,15 @@ Markups BenchProject::MarkupsOfFile() {
 
 FormBench::FormBench(BenchProject& bench)
     : project(bench),
-      platform{bench.disk, clock, messages, printer, clipboard, {}, {}, {}},
+      platform{bench.disk,     clock,
+               messages,       printer,
+               clipboard,      bench.dataPath + QStringLiteral("program"),
+               bench.dataPath, bench.dataPath + QStringLiteral("config")},
       kit{desk, bench.files, shared, platform},
-      form(kit, {markups, record, shell, bottomLine, setting}) {
-  markups.project = &bench;
-  shell.reports = &form;
+      form(kit, {pricing, record, windows, settings, plan}) {
+  QDir().mkpath(platform.programFolder);
   shared.Separator = PlatformSeparator();
+  shared.zDir = platform.programFolder;
   shared.DataPath = bench.dataPath;
   shared.JobID = FileNameOf(bench.folder.chopped(1));
   shared.JobName = QStringLiteral("Riverside Clinic");

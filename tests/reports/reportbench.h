@@ -73,40 +73,26 @@ class FormBench {
  public:
   explicit FormBench(BenchProject& project);
 
-  struct MarkupDouble : MarkupSource {
-    BenchProject* project = nullptr;
-    Markups texts;
-    int loads = 0;
-    void LoadMarkups() override {
-      ++loads;
-      texts = project->MarkupsOfFile();
-    }
-    Markups Texts() const override { return texts; }
-  };
   struct RecordDouble : ProjectRecord {
     ProjectFacts facts;
     int loads = 0;
     void LoadJobNFO() override { ++loads; }
     ProjectFacts Facts() const override { return facts; }
   };
-  struct ShellDouble : ReportsShell {
-    Form* reports = nullptr;
+  struct WindowsDouble : FrontWindows {
     QStringList asked;
+    void EnterMode(int) override {}
+    void BringUpShell() override {}
     void ShowMainForm() override { asked += QStringLiteral("show main"); }
     void HideMainForm() override { asked += QStringLiteral("hide main"); }
-    void ShowReports() override {
-      asked += QStringLiteral("show reports");
-      reports->Show();
-    }
+    void AskForEstimatorNumber() override {}
   };
-  struct BottomLineDouble : BottomLineFigure {
-    QString text;
-    void SetTotalBL(const QString& total) override { text = total; }
-  };
-  struct SettingDouble : WholeQuantitiesSetting {
-    bool on = false;
-    bool WholeQuantities() const override { return on; }
-    void SetWholeQuantities(bool whole) override { on = whole; }
+  // What the price library asks of the rest: nothing that a report needs.
+  struct PricingDouble : ReportRefresh, SettingsReader, ProjectNumberSeed {
+    void PrintReport() override {}
+    void DisableProjectFileEntry() override {}
+    void LoadSettings() override {}
+    void SeedProjectNumber() override {}
   };
 
   // Runs as a menu entry does: failures come out as messages.
@@ -121,11 +107,12 @@ class FormBench {
   SharedFields shared;
   Platform platform;
   Kit kit;
-  MarkupDouble markups;
   RecordDouble record;
-  ShellDouble shell;
-  BottomLineDouble bottomLine;
-  SettingDouble setting;
+  WindowsDouble windows;
+  PricingDouble beside;
+  PricingForm pricing{kit, beside, beside, beside};
+  SettingsForm settings{kit, windows};
+  Form plan{desk, QStringLiteral("OST")};
   ReportsForm form;
 };
 

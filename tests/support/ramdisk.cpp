@@ -126,10 +126,10 @@ int RamDisk::RemoveFolder(const QString& path) {
 }
 
 bool RamDisk::Exists(const QString& path) {
-  return files_.contains(path) || folders_.contains(path);
+  return files_.contains(path) || IsFolder(path);
 }
 bool RamDisk::IsFolder(const QString& path) {
-  return folders_.contains(path);
+  return folders_.contains(EndsInSeparator(path) ? path.chopped(1) : path);
 }
 bool RamDisk::IsLink(const QString&) {
   return false;

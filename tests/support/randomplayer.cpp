@@ -229,9 +229,9 @@ RandomPlayer::Step RandomPlayer::Next(Game& game) {
 
 RandomPlayer::Step RandomPlayer::NextInField(Game& game) {
   const int dice = Below(20);
-  const bool inField = dynamic_cast<TextField*>(game.GetDesk().Focused()) != nullptr;
-  if (inField && dice < 9)
-    return {Kind::Enter, {}, words_.words[Below(static_cast<int>(words_.words.size()))], 0};
+  const auto* field = dynamic_cast<TextField*>(game.GetDesk().Focused());
+  const bool inField = field != nullptr;
+  if (inField && dice < 9) return {Kind::Enter, {}, Word(*field), 0};
   if (inField && dice == 9 && !words_.pastes.isEmpty())
     return {Kind::Paste, {}, words_.pastes[Below(static_cast<int>(words_.pastes.size()))], 0};
   if (inField && dice < 13)
@@ -241,6 +241,13 @@ RandomPlayer::Step RandomPlayer::NextInField(Game& game) {
             0};
   const NamedKey& key = kKeys[static_cast<size_t>(Below(static_cast<int>(kKeys.size())))];
   return {Kind::Key, {}, QLatin1String(key.text), 0};
+}
+
+QString RandomPlayer::Word(const Control& field) {
+  const auto own = words_.wordsOf.constFind(field.Name());
+  const bool fitting = own != words_.wordsOf.constEnd() && Below(3) != 0;
+  const QStringList& words = fitting ? *own : words_.words;
+  return words[Below(static_cast<int>(words.size()))];
 }
 
 RandomPlayer::Step RandomPlayer::NextClick(Game& game) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMap>
 #include <QStringList>
 #include <functional>
 #include <memory>
@@ -43,6 +44,9 @@ class Game {
 // What the player knows to type. Words are typed whole, with Enter behind them.
 struct Vocabulary {
   QStringList words;
+  // What makes sense in a field, by its name: typed there two times of three, so that games get
+  // far.
+  QMap<QString, QStringList> wordsOf;
   QStringList pastes;
   QString characters = QStringLiteral("0123456789.-,ab /\\\"'Z");
   QStringList leftOut;  // controls and menu entries that are never touched
@@ -94,6 +98,7 @@ class RandomPlayer {
   using Steps = std::vector<Step>;
   Step Next(Game& game);
   Step NextInField(Game& game);
+  QString Word(const Control& field);
   Step NextClick(Game& game);
   int Below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
   bool Touches(const QString& name) const { return !words_.leftOut.contains(name); }

@@ -66,6 +66,7 @@ void TakeoffGame::Listen(Form& form, const Parts& parts) {
       then();
     };
   };
+  note(*parts.deleteName, nameDeleted_);
   note(*parts.deleteLine, deleted_);
   note(*parts.paste, pasted_);
   for (const QString& path : disk.AllFiles().keys()) {
@@ -134,6 +135,7 @@ QString TakeoffGame::Broken() {
   if (broken.isEmpty()) broken = RecordsRule();
   if (broken.isEmpty()) broken = ScreenRule();
   if (broken.isEmpty()) broken = CursorRule();
+  if (broken.isEmpty()) broken = MessageRule();
   Look();
   return broken;
 }
@@ -185,7 +187,7 @@ bool TakeoffGame::Agrees(const QString& name) {
 // AutoRoom in the height: the next room shows no lines, and a save stores what shows.
 void TakeoffGame::NoteEmptied() {
   const bool next = parts_.autoRoomEmpties && enterInHeight_ && !parts_.name->Empty() &&
-                    parts_.name->Text() != owner_ && parts_.lines->Empty();
+                    parts_.system->HasFocus() && parts_.lines->Empty();
   if (next) emptied_ = parts_.name->Text();
   if (parts_.name->Text() != emptied_) emptied_.clear();
 }
@@ -199,7 +201,7 @@ QString TakeoffGame::ScreenRule() {
     owner_ = name;
     return {};
   }
-  const bool beingTyped = name.isEmpty() || parts_.name->HasFocus();
+  const bool beingTyped = name.isEmpty() || form_->ActiveControl() == parts_.name;
   const QString whose = beingTyped ? owner_ : name;
   if (beingTyped && (parts_.lines->Empty() || Agrees(owner_))) return {};
   return S("The file equals the lines on the screen: \"%1\" holds %2, the screen shows %3")
@@ -242,8 +244,10 @@ QString TakeoffGame::RecordRule(const QString& path, const QStringList& now) {
       .arg(HomePath(path), seen_.records.value(path).join(S(" ")), now.join(S(" ")));
 }
 
-QString TakeoffGame::CursorRule() const {
+QString TakeoffGame::CursorRule() {
   const Control* focused = desk.Focused();
+  if (focused != cursor_ && !(nameDeleted_ && focused == nullptr)) nameDeleted_ = false;
+  cursor_ = focused;
   const QString& here = shared.IAmHere;
   if (focused == nullptr || &focused->Owner() != form_) return {};
   const std::array<std::pair<const TextField*, QString>, 4> codes = {
@@ -253,13 +257,23 @@ QString TakeoffGame::CursorRule() const {
        {parts_.length, QLatin1String(parts_.lengthCode)}}};
   for (const auto& [field, code] : codes) {
     if (code.isEmpty()) continue;
-    const bool cleared = here.isEmpty() && field == parts_.name;
+    const bool cleared = here.isEmpty() && nameDeleted_;
     const bool wrong = focused == field
                            ? here != code && !cleared
                            : here == code && field != parts_.height && field != parts_.length;
     if (wrong)
       return S("IAmHere names the field that has the cursor: %1 has it, IAmHere is \"%2\"")
           .arg(focused->Name(), here);
+  }
+  return {};
+}
+
+QString TakeoffGame::MessageRule() const {
+  for (const QString& text : messages.texts) {
+    if (messages.texts.count(text) > 1)
+      return S("What is refused is said once: %1 times %2")
+          .arg(messages.texts.count(text))
+          .arg(text);
   }
   return {};
 }

@@ -16,7 +16,8 @@ namespace tamo::test {
 //  - lines are only written to the file of the name for which they were loaded or begun;
 //  - no quantity vanishes without a deletion, and none comes from nowhere;
 //  - the sum of what was entered is the quantity in the line;
-//  - IAmHere names the field that has the cursor.
+//  - IAmHere names the field that has the cursor;
+//  - what is refused is said once.
 class TakeoffGame : public Game {
  public:
   Desk& GetDesk() override { return desk; }
@@ -36,6 +37,7 @@ class TakeoffGame : public Game {
     TextField* length;
     OrderedList* lines;
     OrderedList* copied;
+    MenuEntry* deleteName;
     MenuEntry* deleteLine;
     MenuEntry* paste;
     const char* nameCode;  // of IAmHere; "" when the field writes none
@@ -95,7 +97,8 @@ class TakeoffGame : public Game {
   QString EntryRule() const;
   QString RecordRule(const QString& path, const QStringList& now);
   QString RecordsRule();
-  QString CursorRule() const;
+  QString CursorRule();
+  QString MessageRule() const;
   void Look();
 
   Form* form_ = nullptr;
@@ -105,6 +108,8 @@ class TakeoffGame : public Game {
   QString emptied_;  // the name whose lines AutoRoom took off the screen, as it is meant to be
   bool enterInLength_ = false;
   bool enterInHeight_ = false;
+  bool nameDeleted_ = false;  // nothing waits for a measure until another field is entered
+  const Control* cursor_ = nullptr;
   bool deleted_ = false;
   bool pasted_ = false;
   bool refused_ = false;

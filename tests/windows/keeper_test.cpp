@@ -13,7 +13,7 @@
 #include "windows/look.h"
 #include "windows/plancanvas.h"
 #include "windows/rowsview.h"
-#include "windows/windowkeeper.h"
+#include "windows/windowprobe.h"
 
 // The windows of the whole program.
 
@@ -43,7 +43,7 @@ struct KeeperTest : test::WithApplication, testing::Test, test::MachineRoom {
   PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
   Desk& desk = program.GetDesk();
-  WindowKeeper windows{program, nullptr, Path("windows.ini")};
+  test::WindowProbe windows{program, nullptr, Path("windows.ini")};
 };
 
 TEST_F(KeeperTest, EveryControlThatALayoutNamesIsThere) {
@@ -153,7 +153,7 @@ TEST_F(KeeperTest, ThePlaceOfAWindowIsRemembered) {
   Menu("Tamo", "Settings1");
   Window("Settings").setGeometry(40, 60, 900, 650);
   Menu("Tamo", "Settings1");
-  WindowKeeper again(program, nullptr, Path("windows.ini"));
+  test::WindowProbe again(program, nullptr, Path("windows.ini"));
   EXPECT_EQ(again.WindowOf(FormOf("Settings"))->size(), QSize(900, 650));
 }
 

@@ -15,7 +15,7 @@
 #include "support/doubles.h"
 #include "windows/look.h"
 #include "windows/reportprinter.h"
-#include "windows/windowkeeper.h"
+#include "windows/windowprobe.h"
 
 // Opens every window on the sample bid and saves a picture of each, light and dark, at 100 and 200
 // per cent:  tamo_pictures FOLDER
@@ -80,7 +80,7 @@ struct Pictures {
   MuPdfEngine engine;
   PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
-  WindowKeeper windows{program, &viewer};
+  test::WindowProbe windows{program, &viewer};
   Desk& desk = program.GetDesk();
 };
 

@@ -1,0 +1,25 @@
+#include "pricing/vocabularylist.h"
+
+namespace tamo {
+
+int VocabularyList::Load() {
+  QStringList names;
+  const int error = ReadNames(kit_.files, kit_.shared, file_, names);
+  list_.SetRows(names);
+  return error;
+}
+
+void VocabularyList::Save() {
+  // The last system of a library can't be deleted for good: its list is not written when it is
+  // empty. A test holds it.
+  if (file_ == NameList::Systems && (list_.Empty() || list_.Row(0).isEmpty())) return;
+  WriteNames(kit_.files, kit_.shared, file_, list_.Rows());
+}
+
+void VocabularyList::Remember(const QString& name) {
+  if (list_.Find(name) >= 0) return;
+  list_.Add(name);
+  Save();
+}
+
+}  // namespace tamo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "common/control.h"
+#include "common/kit.h"
+#include "pricing/nameindex.h"
+#include "records/namelists.h"
+
+namespace tamo {
+
+// One of the library's lists of names, on the screen and on the disk, in the order of first use.
+class VocabularyList {
+ public:
+  // The list outlives this.
+  VocabularyList(const Kit& kit, OrderedList& list, NameList file)
+      : kit_(kit), list_(list), index_(list), file_(file) {}
+
+  int Load();  // its error number; a file that is not there leaves the list empty
+  void Save();
+  // Remembers a name exactly as it was typed, once.
+  void Remember(const QString& name);
+  // The first row that is `name`, whatever the case; -1.
+  int Find(const QString& name) { return index_.Find(name); }
+
+ private:
+  const Kit kit_;
+  OrderedList& list_;
+  NameIndex index_;
+  const NameList file_;
+};
+
+}  // namespace tamo

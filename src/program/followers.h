@@ -1,0 +1,36 @@
+#pragma once
+
+#include "pricing/pricingform.h"
+#include "reports/reportsform.h"
+#include "takeoff/adjustmentform.h"
+#include "workspace/projectfollowers.h"
+
+namespace tamo {
+
+// The open report follows a save. A report that fails says so and stops no entry: it is an event of
+// its own.
+void RefreshReport(ReportsForm& reports);
+
+// The working forms as the project panel asks for them.
+class FollowersOnForms : public ProjectFollowers {
+ public:
+  // All of it is used only once the program runs.
+  FollowersOnForms(PricingForm& pricing, AdjustmentForm& adjustment, ReportsForm& reports)
+      : pricing_(pricing), adjustment_(adjustment), reports_(reports) {}
+
+  void InitPricing() override { pricing_.Init(); }
+  void RefreshPricingList() override { pricing_.LoadDescriptions(); }
+  void PrintReport() override { RefreshReport(reports_); }
+  void ClearReports() override { reports_.ClearReport(); }
+  void ForgetProject() override {
+    adjustment_.ForgetAmount();
+    reports_.ForgetProject();
+  }
+
+ private:
+  PricingForm& pricing_;
+  AdjustmentForm& adjustment_;
+  ReportsForm& reports_;
+};
+
+}  // namespace tamo

@@ -1,9 +1,0 @@
-#include "program/work.h"
-
-namespace tamo {
-
-void RefreshReport(ReportsForm& reports) {
-  reports.GetDesk().Dispatch([&reports] { reports.Refresh(); });
-}
-
-}  // namespace tamo

@@ -1,0 +1,302 @@
+#include "schedule/scheduleform.h"
+
+#include "records/namelists.h"
+#include "schedule/finishcodes.h"
+#include "schedule/schedulereader.h"
+
+namespace tamo {
+namespace {
+
+constexpr const char* kCellNames[kScheduleCells] = {
+    "Number", "Name", "Floor", "Base", "North", "East", "South", "West", "Ceiling", "Remarks"};
+
+// The system of the library that is called so, whatever the case; "" when there is none.
+QString InLibrary(const QStringList& systems, const QString& name) {
+  for (const QString& system : systems) {
+    if (system.compare(name, Qt::CaseInsensitive) == 0) return system;
+  }
+  return {};
+}
+
+}  // namespace
+
+ScheduleForm::ScheduleForm(const Kit& kit, OSTForm& ost)
+    : Form(kit.desk, QStringLiteral("Schedule")), kit_(kit), ost_(ost) {
+  SetCaption(QStringLiteral("Schedule"));
+  BindLists();
+  BindMenus();
+  ShowSummary();
+}
+
+void ScheduleForm::BindLists() {
+  Rows.onSelect = [this] { ShowCells(); };
+  Cells.onSelect = [this] { ShowCell(); };
+  Unsure.onSelect = [this] {
+    const QStringList place = Unsure.Selected().split(u' ');
+    if (place.size() != 2) return;
+    Rows.SetIndex(place[0].toInt());
+    Cells.SetIndex(place[1].toInt());
+  };
+  Key.onSelect = [this] { ShowSystem(); };
+  Correct.onKey = [this](tamo::Key& key) {
+    if (!key.IsEnter()) return;
+    key.Drop();
+    CorrectCell();
+  };
+  System.onKey = [this](tamo::Key& key) {
+    if (!key.IsEnter()) return;
+    key.Drop();
+    ChooseSystem();
+  };
+  Correct.onGotFocus = [this] { Correct.SelectAll(); };
+  System.onGotFocus = [this] { System.SelectAll(); };
+}
+
+void ScheduleForm::BindMenus() {
+  MakeRooms.onClick = [this] { WriteRooms(); };
+  TakeBack.onClick = [this] { TakeRoomsBack(); };
+  LeaveOut.onClick = [this] { LeaveRowOut(); };
+  Xit.onClick = [this] { Hide(); };
+  TakeBack.SetEnabled(false);
+  ost_.FindMenu(QStringLiteral("ReadSchedule"))->onClick = [this] { Read(); };
+  ost_.FindMenu(QStringLiteral("AddToSchedule"))->onClick = [this] { AddPart(); };
+  ost_.FindMenu(QStringLiteral("DrawScheduleBox"))->onClick = [this] {
+    ost_.Viewer().SetBoxNext(true);
+  };
+}
+
+void ScheduleForm::Read() {
+  std::vector<ScheduleTable> before = std::move(parts_);
+  std::vector<int> pagesBefore = std::move(pages_);
+  parts_.clear();
+  pages_.clear();
+  if (TakeFromPlan()) return ShowAll();
+  parts_ = std::move(before);
+  pages_ = std::move(pagesBefore);
+}
+
+void ScheduleForm::AddPart() {
+  if (TakeFromPlan()) ShowAll();
+}
+
+// What the plan's box holds; false, and said, when nothing can be taken of it.
+bool ScheduleForm::TakeFromPlan() {
+  const PdfDraw& viewer = ost_.Viewer();
+  if (viewer.ShownPath().isEmpty()) {
+    kit_.desk.GetMessages().Tell(QStringLiteral("No plan is open. Open the plan first."));
+    return false;
+  }
+  std::optional<PageBox> box;
+  const std::optional<DrawnBox>& drawn = viewer.Box();
+  if (drawn.has_value() && drawn->page == viewer.Page()) {
+    box = PageBox{drawn->topLeft.x, drawn->topLeft.y, drawn->bottomRight.x, drawn->bottomRight.y};
+    if (box->left == framed_.left && box->top == framed_.top) box.reset();  // only shows a row
+  }
+  const PageContent page = ReadPageContent(kit_.files.GetDisk(), viewer.ShownPath(), viewer.Page());
+  if (page.error != 0) {
+    kit_.desk.GetMessages().Tell(QStringLiteral("The sheet can't be read: %1.").arg(page.problem));
+    return false;
+  }
+  ScheduleReading reading = ReadSchedule(page, box, parts_.empty() ? nullptr : &parts_.back());
+  if (!reading.problem.isEmpty()) {
+    kit_.desk.GetMessages().Tell(reading.problem);
+    return false;
+  }
+  for (ScheduleTable& table : reading.parts) {
+    parts_.push_back(std::move(table));
+    pages_.push_back(viewer.Page());
+  }
+  if (!box.has_value()) FrameOnPlan(parts_.back().box, pages_.back());
+  return true;
+}
+
+// The project's key; a new bid begins with the last one's.
+void ScheduleForm::LoadKey() {
+  key_.clear();
+  if (!kit_.shared.JobID.isEmpty()) ReadFinishKey(kit_.files, ProjectFolder(kit_.shared), key_);
+  FinishKey last;
+  ReadFinishKey(kit_.files, DataFolder(kit_.shared), last);
+  QStringList systems;
+  ReadNames(kit_.files, kit_.shared, NameList::Systems, systems);
+  for (const QString& code : CodesOf(rows_)) {
+    if (InFinishKey(key_, code)) continue;
+    const QString system =
+        InFinishKey(last, code) ? SystemOfCode(last, code) : InLibrary(systems, code);
+    if (!system.isEmpty()) SetSystemOfCode(key_, code, system);
+  }
+}
+
+void ScheduleForm::ShowAll() {
+  rows_ = FinishRowsOf(parts_);
+  made_ = {};
+  TakeBack.SetEnabled(false);
+  LoadKey();
+  QStringList texts;
+  for (const FinishRow& row : rows_) texts.append(row.Text());
+  Rows.SetRows(texts);
+  Key.SetRows(CodesOf(rows_));
+  ShowUnsure();
+  Cells.Clear();
+  Correct.Clear();
+  System.Clear();
+  ShowSummary();
+  Show(&ost_);
+}
+
+void ScheduleForm::ShowUnsure() {
+  QStringList places;
+  for (size_t row = 0; row < rows_.size(); ++row) {
+    for (size_t cell = 0; cell < rows_[row].doubts.size(); ++cell) {
+      if (!rows_[row].doubts[cell].empty())
+        places.append(QStringLiteral("%1 %2").arg(row).arg(cell));
+    }
+  }
+  Unsure.SetRows(places);
+}
+
+// The place of a row on the drawing, in the box's colour.
+void ScheduleForm::FrameOnPlan(const PageBox& box, int page) {
+  PdfDraw& viewer = ost_.Viewer();
+  if (box.Empty() || viewer.ShownPath().isEmpty()) return;
+  if (viewer.Page() != page) viewer.SetPage(page);
+  framed_ = {box.left - 2, box.top - 2, box.right + 2, box.bottom + 2};
+  viewer.DrawBox({framed_.left, framed_.top}, {framed_.right, framed_.bottom});
+}
+
+void ScheduleForm::ShowCells() {
+  QStringList cells;
+  if (Rows.Index() >= 0) {
+    const FinishRow& row = rows_[size_t(Rows.Index())];
+    const ScheduleTable& part = parts_[size_t(row.part)];
+    PageBox place = NoBox();
+    for (const ScheduleCell& cell : part.rows[size_t(row.row)].cells) {
+      if (cell.text.isEmpty()) continue;
+      place.Take({cell.box.left, cell.box.top});
+      place.Take({cell.box.right, cell.box.bottom});
+    }
+    FrameOnPlan(place, pages_[size_t(row.part)]);
+    for (size_t i = 0; i < row.cells.size(); ++i) {
+      const QString mark = row.doubts[i].empty() ? QString() : QStringLiteral("? ");
+      cells.append(mark + QLatin1String(kCellNames[i]) + u'\t' + row.cells[i]);
+    }
+  }
+  Cells.SetRows(cells);
+  ShowCell();
+}
+
+void ScheduleForm::ShowCell() {
+  Correct.Clear();
+  Why.SetCaption({});
+  if (Rows.Index() < 0 || Cells.Index() < 0) return;
+  const FinishRow& row = rows_[size_t(Rows.Index())];
+  const auto cell = size_t(Cells.Index());
+  Correct.SetText(row.cells[cell]);
+  QStringList reasons;
+  for (const Doubt doubt : row.doubts[cell]) reasons.append(DoubtText(doubt));
+  if (!reasons.isEmpty()) Why.SetCaption(QStringLiteral("Not sure: %1.").arg(reasons.join(u"; ")));
+}
+
+void ScheduleForm::CorrectCell() {
+  if (Rows.Index() < 0 || Cells.Index() < 0) return;
+  FinishRow& row = rows_[size_t(Rows.Index())];
+  const int cell = Cells.Index();
+  row.cells[size_t(cell)] = Correct.Text().simplified();
+  row.doubts[size_t(cell)].clear();
+  Rows.SetRow(Rows.Index(), row.Text());
+  ShowUnsure();
+  Key.SetRows(CodesOf(rows_));
+  ShowCells();
+  Cells.SetIndex(cell);
+  ShowSummary();
+}
+
+void ScheduleForm::LeaveRowOut() {
+  if (Rows.Index() < 0) return;
+  rows_.erase(rows_.begin() + Rows.Index());
+  Rows.Remove(Rows.Index());
+  ShowCells();
+  ShowUnsure();
+  Key.SetRows(CodesOf(rows_));
+  ShowSummary();
+}
+
+void ScheduleForm::ShowSystem() {
+  const QString code = Key.Selected();
+  CodeLabel.SetCaption(code.isEmpty() ? QStringLiteral("System:")
+                                      : QStringLiteral("System of %1:").arg(code));
+  System.SetText(SystemOfCode(key_, code));
+  if (Key.Index() >= 0) GetDesk().Focus(System);
+}
+
+// A blank leaves the code out. The next code comes up.
+void ScheduleForm::ChooseSystem() {
+  if (Key.Index() < 0) return;
+  QStringList systems;
+  ReadNames(kit_.files, kit_.shared, NameList::Systems, systems);
+  const QString system = InLibrary(systems, System.Text());
+  if (system.isEmpty() && !System.Empty()) {
+    kit_.desk.GetMessages().Tell(System.Text() + QStringLiteral(" System Name Not Found"));
+    return;
+  }
+  SetSystemOfCode(key_, Key.Selected(), system);
+  if (!kit_.shared.JobID.isEmpty()) WriteFinishKey(kit_.files, ProjectFolder(kit_.shared), key_);
+  WriteFinishKey(kit_.files, DataFolder(kit_.shared), key_);
+  ShowSummary();
+  if (Key.Index() + 1 < Key.Count()) Key.SetIndex(Key.Index() + 1);
+}
+
+void ScheduleForm::ShowSummary() {
+  if (rows_.empty()) {
+    Summary.SetCaption(
+        QStringLiteral("Draw a box around a room finish schedule, or choose Read Schedule for the "
+                       "one on the sheet."));
+    return;
+  }
+  const RoomPlan plan = PlanRooms(rows_, key_);
+  Summary.SetCaption(QStringLiteral("%1 rooms, %2 lines, %3 codes left out, %4 cells not sure.")
+                         .arg(plan.rooms.size())
+                         .arg(plan.Lines())
+                         .arg(plan.leftOut.size())
+                         .arg(Unsure.Count()));
+}
+
+bool ScheduleForm::MayWrite() {
+  if (kit_.shared.JobID.isEmpty()) {
+    kit_.desk.GetMessages().Tell(
+        QStringLiteral("No project is open, so the rooms have no place. Open a project first."));
+    return false;
+  }
+  if (kit_.shared.Locked == QLatin1String("True")) {
+    kit_.desk.GetMessages().Tell(QStringLiteral("Project is locked."));
+    return false;
+  }
+  return true;
+}
+
+void ScheduleForm::WriteRooms() {
+  if (!MayWrite()) return;
+  const RoomPlan plan = PlanRooms(rows_, key_);
+  made_ = tamo::MakeRooms(kit_.files, kit_.shared, plan);
+  TakeBack.SetEnabled(!made_.rooms.empty());
+  if (!made_.problem.isEmpty()) kit_.desk.GetMessages().Tell(made_.problem);
+  Summary.SetCaption(QStringLiteral("%1 rooms and %2 lines made, %3 codes left out. %4")
+                         .arg(made_.rooms.size())
+                         .arg(made_.lines)
+                         .arg(plan.leftOut.size())
+                         .arg(plan.told.join(u' '))
+                         .trimmed());
+}
+
+void ScheduleForm::TakeRoomsBack() {
+  if (!MayWrite()) return;
+  const QString refusal = tamo::TakeBackRooms(kit_.files, kit_.shared, made_);
+  if (!refusal.isEmpty()) {
+    kit_.desk.GetMessages().Tell(refusal);
+    return;
+  }
+  made_ = {};
+  TakeBack.SetEnabled(false);
+  ShowSummary();
+}
+
+}  // namespace tamo

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QStringList>
+#include <array>
+#include <vector>
+
+#include "schedule/scheduletable.h"
+
+namespace tamo {
+
+inline constexpr int kScheduleCells = 10;
+
+// What a room of a finish schedule needs, whatever columns the sheet had: number, name, floor,
+// base, north, east, south, west, ceiling (a blank and its height behind it), remarks.
+struct FinishRow {
+  std::array<QString, kScheduleCells> cells;
+  std::array<std::vector<Doubt>, kScheduleCells> doubts;
+  QString height;  // the ceiling's height alone
+  int part = 0;    // where it came from: which part, and which of its rows
+  int row = 0;
+
+  QString Text() const;  // the ten cells, separated by tabs
+};
+
+// The rows of all parts together, in reading order; ditto marks resolved, walls without sides in
+// all four.
+std::vector<FinishRow> FinishRowsOf(const std::vector<ScheduleTable>& parts);
+
+bool IsDitto(const QString& text);
+
+}  // namespace tamo

@@ -1,0 +1,16 @@
+#pragma once
+
+namespace tamo {
+
+// What the project panel asks of the working forms when a project comes or goes.
+class ProjectFollowers {
+ public:
+  virtual ~ProjectFollowers() = default;
+  virtual void InitPricing() = 0;         // makes the Pricing form ready at the start
+  virtual void RefreshPricingList() = 0;  // the library's names are read again
+  virtual void PrintReport() = 0;         // an open report follows, when it is set to
+  virtual void ClearReports() = 0;        // empties the report and hides its form
+  virtual void ForgetProject() = 0;       // no project's adjustment is shown or counted in another
+};
+
+}  // namespace tamo

@@ -1,0 +1,92 @@
+#include "workspace/projectlifecycle.h"
+
+#include "common/columns.h"
+#include "common/paths.h"
+
+namespace tamo {
+
+// Every project has a folder of its own that bears its id.
+bool ProjectLifeCycle::TakeNewId() {
+  const QString open = kit_.shared.JobID;
+  parts_.ids.LoadProjectNumber();
+  if (NameRefusal(kit_.shared.JobID).isEmpty()) return true;
+  kit_.desk.GetMessages().Tell(
+      QStringLiteral("The new project would have the id \"%1\", and no folder can have that name. "
+                     "No project was made. Correct the estimator number in Settings, or the "
+                     "number in the file Project.num of the data folder.")
+          .arg(kit_.shared.JobID));
+  kit_.shared.JobID = open;
+  return false;
+}
+
+void ProjectLifeCycle::NewProject() {
+  if (!TakeNewId()) return;
+  kit_.shared.OPN = QStringLiteral("1");
+  if (parts_.estimator.Text().size() != 2) near_.windows.AskForEstimatorNumber();
+  parts_.record.Clear();
+  near_.followers.ForgetProject();
+  parts_.record.NameNoPlan();
+  near_.followers.ClearReports();
+  TogglePanelForName();
+}
+
+void ProjectLifeCycle::TogglePanelForName() {
+  ProjectPanel& panel = parts_.panel;
+  if (panel.JobNFOFrame.Shown()) {
+    panel.JobNFOFrame.Hide();
+    if (panel.JobName.Empty()) kit_.shared.JobID.clear();
+    return;
+  }
+  panel.JobsList.Hide();
+  panel.JobNFOFrame.Show();
+  kit_.desk.Focus(panel.JobName);
+}
+
+void ProjectLifeCycle::OpenProject() {
+  parts_.picker.LoadJobsList();
+  parts_.picker.Toggle();
+}
+
+void ProjectLifeCycle::OpenSelected() {
+  ProjectPanel& panel = parts_.panel;
+  const QString entry = panel.JobsList.Selected();
+  panel.JobsList.Hide();
+  const QString id = parts_.picker.SelectedId();
+  if (id.isEmpty()) return;
+  kit_.shared.JobID = id;
+  panel.JobName.SetText(From(entry, 14));
+  kit_.shared.LoadingJobNFO = QStringLiteral("False");
+  near_.followers.ForgetProject();
+  parts_.record.ComeTo();
+  parts_.record.LoadJobNFO();
+  parts_.lock.LoadLocked();
+  near_.plan.LoadPlanNotes();
+  near_.plan.SetProjectName(panel.JobName.Text());
+  if (!near_.plan.Fields().planLocation.isEmpty()) near_.plan.LoadPDF();
+  near_.windows.BringUpShell();
+}
+
+void ProjectLifeCycle::ClearProject() {
+  kit_.shared.JobID.clear();
+  parts_.record.Clear();
+  near_.followers.ForgetProject();
+  parts_.record.LeavePlan();
+}
+
+void ProjectLifeCycle::ExitProjectInformation() {
+  const TextField& name = parts_.panel.JobName;
+  if (name.Empty()) kit_.shared.JobID.clear();
+  parts_.picker.SaveJobsList();
+  parts_.record.SaveJobNFO();
+  const bool isNew = kit_.shared.OPN == QLatin1String("1");
+  if (!name.Empty() && isNew) parts_.ids.SaveProjectNumber();
+  parts_.panel.JobNFOFrame.Hide();
+  near_.plan.SetProjectName(name.Text());
+  near_.followers.RefreshPricingList();
+  near_.windows.BringUpShell();
+  // The project is made now: a second time through the panel must not list it twice.
+  if (isNew) kit_.shared.OPN = QStringLiteral("2");
+  near_.followers.PrintReport();
+}
+
+}  // namespace tamo

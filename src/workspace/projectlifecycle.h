@@ -1,0 +1,44 @@
+#pragma once
+
+#include "common/kit.h"
+#include "workspace/panelrecord.h"
+#include "workspace/projectids.h"
+#include "workspace/projectlock.h"
+#include "workspace/projectneighbours.h"
+#include "workspace/projectpicker.h"
+
+namespace tamo {
+
+// How a project comes into being, is opened and is closed again.
+class ProjectLifeCycle {
+ public:
+  // The parts of the main form; they outlive this.
+  struct Parts {
+    ProjectPanel& panel;
+    const TextField& estimator;  // the estimator's number in the settings
+    ProjectIds& ids;
+    ProjectPicker& picker;
+    ProjectLock& lock;
+    PanelRecord& record;
+  };
+  ProjectLifeCycle(const Kit& kit, const Parts& parts, const ProjectNeighbours& neighbours)
+      : kit_(kit), parts_(parts), near_(neighbours) {}
+
+  void NewProject();
+  void OpenProject();
+  // The project of the line that is selected in the list.
+  void OpenSelected();
+  void ClearProject();
+  // The button of the panel: the project is listed, if it is new, and its record written.
+  void ExitProjectInformation();
+
+ private:
+  bool TakeNewId();
+  void TogglePanelForName();
+
+  const Kit kit_;
+  const Parts parts_;
+  const ProjectNeighbours near_;
+};
+
+}  // namespace tamo

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "common/kit.h"
+#include "workspace/projectids.h"
+#include "workspace/projectpanel.h"
+
+namespace tamo {
+
+// The project list on the screen, which is also the copy that is written back whole.
+class ProjectPicker {
+ public:
+  ProjectPicker(const Kit& kit, ProjectPanel& panel, ProjectIds& ids)
+      : kit_(kit), panel_(panel), ids_(ids) {}
+
+  void LoadJobsList();
+  // Writes the list back. A project that is being created gets its id, its folders and its line
+  // first; nothing happens without an id and a name. Throws a RunTimeFailure, with nothing written,
+  // when the list that stands on the disk could not be read.
+  void SaveJobsList();
+  // Takes the open project's line out of the list and writes the list.
+  void RemoveProject();
+  // Shows the panel with the list, or puts both away; an empty list does not come up.
+  void Toggle();
+  // The id of the selected line, "" when no project can have it: then the estimator is told.
+  QString SelectedId();
+
+ private:
+  void AddProject();
+  void NeedJobsList();
+  void RequireReadableList() const;
+
+  const Kit kit_;
+  ProjectPanel& panel_;
+  ProjectIds& ids_;
+  int listError_ = 0;     // of the last reading
+  QString listedFolder_;  // the data folder that JobsList was read from
+};
+
+}  // namespace tamo

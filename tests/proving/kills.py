@@ -1,0 +1,31 @@
+"""Kills the program at its file operations: before one, or in the middle of it."""
+
+from bids import bids
+from ground import put, written
+from versions import last_step
+
+
+def kill(ground, restarts, bid, at, deed):
+    home = ground.new_home()
+    put(home, bid.files)
+    played = ground.play(home, bid.scenario, {"AT": at, "DO": deed, "DATA": ""})
+    files, step = written(home), last_step(played.log)
+    ground.forget(home)
+    if "signal 9" not in played.errors:
+        return ["the program was not killed: " + played.errors]
+    return bid.versions.wrong(files, step) + restarts.wrong(files, bid, step)
+
+
+def prove(ground, restarts, report, most, chance, every=False):
+    """`most` kills; with `every` at each operation in turn, else at random ones."""
+    done = 0
+    for bid in bids(ground):
+        count = bid.count("rw")
+        places = [(at, deed) for at in range(1, count + 1) for deed in ("kill", "half")]
+        if not every:
+            places = chance.sample(places, min(most, len(places)))
+        for at, deed in places[:most - done]:
+            done += 1
+            report.one(f"kills: bid {bid.seed} AT={at} DO={deed}", kill(ground, restarts, bid, at, deed))
+        if done >= most or report.late():
+            return
