@@ -174,6 +174,7 @@ TEST_F(OddPlans, APageIsDrawnAsFarAsItGoesAndSaysWhatIsMissing) {
   Open("hatch_often.pdf");
   const auto picture = Paint(Part(1, 1000, 1000, 600, 400));
   EXPECT_EQ(At(*picture, 300, 296), 0xff0000U);
+  draw.reset();  // it posts events, so it goes before the application
 }
 
 // The same dots, whether a part is looked at near or the whole from afar, at every turn of the
