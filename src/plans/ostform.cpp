@@ -107,13 +107,19 @@ void OSTForm::BindViewer() {
     kit_.desk.Focus(picPdfDraw);
     measure_.WarnOfMissingScale();
   });
-  viewer_.onEnterKey = event([this] { measure_.ReturnFocus(); });
   viewer_.onReservation = [this](const QString& reservation) {
     return kit_.platform.messages.Ask(reservation +
                                       QStringLiteral(" Mark your copy of it all the same?"));
   };
   viewer_.onPageProblem = event([this](const QString& text) { PlanProblem.SetCaption(text); });
+  viewer_.onEnterKey = event([this] { EnterOnPlan(); });
   viewer_.onProblem = event([this](const QString& text) { PlanLost(text); });
+}
+
+void OSTForm::EnterOnPlan() {
+  const bool boxed = viewer_.Tool() == PlanTool::None && viewer_.Box().has_value();
+  if (boxed && onEnterBox && onEnterBox()) return;
+  measure_.ReturnFocus();
 }
 
 void OSTForm::PlanLost(const QString& problem) {

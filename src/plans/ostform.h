@@ -49,6 +49,10 @@ class OSTForm : public OstControls {
   void SetZoomByLevel(const QString& level) { pages_.SetZoomByLevel(level); }
   PdfDraw& Viewer() const { return viewer_; }
 
+  // Enter on the plan with a box drawn and no tool in hand: true when it was taken, so that Enter
+  // does not go back to the field that waits.
+  std::function<bool()> onEnterBox;
+
   QString ViewerName;
 
  private:
@@ -56,6 +60,7 @@ class OSTForm : public OstControls {
   void BindMenus();
   void BindViewer();
   void BindPlanKeys();
+  void EnterOnPlan();
   void PlanLost(const QString& problem);
 
   const Kit kit_;

@@ -68,6 +68,13 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     if (onEnded) onEnded();
   };
   parts.shell.beforeEnd = [&parts] { parts.bottomLine.SaveUnsaved(); };
+  // Lists of systems that are loaded are written whole: they must know the new one.
+  parts.schedule.onSystemMade = [&parts](const QString& name) {
+    for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,
+                              &parts.areas.DescriptionsList}) {
+      if (!list->Empty() && list->FindAnyCase(name) < 0) list->Insert(0, name);
+    }
+  };
   parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
   parts.ost.onClose = [&parts] { return parts.shell.CloseOst(); };
 }

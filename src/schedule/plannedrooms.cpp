@@ -25,7 +25,7 @@ QString Typable(const QString& name) {
 
 class Planner {
  public:
-  explicit Planner(const FinishKey& key) : key_(key) {}
+  Planner(const FinishKey& key, const FinishAreas& areas) : key_(key), areas_(areas) {}
 
   void Take(const FinishRow& row) {
     const QString whole = (row.cells[kNumber] + u' ' + row.cells[kName]).simplified();
@@ -34,10 +34,10 @@ class Planner {
     room.name = NameFor(whole);
     if (room.name.isEmpty()) return;
     room.height = FeetOf(row.height);
-    TakeFinishes(room, row, kFloor, QStringLiteral("FLR"));
-    TakeFinishes(room, row, kBase, QStringLiteral("BASE"));
+    TakeFinishes(room, row, kFloor, areas_.floor);
+    TakeFinishes(room, row, kBase, areas_.base);
     TakeWalls(room, row);
-    TakeFinishes(room, row, kCeiling, QStringLiteral("CLNG"));
+    TakeFinishes(room, row, kCeiling, areas_.ceiling);
     plan_.rooms.push_back(std::move(room));
   }
   RoomPlan Plan() {
@@ -101,13 +101,13 @@ class Planner {
       for (size_t side = 0; side < sides.size(); ++side) {
         if (sides[side].contains(system)) letters += QLatin1Char(kSideLetters[side]);
       }
-      const QString area =
-          letters.size() == 4 ? QStringLiteral("WALLS") : QStringLiteral("WALLS ") + letters;
+      const QString area = letters.size() == 4 ? areas_.walls : areas_.walls + u' ' + letters;
       if (!Has(room, system)) room.lines.push_back({system, area});
     }
   }
 
   const FinishKey& key_;
+  const FinishAreas& areas_;
   RoomPlan plan_;
   QStringList names_;
 };
@@ -122,8 +122,9 @@ int RoomPlan::Lines() const {
   return lines;
 }
 
-RoomPlan PlanRooms(const std::vector<FinishRow>& rows, const FinishKey& key) {
-  Planner planner(key);
+RoomPlan PlanRooms(const std::vector<FinishRow>& rows, const FinishKey& key,
+                   const FinishAreas& areas) {
+  Planner planner(key, areas);
   for (const FinishRow& row : rows) planner.Take(row);
   return planner.Plan();
 }

@@ -29,9 +29,18 @@ struct RoomPlan {
   int Lines() const;
 };
 
+// The finish areas of a room's lines; those of single walls get their sides behind it.
+struct FinishAreas {
+  QString floor = QStringLiteral("FLR");
+  QString base = QStringLiteral("BASE");
+  QString walls = QStringLiteral("WALLS");
+  QString ceiling = QStringLiteral("CLNG");
+};
+
 // The rooms and lines that a schedule's rows mean by a key. Rows without number and name are passed
 // over. A system stands once in a room: at the first finish area that has it.
-RoomPlan PlanRooms(const std::vector<FinishRow>& rows, const FinishKey& key);
+RoomPlan PlanRooms(const std::vector<FinishRow>& rows, const FinishKey& key,
+                   const FinishAreas& areas = {});
 
 // "9'-0"" is 9, "8'-6 1/2"" is 8.5416...; empty for a text that is no height.
 QString FeetOf(const QString& height);

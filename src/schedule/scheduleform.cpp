@@ -2,6 +2,7 @@
 
 #include "records/namelists.h"
 #include "schedule/finishcodes.h"
+#include "schedule/librarysystems.h"
 #include "schedule/schedulereader.h"
 
 namespace tamo {
@@ -10,14 +11,6 @@ namespace {
 constexpr const char* kCellNames[kScheduleCells] = {
     "Number", "Name", "Floor", "Base", "North", "East", "South", "West", "Ceiling", "Remarks"};
 
-// The system of the library that is called so, whatever the case; "" when there is none.
-QString InLibrary(const QStringList& systems, const QString& name) {
-  for (const QString& system : systems) {
-    if (system.compare(name, Qt::CaseInsensitive) == 0) return system;
-  }
-  return {};
-}
-
 }  // namespace
 
 ScheduleForm::ScheduleForm(const Kit& kit, OSTForm& ost)
@@ -25,6 +18,8 @@ ScheduleForm::ScheduleForm(const Kit& kit, OSTForm& ost)
   SetCaption(QStringLiteral("Schedule"));
   BindLists();
   BindMenus();
+  BindSources();
+  BindAreas();
   ShowSummary();
 }
 
@@ -61,8 +56,10 @@ void ScheduleForm::BindMenus() {
   ost_.FindMenu(QStringLiteral("ReadSchedule"))->onClick = [this] { Read(); };
   ost_.FindMenu(QStringLiteral("AddToSchedule"))->onClick = [this] { AddPart(); };
   ost_.FindMenu(QStringLiteral("DrawScheduleBox"))->onClick = [this] {
+    FrameFound();
     ost_.Viewer().SetBoxNext(true);
   };
+  ost_.onEnterBox = [this] { return EnterBox(); };
 }
 
 void ScheduleForm::Read() {
@@ -70,7 +67,10 @@ void ScheduleForm::Read() {
   std::vector<int> pagesBefore = std::move(pages_);
   parts_.clear();
   pages_.clear();
-  if (TakeFromPlan()) return ShowAll();
+  if (TakeFromPlan()) {
+    edits_.Clear();
+    return ShowAll();
+  }
   parts_ = std::move(before);
   pages_ = std::move(pagesBefore);
 }
@@ -97,11 +97,15 @@ bool ScheduleForm::TakeFromPlan() {
     kit_.desk.GetMessages().Tell(QStringLiteral("The sheet can't be read: %1.").arg(page.problem));
     return false;
   }
-  ScheduleReading reading = ReadSchedule(page, box, parts_.empty() ? nullptr : &parts_.back());
+  const bool further = !parts_.empty() && pages_.back() != kNoPage;
+  ScheduleReading reading = ReadSchedule(page, box, further ? &parts_.back() : nullptr);
   if (!reading.problem.isEmpty()) {
     kit_.desk.GetMessages().Tell(reading.problem);
     return false;
   }
+  taken_ = box.value_or(PageBox{});
+  if (parts_.empty()) legend_.clear();
+  legend_.merge(LegendOf(FindTables(page)));
   for (ScheduleTable& table : reading.parts) {
     parts_.push_back(std::move(table));
     pages_.push_back(viewer.Page());
@@ -127,19 +131,10 @@ void ScheduleForm::LoadKey() {
 }
 
 void ScheduleForm::ShowAll() {
-  rows_ = FinishRowsOf(parts_);
   made_ = {};
   TakeBack.SetEnabled(false);
-  LoadKey();
-  QStringList texts;
-  for (const FinishRow& row : rows_) texts.append(row.Text());
-  Rows.SetRows(texts);
-  Key.SetRows(CodesOf(rows_));
-  ShowUnsure();
-  Cells.Clear();
-  Correct.Clear();
-  System.Clear();
-  ShowSummary();
+  MakeRows();
+  ShowColumns();
   Show(&ost_);
 }
 
@@ -152,6 +147,32 @@ void ScheduleForm::ShowUnsure() {
     }
   }
   Unsure.SetRows(places);
+}
+
+// The schedule that stands on the sheet, framed: Enter on the plan reads it. Nothing when there is
+// none, or more than one.
+void ScheduleForm::FrameFound() {
+  const PdfDraw& viewer = ost_.Viewer();
+  if (viewer.ShownPath().isEmpty()) return;
+  const PageContent page = ReadPageContent(kit_.files.GetDisk(), viewer.ShownPath(), viewer.Page());
+  const ScheduleReading reading = ReadSchedule(page, std::nullopt);
+  if (!reading.problem.isEmpty()) return;
+  FrameOnPlan(reading.parts.front().box, viewer.Page());
+  offered_ = framed_;
+}
+
+// Enter takes a box that was not read yet: a drawn one, or the schedule that was found.
+bool ScheduleForm::EnterBox() {
+  const DrawnBox& box = *ost_.Viewer().Box();
+  const auto same = [&box](const PageBox& other) {
+    return box.topLeft.x == other.left && box.topLeft.y == other.top &&
+           box.bottomRight.x == other.right && box.bottomRight.y == other.bottom;
+  };
+  const bool offered = same(offered_);
+  if (!offered && (same(framed_) || (same(taken_) && Visible()))) return false;
+  offered_ = {};
+  Read();
+  return true;
 }
 
 // The place of a row on the drawing, in the box's colour.
@@ -174,7 +195,7 @@ void ScheduleForm::ShowCells() {
       place.Take({cell.box.left, cell.box.top});
       place.Take({cell.box.right, cell.box.bottom});
     }
-    FrameOnPlan(place, pages_[size_t(row.part)]);
+    if (pages_[size_t(row.part)] != kNoPage) FrameOnPlan(place, pages_[size_t(row.part)]);
     for (size_t i = 0; i < row.cells.size(); ++i) {
       const QString mark = row.doubts[i].empty() ? QString() : QStringLiteral("? ");
       cells.append(mark + QLatin1String(kCellNames[i]) + u'\t' + row.cells[i]);
@@ -202,6 +223,7 @@ void ScheduleForm::CorrectCell() {
   const int cell = Cells.Index();
   row.cells[size_t(cell)] = Correct.Text().simplified();
   row.doubts[size_t(cell)].clear();
+  edits_.Correct(row, cell, row.cells[size_t(cell)]);
   Rows.SetRow(Rows.Index(), row.Text());
   ShowUnsure();
   Key.SetRows(CodesOf(rows_));
@@ -212,6 +234,7 @@ void ScheduleForm::CorrectCell() {
 
 void ScheduleForm::LeaveRowOut() {
   if (Rows.Index() < 0) return;
+  edits_.LeaveOut(rows_[size_t(Rows.Index())]);
   rows_.erase(rows_.begin() + Rows.Index());
   Rows.Remove(Rows.Index());
   ShowCells();
@@ -224,11 +247,13 @@ void ScheduleForm::ShowSystem() {
   const QString code = Key.Selected();
   CodeLabel.SetCaption(code.isEmpty() ? QStringLiteral("System:")
                                       : QStringLiteral("System of %1:").arg(code));
+  const auto told = legend_.find(code.toUpper());
+  LegendText.SetCaption(told == legend_.end() ? QString() : told->second);
   System.SetText(SystemOfCode(key_, code));
   if (Key.Index() >= 0) GetDesk().Focus(System);
 }
 
-// A blank leaves the code out. The next code comes up.
+// A blank leaves the code out.
 void ScheduleForm::ChooseSystem() {
   if (Key.Index() < 0) return;
   QStringList systems;
@@ -238,6 +263,11 @@ void ScheduleForm::ChooseSystem() {
     kit_.desk.GetMessages().Tell(System.Text() + QStringLiteral(" System Name Not Found"));
     return;
   }
+  TakeSystem(system);
+}
+
+// The system of the selected code. The next code comes up.
+void ScheduleForm::TakeSystem(const QString& system) {
   SetSystemOfCode(key_, Key.Selected(), system);
   if (!kit_.shared.JobID.isEmpty()) WriteFinishKey(kit_.files, ProjectFolder(kit_.shared), key_);
   WriteFinishKey(kit_.files, DataFolder(kit_.shared), key_);
@@ -252,7 +282,8 @@ void ScheduleForm::ShowSummary() {
                        "one on the sheet."));
     return;
   }
-  const RoomPlan plan = PlanRooms(rows_, key_);
+  const RoomPlan plan = PlanRooms(rows_, key_, Areas());
+  ShowUnpriced(plan);
   Summary.SetCaption(QStringLiteral("%1 rooms, %2 lines, %3 codes left out, %4 cells not sure.")
                          .arg(plan.rooms.size())
                          .arg(plan.Lines())
@@ -275,7 +306,7 @@ bool ScheduleForm::MayWrite() {
 
 void ScheduleForm::WriteRooms() {
   if (!MayWrite()) return;
-  const RoomPlan plan = PlanRooms(rows_, key_);
+  const RoomPlan plan = PlanRooms(rows_, key_, Areas());
   made_ = tamo::MakeRooms(kit_.files, kit_.shared, plan);
   TakeBack.SetEnabled(!made_.rooms.empty());
   if (!made_.problem.isEmpty()) kit_.desk.GetMessages().Tell(made_.problem);

@@ -1,13 +1,16 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "common/form.h"
 #include "common/kit.h"
 #include "plans/ostform.h"
 #include "records/finishkey.h"
+#include "schedule/legend.h"
 #include "schedule/plannedrooms.h"
 #include "schedule/roommaking.h"
+#include "schedule/scheduleedits.h"
 #include "schedule/scheduletable.h"
 
 namespace tamo {
@@ -23,8 +26,13 @@ class ScheduleForm : public Form {
   void Read();     // begins anew with the box, or with the schedule that stands on the sheet
   void AddPart();  // adds what the box holds behind the rows
 
+  // A new system stands in the library: lists of systems that were read before take it.
+  std::function<void(const QString& name)> onSystemMade;
+
   MenuEntry RowMenu{*this, "RowMenu", "&Rows"};
+  MenuEntry TakePasted{*this, "TakePasted", "Take &Pasted Rows", &RowMenu};
   MenuEntry LeaveOut{*this, "LeaveOut", "&Leave Row Out", &RowMenu};
+  MenuEntry NewSystem{*this, "NewSystem", "&New System"};
   MenuEntry MakeRooms{*this, "MakeRooms", "&Make Rooms"};
   MenuEntry TakeBack{*this, "TakeBack", "&Take Rooms Back"};
   MenuEntry Xit{*this, "Xit", "E&xit"};
@@ -34,16 +42,45 @@ class ScheduleForm : public Form {
   OrderedList Cells{*this, "Cells"};  // those of the selected row, one a line
   Label CorrectLabel{*this, "CorrectLabel", "Cell:"};
   TextField Correct{*this, "Correct"};
-  Label Why{*this, "Why"};              // of a cell that is not sure
+  Label Why{*this, "Why"};                      // of a cell that is not sure
+  Label UnpricedNames{*this, "UnpricedNames"};  // the systems of the codes that have no price yet
+  Label AreasLabel{*this, "AreasLabel", "Finish areas:"};
+  TextField FloorArea{*this, "FloorArea", 10};  // of the lines that are made
+  TextField BaseArea{*this, "BaseArea", 10};
+  TextField WallsArea{*this, "WallsArea", 6};  // a blank and the sides may follow
+  TextField CeilingArea{*this, "CeilingArea", 10};
+  OrderedList Columns{*this, "Columns"};  // of the last part: the head, a tab, its meaning
+  Label MeaningLabel{*this, "MeaningLabel", "Meaning:"};
+  TextField Meaning{*this, "Meaning"};
+  Label MeaningPrompt{*this, "MeaningPrompt"};
+  Label PastedLabel{*this, "PastedLabel", "From a spreadsheet:"};
+  TextField Pasted{*this, "Pasted"};  // rows that were copied from a spreadsheet
+  Label FileLabel{*this, "FileLabel", "From a file (.csv):"};
+  TextField File{*this, "File"};
   OrderedList Unsure{*this, "Unsure"};  // row and column, from 0
   OrderedList Key{*this, "Key"};        // the codes
   Label CodeLabel{*this, "CodeLabel", "System:"};
   TextField System{*this, "System", 20};
+  Label LegendText{*this, "LegendText"};  // what the sheet says of the selected code
   Label SystemPrompt{*this, "SystemPrompt", "Leave blank and press Enter to leave the code out"};
 
  private:
+  static constexpr int kNoPage = 0;  // of a part that stands on no sheet
+
   void BindLists();
   void BindMenus();
+  void BindSources();
+  void BindAreas();
+  FinishAreas Areas() const;
+  void TakeSystem(const QString& system);
+  void MakeSystem();
+  void ShowUnpriced(const RoomPlan& plan);
+  void ReadText(const QString& text);
+  void ReadFile();
+  void ShowColumns();
+  void ShowMeaning();
+  void ChooseMeaning();
+  void MakeRows();
   bool TakeFromPlan();
   void LoadKey();
   void ShowAll();
@@ -58,15 +95,21 @@ class ScheduleForm : public Form {
   void WriteRooms();
   void TakeRoomsBack();
   bool MayWrite();
+  void FrameFound();
+  bool EnterBox();
   void FrameOnPlan(const PageBox& box, int page);
 
   const Kit kit_;
   OSTForm& ost_;
   std::vector<ScheduleTable> parts_;
-  std::vector<int> pages_;  // on which page each part stands
+  std::vector<int> pages_;  // on which page each part stands, or kNoPage
   PageBox framed_;          // what is framed on the plan of the selected row
+  PageBox offered_;         // the schedule that was found on the sheet and not yet read
+  PageBox taken_;           // the drawn box that was read last
   std::vector<FinishRow> rows_;
+  ScheduleEdits edits_;
   FinishKey key_;
+  Legend legend_;  // of the sheets that were read
   MadeRooms made_;
 };
 

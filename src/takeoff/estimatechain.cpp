@@ -11,6 +11,25 @@
 #include "takeoff/unitcodes.h"
 
 namespace tamo {
+namespace {
+
+// The lines of an area are read back value by value, and leading blanks of a value are skipped: a
+// line whose system begins with a blank, or has no name, would come back with its quantity lost.
+void RequireLineName(const QString& system) {
+  if (!system.isEmpty() && system[0] != QLatin1Char(' ')) return;
+  throw RunTimeFailure(
+      kSubscript,
+      system.trimmed().isEmpty()
+          ? QStringLiteral(
+                "No system is named, so the line would have no name. Nothing was stored; "
+                "enter a system first.")
+          : QStringLiteral(
+                "\"%1\" begins with a blank, so the line could not be read back. Nothing "
+                "was stored; enter the system without the blank.")
+                .arg(system));
+}
+
+}  // namespace
 
 void EstimateForm::BindChain() {
   OnEnter(Area, Keys::FileName, [this] { TakeArea(); });
@@ -87,7 +106,10 @@ void EstimateForm::TakeDescription() {
   DescriptionsList.Hide();
   if (eDescription.Empty()) {
     LeaveDescription();
-  } else if (DescriptionsList.Find(eDescription.Text()) < 0) {
+    return;
+  }
+  RequireLineName(eDescription.Text());
+  if (DescriptionsList.Find(eDescription.Text()) < 0) {
     UnknownSystem();
   } else {
     TakeSystem();
@@ -184,6 +206,7 @@ void EstimateForm::TakeLength() {
         QStringLiteral("No line of the area is selected, so the length has no place. Nothing was "
                        "stored; enter a system or select a line in the list first."));
   }
+  if (AreaList.Selected().isEmpty()) RequireLineName(eDescription.Text());
   PrepareSave();
   AddEntry();
 }

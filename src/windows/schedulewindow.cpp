@@ -30,6 +30,34 @@ class CellHeads : public QWidget {
   const RowsView& rows_;
 };
 
+// What the columns mean, and where a schedule comes from when no plan has it.
+QVBoxLayout* SourcesOf(Builder& b) {
+  auto* column = new QVBoxLayout;
+  column->addWidget(Section(QStringLiteral("Columns")));
+  RowsView* columns = b.List("Columns", QStringLiteral("Columns of the sheet"), 30, 8);
+  columns->cellWidths = {16};
+  column->addWidget(columns, 1);
+  FieldColumn fields(*column);
+  fields.Add(b.Caption("MeaningLabel"), b.Field("Meaning", 16), b.Prompt("MeaningPrompt"));
+  fields.Add(b.Caption("FileLabel"), b.Field("File", 24));
+  column->addWidget(b.Caption("PastedLabel"));
+  auto* pasted = b.LongField("Pasted", QStringLiteral("Rows of a spreadsheet"));
+  pasted->setMaximumHeight(4 * pasted->fontMetrics().height());
+  column->addWidget(pasted);
+  return column;
+}
+
+QWidget* AreaFields(Builder& b) {
+  auto* fields = new QWidget;
+  auto* row = new QHBoxLayout(fields);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(b.Field("FloorArea", 6, QStringLiteral("Finish area of floors")));
+  row->addWidget(b.Field("BaseArea", 6, QStringLiteral("Finish area of bases")));
+  row->addWidget(b.Field("WallsArea", 6, QStringLiteral("Finish area of walls")));
+  row->addWidget(b.Field("CeilingArea", 6, QStringLiteral("Finish area of ceilings")));
+  return fields;
+}
+
 }  // namespace
 
 void LayOutSchedule(Builder& b) {
@@ -51,9 +79,14 @@ void LayOutSchedule(Builder& b) {
   auto* codes = new QVBoxLayout;
   codes->addWidget(Section(QStringLiteral("Finish codes")));
   codes->addWidget(b.List("Key", QStringLiteral("Finish codes"), 24, 8), 1);
+  codes->addWidget(b.Text("LegendText"));
   FieldColumn system(*codes);
   system.Add(b.Caption("CodeLabel"), b.Field("System", 22), b.Prompt("SystemPrompt"));
+  codes->addWidget(b.Text("UnpricedNames"));
+  FieldColumn areas(*codes);
+  areas.Add(b.Caption("AreasLabel"), AreaFields(b));
   below->addLayout(codes, 2);
+  below->addLayout(SourcesOf(b), 3);
   auto* unsure = new QVBoxLayout;
   unsure->addWidget(Section(QStringLiteral("Not sure")));
   unsure->addWidget(b.List("Unsure", QStringLiteral("Cells that are not sure"), 10, 8), 1);

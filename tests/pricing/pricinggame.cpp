@@ -125,6 +125,13 @@ void PricingGame::PutLibrary() {
 }
 
 void PricingGame::WatchDeletions() {
+  // A name that is in no list begins an empty system, whatever file lies under it.
+  form.Description.onKey = [this, then = form.Description.onKey](Key& key) {
+    const QString name = form.Description.Text();
+    if (key.IsEnter() && !form.DescriptionsList.Rows().contains(name, Qt::CaseInsensitive))
+      known_.remove(name.toUpper());
+    then(key);
+  };
   // Of a deleted system nothing is missed, also where the library keeps its file.
   form.SystemDelete.onClick = [this, then = form.SystemDelete.onClick] {
     known_.remove(form.Description.Text().toUpper());
@@ -265,20 +272,24 @@ QString PricingGame::BrokenPrice(bool saved) {
 }
 
 // Whoever types a conversion number reads what will be stored with it. The takeoff unit and the
-// price set their prompts also over a number that came with a direction: the direction holds.
+// price set their prompts also over a number that came with a direction: the direction holds. With
+// no direction a prompt that begins with "How many" is stored as takeoff units, also one for order
+// units (of a system that is named as the unit, of a material that was deleted). A prompt that no
+// unit has set yet asks nothing.
 QString PricingGame::BrokenPrompt() const {
   const MaterialBlock stored = form.inWork.ToStore();
   const QString units = form.Units.Text();
   const QString upo = form.LabelUPO.Caption();
   const QString mnhr = form.LabelMnhr.Caption();
   const Directions& held = form.inWork.directions;
-  const bool ofUnits = upo.startsWith(units + S(" per ")) || upo.startsWith(S("How many per "));
+  const bool ofUnits = upo.startsWith(units + S(" per ")) ||
+                       (upo.startsWith(S("How many per ")) && !upo.endsWith(QLatin1Char(':')));
   const bool ofPrice =
       upo == S("How many per ") + units + ':' && !form.inWork.fields.Typed(MaterialFields::kUpo);
-  if (desk_.Focused() == &form.UPO && RatioAsked(upo, units) != stored.upoTag &&
-      !(!held.Ratio().isEmpty() && (ofUnits || ofPrice)))
+  if (desk_.Focused() == &form.UPO && !upo.isEmpty() && RatioAsked(upo, units) != stored.upoTag &&
+      !(held.Ratio().isEmpty() ? upo.contains(S("(s) per ")) : ofUnits || ofPrice))
     return S("prompt: \"%1\" and %2").arg(upo, stored.upoTag);
-  if (desk_.Focused() == &form.MnhrPO && LaborAsked(mnhr) != stored.mnhrTag &&
+  if (desk_.Focused() == &form.MnhrPO && !mnhr.isEmpty() && LaborAsked(mnhr) != stored.mnhrTag &&
       !(!held.Labor().isEmpty() && mnhr.endsWith(S(" per Manhour:"))))
     return S("prompt: \"%1\" and %2").arg(mnhr, stored.mnhrTag);
   return {};

@@ -13,11 +13,11 @@ NAMES = ("Depot Street Offices", "Wall Paint", "Rubber Base", "HM Door", "Paint"
 class Bid:
     """A bid played to its end with nobody in its way: what all others are held against."""
 
-    def __init__(self, ground, seed=0, files=None, new=0.5):
+    def __init__(self, ground, seed=0, files=None):
         self.files = files or {}
         self.seed = seed
         plain = ground.scratch / f"plain{seed}.scenario"
-        plain.write_text(drawn((HERE / "bid.scenario").read_text(), seed, new))
+        plain.write_text(drawn((HERE / "bid.scenario").read_text(), seed))
         self.scenario = ground.scratch / f"bid{seed}.scenario"
         self.steps = noticed(plain, self.scenario)
         home = ground.new_home()
@@ -38,15 +38,14 @@ class Bid:
         return sum(1 for operation in self.played.log if operation.kind in kinds)
 
 
-def drawn(text, seed, new):
-    """Seed 0 is the bid itself. The others: other amounts, and new names by the chance of `new`."""
+def drawn(text, seed):
+    """Seed 0 is the bid itself. The others have other amounts and names of their own."""
     if seed == 0:
         return text
     chance = random.Random(seed)
     for name in NAMES:
-        if name == NAMES[0] or chance.random() < new:
-            other = f"{name} {seed}" if name != "101" else f"{100 * seed + 1}"
-            text = re.sub(rf"(?im)^enter {name}$", f"enter {other}", text)
+        other = f"{name} {seed}" if name != "101" else f"{100 * seed + 1}"
+        text = re.sub(rf"(?im)^enter {name}$", f"enter {other}", text)
     return re.sub(r"(?m)^enter (\d+\.\d+)$", lambda found: f"enter {float(found[1]) + chance.randrange(9):.2f}", text)
 
 

@@ -48,7 +48,7 @@ class Ground:
 
     def start(self, home, scenario, orders=None, logged=True):
         """The running player; its log is home.log."""
-        environment = dict(os.environ, LD_PRELOAD=self.shim, PROVING_BELOW=str(home) + "/", PROVING_CLASSES="rw",
+        environment = dict(os.environ, LD_PRELOAD=self.shim, PROVING_BELOW=str(home), PROVING_CLASSES="rw",
                            QT_QPA_PLATFORM="offscreen")
         log = Path(str(home) + ".log")
         log.unlink(missing_ok=True)

@@ -16,10 +16,12 @@ def kill(ground, restarts, bid, at, deed):
     return bid.versions.wrong(files, step) + restarts.wrong(files, bid, step)
 
 
-def prove(ground, restarts, report, most, chance, every=False):
-    """`most` kills; with `every` at each operation in turn, else at random ones."""
+def prove(ground, restarts, report, most, chance, every=False, first=0):
+    """`most` kills; with `every` at each operation in turn, else at random ones; `first`: of the bids."""
     done = 0
     for bid in bids(ground):
+        if bid.seed < first:
+            continue
         count = bid.count("rw")
         places = [(at, deed) for at in range(1, count + 1) for deed in ("kill", "half")]
         if not every:
@@ -27,5 +29,7 @@ def prove(ground, restarts, report, most, chance, every=False):
         for at, deed in places[:most - done]:
             done += 1
             report.one(f"kills: bid {bid.seed} AT={at} DO={deed}", kill(ground, restarts, bid, at, deed))
-        if done >= most or report.late():
+            if report.late():
+                return
+        if done >= most:
             return

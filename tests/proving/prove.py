@@ -50,6 +50,7 @@ def main():
     options.add_argument("--seed", type=int, default=1)
     options.add_argument("--seconds", type=float, default=1e9, help="begins no more after so many")
     options.add_argument("--every", action="store_true", help="kills at each operation in turn, not at random ones")
+    options.add_argument("--first", type=int, default=0, help="begins the kills with this bid")
     options.add_argument("--shown", type=int, default=10, help="how many wrong ones are told in full")
     options.add_argument("--words", default="", help="what the figures are called")
     options.add_argument("--figures", help="a file that gets them as a row of a table")
@@ -59,7 +60,7 @@ def main():
     report = Report(given.what, given.seconds, given.shown)
     try:
         if given.what == "kills":
-            kills.prove(ground, restarts, report, given.most, chance, given.every)
+            kills.prove(ground, restarts, report, given.most, chance, given.every, given.first)
         elif given.what == "power":
             power.prove(ground, restarts, report, given.most, chance)
         elif given.what == "two":

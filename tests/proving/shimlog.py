@@ -18,13 +18,13 @@ class Operation:
 
 
 def read(log, home):
-    start, mark = str(home) + "/", str(home).encode()
+    mark = str(home).encode()
     found = []
     for line in log.read_bytes().split(b"\n"):
         parts = line.decode(errors="surrogateescape").split("\t")
         if len(parts) < 7:
             continue
-        path, other = (part.removeprefix(start) for part in parts[4:6])
+        path, other = (part.removeprefix(str(home)).lstrip("/") for part in parts[4:6])
         data = bytes.fromhex(parts[6]).replace(mark, b"{home}")
         found.append(Operation(int(parts[0]), parts[1], parts[2], parts[3], path, other, data))
     return found

@@ -61,7 +61,7 @@ def numbers(files):
 
 def prove(ground, report, most, chance):
     before = Bid(ground).after
-    pair = [Bid(ground, seed, before, new=1) for seed in (1, 2)]
+    pair = [Bid(ground, seed, before) for seed in (1, 2)]
     for _ in range(most):
         home = ground.new_home()
         put(home, before)

@@ -44,6 +44,19 @@ TEST(PlannedRooms, FourEqualWallsAreOneLine) {
   EXPECT_EQ(plan.Lines(), 3);
 }
 
+TEST(PlannedRooms, TheFinishAreasCanBeOthers) {
+  FinishKey key;
+  SetSystemOfCode(key, "P-1", "Paint");
+  SetSystemOfCode(key, "C-1", "Carpet");
+  FinishAreas areas;
+  areas.floor = "FLOORS";
+  areas.walls = "WALL";
+  const RoomPlan plan = PlanRooms({Row({"101", "HALL", "C-1", "", "P-1"})}, key, areas);
+  ASSERT_EQ(plan.rooms[0].lines.size(), 2u);
+  EXPECT_EQ(plan.rooms[0].lines[0].area, "FLOORS");
+  EXPECT_EQ(plan.rooms[0].lines[1].area, "WALL N");
+}
+
 TEST(PlannedRooms, NamesAreTypableAndEachOnce) {
   const RoomPlan plan =
       PlanRooms({Row({"101", "MDF/IDF, WEST"}), Row({"101", "MDF IDF WEST"})}, {});

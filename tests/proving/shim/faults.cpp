@@ -119,7 +119,9 @@ void Operation::Die(const char* how, const void* bytes, size_t count) {
 
 bool IsBelow(const char* path) {
   const std::string& below = TheOrders().below;
-  return path != nullptr && !below.empty() && std::strncmp(path, below.c_str(), below.size()) == 0;
+  if (path == nullptr || below.empty()) return false;
+  if (std::strncmp(path, below.c_str(), below.size()) != 0) return false;
+  return path[below.size()] == '/' || path[below.size()] == '\0';
 }
 
 void LogSaid(const void* bytes, size_t count) {

@@ -4,7 +4,7 @@
 #include <string>
 
 // What the proving ground does to the file operations of a program, as its environment says:
-//   PROVING_BELOW    the folder whose files are looked after; nothing else is touched
+//   PROVING_BELOW    the folder that is looked after with all in it; nothing else is touched
 //   PROVING_LOG      a file that gets one line an operation; its fields have tabs between them
 //   PROVING_DATA     set: the log holds what was written, too (hexadecimal)
 //   PROVING_CLASSES  which operations are counted: r (reading), w (writing), l (looking: stat,
@@ -45,7 +45,7 @@ class Operation {
   int error_ = 0;
 };
 
-// Whether the whole path lies in the folder that is looked after.
+// Whether the whole path is the folder that is looked after or lies in it.
 bool IsBelow(const char* path);
 // A line of the program's own standard output, so that the log tells what came before what.
 void LogSaid(const void* bytes, size_t count);
