@@ -43,7 +43,7 @@ void FileMemory::Add(const QString& path, Entry entry) {
     characters_ = 0;
   }
   characters_ += entry.text.size();
-  young_.insert(path, std::move(entry));
+  young_.emplace(path, std::move(entry));
 }
 
 }  // namespace tamo

@@ -11,7 +11,6 @@ OpenSystem::OpenSystem(const Kit& kit, SystemControls& system, LookControls& loo
                        SystemBlocks& blocks, MaterialInWork& material, LaborPrice& price,
                        QString& lineColor)
     : store(kit),
-      kit_(kit),
       system_(system),
       look_(look),
       blocks_(blocks),

@@ -41,7 +41,6 @@ class OpenSystem {
   SystemStore store;
 
  private:
-  const Kit kit_;
   SystemControls& system_;
   LookControls& look_;
   SystemBlocks& blocks_;

@@ -11,7 +11,7 @@ namespace {
 constexpr int kSystemWidth = 20;
 
 QString NameProblem(const QString& name) {
-  const QString refusal = NameRefusal(name);
+  QString refusal = NameRefusal(name);
   if (!refusal.isEmpty()) return refusal;
   if (name.size() > kSystemWidth || name.contains(u',') || name.contains(u'"')) {
     return QStringLiteral(
@@ -34,7 +34,7 @@ QString InLibrary(const QStringList& systems, const QString& name) {
 
 QString MakeEmptySystem(Files& files, const SharedFields& shared, const QString& name,
                         const QString& units) {
-  const QString problem = NameProblem(name);
+  QString problem = NameProblem(name);
   if (!problem.isEmpty()) return problem;
   QStringList systems;
   ReadNames(files, shared, NameList::Systems, systems);

@@ -25,6 +25,7 @@ void Settle(const std::vector<double>& values, double& usual, double& off) {
   if (values.size() < 2) return;
   usual = MiddleOf(values);
   std::vector<double> distances;
+  distances.reserve(values.size());
   for (const double value : values) distances.push_back(std::abs(value - usual));
   off = MiddleOf(distances);
 }

@@ -73,11 +73,6 @@ QRect RowsView::TickRect(int row) const {
   return {rect.left() + kGrid, rect.top() + (rect.height() - kTick) / 2, kTick, kTick};
 }
 
-void RowsView::SetEmptyText(const QString& text) {
-  emptyText_ = text;
-  viewport()->update();
-}
-
 void RowsView::SetFound(const QString& text) {
   if (found_ == text) return;
   found_ = text;
@@ -141,7 +136,9 @@ void RowsView::scrollTo(const QModelIndex& index, ScrollHint hint) {
   }
 }
 
+// QListView would lay out each row; here a row's place is computed.
 void RowsView::doItemsLayout() {
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call)
   QAbstractItemView::doItemsLayout();
 }
 
@@ -154,6 +151,7 @@ void RowsView::updateGeometries() {
   horizontalScrollBar()->setPageStep(viewport()->width());
   horizontalScrollBar()->setSingleStep(2 * kGrid);
   horizontalScrollBar()->setRange(0, ContentsWidth() - viewport()->width());
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call)
   QAbstractItemView::updateGeometries();
 }
 
@@ -223,15 +221,7 @@ void RowsView::PaintRows(QPainter& painter, const QRect& part) const {
 
 void RowsView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
-  if (model_->rowCount() != 0) {
-    PaintRows(painter, event->rect());
-    return;
-  }
-  if (emptyText_.isEmpty()) return;
-  painter.setPen(CurrentLook().quiet);
-  painter.setFont(QApplication::font());
-  painter.drawText(viewport()->rect().adjusted(2 * kGrid, 2 * kGrid, -2 * kGrid, -2 * kGrid),
-                   Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, emptyText_);
+  PaintRows(painter, event->rect());
 }
 
 // Another font has another row height.

@@ -26,8 +26,6 @@ class RowsView : public QListView {
   void SetWalked(int row);
   QRect TickRect(int row) const;  // in the viewport
 
-  // A quiet text that stands in a list without rows and says what to do.
-  void SetEmptyText(const QString& text);
   // Rows that hold this text are marked; "" for none.
   void SetFound(const QString& text);
   const QString& Found() const { return found_; }
@@ -67,7 +65,6 @@ class RowsView : public QListView {
   int rowHeight_ = 1;  // of the present font
   int selected_ = -1;
   int walked_ = -1;
-  QString emptyText_;
   QString found_;
 };
 

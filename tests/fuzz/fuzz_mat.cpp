@@ -36,11 +36,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   // Whatever stands in the file, one direction of each pair is stored, and it can be turned.
   Directions directions;
   for (const std::optional<QString>& standing : {std::optional<QString>(), {block.upoTag}}) {
-    Must(IsRatioTag(directions.RatioToStore(prompts, names, standing)));
+    Must(IsRatioTag(directions.RatioToStore(prompts, names, standing, false)));
     Must(IsLaborTag(directions.LaborToStore(prompts, names, standing)));
   }
   directions.TakeBlock(block);
-  directions.TurnRatio(prompts, names, block.upoTag);
+  directions.TurnRatio(prompts, names);
   directions.TurnLabor(prompts, names, block.mnhrTag);
   Must(IsRatioTag(directions.Ratio()) && IsLaborTag(directions.Labor()));
   return 0;

@@ -78,8 +78,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   Markups markups;
   markups.LOH = markups.MOH = QStringLiteral(".10");
   for (const bool whole : {false, true}) {
-    const ReportSource source{
-        files, {QStringLiteral("/p/"), QStringLiteral("/")}, nullptr, {}, whole};
+    const ReportSource source{files, {QStringLiteral("/p/"), QStringLiteral("/")}, {}, whole};
     for (int report = 0; report < 8; ++report) {
       try {
         if (Make(report, source, markups).lines.isEmpty()) std::abort();
