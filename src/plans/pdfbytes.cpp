@@ -1,5 +1,6 @@
 #include "plans/pdfbytes.h"
 
+#include <QList>
 #include <cstring>
 
 namespace tamo {

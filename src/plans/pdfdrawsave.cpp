@@ -80,8 +80,8 @@ int PdfDraw::SaveAs(const QString& given) {
   if (saving_) return SaveFailed(given, kFileOther, QStringLiteral("it is just being saved"));
   saving_ = true;
   const int error = SaveNow(given);
-  saving_ = false;
   Raise(onSaveProgress, 100);
+  saving_ = false;
   return error;
 }
 
