@@ -68,8 +68,8 @@ def hexed(data):
     return b"<" + data.hex().encode() + b">"
 
 
-def protected(objects, user=b"", owner=b"owner", rights=-4):
-    """The same plan encrypted; only streams may hold text."""
+def protected(objects, user=b"", owner=b"owner", rights=-4, apart=False):
+    """The same plan encrypted; only streams may hold text. What opens it stands in the trailer or in an object apart."""
     padded = (user + PADDING)[:32]
     kept = rounds(md5((owner + PADDING)[:32], 51), padded, 20)
     key = md5(padded + kept + struct.pack("<i", rights) + FILE_ID, 51)
@@ -82,14 +82,17 @@ def protected(objects, user=b"", owner=b"owner", rights=-4):
             own = md5(key + struct.pack("<i", number)[:3] + b"\0\0")
             body = head + mark + rc4(own, data) + b"\nendstream"
         out[number] = body
-    entry = b"/Encrypt<</Filter/Standard/V 2/R 3/Length 128/P %d/O%s/U%s>>/ID[%s%s]" % (
-        rights, hexed(kept), hexed(check), hexed(FILE_ID), hexed(FILE_ID))
-    return pdf(out, trailer=entry)
+    opens = b"<</Filter/Standard/V 2/R 3/Length 128/P %d/O%s/U%s>>" % (rights, hexed(kept), hexed(check))
+    if apart:
+        out[max(out) + 1] = opens
+        opens = b" %d 0 R" % max(out)
+    return pdf(out, trailer=b"/Encrypt" + opens + b"/ID[%s%s]" % (hexed(FILE_ID), hexed(FILE_ID)))
 
 
 def protections():
     save("protected.pdf", protected(plan()))
     save("protected_damaged.pdf", protected(plan()) + b"x" * 3000)
+    save("protected_apart_damaged.pdf", protected(plan(), apart=True) + b"x" * 3000)
     save("password.pdf", protected(plan(), user=b"plan"))
     save("owner_empty.pdf", protected(plan(), user=b"plan", owner=b""))
     save("notes_forbidden.pdf", protected(plan(), rights=-4 & ~32))

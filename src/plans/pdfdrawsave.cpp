@@ -291,10 +291,12 @@ int PdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
   std::vector<Mark> marks;
   QByteArray bytes;
   error = WriteRepaired(handle, problem);
+  if (error == kNoError) problem = QStringLiteral("it is too damaged to hold marks");
   if (error == kNoError) anew = OpenAside(unfinished, error, marks);
   if (error == kNoError && !changes.Empty()) error = BuildUpdate(*anew, changes, bytes);
   if (error == kNeedsRewrite) error = kFileOther;
   if (error == kNoError) {
+    problem.clear();
     error = DoAside(WriteBytes(handle, bytes), kCopyPatience);
   }
   if (error != kNoError) {

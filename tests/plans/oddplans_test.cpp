@@ -80,6 +80,7 @@ PlanView Part(double pixelsPerPoint, int left, int top, int width, int height) {
 TEST_F(OddPlans, ProtectedPlansAreMarkedSavedAndOpenedAgain) {
   ExpectMarked("protected.pdf");
   ExpectMarked("protected_damaged.pdf");
+  ExpectMarked("protected_apart_damaged.pdf");
   ExpectMarked("password.pdf", "plan");
 }
 
