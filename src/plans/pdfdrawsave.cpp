@@ -1,9 +1,9 @@
 #include <algorithm>
-#include <atomic>
 #include <utility>
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "common/replacement.h"
 #include "plans/plansession.h"
 
 // How the viewer saves. A save costs what changed: nothing when no mark is new, an incremental
@@ -12,23 +12,18 @@
 namespace tamo {
 namespace {
 
-constexpr int kBuildPatience = 20000;
-constexpr int kRepairPatience = 120000;
 constexpr qint64 kCopyChunk = qint64(1) << 20;
-constexpr int kCopyPatience = 600000;
 constexpr qint64 kCompared = 2048;
-// Instead of an error number: nothing can be appended to the plan, it has to be written anew.
-constexpr int kNeedsRewrite = -1;
+
+QString PartWritten(const QString& path, int error) {
+  return QStringLiteral(
+             "The plan %1 was saved in part only: %2. The part is cut off again when the plan is "
+             "next opened; the marks stay on the screen and are saved with the next save that "
+             "succeeds.")
+      .arg(FileNameOf(path), ReasonText(error));
+}
 
 }  // namespace
-
-struct PdfDraw::Progress {
-  std::mutex writing;
-  bool left = false;  // nobody waits for it any more: nothing may be written
-  std::atomic<int> perCent = 0;
-  int error = kFileOther;
-  QString problem;  // in words, where the work has some
-};
 
 int PdfDraw::DoAside(const SavePart& work, int patience, QString* problem) {
   const auto progress = std::make_shared<Progress>();
@@ -76,13 +71,21 @@ bool PdfDraw::HasUnsavedMarks() const {
   return session_ != nullptr && !Changes().Empty();
 }
 
-int PdfDraw::SaveAs(const QString& given) {
+int PdfDraw::SaveAlone(const QString& given, const std::function<int()>& save) {
   if (saving_) return SaveFailed(given, kFileOther, QStringLiteral("it is just being saved"));
   saving_ = true;
-  const int error = SaveNow(given);
+  const int error = save();
   Raise(onSaveProgress, 100);
   saving_ = false;
   return error;
+}
+
+int PdfDraw::SaveAs(const QString& given) {
+  return SaveAlone(given, [&] { return SaveNow(given); });
+}
+
+int PdfDraw::AddTo(const QString& path) {
+  return SaveAlone(path, [&] { return AddNow(path); });
 }
 
 int PdfDraw::SaveNow(const QString& given) {
@@ -100,17 +103,34 @@ int PdfDraw::SaveNow(const QString& given) {
   const MarkChanges changes = Changes();
   if (same && changes.Empty()) {
     path_ = given;
-    return kNoError;
+    return Confirm(path);
   }
   if (disk.IsFolder(path) || (disk.Exists(path) && !disk.CanWrite(path))) {
     return SaveFailed(path, kNoAccess);
   }
   if (const int error = WriteChanges(path, same, changes)) return error;
-  session_->savedNames.clear();
-  for (const Mark& mark : MarksAsDrawn()) session_->savedNames.insert(mark.name);
+  MarksAreSaved();
   path_ = given;
   problem_.clear();
+  return Confirm(path);
+}
+
+int PdfDraw::AddNow(const QString& path) {
+  if (session_ == nullptr || !FinishOpening(kBuildPatience)) {
+    return SaveFailed(path, kFileOther, QStringLiteral("it is still being opened"));
+  }
+  if (!files_.GetDisk().CanWrite(path)) return SaveFailed(path, kNoAccess);
+  const MarkChanges changes = Changes();
+  if (const int error = TakeFromDisk(path, changes)) return error;
+  MarksAreSaved();
+  path_ = path;
+  problem_.clear();
   return kNoError;
+}
+
+void PdfDraw::MarksAreSaved() {
+  session_->savedNames.clear();
+  for (const Mark& mark : MarksAsDrawn()) session_->savedNames.insert(mark.name);
 }
 
 // Writes to an open file, down to the disk.
@@ -161,16 +181,19 @@ int PdfDraw::Append(const QString& path, const MarkChanges& changes) {
   if (error != kNoError) return error;
   Disk& disk = files_.GetDisk();
   int handle = -1;
+  bool takenBack = true;
   error = disk.OpenAtEnd(path, handle);
   if (error == kNoError) {
     error = DoAside(WriteBytes(handle, bytes), kCopyPatience);
     // What part of it arrived goes again; should that fail, too, the next opening cuts it.
-    if (error != kNoError) disk.Truncate(handle, session_->size);
+    if (error != kNoError) takenBack = disk.Truncate(handle, session_->size) == kNoError;
     disk.Close(handle);  // all is on the disk already, or taken back
   }
   if (error != kNoError) {
     ForgetUpdate();
-    return SaveFailed(path, error);
+    SaveFailed(path, error);
+    if (!takenBack) problem_ = PartWritten(path, error);
+    return error;
   }
   session_->size += bytes.size();
   return kNoError;
@@ -193,17 +216,24 @@ PdfDraw::SavePart PdfDraw::CopyBytes(int handle, const QByteArray& more) const {
   };
 }
 
-// Ends a copy that is on the disk: under its name. A failure leaves what stood there.
-int PdfDraw::FinishCopy(int handle, int error, const QString& unfinished, const QString& path) {
-  Disk& disk = files_.GetDisk();
-  const int closing = disk.Close(handle);
-  if (error == kNoError) error = closing;
-  if (error == kNoError) error = disk.Rename(unfinished, path);
-  if (error != kNoError) {
-    disk.RemoveFile(unfinished);
-    return SaveFailed(path, error);
+// Ends a copy: on the disk, then under its name. A failure leaves what stood there.
+int PdfDraw::FinishCopy(Replacement& copy, int error, const QString& path) {
+  error = copy.Finish(error);
+  unsure_ = error == kNotConfirmed ? path : QString();
+  return error == kNoError || error == kNotConfirmed ? kNoError : SaveFailed(path, error);
+}
+
+// The marks stand in the file, but the device did not say so: it is asked once more.
+int PdfDraw::Confirm(const QString& path) {
+  if (unsure_ != path) return kNoError;
+  if (files_.GetDisk().SyncFolder(FolderOf(path)) != kNoError) {
+    problem_ = QStringLiteral(
+                   "The plan %1 is saved with its marks, but the device did not confirm it: a "
+                   "power cut could bring back the old state. It is asked again at every save.")
+                   .arg(FileNameOf(path));
+    return kNotConfirmed;
   }
-  disk.SyncFolder(FolderOf(path));
+  unsure_.clear();
   return kNoError;
 }
 
@@ -213,19 +243,18 @@ int PdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
   if (!changes.Empty()) error = BuildUpdate(*session_, changes, bytes);
   if (error == kNeedsRewrite) return WriteAnew(path, changes);
   if (error != kNoError) return error;
-  const QString unfinished = path + QLatin1String(kUnfinishedEnding);
   Disk& disk = files_.GetDisk();
-  int handle = -1;
-  error = disk.OpenNew(unfinished, handle);
+  Replacement copy(disk, path);
+  error = copy.Begin();
   if (error == kNoError) {
-    error = DoAside(CopyBytes(handle, bytes), kCopyPatience);
-    error = FinishCopy(handle, error, unfinished, path);
+    error = DoAside(CopyBytes(copy.Handle(), bytes), kCopyPatience);
+    error = FinishCopy(copy, error, path);
   } else {
-    SaveFailed(path, error == kFileNotFound ? kPathNotFound : error);
+    SaveFailed(path, error);
   }
   if (error != kNoError) {
     if (!changes.Empty()) ForgetUpdate();
-    return error == kFileNotFound ? kPathNotFound : error;
+    return error;
   }
   session_->size += bytes.size();
   // From now on the copy is read, so the plan stays even when its source goes.
@@ -237,94 +266,6 @@ int PdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
 // The update that was built did not reach the disk.
 void PdfDraw::ForgetUpdate() {
   session_->thread->Run([plan = session_->plan] { plan->ForgetUpdate(); }, kBuildPatience);
-}
-
-// Writes the repaired plan to an open file. When that takes too long it is left alone and can't
-// touch the file any more.
-int PdfDraw::WriteRepaired(int handle, QString& problem) {
-  problem = QStringLiteral("it takes too long to repair");
-  return DoAside(
-      [handle, disk = &files_.GetDisk(), plan = session_->plan,
-       size = std::max(session_->size, qint64(1))](Progress& progress) {
-        qint64 written = 0;
-        const auto sink = [&](const QByteArray& part) {
-          const std::lock_guard<std::mutex> guard(progress.writing);
-          written += part.size();
-          progress.perCent = static_cast<int>(std::min(qint64(90), written * 90 / size));
-          return progress.left ? kFileOther : disk->Write(handle, part);
-        };
-        QString words;
-        const int error = plan->WriteWhole(sink, words);
-        const std::lock_guard<std::mutex> guard(progress.writing);
-        progress.problem = words;
-        return error;
-      },
-      kRepairPatience, &problem);
-}
-
-// Opens a plan that is not shown (yet).
-std::unique_ptr<PdfDraw::Session> PdfDraw::OpenAside(const QString& path, int& error,
-                                                     std::vector<Mark>& marks) {
-  std::unique_ptr<Session> aside = NewSession(path, password_, error);
-  const auto opening = std::exchange(opening_, nullptr);
-  if (aside == nullptr) return nullptr;
-  // The opening is the first of the thread's jobs.
-  aside->thread->Run([] {}, kBuildPatience, [this] { Raise(onSaveProgress, 90); });
-  const std::lock_guard<std::mutex> lock(opening->mutex);
-  error = opening->done ? opening->contents.error : kFileOther;
-  if (error != kNoError) return nullptr;
-  aside->sizes = std::move(opening->contents.sizes);
-  marks = std::move(opening->contents.marks);
-  for (const Mark& mark : marks) aside->savedNames.insert(mark.name);
-  return aside;
-}
-
-// A damaged plan can't be added to: it is written anew, repaired, and the marks are added to that.
-int PdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
-  const QString unfinished = path + QLatin1String(kUnfinishedEnding);
-  Disk& disk = files_.GetDisk();
-  int handle = -1;
-  int error = disk.OpenNew(unfinished, handle);
-  if (error != kNoError) return SaveFailed(path, error == kFileNotFound ? kPathNotFound : error);
-  QString problem;
-  std::unique_ptr<Session> anew;
-  std::vector<Mark> marks;
-  QByteArray bytes;
-  error = WriteRepaired(handle, problem);
-  if (error == kNoError) problem = QStringLiteral("it is too damaged to hold marks");
-  if (error == kNoError) anew = OpenAside(unfinished, error, marks);
-  if (error == kNoError && !changes.Empty()) error = BuildUpdate(*anew, changes, bytes);
-  if (error == kNeedsRewrite) error = kFileOther;
-  if (error == kNoError) {
-    problem.clear();
-    error = DoAside(WriteBytes(handle, bytes), kCopyPatience);
-  }
-  if (error != kNoError) {
-    disk.Close(handle);
-    disk.RemoveFile(unfinished);
-    return SaveFailed(path, error, problem);
-  }
-  error = FinishCopy(handle, error, unfinished, path);
-  if (error != kNoError) return error;
-  anew->size += bytes.size();
-  session_ = std::move(anew);
-  StartPainting();
-  ViewChanged();  // the new painter learns what is in sight
-  return kNoError;
-}
-
-// Another program has written to the plan: its state is taken, and what changed here goes on top.
-int PdfDraw::TakeFromDisk(const QString& path, const MarkChanges& changes) {
-  int error = kNoError;
-  std::vector<Mark> marks;
-  std::unique_ptr<Session> fresh = OpenAside(path, error, marks);
-  if (fresh == nullptr) return SaveFailed(path, error);
-  session_ = std::move(fresh);
-  StartPainting();
-  std::erase_if(marks, [&](const Mark& mark) { return changes.removed.contains(mark.name); });
-  marks.insert(marks.end(), changes.added.begin(), changes.added.end());
-  FillPlan(session_->sizes, std::move(marks));
-  return changes.Empty() ? kNoError : Append(path, changes);
 }
 
 }  // namespace tamo

@@ -45,15 +45,20 @@ void PlanOpener::EnterPlanLocation() {
 
 bool PlanOpener::Open(const QString& path) {
   const QString file = kit_.files.Resolved(NativePath(path));
+  form_.LockedPlan.Hide();
+  parts_.copy.Leave();
+  if (parts_.copy.ComeBack(file)) {
+    parts_.scale.Show();
+    return true;
+  }
   Disk& disk = kit_.files.GetDisk();
   if (!disk.Exists(file) || disk.IsFolder(file)) {
     form_.PlanProblem.SetCaption(
         QStringLiteral("There is no plan %1. Pick it again under Files.").arg(file));
     return false;
   }
-  parts_.copy.Leave();
-  form_.LockedPlan.Hide();
   const int error = viewer_.OpenFile(file, password_);
+  parts_.copy.Came();
   form_.PlanProblem.SetCaption(error == kNoError ? viewer_.Caution() : viewer_.Problem());
   if (viewer_.WantsPassword()) AskPassword(path);
   parts_.scale.Show();
