@@ -122,6 +122,7 @@ int Files::SaveLines(const QString& path, const QStringList& lines) {
 }
 
 int Files::SaveText(const QString& path, const QString& text) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   if (!pending_.empty()) RetryPending(path);
   const int error = ReplaceInItsFolder(path, text.toUtf8());
   Pending* known = FindPending(path);
@@ -154,6 +155,7 @@ void Files::RetryPending(const QString& except) {
   const auto before = pending_.size();
   std::erase_if(pending_, [&](Pending& pending) {
     if (pending.path.compare(except, Qt::CaseInsensitive) == 0) return false;
+    if (mayWrite && !mayWrite(pending.path)) return false;
     pending.reason =
         pending.save ? pending.save() : ReplaceInItsFolder(pending.path, pending.text.toUtf8());
     return pending.reason == kNoError;
@@ -184,6 +186,7 @@ bool Files::Exists(const QString& path) {
 }
 
 int Files::Remove(const QString& path) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   const Pending* known = FindPending(path);
   if (known != nullptr) {
     pending_.erase(pending_.begin() + (known - pending_.data()));
@@ -193,6 +196,7 @@ int Files::Remove(const QString& path) {
 }
 
 int Files::MakeFolder(const QString& path) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   const QString bare = BareFolder(path);
   const int error = disk_.MakeFolder(bare);
   if (error == kNoError) MakeLasting(bare);

@@ -70,6 +70,10 @@ class Files {
   QString Notice() const;
   std::function<void()> onPendingChanged;  // set by whoever shows the notice
 
+  // Asked before a file is saved or removed, or a folder made. False: another program has it in
+  // hand; nothing is done, the answer is 75, and nothing waits.
+  std::function<bool(const QString& path)> mayWrite;
+
   // Removes what a crash left of half-made saves directly in `folder`.
   void Sweep(const QString& folder);
 
