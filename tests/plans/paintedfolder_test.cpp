@@ -1,5 +1,6 @@
 #include <QDirIterator>
 #include <chrono>
+#include <condition_variable>
 #include <mutex>
 #include <thread>
 
