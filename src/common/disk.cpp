@@ -16,6 +16,7 @@
 #include <set>
 
 #include "common/failure.h"
+#include "common/filelook.h"
 
 // Plain system calls: every write, sync and rename is checked, nothing is buffered behind our back.
 
@@ -159,6 +160,11 @@ int RealDisk::OpenNew(const QString& path, int& handle) {
   return Result(handle, path);
 }
 
+int RealDisk::OpenExclusive(const QString& path, int& handle) {
+  handle = ::open(Native(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  return handle < 0 && errno == EEXIST ? kFileExists : Result(handle, path);
+}
+
 int RealDisk::OpenAtEnd(const QString& path, int& handle) {
   handle = ::open(Native(path).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
   return Result(handle, path);
@@ -184,6 +190,10 @@ int RealDisk::Sync(int handle) {
 }
 int RealDisk::Close(int handle) {
   return Result(::close(handle), {});
+}
+
+void RealDisk::TakeOver(int handle, const QString& from) {
+  TakeOverLook(handle, Native(from));
 }
 
 int RealDisk::Rename(const QString& from, const QString& to) {
@@ -221,6 +231,23 @@ bool RealDisk::IsFolder(const QString& path) {
 bool RealDisk::IsLink(const QString& path) {
   struct stat info {};
   return ::lstat(Native(path).constData(), &info) == 0 && S_ISLNK(info.st_mode);
+}
+
+QString RealDisk::FollowLink(const QString& path) {
+  constexpr int kLongestChain = 40;
+  QString end = path;
+  for (int i = 0; i < kLongestChain && IsLink(end); ++i) {
+    const QString to = QFile::symLinkTarget(end);
+    if (to.isEmpty()) break;
+    end = to;
+  }
+  return end;
+}
+
+qint64 RealDisk::SecondsSinceWritten(const QString& path) {
+  struct stat info {};
+  if (::lstat(Native(path).constData(), &info) != 0) return -1;
+  return std::max<qint64>(0, ::time(nullptr) - info.st_mtim.tv_sec);
 }
 
 bool RealDisk::CanWrite(const QString& path) {

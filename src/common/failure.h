@@ -28,10 +28,13 @@ inline constexpr int kOverflow = 6;   // a result that no number holds
 inline constexpr int kSubscript = 9;  // a row that does not exist
 inline constexpr int kDivisionByZero = 11;
 inline constexpr int kFileNotFound = 53;
-inline constexpr int kFileOther = 57;  // any other failure of the device
+inline constexpr int kFileOther = 57;   // any other failure of the device
+inline constexpr int kFileExists = 58;  // a new file was to be made where one is already
 inline constexpr int kDiskFull = 61;
 inline constexpr int kPastEnd = 62;   // a read past the end of a file
 inline constexpr int kNoAccess = 75;  // no right to read or write, or a folder in the file's place
 inline constexpr int kPathNotFound = 76;  // the folder of the file does not exist
+// A save is done, but the device did not confirm that it outlives a power cut.
+inline constexpr int kNotConfirmed = 1002;
 
 }  // namespace tamo

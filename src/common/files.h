@@ -70,14 +70,18 @@ class Files {
   QString Notice() const;
   std::function<void()> onPendingChanged;  // set by whoever shows the notice
 
+  // Asked before a file is saved or removed, or a folder made. False: another program has it in
+  // hand; nothing is done, the answer is 75, and nothing waits.
+  std::function<bool(const QString& path)> mayWrite;
+
   // Removes what a crash left of half-made saves directly in `folder`.
   void Sweep(const QString& folder);
 
  private:
   int Replace(const QString& path, const QByteArray& bytes);
-  int WriteWhole(const QString& path, const QByteArray& bytes);
   int ReplaceInItsFolder(const QString& path, const QByteArray& bytes);
   int MakeMissingFolders();
+  void MakeLasting(const QString& folder);
   void RetryPending(const QString& except);
   Pending* FindPending(const QString& path);
   Pending* FindPendingText(const QString& path);
@@ -87,9 +91,6 @@ class Files {
   std::vector<Pending> pending_;
   QStringList missingFolders_;
 };
-
-// The ending of the temporary files of half-made saves.
-inline constexpr char kUnfinishedEnding[] = ".tamo-unfinished";
 
 // What an error number of a save means, in words: "the disk is full".
 QString ReasonText(int number);

@@ -1,5 +1,9 @@
 #include "program/shell.h"
 
+#include <algorithm>
+
+#include "common/failure.h"
+
 namespace tamo {
 
 void Shell::ShowMenus(Form& form, std::initializer_list<const char*> names, bool shown) {
@@ -17,14 +21,22 @@ void Shell::EnterMode(int mode) {
       online);
   ShowMenus(ost_, {"Spacer2"}, !online);
   if (online) ShowMenus(ost_, {"Exit"}, true);
-  ost_.SetCaption(online ? QStringLiteral("Digital Sheetwell Beta 1.4")
-                         : QStringLiteral("Digital Plan Takeoff"));
   ShowMenus(main_,
             {"Project", "Pricing2", "Estimate", "Reports1", "Settings1", "Docs1", "Exit", "OST1"},
             !online);
-  main_.SetCaption(online ? QStringLiteral("Projects") : QStringLiteral("Estimating Beta 1.4"));
+  ShowTitles();
   BringUpShell();
   if (!online && settings_.Visible()) settings_.Show(&main_);
+}
+
+void Shell::ShowTitles() {
+  const QString& note = kit_.shared.TitleNote;
+  const QString behind = note.isEmpty() ? QString() : QStringLiteral(" - ") + note;
+  ost_.SetCaption((Online() ? QStringLiteral("Digital Sheetwell Beta 1.4")
+                            : QStringLiteral("Digital Plan Takeoff")) +
+                  behind);
+  main_.SetCaption((Online() ? QStringLiteral("Projects") : QStringLiteral("Estimating Beta 1.4")) +
+                   behind);
 }
 
 // The shell is shown before the other form goes, so that no third window comes to the front in
@@ -65,7 +77,16 @@ bool Shell::MayEnd() {
   const auto& pending = kit_.files.PendingSaves();
   if (pending.empty() || kit_.files.TryAgain()) return true;
   QString files;
+  const bool allStand = std::all_of(pending.begin(), pending.end(), [](const Files::Pending& save) {
+    return save.reason == kNotConfirmed;
+  });
   for (const Files::Pending& save : pending) files += QStringLiteral("\n") + save.path;
+  if (allStand) {
+    return kit_.desk.GetMessages().Ask(
+        QStringLiteral("These files are saved, but the device did not confirm it, so that a power "
+                       "cut could bring back their old state:%1\n\nEnd the program all the same?")
+            .arg(files));
+  }
   return kit_.desk.GetMessages().Ask(
       QStringLiteral("These files could not be saved, because %1:%2\n\nEnd the program and lose "
                      "what they would hold?")

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "records/datafolder.h"
+
 namespace tamo::player {
 
 Machine::Machine(const QString& programFolder, const QString& homeFolder)
@@ -60,6 +62,7 @@ QStringList Machine::Everything(const QString& folder) {
                     QDirIterator::Subdirectories);
   while (each.hasNext()) {
     const QString path = each.next();
+    if (each.fileName() == QLatin1String(kInUseName)) continue;
     const QFileInfo info = each.fileInfo();
     found += root.relativeFilePath(path) +
              (info.isDir() && !info.isSymLink() ? QStringLiteral("/") : QString());
