@@ -278,12 +278,7 @@ int Files::MakeMissingFolders() {
 }
 
 void Files::Sweep(const QString& folder) {
-  const QString bare = BareFolder(folder);
-  for (const QString& name : disk_.Names(bare)) {
-    if (!name.endsWith(QLatin1String(kUnfinishedEnding))) continue;
-    const QString path = InFolder(bare, name);
-    if (LeftByTheDead(name, disk_.SecondsSinceWritten(path))) disk_.RemoveFile(path);
-  }
+  SweepUnfinished(disk_, BareFolder(folder));
 }
 
 }  // namespace tamo

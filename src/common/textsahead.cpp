@@ -35,7 +35,7 @@ void TextsAhead::ReadAhead() {
   size_t at = 0;
   for (;;) {
     size_t next = next_;
-    for (; at >= next + pace_.ahead && !stop_; next = next_) next_.wait(next);
+    for (; at + 1 >= next + pace_.ahead && !stop_; next = next_) next_.wait(next);
     at = std::max(at + 1, next + pace_.lead);
     if (stop_ || at >= slots_.size()) return;
     Slot& slot = slots_[at];
