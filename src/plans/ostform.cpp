@@ -101,6 +101,7 @@ void OSTForm::BindViewer() {
   viewer_.onMousePressed = event([this] {
     kit_.desk.Focus(picPdfDraw);
     measure_.WarnOfMissingScale();
+    if (onPlanPressed) onPlanPressed();
   });
   viewer_.onEnterKey = event([this] { EnterOnPlan(); });
   viewer_.onProblem = event([this](const QString& text) { PlanLost(text); });
