@@ -6,6 +6,7 @@
 #include <thread>
 
 #include "common/files.h"
+#include "schedule/finishcodes.h"
 
 namespace tamo {
 namespace {
@@ -25,7 +26,10 @@ SheetRead Read(const SheetToRead& sheet, const std::atomic<bool>& stop) {
   ScheduleReading reading =
       ReadSchedule(page, sheet.box, sheet.before.has_value() ? &*sheet.before : nullptr);
   SheetRead read = {reading.problem, std::move(reading.parts), {}};
-  if (sheet.withLegend && read.problem.isEmpty() && !stop) read.legend = LegendOf(FindTables(page));
+  if (sheet.withLegend && read.problem.isEmpty() && !stop) {
+    read.legend = LegendOf(FindTables(page));
+    read.legend.merge(LegendBeside(page, CodesOf(FinishRowsOf(read.parts)), read.parts));
+  }
   return read;
 }
 
