@@ -99,6 +99,7 @@ void ScheduleForm::LoadKey() {
 }
 
 void ScheduleForm::ShowAll() {
+  LoadAreas();
   made_ = {};
   TakeBack.SetEnabled(false);
   MakeRows();

@@ -78,6 +78,8 @@ class ScheduleForm : public Form {
   void BindSources();
   void BindAreas();
   FinishAreas Areas() const;
+  void LoadAreas();
+  void KeepAreas();
   void TakeSystem(const QString& system);
   void MakeSystem();
   void ShowUnpriced(const RoomPlan& plan);
@@ -122,6 +124,7 @@ class ScheduleForm : public Form {
   FinishKey key_;
   Legend legend_;  // of the sheets that were read
   MadeRooms made_;
+  bool areasLoaded_ = false;
   bool busy_ = false;     // a sheet is being read, or rooms are being made
   bool clicked_ = false;  // the selection follows a click on the drawing: the frame stays away
 };

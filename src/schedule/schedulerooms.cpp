@@ -28,6 +28,7 @@ void ScheduleForm::WriteRooms() {
   if (onDone) onDone(made_.problem.isEmpty());
   busy_ = false;
   KeepSchedule(plan);
+  KeepAreas();
   TakeBack.SetEnabled(!made_.rooms.empty());
   if (!made_.problem.isEmpty()) kit_.desk.GetMessages().Tell(made_.problem);
   Summary.SetCaption(QStringLiteral("%1 rooms and %2 lines made, %3 codes left out. %4")
