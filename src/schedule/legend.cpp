@@ -78,8 +78,9 @@ void TakeTextLine(const TextLine& line, const QStringList& codes,
 Legend LegendBeside(const PageContent& page, const QStringList& codes,
                     const std::vector<ScheduleTable>& schedule) {
   Legend legend;
-  const SheetDrawing drawing = DrawingOf(page);
+  SheetDrawing drawing = DrawingOf(page);
   if (drawing.words.size() > kMostWords) return legend;
+  drawing.rules.clear();  // a code and its meaning are read across the rules between them
   for (const TextLine& line : LinesOf(drawing)) TakeTextLine(line, codes, schedule, legend);
   return legend;
 }
