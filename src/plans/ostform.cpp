@@ -106,6 +106,7 @@ void OSTForm::BindViewer() {
   viewer_.onMousePressed = event([this] {
     kit_.desk.Focus(picPdfDraw);
     measure_.WarnOfMissingScale();
+    if (onPlanPressed) onPlanPressed();
   });
   viewer_.onReservation = [this](const QString& reservation) {
     return kit_.platform.messages.Ask(reservation +

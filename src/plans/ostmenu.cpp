@@ -46,6 +46,7 @@ constexpr Row kShell[] = {
     {"ProjectSupport", "&PM Support", "Reports1"},
     {"PMOFile", "&Build PMO File", "ProjectSupport"},
     {"PMFFile", "&Build PMF File", "ProjectSupport"},
+    {"ScheduleCheck", "Schedule &Check", "Reports1"},
     {"Spacer1", kSpace, ""},
 };
 

@@ -101,6 +101,8 @@ void Menus::BindReports() {
   });
   OnBoth(forms_.main.menu.BillOfMaterial, "BillofMaterial", Guard::Project,
          [this] { ShowReport([this] { forms_.reports.BillofMaterial(); }); });
+  OnBoth(forms_.main.menu.ScheduleCheck, "ScheduleCheck", Guard::Project,
+         [this] { ShowReport([this] { forms_.reports.ScheduleCheck(); }); });
   OnBoth(forms_.main.menu.oCopy, "oCopy", Guard::Project, [this] { OfficeCopy(); });
   OnBoth(forms_.main.menu.fCopy, "fCopy", Guard::Project, [this] { FieldCopy(); });
   // These two only ask for a project.

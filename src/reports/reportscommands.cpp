@@ -84,6 +84,8 @@ void ReportsForm::RunByTitle() {
     MinimalRecapSheet();
   } else if (title == QLatin1String("Bill Of Materials")) {
     BillofMaterial();
+  } else if (title == QLatin1String("Schedule Check")) {
+    ScheduleCheck();
   } else if (title == QLatin1String("BreakDown")) {
     BreakDown();
   } else if (title == QLatin1String("Project Manager")) {

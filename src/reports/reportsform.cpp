@@ -12,6 +12,7 @@
 #include "reports/projectinformation.h"
 #include "reports/quantities.h"
 #include "reports/recap.h"
+#include "reports/schedulecheck.h"
 
 // The form and its reports. What is done with a report that stands: reportscommands.cpp.
 
@@ -166,6 +167,10 @@ void ReportsForm::DetailedRecapSheet() {
 
 void ReportsForm::Quantities() {
   Make([this] { Fill(tamo::Quantities(Source())); });
+}
+
+void ReportsForm::ScheduleCheck() {
+  Make([this] { Fill(tamo::ScheduleCheck(Source())); });
 }
 
 void ReportsForm::BillofMaterial() {

@@ -68,6 +68,7 @@ class ReportsForm : public Form {
   void AreaRoomWP();  // the copy that Flag names
   void BreakDown();
   void ProjectInformation();
+  void ScheduleCheck();
 
   void PrintReport();  // the report in Reporter; never the Office Copy
   void CopyReport();

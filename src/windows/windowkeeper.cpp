@@ -6,6 +6,7 @@
 
 #include "program/program.h"
 #include "reports/reportsform.h"
+#include "schedule/scheduleform.h"
 #include "windows/builder.h"
 #include "windows/formlayouts.h"
 #include "windows/helptopics.h"
@@ -22,7 +23,8 @@ struct WindowKeeper::Parts {
   WindowPlaces places;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows{};
   std::unique_ptr<Display> display = std::make_unique<Display>(program.GetDesk());
-  ReportProgress progress{};
+  ReportProgress progress{QStringLiteral("The report is being made."), 50};
+  ReportProgress schedule{QStringLiteral("The schedule is being worked on."), 500};
   WindowActivation activation{program.GetDesk()};
 
   FormWindow* Existing(const Form* form) {
@@ -44,6 +46,10 @@ WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QStri
       reports->onProgress = [this](int done, int all) { return parts_->progress.Tell(done, all); };
       reports->onMade = [this](bool whole) { parts_->progress.End(whole); };
     }
+    if (auto* schedule = dynamic_cast<ScheduleForm*>(form)) {
+      schedule->onProgress = [this](int done, int all) { return parts_->schedule.Tell(done, all); };
+      schedule->onDone = [this](bool whole) { parts_->schedule.End(whole); };
+    }
   }
   program.GetFiles().onPendingChanged = [this] { parts_->display->MarkDirty(); };
 }
@@ -58,6 +64,10 @@ WindowKeeper::~WindowKeeper() {
     if (auto* reports = dynamic_cast<ReportsForm*>(form)) {
       reports->onProgress = nullptr;
       reports->onMade = nullptr;
+    }
+    if (auto* schedule = dynamic_cast<ScheduleForm*>(form)) {
+      schedule->onProgress = nullptr;
+      schedule->onDone = nullptr;
     }
   }
   parts_->program.GetFiles().onPendingChanged = nullptr;

@@ -45,6 +45,7 @@ struct TamoMenu {
   MenuEntry oCopy{form, "oCopy", "&Office Copy", &ProjectManager};
   MenuEntry fCopy{form, "fCopy", "&Field Copy", &ProjectManager};
   MenuEntry Proposal{form, "Proposal", "Propo&sal", &Reports1};
+  MenuEntry ScheduleCheck{form, "ScheduleCheck", "Schedule &Check", &Reports1};
   MenuEntry Drawings{form, "Drawings", "&Drawings"};
   MenuEntry LoadDRawings{form, "LoadDRawings", "&Load Drawings", &Drawings};
   MenuEntry ViewDrawings{form, "ViewDrawings", "&View Drawings", &Drawings};

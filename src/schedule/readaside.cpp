@@ -1,0 +1,52 @@
+#include "schedule/readaside.h"
+
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <thread>
+
+#include "common/files.h"
+#include "schedule/finishcodes.h"
+
+namespace tamo {
+namespace {
+
+constexpr auto kLook = std::chrono::milliseconds(2);
+
+SheetRead Refused(const QString& why) {
+  return {why, {}, {}};
+}
+
+SheetRead Read(const SheetToRead& sheet, const std::atomic<bool>& stop) {
+  const PageContent page = ReadPageContent(sheet.file, sheet.page, {}, &stop);
+  if (stop) return Refused(QStringLiteral("The reading of the sheet was stopped."));
+  if (page.error != 0) {
+    return Refused(QStringLiteral("The sheet can't be read: %1.").arg(page.problem));
+  }
+  ScheduleReading reading =
+      ReadSchedule(page, sheet.box, sheet.before.has_value() ? &*sheet.before : nullptr);
+  SheetRead read = {reading.problem, std::move(reading.parts), {}};
+  if (sheet.withLegend && read.problem.isEmpty() && !stop) {
+    read.legend = LegendOf(FindTables(page));
+    read.legend.merge(LegendBeside(page, CodesOf(FinishRowsOf(read.parts)), read.parts));
+  }
+  return read;
+}
+
+}  // namespace
+
+SheetRead ReadAside(SheetToRead sheet, const std::function<bool(int done, int all)>& progress) {
+  if (sheet.error != 0) {
+    return Refused(QStringLiteral("The sheet can't be read: %1.").arg(ReasonText(sheet.error)));
+  }
+  std::atomic<bool> stop = false;
+  std::future<SheetRead> reading =
+      std::async(std::launch::async, [&sheet, &stop] { return Read(sheet, stop); });
+  while (progress && reading.wait_for(kLook) != std::future_status::ready) {
+    if (!stop && !progress(0, 0)) stop = true;
+  }
+  SheetRead read = reading.get();
+  return stop ? Refused(QStringLiteral("The reading of the sheet was stopped.")) : read;
+}
+
+}  // namespace tamo

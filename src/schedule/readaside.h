@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "common/disk.h"
+#include "schedule/legend.h"
+#include "schedule/schedulereader.h"
+
+namespace tamo {
+
+// A sheet to read, or why its file can't be opened.
+struct SheetToRead {
+  int error = 0;  // as of files
+  std::shared_ptr<FileReader> file;
+  int page = 1;                         // from 1
+  std::optional<PageBox> box;           // as ReadSchedule has it
+  std::optional<ScheduleTable> before;  // the part that it follows
+  bool withLegend = false;
+};
+
+struct SheetRead {
+  QString problem;  // empty when it was read
+  std::vector<ScheduleTable> parts;
+  Legend legend;
+};
+
+// Reads a sheet on a thread of its own and comes back with it. `progress` is called with (0, 0)
+// every few milliseconds meanwhile, on the thread of the caller; false stops the reading. Without
+// it the caller waits.
+SheetRead ReadAside(SheetToRead sheet, const std::function<bool(int done, int all)>& progress);
+
+}  // namespace tamo
