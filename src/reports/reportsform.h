@@ -102,6 +102,7 @@ class ReportsForm : public Form {
   void ClearNotes();
   ReportSource Source();
   Markups LoadedMarkups();
+  void FocusList();
   void ShowWindow();
   void RunByTitle();
   void ShowProgress();

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QWheelEvent>
 
 #include "plans/pdfdraw.h"
@@ -62,6 +64,27 @@ TEST_F(KeeperTest, EveryControlThatAPersonUsesHasAWidget) {
       EXPECT_TRUE(kept) << control->FullName().toStdString();
     }
   }
+}
+
+TEST_F(KeeperTest, EndAndPageDownReadOnInAReportThatWasJustOpened) {
+  PutLines(Path("home/Tamo/Jobs.lst"), {QStringLiteral("00-2112001   One")});
+  QStringList record{QStringLiteral("00-2112001"), QStringLiteral("One")};
+  for (int i = 0; i < 200; ++i) record += QStringLiteral("a line of the notes");
+  PutLines(Path("home/Tamo/Projects/00-2112001/JobNFO.tamo"), record);
+  Menu("Tamo", "OpenProject");
+  auto& jobs = dynamic_cast<OrderedList&>(*FormOf("Tamo").Find(QStringLiteral("JobsList")));
+  desk.ClickRow(jobs, 0);
+  Menu("Tamo", "ProjectNFO");
+  auto& report = dynamic_cast<OrderedList&>(*FormOf("Reports").Find(QStringLiteral("Reporter")));
+  auto& view = dynamic_cast<RowsView&>(*windows.WidgetOf(report));
+  EXPECT_TRUE(view.hasFocus());
+  test::Press(*QApplication::focusWidget(), Qt::Key_PageDown);
+  test::Settle();
+  const int page = view.verticalScrollBar()->value();
+  EXPECT_GT(page, 0);
+  test::Press(*QApplication::focusWidget(), Qt::Key_End);
+  test::Settle();
+  EXPECT_EQ(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
 }
 
 TEST_F(KeeperTest, EveryFieldAndButtonHasANameForAReaderOfScreens) {
