@@ -22,6 +22,7 @@ struct PlanEvents {
   std::function<void(double& length, QString& label)> onLineRunning;
   std::function<void(double paperLength)> onLineChecked;
   std::function<void(int count)> onCircleCountChanged;  // the circles of all pages
+  std::function<void()> onPenChanged;                   // the colour or the width of the next mark
   std::function<void()> onPageChanged;
   std::function<void()> onScrolled;  // by the user only
   std::function<void()> onMousePressed;
