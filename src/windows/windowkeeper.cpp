@@ -125,6 +125,7 @@ void ShowFacts(FormWindow& window, const SharedFields& shared, const QString& no
   const Form& form = window.GetForm();
   if (window.windowTitle() != form.Caption()) window.setWindowTitle(form.Caption());
   window.Menus().Apply();
+  window.KeepMenusInSight();
   window.SetNotice(notice);
   if (IsShell(form)) {
     window.SetStatus(shared.JobID.isEmpty() ? QStringLiteral("No project is open")
@@ -152,8 +153,18 @@ void WindowKeeper::SyncWindows() {
     if (ShowWindow(window) && form != desk.Active()) shownBehind = true;
   }
   HideWindows(false);
-  if (const Form* front = parts_->activation.ToRaise(shownBehind))
+  if (const Form* front = parts_->activation.ToRaise(shownBehind)) {
     parts_->activation.Raise(WindowOf(*front), shownBehind);
+    RaiseOwned(*front);
+  }
+}
+
+// Not every window system lifts what stands above a window together with it.
+void WindowKeeper::RaiseOwned(const Form& owner) {
+  const std::vector<Form*>& order = parts_->program.GetDesk().FrontToBack();
+  for (auto form = order.rbegin(); form != order.rend(); ++form) {
+    if ((*form)->OwnerForm() == &owner && *form != &owner) WindowOf(**form).raise();
+  }
 }
 
 // False when it was on the screen already.
@@ -162,6 +173,7 @@ bool WindowKeeper::ShowWindow(FormWindow& window) {
   const Form& form = window.GetForm();
   // An owner that was never shown has no window to stand over.
   SetOwner(window, parts_->Existing(form.OwnerForm()));
+  parts_->places.Place(form.Name(), window);
   window.setAttribute(Qt::WA_ShowWithoutActivating, &form != parts_->program.GetDesk().Active());
   window.show();
   return true;
