@@ -105,6 +105,7 @@ int main(int argc, char** argv) {
   tamo::Program program(platform, viewer);
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
+  printer.company = [&program] { return program.CompanyName(); };
   messages.beforeBox = [&windows] { windows.SyncNow(); };
   program.onEnded = [] { QTimer::singleShot(0, [] { QApplication::quit(); }); };
   SaveBeforeTheSystemEnds(application, program);

@@ -125,6 +125,10 @@ const QString* Program::FindText(const QString& form, const QString& name) {
   return found == nullptr ? nullptr : found->FindText(name);
 }
 
+QString Program::CompanyName() const {
+  return parts_->settings.CompanyName.Text();
+}
+
 void Program::OpenPlan(const QString& path) {
   OSTForm& ost = parts_->ost;
   parts_->desk.Dispatch([&] {
