@@ -6,6 +6,7 @@
 
 #include "program/program.h"
 #include "reports/reportsform.h"
+#include "windows/accessible.h"
 #include "windows/builder.h"
 #include "windows/formlayouts.h"
 #include "windows/helptopics.h"
@@ -34,6 +35,7 @@ struct WindowKeeper::Parts {
 WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QString& placesFile)
     : parts_(
           new Parts{.program = program, .pictures = pictures, .places = WindowPlaces(placesFile)}) {
+  InstallAccessibility();
   Display& display = *parts_->display;
   display.windowOf = [this](Form& form) -> QWidget* { return parts_->Existing(&form); };
   display.syncWindows = [this] { SyncWindows(); };
