@@ -26,7 +26,9 @@ QRect ScreenOf(const QRect& window) {
 void Fit(QWidget& window) {
   const QRect screen = ScreenOf(window.frameGeometry());
   const QSize frame = window.frameGeometry().size() - window.size();
-  window.resize(window.size().boundedTo(screen.size() - frame));
+  // Where nobody looks the screen is a name only, and pictures are taken in full size.
+  if (QGuiApplication::platformName() != QLatin1String("offscreen"))
+    window.resize(window.size().boundedTo(screen.size() - frame));
   const QRect now = window.frameGeometry();
   const QPoint corner(
       std::clamp(now.x(), screen.left(), std::max(screen.left(), screen.right() + 1 - now.width())),
