@@ -29,7 +29,7 @@ QWidget* SystemFields(Builder& b) {
   units->setBuddy(unitsField);
   price->setBuddy(priceField);
   SwatchPatch* sample = b.SampleLine("Line1");
-  sample->setMinimumWidth(6 * kGrid);
+  sample->setMinimumWidth(3 * kGrid);
   sample->setMaximumWidth(20 * kGrid);
   line->addWidget(units);
   line->addWidget(unitsField);
@@ -37,7 +37,7 @@ QWidget* SystemFields(Builder& b) {
   line->addWidget(price);
   line->addWidget(priceField);
   line->addSpacing(kGrid);
-  line->addWidget(FixedCaption(QStringLiteral("Plan line:")));
+  line->addWidget(FixedCaption(QStringLiteral("Line:")));
   line->addWidget(sample, 1);
   line->addWidget(b.PushButton("Command2"));
   line->addWidget(b.PushButton("Command1"));
