@@ -42,6 +42,9 @@ class Program {
   QString CompanyName() const;
   // Shows the plan `path` in the plan window, as one that is typed there.
   void OpenPlan(const QString& path);
+  // For the strip at the foot of every window: what is not saved or can't be read, or else what a
+  // sync program left; "" when all is well.
+  QString Notice() const;
   // The strip at the foot of every window was clicked.
   void TrySavesAgain();
   // Every few seconds: renews the hold on the open project, or looks whether it is free by now.
