@@ -1,6 +1,6 @@
 #include <QApplication>
 #include <QDir>
-#include <QIcon>
+#include <QFileInfo>
 #include <QSessionManager>
 #include <QStandardPaths>
 #include <QTimer>
@@ -16,7 +16,7 @@
 #include "windows/reportprinter.h"
 #include "windows/windowkeeper.h"
 
-// Starts the toolkit, the program and its windows. There is no command line.
+// Starts the toolkit, the program and its windows. A plan that is named on the command line is opened.
 
 namespace {
 
@@ -44,9 +44,7 @@ QString ConfigFolder() {
 // Behind the first window: the readers of pictures take their time to load.
 void ShowIconLater(const tamo::Platform& platform) {
   QTimer::singleShot(0, [&platform] {
-    QApplication::setWindowIcon(
-        QIcon::fromTheme(QStringLiteral("tamo"),
-                         QIcon(platform.programFolder + QStringLiteral("/desktop/tamo.svg"))));
+    QApplication::setWindowIcon(tamo::ProgramIcon(platform.programFolder));
   });
 }
 
@@ -64,6 +62,11 @@ void SaveBeforeTheSystemEnds(QApplication& application, tamo::Program& program) 
 void KeepWhatIsTyped(QTimer& timer, tamo::Program& program) {
   QObject::connect(&timer, &QTimer::timeout, &timer, [&program] { program.KeepWaiting(); });
   timer.start(kKeepEvery);
+}
+
+void OpenNamedPlan(const QStringList& arguments, tamo::Program& program) {
+  if (arguments.size() < 2) return;
+  program.OpenPlan(QDir::toNativeSeparators(QFileInfo(arguments[1]).absoluteFilePath()));
 }
 
 void LookAbout(QTimer& ticks, tamo::Program& program) {
@@ -102,16 +105,19 @@ int main(int argc, char** argv) {
   tamo::Program program(platform, viewer);
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
+  printer.company = [&program] { return program.CompanyName(); };
   messages.beforeBox = [&windows] { windows.SyncNow(); };
   program.onEnded = [] { QTimer::singleShot(0, [] { QApplication::quit(); }); };
   SaveBeforeTheSystemEnds(application, program);
   const tamo::EndSignals signals([&program] {
     program.SaveAll();
-    QApplication::quit();
+    // Not quit: no window is asked, nothing may wait for an answer.
+    QCoreApplication::exit();
   });
   QTimer keeping;
   KeepWhatIsTyped(keeping, program);
   program.Start();
+  OpenNamedPlan(QApplication::arguments(), program);
   QTimer ticks;
   LookAbout(ticks, program);
   return QApplication::exec();

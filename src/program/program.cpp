@@ -130,6 +130,19 @@ const QString* Program::FindText(const QString& form, const QString& name) {
   return found == nullptr ? nullptr : found->FindText(name);
 }
 
+QString Program::CompanyName() const {
+  return parts_->settings.CompanyName.Text();
+}
+
+void Program::OpenPlan(const QString& path) {
+  OSTForm& ost = parts_->ost;
+  parts_->desk.Dispatch([&] {
+    ost.Show();
+    ost.PlanLocation.SetText(path);
+  });
+  parts_->desk.PressKey(ost.PlanLocation, Key::Named(Key::Name::Enter));
+}
+
 void Program::TrySavesAgain() {
   parts_->desk.Dispatch([this] {
     Files& files = parts_->files;

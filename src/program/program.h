@@ -38,6 +38,10 @@ class Program {
   // The text named FORM.NAME that is no control (Tamo.JobID, Form11.IAmHere, RFSForm.Flag), nullptr
   // when there is none.
   const QString* FindText(const QString& form, const QString& name);
+  // As Settings has it; "" for none.
+  QString CompanyName() const;
+  // Shows the plan `path` in the plan window, as one that is typed there.
+  void OpenPlan(const QString& path);
   // For the strip at the foot of every window: what is not saved or can't be read, or else what a
   // sync program left; "" when all is well.
   QString Notice() const;

@@ -92,6 +92,7 @@ void ReportsForm::Make(const std::function<void()>& report) {
   try {
     report();
     running.whole = true;
+    FocusList();
   } catch (const RunTimeFailure& failure) {
     Clear();
     if (failure.number != kReportStopped) throw;
@@ -142,6 +143,13 @@ void ReportsForm::FillCopy(TakeoffCopy report) {
   ShowProgress();
   Reporter1.Show();
   Frame1.Show();
+}
+
+// The keys read on in the report that was asked for.
+void ReportsForm::FocusList() {
+  if (refreshing_ || GetDesk().Active() != this || GetDesk().Focused() != nullptr) return;
+  for (OrderedList* list : std::initializer_list<OrderedList*>{&Reporter, &Reporter1})
+    GetDesk().Focus(*list);
 }
 
 void ReportsForm::ShowWindow() {

@@ -103,6 +103,7 @@ class ReportsForm : public Form {
   void ClearNotes();
   ReportSource Source();
   Markups LoadedMarkups();
+  void FocusList();
   ListRows WithUncounted(const ListRows& report) const;
   void ShowWindow();
   void RunByTitle();

@@ -7,6 +7,7 @@
 #include "program/program.h"
 #include "reports/reportsform.h"
 #include "schedule/scheduleform.h"
+#include "windows/accessible.h"
 #include "windows/builder.h"
 #include "windows/formlayouts.h"
 #include "windows/helptopics.h"
@@ -36,6 +37,7 @@ struct WindowKeeper::Parts {
 WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QString& placesFile)
     : parts_(
           new Parts{.program = program, .pictures = pictures, .places = WindowPlaces(placesFile)}) {
+  InstallAccessibility();
   Display& display = *parts_->display;
   display.windowOf = [this](Form& form) -> QWidget* { return parts_->Existing(&form); };
   display.syncWindows = [this] { SyncWindows(); };
@@ -135,6 +137,7 @@ void ShowFacts(FormWindow& window, const SharedFields& shared, const QString& no
   const Form& form = window.GetForm();
   if (window.windowTitle() != form.Caption()) window.setWindowTitle(form.Caption());
   window.Menus().Apply();
+  window.KeepMenusInSight();
   window.SetNotice(notice);
   if (IsShell(form)) {
     window.SetStatus(shared.JobID.isEmpty() ? QStringLiteral("No project is open")
@@ -162,8 +165,18 @@ void WindowKeeper::SyncWindows() {
     if (ShowWindow(window) && form != desk.Active()) shownBehind = true;
   }
   HideWindows(false);
-  if (const Form* front = parts_->activation.ToRaise(shownBehind))
+  if (const Form* front = parts_->activation.ToRaise(shownBehind)) {
     parts_->activation.Raise(WindowOf(*front), shownBehind);
+    RaiseOwned(*front);
+  }
+}
+
+// Not every window system lifts what stands above a window together with it.
+void WindowKeeper::RaiseOwned(const Form& owner) {
+  const std::vector<Form*>& order = parts_->program.GetDesk().FrontToBack();
+  for (auto form = order.rbegin(); form != order.rend(); ++form) {
+    if ((*form)->OwnerForm() == &owner && *form != &owner) WindowOf(**form).raise();
+  }
 }
 
 // False when it was on the screen already.
@@ -172,6 +185,7 @@ bool WindowKeeper::ShowWindow(FormWindow& window) {
   const Form& form = window.GetForm();
   // An owner that was never shown has no window to stand over.
   SetOwner(window, parts_->Existing(form.OwnerForm()));
+  parts_->places.Place(form.Name(), window);
   window.setAttribute(Qt::WA_ShowWithoutActivating, &form != parts_->program.GetDesk().Active());
   window.show();
   return true;

@@ -199,6 +199,18 @@ TEST_F(RecoveryTest, ARequestToEndSavesAllThatWaits) {
   EXPECT_EQ(Field("Settings", "EstimatorName").Text(), "Ann");
 }
 
+// The machine goes down: the project is nobody's, and no other program must wait for it.
+TEST_F(RecoveryTest, ARequestToEndGivesTheProjectBack) {
+  MakeProject();
+  const QString sign = program->Shared().DataPath + QStringLiteral("Projects/") +
+                       program->Shared().JobID + QStringLiteral("/InUse.lock");
+  EXPECT_TRUE(disk.Exists(sign));
+  program->SaveAll();
+  EXPECT_TRUE(disk.Exists(sign)) << "the user may think better of it";
+  Crash();
+  EXPECT_FALSE(disk.Exists(sign));
+}
+
 TEST_F(RecoveryTest, ALivingProgramsEntriesAreItsOwn) {
   Run("Tamo", "Settings1");
   Enter("Settings", "EstimatorName", "Ann");

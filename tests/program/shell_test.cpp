@@ -29,6 +29,13 @@ class ShellTest : public ::testing::Test, public test::MachineRoom {
   Program program{platform, viewer};
 };
 
+TEST_F(ShellTest, APlanNamedAtTheStartIsShown) {
+  Put(Path("home/Depot.pdf"), "%PDF");
+  program.OpenPlan(Path("home/Depot.pdf"));
+  EXPECT_TRUE(Ost().Visible());
+  EXPECT_EQ(viewer.ShownPath(), Path("home/Depot.pdf"));
+}
+
 TEST_F(ShellTest, ExitOfTheMainFormInMode2DoesNotEndTheProgram) {
   Enter("Option2");
   Run(Main(), "Exit");

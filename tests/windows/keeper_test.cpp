@@ -1,19 +1,14 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QWheelEvent>
 
-#include "plans/pdfdraw.h"
-#include "program/program.h"
-#include "support/fakeplanengine.h"
-#include "support/room.h"
-#include "windows/application.h"
-#include "windows/formwindow.h"
+#include "windows/keeperroom.h"
 #include "windows/keys.h"
 #include "windows/look.h"
 #include "windows/plancanvas.h"
 #include "windows/rowsview.h"
-#include "windows/windowprobe.h"
 
 // The windows of the whole program.
 
@@ -23,28 +18,7 @@ namespace {
 const char* const kForms[] = {"Tamo",       "Settings",       "Pricing", "RFSForm", "EstimateForm",
                               "BottomLine", "AdjustmentForm", "OST",     "Reports", "Docs"};
 
-struct KeeperTest : test::WithApplication, testing::Test, test::MachineRoom {
-  KeeperTest() {
-    ApplyLook(Look::Light());
-    program.Start();
-    windows.SyncNow();
-  }
-  Form& FormOf(const char* name) { return *program.FindForm(QLatin1String(name)); }
-  FormWindow& Window(const char* name) {
-    return dynamic_cast<FormWindow&>(*windows.WindowOf(FormOf(name)));
-  }
-  void Menu(const char* form, const char* entry) {
-    desk.ChooseMenu(*FormOf(form).FindMenu(QLatin1String(entry)));
-    test::Settle();
-  }
-
-  Files planFiles{disk};
-  test::FakePlanEngine engine;
-  PdfDraw viewer{planFiles, engine};
-  Program program{platform, viewer};
-  Desk& desk = program.GetDesk();
-  test::WindowProbe windows{program, nullptr, Path("windows.ini")};
-};
+struct KeeperTest : testing::Test, test::KeeperRoom {};
 
 TEST_F(KeeperTest, EveryControlThatALayoutNamesIsThere) {
   for (const char* name : kForms) {
