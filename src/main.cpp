@@ -46,6 +46,7 @@ int main(int argc, char** argv) {
   tamo::ApplyLook(tamo::Look::Of(QApplication::palette()));
 
   tamo::RealDisk disk;
+  tamo::RealDisk historyDisk;
   tamo::SystemClock clock;
   tamo::BoxMessages messages;
   tamo::ReportPrinter printer;
@@ -56,7 +57,7 @@ int main(int argc, char** argv) {
   const tamo::Platform platform{
       disk,         clock,     messages,
       printer,      clipboard, tamo::FindProgramFolder(QCoreApplication::applicationDirPath()),
-      HomeFolder(), config};
+      HomeFolder(), config,    &historyDisk};
   // Behind the first window: the readers of pictures take their time to load.
   QTimer::singleShot(0, [&platform] {
     QApplication::setWindowIcon(

@@ -126,6 +126,25 @@ int Files::SaveText(const QString& path, const QString& text) {
   return error;
 }
 
+int Files::ReplaceFile(const QString& path, const QByteArray& bytes) {
+  return ReplaceInItsFolder(path, bytes);
+}
+
+// The old file is opened before it loses its name; it is read later, and not here.
+int Files::ReplaceWitnessed(const QString& path, const QByteArray& bytes) {
+  if (witness == nullptr) return Replace(path, bytes);
+  QString target = path;
+  std::shared_ptr<FileReader> former;
+  if (disk_.OpenToRead(target, former) != kNoError) {
+    target = Resolved(path);
+    if (target != path) disk_.OpenToRead(target, former);
+  }
+  int error = Replace(target, bytes);
+  while (error == kDiskFull && witness->MakeRoom()) error = Replace(target, bytes);
+  if (error == kNoError) witness->Replaced(target, std::move(former));
+  return error;
+}
+
 int Files::Replace(const QString& path, const QByteArray& bytes) {
   const QString target = Resolved(path);
   memory_.Forget(target);
@@ -190,7 +209,12 @@ int Files::Remove(const QString& path) {
     pending_.erase(pending_.begin() + (known - pending_.data()));
     if (onPendingChanged) onPendingChanged();
   }
-  return disk_.RemoveFile(Resolved(path));
+  const QString target = Resolved(path);
+  std::shared_ptr<FileReader> former;
+  if (witness != nullptr) disk_.OpenToRead(target, former);
+  const int error = disk_.RemoveFile(target);
+  if (error == kNoError && former != nullptr) witness->Replaced(target, std::move(former));
+  return error;
 }
 
 int Files::MakeFolder(const QString& path) {
@@ -210,10 +234,10 @@ void Files::MakeFolders(const QString& path) {
 // A folder that could not be made when it was asked for is made now; why it still can't be is the
 // reason of the failed save.
 int Files::ReplaceInItsFolder(const QString& path, const QByteArray& bytes) {
-  const int error = Replace(path, bytes);
+  const int error = ReplaceWitnessed(path, bytes);
   if (error != kPathNotFound || missingFolders_.isEmpty()) return error;
   const int folders = MakeMissingFolders();
-  const int again = Replace(path, bytes);
+  const int again = ReplaceWitnessed(path, bytes);
   return again == kPathNotFound && folders != kNoError ? folders : again;
 }
 

@@ -8,6 +8,7 @@
 
 #include "common/disk.h"
 #include "common/filememory.h"
+#include "common/filewitness.h"
 
 namespace tamo {
 
@@ -40,6 +41,9 @@ class Files {
   int SaveText(const QString& path, const QString& text);
   int SaveLines(const QString& path, const QStringList& lines);  // CR LF behind each
 
+  // The same for bytes as they are. A failure is only told: nothing waits, nothing is tried again.
+  int ReplaceFile(const QString& path, const QByteArray& bytes);
+
   bool Exists(const QString& path);  // also true for a pending file
   int Remove(const QString& path);   // a pending text of that file is dropped, too
   // A folder that can't be made is remembered and made before the pending saves are tried again.
@@ -70,11 +74,14 @@ class Files {
   QString Notice() const;
   std::function<void()> onPendingChanged;  // set by whoever shows the notice
 
+  FileWitness* witness = nullptr;  // of each file that is replaced or removed; outlives this
+
   // Removes what a crash left of half-made saves directly in `folder`.
   void Sweep(const QString& folder);
 
  private:
   int Replace(const QString& path, const QByteArray& bytes);
+  int ReplaceWitnessed(const QString& path, const QByteArray& bytes);
   int WriteWhole(const QString& path, const QByteArray& bytes);
   int ReplaceInItsFolder(const QString& path, const QByteArray& bytes);
   int MakeMissingFolders();

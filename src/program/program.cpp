@@ -1,6 +1,7 @@
 #include "program/program.h"
 
 #include "common/paths.h"
+#include "history/history.h"
 #include "program/followers.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
@@ -31,6 +32,7 @@ struct Program::Parts {
   Files files{platform.disk};
   SharedFields shared = FirstFields(platform);
   const Kit kit{desk, files, shared, platform};
+  History history{platform, files, shared};
 
   Shell shell{kit, main, settings, ost};
   FollowersOnForms followers{pricing, adjustment, reports};
@@ -85,6 +87,7 @@ void Program::Start() {
   parts_->desk.Dispatch([this] {
     parts_->ost.Load();
     parts_->main.Init();
+    parts_->history.Finish();
   });
 }
 

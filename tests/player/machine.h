@@ -30,10 +30,12 @@ class Machine {
   static bool WriteFile(const QString& path, const QByteArray& bytes);
   static bool Copy(const QString& from, const QString& to);  // a file, or a folder with all in it
   static bool Remove(const QString& path);
-  // Everything below a folder, paths relative to it, folders with a slash at the end, sorted.
+  // Everything below a folder but the history of a data folder, paths relative to it, folders with
+  // a slash at the end, sorted.
   static QStringList Everything(const QString& folder);
 
   test::FaultDisk disk;
+  RealDisk historyDisk;
   test::FixedClock clock;
   test::ScriptedMessages messages;
   test::RecordingPrinter printer;
