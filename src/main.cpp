@@ -10,6 +10,7 @@
 #include "plans/mupdfengine.h"
 #include "plans/pdfdraw.h"
 #include "program/program.h"
+#include "windows/endsignals.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
 #include "windows/reportprinter.h"
@@ -22,6 +23,9 @@ namespace {
 // How long the window waits for a plan before it shows a blank sheet and goes on.
 constexpr int kPatience = 80;
 
+// What is being typed into a field that waits is on the disk after this many milliseconds.
+constexpr int kKeepEvery = 2000;
+
 QString HomeFolder() {
 #ifdef Q_OS_WIN
   return QStringLiteral("C:");
@@ -33,6 +37,31 @@ QString HomeFolder() {
 QString ConfigFolder() {
   return QDir::toNativeSeparators(
       QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+}
+
+// Behind the first window: the readers of pictures take their time to load.
+void ShowIconLater(const tamo::Platform& platform) {
+  QTimer::singleShot(0, [&platform] {
+    QApplication::setWindowIcon(
+        QIcon::fromTheme(QStringLiteral("tamo"),
+                         QIcon(platform.programFolder + QStringLiteral("/desktop/tamo.svg"))));
+  });
+}
+
+// The user logs out, or the machine is switched off.
+void SaveBeforeTheSystemEnds(QApplication& application, tamo::Program& program) {
+  QObject::connect(&application, &QGuiApplication::commitDataRequest, &application,
+                   [&program](QSessionManager& session) {
+                     program.SaveAll();
+                     if (!session.allowsInteraction()) return;
+                     if (!program.MayEnd()) session.cancel();
+                     session.release();
+                   });
+}
+
+void KeepWhatIsTyped(QTimer& timer, tamo::Program& program) {
+  QObject::connect(&timer, &QTimer::timeout, &timer, [&program] { program.KeepWaiting(); });
+  timer.start(kKeepEvery);
 }
 
 }  // namespace
@@ -58,12 +87,7 @@ int main(int argc, char** argv) {
       disk,         clock,     messages,
       printer,      clipboard, tamo::FindProgramFolder(QCoreApplication::applicationDirPath()),
       HomeFolder(), config,    &historyDisk};
-  // Behind the first window: the readers of pictures take their time to load.
-  QTimer::singleShot(0, [&platform] {
-    QApplication::setWindowIcon(
-        QIcon::fromTheme(QStringLiteral("tamo"),
-                         QIcon(platform.programFolder + QStringLiteral("/desktop/tamo.svg"))));
-  });
+  ShowIconLater(platform);
 
   tamo::Files planFiles(disk);
   tamo::MuPdfEngine engine;
@@ -74,10 +98,13 @@ int main(int argc, char** argv) {
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
   messages.beforeBox = [&windows] { windows.SyncNow(); };
   program.onEnded = [] { QTimer::singleShot(0, [] { QApplication::quit(); }); };
-  QObject::connect(&application, &QGuiApplication::commitDataRequest, &windows,
-                   [&program](QSessionManager& session) {
-                     if (!program.MayEnd()) session.cancel();
-                   });
+  SaveBeforeTheSystemEnds(application, program);
+  const tamo::EndSignals signals([&program] {
+    program.SaveAll();
+    QApplication::quit();
+  });
+  QTimer keeping;
+  KeepWhatIsTyped(keeping, program);
   program.Start();
   return QApplication::exec();
 }

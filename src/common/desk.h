@@ -66,7 +66,8 @@ class Desk {
   void MoveFocus(bool forward);
 
   bool InEvent() const { return depth_ > 0; }
-  std::function<void()> onSettled;  // after each outermost event
+  std::function<void()> onRest;  // after each outermost event, for the program; it may raise more
+  std::function<void()> onSettled;  // then, for whoever shows the forms
 
  private:
   friend class Form;

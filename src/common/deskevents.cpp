@@ -33,6 +33,7 @@ void Desk::Dispatch(const std::function<void()>& event) {
           "There is not enough memory for this. Close other programs, or take less at once."));
     }
   }
+  if (depth_ == 0 && onRest) onRest();
   if (depth_ == 0 && onSettled) onSettled();
 }
 

@@ -16,6 +16,7 @@
 #include <set>
 
 #include "common/failure.h"
+#include "common/filelook.h"
 
 // Plain system calls: every write, sync and rename is checked, nothing is buffered behind our back.
 
@@ -186,6 +187,10 @@ int RealDisk::Close(int handle) {
   return Result(::close(handle), {});
 }
 
+void RealDisk::TakeOver(int handle, const QString& from) {
+  TakeOverLook(handle, Native(from));
+}
+
 int RealDisk::Rename(const QString& from, const QString& to) {
   return Result(std::rename(Native(from).constData(), Native(to).constData()), to);
 }
@@ -221,6 +226,23 @@ bool RealDisk::IsFolder(const QString& path) {
 bool RealDisk::IsLink(const QString& path) {
   struct stat info {};
   return ::lstat(Native(path).constData(), &info) == 0 && S_ISLNK(info.st_mode);
+}
+
+QString RealDisk::FollowLink(const QString& path) {
+  constexpr int kLongestChain = 40;
+  QString end = path;
+  for (int i = 0; i < kLongestChain && IsLink(end); ++i) {
+    const QString to = QFile::symLinkTarget(end);
+    if (to.isEmpty()) break;
+    end = to;
+  }
+  return end;
+}
+
+qint64 RealDisk::SecondsSinceWritten(const QString& path) {
+  struct stat info {};
+  if (::lstat(Native(path).constData(), &info) != 0) return -1;
+  return std::max<qint64>(0, ::time(nullptr) - info.st_mtim.tv_sec);
 }
 
 bool RealDisk::CanWrite(const QString& path) {

@@ -56,6 +56,12 @@ class Disk {
   // All of `bytes`, unbuffered, or an error.
   virtual int Write(int handle, const QByteArray& bytes) = 0;
   virtual int Truncate(int handle, qint64 size) = 0;
+  // Gives an open new file the rights, the owner and the extended attributes of the file `from`, as
+  // far as the system lets it; nothing when there is none.
+  virtual void TakeOver(int handle, const QString& from) {
+    (void)handle;
+    (void)from;
+  }
   // Returns when the bytes are on the device.
   virtual int Sync(int handle) = 0;
   virtual int Close(int handle) = 0;
@@ -71,6 +77,13 @@ class Disk {
   virtual bool Exists(const QString& path) = 0;
   virtual bool IsFolder(const QString& path) = 0;
   virtual bool IsLink(const QString& path) = 0;
+  // The path at the end of the symbolic links that `path` is, or `path` itself. It need not exist.
+  virtual QString FollowLink(const QString& path) { return path; }
+  // Since it was last written, by the device's clock; -1 when that is not known.
+  virtual qint64 SecondsSinceWritten(const QString& path) {
+    (void)path;
+    return -1;
+  }
   // Whether a file could be written there: the file's own right, or its folder's when it does not
   // exist.
   virtual bool CanWrite(const QString& path) = 0;
@@ -89,6 +102,7 @@ class RealDisk : public Disk {
   int OpenAtEnd(const QString& path, int& handle) override;
   int Write(int handle, const QByteArray& bytes) override;
   int Truncate(int handle, qint64 size) override;
+  void TakeOver(int handle, const QString& from) override;
   int Sync(int handle) override;
   int Close(int handle) override;
   int Rename(const QString& from, const QString& to) override;
@@ -99,6 +113,8 @@ class RealDisk : public Disk {
   bool Exists(const QString& path) override;
   bool IsFolder(const QString& path) override;
   bool IsLink(const QString& path) override;
+  QString FollowLink(const QString& path) override;
+  qint64 SecondsSinceWritten(const QString& path) override;
   bool CanWrite(const QString& path) override;
   qint64 Size(const QString& path) override;
   QStringList Names(const QString& folder) override;

@@ -33,5 +33,7 @@ inline constexpr int kDiskFull = 61;
 inline constexpr int kPastEnd = 62;   // a read past the end of a file
 inline constexpr int kNoAccess = 75;  // no right to read or write, or a folder in the file's place
 inline constexpr int kPathNotFound = 76;  // the folder of the file does not exist
+// A save is done, but the device did not confirm that it outlives a power cut.
+inline constexpr int kNotConfirmed = 1002;
 
 }  // namespace tamo

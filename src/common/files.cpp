@@ -4,9 +4,21 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "common/replacement.h"
 #include "common/textlines.h"
 
 namespace tamo {
+
+namespace {
+
+QString UnsureText(const QString& path) {
+  return QStringLiteral(
+             "Saved, but not surely: %1 holds your entry, but the device did not confirm it. A "
+             "power cut could bring back the old state; your entry is kept here, too.")
+      .arg(path);
+}
+
+}  // namespace
 
 QString ReasonText(int number) {
   switch (number) {
@@ -17,6 +29,8 @@ QString ReasonText(int number) {
       return QStringLiteral("there is no right to write it");
     case kDiskFull:
       return QStringLiteral("the disk is full");
+    case kNotConfirmed:
+      return QStringLiteral("the device did not confirm it");
     default:
       return QStringLiteral("the device reports a failure");
   }
@@ -141,7 +155,8 @@ int Files::ReplaceWitnessed(const QString& path, const QByteArray& bytes) {
   }
   int error = Replace(target, bytes);
   while (error == kDiskFull && witness->MakeRoom()) error = Replace(target, bytes);
-  if (error == kNoError) witness->Replaced(target, std::move(former));
+  if (error == kNoError || error == kNotConfirmed)
+    witness->Replaced(target, std::move(former));
   return error;
 }
 
@@ -150,25 +165,9 @@ int Files::Replace(const QString& path, const QByteArray& bytes) {
   memory_.Forget(target);
   if (disk_.Exists(target) && !disk_.CanWrite(target)) return kNoAccess;
   if (disk_.IsFolder(target)) return kNoAccess;
-  const QString unfinished = target + QLatin1String(kUnfinishedEnding);
-  int error = WriteWhole(unfinished, bytes);
-  if (error == kNoError) error = disk_.Rename(unfinished, target);
-  if (error != kNoError) {
-    disk_.RemoveFile(unfinished);
-    return error;
-  }
-  return disk_.SyncFolder(FolderOf(target));
-}
-
-int Files::WriteWhole(const QString& path, const QByteArray& bytes) {
-  int handle = -1;
-  int error = disk_.OpenNew(path, handle);
-  if (error == kFileNotFound) error = kPathNotFound;
-  if (error != kNoError) return error;
-  error = disk_.Write(handle, bytes);
-  if (error == kNoError) error = disk_.Sync(handle);
-  const int closing = disk_.Close(handle);
-  return error != kNoError ? error : closing;
+  Replacement fresh(disk_, target);
+  const int error = fresh.Begin();
+  return error != kNoError ? error : fresh.Finish(disk_.Write(fresh.Handle(), bytes));
 }
 
 void Files::RetryPending(const QString& except) {
@@ -190,10 +189,11 @@ bool Files::TryAgain() {
 QString Files::Notice() const {
   if (pending_.empty()) return {};
   const Pending& last = pending_.back();
-  QString text =
-      QStringLiteral(
-          "Not saved: %1, because %2. The file on disk is unchanged; your entry is kept here.")
-          .arg(last.path, ReasonText(last.reason));
+  QString text = last.reason == kNotConfirmed ? UnsureText(last.path)
+                                              : QStringLiteral(
+                                                    "Not saved: %1, because %2. The file on disk "
+                                                    "is unchanged; your entry is kept here.")
+                                                    .arg(last.path, ReasonText(last.reason));
   if (pending_.size() > 1)
     text += QStringLiteral(" (%1 files wait to be saved.)").arg(pending_.size());
   return text + QStringLiteral(" Click here to try again.");
@@ -220,10 +220,19 @@ int Files::Remove(const QString& path) {
 int Files::MakeFolder(const QString& path) {
   const QString bare = BareFolder(path);
   const int error = disk_.MakeFolder(bare);
+  if (error == kNoError) MakeLasting(bare);
   if (error != kNoError && !missingFolders_.contains(bare) && !disk_.Exists(bare)) {
     missingFolders_ += bare;
   }
   return error;
+}
+
+// A new folder stands after a power cut only when the folder above it is on the device.
+void Files::MakeLasting(const QString& folder) {
+  const auto sync = [this, above = FolderOf(folder)] {
+    return disk_.SyncFolder(above) == kNoError ? kNoError : kNotConfirmed;
+  };
+  if (sync() != kNoError) KeepTrying(folder, kNotConfirmed, sync);
 }
 
 void Files::MakeFolders(const QString& path) {
@@ -247,6 +256,7 @@ int Files::MakeMissingFolders() {
   missingFolders_.removeIf([&](const QString& folder) {
     if (disk_.Exists(folder)) return true;
     const int made = disk_.MakeFolder(folder);
+    if (made == kNoError) disk_.SyncFolder(FolderOf(folder));
     if (made != kNoError && error == kNoError) error = made;
     return made == kNoError;
   });
@@ -256,7 +266,9 @@ int Files::MakeMissingFolders() {
 void Files::Sweep(const QString& folder) {
   const QString bare = BareFolder(folder);
   for (const QString& name : disk_.Names(bare)) {
-    if (name.endsWith(QLatin1String(kUnfinishedEnding))) disk_.RemoveFile(InFolder(bare, name));
+    if (!name.endsWith(QLatin1String(kUnfinishedEnding))) continue;
+    const QString path = InFolder(bare, name);
+    if (LeftByTheDead(name, disk_.SecondsSinceWritten(path))) disk_.RemoveFile(path);
   }
 }
 

@@ -82,9 +82,9 @@ class Files {
  private:
   int Replace(const QString& path, const QByteArray& bytes);
   int ReplaceWitnessed(const QString& path, const QByteArray& bytes);
-  int WriteWhole(const QString& path, const QByteArray& bytes);
   int ReplaceInItsFolder(const QString& path, const QByteArray& bytes);
   int MakeMissingFolders();
+  void MakeLasting(const QString& folder);
   void RetryPending(const QString& except);
   Pending* FindPending(const QString& path);
   Pending* FindPendingText(const QString& path);
@@ -94,9 +94,6 @@ class Files {
   std::vector<Pending> pending_;
   QStringList missingFolders_;
 };
-
-// The ending of the temporary files of half-made saves.
-inline constexpr char kUnfinishedEnding[] = ".tamo-unfinished";
 
 // What an error number of a save means, in words: "the disk is full".
 QString ReasonText(int number);

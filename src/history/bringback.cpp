@@ -31,6 +31,7 @@ int Apply(Files& files, const HistoryFolder& folder, const BidState& state) {
     const auto stands = now.files.constFind(file.key());
     if (stands != now.files.constEnd() && *stands == file.value()) continue;
     error = files.ReplaceFile(folder.Whole(file.key()), file.value());
+    if (error == kNotConfirmed) error = kNoError;
   }
   return error;
 }
@@ -69,14 +70,15 @@ int BringBack(Files& files, const HistoryFolder& folder, const VersionHead& head
 QStringList FinishBringingBack(Files& files, const HistoryFolder& folder) {
   Disk& disk = files.GetDisk();
   QStringList done;
+  for (const QString& part : {folder.Path(), folder.BringingBack(), folder.Deleted()})
+    files.Sweep(part);
   for (const QString& name : disk.Names(BareFolder(folder.BringingBack()))) {
+    if (!name.endsWith(QLatin1String(kVersionEnding))) continue;
     const QString path = folder.BringingBack() + name;
     VersionHead head;
     BidState state;
-    // Half-made files of a kill before the first change.
-    const bool whole =
-        name.endsWith(QLatin1String(kVersionEnding)) && ReadVersion(disk, path, head, state);
-    if (whole && disk.IsFolder(BareFolder(folder.Whole(FolderOfBid(head.project))))) {
+    if (ReadVersion(disk, path, head, state) &&
+        disk.IsFolder(BareFolder(folder.Whole(FolderOfBid(head.project))))) {
       if (Apply(files, folder, state) != kNoError) continue;
       done += head.project;
     }

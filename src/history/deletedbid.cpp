@@ -18,6 +18,18 @@ void MovePlans(Disk& disk, const QString& from, const QString& to) {
   }
 }
 
+// Somebody has brought it back already, and was stopped behind that.
+bool Stands(Disk& disk, const HistoryFolder& folder, BidState state) {
+  BidState now;
+  QString problem;
+  if (ReadBidState(disk, folder, state.project, now, problem) != kNoError) return false;
+  for (BidState* each : {&now, &state}) {
+    each->files.removeIf(
+        [&](auto file) { return !file.key().startsWith(FolderOfBid(state.project)); });
+  }
+  return now == state;
+}
+
 }  // namespace
 
 int KeepDeleted(Files& files, const HistoryFolder& folder, const VersionHead& head) {
@@ -41,7 +53,7 @@ int BringBackDeleted(Files& files, const HistoryFolder& folder, const Version& d
   if (!ReadVersion(disk, deleted.path, head, state)) return kFileOther;
   const ProjectFolder project(folder.Whole(FolderOfBid(head.project)), PlatformSeparator());
   const QString bare = BareFolder(project.Path());
-  if (disk.Exists(project.Record())) return kNoAccess;
+  if (disk.Exists(project.Record()) && !Stands(disk, folder, state)) return kNoAccess;
   MakeProjectFolders(files, project);
   if (!disk.IsFolder(bare)) return kPathNotFound;
   if (const int error = BringBack(files, folder, head, state); error != kNoError) return error;

@@ -2,6 +2,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "common/replacement.h"
 
 namespace tamo {
 
@@ -61,21 +62,10 @@ QStringList JournalFiles(Disk& disk, const HistoryFolder& folder) {
 }
 
 int WriteHistoryFile(Disk& disk, const QString& path, const QByteArray& bytes) {
-  const QString unfinished = path + QLatin1String(".tamo-unfinished");
-  int handle = -1;
-  int error = disk.OpenNew(unfinished, handle);
-  if (error != kNoError) return error;
-  error = disk.Write(handle, bytes);
-  if (error == kNoError) error = disk.Sync(handle);
-  const int closing = disk.Close(handle);
-  if (error == kNoError) error = closing;
-  if (error == kNoError) error = disk.Rename(unfinished, path);
-  if (error != kNoError) {
-    disk.RemoveFile(unfinished);
-    return error;
-  }
-  disk.SyncFolder(FolderOf(path));
-  return kNoError;
+  Replacement fresh(disk, path);
+  int error = fresh.Begin();
+  if (error == kNoError) error = fresh.Finish(disk.Write(fresh.Handle(), bytes));
+  return error == kNotConfirmed ? kNoError : error;
 }
 
 void MakeHistoryFolder(Disk& disk, const QString& path) {

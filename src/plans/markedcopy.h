@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "common/kit.h"
 #include "plans/ostcontrols.h"
 #include "plans/pdfdraw.h"
@@ -15,18 +18,38 @@ class MarkedCopy {
 
   // Into the project `id`, and the record after it. Nothing when there is no plan to save.
   void Save(const QString& id);
-  // Another plan comes up: marks that could not be written so far have their last chance.
+  // Another plan comes up: marks that are not saved yet are saved into the project they were drawn
+  // for. Those that can't be saved stay with their plan, and wait.
   void Leave();
+  // The plan `file` comes up: with its marks when some of them wait. True when it is shown then.
+  bool ComeBack(const QString& file);
+  // The plan on the screen was opened for the project in force.
+  void Came() { project_ = kit_.shared.JobID; }
+  // The same without leaving the plan. True when nothing is left to save.
+  bool SaveMarks();
 
  private:
+  // A plan that was left with marks that are not in its file.
+  struct Left {
+    QString target;  // "" when it belongs to no project
+    QString source;  // the file that was shown
+    QString project;
+    std::shared_ptr<PdfDraw> plan;
+  };
   bool NothingToSave() const;
+  bool ShowsBlankOrAbout() const;
   void Write(const QString& target);
+  QString TargetOfMarks() const;
+  void ForgetSaved();
 
   const Kit kit_;
   OstControls& form_;
   PdfDraw& viewer_;
   PlanRecord& record_;
-  QString waiting_;  // a copy that could not be written yet
+  QString waiting_;     // a copy that could not be written yet
+  int waitingFor_ = 0;  // why
+  QString project_;     // for which the plan on the screen was opened
+  std::vector<Left> left_;
 };
 
 }  // namespace tamo

@@ -34,6 +34,8 @@ class OSTForm : public OstControls {
   void OpenBlank() { opener_.OpenBlank(); }
   void Save();    // the marked copy into the project, also with no project open
   void SaveIt();  // the same, after an entry of the takeoff
+  // Marks drawn and not saved go into their plan's copy: the program ends.
+  void SaveMarks() { copy_.SaveMarks(); }
   void SavePath() { browser_.Save(); }
   void LoadPath() { browser_.Load(); }
   void LoadOSTNotes() { notes_.Load(); }

@@ -10,6 +10,8 @@
 
 namespace tamo {
 
+class Replacement;
+
 // The plan viewer: shows one PDF at a time, pages and zooms it, marks and measures it, and saves
 // the marks as annotations inside the PDF.
 //
@@ -38,9 +40,17 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   // target is the file shown and no mark has changed. A failure leaves the old file whole and the
   // marks unsaved.
   int SaveAs(const QString& path);
+  // Adds the marks that are not saved yet to those of the plan `path`, a copy of the one shown that
+  // exists already, and goes on showing it. Otherwise as SaveAs.
+  int AddTo(const QString& path);
   QString ShownFile() const;                   // without folder; empty for the blank sheet
   QString ShownPath() const { return path_; }  // the path as it was given
   bool HasUnsavedMarks() const;
+  // Takes the plan with its marks off the sheet, into a viewer of its own that saves it and shows
+  // nothing; a blank sheet stays. It must not outlive the engine and the files.
+  std::unique_ptr<PdfDraw> SetAside();
+  // Shows a plan that was set aside again, as it was; nothing is left in `aside`.
+  void BringBack(PdfDraw& aside);
   QString Problem() const { return problem_; }  // the last failure: what, where, what to do
 
   void Print() { Raise(onPrint); }
@@ -78,6 +88,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
 
   MarkChanges Changes() const;
+  void MarksAreSaved();
   int WriteChanges(const QString& path, bool same, const MarkChanges& changes);
   int Append(const QString& path, const MarkChanges& changes);
   int WriteCopy(const QString& path, const MarkChanges& changes);
@@ -85,7 +96,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   int WriteRepaired(int handle, QString& problem);
   std::unique_ptr<Session> OpenAside(const QString& path, int& error, std::vector<Mark>& marks);
   void ForgetUpdate();
-  int FinishCopy(int handle, int error, const QString& unfinished, const QString& path);
+  int FinishCopy(Replacement& copy, int error, const QString& path);
+  int Confirm(const QString& path);
   bool ChangedOnDisk(const QString& path);
   int TakeFromDisk(const QString& path, const MarkChanges& changes);
   int BuildUpdate(Session& session, const MarkChanges& changes, QByteArray& bytes);
@@ -100,6 +112,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   std::shared_ptr<Opening> opening_;  // while a slow plan is on its way
   QString path_;
   QString problem_;
+  QString unsure_;  // a plan that was saved, and the device did not confirm it
   QString password_;
   int patience_ = 10000;
   int longestOpening_ = 30000;

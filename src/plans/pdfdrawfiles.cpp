@@ -218,6 +218,36 @@ void PdfDraw::StartPainting() {
       session_->plan, session_->sizes, [forms = forms_] { FormsThread::PostPictures(forms); });
 }
 
+std::unique_ptr<PdfDraw> PdfDraw::SetAside() {
+  FinishOpening(patience_);
+  auto aside = std::make_unique<PdfDraw>(files_, engine_);
+  if (session_ == nullptr) return aside;
+  std::vector<Mark> marks = MarksAsDrawn();
+  session_->painter.reset();
+  aside->session_ = std::move(session_);
+  aside->BeginPlan(path_);
+  aside->password_ = password_;
+  aside->unsure_ = std::exchange(unsure_, QString());
+  aside->FillPlan(aside->session_->sizes, std::move(marks));
+  Close();
+  BeginPlan(QString());
+  FillPlan({}, {});
+  return aside;
+}
+
+void PdfDraw::BringBack(PdfDraw& aside) {
+  Close();
+  problem_.clear();
+  std::vector<Mark> marks = aside.MarksAsDrawn();
+  session_ = std::move(aside.session_);
+  password_ = aside.password_;
+  unsure_ = aside.unsure_;
+  BeginPlan(aside.path_);
+  if (session_ == nullptr) return FillPlan({}, {});
+  StartPainting();
+  FillPlan(session_->sizes, std::move(marks));
+}
+
 // --- Pictures
 
 void PdfDraw::PicturesChanged() {

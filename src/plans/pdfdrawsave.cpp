@@ -4,6 +4,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "common/replacement.h"
 #include "plans/plansession.h"
 
 // How the viewer saves. A save costs what changed: nothing when no mark is new, an incremental
@@ -19,6 +20,14 @@ constexpr int kQuietCopy = 300;  // milliseconds before progress is told
 constexpr qint64 kCompared = 2048;
 // Instead of an error number: nothing can be appended to the plan, it has to be written anew.
 constexpr int kNeedsRewrite = -1;
+
+QString PartWritten(const QString& path, int error) {
+  return QStringLiteral(
+             "The plan %1 was saved in part only: %2. The part is cut off again when the plan is "
+             "next opened; the marks stay on the screen and are saved with the next save that "
+             "succeeds.")
+      .arg(FileNameOf(path), ReasonText(error));
+}
 
 }  // namespace
 
@@ -72,17 +81,34 @@ int PdfDraw::SaveAs(const QString& given) {
   const MarkChanges changes = Changes();
   if (same && changes.Empty()) {
     path_ = given;
-    return kNoError;
+    return Confirm(path);
   }
   if (disk.IsFolder(path) || (disk.Exists(path) && !disk.CanWrite(path))) {
     return SaveFailed(path, kNoAccess);
   }
   if (const int error = WriteChanges(path, same, changes)) return error;
-  session_->savedNames.clear();
-  for (const Mark& mark : MarksAsDrawn()) session_->savedNames.insert(mark.name);
+  MarksAreSaved();
   path_ = given;
   problem_.clear();
+  return Confirm(path);
+}
+
+int PdfDraw::AddTo(const QString& path) {
+  if (session_ == nullptr || !FinishOpening(kBuildPatience)) {
+    return SaveFailed(path, kFileOther, QStringLiteral("it is still being opened"));
+  }
+  if (!files_.GetDisk().CanWrite(path)) return SaveFailed(path, kNoAccess);
+  const MarkChanges changes = Changes();
+  if (const int error = TakeFromDisk(path, changes)) return error;
+  MarksAreSaved();
+  path_ = path;
+  problem_.clear();
   return kNoError;
+}
+
+void PdfDraw::MarksAreSaved() {
+  session_->savedNames.clear();
+  for (const Mark& mark : MarksAsDrawn()) session_->savedNames.insert(mark.name);
 }
 
 int PdfDraw::WriteChanges(const QString& path, bool same, const MarkChanges& changes) {
@@ -123,19 +149,20 @@ int PdfDraw::Append(const QString& path, const MarkChanges& changes) {
   if (error != kNoError) return error;
   Disk& disk = files_.GetDisk();
   int handle = -1;
+  bool takenBack = true;
   error = disk.OpenAtEnd(path, handle);
   if (error == kNoError) {
     error = disk.Write(handle, bytes);
     if (error == kNoError) error = disk.Sync(handle);
-    if (error != kNoError) {
-      // What part of it arrived goes again; should that fail, too, the next opening cuts it.
-      disk.Truncate(handle, session_->size);
-    }
+    // What part of it arrived goes again; should that fail, too, the next opening cuts it.
+    if (error != kNoError) takenBack = disk.Truncate(handle, session_->size) == kNoError;
     disk.Close(handle);  // all is on the disk already, or taken back
   }
   if (error != kNoError) {
     ForgetUpdate();
-    return SaveFailed(path, error);
+    SaveFailed(path, error);
+    if (!takenBack) problem_ = PartWritten(path, error);
+    return error;
   }
   session_->size += bytes.size();
   return kNoError;
@@ -161,17 +188,23 @@ int PdfDraw::CopyBytes(int handle) {
 }
 
 // Ends a copy: on the disk, then under its name. A failure leaves what stood there.
-int PdfDraw::FinishCopy(int handle, int error, const QString& unfinished, const QString& path) {
-  Disk& disk = files_.GetDisk();
-  if (error == kNoError) error = disk.Sync(handle);
-  const int closing = disk.Close(handle);
-  if (error == kNoError) error = closing;
-  if (error == kNoError) error = disk.Rename(unfinished, path);
-  if (error != kNoError) {
-    disk.RemoveFile(unfinished);
-    return SaveFailed(path, error);
+int PdfDraw::FinishCopy(Replacement& copy, int error, const QString& path) {
+  error = copy.Finish(error);
+  unsure_ = error == kNotConfirmed ? path : QString();
+  return error == kNoError || error == kNotConfirmed ? kNoError : SaveFailed(path, error);
+}
+
+// The marks stand in the file, but the device did not say so: it is asked once more.
+int PdfDraw::Confirm(const QString& path) {
+  if (unsure_ != path) return kNoError;
+  if (files_.GetDisk().SyncFolder(FolderOf(path)) != kNoError) {
+    problem_ = QStringLiteral(
+                   "The plan %1 is saved with its marks, but the device did not confirm it: a "
+                   "power cut could bring back the old state. It is asked again at every save.")
+                   .arg(FileNameOf(path));
+    return kNotConfirmed;
   }
-  disk.SyncFolder(FolderOf(path));
+  unsure_.clear();
   return kNoError;
 }
 
@@ -181,20 +214,19 @@ int PdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
   if (!changes.Empty()) error = BuildUpdate(*session_, changes, bytes);
   if (error == kNeedsRewrite) return WriteAnew(path, changes);
   if (error != kNoError) return error;
-  const QString unfinished = path + QLatin1String(kUnfinishedEnding);
   Disk& disk = files_.GetDisk();
-  int handle = -1;
-  error = disk.OpenNew(unfinished, handle);
+  Replacement copy(disk, path);
+  error = copy.Begin();
   if (error == kNoError) {
-    error = CopyBytes(handle);
-    if (error == kNoError && !bytes.isEmpty()) error = disk.Write(handle, bytes);
-    error = FinishCopy(handle, error, unfinished, path);
+    error = CopyBytes(copy.Handle());
+    if (error == kNoError && !bytes.isEmpty()) error = disk.Write(copy.Handle(), bytes);
+    error = FinishCopy(copy, error, path);
   } else {
-    SaveFailed(path, error == kFileNotFound ? kPathNotFound : error);
+    SaveFailed(path, error);
   }
   if (error != kNoError) {
     if (!changes.Empty()) ForgetUpdate();
-    return error == kFileNotFound ? kPathNotFound : error;
+    return error;
   }
   session_->size += bytes.size();
   // From now on the copy is read, so the plan stays even when its source goes.
@@ -256,27 +288,21 @@ std::unique_ptr<PdfDraw::Session> PdfDraw::OpenAside(const QString& path, int& e
 
 // A damaged plan can't be added to: it is written anew, repaired, and the marks are added to that.
 int PdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
-  const QString unfinished = path + QLatin1String(kUnfinishedEnding);
-  Disk& disk = files_.GetDisk();
-  int handle = -1;
-  int error = disk.OpenNew(unfinished, handle);
-  if (error != kNoError) return SaveFailed(path, error == kFileNotFound ? kPathNotFound : error);
+  Replacement copy(files_.GetDisk(), path);
+  int error = copy.Begin();
+  if (error != kNoError) return SaveFailed(path, error);
   QString problem;
   std::unique_ptr<Session> anew;
   std::vector<Mark> marks;
   QByteArray bytes;
-  error = WriteRepaired(handle, problem);
-  if (error == kNoError) anew = OpenAside(unfinished, error, marks);
+  error = WriteRepaired(copy.Handle(), problem);
+  if (error == kNoError) anew = OpenAside(copy.Unfinished(), error, marks);
   if (error == kNoError && !changes.Empty()) error = BuildUpdate(*anew, changes, bytes);
   if (error == kNeedsRewrite) error = kFileOther;
-  if (error == kNoError) error = disk.Write(handle, bytes);
-  if (error != kNoError) {
-    disk.Close(handle);
-    disk.RemoveFile(unfinished);
-    return SaveFailed(path, error, problem);
-  }
-  error = FinishCopy(handle, error, unfinished, path);
-  if (error != kNoError) return error;
+  if (error == kNoError) error = files_.GetDisk().Write(copy.Handle(), bytes);
+  const bool written = error == kNoError;
+  error = FinishCopy(copy, error, path);
+  if (error != kNoError) return written ? error : SaveFailed(path, error, problem);
   anew->size += bytes.size();
   session_ = std::move(anew);
   StartPainting();

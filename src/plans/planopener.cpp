@@ -45,14 +45,19 @@ void PlanOpener::EnterPlanLocation() {
 
 bool PlanOpener::Open(const QString& path) {
   const QString file = kit_.files.Resolved(NativePath(path));
+  parts_.copy.Leave();
+  if (parts_.copy.ComeBack(file)) {
+    parts_.scale.Show();
+    return true;
+  }
   Disk& disk = kit_.files.GetDisk();
   if (!disk.Exists(file) || disk.IsFolder(file)) {
     form_.PlanProblem.SetCaption(
         QStringLiteral("There is no plan %1. Pick it again under Files.").arg(file));
     return false;
   }
-  parts_.copy.Leave();
   const int error = viewer_.OpenFile(file, QString());
+  parts_.copy.Came();
   form_.PlanProblem.SetCaption(error == kNoError ? QString() : viewer_.Problem());
   parts_.scale.Show();
   return error == kNoError;

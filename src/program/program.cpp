@@ -1,11 +1,13 @@
 #include "program/program.h"
 
+#include "common/failure.h"
 #include "common/paths.h"
 #include "history/history.h"
 #include "program/followers.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
 #include "program/pricingadapters.h"
+#include "program/recovery.h"
 #include "program/reportadapters.h"
 #include "program/takeoffadapters.h"
 #include "schedule/scheduleform.h"
@@ -61,15 +63,21 @@ struct Program::Parts {
   Menus menus{kit,
               shell,
               {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs}};
+  Recovery recovery{kit, {shell, settings, main, bottomLine}};
 };
 
 Program::Program(const Platform& platform, PdfDraw& viewer)
     : parts_(new Parts{.platform = platform, .viewer = viewer}) {
   Parts& parts = *parts_;
   parts.shell.onEnded = [this] {
+    parts_->recovery.End();
     if (onEnded) onEnded();
   };
-  parts.shell.beforeEnd = [&parts] { parts.bottomLine.SaveUnsaved(); };
+  parts.shell.beforeEnd = [&parts] {
+    parts.bottomLine.SaveUnsaved();
+    parts.ost.SaveMarks();
+  };
+  parts.desk.onRest = [&parts] { parts.recovery.Follow(); };
   // Lists of systems that are loaded are written whole: they must know the new one.
   parts.schedule.onSystemMade = [&parts](const QString& name) {
     for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,
@@ -88,6 +96,7 @@ void Program::Start() {
     parts_->ost.Load();
     parts_->main.Init();
     parts_->history.Finish();
+    parts_->recovery.Begin();
   });
 }
 
@@ -123,6 +132,24 @@ bool Program::MayEnd() {
   bool may = false;
   GetDesk().Dispatch([&] { may = parts_->shell.MayEnd(); });
   return may;
+}
+
+void Program::KeepWaiting() {
+  parts_->recovery.Keep();
+}
+
+// A list that could not be read is not written over; its new lines are kept with what waits.
+void Program::SaveAll() {
+  for (const std::function<void()>& save : std::initializer_list<std::function<void()>>{
+           [this] { parts_->bottomLine.SaveUnsaved(); }, [this] { parts_->ost.SaveMarks(); },
+           [this] { parts_->files.TryAgain(); }}) {
+    try {
+      save();
+    } catch (const RunTimeFailure&) {
+      // Said when the user does the same.
+    }
+  }
+  parts_->recovery.Keep();
 }
 
 }  // namespace tamo

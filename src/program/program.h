@@ -42,6 +42,11 @@ class Program {
   void TrySavesAgain();
   // Asks, when saves are pending, whether to end all the same; true when the program may end.
   bool MayEnd();
+  // Everything that waits in a form is kept in the recovery file, also what is being typed.
+  void KeepWaiting();
+  // The system asks the program to end, and nobody may be asked: all that waits is saved, or kept
+  // for the next start.
+  void SaveAll();
 
  private:
   struct Parts;

@@ -1,5 +1,9 @@
 #include "program/shell.h"
 
+#include <algorithm>
+
+#include "common/failure.h"
+
 namespace tamo {
 
 void Shell::ShowMenus(Form& form, std::initializer_list<const char*> names, bool shown) {
@@ -65,7 +69,16 @@ bool Shell::MayEnd() {
   const auto& pending = kit_.files.PendingSaves();
   if (pending.empty() || kit_.files.TryAgain()) return true;
   QString files;
+  const bool allStand = std::all_of(pending.begin(), pending.end(), [](const Files::Pending& save) {
+    return save.reason == kNotConfirmed;
+  });
   for (const Files::Pending& save : pending) files += QStringLiteral("\n") + save.path;
+  if (allStand) {
+    return kit_.desk.GetMessages().Ask(
+        QStringLiteral("These files are saved, but the device did not confirm it, so that a power "
+                       "cut could bring back their old state:%1\n\nEnd the program all the same?")
+            .arg(files));
+  }
   return kit_.desk.GetMessages().Ask(
       QStringLiteral("These files could not be saved, because %1:%2\n\nEnd the program and lose "
                      "what they would hold?")

@@ -160,6 +160,7 @@ void MakeProjectFolders(Files& files, const ProjectFolder& project) {
 void SweepDataFolders(Files& files, const DataFolder& data) {
   files.Sweep(data.Path());
   files.Sweep(data.Systems());
+  files.Sweep(data.Plans());
   for (const QString& id : files.GetDisk().Names(data.Projects())) {
     const ProjectFolder project = data.Project(id);
     files.Sweep(project.Path());

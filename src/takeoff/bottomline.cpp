@@ -52,6 +52,12 @@ void BottomLine::BottomLineItems(Form* owner) {
   GetDesk().Focus(Item);
 }
 
+void BottomLine::PutBack(Form* owner, const QStringList& lines) {
+  BottomLineItems(owner);
+  oiList.SetRows(lines);
+  unsaved_ = true;
+}
+
 // The lines of another project than the open one are written there before they leave the screen.
 void BottomLine::FollowProject() {
   if (listJob_ == kit_.shared.JobID) return;
@@ -79,10 +85,11 @@ void BottomLine::LoadoiList() {
 }
 
 void BottomLine::SaveoiList() {
+  if (!listJob_.isEmpty()) {
+    RequireReadable(listError_, QStringLiteral("The list of bottom line items"));
+    WriteItemLines(kit_.files, DataFolder(kit_.shared).Project(listJob_), oiList.Rows());
+  }
   unsaved_ = false;
-  if (listJob_.isEmpty()) return;
-  RequireReadable(listError_, QStringLiteral("The list of bottom line items"));
-  WriteItemLines(kit_.files, DataFolder(kit_.shared).Project(listJob_), oiList.Rows());
 }
 
 void BottomLine::TakeItem() {

@@ -27,6 +27,13 @@ class BottomLine : public Form {
   void BottomLineItems(Form* owner);
   void SaveUnsaved();  // the program ends: no line is lost
 
+  // A line was stored in oiList and not yet written; of the project ListJob.
+  bool Unsaved() const { return unsaved_; }
+  const QString& ListJob() const { return listJob_; }
+  // Lines of the open project that an earlier run of the program could not write: they stand in the
+  // list, unsaved, and the form is shown.
+  void PutBack(Form* owner, const QStringList& lines);
+
   void LoadItems();
   void SaveItems();
   void LoadoiList();

@@ -66,6 +66,13 @@ void PanelRecord::SaveJobNFO() {
   if (!plan.isEmpty()) near_.plan.SetPlanLocation(MarkedPlanPath(plan, kit_.shared));
   WriteProjectRecord(kit_.files, kit_.shared, RecordOfFields());
   shownFolder_ = ProjectFolder(kit_.shared).Path();
+  stored_ = Texts();
+}
+
+QStringList PanelRecord::Texts() const {
+  QStringList texts;
+  for (const TextField* field : panel_.Fields()) texts += field->Text();
+  return texts;
 }
 
 void PanelRecord::ReadRecord(const QString& picked) {
@@ -75,6 +82,7 @@ void PanelRecord::ReadRecord(const QString& picked) {
   record.planLocation.clear();
   if (ReadProjectRecord(kit_.files, kit_.shared, record) != kNoError) {
     kit_.shared.LoadingJobNFO = QStringLiteral("False");
+    stored_ = Texts();
     // A project without a record has no plan; the one on the screen belongs to another project.
     if (picked.isEmpty()) LeavePlan();
     return;
@@ -84,6 +92,7 @@ void PanelRecord::ReadRecord(const QString& picked) {
   if (picked.isEmpty()) near_.windows.BringUpShell();
   TakePlan(record, picked);
   panel_.Notes.SetText(record.notes);
+  stored_ = Texts();
   kit_.shared.LoadingJobNFO = QStringLiteral("False");
   if (near_.plan.Fields().planLocation.isEmpty()) return;
   near_.plan.HideBrowser();
@@ -150,6 +159,7 @@ void PanelRecord::Clear() {
   }
   kit_.shared.Locked = QStringLiteral("False");
   shownFolder_.clear();
+  stored_ = Texts();
 }
 
 void PanelRecord::NameNoPlan() {

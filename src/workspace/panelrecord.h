@@ -28,6 +28,9 @@ class PanelRecord {
   void ComeTo();
   // The panel belongs to no project; the bid items stay in it until they are typed over.
   void Clear();
+  // The panel holds what no file does yet.
+  bool Waits() const { return Texts() != stored_; }
+
   // The plan form names no plan; its scale stays until one is chosen.
   void NameNoPlan();
   // The plan form shows no plan, and has no scale and no notes.
@@ -39,12 +42,14 @@ class PanelRecord {
   void TakePlan(const JobNFO& record, const QString& picked);
   void TakeView(const JobNFO& record);
   JobNFO RecordOfFields() const;
+  QStringList Texts() const;
 
   const Kit kit_;
   ProjectPanel& panel_;
   const ProjectLock& lock_;
   const ProjectNeighbours near_;
   QString shownFolder_;   // of the project whose record stands in the panel, "" for none
+  QStringList stored_;    // the fields as they were last read, stored or emptied
   bool emptied_ = false;  // another project's record went, and the one to come was not read yet
 };
 

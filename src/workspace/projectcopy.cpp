@@ -2,6 +2,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "common/replacement.h"
 #include "common/textlines.h"
 
 namespace tamo {

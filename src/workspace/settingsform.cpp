@@ -108,6 +108,7 @@ void SettingsForm::LoadSettings() {
   kit_.shared.zDir = kit_.platform.programFolder;
   SettingsRecord record = RecordOfFields();
   if (ReadSettings(kit_.files, kit_.platform, record) == kNoError) TakeRecord(record);
+  stored_ = Fields();
 }
 
 void SettingsForm::TakeRecord(const SettingsRecord& record) {
@@ -140,6 +141,31 @@ void SettingsForm::SaveSettings() {
   }
   kit_.shared.LineWidth = Line1.Width();
   WriteSettings(kit_.files, kit_.platform, RecordOfFields());
+  stored_ = Fields();
+}
+
+SettingsForm::Values SettingsForm::Fields() const {
+  Values values;
+  for (const TextField* field :
+       {&EstimatorNumber, &EstimatorName, &CompanyName, &Telephone, &DataPath})
+    values += {field->Name(), field->Text()};
+  values += {QStringLiteral("LineColor"), lineColor_};
+  values += {HScroll1.Name(), QString::number(Line1.Width())};
+  values += {AutoCheck.Name(), QString::number(AutoCheck.Value())};
+  for (const Option* option : {&Option1, &Option2, &Option3, &Option4})
+    values += {option->Name(), QString::number(option->Selected() ? 1 : 0)};
+  return values;
+}
+
+void SettingsForm::PutBack(const Values& values) {
+  for (const auto& [name, text] : values) {
+    Control* control = Find(name);
+    if (name == QLatin1String("LineColor")) PaintSampleLine(text);
+    if (auto* field = dynamic_cast<TextField*>(control)) field->SetText(text);
+    if (auto* option = dynamic_cast<Option*>(control)) option->SetSelected(text.toInt() == 1);
+    if (control == &HScroll1) HScroll1.SetValue(text.toInt());
+    if (control == &AutoCheck) AutoCheck.SetValue(text.toInt());
+  }
 }
 
 void SettingsForm::SetWholeQuantities(bool on) {

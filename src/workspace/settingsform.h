@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QList>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "common/form.h"
@@ -24,6 +26,14 @@ class SettingsForm : public Form {
   // The menu entry: hides the form when it is visible, otherwise shows it with the calling shell as
   // owner.
   void Toggle(Form* owner);
+
+  // The form holds what its file does not yet; the values are the texts of its fields and choices,
+  // by name.
+  using Values = QList<std::pair<QString, QString>>;
+  Values Fields() const;
+  bool Waits() const { return Fields() != stored_; }
+  // What an earlier run of the program had in its fields and did not store.
+  void PutBack(const Values& values);
 
   // Whether the report strip's switch "Read whole quantities" is on. It is kept as one word in the
   // last line of the file, which is rewritten at once; the other fields' changes stay unsaved.
@@ -59,6 +69,7 @@ class SettingsForm : public Form {
 
   const Kit kit_;
   FrontWindows& windows_;
+  Values stored_;  // as they were last read or written
   bool wholeQuantities_ = false;
   QString lineColor_ = QStringLiteral("255000000");
 };

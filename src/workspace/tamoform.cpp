@@ -27,7 +27,10 @@ void TamoForm::Init() {
   kit_.shared.DriveBy = QStringLiteral("False");
   MakeDataFolders(kit_.files, kit_.shared);
   ids.SeedProjectNumber();
-  kit_.files.Sweep(kit_.shared.zDir);
+  for (const QString& own : {kit_.shared.zDir, kit_.platform.configFolder}) {
+    kit_.files.Sweep(own);
+    kit_.files.Sweep(own + kit_.shared.Separator + QStringLiteral("Docs"));
+  }
   SweepDataFolders(kit_.files, kit_.shared);
   kit_.shared.JobID.clear();
   kit_.shared.Locked = QStringLiteral("False");

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "common/files.h"
+#include "common/replacement.h"
 #include "history/history.h"
 #include "support/doubles.h"
 #include "support/faultdisk.h"
@@ -37,8 +38,10 @@ class HistoryRoom {
   QMap<QString, QByteArray> Everything() const {
     QMap<QString, QByteArray> all;
     for (const QString sub : {"", "Rooms/", "ATOs/", "Systems/", "Plans/", "PM/"}) {
-      for (const QString& name : QDir(Bid(sub)).entryList(QDir::Files | QDir::Hidden))
+      for (const QString& name : QDir(Bid(sub)).entryList(QDir::Files | QDir::Hidden)) {
+        if (name.endsWith(QLatin1String(kUnfinishedEnding))) continue;
         all[sub + name] = Content(Bid(sub + name));
+      }
     }
     return all;
   }

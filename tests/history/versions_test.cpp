@@ -101,7 +101,7 @@ TEST(Versions, AKillLeavesTheOldOrTheNewStateWhole) {
       EXPECT_EQ(found, Texts(then));
     }
     ++(found == Texts(now) ? old : fresh);
-    EXPECT_TRUE(room.disk.Names(folder.BringingBack()).isEmpty());
+    EXPECT_FALSE(room.disk.Exists(folder.BringingBackState(room.shared.JobID)));
     if (untouched) break;
     ASSERT_EQ(BringBack(next, folder, head, now), kNoError);
   }

@@ -321,17 +321,23 @@ TEST_F(PlanFiles, ACopyThatCantBeWrittenWaitsAndIsTriedAgain) {
   EXPECT_FALSE(viewer.HasUnsavedMarks());
 }
 
-TEST_F(PlanFiles, AWaitingCopyIsNeverWrittenFromAnotherPlan) {
+TEST_F(PlanFiles, AWaitingCopyIsWrittenFromItsOwnPlan) {
   Put("Jobs/Other.pdf");
   Pick("Jobs/Floor2.PDF");
   viewer.DrawLine({1, 1}, {100, 1});
   engine.updateError = kDiskFull;
   ost.SaveIt();
   Pick("Jobs/Other.pdf");
+  viewer.DrawLine({1, 50}, {100, 50});
+  viewer.DrawLine({1, 60}, {100, 60});
   engine.updateError = 0;
   EXPECT_TRUE(files.TryAgain());
-  EXPECT_FALSE(OnDisk(kMarked));
+  EXPECT_TRUE(OnDisk(kMarked));
   EXPECT_TRUE(files.Notice().isEmpty());
+  EXPECT_EQ(viewer.Marks().size(), 2U);
+  Pick("Jobs/Floor2.PDF");
+  viewer.OpenFile(Path("Tamo/Projects/00-2112002/Plans/Floor2-Marked.pdf"), {});
+  EXPECT_EQ(viewer.Marks().size(), 1U);
 }
 
 TEST_F(PlanFiles, LeavingAPlanTriesItsWaitingCopyOnceMore) {

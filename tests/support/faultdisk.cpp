@@ -4,7 +4,6 @@
 #include <QFileInfo>
 
 #include "common/failure.h"
-#include "common/files.h"
 
 namespace tamo::test {
 
@@ -32,9 +31,7 @@ void FaultDisk::Take(QSet<QString>& paths, const QString& path) {
 bool FaultDisk::IsIn(const QSet<QString>& paths, const QString& path) const {
   const std::lock_guard<std::mutex> lock(mutex_);
   if (paths.isEmpty()) return false;
-  QString clean = Clean(path);
-  if (clean.endsWith(QLatin1String(kUnfinishedEnding)))
-    clean.chop(static_cast<int>(sizeof kUnfinishedEnding) - 1);
+  const QString clean = Clean(path);
   for (const QString& one : paths) {
     if (clean == one || clean.startsWith(one + QLatin1Char('/'))) return true;
   }

@@ -60,7 +60,7 @@ class FaultDisk : public RealDisk {
   // Faults may be set while other threads read.
   void Put(QSet<QString>& paths, const QString& path);
   void Take(QSet<QString>& paths, const QString& path);
-  // The file itself, its half-made save, or anything above it is among `paths`.
+  // The file itself, or anything above it is among `paths`.
   bool IsIn(const QSet<QString>& paths, const QString& path) const;
   bool Hidden(const QString& path) const { return IsIn(hidden_, path); }
   int CannotRead(const QString& path) const;   // why, 0 when it can

@@ -1,0 +1,58 @@
+#include "common/replacement.h"
+
+#include <atomic>
+
+#include "common/failure.h"
+#include "common/paths.h"
+#include "common/programname.h"
+
+namespace tamo {
+namespace {
+
+// Nobody saves for a day.
+constexpr qint64 kLongestSave = 86400;
+
+// Unique in this run; it tells which program is at work.
+QString UnfinishedName() {
+  static std::atomic<int> count = 0;
+  return QStringLiteral("%1.%2%3")
+      .arg(ThisProgram().Text())
+      .arg(++count)
+      .arg(QLatin1String(kUnfinishedEnding));
+}
+
+}  // namespace
+
+Replacement::Replacement(Disk& disk, const QString& path)
+    : disk_(disk),
+      target_(disk.FollowLink(path)),
+      name_(InFolder(FolderOf(target_), UnfinishedName())) {}
+
+int Replacement::Begin() {
+  if (disk_.IsLink(target_)) return kFileOther;  // links in a circle
+  const int error = disk_.OpenNew(name_, handle_);
+  return error == kFileNotFound ? kPathNotFound : error;
+}
+
+int Replacement::Finish(int error) {
+  if (error == kNoError) disk_.TakeOver(handle_, target_);
+  if (error == kNoError) error = disk_.Sync(handle_);
+  const int closing = disk_.Close(handle_);
+  if (error == kNoError) error = closing;
+  if (error == kNoError) error = disk_.Rename(name_, target_);
+  if (error != kNoError) {
+    disk_.RemoveFile(name_);
+    return error;
+  }
+  return disk_.SyncFolder(FolderOf(target_)) == kNoError ? kNoError : kNotConfirmed;
+}
+
+bool LeftByTheDead(const QString& name, qint64 age) {
+  if (!name.endsWith(QLatin1String(kUnfinishedEnding))) return false;
+  ProgramName program;
+  if (!ReadProgramName(name, program)) return true;  // as older programs left them
+  if (!program.OfThisMachine()) return age > kLongestSave;
+  return !program.Lives();
+}
+
+}  // namespace tamo

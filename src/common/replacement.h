@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include "common/disk.h"
+
+namespace tamo {
+
+// A new file that takes the place of another in one step: it is written beside it, brought to the
+// device, renamed over it, and its folder is brought to the device. It takes over the rights, the
+// owner and the extended attributes of the old file as far as the system lets it. Of a symbolic
+// link the file at its end is replaced; of a hard link only the one name.
+//
+// Error numbers as Disk has them, and 1002 when all is done but the folder's sync: the new file
+// stands there, and a power cut could still bring back the old one.
+class Replacement {
+ public:
+  Replacement(Disk& disk, const QString& path);
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+
+  // First of all. 76 when there is no such folder.
+  int Begin();
+  int Handle() const { return handle_; }               // of the open new file
+  const QString& Unfinished() const { return name_; }  // its name until Finish
+  // Last of all, unless Begin failed. With an `error` of what went before, or when a step fails,
+  // the new file is taken away again and the old one stays.
+  int Finish(int error);
+
+ private:
+  Disk& disk_;
+  QString target_;
+  QString name_;
+  int handle_ = -1;
+};
+
+// Whether `name` is that of an unfinished file whose program is surely gone. `age` is the time
+// since it was last written, in seconds, -1 when it is not known: of a program on another machine
+// nothing else can be told.
+bool LeftByTheDead(const QString& name, qint64 age);
+
+// The ending of the names of unfinished files.
+inline constexpr char kUnfinishedEnding[] = ".tamo-unfinished";
+
+}  // namespace tamo

@@ -1,0 +1,109 @@
+#include <algorithm>
+
+#include "plans/ostfixture.h"
+
+// Marks belong to their plan: what happens to those that are not saved when another plan comes up.
+
+namespace tamo::test {
+namespace {
+
+class LeftMarks : public OstTest {
+ protected:
+  LeftMarks() { Put("Jobs/b.pdf"); }
+  void Pick(const char* plan) {
+    ost.PlanLocation.SetText(Path(plan));
+    desk.Dispatch([this] { ost.LoadPDF(); });
+  }
+  void Draw(double y) { viewer.DrawLine({100, y}, {200, y}); }
+  size_t MarksIn(const QString& path) {
+    PdfDraw other(files, engine);
+    return other.OpenFile(path, {}) == 0 ? other.Marks().size() : 0;
+  }
+  bool Waits(const QString& path) const {
+    const auto& saves = files.PendingSaves();
+    return std::any_of(saves.begin(), saves.end(),
+                       [&](const Files::Pending& save) { return save.path == path; });
+  }
+  QString copyOfA = Path("Tamo/Projects/00-2112002/Plans/a-Marked.pdf");
+};
+
+TEST_F(LeftMarks, DrawnAndNotSavedAreSavedWhenAnotherPlanComesUp) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  Pick("Jobs/b.pdf");
+  EXPECT_EQ(viewer.Marks().size(), 0U);
+  EXPECT_EQ(MarksIn(copyOfA), 1U);
+  EXPECT_EQ(files.Notice(), "");
+}
+
+TEST_F(LeftMarks, GoIntoTheProjectTheyWereDrawnFor) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  shared.JobID = QStringLiteral("00-2112003");
+  QDir().mkpath(Path("Tamo/Projects/00-2112003/Plans"));
+  Pick("Jobs/b.pdf");
+  EXPECT_EQ(MarksIn(copyOfA), 1U);
+  EXPECT_FALSE(disk.Exists(Path("Tamo/Projects/00-2112003/Plans/a-Marked.pdf")));
+}
+
+TEST_F(LeftMarks, AreAddedToACopyThatHasSome) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  desk.Dispatch([this] { ost.Save(); });
+  Pick("Jobs/a.pdf");
+  Draw(120);
+  Pick("Jobs/b.pdf");
+  EXPECT_EQ(MarksIn(copyOfA), 2U);
+}
+
+TEST_F(LeftMarks, ThatWaitForTheDiskWaitWithTheirPlanAndAreSavedLater) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  disk.SetFull(true);
+  desk.Dispatch([this] { ost.Save(); });
+  Pick("Jobs/b.pdf");
+  Draw(140);
+  Draw(150);
+  EXPECT_TRUE(Waits(copyOfA));
+  disk.SetFull(false);
+  EXPECT_TRUE(files.TryAgain());
+  EXPECT_EQ(MarksIn(copyOfA), 1U);
+  EXPECT_EQ(viewer.Marks().size(), 2U) << "the plan on the screen has its own";
+}
+
+TEST_F(LeftMarks, ComeBackWithTheirPlan) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  disk.SetFull(true);
+  desk.Dispatch([this] { ost.Save(); });
+  Pick("Jobs/b.pdf");
+  EXPECT_EQ(viewer.Marks().size(), 0U);
+  ost.PlanLocation.SetText(copyOfA);
+  desk.Dispatch([this] { ost.LoadPDF(); });
+  EXPECT_EQ(viewer.Marks().size(), 1U);
+  disk.SetFull(false);
+  Draw(120);
+  desk.Dispatch([this] { ost.Save(); });
+  EXPECT_FALSE(Waits(copyOfA));
+  EXPECT_EQ(MarksIn(copyOfA), 2U);
+}
+
+TEST_F(LeftMarks, AreSavedAtTheEnd) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  ost.SaveMarks();
+  EXPECT_EQ(MarksIn(copyOfA), 1U);
+}
+
+TEST_F(LeftMarks, WithoutAProjectStayWithTheirPlan) {
+  shared.JobID.clear();
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  Pick("Jobs/b.pdf");
+  EXPECT_EQ(viewer.Marks().size(), 0U);
+  Pick("Jobs/a.pdf");
+  EXPECT_EQ(viewer.Marks().size(), 1U);
+}
+
+}  // namespace
+}  // namespace tamo::test
