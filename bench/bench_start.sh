@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # From the start to the first frame, offscreen, beside an empty Qt window: both whole processes, in turn, medians of
-# twenty-one runs; once with no project and once with one that is opened. Argument: a build folder of the preset bench.
+# twenty-one runs; once with no project, once with one that is opened, once with one that another program has open. Argument: a build folder of the preset bench.
 set -euo pipefail
 bench=$1/bench
 data=$(cd "$(dirname "$0")/../data" && pwd)
@@ -30,9 +30,24 @@ for _ in $(seq 21); do
 done
 empty=$(median <"$work/empty")
 echo "empty window $empty us, with one word $(median <"$work/word") us"
-for kind in tamo project; do
+"$bench/start_window" "$work/program" "$work/home" "$work/ready" >/dev/null 2>&1 &
+owner=$!
+for _ in $(seq 100); do
+  [ -e "$work/ready" ] && break
+  sleep 0.1
+done
+for _ in $(seq 21); do
+  begun=$(date +%s%N)
+  status=0
+  "$bench/start_window" "$work/program" "$work/home" >/dev/null 2>&1 || status=$?
+  [ $status = 3 ] || { echo "the second program was not told that the project is open" && exit 1; }
+  echo $((($(date +%s%N) - begun) / 1000)) >>"$work/second"
+done
+kill "$owner"
+for kind in tamo project second; do
   time=$(median <"$work/$kind")
   words=Tamo
   [ $kind = project ] && words="Tamo with a project"
+  [ $kind = second ] && words="Tamo with a project that is open elsewhere"
   echo "empty window $empty us, $words $time us, ratio $((time * 100 / empty)) / 100"
 done

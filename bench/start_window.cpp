@@ -1,6 +1,9 @@
 // The program from its start to the first frame of its first window, with the first project of its
-// list opened when there is one. Arguments: the program folder and a home folder. bench_start.sh
-// runs it beside empty_window.
+// list opened when there is one. Arguments: the program folder and a home folder; with a third one
+// it stays, and says "ready" in a file of that name. Ends with 3 when another program has the
+// project. bench_start.sh runs it beside empty_window.
+#include <QFile>
+
 #include "firstframe.h"
 #include "startedprogram.h"
 
@@ -17,6 +20,11 @@ int main(int argc, char** argv) {
   auto& jobs = *dynamic_cast<tamo::OrderedList*>(main.Find(QStringLiteral("JobsList")));
   program.GetDesk().ChooseMenu(*main.FindMenu(QStringLiteral("OpenProject")));
   if (!jobs.Empty()) program.GetDesk().ClickRow(jobs, 0);
+  if (argc > 3) {
+    QFile ready(QString::fromLocal8Bit(argv[3]));
+    return ready.open(QIODevice::WriteOnly) ? QApplication::exec() : 2;
+  }
   const tamo::bench::FirstFrame end;
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  return program.Shared().ReadOnly.isEmpty() ? status : 3;
 }

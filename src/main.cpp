@@ -22,6 +22,8 @@ namespace {
 
 // How long the window waits for a plan before it shows a blank sheet and goes on.
 constexpr int kPatience = 80;
+// How often it is looked whether a project that another program has open is free; milliseconds.
+constexpr int kTick = 3000;
 
 // What is being typed into a field that waits is on the disk after this many milliseconds.
 constexpr int kKeepEvery = 2000;
@@ -62,6 +64,11 @@ void SaveBeforeTheSystemEnds(QApplication& application, tamo::Program& program) 
 void KeepWhatIsTyped(QTimer& timer, tamo::Program& program) {
   QObject::connect(&timer, &QTimer::timeout, &timer, [&program] { program.KeepWaiting(); });
   timer.start(kKeepEvery);
+}
+
+void LookAbout(QTimer& ticks, tamo::Program& program) {
+  QObject::connect(&ticks, &QTimer::timeout, &ticks, [&program] { program.Tick(); });
+  ticks.start(kTick);
 }
 
 }  // namespace
@@ -106,5 +113,7 @@ int main(int argc, char** argv) {
   QTimer keeping;
   KeepWhatIsTyped(keeping, program);
   program.Start();
+  QTimer ticks;
+  LookAbout(ticks, program);
   return QApplication::exec();
 }

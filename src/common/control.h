@@ -100,6 +100,7 @@ class TextField : public Control {
 
   int MaxLength() const { return maxLength_; }  // 0: no limit. Holds for typing and pasting
   bool readOnly = false;                        // to the user
+  void SetReadOnly(bool is);                    // the same, at any time
   bool multiLine = false;
 
   int SelectionStart() const { return selectionStart_; }

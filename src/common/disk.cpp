@@ -160,6 +160,11 @@ int RealDisk::OpenNew(const QString& path, int& handle) {
   return Result(handle, path);
 }
 
+int RealDisk::OpenExclusive(const QString& path, int& handle) {
+  handle = ::open(Native(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  return handle < 0 && errno == EEXIST ? kFileExists : Result(handle, path);
+}
+
 int RealDisk::OpenAtEnd(const QString& path, int& handle) {
   handle = ::open(Native(path).constData(), O_WRONLY | O_APPEND | O_CLOEXEC);
   return Result(handle, path);

@@ -51,6 +51,9 @@ class Disk {
 
   // A new file for writing, replacing one of that name. `handle` is valid until Close.
   virtual int OpenNew(const QString& path, int& handle) = 0;
+  // A new file for writing; 58 when there is something of that name already. Of several programs,
+  // also on several machines, one gets it.
+  virtual int OpenExclusive(const QString& path, int& handle) = 0;
   // An existing file for adding at its end, or for cutting (Truncate).
   virtual int OpenAtEnd(const QString& path, int& handle) = 0;
   // All of `bytes`, unbuffered, or an error.
@@ -99,6 +102,7 @@ class RealDisk : public Disk {
   FileStamp Stamp(const QString& path) override;
   int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
+  int OpenExclusive(const QString& path, int& handle) override;
   int OpenAtEnd(const QString& path, int& handle) override;
   int Write(int handle, const QByteArray& bytes) override;
   int Truncate(int handle, qint64 size) override;

@@ -122,6 +122,7 @@ int Files::SaveLines(const QString& path, const QStringList& lines) {
 }
 
 int Files::SaveText(const QString& path, const QString& text) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   if (!pending_.empty()) RetryPending(path);
   const int error = ReplaceInItsFolder(path, text.toUtf8());
   Pending* known = FindPending(path);
@@ -141,6 +142,7 @@ int Files::SaveText(const QString& path, const QString& text) {
 }
 
 int Files::ReplaceFile(const QString& path, const QByteArray& bytes) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   return ReplaceInItsFolder(path, bytes);
 }
 
@@ -174,6 +176,7 @@ void Files::RetryPending(const QString& except) {
   const auto before = pending_.size();
   std::erase_if(pending_, [&](Pending& pending) {
     if (pending.path.compare(except, Qt::CaseInsensitive) == 0) return false;
+    if (mayWrite && !mayWrite(pending.path)) return false;
     pending.reason =
         pending.save ? pending.save() : ReplaceInItsFolder(pending.path, pending.text.toUtf8());
     return pending.reason == kNoError;
@@ -204,6 +207,7 @@ bool Files::Exists(const QString& path) {
 }
 
 int Files::Remove(const QString& path) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   const Pending* known = FindPending(path);
   if (known != nullptr) {
     pending_.erase(pending_.begin() + (known - pending_.data()));
@@ -218,6 +222,7 @@ int Files::Remove(const QString& path) {
 }
 
 int Files::MakeFolder(const QString& path) {
+  if (mayWrite && !mayWrite(path)) return kNoAccess;
   const QString bare = BareFolder(path);
   const int error = disk_.MakeFolder(bare);
   if (error == kNoError) MakeLasting(bare);

@@ -76,6 +76,10 @@ class Files {
 
   FileWitness* witness = nullptr;  // of each file that is replaced or removed; outlives this
 
+  // Asked before a file is saved or removed, or a folder made. False: another program has it in
+  // hand; nothing is done, the answer is 75, and nothing waits.
+  std::function<bool(const QString& path)> mayWrite;
+
   // Removes what a crash left of half-made saves directly in `folder`.
   void Sweep(const QString& folder);
 

@@ -42,10 +42,11 @@ QString StartOf(qint64 process) {
 }
 
 // The system's own number of the machine is nobody else's business: it is not written down as it
-// is. What runs in a container of its own has process numbers of its own.
+// is. Machines that were copied whole share it, but not their names. What runs in a container of
+// its own has process numbers of its own.
 QString MachineId() {
   QByteArray id = QSysInfo::machineUniqueId();
-  if (id.isEmpty()) id = QSysInfo::machineHostName().toUtf8();
+  id += QSysInfo::machineHostName().toUtf8();
   char space[64] = {};
   if (::readlink("/proc/self/ns/pid", space, sizeof space - 1) > 0) id += space;
   const QByteArray hash = QCryptographicHash::hash("tamo" + id, QCryptographicHash::Sha256);
@@ -54,7 +55,7 @@ QString MachineId() {
 
 QString UserName() {
   for (const char* name : {"USER", "LOGNAME", "USERNAME"}) {
-    const QString user = qEnvironmentVariable(name).simplified();
+    QString user = qEnvironmentVariable(name).simplified();
     if (!user.isEmpty()) return user;
   }
   return QStringLiteral("user %1").arg(::getuid());
@@ -65,9 +66,8 @@ QString UserName() {
 ProgramRun BeginRun() {
   const qint64 process = QCoreApplication::applicationPid();
   static const QString machineId = MachineId();
-  const ProgramRun run{UserName(),       QSysInfo::machineHostName().simplified(),
-                       machineId,        process,
-                       StartOf(process), QUuid::createUuid().toString(QUuid::Id128)};
+  ProgramRun run{UserName(),       QSysInfo::machineHostName().simplified(),  machineId, process,
+                 StartOf(process), QUuid::createUuid().toString(QUuid::Id128)};
   const std::lock_guard lock(Live().mutex);
   Live().names.insert(run.run);
   return run;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDate>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <functional>
@@ -14,6 +15,8 @@ class Clock {
  public:
   virtual ~Clock() = default;
   virtual QDate Today() const = 0;
+  // For spans of time, and for when a project was opened; UTC.
+  virtual QDateTime Now() const { return QDateTime::currentDateTimeUtc(); }
 };
 
 // Message boxes. Tell has an OK; Ask has Yes and No and answers true for Yes. Both return when

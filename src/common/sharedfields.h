@@ -18,9 +18,13 @@ struct SharedFields {
   QString JobID;                             // Tamo: the open project's id, "" when none is open
   QString JobName;                           // Tamo: mirrors the field JobName of the project panel
   QString Locked = QStringLiteral("False");  // Tamo
-  QString DriveBy;                           // Tamo: "True" makes Init return at once
-  QString TopOfReport;                       // Tamo: the scroll position kept across a refresh
-  QString CopyJobID;                         // Tamo: the project marked for copying
+  // Not written down anywhere: whether the open project may only be read, because another program
+  // has it open. A sentence or two for the estimator; "" when it may be written.
+  QString ReadOnly;
+  QString TitleNote;    // what the titles of the main windows say about that, "" for nothing
+  QString DriveBy;      // Tamo: "True" makes Init return at once
+  QString TopOfReport;  // Tamo: the scroll position kept across a refresh
+  QString CopyJobID;    // Tamo: the project marked for copying
 
   QString LoadingJobNFO = QStringLiteral("False");  // OST: "True" while a record is read
 

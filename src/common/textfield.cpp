@@ -23,6 +23,12 @@ void TextField::SetText(const QString& text) {
   Take(text);
 }
 
+void TextField::SetReadOnly(bool is) {
+  if (readOnly == is) return;
+  readOnly = is;
+  Changed();
+}
+
 void TextField::Select(int start, int length) {
   const int size = static_cast<int>(text_.size());
   start = std::clamp(start, 0, size);

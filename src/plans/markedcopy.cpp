@@ -23,6 +23,10 @@ bool MarkedCopy::NothingToSave() const {
 // never takes another plan's marks. It is the name under which the record will name it.
 void MarkedCopy::Save(const QString& id) {
   if (NothingToSave()) return;
+  if (!kit_.shared.ReadOnly.isEmpty()) {
+    form_.PlanProblem.SetCaption(kit_.shared.ReadOnly);
+    return;
+  }
   QString refusal;
   const QString target =
       MarkedCopyOf(viewer_.ShownPath(), DataFolder(kit_.shared).Project(id), refusal);

@@ -32,7 +32,7 @@ void PlanNotesPanel::Load() {
 }
 
 void PlanNotesPanel::Save() {
-  if (kit_.shared.JobID.isEmpty()) return;
+  if (kit_.shared.JobID.isEmpty() || !kit_.shared.ReadOnly.isEmpty()) return;
   WritePlanNotes(kit_.files, kit_.shared, form_.PlanNotes.Text());
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vector>
+
+#include "plans/ostform.h"
 #include "pricing/pricingform.h"
 #include "reports/reportsform.h"
 #include "takeoff/adjustmentform.h"
@@ -15,13 +18,23 @@ void RefreshReport(ReportsForm& reports);
 class FollowersOnForms : public ProjectFollowers {
  public:
   // All of it is used only once the program runs.
-  FollowersOnForms(PricingForm& pricing, AdjustmentForm& adjustment, ReportsForm& reports)
-      : pricing_(pricing), adjustment_(adjustment), reports_(reports) {}
+  FollowersOnForms(PricingForm& pricing, AdjustmentForm& adjustment, ReportsForm& reports,
+                   OSTForm& ost, std::vector<Form*> writing)
+      : pricing_(pricing),
+        adjustment_(adjustment),
+        reports_(reports),
+        ost_(ost),
+        writing_(std::move(writing)) {}
 
   void InitPricing() override { pricing_.Init(); }
   void RefreshPricingList() override { pricing_.LoadDescriptions(); }
   void PrintReport() override { RefreshReport(reports_); }
   void ClearReports() override { reports_.ClearReport(); }
+  void ShowReadOnly(bool readOnly) override {
+    ost_.PlanNotes.SetReadOnly(readOnly);
+    if (!readOnly) return;
+    for (Form* form : writing_) form->Hide();
+  }
   void ForgetProject() override {
     adjustment_.ForgetAmount();
     reports_.ForgetProject();
@@ -31,6 +44,8 @@ class FollowersOnForms : public ProjectFollowers {
   PricingForm& pricing_;
   AdjustmentForm& adjustment_;
   ReportsForm& reports_;
+  OSTForm& ost_;
+  std::vector<Form*> writing_;  // what is entered there goes into the open project
 };
 
 }  // namespace tamo

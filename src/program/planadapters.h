@@ -51,7 +51,10 @@ class ProjectKeeperOnTamo : public ProjectKeeper {
  public:
   explicit ProjectKeeperOnTamo(TamoForm& main) : main_(main) {}
 
-  void SaveJobNFO() override { main_.record.SaveJobNFO(); }
+  // Who only reads a project may turn its plans' pages without being told so each time.
+  void SaveJobNFO() override {
+    if (!main_.hold.ReadOnly()) main_.record.SaveJobNFO();
+  }
   void LoadJobNFO(const QString& picked) override { main_.record.LoadJobNFOForPlan(picked); }
   void InitMain() override { main_.Init(); }
 

@@ -37,7 +37,8 @@ struct Program::Parts {
   History history{platform, files, shared};
 
   Shell shell{kit, main, settings, ost};
-  FollowersOnForms followers{pricing, adjustment, reports};
+  FollowersOnForms followers{
+      pricing, adjustment, reports, ost, {&pricing, &rooms, &areas, &bottomLine, &adjustment}};
   ReportFollows reportFollows{reports};
   StartOfPricing startOfPricing{settings, main};
   PricingOnForm pricingOnForm{pricing, ost};
@@ -71,6 +72,7 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
   Parts& parts = *parts_;
   parts.shell.onEnded = [this] {
     parts_->recovery.End();
+    parts_->main.hold.End();
     if (onEnded) onEnded();
   };
   parts.shell.beforeEnd = [&parts] {
@@ -126,6 +128,12 @@ const QString* Program::FindText(const QString& form, const QString& name) {
 
 void Program::TrySavesAgain() {
   parts_->desk.Dispatch([this] { parts_->files.TryAgain(); });
+}
+
+void Program::Tick() {
+  if (!Running()) return;
+  if (parts_->desk.InEvent()) return parts_->main.hold.TickInEvent();
+  parts_->desk.Dispatch([this] { parts_->main.hold.Tick(); });
 }
 
 bool Program::MayEnd() {

@@ -40,6 +40,9 @@ class Program {
   const QString* FindText(const QString& form, const QString& name);
   // The strip at the foot of every window was clicked.
   void TrySavesAgain();
+  // Every few seconds: renews the hold on the open project, or looks whether it is free by now.
+  // In the middle of an event, while a message waits for its answer, it only renews.
+  void Tick();
   // Asks, when saves are pending, whether to end all the same; true when the program may end.
   bool MayEnd();
   // Everything that waits in a form is kept in the recovery file, also what is being typed.

@@ -21,14 +21,22 @@ void Shell::EnterMode(int mode) {
       online);
   ShowMenus(ost_, {"Spacer2"}, !online);
   if (online) ShowMenus(ost_, {"Exit"}, true);
-  ost_.SetCaption(online ? QStringLiteral("Digital Sheetwell Beta 1.4")
-                         : QStringLiteral("Digital Plan Takeoff"));
   ShowMenus(main_,
             {"Project", "Pricing2", "Estimate", "Reports1", "Settings1", "Docs1", "Exit", "OST1"},
             !online);
-  main_.SetCaption(online ? QStringLiteral("Projects") : QStringLiteral("Estimating Beta 1.4"));
+  ShowTitles();
   BringUpShell();
   if (!online && settings_.Visible()) settings_.Show(&main_);
+}
+
+void Shell::ShowTitles() {
+  const QString& note = kit_.shared.TitleNote;
+  const QString behind = note.isEmpty() ? QString() : QStringLiteral(" - ") + note;
+  ost_.SetCaption((Online() ? QStringLiteral("Digital Sheetwell Beta 1.4")
+                            : QStringLiteral("Digital Plan Takeoff")) +
+                  behind);
+  main_.SetCaption((Online() ? QStringLiteral("Projects") : QStringLiteral("Estimating Beta 1.4")) +
+                   behind);
 }
 
 // The shell is shown before the other form goes, so that no third window comes to the front in

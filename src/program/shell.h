@@ -20,6 +20,7 @@ class Shell : public FrontWindows {
   void BringUpShell() override;
   void ShowMainForm() override;
   void HideMainForm() override;
+  void ShowTitles() override;
   void AskForEstimatorNumber() override;
 
   bool Online() const { return kit_.shared.GUIText == QLatin1String("2"); }

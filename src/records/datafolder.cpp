@@ -46,6 +46,10 @@ QString ProjectFolder::Lock() const {
   return Named(path_, "Locked.tamo");
 }
 
+QString ProjectFolder::InUse() const {
+  return Named(path_, kInUseName);
+}
+
 QString ProjectFolder::Markups() const {
   return Named(path_, kMarkups);
 }

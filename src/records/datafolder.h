@@ -32,6 +32,7 @@ class ProjectFolder {
 
   QString Record() const;
   QString Lock() const;
+  QString InUse() const;
   QString Markups() const;
   QString Adjustment() const;
   QString Items() const;
@@ -47,6 +48,9 @@ class ProjectFolder {
   QString path_;
   QString separator_;
 };
+
+// In a project's folder as long as a program has it open: no file of the project, never copied.
+inline constexpr char kInUseName[] = "InUse.lock";
 
 // What all projects share.
 class DataFolder {

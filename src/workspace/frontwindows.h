@@ -14,6 +14,8 @@ class FrontWindows {
   // Shows the main form so that its panel or its list can be seen; in mode 2 OST owns it.
   virtual void ShowMainForm() = 0;
   virtual void HideMainForm() = 0;
+  // The titles say whether the open project can only be read, and why.
+  virtual void ShowTitles() = 0;
   // The Settings form with the focus on the estimator's number.
   virtual void AskForEstimatorNumber() = 0;
 };

@@ -11,7 +11,7 @@ namespace tamo {
 // The open project's record between its file, the panel and the plan form.
 class PanelRecord {
  public:
-  PanelRecord(const Kit& kit, ProjectPanel& panel, const ProjectLock& lock,
+  PanelRecord(const Kit& kit, ProjectPanel& panel, ProjectLock& lock,
               const ProjectNeighbours& neighbours)
       : kit_(kit), panel_(panel), lock_(lock), near_(neighbours) {}
 
@@ -46,7 +46,7 @@ class PanelRecord {
 
   const Kit kit_;
   ProjectPanel& panel_;
-  const ProjectLock& lock_;
+  ProjectLock& lock_;
   const ProjectNeighbours near_;
   QString shownFolder_;   // of the project whose record stands in the panel, "" for none
   QStringList stored_;    // the fields as they were last read, stored or emptied

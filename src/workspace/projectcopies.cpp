@@ -26,6 +26,7 @@ void ProjectCopies::PasteProject() {
     messages.Tell(QStringLiteral("Create new project to paste %1 into.").arg(source));
     return;
   }
+  if (!parts_.hold.NeedWritable()) return;
   CopyProjectFiles(kit_.files, kit_.shared, source, target);
   messages.Tell(QStringLiteral("%1 has been copied into %2.").arg(source, target));
 }
@@ -37,6 +38,7 @@ void ProjectCopies::DeleteProject() {
   const QString name = parts_.panel.JobName.Text();
   if (name.isEmpty() || id.isEmpty()) return;
   if (!kit_.desk.GetMessages().Ask(QStringLiteral("Delete %1\r%2 ?").arg(id, name))) return;
+  if (!parts_.hold.NeedWritable()) return;
   parts_.picker.RemoveProject();
   DeleteProjectFiles(kit_.files, kit_.shared, id);
   projects_.ClearProject();

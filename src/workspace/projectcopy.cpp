@@ -33,6 +33,7 @@ void CopyFolder(Files& files, const QString& from, const QString& to, const QStr
   for (const QString& name : disk.Names(from)) {
     const QString path = InFolder(from, name);
     if (disk.IsFolder(path) || name.endsWith(QLatin1String(kUnfinishedEnding))) continue;
+    if (name.startsWith(QLatin1String(kInUseName), Qt::CaseInsensitive)) continue;
     CopyFile(files, path, InFolder(to, name), targetId, result);
   }
 }

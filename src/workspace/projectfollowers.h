@@ -10,7 +10,10 @@ class ProjectFollowers {
   virtual void RefreshPricingList() = 0;  // the library's names are read again
   virtual void PrintReport() = 0;         // an open report follows, when it is set to
   virtual void ClearReports() = 0;        // empties the report and hides its form
-  virtual void ForgetProject() = 0;       // no project's adjustment is shown or counted in another
+  // The open project can only be read: the forms that would change it are put away, and the plan's
+  // notes can't be typed into; or it can be written again.
+  virtual void ShowReadOnly(bool readOnly) = 0;
+  virtual void ForgetProject() = 0;  // no project's adjustment is shown or counted in another
 };
 
 }  // namespace tamo

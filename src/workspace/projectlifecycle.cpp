@@ -21,6 +21,7 @@ bool ProjectLifeCycle::TakeNewId() {
 
 void ProjectLifeCycle::NewProject() {
   if (!TakeNewId()) return;
+  parts_.hold.Leave();
   kit_.shared.OPN = QStringLiteral("1");
   if (parts_.estimator.Text().size() != 2) near_.windows.AskForEstimatorNumber();
   parts_.record.Clear();
@@ -57,16 +58,34 @@ void ProjectLifeCycle::OpenSelected() {
   panel.JobName.SetText(From(entry, 14));
   kit_.shared.LoadingJobNFO = QStringLiteral("False");
   near_.followers.ForgetProject();
+  parts_.hold.Open();
   parts_.record.ComeTo();
+  ReadOpenProject();
+}
+
+void ProjectLifeCycle::ReadOpenProject() {
   parts_.record.LoadJobNFO();
   parts_.lock.LoadLocked();
   near_.plan.LoadPlanNotes();
-  near_.plan.SetProjectName(panel.JobName.Text());
+  near_.plan.SetProjectName(parts_.panel.JobName.Text());
   if (!near_.plan.Fields().planLocation.isEmpty()) near_.plan.LoadPDF();
   near_.windows.BringUpShell();
 }
 
+void ProjectLifeCycle::ShowWhoHasIt() {
+  const bool readOnly = parts_.hold.ReadOnly();
+  for (TextField* field : parts_.panel.Fields()) field->SetReadOnly(readOnly);
+  near_.followers.ShowReadOnly(readOnly);
+  near_.windows.ShowTitles();
+}
+
+void ProjectLifeCycle::ReadAgain() {
+  near_.followers.ForgetProject();
+  ReadOpenProject();
+}
+
 void ProjectLifeCycle::ClearProject() {
+  parts_.hold.Leave();
   kit_.shared.JobID.clear();
   parts_.record.Clear();
   near_.followers.ForgetProject();
@@ -76,7 +95,9 @@ void ProjectLifeCycle::ClearProject() {
 void ProjectLifeCycle::ExitProjectInformation() {
   const TextField& name = parts_.panel.JobName;
   if (name.Empty()) kit_.shared.JobID.clear();
+  if (kit_.shared.JobID.isEmpty()) parts_.hold.Leave();
   parts_.picker.SaveJobsList();
+  if (!kit_.shared.JobID.isEmpty()) parts_.hold.Open();
   parts_.record.SaveJobNFO();
   const bool isNew = kit_.shared.OPN == QLatin1String("1");
   if (!name.Empty() && isNew) parts_.ids.SaveProjectNumber();

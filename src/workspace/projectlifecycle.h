@@ -18,6 +18,7 @@ class ProjectLifeCycle {
     const TextField& estimator;  // the estimator's number in the settings
     ProjectIds& ids;
     ProjectPicker& picker;
+    ProjectHold& hold;
     ProjectLock& lock;
     PanelRecord& record;
   };
@@ -29,10 +30,16 @@ class ProjectLifeCycle {
   // The project of the line that is selected in the list.
   void OpenSelected();
   void ClearProject();
+  // The open project belongs to another program, or to this one again, or none is open: the fields
+  // and the titles show it.
+  void ShowWhoHasIt();
+  // It was read until now, and has changed meanwhile.
+  void ReadAgain();
   // The button of the panel: the project is listed, if it is new, and its record written.
   void ExitProjectInformation();
 
  private:
+  void ReadOpenProject();
   bool TakeNewId();
   void TogglePanelForName();
 

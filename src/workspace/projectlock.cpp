@@ -5,7 +5,7 @@
 namespace tamo {
 
 void ProjectLock::LockProject() {
-  if (kit_.shared.JobID.isEmpty()) return;
+  if (kit_.shared.JobID.isEmpty() || !hold_.NeedWritable()) return;
   const bool locked = kit_.shared.Locked == QLatin1String("True");
   kit_.shared.Locked = locked ? QStringLiteral("False") : QStringLiteral("True");
   SaveLocked();
@@ -19,8 +19,8 @@ void ProjectLock::LoadLocked() {
   ReadLock(kit_.files, kit_.shared, kit_.shared.Locked);
 }
 
-bool ProjectLock::NeedUnlocked() const {
-  if (kit_.shared.Locked != QLatin1String("True")) return true;
+bool ProjectLock::NeedUnlocked() {
+  if (kit_.shared.Locked != QLatin1String("True")) return hold_.NeedWritable();
   kit_.desk.GetMessages().Tell(QStringLiteral("Project is locked."));
   return false;
 }

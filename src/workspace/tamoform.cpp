@@ -16,6 +16,8 @@ TamoForm::TamoForm(const Kit& kit, SettingsForm& settings, const ProjectNeighbou
   panel.JobsList.onSelect = [this] {
     if (panel.JobsList.Index() >= 0) projects.OpenSelected();
   };
+  hold.onChange = [this] { projects.ShowWhoHasIt(); };
+  hold.onFree = [this] { projects.ReadAgain(); };
   panel.Command1.onClick = [this] { projects.ExitProjectInformation(); };
 }
 

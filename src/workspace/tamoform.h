@@ -33,11 +33,13 @@ class TamoForm : public Form {
  public:
   ProjectIds ids{kit_, settings_.EstimatorNumber};
   ProjectPicker picker{kit_, panel, ids};
-  ProjectLock lock{kit_};
+  ProjectHold hold{kit_};
+  ProjectLock lock{kit_, hold};
   PanelRecord record{kit_, panel, lock, near_};
 
  private:
-  const ProjectLifeCycle::Parts parts_{panel, settings_.EstimatorNumber, ids, picker, lock, record};
+  const ProjectLifeCycle::Parts parts_{panel, settings_.EstimatorNumber, ids, picker, hold, lock,
+                                       record};
 
  public:
   ProjectLifeCycle projects{kit_, parts_, near_};

@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "records/datafolder.h"
+
 namespace tamo::player {
 namespace {
 
@@ -75,6 +77,7 @@ QStringList Machine::Everything(const QString& folder) {
   while (each.hasNext()) {
     const QString path = each.next();
     if (!folder.contains(kHistory) && path.contains(kHistory)) continue;
+    if (each.fileName() == QLatin1String(kInUseName)) continue;
     const QFileInfo info = each.fileInfo();
     found += root.relativeFilePath(path) +
              (info.isDir() && !info.isSymLink() ? QStringLiteral("/") : QString());

@@ -30,8 +30,8 @@ class Machine {
   static bool WriteFile(const QString& path, const QByteArray& bytes);
   static bool Copy(const QString& from, const QString& to);  // a file, or a folder with all in it
   static bool Remove(const QString& path);
-  // Everything below a folder but the history of a data folder, paths relative to it, folders with
-  // a slash at the end, sorted.
+  // Everything below a folder, paths relative to it, folders with a slash at the end, sorted. The
+  // sign that a program has a project open is left out, and the history of a data folder.
   static QStringList Everything(const QString& folder);
 
   test::FaultDisk disk;

@@ -20,6 +20,7 @@ enum class Shape {
   Path,
   PathAndBlock,
   Date,
+  Seconds,
   KeyName,
   YesOrNo,
   Plan,
@@ -35,6 +36,7 @@ struct Verb {
 
 constexpr Verb kVerbs[] = {
     {"clock", Act::Clock, Shape::Date},
+    {"wait", Act::Wait, Shape::Seconds},
     {"start", Act::Start, Shape::Nothing},
     {"stop", Act::Stop, Shape::Nothing},
     {"menu", Act::Menu, Shape::Control},
@@ -177,6 +179,8 @@ QString ParseWord(Step& step, Shape shape, const QString& word) {
     case Shape::Date:
       step.date = QDate::fromString(word, QStringLiteral("yyyy-MM-dd"));
       return step.date.isValid() ? QString() : QStringLiteral("a date YYYY-MM-DD is expected");
+    case Shape::Seconds:
+      return WholeNumber(word, step.row);
     case Shape::KeyName:
       return KeyFromName(word, step.key) ? QString()
                                          : QStringLiteral("there is no key \"%1\"").arg(word);

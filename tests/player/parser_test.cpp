@@ -73,6 +73,8 @@ TEST(Parser, RowsPlansDatesAndAnswers) {
   EXPECT_EQ(Parsed("plan key Ctrl+Left").stroke.ctrl, true);
   EXPECT_NE(Parsed("plan dance").error, "");
   EXPECT_EQ(Parsed("clock 2026-02-28").date, QDate(2026, 2, 28));
+  EXPECT_EQ(Parsed("wait 125").row, 125);
+  EXPECT_NE(Parsed("wait long").error, "");
   EXPECT_NE(Parsed("clock 2026-02-30").error, "");
   EXPECT_TRUE(Parsed("answer Yes").yes);
   EXPECT_NE(Parsed("answer perhaps").error, "");

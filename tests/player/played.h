@@ -23,6 +23,7 @@ class Played {
   virtual PdfDraw& Viewer() = 0;
   virtual QString Notice() = 0;  // of unsaved files
   virtual void TrySavesAgain() = 0;
+  virtual void Tick() = 0;  // as time goes by, between two events
   virtual bool Running() = 0;
   // The form whose window is closed to end the program; nullptr when any will do.
   virtual Form* Shell() = 0;

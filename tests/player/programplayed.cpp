@@ -39,6 +39,9 @@ QString ProgramPlayed::Notice() {
 void ProgramPlayed::TrySavesAgain() {
   program_->TrySavesAgain();
 }
+void ProgramPlayed::Tick() {
+  program_->Tick();
+}
 bool ProgramPlayed::Running() {
   return program_->Running();
 }

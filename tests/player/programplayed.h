@@ -30,6 +30,7 @@ class ProgramPlayed : public Played {
   PdfDraw& Viewer() override;
   QString Notice() override;
   void TrySavesAgain() override;
+  void Tick() override;
   bool Running() override;
   Form* Shell() override;
 

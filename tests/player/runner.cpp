@@ -10,6 +10,8 @@
 namespace tamo::player {
 namespace {
 
+constexpr int kLook = 3;  // seconds
+
 // How the lines of a look read as one text: the way one-line texts are written in a scenario.
 QString OneLine(const QStringList& lines) {
   return lines.join(QStringLiteral("^M^J"));
@@ -75,6 +77,7 @@ Seat& Runner::SeatOf(const Step& step) {
   std::unique_ptr<Seat>& seat = seats_[step.second ? 1 : 0];
   if (seat == nullptr)
     seat = std::make_unique<Seat>(step.second ? secondMachine_ : machine_, stages_(), programs_);
+  seat->Tick();
   return *seat;
 }
 
@@ -95,6 +98,8 @@ void Runner::Do(const Step& step) {
     case Act::Copy:
     case Act::Remove:
       return DoToFile(step);
+    case Act::Wait:
+      return Wait(step.row);
     case Act::Clock:
     case Act::Deny:
     case Act::Allow:
@@ -108,6 +113,17 @@ void Runner::Do(const Step& step) {
       return DoToMachine(step, secondMachine_);
     default:
       return Front(step).Do(step);
+  }
+}
+
+// Time goes by at both desks, in the steps in which a program looks about.
+void Runner::Wait(int seconds) {
+  for (int gone = 0; gone < seconds; gone += kLook) {
+    for (Machine* machine : {&machine_, &secondMachine_})
+      machine->clock.now = machine->clock.Now().addSecs(std::min(kLook, seconds - gone));
+    for (const auto& seat : seats_) {
+      if (seat != nullptr) seat->Tick();
+    }
   }
 }
 

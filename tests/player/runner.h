@@ -38,6 +38,7 @@ class Runner {
   void Do(const Step& step);
   void DoToFile(const Step& step);
   static void DoToMachine(const Step& step, Machine& machine);
+  void Wait(int seconds);
   void CopyIn(const Step& step);
   QString Sought(const Step& step, const QString& from) const;
   void Print(const Step& step);

@@ -44,6 +44,10 @@ void Seat::Check(bool front) {
   if (!why.isEmpty()) Fail(why);
 }
 
+void Seat::Tick() {
+  if (played_ != nullptr) played_->Tick();
+}
+
 void Seat::ToFront() {
   if (played_ != nullptr) stage_->ToFront();
 }

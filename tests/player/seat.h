@@ -31,6 +31,8 @@ class Seat {
   // the forms say, and a program that has ended is gone. `front`: its windows are the active ones.
   void Check(bool front);
 
+  // A moment goes by for the program.
+  void Tick();
   // The person turns to it from another program.
   void ToFront();
   void TakeDown();

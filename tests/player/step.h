@@ -12,6 +12,7 @@ namespace tamo::player {
 
 enum class Act {
   Clock,
+  Wait,
   Start,
   Stop,
   Menu,
@@ -71,7 +72,7 @@ struct Step {
 
   QString name;  // FORM.CONTROL, FORM, or "notice"
   QString text;  // what is typed, a path, or WHAT is looked at
-  int row = 0;   // also the mode and the page of a plan step
+  int row = 0;   // also the mode and the page of a plan step, seconds
   QDate date;
   bool yes = false;
   tamo::Key key;

@@ -20,6 +20,7 @@ class ToyProgram : public Played {
   PdfDraw& Viewer() override { return viewer_; }
   QString Notice() override { return files_.Notice(); }
   void TrySavesAgain() override { files_.TryAgain(); }
+  void Tick() override {}
   bool Running() override { return toy_.Visible(); }
   Form* Shell() override { return &toy_; }
 

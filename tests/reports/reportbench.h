@@ -85,6 +85,7 @@ class FormBench {
     void BringUpShell() override {}
     void ShowMainForm() override { asked += QStringLiteral("show main"); }
     void HideMainForm() override { asked += QStringLiteral("hide main"); }
+    void ShowTitles() override {}
     void AskForEstimatorNumber() override {}
   };
   // What the price library asks of the rest: nothing that a report needs.

@@ -13,6 +13,8 @@ class FixedClock : public Clock {
  public:
   QDate today = QDate(2021, 12, 14);
   QDate Today() const override { return today; }
+  QDateTime now;  // not set: the machine's
+  QDateTime Now() const override { return now.isValid() ? now : Clock::Now(); }
 };
 
 // Records every box; questions take the next waiting answer. A question with no waiting answer

@@ -76,6 +76,13 @@ int FaultDisk::OpenNew(const QString& path, int& handle) {
   return RealDisk::OpenNew(path, handle);
 }
 
+int FaultDisk::OpenExclusive(const QString& path, int& handle) {
+  if (const int error = CannotWrite(path)) return error;
+  if (full_ && !RealDisk::Exists(path)) return kDiskFull;
+  if (const int error = Step()) return error;
+  return RealDisk::OpenExclusive(path, handle);
+}
+
 int FaultDisk::OpenAtEnd(const QString& path, int& handle) {
   if (const int error = CannotWrite(path)) return error;
   if (const int error = Step()) return error;

@@ -38,6 +38,7 @@ class FaultDisk : public RealDisk {
   FileStamp Stamp(const QString& path) override;
   int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
+  int OpenExclusive(const QString& path, int& handle) override;
   int OpenAtEnd(const QString& path, int& handle) override;
   int Write(int handle, const QByteArray& bytes) override;
   int Truncate(int handle, qint64 size) override;

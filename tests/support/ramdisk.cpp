@@ -70,6 +70,10 @@ int RamDisk::OpenNew(const QString& path, int& handle) {
   return kNoError;
 }
 
+int RamDisk::OpenExclusive(const QString& path, int& handle) {
+  return Exists(path) ? kFileExists : OpenNew(path, handle);
+}
+
 int RamDisk::OpenAtEnd(const QString& path, int& handle) {
   if (!files_.contains(path)) return Missing(path);
   handle = nextHandle_++;

@@ -25,6 +25,7 @@ class RamDisk : public Disk {
   FileStamp Stamp(const QString&) override { return {}; }  // nothing is known: all is read anew
   int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
+  int OpenExclusive(const QString& path, int& handle) override;
   int OpenAtEnd(const QString& path, int& handle) override;
   int Write(int handle, const QByteArray& bytes) override;
   int Truncate(int handle, qint64 size) override;

@@ -14,6 +14,7 @@ struct WindowsDouble : FrontWindows {
   void BringUpShell() override { asked += QStringLiteral("shell"); }
   void ShowMainForm() override { asked += QStringLiteral("show main"); }
   void HideMainForm() override { asked += QStringLiteral("hide main"); }
+  void ShowTitles() override {}
   void AskForEstimatorNumber() override { asked += QStringLiteral("estimator"); }
   QStringList asked;
 };
@@ -51,6 +52,8 @@ struct FollowersDouble : ProjectFollowers {
   void PrintReport() override { ++reports; }
   void ClearReports() override { ++cleared; }
   void ForgetProject() override { ++forgotten; }
+  void ShowReadOnly(bool is) override { readOnly = is; }
+  bool readOnly = false;
   int pricing = 0, lists = 0, reports = 0, cleared = 0, forgotten = 0;
 };
 
