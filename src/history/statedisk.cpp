@@ -30,6 +30,9 @@ int StateDisk::OpenToRead(const QString&, std::shared_ptr<FileReader>&) {
 int StateDisk::OpenNew(const QString&, int&) {
   return kNoAccess;
 }
+int StateDisk::OpenExclusive(const QString&, int&) {
+  return kNoAccess;
+}
 int StateDisk::OpenAtEnd(const QString&, int&) {
   return kNoAccess;
 }

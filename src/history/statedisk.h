@@ -15,6 +15,7 @@ class StateDisk : public Disk {
   FileStamp Stamp(const QString&) override { return {}; }
   int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
+  int OpenExclusive(const QString& path, int& handle) override;
   int OpenAtEnd(const QString& path, int& handle) override;
   int Write(int handle, const QByteArray& bytes) override;
   int Truncate(int handle, qint64 size) override;
