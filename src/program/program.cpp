@@ -10,6 +10,7 @@
 #include "program/recovery.h"
 #include "program/reportadapters.h"
 #include "program/takeoffadapters.h"
+#include "program/versionadapters.h"
 #include "schedule/scheduleform.h"
 #include "workspace/form11.h"
 
@@ -37,8 +38,9 @@ struct Program::Parts {
   History history{platform, files, shared};
 
   Shell shell{kit, main, settings, ost};
-  FollowersOnForms followers{
-      pricing, adjustment, reports, ost, {&pricing, &rooms, &areas, &bottomLine, &adjustment}};
+  FollowersOnForms followers{pricing, adjustment,
+                             reports, ost,
+                             history, {&pricing, &rooms, &areas, &bottomLine, &adjustment}};
   ReportFollows reportFollows{reports};
   StartOfPricing startOfPricing{settings, main};
   PricingOnForm pricingOnForm{pricing, ost};
@@ -48,6 +50,7 @@ struct Program::Parts {
   TakeoffExitsOnForms takeoffExits{shell, main, ost};
   TakeoffFieldsOnForms takeoffFields{rooms, areas};
   ProjectRecordOnTamo projectRecord{main};
+  BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
 
   Form11 form11{kit};
   SettingsForm settings{kit, shell};
@@ -58,12 +61,14 @@ struct Program::Parts {
   EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
   BottomLine bottomLine{kit, reportFollows};
   AdjustmentForm adjustment{kit, reportFollows};
-  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost}};
+  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history}};
+  VersionsForm versions{kit, history, reports, bidChanger};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
   Menus menus{kit,
               shell,
-              {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs}};
+              {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs,
+               versions}};
   Recovery recovery{kit, {shell, settings, main, bottomLine}};
 };
 

@@ -40,8 +40,9 @@ void ReportsForm::PrepareControls() {
     field->PutInto(Frame1);
     field->readOnly = true;
   }
-  for (Control* control : std::initializer_list<Control*>{&Reporter, &Reporter1, &prList,
-                                                          &NotesList, &WholeQuantities, &Frame1})
+  for (Control* control :
+       std::initializer_list<Control*>{&Reporter, &Reporter1, &prList, &NotesList, &WholeQuantities,
+                                       &Frame1, &VersionLabel, &BackToNow, &KeepPrinted})
     control->Hide();
   prList.inTabOrder = false;
 }
@@ -50,6 +51,7 @@ void ReportsForm::BindControls() {
   Reporter1.onTick = [this](int row) { Ticked(row); };
   NotesList.onSelect = [this] { NotePicked(); };
   WholeQuantities.onChange = [this] { WholeQuantitiesChanged(); };
+  BindVersions();
 }
 
 void ReportsForm::Clear() {
@@ -65,6 +67,8 @@ void ReportsForm::Clear() {
 void ReportsForm::ClearNotes() {
   NotesList.Hide();
   WholeQuantities.Hide();
+  KeepPrinted.Hide();
+  if (!bid_.Former()) VersionLabel.Hide();
   NotesList.Clear();
   notes_.clear();
 }
@@ -96,12 +100,7 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files, kit_.shared, onProgress, joins_.settings.WholeQuantities()};
-}
-
-Markups ReportsForm::LoadedMarkups() {
-  joins_.pricing.LoadMarkups();
-  return joins_.pricing.MarkupTexts();
+  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities()};
 }
 
 void ReportsForm::TakeNotes(Report& report, bool readsQuantities) {
@@ -139,15 +138,16 @@ void ReportsForm::ShowWindow() {
 void ReportsForm::MinimalRecapSheet() {
   Make([this] {
     prList.Clear();
-    const Markups markups = LoadedMarkups();
+    const Markups markups = bid_.LoadedMarkups();
+    QString former;
     Fill(tamo::MinimalRecapSheet(Source(), markups, kit_.shared.DTText == QLatin1String("True"),
-                                 Adjustment));
+                                 bid_.Former() ? former : Adjustment));
   });
 }
 
 void ReportsForm::DetailedRecapSheet() {
   Make([this] {
-    const Markups markups = LoadedMarkups();
+    const Markups markups = bid_.LoadedMarkups();
     Fill(tamo::DetailedRecapSheet(Source(), markups));
   });
 }
@@ -163,7 +163,7 @@ void ReportsForm::BillofMaterial() {
 void ReportsForm::AreaRoomWP() {
   Make([this] {
     if (Flag == QLatin1String("True")) {
-      const Markups markups = LoadedMarkups();
+      const Markups markups = bid_.LoadedMarkups();
       FillCopy(OfficeCopy(Source(), markups));
     } else if (Flag == QLatin1String("False")) {
       Fill(FieldCopy(Source()), true);
@@ -173,13 +173,16 @@ void ReportsForm::AreaRoomWP() {
 
 void ReportsForm::BreakDown() {
   Make([this] {
-    const Markups markups = LoadedMarkups();
-    const BreakFigures figures = MakeBreak(Source(), markups, Adjustment);
+    const Markups markups = bid_.LoadedMarkups();
+    QString former;
+    const BreakFigures figures = MakeBreak(Source(), markups, bid_.Former() ? former : Adjustment);
     Report report = tamo::BreakDown(figures);
     // The sum is made only when the items are listed behind an adjustment; otherwise the field
     // shows the sum made before. A test holds it.
-    if (figures.bottomLineListed) bottomLineSum_ = figures.roll.rawBottomLine;
-    joins_.pricing.TotalBL = NumberText(bottomLineSum_);
+    if (!bid_.Former()) {
+      if (figures.bottomLineListed) bottomLineSum_ = figures.roll.rawBottomLine;
+      joins_.pricing.TotalBL = NumberText(bottomLineSum_);
+    }
     ShowWindow();
     Fill(std::move(report));
   });
@@ -188,7 +191,7 @@ void ReportsForm::BreakDown() {
 void ReportsForm::ProjectInformation() {
   Make([this] {
     ShowWindow();
-    Fill(tamo::ProjectInformation(kit_.shared.JobID, joins_.record.Facts()));
+    Fill(tamo::ProjectInformation(kit_.shared.JobID, bid_.Facts()));
   });
 }
 

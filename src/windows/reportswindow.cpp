@@ -60,6 +60,11 @@ void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
 void LayOutReports(Builder& b) {
   FormWindow& window = b.Window();
   QVBoxLayout& body = window.Body();
+  auto* version = new QHBoxLayout;
+  version->addWidget(b.Text("VersionLabel"), 1);
+  version->addWidget(b.PushButton("KeepPrinted"));
+  version->addWidget(b.PushButton("BackToNow"));
+  body.addLayout(version);
   auto* row = new QHBoxLayout;
   row->setSpacing(kGrid);
   RowsView* reporter = b.List("Reporter", QStringLiteral("Report"), 96, 30);

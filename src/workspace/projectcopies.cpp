@@ -39,6 +39,7 @@ void ProjectCopies::DeleteProject() {
   if (name.isEmpty() || id.isEmpty()) return;
   if (!kit_.desk.GetMessages().Ask(QStringLiteral("Delete %1\r%2 ?").arg(id, name))) return;
   if (!parts_.hold.NeedWritable()) return;
+  near_.followers.KeepDeleted(id, name);
   parts_.picker.RemoveProject();
   DeleteProjectFiles(kit_.files, kit_.shared, id);
   projects_.ClearProject();
