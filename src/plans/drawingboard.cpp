@@ -144,6 +144,7 @@ void DrawingBoard::EndLine() {
 
 void DrawingBoard::PickTool(PlanTool tool) {
   DropLine();
+  if (tool != PlanTool::None && !MayMark()) tool = PlanTool::None;
   Raise(onBeforeModeChange);
   tool_ = tool;
   Raise(onModeChanged, tool);
@@ -159,6 +160,7 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
     boxFrom_ = at;
     return;
   }
+  if (tool_ != PlanTool::None && !MayMark()) return PickTool(PlanTool::None);
   if (tool_ == PlanTool::Counting) AddMark(NewMark(Mark::Kind::Circle, {at}));
   if (tool_ != PlanTool::Measuring) return;
   if (line_ == LineState::Placed) {

@@ -73,6 +73,8 @@ class DrawingBoard : public MarkedSheets {
   void ClearBoard();
   void CentreCrossHair();
   void LeavePage() override { DropLine(); }
+  // Whether this plan may be marked; asks the user where it has to be asked.
+  virtual bool MayMark() { return true; }
 
  private:
   void BeginLine(PagePoint at);

@@ -3,6 +3,7 @@
 #include "common/failure.h"
 #include "common/files.h"
 #include "plans/mupdfcontentdevice.h"
+#include "plans/mupdfcontentdocument.h"
 #include "plans/mupdfcontexts.h"
 #include "plans/mupdfpagetree.h"
 #include "plans/mupdfrunpage.h"
@@ -13,20 +14,21 @@ namespace {
 // A file that ends when the reading is cancelled, so that the engine never reads on for nothing.
 class CancellableReader : public FileReader {
  public:
-  CancellableReader(std::shared_ptr<FileReader> file, const std::atomic<bool>* cancel)
-      : file_(std::move(file)), cancel_(cancel) {}
+  explicit CancellableReader(std::shared_ptr<FileReader> file) : file_(std::move(file)) {}
+  void SetCancel(const std::atomic<bool>* cancel) { cancel_ = cancel; }
   qint64 Size() const override { return file_->Size(); }
   int ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const override {
-    if (cancel_ != nullptr && *cancel_) return kFileOther;
+    const std::atomic<bool>* cancel = cancel_;
+    if (cancel != nullptr && *cancel) return kFileOther;
     return file_->ReadAt(offset, into, count, got);
   }
 
  private:
   std::shared_ptr<FileReader> file_;
-  const std::atomic<bool>* cancel_;
+  std::atomic<const std::atomic<bool>*> cancel_ = nullptr;
 };
 
-// One reading of one page, with a context of its own.
+// The document, and the page that is being read.
 struct Reading {
   fz_context* context = nullptr;
   pdf_document* document = nullptr;
@@ -36,8 +38,9 @@ struct Reading {
   fz_cookie cookie{};
 };
 
-bool OpenPage(Reading& reading, const std::shared_ptr<MuPdfContexts>& contexts,
-              const std::shared_ptr<PlanSource>& source, const char* password, int index) {
+bool OpenDocument(Reading& reading, const std::shared_ptr<MuPdfContexts>& contexts,
+                  const std::shared_ptr<PlanSource>& source, const char* password) {
+  if (reading.document != nullptr) return true;
   fz_context* context = reading.context;
   fz_stream* stream = nullptr;
   bool good = true;
@@ -48,15 +51,23 @@ bool OpenPage(Reading& reading, const std::shared_ptr<MuPdfContexts>& contexts,
     reading.document = pdf_open_document_with_stream(context, stream);
     reading.locked = pdf_needs_password(context, reading.document) &&
                      pdf_authenticate_password(context, reading.document, password) == 0;
-    if (!reading.locked) {
-      FlattenPageTree(context, reading.document);
-      reading.page = pdf_load_page(context, reading.document, index);
-      reading.bounds = pdf_bound_page(context, reading.page);
-    }
+    if (!reading.locked) FlattenPageTree(context, reading.document);
   }
   fz_always(context) fz_drop_stream(context, stream);
   fz_catch(context) good = false;
   return good && !reading.locked;
+}
+
+bool OpenPage(Reading& reading, int index) {
+  fz_context* context = reading.context;
+  bool good = true;
+  fz_var(good);
+  fz_try(context) {
+    reading.page = pdf_load_page(context, reading.document, index);
+    reading.bounds = pdf_bound_page(context, reading.page);
+  }
+  fz_catch(context) good = false;
+  return good;
 }
 
 bool GatherPage(Reading& reading, ContentGatherer& gatherer) {
@@ -88,37 +99,70 @@ void Gather(Reading& reading, PageContent& content, const std::atomic<bool>* can
                                       : QStringLiteral("parts of the page are damaged");
 }
 
-void Close(Reading& reading) {
+void ClosePage(Reading& reading) {
   fz_drop_page(reading.context, reading.page == nullptr ? nullptr : &reading.page->super);
-  pdf_drop_document(reading.context, reading.document);
-  MuPdfContexts::DropContext(reading.context);
+  reading.page = nullptr;
+  reading.cookie = {};
 }
 
 }  // namespace
 
-PageContent ReadPageContent(std::shared_ptr<FileReader> file, int page, const QByteArray& password,
-                            const std::atomic<bool>* cancel) {
+struct MuPdfContentDocument::Inner {
+  std::shared_ptr<MuPdfContexts> contexts = MuPdfContexts::Make();
+  std::shared_ptr<CancellableReader> file;
+  std::shared_ptr<PlanSource> source;
+  QByteArray password;
+  Reading reading;
+
+  void Forget() {
+    pdf_drop_document(reading.context, reading.document);
+    reading.document = nullptr;
+  }
+};
+
+MuPdfContentDocument::MuPdfContentDocument(std::shared_ptr<FileReader> file, qint64 size,
+                                           const QByteArray& password)
+    : inner_(std::make_unique<Inner>()) {
+  inner_->file = std::make_shared<CancellableReader>(std::move(file));
+  inner_->source = std::make_shared<PlanSource>(inner_->file, size);
+  inner_->password = password;
+  if (inner_->contexts != nullptr) inner_->reading.context = inner_->contexts->NewContext();
+}
+
+MuPdfContentDocument::~MuPdfContentDocument() {
+  if (inner_->reading.context == nullptr) return;
+  inner_->Forget();
+  MuPdfContexts::DropContext(inner_->reading.context);
+}
+
+PageContent MuPdfContentDocument::Read(int page, const std::atomic<bool>* cancel) {
   PageContent content;
   content.error = kFileOther;
-  const auto contexts = MuPdfContexts::Make();
-  Reading reading;
-  reading.context = contexts == nullptr ? nullptr : contexts->NewContext();
+  Reading& reading = inner_->reading;
   if (reading.context == nullptr) {
     content.problem = QStringLiteral("there is not enough memory");
     return content;
   }
-  const qint64 size = file->Size();
-  const auto source = std::make_shared<PlanSource>(
-      std::make_shared<CancellableReader>(std::move(file), cancel), size);
-  if (OpenPage(reading, contexts, source, password.constData(), page - 1)) {
+  inner_->file->SetCancel(cancel);
+  const bool open =
+      OpenDocument(reading, inner_->contexts, inner_->source, inner_->password.constData());
+  if (open && OpenPage(reading, page - 1)) {
     content.error = kNoError;
     Gather(reading, content, cancel);
   } else {
     content.problem = reading.locked ? QStringLiteral("it is locked with a password")
                                      : QStringLiteral("the page is not there or damaged");
   }
-  Close(reading);
+  ClosePage(reading);
+  inner_->file->SetCancel(nullptr);
+  if (!open || (cancel != nullptr && *cancel)) inner_->Forget();
   return content;
+}
+
+PageContent ReadPageContent(std::shared_ptr<FileReader> file, int page, const QByteArray& password,
+                            const std::atomic<bool>* cancel) {
+  const qint64 size = file->Size();
+  return MuPdfContentDocument(std::move(file), size, password).Read(page, cancel);
 }
 
 PageContent ReadPageContent(Disk& disk, const QString& path, int page, const QByteArray& password,

@@ -15,7 +15,7 @@ constexpr size_t kStore = size_t(48) << 20;
 constexpr int kStreamBuffer = 16384;
 
 std::atomic<qint64> memoryInUse = 0;
-std::atomic<qint64> memoryLimit = qint64(768) << 20;
+std::atomic<qint64> memoryLimit = qint64(320) << 20;
 
 bool Take(qint64 bytes) {
   if (memoryInUse.fetch_add(bytes) + bytes <= memoryLimit) return true;
@@ -171,6 +171,14 @@ qint64 MuPdfContexts::MemoryInUse() {
 
 void MuPdfContexts::SetMemoryLimit(qint64 bytes) {
   memoryLimit = bytes;
+}
+
+bool MuPdfContexts::Reserve(double bytes) {
+  return bytes < static_cast<double>(memoryLimit.load()) && Take(static_cast<qint64>(bytes));
+}
+
+void MuPdfContexts::Release(double bytes) {
+  memoryInUse.fetch_sub(static_cast<qint64>(bytes));
 }
 
 fz_stream* NewPlanStream(fz_context* context, std::shared_ptr<MuPdfContexts> contexts,

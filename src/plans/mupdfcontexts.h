@@ -33,7 +33,11 @@ class MuPdfContexts : public std::enable_shared_from_this<MuPdfContexts> {
   bool Abandoned() const { return abandoned_; }
 
   static qint64 MemoryInUse();
-  static void SetMemoryLimit(qint64 bytes);  // 768 MB when not set
+  static void SetMemoryLimit(qint64 bytes);  // 320 MB when not set
+  // Counts memory that a decoder will take past the engine; false when there is not so much. A
+  // whole number of bytes.
+  static bool Reserve(double bytes);
+  static void Release(double bytes);
 
  private:
   MuPdfContexts();

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "common/failure.h"
+#include "plans/mupdfcontentdocument.h"
 #include "plans/mupdfcontexts.h"
 #include "plans/mupdffile.h"
 #include "plans/mupdfpages.h"
@@ -35,7 +36,10 @@ class MuPdfPlan : public EnginePlan {
     const std::lock_guard<std::mutex> guard(structureLock_);
     password_ = password.toUtf8();
     if (structureContext_.Get() == nullptr) {
-      return {kFileOther, QStringLiteral("there is not enough memory"), {}, {}};
+      PlanContents contents;
+      contents.error = kFileOther;
+      contents.problem = QStringLiteral("there is not enough memory");
+      return contents;
     }
     structure_ = std::make_unique<MuPdfFile>(structureContext_.Get(), contexts_, source_);
     return structure_->Open(password);
@@ -59,7 +63,12 @@ class MuPdfPlan : public EnginePlan {
   }
 
   PageContent ReadContent(int page, CancelFlag& cancel) override {
-    return ReadPageContent(source_->Reader(), page, password_, &cancel.Value());
+    const std::lock_guard<std::mutex> guard(contentLock_);
+    if (content_ == nullptr) {
+      content_ =
+          std::make_unique<MuPdfContentDocument>(source_->Reader(), source_->Size(), password_);
+    }
+    return content_->Read(page, &cancel.Value());
   }
 
   PlanUpdate BuildUpdate(const MarkChanges& changes) override {
@@ -92,6 +101,8 @@ class MuPdfPlan : public EnginePlan {
   std::mutex pagesLock_;
   Context pagesContext_{*contexts_};
   std::unique_ptr<MuPdfPages> pages_;
+  std::mutex contentLock_;
+  std::unique_ptr<MuPdfContentDocument> content_;
 };
 
 }  // namespace

@@ -120,6 +120,17 @@ bool IsOwnMark(fz_context* context, pdf_obj* annotation) {
   return own;
 }
 
+// Why the engine could not open a plan; to be called where its failure was caught.
+static QString OpenFailure(fz_context* context) {
+  if (fz_caught(context) == FZ_ERROR_MEMORY) return QStringLiteral("it needs too much memory");
+  const QByteArray words(fz_caught_message(context));
+  if (words.contains("PubSec"))
+    return QStringLiteral("it is protected with a certificate: only those it was made for open it");
+  if (words.contains("unknown encryption") || words.contains("unknown crypt"))
+    return QStringLiteral("it is protected in a way that this program does not know");
+  return QStringLiteral("it is damaged or no PDF");
+}
+
 MuPdfFile::MuPdfFile(fz_context* context, std::shared_ptr<MuPdfContexts> contexts,
                      std::shared_ptr<PlanSource> source)
     : inner_(std::make_unique<Inner>()) {
@@ -132,7 +143,7 @@ MuPdfFile::~MuPdfFile() {
   pdf_drop_document(inner_->context, inner_->document);
 }
 
-bool MuPdfFile::Inner::OpenDocument(const QByteArray& password, QString& problem) {
+bool MuPdfFile::Inner::OpenDocument(const QByteArray& password, PlanContents& contents) {
   fz_stream* stream = nullptr;
   bool locked = false;
   bool good = true;
@@ -148,11 +159,11 @@ bool MuPdfFile::Inner::OpenDocument(const QByteArray& password, QString& problem
   }
   fz_always(context) fz_drop_stream(context, stream);
   fz_catch(context) good = false;
+  contents.wantsPassword = locked;
   if (locked) {
-    problem = QStringLiteral("it is locked with a password");
+    contents.problem = QStringLiteral("it is locked with a password");
   } else if (!good) {
-    problem = fz_caught(context) == FZ_ERROR_MEMORY ? QStringLiteral("it needs too much memory")
-                                                    : QStringLiteral("it is damaged or no PDF");
+    contents.problem = OpenFailure(context);
   }
   return good && !locked;
 }
@@ -213,7 +224,7 @@ PlanContents MuPdfFile::Open(const QString& password) {
     contents.problem = QStringLiteral("it is empty");
   } else if (!start.contains("%PDF") && !start.contains("%!PS-Adobe")) {
     contents.problem = QStringLiteral("it is no PDF");
-  } else if (inner_->OpenDocument(password.toUtf8(), contents.problem)) {
+  } else if (inner_->OpenDocument(password.toUtf8(), contents)) {
     inner_->ReadPages();
     if (inner_->pages.empty()) contents.problem = QStringLiteral("it has no pages");
   }
@@ -225,6 +236,9 @@ PlanContents MuPdfFile::Open(const QString& password) {
     contents.sizes.push_back(inner_->pages[i].size);
     inner_->ReadMarks(i, contents.marks);
   }
+  // Who has marked it before was asked then.
+  if (contents.marks.empty()) contents.reservation = inner_->Reservation();
+  contents.caution = inner_->Caution();
   std::stable_sort(contents.marks.begin(), contents.marks.end(), [](const Mark& a, const Mark& b) {
     return MarkNumber(a.name) < MarkNumber(b.name);
   });

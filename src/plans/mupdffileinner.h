@@ -42,11 +42,20 @@ struct MuPdfFile::Inner {
   PdfEnd endBefore;  // of the last addition, and the marks as they stood, to take it back
   std::vector<std::vector<FileMark>> ownBefore;
 
-  bool OpenDocument(const QByteArray& password, QString& problem);
+  bool OpenDocument(const QByteArray& password, PlanContents& contents);
   void ReadPages();
   void ReadMarks(size_t index, std::vector<Mark>& marks);
   bool ReadEnd();
+  // What speaks against marking the plan, and what can't be saved of it.
+  QString Reservation() const;
+  QString Caution();
   bool ReadPage(PageRecord& page);
+  bool ReadPageBytes(PageRecord& page);
+  bool ReadOthers(PageRecord& page, QByteArray annotations);
+  bool PrintPage(PageRecord& page);
+  // An object as it stands in the file and can be repeated inside object `into`; empty when it
+  // can't. More may follow it.
+  QByteArray ObjectBytes(int number, int into);
   QByteArray PageBody(const PageRecord& page) const;
   bool Encrypted(PdfObject& object);
   bool EncryptedStream(PdfObject& object, const QByteArray& entries, const QByteArray& content);

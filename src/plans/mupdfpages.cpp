@@ -1,5 +1,6 @@
 #include "plans/mupdfpages.h"
 
+#include <cstring>
 #include <utility>
 
 #include "plans/mupdfpagetree.h"
@@ -31,8 +32,45 @@ class Cookie {
   fz_cookie cookie_{};
 };
 
+// A warning of the engine that means a picture it could not decode, or not whole.
+void NoteLostPicture(void* lost, const char* warning) {
+  for (const char* words :
+       {"padding truncated image", "jbig2dec error", "openjpeg error", "jpeg error", "jpx:"}) {
+    if (std::strstr(warning, words) != nullptr) *static_cast<bool*>(lost) = true;
+  }
+}
+
+// While it lives the engine's warnings on this context tell of lost pictures.
+class PictureWatch {
+ public:
+  explicit PictureWatch(fz_context* context) : context_(context) {
+    fz_set_warning_callback(context, NoteLostPicture, &lost_);
+  }
+  ~PictureWatch() {
+    fz_flush_warnings(context_);
+    fz_set_warning_callback(context_, Quiet, nullptr);
+  }
+  PictureWatch(const PictureWatch&) = delete;
+  PictureWatch& operator=(const PictureWatch&) = delete;
+  bool Lost() {
+    fz_flush_warnings(context_);
+    return lost_;
+  }
+
+ private:
+  static void Quiet(void* /*user*/, const char* /*warning*/) {}
+  fz_context* context_;
+  bool lost_ = false;
+};
+
+struct Recording {
+  fz_display_list* list = nullptr;
+  fz_rect bounds = fz_empty_rect;
+  PatternBudget budget;
+};
+
 bool RecordPage(fz_context* context, pdf_document* document, int index, fz_cookie* cookie,
-                fz_display_list** made, fz_rect* bounds) {
+                Recording* made) {
   pdf_page* page = nullptr;
   fz_display_list* list = nullptr;
   fz_device* device = nullptr;
@@ -43,9 +81,9 @@ bool RecordPage(fz_context* context, pdf_document* document, int index, fz_cooki
   fz_var(good);
   fz_try(context) {
     page = pdf_load_page(context, document, index);
-    *bounds = pdf_bound_page(context, page);
-    list = fz_new_display_list(context, *bounds);
-    device = NewRecorder(context, list);
+    made->bounds = pdf_bound_page(context, page);
+    list = fz_new_display_list(context, made->bounds);
+    device = NewRecorder(context, list, &made->budget);
     RunPage(context, page, device, cookie);
     fz_close_device(context, device);
   }
@@ -55,7 +93,7 @@ bool RecordPage(fz_context* context, pdf_document* document, int index, fz_cooki
   }
   fz_catch(context) good = false;
   if (good && !cookie->abort) {
-    *made = list;
+    made->list = list;
     return true;
   }
   fz_drop_display_list(context, list);
@@ -106,8 +144,15 @@ bool PaintList(fz_context* context, fz_display_list* list, fz_matrix place, fz_i
 
 }  // namespace
 
-MuPdfPage::MuPdfPage(std::shared_ptr<MuPdfContexts> contexts, void* list, PageSize size)
-    : contexts_(std::move(contexts)), list_(list), size_(size) {}
+MuPdfPage::MuPdfPage(std::shared_ptr<MuPdfContexts> contexts, void* list, PageSize size,
+                     PageGaps gaps)
+    : contexts_(std::move(contexts)), list_(list), size_(size), gaps_(gaps) {}
+
+PageGaps MuPdfPage::Gaps() const {
+  PageGaps gaps = gaps_;
+  gaps.pictures = gaps.pictures || missesPictures_;
+  return gaps;
+}
 
 MuPdfPage::~MuPdfPage() {
   contexts_->WithSpare([this](fz_context* context) {
@@ -141,13 +186,17 @@ MuPdfPages::~MuPdfPages() {
 
 std::shared_ptr<MuPdfPage> MuPdfPages::Read(int page, CancelFlag& cancel) {
   if (document_ == nullptr) return nullptr;
-  fz_display_list* list = nullptr;
-  fz_rect bounds = fz_empty_rect;
+  Recording made;
   Cookie cookie(cancel);
+  PictureWatch watch(context_);
   auto* document = static_cast<pdf_document*>(document_);
-  if (!RecordPage(context_, document, page - 1, cookie.Get(), &list, &bounds)) return nullptr;
-  const PageSize size = {bounds.x1 - bounds.x0, bounds.y1 - bounds.y0};
-  auto read = std::make_shared<MuPdfPage>(contexts_, list, size);
+  if (!RecordPage(context_, document, page - 1, cookie.Get(), &made)) return nullptr;
+  const PageSize size = {made.bounds.x1 - made.bounds.x0, made.bounds.y1 - made.bounds.y0};
+  PageGaps gaps;
+  gaps.pictures = watch.Lost();
+  gaps.patterns = made.budget.exceeded;
+  gaps.contents = cookie.Get()->errors > 0 && !gaps.pictures;
+  auto read = std::make_shared<MuPdfPage>(contexts_, made.list, size, gaps);
   const bool sheet = size.width >= 1 && size.height >= 1 && size.width < 1e7 && size.height < 1e7;
   return sheet ? read : nullptr;
 }
@@ -160,9 +209,11 @@ bool PaintPage(fz_context* context, const MuPdfPage& page, const PaintPart& part
   fz_set_graphics_min_line_width(context, kThinnestLine);
   const fz_irect rect = {part.left, part.top, part.left + part.width, part.top + part.height};
   Cookie cookie(cancel);
+  PictureWatch watch(context);
   const bool good =
       PaintList(context, static_cast<fz_display_list*>(page.List()), PlaceOf(part, page.Size()),
                 rect, reinterpret_cast<unsigned char*>(pixels), cookie.Get());
+  if (watch.Lost() || (cookie.Get()->errors > 0 && !cancel.Cancelled())) page.MissPictures();
   return good && !cancel.Cancelled();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <memory>
 
 #include "plans/mupdfcontexts.h"
@@ -11,17 +12,21 @@ namespace tamo {
 // annotations of others. The marks of this program are left out.
 class MuPdfPage : public LoadedPage {
  public:
-  MuPdfPage(std::shared_ptr<MuPdfContexts> contexts, void* list, PageSize size);
+  MuPdfPage(std::shared_ptr<MuPdfContexts> contexts, void* list, PageSize size, PageGaps gaps);
   ~MuPdfPage() override;
   MuPdfPage(const MuPdfPage&) = delete;
   MuPdfPage& operator=(const MuPdfPage&) = delete;
   PageSize Size() const override { return size_; }
+  PageGaps Gaps() const override;
+  void MissPictures() const { missesPictures_ = true; }
   void* List() const { return list_; }  // the engine's display list
 
  private:
   std::shared_ptr<MuPdfContexts> contexts_;
   void* list_;
   PageSize size_;
+  PageGaps gaps_;  // when it was read
+  mutable std::atomic<bool> missesPictures_ = false;
 };
 
 // The pages of a plan, read by one thread at a time.

@@ -1,16 +1,15 @@
 #include "plans/mupdfrecord.h"
 
-#include <atomic>
+#include <algorithm>
 #include <cmath>
 
-#include "plans/mupdfshareddecoders.h"
+#include "plans/mupdfpictures.h"
 
 namespace tamo {
 namespace {
 
-// A pattern that would be repeated millions of times is no drawing but a trap: nothing can stop the
-// engine once it paints it, so it is refused when the page is read.
-constexpr double kMostRepeats = 4e6;
+constexpr float kLeastStep = 0.01F;
+thread_local PatternBudget* budget = nullptr;
 
 // The calls of the engine's own recording device, the same for every list.
 struct Calls {
@@ -31,37 +30,46 @@ int BeginTile(fz_context* context, fz_device* device, fz_rect area, fz_rect view
               float stepY, fz_matrix place, int id) {
   const double across = std::abs((area.x1 - area.x0) / static_cast<double>(stepX));
   const double down = std::abs((area.y1 - area.y0) / static_cast<double>(stepY));
-  if (!(across * down < kMostRepeats)) fz_throw(context, FZ_ERROR_GENERIC, "pattern too fine");
+  if (across * down < budget->repeats) {
+    budget->repeats -= across * down;
+  } else {
+    budget->exceeded = true;
+    stepX = std::max(std::abs(stepX), kLeastStep);
+    stepY = std::max(std::abs(stepY), kLeastStep);
+    area.x1 = std::min(area.x1, area.x0 + stepX);
+    area.y1 = std::min(area.y1, area.y0 + stepY);
+  }
   return Own().beginTile(context, device, area, view, stepX, stepY, place, id);
 }
 
 void FillImage(fz_context* context, fz_device* device, fz_image* image, fz_matrix place,
                float alpha, fz_color_params params) {
-  GuardSharedDecoder(context, image);
+  PreparePicture(context, image);
   Own().fillImage(context, device, image, place, alpha, params);
 }
 
 void FillMask(fz_context* context, fz_device* device, fz_image* image, fz_matrix place,
               fz_colorspace* space, const float* colour, float alpha, fz_color_params params) {
-  GuardSharedDecoder(context, image);
+  PreparePicture(context, image);
   Own().fillMask(context, device, image, place, space, colour, alpha, params);
 }
 
 void ClipMask(fz_context* context, fz_device* device, fz_image* image, fz_matrix place,
               fz_rect scissor) {
-  GuardSharedDecoder(context, image);
+  PreparePicture(context, image);
   Own().clipMask(context, device, image, place, scissor);
 }
 
 void FillText(fz_context* context, fz_device* device, const fz_text* text, fz_matrix place,
               fz_colorspace* space, const float* colour, float alpha, fz_color_params params) {
-  GuardSharedDecoders(context, text);
+  PreparePictures(context, text);
   Own().fillText(context, device, text, place, space, colour, alpha, params);
 }
 
 }  // namespace
 
-fz_device* NewRecorder(fz_context* context, fz_display_list* list) {
+fz_device* NewRecorder(fz_context* context, fz_display_list* list, PatternBudget* limit) {
+  budget = limit;
   fz_device* device = fz_new_list_device(context, list);
   Own(device);
   device->begin_tile = BeginTile;

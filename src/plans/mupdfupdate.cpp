@@ -102,6 +102,16 @@ bool MuPdfFile::Inner::ReadEnd() {
 // Reads once what a save has to repeat of a page.
 bool MuPdfFile::Inner::ReadPage(PageRecord& page) {
   if (page.read) return true;
+  page.read = ReadPageBytes(page);
+  if (page.read) return true;
+  page.entries.clear();
+  page.others.clear();
+  page.read = PrintPage(page);
+  return page.read;
+}
+
+// The same as the engine writes it, when the file's own bytes are of no use.
+bool MuPdfFile::Inner::PrintPage(PageRecord& page) {
   pdf_obj* object = nullptr;
   bool good = true;
   fz_var(object);
@@ -128,12 +138,10 @@ bool MuPdfFile::Inner::ReadPage(PageRecord& page) {
   }
   fz_always(context) pdf_drop_obj(context, object);
   fz_catch(context) good = false;
-  page.read = good && !page.entries.isEmpty();
-  if (!page.read) {
-    page.entries.clear();
-    page.others.clear();
-  }
-  return page.read;
+  if (good && !page.entries.isEmpty()) return true;
+  page.entries.clear();
+  page.others.clear();
+  return false;
 }
 
 QByteArray MuPdfFile::Inner::PageBody(const PageRecord& page) const {
@@ -267,6 +275,32 @@ void MuPdfFile::ForgetUpdate() {
   }
 }
 
+// What opens a protected plan is not encrypted itself. The engine forgets that of a plan it has
+// repaired when it stands in an object apart, so it goes into the trailer as it was read.
+static void KeepProtection(fz_context* context, pdf_document* document) {
+  pdf_obj* trailer = pdf_trailer(context, document);
+  pdf_obj* read = pdf_dict_get(context, trailer, PDF_NAME(Encrypt));
+  pdf_crypt* crypt = document->crypt;
+  if (crypt == nullptr || read == nullptr) return;
+  pdf_obj* opens = pdf_copy_dict(context, read);
+  const auto put = [&](pdf_obj* key, const unsigned char* bytes, size_t size) {
+    pdf_dict_put_string(context, opens, key, reinterpret_cast<const char*>(bytes), size);
+  };
+  fz_try(context) {
+    const bool modern = pdf_crypt_revision(context, crypt) >= 5;
+    put(PDF_NAME(O), pdf_crypt_owner_password(context, crypt), modern ? 48 : 32);
+    put(PDF_NAME(U), pdf_crypt_user_password(context, crypt), modern ? 48 : 32);
+    if (modern) {
+      put(PDF_NAME(OE), pdf_crypt_owner_encryption(context, crypt), 32);
+      put(PDF_NAME(UE), pdf_crypt_user_encryption(context, crypt), 32);
+      put(PDF_NAME(Perms), pdf_crypt_permissions_encryption(context, crypt), 16);
+    }
+    pdf_dict_put(context, trailer, PDF_NAME(Encrypt), opens);
+  }
+  fz_always(context) pdf_drop_obj(context, opens);
+  fz_catch(context) fz_rethrow(context);
+}
+
 int MuPdfFile::WriteWhole(const EnginePlan::Sink& sink, QString& problem) {
   fz_context* context = inner_->context;
   SinkState state;
@@ -279,6 +313,7 @@ int MuPdfFile::WriteWhole(const EnginePlan::Sink& sink, QString& problem) {
   fz_try(context) {
     out = fz_new_output(context, 65536, &state, WriteSink, nullptr, nullptr);
     out->tell = TellSink;
+    KeepProtection(context, inner_->document);
     pdf_write_document(context, inner_->document, out, &options);
     fz_close_output(context, out);
   }

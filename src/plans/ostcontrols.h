@@ -34,6 +34,10 @@ struct OstControls : Form {
   Button Command2{*this, "Command2", "Remove Last Mark"};
   Button Command3{*this, "Command3", "Plan Notes"};
   TextField PlanNotes{*this, "PlanNotes"};
+  // A strip that is shown while the plan asked for wants a password.
+  Frame LockedPlan{*this, "LockedPlan"};
+  TextField PlanPassword{*this, "PlanPassword"};
+  Button UnlockPlan{*this, "UnlockPlan", "Open the &Plan"};
   Label PlanProblem{*this, "PlanProblem"};  // why the last plan could not be opened or saved
   Frame Frame1{*this, "Frame1"};
   FileBrowser Drive1{*this, "Drive1", FileBrowser::Kind::Drive};

@@ -56,6 +56,11 @@ void OSTForm::BindFields() {
     button->takesFocus = false;
   }
   picPdfThumbnails.inTabOrder = false;
+  PlanPassword.PutInto(LockedPlan);
+  UnlockPlan.PutInto(LockedPlan);
+  LockedPlan.Hide();
+  OnEnter(PlanPassword, [this] { opener_.OpenLocked(); });
+  UnlockPlan.onClick = [this] { opener_.OpenLocked(); };
   for (TextField* field : {&PageText, &ZoomLevel})
     field->onGotFocus = [field] { field->SelectAll(); };
   OnEnter(PageText, [this] { pages_.TakePage(); });
@@ -102,6 +107,11 @@ void OSTForm::BindViewer() {
     kit_.desk.Focus(picPdfDraw);
     measure_.WarnOfMissingScale();
   });
+  viewer_.onReservation = [this](const QString& reservation) {
+    return kit_.platform.messages.Ask(reservation +
+                                      QStringLiteral(" Mark your copy of it all the same?"));
+  };
+  viewer_.onPageProblem = event([this](const QString& text) { PlanProblem.SetCaption(text); });
   viewer_.onEnterKey = event([this] { EnterOnPlan(); });
   viewer_.onProblem = event([this](const QString& text) { PlanLost(text); });
 }
@@ -113,6 +123,8 @@ void OSTForm::EnterOnPlan() {
 }
 
 void OSTForm::PlanLost(const QString& problem) {
+  const bool locked = viewer_.WantsPassword();
+  if (locked) opener_.AskPassword(PlanLocation.Text());
   PlanLocation.Clear();
   PlanProblem.SetCaption(problem);
 }

@@ -9,7 +9,7 @@ namespace {
 
 constexpr size_t kMostLists = 3;
 constexpr size_t kMostCoarse = 6;
-constexpr size_t kMostTilePixels = size_t(32) << 20;  // four bytes each
+constexpr size_t kMostTilePixels = size_t(20) << 20;  // four bytes each
 constexpr size_t kMostThumbnails = 1000;
 constexpr size_t kMostSmallLists = 3;
 constexpr auto kLongestRead = std::chrono::seconds(20);
@@ -287,6 +287,7 @@ void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<LoadedPage> l
     job.print->done = true;
   }
   if (!good) return;
+  NoteGaps(job.page, list != nullptr ? list->Gaps() : job.list->Gaps());
   if (job.kind == Kind::Read) {
     lists.emplace_front(job.page, std::move(list));
     while (lists.size() > kMostLists) lists.pop_back();

@@ -97,6 +97,8 @@ struct PlanPainter::State {
   std::deque<std::shared_ptr<PrintJob>> prints;
   std::set<int> failed;
   std::vector<int> failedNews;
+  std::map<int, PageGaps> gapsTold;
+  std::map<int, PageGaps> gapsNews;
   std::vector<PaintJob*> working;
 
   // The next job for a thread; `reads` tells whether it is the one that reads pages.
@@ -117,6 +119,7 @@ struct PlanPainter::State {
   bool CoarseIsThere(int page) const;
   void KeepTile(const TileKey& key, Tile tile);
   void Fail(int page);
+  void NoteGaps(int page, PageGaps gaps);
 
  private:
   bool Working(PaintJob::Kind kind, int page) const;

@@ -10,6 +10,7 @@
 
 namespace tamo {
 
+class PlanPainter;
 class Replacement;
 
 // The plan viewer: shows one PDF at a time, pages and zooms it, marks and measures it, and saves
@@ -52,6 +53,10 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   // Shows a plan that was set aside again, as it was; nothing is left in `aside`.
   void BringBack(PdfDraw& aside);
   QString Problem() const { return problem_; }  // the last failure: what, where, what to do
+  // The plan that OpenFile was last called with opens with another password only.
+  bool WantsPassword() const { return notices_.wantsPassword; }
+  // What can't be saved of the plan shown, as a sentence; empty when all can.
+  QString Caution() const { return notices_.caution; }
 
   void Print() { Raise(onPrint); }
   void BringToFront() { Raise(onBringToFront); }
@@ -73,6 +78,9 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   // Waits for a plan that is slow to open; false when it is still opening.
   bool FinishOpening(int milliseconds);
 
+ protected:
+  bool MayMark() override;
+
  private:
   struct Session;
   struct Opening;
@@ -84,6 +92,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void Close();
   int ShowNothing(const QString& path, int error, const QString& reason);
   void PicturesChanged();
+  void TellOfPages(PlanPainter& painter);
   void BeginPlan(const QString& path);
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
 
@@ -94,14 +103,24 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   int WriteCopy(const QString& path, const MarkChanges& changes);
   int WriteAnew(const QString& path, const MarkChanges& changes);
   int WriteRepaired(int handle, QString& problem);
+  struct Progress;
+  // Does a part of a save on the plan's thread and waits for it, with the window alive; kFileOther
+  // when it takes too long. The work owns what it works on.
+  using SavePart = std::function<int(Progress& progress)>;
+  int DoAside(const SavePart& work, int patience, QString* problem = nullptr);
   std::unique_ptr<Session> OpenAside(const QString& path, int& error, std::vector<Mark>& marks);
   void ForgetUpdate();
   int FinishCopy(Replacement& copy, int error, const QString& path);
   int Confirm(const QString& path);
+  // One save at a time; tells of its end.
+  int SaveAlone(const QString& given, const std::function<int()>& save);
+  int SaveNow(const QString& given);
+  int AddNow(const QString& path);
   bool ChangedOnDisk(const QString& path);
   int TakeFromDisk(const QString& path, const MarkChanges& changes);
   int BuildUpdate(Session& session, const MarkChanges& changes, QByteArray& bytes);
-  int CopyBytes(int handle);
+  SavePart WriteBytes(int handle, const QByteArray& bytes) const;
+  SavePart CopyBytes(int handle, const QByteArray& more) const;
   void CutTornTail(const QString& path, qint64 whole);
   int SaveFailed(const QString& path, int error, const QString& reason = QString());
 
@@ -114,6 +133,12 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   QString problem_;
   QString unsure_;  // a plan that was saved, and the device did not confirm it
   QString password_;
+  struct {
+    bool wantsPassword = false;
+    QString reservation;  // not answered yet
+    QString caution;
+  } notices_;
+  bool saving_ = false;
   int patience_ = 10000;
   int longestOpening_ = 30000;
 };

@@ -26,6 +26,17 @@ QString OpenReason(int error) {
   }
 }
 
+QString GapsInWords(PageGaps gaps) {
+  QStringList words;
+  if (gaps.pictures) {
+    words << QStringLiteral(
+        "a picture on it is missing, because it is damaged or needs too much memory");
+  }
+  if (gaps.patterns) words << QStringLiteral("a hatch on it is too fine to be drawn everywhere");
+  if (gaps.contents) words << QStringLiteral("parts of it are damaged");
+  return words.join(QStringLiteral("; "));
+}
+
 }  // namespace
 
 // --- News from the plan's threads
@@ -86,6 +97,8 @@ QString PdfDraw::ShownFile() const {
 // A plan begins: its pages and marks are not known yet.
 void PdfDraw::BeginPlan(const QString& path) {
   path_ = path;
+  notices_.reservation.clear();
+  notices_.caution.clear();
   BeginSheets();
   ClearMarks();
   ClearBoard();
@@ -98,6 +111,13 @@ void PdfDraw::FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks) {
   Raise(onPageChanged);
   ViewChanged();
   Repaint();
+}
+
+bool PdfDraw::MayMark() {
+  if (notices_.reservation.isEmpty()) return true;
+  const bool all = !onReservation || onReservation(notices_.reservation);
+  if (all) notices_.reservation.clear();
+  return all;
 }
 
 // --- Opening and closing
@@ -164,6 +184,7 @@ std::unique_ptr<PdfDraw::Session> PdfDraw::NewSession(const QString& path, const
 int PdfDraw::OpenFile(const QString& given, const QString& password) {
   Close();
   problem_.clear();
+  notices_.wantsPassword = false;
   const QString path = files_.Resolved(given);
   password_ = password;
   int error = kNoError;
@@ -200,11 +221,14 @@ bool PdfDraw::FinishOpening(int milliseconds) {
 void PdfDraw::TakeOpened() {
   const std::shared_ptr<Opening> opening = std::exchange(opening_, nullptr);
   PlanContents& contents = opening->contents;
+  notices_.wantsPassword = contents.wantsPassword;
   if (contents.error != kNoError) {
     ShowNothing(ShownPath(), contents.error, contents.problem);
     if (opening->slow && onProblem) onProblem(problem_);
     return;
   }
+  notices_.reservation = contents.reservation;
+  notices_.caution = contents.caution;
   session_->sizes = contents.sizes;
   for (const Mark& mark : contents.marks) session_->savedNames.insert(mark.name);
   StartPainting();
@@ -226,6 +250,7 @@ std::unique_ptr<PdfDraw> PdfDraw::SetAside() {
   session_->painter.reset();
   aside->session_ = std::move(session_);
   aside->BeginPlan(path_);
+  aside->notices_ = notices_;
   aside->password_ = password_;
   aside->unsure_ = std::exchange(unsure_, QString());
   aside->FillPlan(aside->session_->sizes, std::move(marks));
@@ -243,6 +268,7 @@ void PdfDraw::BringBack(PdfDraw& aside) {
   password_ = aside.password_;
   unsure_ = aside.unsure_;
   BeginPlan(aside.path_);
+  notices_ = aside.notices_;
   if (session_ == nullptr) return FillPlan({}, {});
   StartPainting();
   FillPlan(session_->sizes, std::move(marks));
@@ -250,17 +276,24 @@ void PdfDraw::BringBack(PdfDraw& aside) {
 
 // --- Pictures
 
-void PdfDraw::PicturesChanged() {
-  if (session_ != nullptr && session_->painter != nullptr) {
-    for (const int page : session_->painter->TakeFailedPages()) {
-      problem_ = QStringLiteral(
-                     "Page %1 of %2 can't be drawn: it is damaged or needs too much time or "
-                     "memory. The other pages and all marks are unaffected.")
-                     .arg(page)
-                     .arg(ShownFile());
-      if (onProblem) onProblem(problem_);
-    }
+void PdfDraw::TellOfPages(PlanPainter& painter) {
+  for (const int page : painter.TakeFailedPages()) {
+    problem_ = QStringLiteral(
+                   "Page %1 of %2 can't be drawn: it is damaged or needs too much time or "
+                   "memory. The other pages and all marks are unaffected.")
+                   .arg(page)
+                   .arg(ShownFile());
+    Raise(onPageProblem, problem_);
   }
+  for (const auto& [page, gaps] : painter.TakeGaps()) {
+    problem_ = QStringLiteral("Page %1 of %2 is not shown whole: %3. Marks are unaffected.")
+                   .arg(QString::number(page), ShownFile(), GapsInWords(gaps));
+    Raise(onPageProblem, problem_);
+  }
+}
+
+void PdfDraw::PicturesChanged() {
+  if (session_ != nullptr && session_->painter != nullptr) TellOfPages(*session_->painter);
   if (onPicturesChanged) onPicturesChanged();
 }
 

@@ -1,4 +1,3 @@
-#include <QElapsedTimer>
 #include <algorithm>
 #include <utility>
 
@@ -13,13 +12,8 @@
 namespace tamo {
 namespace {
 
-constexpr int kBuildPatience = 20000;
-constexpr int kRepairPatience = 120000;
 constexpr qint64 kCopyChunk = qint64(1) << 20;
-constexpr int kQuietCopy = 300;  // milliseconds before progress is told
 constexpr qint64 kCompared = 2048;
-// Instead of an error number: nothing can be appended to the plan, it has to be written anew.
-constexpr int kNeedsRewrite = -1;
 
 QString PartWritten(const QString& path, int error) {
   return QStringLiteral(
@@ -30,6 +24,17 @@ QString PartWritten(const QString& path, int error) {
 }
 
 }  // namespace
+
+int PdfDraw::DoAside(const SavePart& work, int patience, QString* problem) {
+  const auto progress = std::make_shared<Progress>();
+  const bool done =
+      session_->thread->Run([progress, work] { progress->error = work(*progress); }, patience,
+                            [&] { Raise(onSaveProgress, progress->perCent.load()); });
+  const std::lock_guard<std::mutex> guard(progress->writing);
+  progress->left = true;
+  if (done && problem != nullptr) *problem = progress->problem;
+  return done ? progress->error : kFileOther;
+}
 
 int PdfDraw::SaveFailed(const QString& path, int error, const QString& reason) {
   problem_ = QStringLiteral(
@@ -66,7 +71,24 @@ bool PdfDraw::HasUnsavedMarks() const {
   return session_ != nullptr && !Changes().Empty();
 }
 
+int PdfDraw::SaveAlone(const QString& given, const std::function<int()>& save) {
+  if (saving_) return SaveFailed(given, kFileOther, QStringLiteral("it is just being saved"));
+  saving_ = true;
+  const int error = save();
+  Raise(onSaveProgress, 100);
+  saving_ = false;
+  return error;
+}
+
 int PdfDraw::SaveAs(const QString& given) {
+  return SaveAlone(given, [&] { return SaveNow(given); });
+}
+
+int PdfDraw::AddTo(const QString& path) {
+  return SaveAlone(path, [&] { return AddNow(path); });
+}
+
+int PdfDraw::SaveNow(const QString& given) {
   if (ShownPath().isEmpty() || session_ == nullptr) {
     problem_ = QStringLiteral("No plan is shown, so there is nothing to save.");
     return kFileNotFound;
@@ -93,7 +115,7 @@ int PdfDraw::SaveAs(const QString& given) {
   return Confirm(path);
 }
 
-int PdfDraw::AddTo(const QString& path) {
+int PdfDraw::AddNow(const QString& path) {
   if (session_ == nullptr || !FinishOpening(kBuildPatience)) {
     return SaveFailed(path, kFileOther, QStringLiteral("it is still being opened"));
   }
@@ -109,6 +131,16 @@ int PdfDraw::AddTo(const QString& path) {
 void PdfDraw::MarksAreSaved() {
   session_->savedNames.clear();
   for (const Mark& mark : MarksAsDrawn()) session_->savedNames.insert(mark.name);
+}
+
+// Writes to an open file, down to the disk.
+PdfDraw::SavePart PdfDraw::WriteBytes(int handle, const QByteArray& bytes) const {
+  return [disk = &files_.GetDisk(), handle, bytes](Progress& progress) {
+    const std::lock_guard<std::mutex> guard(progress.writing);
+    if (progress.left) return kFileOther;
+    const int error = bytes.isEmpty() ? kNoError : disk->Write(handle, bytes);
+    return error != kNoError ? error : disk->Sync(handle);
+  };
 }
 
 int PdfDraw::WriteChanges(const QString& path, bool same, const MarkChanges& changes) {
@@ -134,7 +166,7 @@ int PdfDraw::BuildUpdate(Session& session, const MarkChanges& changes, QByteArra
   const auto update = std::make_shared<PlanUpdate>();
   const bool done = session.thread->Run(
       [update, changes, plan = session.plan] { *update = plan->BuildUpdate(changes); },
-      kBuildPatience);
+      kBuildPatience, [this] { Raise(onSaveProgress, 0); });
   if (!done) return SaveFailed(ShownPath(), kFileOther, QStringLiteral("it takes too long"));
   bytes = update->bytes;
   if (update->error == kNoError) return kNoError;
@@ -152,8 +184,7 @@ int PdfDraw::Append(const QString& path, const MarkChanges& changes) {
   bool takenBack = true;
   error = disk.OpenAtEnd(path, handle);
   if (error == kNoError) {
-    error = disk.Write(handle, bytes);
-    if (error == kNoError) error = disk.Sync(handle);
+    error = DoAside(WriteBytes(handle, bytes), kCopyPatience);
     // What part of it arrived goes again; should that fail, too, the next opening cuts it.
     if (error != kNoError) takenBack = disk.Truncate(handle, session_->size) == kNoError;
     disk.Close(handle);  // all is on the disk already, or taken back
@@ -168,23 +199,21 @@ int PdfDraw::Append(const QString& path, const MarkChanges& changes) {
   return kNoError;
 }
 
-int PdfDraw::CopyBytes(int handle) {
-  QElapsedTimer clock;
-  clock.start();
-  const auto reader = session_->source->Reader();
-  const qint64 size = session_->size;
-  bool told = false;
-  for (qint64 place = 0; place < size; place += kCopyChunk) {
-    const qint64 count = std::min(kCopyChunk, size - place);
-    const QByteArray part = ReadPart(*reader, place, count);
-    if (part.size() != count) return kFileOther;
-    if (const int error = files_.GetDisk().Write(handle, part)) return error;
-    if (clock.elapsed() < kQuietCopy || !onSaveProgress) continue;
-    told = true;
-    onSaveProgress(static_cast<int>((place + count) * 99 / size));
-  }
-  if (told) onSaveProgress(100);
-  return kNoError;
+// Copies the plan and `more` behind it to an open file, down to the disk.
+PdfDraw::SavePart PdfDraw::CopyBytes(int handle, const QByteArray& more) const {
+  return [handle, rest = WriteBytes(handle, more), disk = &files_.GetDisk(),
+          reader = session_->source->Reader(), size = session_->size](Progress& progress) {
+    for (qint64 place = 0; place < size; place += kCopyChunk) {
+      const qint64 count = std::min(kCopyChunk, size - place);
+      const QByteArray part = ReadPart(*reader, place, count);
+      if (part.size() != count) return kFileOther;
+      const std::lock_guard<std::mutex> guard(progress.writing);
+      if (progress.left) return kFileOther;
+      if (const int error = disk->Write(handle, part)) return error;
+      progress.perCent = static_cast<int>((place + count) * 99 / size);
+    }
+    return rest(progress);
+  };
 }
 
 // Ends a copy: on the disk, then under its name. A failure leaves what stood there.
@@ -218,8 +247,7 @@ int PdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
   Replacement copy(disk, path);
   error = copy.Begin();
   if (error == kNoError) {
-    error = CopyBytes(copy.Handle());
-    if (error == kNoError && !bytes.isEmpty()) error = disk.Write(copy.Handle(), bytes);
+    error = DoAside(CopyBytes(copy.Handle(), bytes), kCopyPatience);
     error = FinishCopy(copy, error, path);
   } else {
     SaveFailed(path, error);
@@ -238,90 +266,6 @@ int PdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
 // The update that was built did not reach the disk.
 void PdfDraw::ForgetUpdate() {
   session_->thread->Run([plan = session_->plan] { plan->ForgetUpdate(); }, kBuildPatience);
-}
-
-// Writes the repaired plan to an open file, on the plan's own thread. When that takes too long it
-// is left alone and can't touch the file any more.
-int PdfDraw::WriteRepaired(int handle, QString& problem) {
-  struct Result {
-    std::mutex mutex;
-    bool left = false;
-    int error = kFileOther;
-    QString problem = QStringLiteral("it takes too long to repair");
-  };
-  const auto result = std::make_shared<Result>();
-  const auto sink = [result, handle, disk = &files_.GetDisk()](const QByteArray& part) {
-    const std::lock_guard<std::mutex> guard(result->mutex);
-    return result->left ? kFileOther : disk->Write(handle, part);
-  };
-  const bool done = session_->thread->Run(
-      [result, sink, plan = session_->plan] {
-        QString words;
-        const int error = plan->WriteWhole(sink, words);
-        const std::lock_guard<std::mutex> guard(result->mutex);
-        result->error = error;
-        result->problem = words;
-      },
-      kRepairPatience);
-  const std::lock_guard<std::mutex> guard(result->mutex);
-  result->left = true;
-  problem = result->problem;
-  return done ? result->error : kFileOther;
-}
-
-// Opens a plan that is not shown (yet).
-std::unique_ptr<PdfDraw::Session> PdfDraw::OpenAside(const QString& path, int& error,
-                                                     std::vector<Mark>& marks) {
-  std::unique_ptr<Session> aside = NewSession(path, password_, error);
-  const auto opening = std::exchange(opening_, nullptr);
-  if (aside == nullptr) return nullptr;
-  std::unique_lock<std::mutex> lock(opening->mutex);
-  opening->ready.wait_for(lock, std::chrono::milliseconds(kBuildPatience),
-                          [&] { return opening->done; });
-  error = opening->done ? opening->contents.error : kFileOther;
-  if (error != kNoError) return nullptr;
-  aside->sizes = std::move(opening->contents.sizes);
-  marks = std::move(opening->contents.marks);
-  for (const Mark& mark : marks) aside->savedNames.insert(mark.name);
-  return aside;
-}
-
-// A damaged plan can't be added to: it is written anew, repaired, and the marks are added to that.
-int PdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
-  Replacement copy(files_.GetDisk(), path);
-  int error = copy.Begin();
-  if (error != kNoError) return SaveFailed(path, error);
-  QString problem;
-  std::unique_ptr<Session> anew;
-  std::vector<Mark> marks;
-  QByteArray bytes;
-  error = WriteRepaired(copy.Handle(), problem);
-  if (error == kNoError) anew = OpenAside(copy.Unfinished(), error, marks);
-  if (error == kNoError && !changes.Empty()) error = BuildUpdate(*anew, changes, bytes);
-  if (error == kNeedsRewrite) error = kFileOther;
-  if (error == kNoError) error = files_.GetDisk().Write(copy.Handle(), bytes);
-  const bool written = error == kNoError;
-  error = FinishCopy(copy, error, path);
-  if (error != kNoError) return written ? error : SaveFailed(path, error, problem);
-  anew->size += bytes.size();
-  session_ = std::move(anew);
-  StartPainting();
-  ViewChanged();  // the new painter learns what is in sight
-  return kNoError;
-}
-
-// Another program has written to the plan: its state is taken, and what changed here goes on top.
-int PdfDraw::TakeFromDisk(const QString& path, const MarkChanges& changes) {
-  int error = kNoError;
-  std::vector<Mark> marks;
-  std::unique_ptr<Session> fresh = OpenAside(path, error, marks);
-  if (fresh == nullptr) return SaveFailed(path, error);
-  session_ = std::move(fresh);
-  StartPainting();
-  std::erase_if(marks, [&](const Mark& mark) { return changes.removed.contains(mark.name); });
-  marks.insert(marks.end(), changes.added.begin(), changes.added.end());
-  FillPlan(session_->sizes, std::move(marks));
-  return changes.Empty() ? kNoError : Append(path, changes);
 }
 
 }  // namespace tamo

@@ -22,7 +22,12 @@ namespace tamo {
 // What a plan holds, read once when it is opened.
 struct PlanContents {
   int error = 0;
-  QString problem;  // in words, when error is not 0
+  QString problem;             // in words, when error is not 0
+  bool wantsPassword = false;  // it opens with another password than the one given
+  // Why a person should think twice before marking it, as a sentence; empty when nothing is
+  // against it.
+  QString reservation;
+  QString caution;  // what can't be saved of it later, as a sentence; empty when all can
   std::vector<PageSize> sizes;
   std::vector<Mark> marks;  // the annotations of this program, oldest first
 };
@@ -54,12 +59,23 @@ struct PaintPart {
   bool coarse = false;  // fewer shades at the edges, twice as fast
 };
 
+// What is missing from a page although the rest of it is shown.
+struct PageGaps {
+  bool pictures = false;  // that can't be decoded, or not in the memory there is
+  bool patterns = false;  // so fine that they are only begun
+  bool contents = false;  // damaged
+  bool operator==(const PageGaps&) const = default;
+  bool None() const { return *this == PageGaps(); }
+};
+
 // A page that the engine holds ready, so that its parts are painted without reading it again. The
 // engine frees it when the last hold on it goes, on whatever thread that is.
 class LoadedPage {
  public:
   virtual ~LoadedPage() = default;
   virtual PageSize Size() const = 0;
+  // As far as is known: painting may find more.
+  virtual PageGaps Gaps() const { return {}; }
 };
 
 // One plan. Every call blocks until it is done, cancelled or failed, may come from any thread but

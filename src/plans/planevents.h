@@ -22,6 +22,9 @@ struct PlanEvents {
   std::function<void(double& length, QString& label)> onLineRunning;
   std::function<void(double paperLength)> onLineChecked;
   std::function<void(int count)> onCircleCountChanged;  // the circles of all pages
+  // Something speaks against marking this plan: true when it is to be marked all the same. Asked
+  // once for a plan, before its first mark.
+  std::function<bool(const QString& reservation)> onReservation;
   std::function<void()> onPageChanged;
   std::function<void()> onScrolled;  // by the user only
   std::function<void()> onMousePressed;
@@ -30,9 +33,12 @@ struct PlanEvents {
   std::function<void()> onBringToFront;
   std::function<void()> onMarksChanged;  // marks, the line in work or the cross hair: paint again
   std::function<void()> onViewChanged;   // zoom, position, rotation or page: paint again
-  // While the first marked copy of a large plan is written and takes long; at 100 it is done.
+  // Every few milliseconds while a save is in work on the plan's thread and this one waits for it:
+  // the window goes on living meanwhile, but takes no input. At 100 it is done.
   std::function<void(int perCent)> onSaveProgress;
   std::function<void(const QString& text)> onProblem;  // a failure found after OpenFile came back
+  // A page can't be drawn, or not whole; the plan is shown all the same.
+  std::function<void(const QString& text)> onPageProblem;
 
  protected:
   template <typename Event, typename... Args>

@@ -45,6 +45,7 @@ void PlanOpener::EnterPlanLocation() {
 
 bool PlanOpener::Open(const QString& path) {
   const QString file = kit_.files.Resolved(NativePath(path));
+  form_.LockedPlan.Hide();
   parts_.copy.Leave();
   if (parts_.copy.ComeBack(file)) {
     parts_.scale.Show();
@@ -56,11 +57,25 @@ bool PlanOpener::Open(const QString& path) {
         QStringLiteral("There is no plan %1. Pick it again under Files.").arg(file));
     return false;
   }
-  const int error = viewer_.OpenFile(file, QString());
+  const int error = viewer_.OpenFile(file, password_);
   parts_.copy.Came();
-  form_.PlanProblem.SetCaption(error == kNoError ? QString() : viewer_.Problem());
+  form_.PlanProblem.SetCaption(error == kNoError ? viewer_.Caution() : viewer_.Problem());
+  if (viewer_.WantsPassword()) AskPassword(path);
   parts_.scale.Show();
   return error == kNoError;
+}
+
+void PlanOpener::AskPassword(const QString& path) {
+  locked_ = path;
+  form_.PlanPassword.Clear();
+  form_.LockedPlan.Show();
+}
+
+void PlanOpener::OpenLocked() {
+  password_ = form_.PlanPassword.Text();
+  form_.PlanLocation.SetText(locked_);
+  form_.LockedPlan.Hide();
+  LoadPDF();
 }
 
 void PlanOpener::OpenBlank() {
@@ -93,10 +108,12 @@ void PlanOpener::OpenNamed() {
     PlanGone();
   }
   const QString problem = form_.PlanProblem.Caption();
+  const bool locked = form_.LockedPlan.Shown();
   parts_.record.LoadFor(picked_);
   picked_.clear();
   // Whatever the record brought up: the plan that was asked for could not be shown.
   if (!problem.isEmpty()) form_.PlanProblem.SetCaption(problem);
+  if (locked) form_.LockedPlan.Show();
 }
 
 void PlanOpener::LoadPDF() {

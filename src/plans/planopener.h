@@ -29,6 +29,9 @@ class PlanOpener {
   void LoadFN();   // the plan of the record that is being read
   void OpenBlank();
   void EnterPlanLocation();
+  // The plan at `path` wants a password: the strip for it is shown.
+  void AskPassword(const QString& path);
+  void OpenLocked();  // with the password typed there
 
  private:
   void Pick();
@@ -43,7 +46,9 @@ class PlanOpener {
   OstControls& form_;
   PdfDraw& viewer_;
   const PlanParts parts_;
-  QString picked_;  // the plan that LoadPDF shows while the record is read
+  QString locked_;    // the plan that waits for a password
+  QString password_;  // the last one typed: the sheets of a set mostly share one
+  QString picked_;    // the plan that LoadPDF shows while the record is read
 };
 
 }  // namespace tamo

@@ -185,4 +185,16 @@ std::vector<int> PlanPainter::TakeFailedPages() {
   return std::exchange(state_->failedNews, {});
 }
 
+// Once for each page that is looked at, and again when more turns out to be missing.
+void PlanPainter::State::NoteGaps(int page, PageGaps gaps) {
+  if (gaps.None() || page != view.page || gaps == gapsTold[page]) return;
+  gapsTold[page] = gaps;
+  gapsNews[page] = gaps;
+}
+
+std::map<int, PageGaps> PlanPainter::TakeGaps() {
+  const std::lock_guard<std::mutex> guard(state_->mutex);
+  return std::exchange(state_->gapsNews, {});
+}
+
 }  // namespace tamo

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -36,6 +37,8 @@ class PlanPainter {
   bool WaitForCoarse(int milliseconds);
   // The pages that can't be shown, each named once.
   std::vector<int> TakeFailedPages();
+  // What is missing from the pages looked at, each told once.
+  std::map<int, PageGaps> TakeGaps();
 
   struct State;
 

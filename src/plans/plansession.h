@@ -1,12 +1,14 @@
 #pragma once
 
-// The inside of PdfDraw, shared by its two source files.
+// The inside of PdfDraw, shared by its source files.
 
 #include <QObject>
 #include <QSet>
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 
+#include "common/failure.h"
 #include "plans/filetail.h"
 #include "plans/pdfdraw.h"
 #include "plans/planengine.h"
@@ -40,6 +42,21 @@ struct PdfDraw::Session {
     if (thread) thread->Post([last = std::move(plan)] {});
   }
 };
+
+// How far a part of a save has come, written by the plan's thread.
+struct PdfDraw::Progress {
+  std::mutex writing;
+  bool left = false;  // nobody waits for it any more: nothing may be written
+  std::atomic<int> perCent = 0;
+  int error = kFileOther;
+  QString problem;  // in words, where the work has some
+};
+
+// How long parts of a save may take, in milliseconds.
+inline constexpr int kBuildPatience = 20000;
+inline constexpr int kCopyPatience = 600000;
+// Instead of an error number: nothing can be appended to the plan, it has to be written anew.
+inline constexpr int kNeedsRewrite = -1;
 
 // Brings news from the threads of a plan to the thread of the forms.
 class PdfDraw::FormsThread {

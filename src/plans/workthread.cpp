@@ -6,6 +6,11 @@
 #include <utility>
 
 namespace tamo {
+namespace {
+
+constexpr auto kMeanwhile = std::chrono::milliseconds(8);
+
+}  // namespace
 
 struct WorkThread::State {
   std::mutex mutex;
@@ -56,7 +61,9 @@ void WorkThread::Post(Job job) {
   state_->wake.notify_all();
 }
 
-bool WorkThread::Run(Job job, int milliseconds) {
+bool WorkThread::Run(Job job, int milliseconds, const std::function<void()>& meanwhile) {
+  using Clock = std::chrono::steady_clock;
+
   struct Wait {
     std::mutex mutex;
     std::condition_variable done;
@@ -69,9 +76,16 @@ bool WorkThread::Run(Job job, int milliseconds) {
     wait->finished = true;
     wait->done.notify_all();
   });
+  const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
   std::unique_lock<std::mutex> lock(wait->mutex);
-  return wait->done.wait_for(lock, std::chrono::milliseconds(milliseconds),
-                             [&] { return wait->finished; });
+  const auto finished = [&] { return wait->finished; };
+  if (!meanwhile) return wait->done.wait_until(lock, end, finished);
+  while (!wait->done.wait_for(lock, kMeanwhile, finished) && Clock::now() < end) {
+    lock.unlock();
+    meanwhile();
+    lock.lock();
+  }
+  return wait->finished;
 }
 
 }  // namespace tamo

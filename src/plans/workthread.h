@@ -20,8 +20,8 @@ class WorkThread {
 
   void Post(Job job);
   // Does a job and waits for it; false when it is not done in time (it then still comes to its
-  // end).
-  bool Run(Job job, int milliseconds);
+  // end). `meanwhile`, when there is one, is called every few milliseconds by who waits.
+  bool Run(Job job, int milliseconds, const std::function<void()>& meanwhile = nullptr);
 
  private:
   struct State;

@@ -1,3 +1,5 @@
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QProgressDialog>
 #include <QToolButton>
 
@@ -12,6 +14,7 @@ namespace tamo {
 namespace {
 
 constexpr int kColumnWidth = 32 * kGrid;
+constexpr int kQuietSave = 300;  // milliseconds before a save shows its bar
 
 QToolButton* Tool(const QString& text, const QString& hover) {
   auto* tool = new QToolButton;
@@ -158,6 +161,19 @@ void Sheet(Builder& b, QVBoxLayout& column) {
   column.addLayout(grid);
 }
 
+// Shown while the plan asked for is locked.
+QWidget* Password(Builder& b) {
+  QFrame* frame = b.Panel("LockedPlan");
+  auto* column = new QVBoxLayout(frame);
+  column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
+  column->setSpacing(kGrid / 2);
+  QLineEdit* password = b.Field("PlanPassword");
+  password->setEchoMode(QLineEdit::Password);
+  Stack(*column, QStringLiteral("Password of the plan"), password);
+  column->addWidget(b.PushButton("UnlockPlan"));
+  return frame;
+}
+
 void Distance(Builder& b, QVBoxLayout& column) {
   QLineEdit* distance = b.Field("DistanceText", 0, QStringLiteral("Last distance or count"));
   distance->setFont(FigureFont());
@@ -192,6 +208,7 @@ QWidget* Column(Builder& b) {
   column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
   column->setSpacing(kGrid / 2);
   Sheet(b, *column);
+  column->addWidget(Password(b));
   column->addWidget(Rule());
   Scales(b, *column);
   Distance(b, *column);
@@ -206,22 +223,28 @@ QWidget* Column(Builder& b) {
   return side;
 }
 
-// The first marked copy of a large plan takes a while; the bar says so and can't be stopped.
+// The first marked copy of a large plan takes a while; the bar says so and can't be stopped. The
+// windows are painted meanwhile, keys and mouse wait.
 std::function<void(int)> SaveProgress(QWidget& window) {
-  auto bar = std::make_shared<std::unique_ptr<QProgressDialog>>();
-  return [bar, &window](int perCent) {
+  struct Shown {
+    QElapsedTimer since;
+    std::unique_ptr<QProgressDialog> bar;
+  };
+  return [shown = std::make_shared<Shown>(), &window](int perCent) {
     if (perCent >= 100) {
-      bar->reset();
+      *shown = {};
       return;
     }
-    if (*bar == nullptr) {
-      *bar = std::make_unique<QProgressDialog>(
+    if (!shown->since.isValid()) shown->since.start();
+    if (shown->bar == nullptr && shown->since.elapsed() > kQuietSave) {
+      shown->bar = std::make_unique<QProgressDialog>(
           QStringLiteral("The marked copy of the plan is being written."), QString(), 0, 100,
           &window);
-      (*bar)->setWindowModality(Qt::ApplicationModal);
-      (*bar)->setMinimumDuration(0);
+      shown->bar->setMinimumDuration(0);
+      shown->bar->show();
     }
-    (*bar)->setValue(perCent);
+    if (shown->bar != nullptr) shown->bar->setValue(perCent);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   };
 }
 

@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <map>
 
 #include "plans/pdfdraw.h"
 #include "plans/planpictures.h"
@@ -94,14 +95,19 @@ class PlanThumbnails : public QAbstractScrollArea {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
 
  private:
   int CellHeight() const;
+  int FirstInSight() const;  // pages; the last is less than the first when there is none
+  int LastInSight() const;
+  void TakePictures();
 
   PdfDraw& viewer_;
   PlanPictures* pictures_;
   Desk& desk_;
   int shownPage_ = 0;
+  std::map<int, std::shared_ptr<const Picture>> shown_;  // the pictures in sight, by page
 };
 
 class PlanBinding : public Binding {

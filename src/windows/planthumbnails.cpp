@@ -45,7 +45,30 @@ void PlanThumbnails::PagesChanged() {
     const int least = top + CellHeight() - viewport()->height();
     bar->setValue(std::clamp(bar->value(), std::min(least, top), std::max(least, top)));
   }
+  TakePictures();
+}
+
+int PlanThumbnails::FirstInSight() const {
+  return std::max(1, verticalScrollBar()->value() / CellHeight() + 1);
+}
+
+int PlanThumbnails::LastInSight() const {
+  const int last = (verticalScrollBar()->value() + viewport()->height() - kGrid) / CellHeight() + 1;
+  return std::min(last, viewer_.PageCount());
+}
+
+// Asks for the pictures in sight, so that painting only paints what is there.
+void PlanThumbnails::TakePictures() {
+  shown_.clear();
+  const int side = static_cast<int>(kSide * devicePixelRatioF());
+  for (int page = FirstInSight(); pictures_ != nullptr && page <= LastInSight(); ++page) {
+    if (auto picture = pictures_->Thumbnail(page, side)) shown_[page] = std::move(picture);
+  }
   viewport()->update();
+}
+
+void PlanThumbnails::scrollContentsBy(int /*dx*/, int /*dy*/) {
+  TakePictures();
 }
 
 void PlanThumbnails::resizeEvent(QResizeEvent* event) {
@@ -59,21 +82,16 @@ void PlanThumbnails::paintEvent(QPaintEvent*) {
   const Look& look = CurrentLook();
   painter.fillRect(viewport()->rect(), look.window);
   const int from = verticalScrollBar()->value();
-  const int first = std::max(1, from / CellHeight() + 1);
-  for (int page = first; page <= viewer_.PageCount(); ++page) {
+  for (int page = FirstInSight(); page <= LastInSight(); ++page) {
     const int top = (page - 1) * CellHeight() + kGrid - from;
-    if (top > viewport()->height()) break;
     const PageSize size = viewer_.SizeOfPage(page);
     const double scale = kSide / std::max({size.width, size.height, 1.0});
     const QRectF sheet((viewport()->width() - size.width * scale) / 2,
                        top + (kSide - size.height * scale) / 2, size.width * scale,
                        size.height * scale);
     painter.fillRect(sheet, Qt::white);
-    if (pictures_ != nullptr) {
-      const int side = static_cast<int>(kSide * devicePixelRatioF());
-      if (const auto picture = pictures_->Thumbnail(page, side))
-        painter.drawImage(sheet, ImageOf(*picture));
-    }
+    if (const auto picture = shown_.find(page); picture != shown_.end())
+      painter.drawImage(sheet, ImageOf(*picture->second));
     const bool current = page == viewer_.Page();
     painter.setPen(QPen(current ? look.accent : look.line, current ? 3 : 1));
     painter.drawRect(sheet);

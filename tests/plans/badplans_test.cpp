@@ -105,7 +105,7 @@ TEST_F(BadPlans, EachIsAMessageOrASheetAndTheFileStaysAsItIs) {
     most = std::max(most, MuPdfContexts::MemoryInUse());
     EXPECT_EQ(QFileInfo(path).size(), size);
   }
-  EXPECT_LE(most, qint64(768) << 20);
+  EXPECT_LE(most, qint64(320) << 20);
 }
 
 TEST_F(BadPlans, MarkingOneEitherSucceedsWholeOrLeavesNothing) {

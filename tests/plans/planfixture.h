@@ -48,9 +48,13 @@ struct PlanFixture : ::testing::Test {
     int exit = -1;
     QByteArray output;
   };
-  // Runs another program, when the machine has it.
+  // Runs another program, when the machine has it. A child confuses the thread sanitizer, which
+  // then goes without.
   static Ran Run(const QString& program, const QStringList& arguments) {
     Ran ran;
+#ifdef __SANITIZE_THREAD__
+    return ran;
+#endif
     const QString path = QStandardPaths::findExecutable(program);
     if (path.isEmpty()) return ran;
     QProcess process;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <atomic>
+#include <memory>
+
+#include "common/disk.h"
+#include "plans/pagecontent.h"
+
+namespace tamo {
+
+// A plan opened to read the contents of its pages, one after the other: it is opened by the first
+// reading and kept. One thread at a time.
+class MuPdfContentDocument {
+ public:
+  MuPdfContentDocument(std::shared_ptr<FileReader> file, qint64 size, const QByteArray& password);
+  ~MuPdfContentDocument();
+  MuPdfContentDocument(const MuPdfContentDocument&) = delete;
+  MuPdfContentDocument& operator=(const MuPdfContentDocument&) = delete;
+
+  // As ReadPageContent. A reading that was cancelled leaves nothing behind.
+  PageContent Read(int page, const std::atomic<bool>* cancel);
+
+ private:
+  struct Inner;
+  std::unique_ptr<Inner> inner_;
+};
+
+}  // namespace tamo
