@@ -157,8 +157,7 @@ int Files::ReplaceWitnessed(const QString& path, const QByteArray& bytes) {
   }
   int error = Replace(target, bytes);
   while (error == kDiskFull && witness->MakeRoom()) error = Replace(target, bytes);
-  if (error == kNoError || error == kNotConfirmed)
-    witness->Replaced(target, std::move(former));
+  if (error == kNoError || error == kNotConfirmed) witness->Replaced(target, std::move(former));
   return error;
 }
 

@@ -39,6 +39,15 @@ QWidget* Figures(Builder& b) {
   return panel;
 }
 
+// Which state of the bid the report shows; empty for the one that stands.
+QLayout* VersionStrip(Builder& b) {
+  auto* strip = new QHBoxLayout;
+  strip->addWidget(b.Text("VersionLabel"), 1);
+  strip->addWidget(b.PushButton("KeepPrinted"));
+  strip->addWidget(b.PushButton("BackToNow"));
+  return strip;
+}
+
 void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
   const auto grow = [lists](double points) {
     for (RowsView* list : lists) {
@@ -60,11 +69,7 @@ void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
 void LayOutReports(Builder& b) {
   FormWindow& window = b.Window();
   QVBoxLayout& body = window.Body();
-  auto* version = new QHBoxLayout;
-  version->addWidget(b.Text("VersionLabel"), 1);
-  version->addWidget(b.PushButton("KeepPrinted"));
-  version->addWidget(b.PushButton("BackToNow"));
-  body.addLayout(version);
+  body.addLayout(VersionStrip(b));
   auto* row = new QHBoxLayout;
   row->setSpacing(kGrid);
   RowsView* reporter = b.List("Reporter", QStringLiteral("Report"), 96, 30);
