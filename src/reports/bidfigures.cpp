@@ -3,9 +3,7 @@
 #include <algorithm>
 
 #include "common/numbers.h"
-#include "records/adjustmentfile.h"
 #include "records/itemline.h"
-#include "records/itemsfile.h"
 #include "reports/merge.h"
 
 namespace tamo {
@@ -52,10 +50,8 @@ class Pricer {
 };
 
 void AddItems(const ReportSource& source, const Markups& texts, BidFigures& bid) {
-  QStringList items;
-  ReadItemLines(source.files, source.project, items);
   const MarkupFactors markups(texts);
-  for (const QString& item : items) {
+  for (const QString& item : CountedItems(source)) {
     const double price = ItemPrice(item);
     const double markup = markups.BottomLineSum() * price;
     bid.items.push_back({ItemLine(item).SearchName(), price, markup});
@@ -92,7 +88,7 @@ BidFigures FiguresOfBid(const ReportSource& source, const Markups& markups, Take
   bid.total = Rounded(bid.total);
   AddItems(source, markups, bid);
   QString adjustment;
-  ReadAdjustment(source.files, source.project, adjustment);
+  ReadCountedAdjustment(source, adjustment);
   bid.adjustment = Value(adjustment);
   // The recap shows it as number text, which holds 15 digits.
   bid.total = CutTo15Digits(bid.total + bid.adjustment);

@@ -10,11 +10,7 @@ QString ReportedBid::Mark() const {
   return QStringLiteral("Not the bid as it stands: ") + former_->Words();
 }
 
-Markups ReportedBid::LoadedMarkups() {
-  if (former_ == nullptr) {
-    pricing_.LoadMarkups();
-    return pricing_.MarkupTexts();
-  }
+Markups ReportedBid::LoadedMarkups() const {
   Markups markups;
   LoadMarkups(former_->GetFiles(), kit_.shared, markups);
   return markups;
@@ -33,11 +29,12 @@ Report ReportedBid::CompareWith(const FormerBid& then, const ReportSource& sourc
   Markups markupsNow;
   LoadMarkups(then.GetFiles(), kit_.shared, markupsThen);
   LoadMarkups(kit_.files, kit_.shared, markupsNow);
-  return Compare({{then.GetFiles(), source.project, source.progress, source.wholeQuantities},
-                  markupsThen,
-                  then.Words()},
-                 {source, markupsNow, QStringLiteral("the bid as it stands")},
-                 kit_.shared.JobID + QStringLiteral("   ") + kit_.shared.JobName);
+  return Compare(
+      {{then.GetFiles(), source.project, source.progress, source.wholeQuantities, source.uncounted},
+       markupsThen,
+       then.Words()},
+      {source, markupsNow, QStringLiteral("the bid as it stands")},
+      kit_.shared.JobID + QStringLiteral("   ") + kit_.shared.JobName);
 }
 
 std::shared_ptr<const FormerBid> ReportedBid::Sent() {

@@ -5,7 +5,7 @@
 
 #include "common/kit.h"
 #include "history/history.h"
-#include "pricing/pricingform.h"
+#include "records/markupsfile.h"
 #include "reports/projectrecord.h"
 #include "reports/reportsource.h"
 
@@ -15,8 +15,8 @@ namespace tamo {
 // looked at.
 class ReportedBid {
  public:
-  ReportedBid(const Kit& kit, History& history, PricingForm& pricing, ProjectRecord& record)
-      : kit_(kit), history_(history), pricing_(pricing), record_(record) {}
+  ReportedBid(const Kit& kit, History& history, ProjectRecord& record)
+      : kit_(kit), history_(history), record_(record) {}
 
   void LookAt(std::shared_ptr<const FormerBid> former) { former_ = std::move(former); }
   bool Former() const { return former_ != nullptr; }
@@ -24,8 +24,7 @@ class ReportedBid {
   QString Mark() const;
 
   Files& GetFiles() const { return former_ == nullptr ? kit_.files : former_->GetFiles(); }
-  // Of the state that is looked at; those of the bid that stands come up in `Pricing`.
-  Markups LoadedMarkups();
+  Markups LoadedMarkups() const;  // of the former state
   ProjectFacts Facts() const;
 
   // The comparison of a former state with the bid as it stands; `source` reads the latter.
@@ -38,7 +37,6 @@ class ReportedBid {
  private:
   const Kit kit_;
   History& history_;
-  PricingForm& pricing_;
   ProjectRecord& record_;
   std::shared_ptr<const FormerBid> former_;
 };

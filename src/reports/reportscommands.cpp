@@ -21,7 +21,7 @@ void ReportsForm::PrintReport() {
   const QString mark = bid_.Mark();
   const QString name =
       mark.isEmpty() ? kit_.shared.JobName : kit_.shared.JobName + QStringLiteral("   ") + mark;
-  PrintPages(kit_.platform.printer, Reporter.SharedRows(), kit_.shared.JobID, name);
+  PrintPages(kit_.platform.printer, WithUncounted(Reporter.SharedRows()), kit_.shared.JobID, name);
   if (TitleOf(Reporter) == QLatin1String("Recap Sheet") && !bid_.Former()) OfferToKeep();
 }
 
@@ -29,7 +29,7 @@ void ReportsForm::CopyReport() {
   QString text;
   if (bid_.Former()) text = bid_.Mark() + QStringLiteral("\r\n");
   const auto copy = [&](const OrderedList& list) {
-    text += list.SharedRows().Joined();
+    text += WithUncounted(list.SharedRows()).Joined();
     GetDesk().GetMessages().Tell(
         list.Row(0) + QStringLiteral(" has been copied to the computer clipboard.\n"
                                      "Use paste on the mouse right click to paste report into\n"
@@ -50,7 +50,16 @@ void ReportsForm::WriteProjectFile() {
   }
   const OrderedList& list = Reporter.Empty() ? Reporter1 : Reporter;
   WriteManagerFile(kit_.files, kit_.shared, kit_.shared.JobID, kit_.shared.JobName,
-                   list.SharedRows());
+                   WithUncounted(list.SharedRows()));
+}
+
+// A report that leaves the window says behind its title what it did not count.
+ListRows ReportsForm::WithUncounted(const ListRows& report) const {
+  const QStringList sentences = uncounted_.Sentences();
+  if (sentences.isEmpty() || report.Count() == 0) return report;
+  QStringList rows = report.List();
+  for (qsizetype i = 0; i < sentences.size(); ++i) rows.insert(i + 1, sentences[i]);
+  return rows;
 }
 
 void ReportsForm::ExitReports() {

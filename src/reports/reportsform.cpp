@@ -1,8 +1,11 @@
 #include "reports/reportsform.h"
-#include "records/datafolder.h"
+
+#include <algorithm>
+#include <iterator>
 
 #include "common/failure.h"
 #include "common/numbers.h"
+#include "records/datafolder.h"
 #include "reports/bill.h"
 #include "reports/breakdown.h"
 #include "reports/notebook.h"
@@ -71,6 +74,7 @@ void ReportsForm::ClearNotes() {
   if (!bid_.Former()) VersionLabel.Hide();
   NotesList.Clear();
   notes_.clear();
+  uncounted_ = {};
 }
 
 void ReportsForm::Make(const std::function<void()>& report) {
@@ -100,11 +104,25 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities()};
+  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(), &uncounted_};
+}
+
+Markups ReportsForm::LoadedMarkups() {
+  if (bid_.Former()) return bid_.LoadedMarkups();
+  joins_.pricing.LoadMarkups();
+  for (const ReadFailure& failure : kit_.files.ReadFailures()) {
+    if (failure.path == ProjectFolder(kit_.shared).Markups() ||
+        failure.path == DataFolder(kit_.shared).Markups())
+      uncounted_.File(QStringLiteral("the markups as they stand now"), failure.path,
+                      failure.number);
+  }
+  return joins_.pricing.MarkupTexts();
 }
 
 void ReportsForm::TakeNotes(Report& report, bool readsQuantities) {
-  notes_ = std::move(report.notes);
+  notes_.clear();
+  for (const QString& sentence : uncounted_.Sentences()) notes_.push_back({sentence, {}});
+  std::move(report.notes.begin(), report.notes.end(), std::back_inserter(notes_));
   QStringList rows;
   for (const ReportNote& note : notes_) rows += NoteLine(note);
   NotesList.SetRows(rows);
@@ -138,7 +156,7 @@ void ReportsForm::ShowWindow() {
 void ReportsForm::MinimalRecapSheet() {
   Make([this] {
     prList.Clear();
-    const Markups markups = bid_.LoadedMarkups();
+    const Markups markups = LoadedMarkups();
     QString former;
     Fill(tamo::MinimalRecapSheet(Source(), markups, kit_.shared.DTText == QLatin1String("True"),
                                  bid_.Former() ? former : Adjustment));
@@ -147,7 +165,7 @@ void ReportsForm::MinimalRecapSheet() {
 
 void ReportsForm::DetailedRecapSheet() {
   Make([this] {
-    const Markups markups = bid_.LoadedMarkups();
+    const Markups markups = LoadedMarkups();
     Fill(tamo::DetailedRecapSheet(Source(), markups));
   });
 }
@@ -163,7 +181,7 @@ void ReportsForm::BillofMaterial() {
 void ReportsForm::AreaRoomWP() {
   Make([this] {
     if (Flag == QLatin1String("True")) {
-      const Markups markups = bid_.LoadedMarkups();
+      const Markups markups = LoadedMarkups();
       FillCopy(OfficeCopy(Source(), markups));
     } else if (Flag == QLatin1String("False")) {
       Fill(FieldCopy(Source()), true);
@@ -173,7 +191,7 @@ void ReportsForm::AreaRoomWP() {
 
 void ReportsForm::BreakDown() {
   Make([this] {
-    const Markups markups = bid_.LoadedMarkups();
+    const Markups markups = LoadedMarkups();
     QString former;
     const BreakFigures figures = MakeBreak(Source(), markups, bid_.Former() ? former : Adjustment);
     Report report = tamo::BreakDown(figures);

@@ -120,6 +120,8 @@ class ReportsForm : public Form {
   void Clear();
   void ClearNotes();
   ReportSource Source();
+  Markups LoadedMarkups();
+  ListRows WithUncounted(const ListRows& report) const;
   void ShowWindow();
   void RunByTitle();
   void ShowProgress();
@@ -129,11 +131,12 @@ class ReportsForm : public Form {
 
   const Kit kit_;
   Joins joins_;
-  ReportedBid bid_{kit_, joins_.history, joins_.pricing, joins_.record};
+  ReportedBid bid_{kit_, joins_.history, joins_.record};
   std::shared_ptr<const FormerBid> compared_;  // of the last comparison
   bool running_ = false;     // a report is being made: ticks do not count, no other begins
   bool refreshing_ = false;  // the window stays where it is
   std::vector<ReportNote> notes_;
+  Uncounted uncounted_;       // by the report in the window
   std::vector<bool> detail_;  // of Reporter1: the lines that can be ticked
   ProjectProgress progress_;
   double bottomLineSum_ = 0;  // as a breakdown with an adjustment last made it
