@@ -154,8 +154,24 @@ QString History::BringBackDay(const QByteArray& day) {
 QString History::KeepDeletedProject(const QString& project, const QString& name) {
   if (journal_ == nullptr || !NameRefusal(project).isEmpty()) return {};
   const VersionHead head{name, project, name, Now(), VersionHead::Reason::Deleted};
+  NoteBefore(project);
   const int error = KeepDeleted(files_, Folder(), head);
   return error == kNoError ? QString() : ReasonText(error);
+}
+
+// The files of a project go past the journal: what stood in them is noted here, so that its days
+// are known when it comes back.
+void History::NoteBefore(const QString& project) {
+  BidState state;
+  QString problem;
+  ReadBidState(files_.GetDisk(), Folder(), project, state, problem);
+  for (const QString& path : state.files.keys()) {
+    std::shared_ptr<FileReader> former;
+    const QString whole = Folder().Whole(path);
+    if (path.startsWith(FolderOfBid(project)) &&
+        files_.GetDisk().OpenToRead(whole, former) == kNoError)
+      journal_->Replaced(whole, std::move(former));
+  }
 }
 
 std::vector<Version> History::DeletedProjects() const {

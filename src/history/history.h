@@ -70,6 +70,7 @@ class History {
 
  private:
   void Drain();
+  void NoteBefore(const QString& project);
   bool ReadDay(const QByteArray& day, VersionHead& head, BidState& state);
   QString BringBackState(const VersionHead& head, const BidState& state);
 

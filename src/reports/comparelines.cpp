@@ -121,8 +121,9 @@ void CompareLines::Systems(const std::vector<SystemChange>& systems) {
   const QString title = QStringLiteral("Systems: labor and material, before markups");
   lines_ += kTwo + title;
   lines_ += Underlined(title);
-  lines_ += QStringLiteral(
-      "                   Quantity            Unit Price        Amount     Difference");
+  lines_ += GrownLeft(QStringLiteral("Quantity"), 27) +
+            GrownLeft(QStringLiteral("Unit Price"), 20) + GrownLeft(QStringLiteral("Amount"), 14) +
+            GrownLeft(QStringLiteral("Difference"), kDifferenceWidth);
   int same = 0;
   qint64 sum = 0;
   for (const SystemChange& change : systems) {

@@ -43,6 +43,9 @@ VersionsForm::VersionsForm(const Kit& kit, History& history, ReportsForm& report
   DeletedFrame.Hide();
   BindVersions();
   BindDeleted();
+  onActivate = [this] {
+    if (VersionsFrame.Shown() && project_ != kit_.shared.JobID) LoadVersions();
+  };
 }
 
 void VersionsForm::BindVersions() {
@@ -61,8 +64,6 @@ void VersionsForm::BindDeleted() {
 void VersionsForm::ShowFrame(Frame& frame, Form* owner) {
   VersionsFrame.SetShown(&frame == &VersionsFrame);
   DeletedFrame.SetShown(&frame == &DeletedFrame);
-  SetCaption(&frame == &VersionsFrame ? QStringLiteral("Versions of ") + kit_.shared.JobName
-                                      : QStringLiteral("Deleted Projects"));
   StatusText.SetCaption({});
   Show(owner);
 }
@@ -97,6 +98,8 @@ void VersionsForm::DeletedProjects(Form* owner) {
 
 void VersionsForm::LoadVersions() {
   rows_.clear();
+  project_ = kit_.shared.JobID;
+  SetCaption(QStringLiteral("Versions of ") + kit_.shared.JobName);
   QStringList texts;
   for (const Version& version : history_.VersionsOfBid()) {
     rows_.push_back({version, {}});
@@ -110,6 +113,7 @@ void VersionsForm::LoadVersions() {
 }
 
 void VersionsForm::LoadDeleted() {
+  SetCaption(QStringLiteral("Deleted Projects"));
   deleted_ = history_.DeletedProjects();
   QStringList texts;
   for (const Version& version : deleted_)

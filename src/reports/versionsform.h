@@ -60,6 +60,7 @@ class VersionsForm : public Form {
   History& history_;
   ReportsForm& reports_;
   BidChanger& bid_;
+  QString project_;  // whose versions are listed
   std::vector<Row> rows_;
   std::vector<Version> deleted_;
 };

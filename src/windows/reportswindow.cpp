@@ -41,10 +41,14 @@ QWidget* Figures(Builder& b) {
 
 // Which state of the bid the report shows; empty for the one that stands.
 QLayout* VersionStrip(Builder& b) {
-  auto* strip = new QHBoxLayout;
-  strip->addWidget(b.Text("VersionLabel"), 1);
-  strip->addWidget(b.PushButton("KeepPrinted"));
-  strip->addWidget(b.PushButton("BackToNow"));
+  QHBoxLayout* strip = NewRow();
+  QLabel* which = b.Text("VersionLabel");
+  QFont heavy = which->font();
+  heavy.setBold(true);
+  which->setFont(heavy);
+  strip->addWidget(which, 1);
+  strip->addWidget(b.PushButton("KeepPrinted"), 0, Qt::AlignRight);
+  strip->addWidget(b.PushButton("BackToNow"), 0, Qt::AlignRight);
   return strip;
 }
 

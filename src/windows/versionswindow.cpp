@@ -6,10 +6,8 @@ namespace tamo {
 namespace {
 
 QWidget* Versions(Builder& b) {
-  QFrame* panel = b.Panel("VersionsFrame");
-  auto* column = new QVBoxLayout(panel);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGrid);
+  QWidget* panel = b.Group("VersionsFrame");
+  QVBoxLayout* column = ColumnIn(panel);
   FieldColumn fields(*column);
   fields.Add(FixedCaption(QStringLiteral("Keep This Version:")),
              b.Field("VersionName", 0, QStringLiteral("Name of the version to keep")),
@@ -17,7 +15,7 @@ QWidget* Versions(Builder& b) {
   column->addWidget(Section(QStringLiteral("Versions and days of this bid")));
   column->addWidget(b.List("VersionsList", QStringLiteral("Versions and days of this bid"), 60, 12),
                     1);
-  auto* buttons = new QHBoxLayout;
+  QHBoxLayout* buttons = NewRow();
   for (const char* name : {"LookAtVersion", "CompareVersion", "BringBackVersion"})
     buttons->addWidget(b.PushButton(name));
   buttons->addStretch(1);
@@ -26,13 +24,11 @@ QWidget* Versions(Builder& b) {
 }
 
 QWidget* Deleted(Builder& b) {
-  QFrame* panel = b.Panel("DeletedFrame");
-  auto* column = new QVBoxLayout(panel);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(kGrid);
+  QWidget* panel = b.Group("DeletedFrame");
+  QVBoxLayout* column = ColumnIn(panel);
   column->addWidget(Section(QStringLiteral("Projects deleted within the last thirty days")));
   column->addWidget(b.List("DeletedList", QStringLiteral("Deleted projects"), 60, 12), 1);
-  auto* buttons = new QHBoxLayout;
+  QHBoxLayout* buttons = NewRow();
   buttons->addWidget(b.PushButton("BringBackProject"));
   buttons->addStretch(1);
   column->addLayout(buttons);

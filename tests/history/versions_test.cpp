@@ -190,6 +190,28 @@ TEST(Versions, ADeletedProjectComesBackWithItsPlans) {
   EXPECT_EQ(entries, QStringList{"12-2611001   Larkspur"});
 }
 
+TEST(Versions, TheDaysBeforeADeletionAreKnownBehindIt) {
+  HistoryRoom room;
+  History history(room.platform, room.files, room.shared);
+  room.files.SaveText(room.Bid("Rooms/A.rfs"), "9\r\nfirst\r\n");
+  room.clock.today = room.clock.today.addDays(1);
+  const QByteArray second = room.clock.today.toString(Qt::ISODate).toLatin1();
+  room.files.SaveText(room.Bid("Rooms/B.rfs"), "9\r\nsecond\r\n");
+  const Contents before = room.Everything();
+  room.clock.today = room.clock.today.addDays(1);
+  const QByteArray third = room.clock.today.toString(Qt::ISODate).toLatin1();
+  WriteProjectList(room.files, room.shared, {});
+  history.KeepDeletedProject(room.shared.JobID, "Larkspur");
+  DeleteProjectFiles(room.files, room.shared, room.shared.JobID);
+  room.clock.today = room.clock.today.addDays(1);
+  ASSERT_EQ(history.BringBackDeletedProject(history.DeletedProjects().at(0)), "");
+  ASSERT_EQ(history.BringBackDay(second), "");
+  EXPECT_EQ(room.Everything().keys(), QStringList{"Rooms/A.rfs"});
+  ASSERT_EQ(history.BringBackVersion(history.VersionsOfBid().front()), "");
+  ASSERT_EQ(history.BringBackDay(third), "");
+  EXPECT_EQ(room.Everything(), before);
+}
+
 TEST(Versions, ADeletedProjectStaysThirtyDays) {
   HistoryRoom room;
   History history(room.platform, room.files, room.shared);
