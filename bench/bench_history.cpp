@@ -85,8 +85,8 @@ void CompareLargeBids(benchmark::State& state) {
     tamo::ReadVersion(disk, path, found, former);
     const tamo::FormerBid version(folder, found, former);
     const tamo::ReportSource source{version.GetFiles(), now.project, {}, false};
-    const tamo::Report report =
-        Compare({source, markups, version.Words()}, {now, markups, {}}, QStringLiteral("Large"));
+    const tamo::Report report = tamo::Compare({source, markups, version.Words()},
+                                              {now, markups, {}}, QStringLiteral("Large"));
     benchmark::DoNotOptimize(report.lines.size());
   }
 }
