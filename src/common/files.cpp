@@ -1,6 +1,8 @@
 #include "common/files.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 #include "common/failure.h"
 #include "common/paths.h"
@@ -8,6 +10,24 @@
 #include "common/textlines.h"
 
 namespace tamo {
+namespace {
+
+// What stood in a file that is gone.
+class BytesReader : public FileReader {
+ public:
+  explicit BytesReader(QByteArray bytes) : bytes_(std::move(bytes)) {}
+  qint64 Size() const override { return bytes_.size(); }
+  int ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const override {
+    got = std::clamp<qint64>(bytes_.size() - offset, 0, count);
+    std::copy_n(bytes_.constData() + offset, got, into);
+    return kNoError;
+  }
+
+ private:
+  QByteArray bytes_;
+};
+
+}  // namespace
 
 QString Files::Resolved(const QString& path) {
   if (disk_.Exists(path)) return path;
@@ -23,10 +43,14 @@ int Files::ReadText(const QString& path, QString& text) {
       return kNoError;
     }
   }
+  const FileStamp stamp = disk_.Stamp(path);
   const int error = Noted(path, ReadAnyCase(path, text));
   if (error == kNoError) {
     book_.Read(path, text);
-  } else if (!IsMissing(error)) {
+    book_.Saw(path, stamp);
+  } else if (IsMissing(error)) {
+    book_.NotThere(path);
+  } else {
     text = book_.LastText(path);
   }
   return error;
@@ -114,18 +138,19 @@ int Files::ReadFields(const QString& path, QStringList& fields) {
   return error;
 }
 
-int Files::SaveLines(const QString& path, const QStringList& lines, FileKind kind) {
-  return SaveText(path, JoinedLines(lines), kind);
+int Files::SaveLines(const QString& path, const QStringList& lines, FileKind kind,
+                     const QString& base) {
+  return SaveText(path, JoinedLines(lines), kind, base);
 }
 
-int Files::SaveText(const QString& path, const QString& text, FileKind kind) {
+int Files::SaveText(const QString& path, const QString& text, FileKind kind, const QString& base) {
   if (mayWrite && !mayWrite(path)) return kNoAccess;
   if (!pending_.empty() || !book_.Failures().empty()) RetryPending(path);
-  Pending save{path, text, kNoError, {}, kind};
+  Pending save{path, text, kNoError, {}, kind, false, base};
   save.text.remove(QChar(u'\0'));  // no text that can be read again holds one
-  const int error = Store(save);
+  const int error = Store(save, true);
   Pending* known = FindPending(path);
-  if (error != kNoError) {
+  if (error != kNoError && error != kTheirsTaken) {
     if (known != nullptr) {
       *known = std::move(save);
     } else {
@@ -141,62 +166,141 @@ int Files::SaveText(const QString& path, const QString& text, FileKind kind) {
 
 int Files::ReplaceFile(const QString& path, const QByteArray& bytes) {
   if (mayWrite && !mayWrite(path)) return kNoAccess;
-  const int error = ReplaceInItsFolder(path, bytes);
+  Text made;
+  made.bytes = bytes.isNull() ? QByteArray("") : bytes;
+  const int error = ReplaceInItsFolder(path, made);
   book_.Forget(path);
   return error;
 }
 
-// The old file is opened before it loses its name; it is read later, and not here.
-int Files::ReplaceWitnessed(const QString& path, const QByteArray& bytes) {
-  if (witness == nullptr) return Replace(path, bytes);
-  QString target = path;
-  std::shared_ptr<FileReader> former;
-  if (disk_.OpenToRead(target, former) != kNoError) {
-    target = Resolved(path);
-    if (target != path) disk_.OpenToRead(target, former);
+// Writes it, together with what the file holds beyond what the program knows of it.
+int Files::Store(Pending& save, bool mayAsk) {
+  constexpr int kMostRounds = 20;
+  for (int round = 0; round < kMostRounds; ++round) {
+    Text made;
+    save.reason = TextToStore(save, mayAsk, made);
+    save.held = save.reason != kNoError;
+    if (save.held) return save.reason;
+    save.reason = ReplaceInItsFolder(save.path, made);
+    if (!made.displaced.isNull()) save.reason = TakeIn(save, save.reason, made);
+    if (save.reason == kFileExists) continue;  // another program was quicker
+    if (save.reason != kNoError && save.reason != kNotConfirmed) return save.reason;
+    book_.Stored(save.path, save.text, made.text != save.text);
+    book_.Saw(save.path, disk_.Stamp(save.path));
+    return save.reason;
   }
-  int error = Replace(target, bytes);
-  while (error == kDiskFull && witness->MakeRoom()) error = Replace(target, bytes);
-  if (error == kNoError || error == kNotConfirmed) witness->Replaced(target, std::move(former));
-  return error;
+  return save.reason;
 }
 
-// Writes it, together with what the file holds beyond what the program knows of it.
-int Files::Store(Pending& save) {
-  QString text;
-  save.reason = TextToStore(save, text);
-  save.held = save.reason != kNoError;
-  if (save.held) return save.reason;
-  save.reason = ReplaceInItsFolder(save.path, text.toUtf8());
-  if (save.reason == kNoError || save.reason == kNotConfirmed)
-    book_.Stored(save.path, save.text, text != save.text);
-  return save.reason;
+// Another program stored its text between our look and our save, and ours stands in its place: what
+// it holds is merged into ours, until nobody was between. They may have begun with a text that was
+// out of its place just then, so that a name that is missing there was not taken out by anybody.
+// What can't be merged is put back, and looked at like anything that was there before. 58: the save
+// has to be made once more.
+int Files::TakeIn(Pending& save, int reason, Text& made) {
+  while (!made.displaced.isNull()) {
+    Text whole{{}, made.text, {}};
+    const bool names = save.kind == FileKind::List || save.kind == FileKind::Pairs;
+    const QString base = names ? QString() : made.expected;
+    if (!MergeTexts(save.kind, base, made.text, made.displaced, whole.text)) {
+      whole.text = made.displaced;
+      Replace(save.path, whole);
+      book_.SetApart(save.path);
+      return kFileExists;
+    }
+    if (whole.text == made.text) return reason;
+    reason = Replace(save.path, whole);
+    made = whole;
+    if (reason != kNoError && reason != kNotConfirmed) {
+      save.text = whole.text;  // theirs waits together with ours
+      return reason;
+    }
+  }
+  return reason;
+}
+
+// The text of the save was made from an earlier one than the program has read since.
+bool Files::IsOlder(const Pending& save) const {
+  return !save.base.isNull() && book_.HadAnothersText(save.path) &&
+         save.base != book_.LastText(save.path);
+}
+
+// The file may hold something else than what the text of the save was made from.
+bool Files::MustLook(const Pending& save) const {
+  const QString& path = save.path;
+  const FileStamp stamp = disk_.Stamp(path);
+  if (!stamp.Known() && !disk_.Exists(path))
+    return book_.Seen(path) || book_.Apart(path) || !disk_.Exists(FolderOf(path));
+  return book_.WasAbsent(path) || book_.Apart(path) || book_.MayBeChanged(path, stamp) ||
+         IsOlder(save);
 }
 
 // The text of a save, merged with the file's where that is not what the program last had of it. An
 // error number when the file must not be written over.
-int Files::TextToStore(const Pending& save, QString& text) {
-  text = save.text;
+int Files::TextToStore(const Pending& save, bool mayAsk, Text& made) {
   const QString& path = save.path;
-  const bool mayBeGone = !disk_.Exists(path) && (book_.Seen(path) || !disk_.Exists(FolderOf(path)));
-  if (!mayBeGone && !book_.Apart(path)) return kNoError;
+  made.text = save.text;
+  if (book_.HasLastText(path)) made.Expect(book_.LastText(path));
+  if (!MustLook(save)) return kNoError;
   QString theirs;
   const int error = Noted(path, ReadAnyCase(path, theirs));
   if (IsMissing(error)) return kNoError;
   if (error != kNoError) return error;
-  return MergeTexts(save.kind, book_.LastText(path), save.text, theirs, text) ? kNoError
-                                                                              : kChangedMeanwhile;
+  made.Expect(theirs);
+  const bool older = IsOlder(save);
+  if (!older && book_.IsLastText(path, theirs)) return kNoError;
+  if (MergeTexts(save.kind, older ? save.base : book_.LastText(path), save.text, theirs, made.text))
+    return kNoError;
+  made.text = save.text;
+  return mayAsk && keepMine ? Chosen(save, theirs) : kChangedMeanwhile;
 }
 
-int Files::Replace(const QString& path, const QByteArray& bytes) {
+// Two texts that can't be merged: the estimator says which one stays.
+int Files::Chosen(const Pending& save, const QString& theirs) {
+  if (keepMine(save.path, save.text, theirs)) return kNoError;
+  book_.SetApart(save.path);
+  return kTheirsTaken;
+}
+
+int Files::Replace(const QString& path, Text& made) {
   const QString target = Resolved(path);
   names_.Forget();
   memory_.Forget(target);
   if (disk_.Exists(target) && !disk_.CanWrite(target)) return kNoAccess;
   if (disk_.IsFolder(target)) return kNoAccess;
+  int error = ReplaceOnce(target, made);
+  while (error == kDiskFull && witness != nullptr && witness->MakeRoom())
+    error = ReplaceOnce(target, made);
+  return error;
+}
+
+int Files::ReplaceOnce(const QString& target, Text& made) {
   Replacement fresh(disk_, target);
-  const int error = fresh.Begin();
-  return error != kNoError ? error : fresh.Finish(disk_.Write(fresh.Handle(), bytes));
+  int error = fresh.Begin();
+  if (error != kNoError) return error;
+  error = disk_.Write(fresh.Handle(), made.bytes.isNull() ? made.text.toUtf8() : made.bytes);
+  if (!disk_.Exists(target)) return Witnessed(fresh.FinishNew(error), target, nullptr);
+  // The old file is opened before it loses its name; it is read later, and not here.
+  std::shared_ptr<FileReader> former;
+  if (witness != nullptr) disk_.OpenToRead(target, former);
+  if (made.expected.isNull()) return Witnessed(fresh.Finish(error), target, std::move(former));
+  QByteArray displaced;
+  error = fresh.FinishSwapped(error, displaced);
+  // What was really displaced, should another program have stored the file just then.
+  if (!displaced.isNull() && displaced != made.expected.toUtf8())
+    former = std::make_shared<BytesReader>(displaced);
+  Witnessed(error, target, std::move(former));
+  if (displaced.isNull() || displaced == made.expected.toUtf8()) return error;
+  const QString held = DecodedText(displaced);
+  if (held != made.expected) made.displaced = held.isNull() ? QLatin1String("") : held;
+  return error;
+}
+
+// Tells the witness when the file was replaced.
+int Files::Witnessed(int error, const QString& target, std::shared_ptr<FileReader> former) const {
+  if (witness != nullptr && (error == kNoError || error == kNotConfirmed))
+    witness->Replaced(target, std::move(former));
+  return error;
 }
 
 bool Files::Exists(const QString& path) {
@@ -250,11 +354,11 @@ void Files::MakeFolders(const QString& path) {
 
 // A folder that could not be made when it was asked for is made now; why it still can't be is the
 // reason of the failed save.
-int Files::ReplaceInItsFolder(const QString& path, const QByteArray& bytes) {
-  const int error = ReplaceWitnessed(path, bytes);
+int Files::ReplaceInItsFolder(const QString& path, Text& made) {
+  const int error = Replace(path, made);
   if (error != kPathNotFound || missingFolders_.isEmpty()) return error;
   const int folders = MakeMissingFolders();
-  const int again = ReplaceWitnessed(path, bytes);
+  const int again = Replace(path, made);
   return again == kPathNotFound && folders != kNoError ? folders : again;
 }
 
