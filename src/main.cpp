@@ -85,6 +85,7 @@ int main(int argc, char** argv) {
   tamo::ApplyLook(tamo::Look::Of(QApplication::palette()));
 
   tamo::RealDisk disk;
+  tamo::RealDisk historyDisk;
   tamo::SystemClock clock;
   tamo::BoxMessages messages;
   tamo::ReportPrinter printer;
@@ -95,7 +96,7 @@ int main(int argc, char** argv) {
   const tamo::Platform platform{
       disk,         clock,     messages,
       printer,      clipboard, tamo::FindProgramFolder(QCoreApplication::applicationDirPath()),
-      HomeFolder(), config};
+      HomeFolder(), config,    &historyDisk};
   ShowIconLater(platform);
 
   tamo::Files planFiles(disk);

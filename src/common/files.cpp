@@ -8,7 +8,6 @@
 #include "common/textlines.h"
 
 namespace tamo {
-
 QString Files::Resolved(const QString& path) {
   if (disk_.Exists(path)) return path;
   const QString other = names_.OtherCase(disk_, path);
@@ -233,26 +232,6 @@ int Files::Chosen(const Pending& save, const QString& theirs) {
   return kTheirsTaken;
 }
 
-int Files::Replace(const QString& path, Text& made) {
-  const QString target = Resolved(path);
-  names_.Forget();
-  memory_.Forget(target);
-  if (disk_.Exists(target) && !disk_.CanWrite(target)) return kNoAccess;
-  if (disk_.IsFolder(target)) return kNoAccess;
-  Replacement fresh(disk_, target);
-  int error = fresh.Begin();
-  if (error != kNoError) return error;
-  error = disk_.Write(fresh.Handle(), made.text.toUtf8());
-  if (!disk_.Exists(target)) return fresh.FinishNew(error);
-  if (made.expected.isNull()) return fresh.Finish(error);
-  QByteArray displaced;
-  error = fresh.FinishSwapped(error, displaced);
-  if (displaced.isNull() || displaced == made.expected.toUtf8()) return error;
-  const QString held = DecodedText(displaced);
-  if (held != made.expected) made.displaced = held.isNull() ? QLatin1String("") : held;
-  return error;
-}
-
 bool Files::Exists(const QString& path) {
   return FindPendingText(path) != nullptr || disk_.Exists(Resolved(path));
 }
@@ -260,8 +239,12 @@ bool Files::Exists(const QString& path) {
 int Files::Remove(const QString& path) {
   if (mayWrite && !mayWrite(path)) return kNoAccess;
   StopTrying(path);
-  const int error = disk_.RemoveFile(Resolved(path));
+  const QString target = Resolved(path);
+  std::shared_ptr<FileReader> former;
+  if (witness != nullptr) disk_.OpenToRead(target, former);
+  const int error = disk_.RemoveFile(target);
   names_.Forget();
+  if (error == kNoError && former != nullptr) witness->Replaced(target, std::move(former));
   if (error == kNoError || IsMissing(error)) book_.Forget(path);
   return error;
 }

@@ -8,6 +8,7 @@ Menus::Menus(const Kit& kit, Shell& shell, const Forms& forms)
   BindProjectFromOst();
   BindWork();
   BindReports();
+  BindVersions();
   BindShell();
 }
 
@@ -84,6 +85,19 @@ void Menus::BindWork() {
          [this] { forms_.bottomLine.BottomLineItems(&forms_.ost); });
   OnBoth(forms_.main.menu.PriceAdjustment, "PriceAdjustment", Guard::ProjectThenLock,
          [this] { forms_.adjustment.PriceAdjustment(&forms_.ost); });
+}
+
+void Menus::BindVersions() {
+  OnBoth(forms_.main.menu.KeepVersion, "KeepVersion", Guard::Project,
+         [this] { forms_.versions.KeepThisVersion(&shell_.ShellForm()); });
+  OnBoth(forms_.main.menu.Versions, "Versions", Guard::Project,
+         [this] { forms_.versions.Versions(&shell_.ShellForm()); });
+  OnBoth(forms_.main.menu.DeletedProjects, "DeletedProjects", Guard::None,
+         [this] { forms_.versions.DeletedProjects(&shell_.ShellForm()); });
+  OnBoth(forms_.main.menu.WhatChanged, "WhatChanged", Guard::Project, [this] {
+    forms_.reports.menu.MakeProjectFile.Hide();
+    forms_.reports.WhatChanged();
+  });
 }
 
 void Menus::BindReports() {

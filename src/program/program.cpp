@@ -2,6 +2,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "history/history.h"
 #include "program/changedquestion.h"
 #include "program/followers.h"
 #include "program/menus.h"
@@ -11,6 +12,7 @@
 #include "program/recovery.h"
 #include "program/reportadapters.h"
 #include "program/takeoffadapters.h"
+#include "program/versionadapters.h"
 #include "schedule/scheduleform.h"
 #include "workspace/form11.h"
 
@@ -35,10 +37,12 @@ struct Program::Parts {
   Files files{platform.disk};
   SharedFields shared = FirstFields(platform);
   const Kit kit{desk, files, shared, platform};
+  History history{platform, files, shared};
 
   Shell shell{kit, main, settings, ost};
-  FollowersOnForms followers{
-      pricing, adjustment, reports, ost, {&pricing, &rooms, &areas, &bottomLine, &adjustment}};
+  FollowersOnForms followers{pricing, adjustment,
+                             reports, ost,
+                             history, {&pricing, &rooms, &areas, &bottomLine, &adjustment}};
   ReportFollows reportFollows{reports};
   StartOfPricing startOfPricing{settings, main};
   PricingOnForm pricingOnForm{pricing, ost};
@@ -48,6 +52,7 @@ struct Program::Parts {
   TakeoffExitsOnForms takeoffExits{shell, main, ost};
   TakeoffFieldsOnForms takeoffFields{rooms, areas};
   ProjectRecordOnTamo projectRecord{main};
+  BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
 
   Form11 form11{kit};
   SettingsForm settings{kit, shell};
@@ -58,13 +63,15 @@ struct Program::Parts {
   EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
   BottomLine bottomLine{kit, reportFollows};
   AdjustmentForm adjustment{kit, reportFollows};
-  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost}};
+  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history}};
+  VersionsForm versions{kit, history, reports, bidChanger};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
   ReadAgain readAgain{kit, {main, ost, pricing, rooms, areas, bottomLine, reports}};
   Menus menus{kit,
               shell,
-              {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs}};
+              {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs,
+               versions}};
   Recovery recovery{kit, {shell, settings, main, bottomLine}};
 };
 
@@ -102,6 +109,7 @@ void Program::Start() {
   parts_->desk.Dispatch([this] {
     parts_->ost.Load();
     parts_->main.Init();
+    parts_->history.Finish();
     parts_->recovery.Begin();
   });
 }

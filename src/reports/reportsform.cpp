@@ -44,8 +44,9 @@ void ReportsForm::PrepareControls() {
     field->PutInto(Frame1);
     field->readOnly = true;
   }
-  for (Control* control : std::initializer_list<Control*>{&Reporter, &Reporter1, &prList,
-                                                          &NotesList, &WholeQuantities, &Frame1})
+  for (Control* control :
+       std::initializer_list<Control*>{&Reporter, &Reporter1, &prList, &NotesList, &WholeQuantities,
+                                       &Frame1, &VersionLabel, &BackToNow, &KeepPrinted})
     control->Hide();
   prList.inTabOrder = false;
 }
@@ -54,6 +55,7 @@ void ReportsForm::BindControls() {
   Reporter1.onTick = [this](int row) { Ticked(row); };
   NotesList.onSelect = [this] { NotePicked(); };
   WholeQuantities.onChange = [this] { WholeQuantitiesChanged(); };
+  BindVersions();
 }
 
 void ReportsForm::Clear() {
@@ -69,6 +71,8 @@ void ReportsForm::Clear() {
 void ReportsForm::ClearNotes() {
   NotesList.Hide();
   WholeQuantities.Hide();
+  KeepPrinted.Hide();
+  if (!bid_.Former()) VersionLabel.Hide();
   NotesList.Clear();
   notes_.clear();
   uncounted_ = {};
@@ -102,10 +106,11 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files, kit_.shared, onProgress, joins_.settings.WholeQuantities(), &uncounted_};
+  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(), &uncounted_};
 }
 
 Markups ReportsForm::LoadedMarkups() {
+  if (bid_.Former()) return bid_.LoadedMarkups();
   joins_.pricing.LoadMarkups();
   for (const ReadFailure& failure : kit_.files.ReadFailures()) {
     if (failure.path == ProjectFolder(kit_.shared).Markups() ||
@@ -161,8 +166,9 @@ void ReportsForm::MinimalRecapSheet() {
   Make([this] {
     prList.Clear();
     const Markups markups = LoadedMarkups();
+    QString former;
     Fill(tamo::MinimalRecapSheet(Source(), markups, kit_.shared.DTText == QLatin1String("True"),
-                                 Adjustment));
+                                 bid_.Former() ? former : Adjustment));
   });
 }
 
@@ -199,12 +205,15 @@ void ReportsForm::AreaRoomWP() {
 void ReportsForm::BreakDown() {
   Make([this] {
     const Markups markups = LoadedMarkups();
-    const BreakFigures figures = MakeBreak(Source(), markups, Adjustment);
+    QString former;
+    const BreakFigures figures = MakeBreak(Source(), markups, bid_.Former() ? former : Adjustment);
     Report report = tamo::BreakDown(figures);
     // The sum is made only when the items are listed behind an adjustment; otherwise the field
     // shows the sum made before. A test holds it.
-    if (figures.bottomLineListed) bottomLineSum_ = figures.roll.rawBottomLine;
-    joins_.pricing.TotalBL = NumberText(bottomLineSum_);
+    if (!bid_.Former()) {
+      if (figures.bottomLineListed) bottomLineSum_ = figures.roll.rawBottomLine;
+      joins_.pricing.TotalBL = NumberText(bottomLineSum_);
+    }
     ShowWindow();
     Fill(std::move(report));
   });
@@ -213,7 +222,7 @@ void ReportsForm::BreakDown() {
 void ReportsForm::ProjectInformation() {
   Make([this] {
     ShowWindow();
-    Fill(tamo::ProjectInformation(kit_.shared.JobID, joins_.record.Facts()));
+    Fill(tamo::ProjectInformation(kit_.shared.JobID, bid_.Facts()));
   });
 }
 

@@ -98,6 +98,21 @@ FormWindow& WindowKeeper::WindowOf(const Form& form) {
   return *window;
 }
 
+namespace {
+
+// The entry of the shell that carries the menus.
+void ChooseWhatChanged(Program& program) {
+  for (const char* shell : {"Tamo", "OST"}) {
+    Form* form = program.FindForm(QLatin1String(shell));
+    MenuEntry* entry = form == nullptr ? nullptr : form->FindMenu(QStringLiteral("WhatChanged"));
+    if (entry == nullptr || !entry->Choosable()) continue;
+    program.GetDesk().ChooseMenu(*entry);
+    return;
+  }
+}
+
+}  // namespace
+
 std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
   auto window = std::make_unique<FormWindow>(form, *parts_->display);
   if (!form.Controls().empty()) {
@@ -107,6 +122,8 @@ std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
   window->Notice().onClick = [this] { parts_->program.TrySavesAgain(); };
   auto* help = new QShortcut(QKeySequence(Qt::Key_F1), window.get());
   connect(help, &QShortcut::activated, this, [this, &form] { ShowHelp(parts_->program, form); });
+  auto* changed = new QShortcut(QKeySequence(Qt::Key_F8), window.get());
+  connect(changed, &QShortcut::activated, this, [this] { ChooseWhatChanged(parts_->program); });
   return window;
 }
 

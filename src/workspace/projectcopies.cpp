@@ -75,6 +75,7 @@ void ProjectCopies::DeleteProject() {
         QStringLiteral("The folder %1 can't be reached. Nothing was deleted.").arg(folder));
     return;
   }
+  near_.followers.KeepDeleted(id, name);
   const QStringList left = DeleteProjectFiles(kit_.files, kit_.shared, id);
   // What is left of it can be opened, and deleted once more.
   const bool stays = HoldsProjectFiles(kit_.files, kit_.shared, id);

@@ -15,8 +15,9 @@
 namespace tamo {
 namespace {
 
-const char* const kForms[] = {"Tamo",       "Settings",       "Pricing", "RFSForm", "EstimateForm",
-                              "BottomLine", "AdjustmentForm", "OST",     "Reports", "Docs"};
+const char* const kForms[] = {"Tamo",         "Settings",   "Pricing",        "RFSForm",
+                              "EstimateForm", "BottomLine", "AdjustmentForm", "OST",
+                              "Reports",      "Docs",       "Versions"};
 
 struct KeeperTest : testing::Test, test::KeeperRoom {};
 
@@ -121,6 +122,15 @@ TEST_F(KeeperTest, F1ShowsTheTopicOfTheFormInFront) {
   EXPECT_TRUE(FormOf("Docs").Visible());
   const auto& topics = dynamic_cast<OrderedList&>(*FormOf("Docs").Find(QStringLiteral("MenuList")));
   EXPECT_EQ(topics.Selected(), QStringLiteral("Settings"));
+}
+
+TEST_F(KeeperTest, F8ComparesTheBidFromEveryWindow) {
+  Menu("Tamo", "Settings1");
+  program.Shared().JobID = QStringLiteral("12-2611001");
+  test::Press(Window("Settings"), Qt::Key_F8);
+  test::Settle();
+  ASSERT_FALSE(messages.texts.isEmpty());
+  EXPECT_TRUE(messages.texts.back().startsWith(QStringLiteral("No version of this bid was kept")));
 }
 
 TEST_F(KeeperTest, ThePlaceOfAWindowIsRemembered) {
