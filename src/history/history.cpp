@@ -198,8 +198,9 @@ QString History::BringBackDeletedProject(const Version& deleted) {
   if (error != kNoError)
     return QStringLiteral("Project %1 can't be brought back, because %2.")
         .arg(deleted.head.project, ReasonText(error));
+  const QStringList before = entries;
   entries += ProjectEntry(deleted.head.project, deleted.head.projectName);
-  WriteProjectList(files_, shared_, entries);
+  WriteProjectList(files_, shared_, entries, before);
   return {};
 }
 

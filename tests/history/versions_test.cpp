@@ -176,7 +176,7 @@ TEST(Versions, ADeletedProjectComesBackWithItsPlans) {
   std::mt19937 random(15);
   for (int i = 0; i < 60; ++i) room.Edit(random);
   room.files.SaveText(room.Bid("Plans/First-Marked.pdf"), "%PDF");
-  WriteProjectList(room.files, room.shared, {});
+  WriteProjectList(room.files, room.shared, {}, {});
   const Contents before = room.Everything();
   ASSERT_EQ(history.KeepDeletedProject(room.shared.JobID, "Larkspur"), "");
   EXPECT_TRUE(DeleteProjectFiles(room.files, room.shared, room.shared.JobID).isEmpty());
@@ -200,7 +200,7 @@ TEST(Versions, TheDaysBeforeADeletionAreKnownBehindIt) {
   const Contents before = room.Everything();
   room.clock.today = room.clock.today.addDays(1);
   const QByteArray third = room.clock.today.toString(Qt::ISODate).toLatin1();
-  WriteProjectList(room.files, room.shared, {});
+  WriteProjectList(room.files, room.shared, {}, {});
   history.KeepDeletedProject(room.shared.JobID, "Larkspur");
   DeleteProjectFiles(room.files, room.shared, room.shared.JobID);
   room.clock.today = room.clock.today.addDays(1);
