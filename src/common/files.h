@@ -142,16 +142,24 @@ class Files {
   void Sweep(const QString& folder);
 
  private:
+  // What is to be written, and what the file is taken to hold then; null: nothing is known of it.
+  struct Text {
+    QString text;
+    QString expected;
+    QString displaced;  // what it held instead; null when that was right, or can't be told
+    void Expect(const QString& held) { expected = held.isNull() ? QLatin1String("") : held; }
+  };
   bool IsOlder(const Pending& save) const;
   int ReadAnyCase(const QString& path, QString& text, bool missing = false);
   int GoneOrMissing(const QString& path, int error) const;
   int Noted(const QString& path, int error);
   int Store(Pending& save, bool mayAsk);
   bool MustLook(const Pending& save) const;
-  int TextToStore(const Pending& save, bool mayAsk, QString& text);
+  int TakeIn(Pending& save, int reason, Text& made);
+  int TextToStore(const Pending& save, bool mayAsk, Text& made);
   int Chosen(const Pending& save, const QString& theirs);
-  int Replace(const QString& path, const QByteArray& bytes);
-  int ReplaceInItsFolder(const QString& path, const QByteArray& bytes);
+  int Replace(const QString& path, Text& made);
+  int ReplaceInItsFolder(const QString& path, Text& made);
   int MakeMissingFolders();
   void MakeLasting(const QString& folder);
   void RetryPending(const QString& except);
