@@ -16,7 +16,8 @@
 #include "windows/reportprinter.h"
 #include "windows/windowkeeper.h"
 
-// Starts the toolkit, the program and its windows. A plan that is named on the command line is opened.
+// Starts the toolkit, the program and its windows. A plan that is named on the command line is
+// opened.
 
 namespace {
 
@@ -43,9 +44,8 @@ QString ConfigFolder() {
 
 // Behind the first window: the readers of pictures take their time to load.
 void ShowIconLater(const tamo::Platform& platform) {
-  QTimer::singleShot(0, [&platform] {
-    QApplication::setWindowIcon(tamo::ProgramIcon(platform.programFolder));
-  });
+  QTimer::singleShot(
+      0, [&platform] { QApplication::setWindowIcon(tamo::ProgramIcon(platform.programFolder)); });
 }
 
 // The user logs out, or the machine is switched off.
