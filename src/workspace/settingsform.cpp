@@ -145,10 +145,11 @@ void SettingsForm::SaveSettings() {
   stored_ = Fields();
 }
 
+// A number that was only filled in is no entry.
 SettingsForm::Values SettingsForm::Fields() const {
-  Values values;
-  for (const TextField* field :
-       {&EstimatorNumber, &EstimatorName, &CompanyName, &Telephone, &DataPath})
+  const QString number = EstimatorNumber.Text();
+  Values values{{EstimatorNumber.Name(), number.isEmpty() ? QStringLiteral("00") : number}};
+  for (const TextField* field : {&EstimatorName, &CompanyName, &Telephone, &DataPath})
     values += {field->Name(), field->Text()};
   values += {QStringLiteral("LineColor"), lineColor_};
   values += {HScroll1.Name(), QString::number(Line1.Width())};

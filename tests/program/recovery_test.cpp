@@ -81,6 +81,17 @@ TEST_F(RecoveryTest, NothingIsKeptWhereNothingWaits) {
   EXPECT_TRUE(Kept().isEmpty());
 }
 
+TEST_F(RecoveryTest, ANumberThatWasOnlyFilledInDoesNotWait) {
+  Crash();
+  disk.RemoveFile(Path("program/Settings.tamo"));
+  Begin();
+  Run("Tamo", "Settings1");
+  program->GetDesk().UserFocus(Field("Settings", "EstimatorNumber"));
+  program->GetDesk().UserFocus(Field("Settings", "EstimatorName"));
+  EXPECT_EQ(Field("Settings", "EstimatorNumber").Text(), "00");
+  EXPECT_TRUE(Kept().isEmpty());
+}
+
 TEST_F(RecoveryTest, BottomLineItemsComeBackWhenTheirProjectIsOpened) {
   MakeProject();
   EnterItem();
