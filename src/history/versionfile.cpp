@@ -60,8 +60,11 @@ std::vector<Version> VersionsIn(Disk& disk, const QString& folder) {
     Version version{{}, folder + name};
     if (ReadVersionHead(text, version.head)) versions.push_back(std::move(version));
   }
-  std::stable_sort(versions.begin(), versions.end(),
-                   [](const Version& a, const Version& b) { return a.head.when > b.head.when; });
+  // Of two of one moment the later one has the longer name, or the higher number in it.
+  std::sort(versions.begin(), versions.end(), [](const Version& a, const Version& b) {
+    if (a.head.when != b.head.when) return a.head.when > b.head.when;
+    return a.path.size() != b.path.size() ? a.path.size() > b.path.size() : a.path > b.path;
+  });
   return versions;
 }
 
