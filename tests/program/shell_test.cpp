@@ -79,9 +79,10 @@ TEST_F(ShellTest, TheMenusStandInTheirOrder) {
   QStringList reports;
   for (const MenuEntry* entry : Main().FindMenu(QStringLiteral("Reports1"))->Children())
     reports += entry->Caption();
-  EXPECT_EQ(reports, QStringList({"Pr&oject Information", "&Quantities", "&Recap", "&BreakDown",
-                                  "Bill of &Labor", "Bill of &Material", "&Project Manager",
-                                  "Propo&sal", "&What Changed Since the Bid Was Sent (F8)"}));
+  EXPECT_EQ(reports,
+            QStringList({"Pr&oject Information", "&Quantities", "&Recap", "&BreakDown",
+                         "Bill of &Labor", "Bill of &Material", "&Project Manager", "Propo&sal",
+                         "Schedule &Check", "&What Changed Since the Bid Was Sent (F8)"}));
   QStringList plan;
   for (const MenuEntry* entry : Ost().Menus()) {
     if (entry->Parent() == nullptr && !entry->Name().startsWith(QLatin1String("Spacer")))
