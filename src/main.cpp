@@ -10,6 +10,8 @@
 #include "plans/mupdfengine.h"
 #include "plans/pdfdraw.h"
 #include "program/program.h"
+#include "schedule/sheetpictures.h"
+#include "schedule/tesseract.h"
 #include "windows/endsignals.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
@@ -103,7 +105,9 @@ int main(int argc, char** argv) {
   tamo::MuPdfEngine engine;
   tamo::PdfDraw viewer(planFiles, engine);
   viewer.SetPatience(kPatience);
+  const tamo::Tesseract recogniser;
   tamo::Program program(platform, viewer);
+  program.ReadPictures(std::make_shared<const tamo::SheetPictures>(engine, recogniser));
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
   printer.company = [&program] { return program.CompanyName(); };

@@ -117,6 +117,9 @@ void Program::Start() {
 bool Program::Running() const {
   return parts_->shell.Running();
 }
+void Program::ReadPictures(std::shared_ptr<const SheetPictures> pictures) {
+  parts_->schedule.pictures = std::move(pictures);
+}
 Desk& Program::GetDesk() {
   return parts_->desk;
 }

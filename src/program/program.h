@@ -11,6 +11,8 @@
 
 namespace tamo {
 
+class SheetPictures;
+
 // The whole program below its windows: makes every form, the menus of both shells with their guards
 // and transitions, and joins the forms' hand-overs. Windows, or the scenario player, stand on top
 // of it.
@@ -54,6 +56,8 @@ class Program {
   bool MayEnd();
   // Everything that waits in a form is kept in the recovery file, also what is being typed.
   void KeepWaiting();
+  // Scanned sheets may be read by it from then on; without it they are refused.
+  void ReadPictures(std::shared_ptr<const SheetPictures> pictures);
   // The system asks the program to end, and nobody may be asked: all that waits is saved, or kept
   // for the next start.
   void SaveAll();

@@ -7,6 +7,8 @@
 
 #include "common/files.h"
 #include "schedule/finishcodes.h"
+#include "schedule/readingproblem.h"
+#include "schedule/sheetpictures.h"
 
 namespace tamo {
 namespace {
@@ -14,18 +16,27 @@ namespace {
 constexpr auto kLook = std::chrono::milliseconds(2);
 
 SheetRead Refused(const QString& why) {
-  return {why, {}, {}};
+  return {why, {}, {}, false};
 }
 
 SheetRead Read(const SheetToRead& sheet, const std::atomic<bool>& stop) {
-  const PageContent page = ReadPageContent(sheet.file, sheet.page, {}, &stop);
+  PageContent page = ReadPageContent(sheet.file, sheet.page, {}, &stop);
   if (stop) return Refused(QStringLiteral("The reading of the sheet was stopped."));
   if (page.error != 0) {
     return Refused(QStringLiteral("The sheet can't be read: %1.").arg(page.problem));
   }
+  if (sheet.pictures != nullptr) {
+    const QString problem = sheet.pictures->ReadInto(page, sheet, stop);
+    if (!problem.isEmpty()) return Refused(problem);
+  }
   ScheduleReading reading =
       ReadSchedule(page, sheet.box, sheet.before.has_value() ? &*sheet.before : nullptr);
-  SheetRead read = {reading.problem, std::move(reading.parts), {}};
+  SheetRead read = {reading.problem, std::move(reading.parts), {}, false};
+  if (sheet.pictures != nullptr) {
+    MarkAllUnsure(read.parts);
+  } else if (!read.problem.isEmpty()) {
+    read.picture = OnlyAPicture(page, sheet.box);
+  }
   if (sheet.withLegend && read.problem.isEmpty() && !stop) {
     read.legend = LegendOf(FindTables(page));
     read.legend.merge(LegendBeside(page, CodesOf(FinishRowsOf(read.parts)), read.parts));

@@ -10,6 +10,8 @@
 
 namespace tamo {
 
+class SheetPictures;
+
 // A sheet to read, or why its file can't be opened.
 struct SheetToRead {
   int error = 0;  // as of files
@@ -18,12 +20,14 @@ struct SheetToRead {
   std::optional<PageBox> box;           // as ReadSchedule has it
   std::optional<ScheduleTable> before;  // the part that it follows
   bool withLegend = false;
+  std::shared_ptr<const SheetPictures> pictures;  // when its picture is to be read
 };
 
 struct SheetRead {
   QString problem;  // empty when it was read
   std::vector<ScheduleTable> parts;
   Legend legend;
+  bool picture = false;  // nothing was read because it is a scanned picture
 };
 
 // Reads a sheet on a thread of its own and comes back with it. `progress` is called with (0, 0)

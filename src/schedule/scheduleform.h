@@ -16,6 +16,15 @@
 
 namespace tamo {
 
+class SheetPictures;
+
+// The boxes of the sheet in front.
+struct SheetBoxes {
+  PageBox framed;   // what is framed on the plan of the selected row
+  PageBox offered;  // the schedule that was found on the sheet and not yet read
+  PageBox taken;    // the drawn box that was read last
+};
+
 // The room finish schedule as it was read off the plan: its rows, what is not sure, the finish
 // codes with the systems that they mean, and the rooms that are made of it.
 //
@@ -31,6 +40,8 @@ class ScheduleForm : public Form {
   // Events may come in meanwhile. Afterwards onDone, with whether it came to its end.
   std::function<bool(int done, int all)> onProgress;
   std::function<void(bool whole)> onDone;
+  // Reads scanned sheets, when somebody wants that; null: they are refused.
+  std::shared_ptr<const SheetPictures> pictures;
   // A new system stands in the library: lists of systems that were read before take it.
   std::function<void(const QString& name)> onSystemMade;
 
@@ -116,9 +127,7 @@ class ScheduleForm : public Form {
   OSTForm& ost_;
   std::vector<ScheduleTable> parts_;
   std::vector<int> pages_;  // on which page each part stands, or kNoPage
-  PageBox framed_;          // what is framed on the plan of the selected row
-  PageBox offered_;         // the schedule that was found on the sheet and not yet read
-  PageBox taken_;           // the drawn box that was read last
+  SheetBoxes boxes_;
   std::vector<FinishRow> rows_;
   ScheduleEdits edits_;
   FinishKey key_;

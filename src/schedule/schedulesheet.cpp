@@ -1,5 +1,6 @@
 #include "schedule/readaside.h"
 #include "schedule/scheduleform.h"
+#include "schedule/sheetpictures.h"
 
 // The schedule and the sheet that it stands on: what is read of it, and what is framed there.
 
@@ -41,19 +42,24 @@ bool ScheduleForm::TakeFromPlan() {
   const std::optional<DrawnBox>& drawn = viewer.Box();
   if (drawn.has_value() && drawn->page == viewer.Page()) {
     box = PageBox{drawn->topLeft.x, drawn->topLeft.y, drawn->bottomRight.x, drawn->bottomRight.y};
-    if (box->left == framed_.left && box->top == framed_.top) box.reset();  // only shows a row
+    if (box->left == boxes_.framed.left && box->top == boxes_.framed.top)
+      box.reset();  // only shows a row
   }
   SheetToRead sheet = SheetInFront();
   sheet.box = box;
   sheet.withLegend = true;
   if (!parts_.empty() && pages_.back() != kNoPage) sheet.before = parts_.back();
-  SheetRead read = ReadAside(std::move(sheet), onProgress);
+  const auto ask = [this](const QString& question) {
+    if (onDone) onDone(false);  // what shows the progress is not in the way of the question
+    return kit_.desk.GetMessages().Ask(question);
+  };
+  SheetRead read = ReadOrOffer(std::move(sheet), pictures, ask, onProgress);
   if (onDone) onDone(read.problem.isEmpty());
   if (!read.problem.isEmpty()) {
     kit_.desk.GetMessages().Tell(read.problem);
     return false;
   }
-  taken_ = box.value_or(PageBox{});
+  boxes_.taken = box.value_or(PageBox{});
   if (parts_.empty()) legend_.clear();
   legend_.merge(read.legend);
   for (ScheduleTable& table : read.parts) {
@@ -75,7 +81,7 @@ void ScheduleForm::FrameFound() {
   if (onDone) onDone(read.problem.isEmpty());
   if (!read.problem.isEmpty()) return;
   FrameOnPlan(read.parts.front().box, viewer.Page());
-  offered_ = framed_;
+  boxes_.offered = boxes_.framed;
 }
 
 // Enter takes a box that was not read yet: a drawn one, or the schedule that was found.
@@ -85,9 +91,9 @@ bool ScheduleForm::EnterBox() {
     return box.topLeft.x == other.left && box.topLeft.y == other.top &&
            box.bottomRight.x == other.right && box.bottomRight.y == other.bottom;
   };
-  const bool offered = same(offered_);
-  if (!offered && (same(framed_) || (same(taken_) && Visible()))) return false;
-  offered_ = {};
+  const bool offered = same(boxes_.offered);
+  if (!offered && (same(boxes_.framed) || (same(boxes_.taken) && Visible()))) return false;
+  boxes_.offered = {};
   Read();
   return true;
 }
@@ -97,8 +103,9 @@ void ScheduleForm::FrameOnPlan(const PageBox& box, int page) {
   PdfDraw& viewer = ost_.Viewer();
   if (box.Empty() || viewer.ShownPath().isEmpty()) return;
   if (viewer.Page() != page) viewer.SetPage(page);
-  framed_ = {box.left - 2, box.top - 2, box.right + 2, box.bottom + 2};
-  viewer.DrawBox({framed_.left, framed_.top}, {framed_.right, framed_.bottom});
+  boxes_.framed = {box.left - 2, box.top - 2, box.right + 2, box.bottom + 2};
+  viewer.DrawBox({boxes_.framed.left, boxes_.framed.top},
+                 {boxes_.framed.right, boxes_.framed.bottom});
 }
 
 // A click on the drawing, with no tool in hand, selects the row and the cell under it.
