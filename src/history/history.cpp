@@ -123,8 +123,8 @@ std::shared_ptr<FormerBid> History::LookAtDay(const QByteArray& day) {
 
 QString History::BringBackState(const VersionHead& head, const BidState& state) {
   const QString what = FormerBid(Folder(), head, {}).Words();
-  const QString refusal = KeepVersion(QStringLiteral("before %1 was brought back").arg(what),
-                                      VersionHead::Reason::BeforeBringingBack);
+  QString refusal = KeepVersion(QStringLiteral("before %1 was brought back").arg(what),
+                                VersionHead::Reason::BeforeBringingBack);
   if (!refusal.isEmpty()) return refusal;
   const int error = BringBack(files_, Folder(), head, state);
   if (error == kNoError) return {};

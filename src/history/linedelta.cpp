@@ -81,8 +81,8 @@ class DeltaWriter {
 
   void EndRun() {
     if (end_ > begin_)
-      delta_ += '=' + QByteArray::number(static_cast<qulonglong>(begin_ + 1)) + '-' +
-                QByteArray::number(static_cast<qulonglong>(end_)) + '\n';
+      delta_ += '=' + QByteArray::number(qulonglong{begin_} + 1) + '-' +
+                QByteArray::number(qulonglong{end_}) + '\n';
     begin_ = end_ = 0;
   }
 

@@ -11,7 +11,7 @@ QString SheetPictures::ReadInto(PageContent& page, const SheetToRead& sheet,
                                 const std::atomic<bool>& stop) const {
   const PageBox area = sheet.box.value_or(PageBox{0, 0, page.size.width, page.size.height});
   GreyPicture picture;
-  const QString problem = PaintGrey(engine_, sheet.file, sheet.page, area, stop, picture);
+  QString problem = PaintGrey(engine_, sheet.file, sheet.page, area, stop, picture);
   if (!problem.isEmpty()) return problem;
   const PictureText read = program_.Read(picture, sheet.box.has_value(), stop);
   if (!read.problem.isEmpty()) return read.problem;

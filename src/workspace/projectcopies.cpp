@@ -25,7 +25,7 @@ QString ToldOf(const ProjectCopy& copy, const QString& source, const QString& ta
   if (!copy.done)
     return QStringLiteral("%1 was not copied into %2: the folder of one of them can't be found.")
         .arg(source, target);
-  const QString done = QStringLiteral("%1 has been copied into %2.").arg(source, target);
+  QString done = QStringLiteral("%1 has been copied into %2.").arg(source, target);
   if (copy.waiting.isEmpty()) return done;
   return done +
          QStringLiteral(
