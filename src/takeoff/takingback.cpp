@@ -141,7 +141,7 @@ QString TakingBack::Refusal() const {
 }
 
 QString TakingBack::Move(Steps& from, Steps& to, bool back) {
-  const QString refusal = Refusal();
+  QString refusal = Refusal();
   if (!refusal.isEmpty()) return refusal;
   const auto found = std::find_if(from.rbegin(), from.rend(), [&](const Step& step) {
     return step.project == kit_.shared.JobID;

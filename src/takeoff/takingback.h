@@ -14,6 +14,23 @@
 
 namespace tamo {
 
+// One entry: the files of rooms and areas as they were before and after it.
+struct TakeoffStep {
+  struct File {
+    QString path;
+    QByteArray before;  // null: there was no such file
+    QByteArray after;
+    bool shared = false;  // by all projects
+  };
+  QString project;
+  QString what;
+  std::vector<File> files;
+  EntryMarks marks;
+  const SheetScreen* screen = nullptr;
+  SheetState before;
+  SheetState after;
+};
+
 // What was entered in the takeoff forms, entry by entry, so that it can be taken back and brought
 // back, as long as the program runs. An entry is what one event made of the files of rooms and
 // areas; it is kept as their bytes before and after it. Nothing is taken back when another one than
@@ -50,21 +67,8 @@ class TakingBack {
   static constexpr qsizetype kMostBytes = 64'000'000;  // of all files that are kept
 
  private:
-  struct StepFile {
-    QString path;
-    QByteArray before;  // null: there was no such file
-    QByteArray after;
-    bool shared = false;
-  };
-  struct Step {
-    QString project;
-    QString what;
-    std::vector<StepFile> files;
-    EntryMarks marks;
-    const SheetScreen* screen = nullptr;
-    SheetState before;
-    SheetState after;
-  };
+  using Step = TakeoffStep;
+  using StepFile = TakeoffStep::File;
   using Steps = std::deque<Step>;
 
   QString Move(Steps& from, Steps& to, bool back);
