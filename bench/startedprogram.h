@@ -38,8 +38,9 @@ class NoPrinter : public Printer {
 class StartedProgram {
  public:
   StartedProgram(const QString& programFolder, const QString& home)
-      : platform_{disk_,      clock_,        messages_, printer_,
-                  clipboard_, programFolder, home,      home + QStringLiteral("/config")},
+      : platform_{disk_,        clock_,        messages_, printer_,
+                  clipboard_,   programFolder, home,      home + QStringLiteral("/config"),
+                  &historyDisk_},
         files_(disk_),
         viewer_(files_, engine_),
         program_(platform_, viewer_),
@@ -52,6 +53,7 @@ class StartedProgram {
 
  private:
   RealDisk disk_;
+  RealDisk historyDisk_;
   SystemClock clock_;
   SpokenMessages messages_;
   NoPrinter printer_;

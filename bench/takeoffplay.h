@@ -16,12 +16,14 @@ class TakeoffPlay {
   explicit TakeoffPlay(Program& program)
       : program_(program), rooms_(*dynamic_cast<RFSForm*>(Find("RFSForm"))) {}
 
-  void Begin() {
+  void Begin(bool report = true) {
     Choose("OpenProject");
     auto* jobs = dynamic_cast<OrderedList*>(Find("Tamo")->Find(QStringLiteral("JobsList")));
     program_.GetDesk().ClickRow(*jobs, 0);
-    program_.Shared().AutoCheck = 1;
-    Choose("RecapSheet");
+    if (report) {
+      program_.Shared().AutoCheck = 1;
+      Choose("RecapSheet");
+    }
     program_.GetDesk().Dispatch([this] { rooms_.TakeOffRoomFinishSchedule(nullptr); });
     QCoreApplication::processEvents();
   }

@@ -122,6 +122,7 @@ int main(int argc, char** argv) {
   QTimer keeping;
   KeepWhatIsTyped(keeping, program);
   program.Start();
+  program.BeginHomePage();
   OpenNamedPlan(QApplication::arguments(), program);
   QTimer ticks;
   LookAbout(ticks, program);

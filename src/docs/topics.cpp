@@ -67,6 +67,7 @@ QString FileOfTopic(const QString& row) {
 QString FileOfForm(const QString& form) {
   static constexpr std::pair<const char*, const char*> forms[] = {
       {"Tamo", "ProjectsDocs.tamo"},
+      {"HomePage", "StartDocs.tamo"},
       {"Settings", "SettingsDocs.tamo"},
       {"Pricing", "PricingDocs.tamo"},
       {"RFSForm", "RFSDocs.tamo"},

@@ -5,6 +5,7 @@
 #include "history/history.h"
 #include "program/changedquestion.h"
 #include "program/followers.h"
+#include "program/homepage.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
 #include "program/pricingadapters.h"
@@ -76,6 +77,7 @@ struct Program::Parts {
               {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs,
                versions}};
   Recovery recovery{kit, {shell, settings, main, bottomLine}};
+  HomePage home{kit, {main, ost, pricing, docs, takingBack}};
 };
 
 Program::Program(const Platform& platform, PdfDraw& viewer)
@@ -94,7 +96,9 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     parts.takingBack.EndEvent();
     parts.takeoffFields.Follow();
     parts.recovery.Follow();
+    parts.home.Follow();
   };
+  parts.home.openPlan = [this](const QString& path) { OpenPlan(path); };
   // Lists of systems that are loaded are written whole: they must know the new one.
   parts.schedule.onSystemMade = [&parts](const QString& name) {
     for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,
@@ -172,6 +176,18 @@ void Program::TrySavesAgain() {
   });
 }
 
+void Program::BeginHomePage() {
+  parts_->home.Begin();
+}
+
+void Program::RefreshHomePage() {
+  parts_->desk.Dispatch([this] { parts_->home.Refresh(); });
+}
+
+bool Program::HomePageIsUpToDate() {
+  return parts_->home.Idle();
+}
+
 QString Program::Notice() const {
   const QString unsaved = parts_->files.Notice();
   return unsaved.isEmpty() ? parts_->main.conflicts.Notice() : unsaved;
@@ -184,6 +200,7 @@ void Program::Tick() {
     parts_->main.hold.Tick();
     parts_->readAgain.Tick();
     parts_->main.conflicts.Tick();
+    parts_->home.Tick();
   });
 }
 

@@ -31,6 +31,7 @@ Played& Looker::Program() {
 }
 
 QStringList Looker::Look(const QString& what) {
+  if (what.contains(QLatin1String("Tamo.Home"))) Program().RefreshHomePage();
   QString rest = what;
   const QString word = TakeWord(rest);
   QStringList lines;

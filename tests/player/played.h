@@ -25,6 +25,8 @@ class Played {
   virtual void TrySavesAgain() = 0;
   virtual void Tick() = 0;  // as time goes by, between two events
   virtual bool Running() = 0;
+  // The figures of the home page are read now: somebody looks at them.
+  virtual void RefreshHomePage() {}
   // The form whose window is closed to end the program; nullptr when any will do.
   virtual Form* Shell() = 0;
 };

@@ -32,6 +32,7 @@ class ProgramPlayed : public Played {
   void TrySavesAgain() override;
   void Tick() override;
   bool Running() override;
+  void RefreshHomePage() override { program_->RefreshHomePage(); }
   Form* Shell() override;
 
  private:
