@@ -15,6 +15,8 @@ HomeControls::HomeControls(Form& owner) : form(owner) {
            &HomeEmptyLines, &HomeUnpriced, &HomeItems, &HomeAdjustment, &HomeThumbnail, &HomeLast,
            &HomeUncounted})
     control->PutInto(HomeState);
+  for (Button* button : Projects()) button->Hide();
+  for (Button* button : Plans()) button->Hide();
   // The letters of the menus stay the only ones; what is typed is never for the page.
   for (Control* control : form.Controls()) {
     if (control->Container() == &HomeStart || control->Container() == &HomeState)

@@ -22,33 +22,33 @@ struct HomeControls {
   Button HomeOpen{form, "HomeOpen", "Open Project"};
   Button HomeGuide{form, "HomeGuide", "Getting Started"};
   Label HomeNoProjects{form, "HomeNoProjects", "None yet."};
-  Button HomeProject1{form, "HomeProject1", {}};
-  Button HomeProject2{form, "HomeProject2", {}};
-  Button HomeProject3{form, "HomeProject3", {}};
-  Button HomeProject4{form, "HomeProject4", {}};
-  Button HomeProject5{form, "HomeProject5", {}};
+  Button HomeProject1{form, "HomeProject1", "Last project"};
+  Button HomeProject2{form, "HomeProject2", "Last project"};
+  Button HomeProject3{form, "HomeProject3", "Last project"};
+  Button HomeProject4{form, "HomeProject4", "Last project"};
+  Button HomeProject5{form, "HomeProject5", "Last project"};
   Label HomeNoPlans{form, "HomeNoPlans", "None yet."};
-  Button HomePlan1{form, "HomePlan1", {}};
-  Button HomePlan2{form, "HomePlan2", {}};
-  Button HomePlan3{form, "HomePlan3", {}};
-  Button HomePlan4{form, "HomePlan4", {}};
-  Button HomePlan5{form, "HomePlan5", {}};
+  Button HomePlan1{form, "HomePlan1", "Last plan"};
+  Button HomePlan2{form, "HomePlan2", "Last plan"};
+  Button HomePlan3{form, "HomePlan3", "Last plan"};
+  Button HomePlan4{form, "HomePlan4", "Last plan"};
+  Button HomePlan5{form, "HomePlan5", "Last plan"};
 
   // With one open: its state.
   Frame HomeState{form, "HomeState"};
   Label HomeName{form, "HomeName"};
   Label HomeNumber{form, "HomeNumber"};
-  Button HomeTotal{form, "HomeTotal", {}};
-  Button HomeHours{form, "HomeHours", {}};
-  Button HomeBidDate{form, "HomeBidDate", {}};
-  Button HomeRooms{form, "HomeRooms", {}};
-  Button HomeAreas{form, "HomeAreas", {}};
-  Button HomeEmptyLines{form, "HomeEmptyLines", {}};
-  Button HomeUnpriced{form, "HomeUnpriced", {}};
-  Button HomeItems{form, "HomeItems", {}};
-  Button HomeAdjustment{form, "HomeAdjustment", {}};
-  Button HomeThumbnail{form, "HomeThumbnail", {}};
-  Button HomeLast{form, "HomeLast", {}};
+  Button HomeTotal{form, "HomeTotal", "Recap total: ..."};
+  Button HomeHours{form, "HomeHours", "Labor hours: ..."};
+  Button HomeBidDate{form, "HomeBidDate", "Bid date: ..."};
+  Button HomeRooms{form, "HomeRooms", "Rooms: ..."};
+  Button HomeAreas{form, "HomeAreas", "Areas: ..."};
+  Button HomeEmptyLines{form, "HomeEmptyLines", "Lines without a quantity: ..."};
+  Button HomeUnpriced{form, "HomeUnpriced", "Systems without a price: ..."};
+  Button HomeItems{form, "HomeItems", "Bottom line items: ..."};
+  Button HomeAdjustment{form, "HomeAdjustment", "Price adjustment: ..."};
+  Button HomeThumbnail{form, "HomeThumbnail", "Plan: ..."};
+  Button HomeLast{form, "HomeLast", "Last entry: ..."};
   Label HomeUncounted{form, "HomeUncounted"};
 
   std::array<Button*, 5> Projects() {

@@ -54,6 +54,7 @@ void HomeCell::paintEvent(QPaintEvent*) {
   const QFontMetrics large(OwnFont());
   line.moveTop(line.bottom() + 1);
   line.setHeight(large.height());
+  if (cut < 0) line.moveTop((height() - line.height()) / 2);
   painter.setFont(OwnFont());
   painter.setPen(look.text);
   painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,

@@ -1,13 +1,13 @@
 #include "windows/homelayout.h"
 
 #include <QPainter>
-#include <QScrollArea>
 #include <QTimer>
 
 #include "plans/planpictures.h"
 #include "program/program.h"
 #include "windows/homecell.h"
 #include "windows/plainbindings.h"
+#include "windows/scrolled.h"
 
 namespace tamo {
 namespace {
@@ -139,13 +139,7 @@ QWidget* HomePageOf(Builder& b) {
   column->addWidget(ProjectState(b), 1);
   column->addWidget(WaysToBegin(b), 1);
   // A small window scrolls it.
-  auto* scroll = new QScrollArea;
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);
-  scroll->setWidgetResizable(true);
-  scroll->setMinimumHeight(12 * kGrid);
-  scroll->setWidget(inner);
-  ColumnIn(page)->addWidget(scroll);
+  ColumnIn(page)->addWidget(Scrolled(inner, 12 * kGrid));
   return page;
 }
 

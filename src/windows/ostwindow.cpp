@@ -6,6 +6,7 @@
 #include "program/program.h"
 #include "windows/formlayouts.h"
 #include "windows/plancanvas.h"
+#include "windows/scrolled.h"
 
 // The plan: thumbnails on the left, the plan in the middle with its tools over it, a narrow column
 // of what is looked at all the time on the right.
@@ -319,7 +320,9 @@ void LayOutOST(Builder& b) {
   middle->addWidget(Colours(b));
   middle->addWidget(canvas, 1);
   row->addLayout(middle, 1);
-  row->addWidget(Column(b));
+  QWidget* side = Scrolled(Column(b), 20 * kGrid);
+  side->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  row->addWidget(side);
   FormWindow& window = b.Window();
   window.Body().addLayout(row, 1);
   QLabel* keys =
