@@ -14,7 +14,7 @@
 #include <memory>
 
 #include "common/files.h"
-#include "plans/mupdfengine.h"
+#include "engine/mupdfengine.h"
 #include "plans/pdfdraw.h"
 
 namespace {

@@ -7,8 +7,8 @@
 
 #include "common/memory.h"
 #include "common/paths.h"
-#include "plans/mupdfengine.h"
 #include "plans/pdfdraw.h"
+#include "plans/workerengine.h"
 #include "program/program.h"
 #include "windows/endsignals.h"
 #include "windows/look.h"
@@ -96,7 +96,7 @@ int main(int argc, char** argv) {
   ShowIconLater(platform);
 
   tamo::Files planFiles(disk);
-  tamo::MuPdfEngine engine;
+  tamo::WorkerEngine engine;
   tamo::PdfDraw viewer(planFiles, engine);
   viewer.SetPatience(kPatience);
   tamo::Program program(platform, viewer);

@@ -66,6 +66,9 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   std::shared_ptr<const Picture> Thumbnail(int page, int longSide) override;
   std::shared_ptr<const Picture> PrintPicture(const PlanView& part) override;
 
+  // What stands on a page. Waits for it, for 20 seconds at most.
+  PageContent ReadPage(int page) const;
+
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
   // background; 10 seconds when not set. A window wants 80 milliseconds.
   void SetPatience(int milliseconds) { patience_ = milliseconds; }

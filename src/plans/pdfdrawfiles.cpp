@@ -12,6 +12,7 @@ namespace tamo {
 namespace {
 
 constexpr int kPrintPatience = 60000;
+constexpr int kReadPatience = 20000;
 
 QString OpenReason(int error) {
   switch (error) {
@@ -314,6 +315,21 @@ std::shared_ptr<const Picture> PdfDraw::Thumbnail(int page, int longSide) {
 std::shared_ptr<const Picture> PdfDraw::PrintPicture(const PlanView& part) {
   if (session_ == nullptr || session_->painter == nullptr) return nullptr;
   return session_->painter->PrintPicture(part, kPrintPatience);
+}
+
+PageContent PdfDraw::ReadPage(int page) const {
+  PageContent nothing;
+  nothing.error = kFileOther;
+  nothing.problem = QStringLiteral("it takes too long");
+  if (session_ == nullptr) return nothing;
+  const auto cancel = std::make_shared<CancelFlag>();
+  const auto content = std::make_shared<PageContent>();
+  const bool done = session_->thread->Run([plan = session_->plan, cancel, content,
+                                           page] { *content = plan->ReadContent(page, *cancel); },
+                                          kReadPatience);
+  if (done) return *content;
+  cancel->Cancel();
+  return nothing;
 }
 
 bool PdfDraw::WaitUntilSharp(int milliseconds) {

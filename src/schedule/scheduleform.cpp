@@ -92,7 +92,7 @@ bool ScheduleForm::TakeFromPlan() {
     box = PageBox{drawn->topLeft.x, drawn->topLeft.y, drawn->bottomRight.x, drawn->bottomRight.y};
     if (box->left == framed_.left && box->top == framed_.top) box.reset();  // only shows a row
   }
-  const PageContent page = ReadPageContent(kit_.files.GetDisk(), viewer.ShownPath(), viewer.Page());
+  const PageContent page = viewer.ReadPage(viewer.Page());
   if (page.error != 0) {
     kit_.desk.GetMessages().Tell(QStringLiteral("The sheet can't be read: %1.").arg(page.problem));
     return false;
@@ -154,7 +154,7 @@ void ScheduleForm::ShowUnsure() {
 void ScheduleForm::FrameFound() {
   const PdfDraw& viewer = ost_.Viewer();
   if (viewer.ShownPath().isEmpty()) return;
-  const PageContent page = ReadPageContent(kit_.files.GetDisk(), viewer.ShownPath(), viewer.Page());
+  const PageContent page = viewer.ReadPage(viewer.Page());
   const ScheduleReading reading = ReadSchedule(page, std::nullopt);
   if (!reading.problem.isEmpty()) return;
   FrameOnPlan(reading.parts.front().box, viewer.Page());

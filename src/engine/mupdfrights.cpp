@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "plans/mupdffileinner.h"
+#include "engine/mupdffileinner.h"
 
 // What a plan says about being marked.
 

@@ -1,4 +1,4 @@
-#include "plans/mupdfpictures.h"
+#include "engine/mupdfpictures.h"
 
 namespace tamo {
 namespace {

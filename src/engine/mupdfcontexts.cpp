@@ -1,4 +1,4 @@
-#include "plans/mupdfcontexts.h"
+#include "engine/mupdfcontexts.h"
 
 #include <mupdf/fitz.h>
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "plans/mupdfcontexts.h"
+#include "engine/mupdfcontexts.h"
 #include "plans/planengine.h"
 
 namespace tamo {

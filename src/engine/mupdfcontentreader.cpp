@@ -1,12 +1,14 @@
+#include "engine/mupdfcontentreader.h"
+
 #include <utility>
 
 #include "common/failure.h"
 #include "common/files.h"
-#include "plans/mupdfcontentdevice.h"
-#include "plans/mupdfcontentdocument.h"
-#include "plans/mupdfcontexts.h"
-#include "plans/mupdfpagetree.h"
-#include "plans/mupdfrunpage.h"
+#include "engine/mupdfcontentdevice.h"
+#include "engine/mupdfcontentdocument.h"
+#include "engine/mupdfcontexts.h"
+#include "engine/mupdfpagetree.h"
+#include "engine/mupdfrunpage.h"
 
 namespace tamo {
 namespace {

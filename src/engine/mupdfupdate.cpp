@@ -2,8 +2,8 @@
 #include <cstring>
 
 #include "common/failure.h"
+#include "engine/mupdffileinner.h"
 #include "plans/filetail.h"
-#include "plans/mupdffileinner.h"
 
 namespace tamo {
 namespace {

@@ -1,4 +1,4 @@
-#include "plans/mupdfcontenttext.h"
+#include "engine/mupdfcontenttext.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
-#include "plans/mupdfrunpage.h"
+#include "engine/mupdfrunpage.h"
 
-#include "plans/mupdffileinner.h"
+#include "engine/mupdffileinner.h"
 
 namespace tamo {
 

@@ -1,9 +1,9 @@
-#include "plans/mupdfrecord.h"
+#include "engine/mupdfrecord.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "plans/mupdfpictures.h"
+#include "engine/mupdfpictures.h"
 
 namespace tamo {
 namespace {

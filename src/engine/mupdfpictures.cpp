@@ -1,4 +1,4 @@
-#include "plans/mupdfpictures.h"
+#include "engine/mupdfpictures.h"
 
 #include <algorithm>
 #include <atomic>

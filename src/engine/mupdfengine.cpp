@@ -1,13 +1,13 @@
-#include "plans/mupdfengine.h"
+#include "engine/mupdfengine.h"
 
 #include <mutex>
 #include <utility>
 
 #include "common/failure.h"
-#include "plans/mupdfcontentdocument.h"
-#include "plans/mupdfcontexts.h"
-#include "plans/mupdffile.h"
-#include "plans/mupdfpages.h"
+#include "engine/mupdfcontentdocument.h"
+#include "engine/mupdfcontexts.h"
+#include "engine/mupdffile.h"
+#include "engine/mupdfpages.h"
 
 namespace tamo {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "plans/mupdfcontexts.h"
+#include "engine/mupdfcontexts.h"
 
 // The decoder of JPEG 2000 takes its memory past the engine, as much as the picture's head says. So
 // the head is read first: every call of the engine's own function comes here (a link option), and a

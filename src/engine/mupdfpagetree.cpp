@@ -1,4 +1,4 @@
-#include "plans/mupdfpagetree.h"
+#include "engine/mupdfpagetree.h"
 
 #include <set>
 #include <vector>

@@ -3,7 +3,7 @@
 #include <atomic>
 #include <memory>
 
-#include "plans/mupdfcontexts.h"
+#include "engine/mupdfcontexts.h"
 #include "plans/planengine.h"
 
 namespace tamo {

@@ -1,9 +1,9 @@
-#include "plans/mupdfcontentdevice.h"
+#include "engine/mupdfcontentdevice.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "plans/mupdfcontenttext.h"
+#include "engine/mupdfcontenttext.h"
 
 // The engine leaves a function by a jump when it fails, so what may fail comes first in each
 // callback, before any object with a destructor.

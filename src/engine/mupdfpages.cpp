@@ -1,11 +1,11 @@
-#include "plans/mupdfpages.h"
+#include "engine/mupdfpages.h"
 
 #include <cstring>
 #include <utility>
 
-#include "plans/mupdfpagetree.h"
-#include "plans/mupdfrecord.h"
-#include "plans/mupdfrunpage.h"
+#include "engine/mupdfpagetree.h"
+#include "engine/mupdfrecord.h"
+#include "engine/mupdfrunpage.h"
 
 namespace tamo {
 namespace {

@@ -1,12 +1,12 @@
-#include "plans/mupdffile.h"
+#include "engine/mupdffile.h"
 
 #include <algorithm>
 #include <cmath>
 #include <map>
 
+#include "engine/mupdffileinner.h"
+#include "engine/mupdfpagetree.h"
 #include "plans/filetail.h"
-#include "plans/mupdffileinner.h"
-#include "plans/mupdfpagetree.h"
 
 namespace tamo {
 namespace {

@@ -6,8 +6,8 @@
 #include <mupdf/fitz.h>
 #include <mupdf/pdf.h>
 
+#include "engine/mupdffile.h"
 #include "plans/markpdf.h"
-#include "plans/mupdffile.h"
 #include "plans/pdfappend.h"
 
 namespace tamo {

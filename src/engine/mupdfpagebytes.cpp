@@ -1,7 +1,7 @@
 #include <algorithm>
 
+#include "engine/mupdffileinner.h"
 #include "plans/filetail.h"
-#include "plans/mupdffileinner.h"
 #include "plans/pdfbytes.h"
 
 // What a save repeats of a page, taken from the file's own bytes: the engine would write names and
