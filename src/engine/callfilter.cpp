@@ -49,6 +49,8 @@ constexpr long kAllowed[] = {
     SYS_restart_syscall,
     SYS_getpid,
     SYS_gettid,
+    SYS_rseq,
+    SYS_set_robust_list,
     SYS_close,
     SYS_lseek,
 };

@@ -52,6 +52,7 @@ class SettingsForm : public Form {
   CheckBox AutoCheck{*this, "AutoCheck", "AutoUpdate Reports"};
   Option Option3{*this, "Option3", "U.S. Scale", 2};
   Option Option4{*this, "Option4", "Metric Scale", 2};
+  Label PlanGuard{*this, "PlanGuard"};  // what the system lacks to shut in the reader of plans
   Button Command1{*this, "Command1", "Exit Settings"};
   std::vector<std::unique_ptr<Swatch>> swatches;
 
