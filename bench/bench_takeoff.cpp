@@ -20,50 +20,19 @@
 #include "records/roomline.h"
 #include "records/sheetnames.h"
 #include "takeoff/rfsform.h"
+#include "takeoffstage.h"
 #include "workspace/projecthold.h"
 
 namespace {
 
 using namespace tamo;
 
-class Nobody : public Messages,
-               public Printer,
-               public Clipboard,
-               public PlanTools,
-               public MissingSystemPricing,
-               public TakeoffReportRefresh,
-               public TakeoffExits {
- public:
-  void Tell(const QString&) override {}
-  bool Ask(const QString&) override { return false; }
-  void SetFont(const QString&, int) override {}
-  void PrintLine(const QString&) override {}
-  void EndPage() override {}
-  bool BeginPrint(const QString&) override { return false; }
-  void EndPrint() override {}
-  void Clear() override {}
-  void SetText(const QString&) override {}
-  void SetToolMode(int) override {}
-  void SetPenColour(const QString&) override {}
-  void ResetMeasure() override {}
-  void SaveIt() override {}
-  void ClearDistance() override {}
-  void ReleaseMode() override {}
-  void DeleteKey() override {}
-  QString ScaleText() const override { return {}; }
-  void ShowWithName(const QString&) override {}
-  void PrintReport() override {}
-  void ShowMainForm() override {}
-  void ShowProjectPanel() override {}
-  void ShowOST() override {}
-};
-
 // A project of 1,000 rooms, the first of which has 300 lines.
 struct BigProject {
   QTemporaryDir folder;
   RealDisk disk;
   Files files{disk};
-  Nobody nobody;
+  bench::Nobody nobody;
   Desk desk{nobody};
   SystemClock clock;
   SharedFields shared;

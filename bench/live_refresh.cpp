@@ -4,7 +4,6 @@
 // folder and how many Enters.
 #include <QTemporaryDir>
 #include <QThread>
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <vector>
@@ -12,22 +11,9 @@
 #include "largebid.h"
 #include "startedprogram.h"
 #include "takeoffplay.h"
-
-namespace {
+#include "timesof.h"
 
 using namespace tamo;
-
-double Part(std::vector<double> times, double part) {
-  std::sort(times.begin(), times.end());
-  return times[static_cast<size_t>(static_cast<double>(times.size() - 1) * part)];
-}
-
-void Tell(const char* what, const std::vector<double>& times) {
-  std::printf("%-12s median %6.2f ms, 99 of 100 within %6.2f ms\n", what, Part(times, .5),
-              Part(times, .99));
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
   KeepMemory();
@@ -54,9 +40,9 @@ int main(int argc, char** argv) {
     QCoreApplication::processEvents();
     saves.push_back(play.BareSave());
   }
-  Tell("Enter", enters);
-  Tell("its work", works);
-  Tell("bare save", saves);
+  bench::Tell("Enter", enters);
+  bench::Tell("its work", works);
+  bench::Tell("bare save", saves);
   std::fflush(stdout);
   home.remove();
   _Exit(0);

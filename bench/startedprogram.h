@@ -44,6 +44,7 @@ class StartedProgram {
         viewer_(files_, engine_),
         program_(platform_, viewer_),
         windows_(program_, &viewer_, home + QStringLiteral("/windows.ini")) {
+    disk_.MakeFolder(platform_.configFolder);
     program_.Start();
   }
 

@@ -153,6 +153,12 @@ class OrderedList : public Control {
   void SetRows(const QStringList& rows);  // Clear, then AddAll
   void TakeRows(ListRows rows);           // the same, without a copy of the texts
 
+  // Other rows, with the estimator where he is: the selected row stays selected if it still stands,
+  // and nothing is raised.
+  void Refill(const QStringList& rows);
+  // Where row `at` of `before` stands now: -1 when it is gone. Of equal rows the one in its place.
+  int RowAfter(const QStringList& before, int at) const;
+
   int Index() const { return index_; }
   // -1 selects none. Beyond the rows raises a RunTimeFailure.
   void SetIndex(int index);

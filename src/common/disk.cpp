@@ -83,6 +83,18 @@ class RealReader : public FileReader {
   qint64 size_;
 };
 
+int ReadToEnd(int handle, QByteArray& bytes) {
+  char block[65536];
+  for (;;) {
+    const ssize_t got = ::read(handle, block, sizeof block);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return NumberOf(errno, {});
+    if (got == 0) return kNoError;
+    if (bytes.size() + got > kLargestText) return kTooLarge;
+    bytes.append(block, static_cast<qsizetype>(got));
+  }
+}
+
 qint64 Nanoseconds(const timespec& time) {
   return static_cast<qint64>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
@@ -131,18 +143,15 @@ int RealDisk::Read(const QString& path, QByteArray& bytes) {
   int error = kNoError;
   if (::fstat(handle, &info) != 0 || !S_ISREG(info.st_mode)) {
     error = kNoAccess;
+  } else if (info.st_size > kLargestText) {
+    error = kTooLarge;
   } else {
     bytes.reserve(static_cast<qsizetype>(info.st_size) + 1);
-    char block[65536];
-    for (;;) {
-      const ssize_t got = ::read(handle, block, sizeof block);
-      if (got < 0 && errno == EINTR) continue;
-      if (got < 0) error = NumberOf(errno, path);
-      if (got <= 0) break;
-      bytes.append(block, static_cast<qsizetype>(got));
-    }
+    error = ReadToEnd(handle, bytes);
+    if (error == kNoError && bytes.size() < info.st_size) error = kPastEnd;
   }
   ::close(handle);
+  if (error != kNoError) bytes.clear();
   return error;
 }
 

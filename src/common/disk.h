@@ -34,14 +34,17 @@ struct FileStamp {
   }
 };
 
+inline constexpr qint64 kLargestText = 64 << 20;  // bytes; no text file of ours comes near it
+
 // The file system, one call a step, so that a test can make any step fail. Every call that can fail
 // returns an error number: 0, 53 file not found, 76 path not found, 75 access, 61 disk full, 57
-// other. Paths are whole paths in the platform's form.
+// other; reading also 14 far too large, 62 ended short. Paths are whole paths in the platform's
+// form.
 class Disk {
  public:
   virtual ~Disk() = default;
 
-  // From any thread.
+  // The whole of a file of at most kLargestText bytes. From any thread.
   virtual int Read(const QString& path, QByteArray& bytes) = 0;
   // From any thread. Unknown for what is no file, and on devices of other machines, whose stamps
   // can be older than the file.

@@ -27,14 +27,25 @@ inline constexpr int kInvalidArgument =
 inline constexpr int kOverflow = 6;   // a result that no number holds
 inline constexpr int kSubscript = 9;  // a row that does not exist
 inline constexpr int kDivisionByZero = 11;
+inline constexpr int kTooLarge = 14;  // a file far too large to be one of this program
 inline constexpr int kFileNotFound = 53;
 inline constexpr int kFileOther = 57;   // any other failure of the device
 inline constexpr int kFileExists = 58;  // a new file was to be made where one is already
 inline constexpr int kDiskFull = 61;
-inline constexpr int kPastEnd = 62;   // a read past the end of a file
+inline constexpr int kPastEnd = 62;  // a read past the end of a file
+// A file or folder that was there earlier in this run, or that a list names, can't be found.
+inline constexpr int kGone = 68;
 inline constexpr int kNoAccess = 75;  // no right to read or write, or a folder in the file's place
 inline constexpr int kPathNotFound = 76;  // the folder of the file does not exist
+inline constexpr int kNotText = 321;      // a file that holds something else than text
+// A file holds another text than the one that a waiting save was made from.
+inline constexpr int kChangedMeanwhile = 1001;
 // A save is done, but the device did not confirm that it outlives a power cut.
 inline constexpr int kNotConfirmed = 1002;
+
+// The file was never there, which is no failure: its defaults stand, or its list is empty.
+inline constexpr bool IsMissing(int number) {
+  return number == kFileNotFound || number == kPathNotFound;
+}
 
 }  // namespace tamo

@@ -9,72 +9,10 @@
 
 namespace tamo {
 
-namespace {
-
-QString UnsureText(const QString& path) {
-  return QStringLiteral(
-             "Saved, but not surely: %1 holds your entry, but the device did not confirm it. A "
-             "power cut could bring back the old state; your entry is kept here, too.")
-      .arg(path);
-}
-
-}  // namespace
-
-QString ReasonText(int number) {
-  switch (number) {
-    case kFileNotFound:
-    case kPathNotFound:
-      return QStringLiteral("its folder does not exist");
-    case kNoAccess:
-      return QStringLiteral("there is no right to write it");
-    case kDiskFull:
-      return QStringLiteral("the disk is full");
-    case kNotConfirmed:
-      return QStringLiteral("the device did not confirm it");
-    default:
-      return QStringLiteral("the device reports a failure");
-  }
-}
-
 QString Files::Resolved(const QString& path) {
   if (disk_.Exists(path)) return path;
-  const QString folder = FolderOf(path);
-  const QString name = FileNameOf(path);
-  if (folder.isEmpty() || name.isEmpty()) return path;
-  for (const QString& other : disk_.Names(folder)) {
-    if (other.compare(name, Qt::CaseInsensitive) == 0) return folder + PlatformSeparator() + other;
-  }
-  return path;
-}
-
-Files::Pending* Files::FindPending(const QString& path) {
-  for (Pending& pending : pending_) {
-    if (pending.path.compare(path, Qt::CaseInsensitive) == 0) return &pending;
-  }
-  return nullptr;
-}
-
-Files::Pending* Files::FindPendingText(const QString& path) {
-  Pending* known = FindPending(path);
-  return known != nullptr && !known->save ? known : nullptr;
-}
-
-void Files::KeepTrying(const QString& path, int reason, std::function<int()> save) {
-  if (Pending* known = FindPending(path)) {
-    known->reason = reason;
-    known->save = std::move(save);
-  } else {
-    pending_.push_back({path, {}, reason, std::move(save)});
-  }
-  if (onPendingChanged) onPendingChanged();
-}
-
-void Files::StopTrying(const QString& path) {
-  const auto before = pending_.size();
-  std::erase_if(pending_, [&](const Pending& pending) {
-    return pending.path.compare(path, Qt::CaseInsensitive) == 0;
-  });
-  if (pending_.size() != before && onPendingChanged) onPendingChanged();
+  const QString other = names_.OtherCase(disk_, path);
+  return other.isEmpty() ? path : other;
 }
 
 int Files::ReadText(const QString& path, QString& text) {
@@ -85,10 +23,65 @@ int Files::ReadText(const QString& path, QString& text) {
       return kNoError;
     }
   }
-  const int error = ReadStored(path, text);
+  const int error = Noted(path, ReadAnyCase(path, text));
+  if (error == kNoError) {
+    book_.Read(path, text);
+  } else if (!IsMissing(error)) {
+    text = book_.LastText(path);
+  }
+  return error;
+}
+
+int Files::ReadForReport(const QString& path, QString& text, bool missing) {
+  text.clear();
+  if (!pending_.empty()) {
+    if (const Pending* pending = FindPendingText(path)) {
+      text = pending->text;
+      return kNoError;
+    }
+  }
+  return Noted(path, ReadAnyCase(path, text, missing));
+}
+
+int Files::ReadAnyCase(const QString& path, QString& text, bool missing) {
+  text.clear();
+  const int error = missing ? kFileNotFound : ReadStored(path, text);
   if (error != kFileNotFound) return error;
-  const QString other = Resolved(path);
-  return other == path ? error : ReadStored(other, text);
+  const QString other = names_.OtherCase(disk_, path);
+  return other.isEmpty() || other == path ? error : ReadStored(other, text);
+}
+
+// A file that is not there is missing, unless it or a folder above it was there before.
+int Files::GoneOrMissing(const QString& path, int error) const {
+  if (!IsMissing(error)) return error;
+  if (book_.Seen(path)) return kGone;
+  if (error == kFileNotFound) return error;
+  for (QString folder = FolderOf(path); !folder.isEmpty(); folder = FolderOf(folder)) {
+    if (book_.SeenFolder(folder) && !disk_.Exists(folder)) return kGone;
+  }
+  return error;
+}
+
+bool Files::IsGone(const QString& path) const {
+  if (disk_.Exists(path)) return false;
+  return book_.SeenFolder(path) || GoneOrMissing(path, kPathNotFound) == kGone;
+}
+
+bool Files::IsBehind(const QString& path) {
+  return book_.Apart(path) && !book_.IsFailing(path) && FindPending(path) == nullptr;
+}
+
+// What a read came to is told in the notice, or taken out of it.
+int Files::Noted(const QString& path, int error) {
+  error = GoneOrMissing(path, error);
+  const size_t before = book_.Failures().size();
+  if (error != kNoError && !IsMissing(error)) {
+    book_.Failed(path, error);
+  } else if (before != 0) {
+    book_.Mend(path);
+  }
+  if (book_.Failures().size() != before) Told();
+  return error;
 }
 
 // The stamp is taken before the file is read, so it is never newer than the text.
@@ -99,6 +92,10 @@ int Files::ReadStored(const QString& path, QString& text) {
   const int error = disk_.Read(path, bytes);
   if (error != kNoError) return error;
   text = DecodedText(bytes);
+  if (!IsText(text)) {
+    text.clear();
+    return kNotText;
+  }
   memory_.Keep(path, stamp, text);
   return kNoError;
 }
@@ -117,32 +114,61 @@ int Files::ReadFields(const QString& path, QStringList& fields) {
   return error;
 }
 
-int Files::SaveLines(const QString& path, const QStringList& lines) {
-  return SaveText(path, JoinedLines(lines));
+int Files::SaveLines(const QString& path, const QStringList& lines, FileKind kind) {
+  return SaveText(path, JoinedLines(lines), kind);
 }
 
-int Files::SaveText(const QString& path, const QString& text) {
+int Files::SaveText(const QString& path, const QString& text, FileKind kind) {
   if (mayWrite && !mayWrite(path)) return kNoAccess;
-  if (!pending_.empty()) RetryPending(path);
-  const int error = ReplaceInItsFolder(path, text.toUtf8());
+  if (!pending_.empty() || !book_.Failures().empty()) RetryPending(path);
+  Pending save{path, text, kNoError, {}, kind};
+  save.text.remove(QChar(u'\0'));  // no text that can be read again holds one
+  const int error = Store(save);
   Pending* known = FindPending(path);
   if (error != kNoError) {
     if (known != nullptr) {
-      known->text = text;
-      known->reason = error;
+      *known = std::move(save);
     } else {
-      pending_.push_back({path, text, error, {}});
+      pending_.push_back(std::move(save));
     }
-    if (onPendingChanged) onPendingChanged();
+    Told();
   } else if (known != nullptr) {
     pending_.erase(pending_.begin() + (known - pending_.data()));
-    if (onPendingChanged) onPendingChanged();
+    Told();
   }
   return error;
 }
 
+// Writes it, together with what the file holds beyond what the program knows of it.
+int Files::Store(Pending& save) {
+  QString text;
+  save.reason = TextToStore(save, text);
+  save.held = save.reason != kNoError;
+  if (save.held) return save.reason;
+  save.reason = ReplaceInItsFolder(save.path, text.toUtf8());
+  if (save.reason == kNoError || save.reason == kNotConfirmed)
+    book_.Stored(save.path, save.text, text != save.text);
+  return save.reason;
+}
+
+// The text of a save, merged with the file's where that is not what the program last had of it. An
+// error number when the file must not be written over.
+int Files::TextToStore(const Pending& save, QString& text) {
+  text = save.text;
+  const QString& path = save.path;
+  const bool mayBeGone = !disk_.Exists(path) && (book_.Seen(path) || !disk_.Exists(FolderOf(path)));
+  if (!mayBeGone && !book_.Apart(path)) return kNoError;
+  QString theirs;
+  const int error = Noted(path, ReadAnyCase(path, theirs));
+  if (IsMissing(error)) return kNoError;
+  if (error != kNoError) return error;
+  return MergeTexts(save.kind, book_.LastText(path), save.text, theirs, text) ? kNoError
+                                                                              : kChangedMeanwhile;
+}
+
 int Files::Replace(const QString& path, const QByteArray& bytes) {
   const QString target = Resolved(path);
+  names_.Forget();
   memory_.Forget(target);
   if (disk_.Exists(target) && !disk_.CanWrite(target)) return kNoAccess;
   if (disk_.IsFolder(target)) return kNoAccess;
@@ -151,53 +177,30 @@ int Files::Replace(const QString& path, const QByteArray& bytes) {
   return error != kNoError ? error : fresh.Finish(disk_.Write(fresh.Handle(), bytes));
 }
 
-void Files::RetryPending(const QString& except) {
-  const auto before = pending_.size();
-  std::erase_if(pending_, [&](Pending& pending) {
-    if (pending.path.compare(except, Qt::CaseInsensitive) == 0) return false;
-    if (mayWrite && !mayWrite(pending.path)) return false;
-    pending.reason =
-        pending.save ? pending.save() : ReplaceInItsFolder(pending.path, pending.text.toUtf8());
-    return pending.reason == kNoError;
-  });
-  if (pending_.size() != before && onPendingChanged) onPendingChanged();
-}
-
-bool Files::TryAgain() {
-  RetryPending({});
-  return pending_.empty();
-}
-
-QString Files::Notice() const {
-  if (pending_.empty()) return {};
-  const Pending& last = pending_.back();
-  QString text = last.reason == kNotConfirmed ? UnsureText(last.path)
-                                              : QStringLiteral(
-                                                    "Not saved: %1, because %2. The file on disk "
-                                                    "is unchanged; your entry is kept here.")
-                                                    .arg(last.path, ReasonText(last.reason));
-  if (pending_.size() > 1)
-    text += QStringLiteral(" (%1 files wait to be saved.)").arg(pending_.size());
-  return text + QStringLiteral(" Click here to try again.");
-}
-
 bool Files::Exists(const QString& path) {
   return FindPendingText(path) != nullptr || disk_.Exists(Resolved(path));
 }
 
 int Files::Remove(const QString& path) {
   if (mayWrite && !mayWrite(path)) return kNoAccess;
-  const Pending* known = FindPending(path);
-  if (known != nullptr) {
-    pending_.erase(pending_.begin() + (known - pending_.data()));
-    if (onPendingChanged) onPendingChanged();
-  }
-  return disk_.RemoveFile(Resolved(path));
+  StopTrying(path);
+  const int error = disk_.RemoveFile(Resolved(path));
+  names_.Forget();
+  if (error == kNoError || IsMissing(error)) book_.Forget(path);
+  return error;
 }
 
+void Files::ForgetFolder(const QString& folder) {
+  book_.ForgetFolder(folder);
+  names_.Forget();
+  Told();
+}
+
+// A folder that went away is not begun anew: what it held may come back.
 int Files::MakeFolder(const QString& path) {
   if (mayWrite && !mayWrite(path)) return kNoAccess;
   const QString bare = BareFolder(path);
+  if (book_.SeenFolder(bare) && !disk_.Exists(bare)) return kGone;
   const int error = disk_.MakeFolder(bare);
   if (error == kNoError) MakeLasting(bare);
   if (error != kNoError && !missingFolders_.contains(bare) && !disk_.Exists(bare)) {
@@ -243,12 +246,7 @@ int Files::MakeMissingFolders() {
 }
 
 void Files::Sweep(const QString& folder) {
-  const QString bare = BareFolder(folder);
-  for (const QString& name : disk_.Names(bare)) {
-    if (!name.endsWith(QLatin1String(kUnfinishedEnding))) continue;
-    const QString path = InFolder(bare, name);
-    if (LeftByTheDead(name, disk_.SecondsSinceWritten(path))) disk_.RemoveFile(path);
-  }
+  SweepUnfinished(disk_, BareFolder(folder));
 }
 
 }  // namespace tamo

@@ -95,6 +95,21 @@ void OrderedList::TakeRows(ListRows rows) {
   RowsChanged();
 }
 
+void OrderedList::Refill(const QStringList& rows) {
+  const QStringList before = Rows();
+  const int selected = index_;
+  const int top = top_;
+  TakeRows(ListRows(rows));
+  index_ = RowAfter(before, selected);
+  SetTop(top);
+  Changed();
+}
+
+int OrderedList::RowAfter(const QStringList& before, int at) const {
+  if (at < 0 || at >= before.size()) return -1;
+  return at < Count() && Row(at) == before[at] ? at : Find(before[at]);
+}
+
 void OrderedList::SetIndex(int index) {
   if (index == index_) return;
   if (index != -1) Check(index);

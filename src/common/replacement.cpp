@@ -25,11 +25,13 @@ QString UnfinishedName() {
 
 Replacement::Replacement(Disk& disk, const QString& path)
     : disk_(disk),
+      path_(path),
       target_(disk.FollowLink(path)),
       name_(InFolder(FolderOf(target_), UnfinishedName())) {}
 
 int Replacement::Begin() {
   if (disk_.IsLink(target_)) return kFileOther;  // links in a circle
+  if (target_ != path_) SweepUnfinished(disk_, FolderOf(target_));
   const int error = disk_.OpenNew(name_, handle_);
   return error == kFileNotFound ? kPathNotFound : error;
 }
@@ -53,6 +55,14 @@ bool LeftByTheDead(const QString& name, qint64 age) {
   if (!ReadProgramName(name, program)) return true;  // as older programs left them
   if (!program.OfThisMachine()) return age > kLongestSave;
   return !program.Lives();
+}
+
+void SweepUnfinished(Disk& disk, const QString& folder) {
+  for (const QString& name : disk.Names(folder)) {
+    if (!name.endsWith(QLatin1String(kUnfinishedEnding))) continue;
+    const QString path = InFolder(folder, name);
+    if (LeftByTheDead(name, disk.SecondsSinceWritten(path))) disk.RemoveFile(path);
+  }
 }
 
 }  // namespace tamo

@@ -20,7 +20,8 @@ class Replacement {
   Replacement(const Replacement&) = delete;
   Replacement& operator=(const Replacement&) = delete;
 
-  // First of all. 76 when there is no such folder.
+  // First of all. 76 when there is no such folder. The folder at the end of a symbolic link is
+  // swept: no start of the program looks into it.
   int Begin();
   int Handle() const { return handle_; }               // of the open new file
   const QString& Unfinished() const { return name_; }  // its name until Finish
@@ -30,7 +31,8 @@ class Replacement {
 
  private:
   Disk& disk_;
-  QString target_;
+  QString path_;
+  QString target_;  // the same, or what the link at `path_` leads to
   QString name_;
   int handle_ = -1;
 };
@@ -39,6 +41,9 @@ class Replacement {
 // since it was last written, in seconds, -1 when it is not known: of a program on another machine
 // nothing else can be told.
 bool LeftByTheDead(const QString& name, qint64 age);
+
+// Removes from `folder` itself the unfinished files of programs that are surely gone.
+void SweepUnfinished(Disk& disk, const QString& folder);
 
 // The ending of the names of unfinished files.
 inline constexpr char kUnfinishedEnding[] = ".tamo-unfinished";

@@ -26,7 +26,15 @@ QString FromWindows1252(const QByteArray& bytes) {
 
 }  // namespace
 
+bool IsText(const QString& decoded) {
+  return !decoded.contains(QChar(u'\0'));
+}
+
 QString DecodedText(const QByteArray& bytes) {
+  if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF")) {
+    QStringDecoder utf16(QStringDecoder::Utf16, QStringDecoder::Flag::Stateless);
+    return utf16(bytes);
+  }
   const QByteArray body = bytes.startsWith("\xEF\xBB\xBF") ? bytes.mid(3) : bytes;
   QStringDecoder utf8(QStringDecoder::Utf8,
                       QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);

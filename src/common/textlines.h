@@ -6,9 +6,12 @@
 
 namespace tamo {
 
-// Bytes of a file as text: UTF-8, or Windows-1252 when they are not valid UTF-8 (folders of older
-// machines); a byte-order mark is dropped.
+// Bytes of a file as text: UTF-16 when they begin with its mark, else UTF-8, or Windows-1252 when
+// they are not valid UTF-8 (folders of older machines); a byte-order mark is dropped.
 QString DecodedText(const QByteArray& bytes);
+
+// No text file has a NUL in it: what has is a picture, a program, or UTF-16 without its mark.
+bool IsText(const QString& decoded);
 
 // The whole lines of a text. CR LF, LF or CR ends a line; a last line without an end counts; an
 // empty text has no line.

@@ -35,7 +35,7 @@ void TextsAhead::ReadAhead() {
   size_t at = 0;
   for (;;) {
     size_t next = next_;
-    for (; at >= next + pace_.ahead && !stop_; next = next_) next_.wait(next);
+    for (; at + 1 >= next + pace_.ahead && !stop_; next = next_) next_.wait(next);
     at = std::max(at + 1, next + pace_.lead);
     if (stop_ || at >= slots_.size()) return;
     Slot& slot = slots_[at];
@@ -52,10 +52,10 @@ void TextsAhead::ReadAhead() {
   }
 }
 
-int TextsAhead::ReadHere(size_t at, QString& text) {
+int TextsAhead::ReadHere(size_t at, QString& text, bool missing) {
   const QString path = pathOf_(at);
   text.clear();
-  return path.isEmpty() ? kFileNotFound : files_.ReadText(path, text);
+  return path.isEmpty() ? kFileNotFound : files_.ReadForReport(path, text, missing);
 }
 
 int TextsAhead::Next(QString& text) {
@@ -69,7 +69,7 @@ int TextsAhead::Next(QString& text) {
   for (int i = 0; i < pace_.glances && slot.state == InWork; ++i) std::this_thread::yield();
   slot.state.wait(InWork);
   // What went wrong ahead may be a name in another case, or right by now.
-  if (slot.error != kNoError) return ReadHere(at, text);
+  if (slot.error != kNoError) return ReadHere(at, text, slot.error == kFileNotFound);
   text = std::exchange(slot.text, QString());
   return kNoError;
 }

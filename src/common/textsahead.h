@@ -22,9 +22,10 @@ struct ReadingPace {
 
 // Reads many text files in their order, while a thread of its own reads some of them ahead: the
 // device and the work on the texts go side by side. Each text and error number is what
-// Files::ReadText gives. No file is read more than ReadingPace::ahead files before it is asked for,
-// and nothing is read after the object is gone. The files outlive it. One thread asks. It halves
-// what a report of files that were not read before takes: BM_TextsAhead beside BM_PlainTexts.
+// Files::ReadForReport gives. No file is read more than ReadingPace::ahead files before it is asked
+// for, and nothing is read after the object is gone. The files outlive it. One thread asks. It
+// halves what a report of files that were not read before takes: BM_TextsAhead beside
+// BM_PlainTexts.
 class TextsAhead {
  public:
   // `pathOf` gives the path of each of `count` files; it is called from both threads.
@@ -46,9 +47,10 @@ class TextsAhead {
   };
 
   void ReadAhead();
-  int ReadHere(size_t at, QString& text);
+  int ReadHere(size_t at, QString& text, bool missing = false);
 
   Files& files_;
+  const Files::Look look_{files_};
   const std::function<QString(size_t)> pathOf_;
   const ReadingPace pace_;
   std::vector<Slot> slots_;  // empty when there is no thread

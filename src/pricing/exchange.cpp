@@ -60,7 +60,7 @@ ImportedSystem ReadExported(Files& files, const QString& asked) {
   if (files.GetDisk().Size(path) > kMostImportBytes)
     return Refused(fileName, QStringLiteral("it is larger than 16 MB, and no system is."));
   QString text;
-  const int error = files.ReadText(path, text);
+  const int error = files.ReadStored(path, text);
   if (error != kNoError)
     return Refused(fileName, error == kNoAccess ? QStringLiteral("there is no right to read it.")
                                                 : QStringLiteral("it can't be read."));

@@ -137,7 +137,7 @@ void MaterialChain::EnterMaterial() {
   MaterialControls& c = p_.materials;
   if (TellIfUnusable(kit_.desk, c.Material.Text())) return;
   const bool known =
-      p_.material.fields.AllEmpty() && p_.vocabulary.materials.Find(c.Material.Text()) >= 0;
+      p_.material.fields.AllEmpty() && p_.vocabulary.materials.MayHave(c.Material.Text());
   const bool another = p_.material.FromLibrary() && c.MaterialList.Index() >= 0 &&
                        c.MaterialList.Selected().isEmpty();
   if (known || another) p_.material.LoadMaterial();

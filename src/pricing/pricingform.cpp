@@ -75,6 +75,11 @@ void PricingForm::Init() {
   look_.PaintPalette();
 }
 
+void PricingForm::ReadAgain() {
+  vocabulary.ReadAgain();
+  if (MarkupsAreBehind(kit_.files, kit_.shared)) markups_.LoadMarkups();
+}
+
 // --- shown and hidden ---
 
 void PricingForm::ToggleUnitsPricing(Form* owner) {

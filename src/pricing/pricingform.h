@@ -43,6 +43,8 @@ class PricingForm : public Form,
   // there.
   void ShowWithName(const QString& name, Form* owner = nullptr);
   void LoadMarkups() { markups_.LoadMarkups(); }  // the project's, or the master's
+  // What is behind its file is read again.
+  void ReadAgain();
   void LoadDescriptions() { vocabulary.LoadDescriptions(); }
 
   // The open system's colour code, nine digits, "" or "NoColor".

@@ -108,6 +108,7 @@ void SystemExchange::ExportInto(const QString& folder) {
   const QString& name = p_.system.Description.Text();
   if (name.isEmpty()) return;
   RequireFileName(name);
+  kit_.files.Sweep(folder);
   kit_.files.SaveText(InFolder(folder, SystemFileName(name)), ExportedText(p_.open.AsFile()));
 }
 

@@ -5,27 +5,19 @@
 #include "pricing/steps.h"
 
 namespace tamo {
-namespace {
-
-bool Missing(int error) {
-  return error == kFileNotFound || error == kPathNotFound;
-}
-
-}  // namespace
 
 bool SystemStore::Read(const QString& name, SystemFile& system) {
   RequireFileName(name);
   QString text;
   int error = kPathNotFound;
   if (InProject()) error = kit_.files.ReadText(ProjectSystemPath(kit_.shared, name), text);
-  if (Missing(error)) error = kit_.files.ReadText(MasterSystemPath(kit_.shared, name), text);
-  if (Missing(error)) return false;
-  if (error != kNoError)
-    throw RunTimeFailure(
-        error, QStringLiteral("The system \"%1\" can't be read: %2. Its file is "
-                              "unchanged. Look at the rights of the file.")
-                   .arg(name, error == kNoAccess ? QStringLiteral("there is no right to read it")
-                                                 : ReasonText(error)));
+  if (IsMissing(error)) error = kit_.files.ReadText(MasterSystemPath(kit_.shared, name), text);
+  if (IsMissing(error)) return false;
+  // What was read of it earlier stands; the notice tells that it can't be read now.
+  if (error != kNoError && text.isEmpty())
+    throw RunTimeFailure(error, QStringLiteral("The system \"%1\" can't be read: %2. Nothing was "
+                                               "changed, and nothing will be written over it.")
+                                    .arg(name, ReadReasonText(error)));
   system = ReadSystemFile(text);
   if (!system.description.isEmpty()) RequireFileName(system.description);
   return true;

@@ -20,6 +20,9 @@ struct Vocabulary {
   int LoadUnits() { return units.Load(); }
   int LoadMaterials() { return materials.Load(); }
   int LoadOrderUnits() { return orderUnits.Load(); }
+  void ReadAgain() {
+    for (VocabularyList* list : {&systems, &units, &materials, &orderUnits}) list->LoadIfBehind();
+  }
   void SaveDescriptions() { systems.Save(); }
   void SaveUnits() { units.Save(); }
   void SaveMaterials() { materials.Save(); }

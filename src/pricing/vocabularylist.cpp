@@ -4,9 +4,13 @@ namespace tamo {
 
 int VocabularyList::Load() {
   QStringList names;
-  const int error = ReadNames(kit_.files, kit_.shared, file_, names);
+  error_ = ReadNames(kit_.files, kit_.shared, file_, names);
   list_.SetRows(names);
-  return error;
+  return error_;
+}
+
+void VocabularyList::LoadIfBehind() {
+  if (NamesAreBehind(kit_.files, kit_.shared, file_)) Load();
 }
 
 void VocabularyList::Save() {

@@ -6,6 +6,7 @@
 #include "program/menus.h"
 #include "program/planadapters.h"
 #include "program/pricingadapters.h"
+#include "program/readagain.h"
 #include "program/recovery.h"
 #include "program/reportadapters.h"
 #include "program/takeoffadapters.h"
@@ -59,6 +60,7 @@ struct Program::Parts {
   ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost}};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
+  ReadAgain readAgain{kit, {main, ost, pricing, rooms, areas, bottomLine, reports}};
   Menus menus{kit,
               shell,
               {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs}};
@@ -124,13 +126,22 @@ const QString* Program::FindText(const QString& form, const QString& name) {
 }
 
 void Program::TrySavesAgain() {
-  parts_->desk.Dispatch([this] { parts_->files.TryAgain(); });
+  parts_->desk.Dispatch([this] {
+    Files& files = parts_->files;
+    files.TryAgain();
+    const QString question = files.BeginAnewQuestion();
+    if (!question.isEmpty() && parts_->platform.messages.Ask(question)) files.BeginAnew();
+    parts_->readAgain.Run();
+  });
 }
 
 void Program::Tick() {
   if (!Running()) return;
   if (parts_->desk.InEvent()) return parts_->main.hold.TickInEvent();
-  parts_->desk.Dispatch([this] { parts_->main.hold.Tick(); });
+  parts_->desk.Dispatch([this] {
+    parts_->main.hold.Tick();
+    parts_->readAgain.Tick();
+  });
 }
 
 bool Program::MayEnd() {

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "common/failure.h"
+
 namespace tamo {
 namespace {
 
@@ -93,20 +95,20 @@ void Recovery::Follow() {
 }
 
 void Recovery::Keep() {
-  if (running_) Write(Waiting(true));
+  if (running_ && Write(Waiting(true))) file_.Confirm();
 }
 
 // A failure is told by the saves of what the program is for; this one is tried at the next change.
 bool Recovery::Write(const QList<WaitingEntries>& now) {
   if (now == written_) return true;
-  if (WriteRecovery(kit_.platform.disk, kit_.platform.configFolder, run_, now) != 0) return false;
+  if (file_.Write(now) != kNoError) return false;
   written_ = now;
   return true;
 }
 
 void Recovery::End() {
   left_.clear();
-  WriteRecovery(kit_.platform.disk, kit_.platform.configFolder, run_, {});
+  file_.Write({});
   running_ = false;
 }
 
@@ -117,7 +119,7 @@ void Recovery::Begin() {
   QStringList files;
   left_ = ReadLeftRecoveries(kit_.platform.disk, kit_.platform.configFolder, files);
   running_ = true;
-  if (!Write(Waiting(true))) return;
+  if (!Write(Waiting(true)) || file_.Confirm() != kNoError) return;
   for (const QString& file : files) kit_.platform.disk.RemoveFile(file);
 }
 

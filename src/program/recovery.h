@@ -24,16 +24,13 @@ class Recovery {
     BottomLine& bottomLine;
   };
   // The forms are used only once the program runs.
-  Recovery(const Kit& kit, const Forms& forms) : kit_(kit), forms_(forms), run_(BeginRun()) {}
-  // What is kept stays, as after a crash.
-  ~Recovery() { EndRun(run_); }
-  Recovery(const Recovery&) = delete;
-  Recovery& operator=(const Recovery&) = delete;
+  Recovery(const Kit& kit, const Forms& forms)
+      : kit_(kit), forms_(forms), file_(kit.platform.disk, kit.platform.configFolder) {}
 
   void Begin();
   // After each event. What is being typed into the field in focus is kept when it is left.
   void Follow();
-  // All of it.
+  // All of it, brought to the device.
   void Keep();
   // The user ended the program: nothing is kept.
   void End();
@@ -50,7 +47,7 @@ class Recovery {
 
   const Kit kit_;
   const Forms forms_;
-  const ProgramRun run_;
+  RecoveryFile file_;
   QList<WaitingEntries> left_;     // by runs that crashed, and not yet offered
   QList<WaitingEntries> watched_;  // as it was when it was last written, the field in focus apart
   QList<WaitingEntries> written_;

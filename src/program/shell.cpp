@@ -90,7 +90,9 @@ bool Shell::MayEnd() {
   return kit_.desk.GetMessages().Ask(
       QStringLiteral("These files could not be saved, because %1:%2\n\nEnd the program and lose "
                      "what they would hold?")
-          .arg(ReasonText(pending.back().reason), files));
+          .arg(pending.back().held ? ReadReasonText(pending.back().reason)
+                                   : ReasonText(pending.back().reason),
+               files));
 }
 
 void Shell::ExitMain() {

@@ -14,7 +14,7 @@ int ReadAreaDelimited(Files& files, const ProjectFolder& project, const QString&
 
 int WriteAreaFile(Files& files, const ProjectFolder& project, const QString& area,
                   const QStringList& lines) {
-  return files.SaveLines(project.AreaFile(area), lines);
+  return files.SaveLines(project.AreaFile(area), lines, FileKind::Lines);
 }
 
 }  // namespace tamo

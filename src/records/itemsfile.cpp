@@ -7,7 +7,7 @@ int ReadItemLines(Files& files, const ProjectFolder& project, QStringList& lines
 }
 
 int WriteItemLines(Files& files, const ProjectFolder& project, const QStringList& lines) {
-  return files.SaveLines(project.Items(), lines);
+  return files.SaveLines(project.Items(), lines, FileKind::Lines);
 }
 
 }  // namespace tamo

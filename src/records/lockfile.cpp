@@ -9,7 +9,9 @@ namespace tamo {
 int ReadLock(Files& files, const ProjectFolder& project, QString& locked) {
   QStringList lines;
   const int error = files.ReadLines(project.Lock(), lines);
-  locked = lines.isEmpty() ? QStringLiteral("False") : lines.first();
+  const bool unknown = error != kNoError && !IsMissing(error) && error != kGone;
+  locked = unknown ? QStringLiteral("True") : QStringLiteral("False");
+  if (!lines.isEmpty()) locked = lines.first();
   return error;
 }
 

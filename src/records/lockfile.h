@@ -8,7 +8,8 @@
 namespace tamo {
 
 // Whether a project is locked: the text "True" or "False". Without a file, or with an empty one, it
-// is not. Error numbers as Files has them.
+// is not; with one that can't be read it is, since nothing says that it may be changed. Error
+// numbers as Files has them.
 int ReadLock(Files& files, const ProjectFolder& project, QString& locked);
 int WriteLock(Files& files, const ProjectFolder& project, const QString& locked);
 

@@ -13,11 +13,18 @@ int LoadMarkups(Files& files, const SharedFields& shared, Markups& into) {
   QStringList lines;
   int error = kFileNotFound;
   if (!shared.JobID.isEmpty()) error = files.ReadLines(ProjectFolder(shared).Markups(), lines);
-  if (error != kNoError) error = files.ReadLines(DataFolder(shared).Markups(), lines);
-  if (error != kNoError) return error;
+  if (IsMissing(error)) error = files.ReadLines(DataFolder(shared).Markups(), lines);
+  if (IsMissing(error)) return error;
+  // No project shows the markups of another, or of the library, for its own that can't be read.
+  if (error != kNoError && lines.isEmpty()) into = Markups();
   LineReader reader(lines);
   for (QString* text : into.InFileOrder()) reader.Read(*text);
-  return kNoError;
+  return error;
+}
+
+bool MarkupsAreBehind(Files& files, const SharedFields& shared) {
+  return files.IsBehind(DataFolder(shared).Markups()) ||
+         (!shared.JobID.isEmpty() && files.IsBehind(ProjectFolder(shared).Markups()));
 }
 
 int SaveMarkups(Files& files, const SharedFields& shared, Markups markups) {

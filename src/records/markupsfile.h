@@ -21,10 +21,13 @@ struct Markups {
   std::array<QString*, 12> InFileOrder();
 };
 
-// Reads the project's file, or the master file when there is none. Texts that a short file does not
-// reach, or all of them when there is no file at all, stay as they are. Returns the error number of
-// the last open.
+// Reads the project's file, or the master file when there never was one. Texts that a short file
+// does not reach, or all of them when there is no file at all, stay as they are. Returns the error
+// number of the last open.
 int LoadMarkups(Files& files, const SharedFields& shared, Markups& into);
+
+// The file that LoadMarkups would read holds more than was last read of it.
+bool MarkupsAreBehind(Files& files, const SharedFields& shared);
 
 // Writes the project's file with a project open, the master file otherwise.
 int SaveMarkups(Files& files, const SharedFields& shared, Markups markups);

@@ -34,7 +34,11 @@ int ReadNamesDelimited(Files& files, const DataFolder& data, NameList list, QStr
 }
 
 int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names) {
-  return files.SaveLines(data.NameFile(FileNameOf(list)), names);
+  return files.SaveLines(data.NameFile(FileNameOf(list)), names, FileKind::List);
+}
+
+bool NamesAreBehind(Files& files, const DataFolder& data, NameList list) {
+  return files.IsBehind(data.NameFile(FileNameOf(list)));
 }
 
 }  // namespace tamo

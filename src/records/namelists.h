@@ -23,5 +23,7 @@ int ReadNames(Files& files, const DataFolder& data, NameList list, QStringList& 
 // A comma makes two names of one, leading blanks are dropped.
 int ReadNamesDelimited(Files& files, const DataFolder& data, NameList list, QStringList& names);
 int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names);
+// The file holds more than was last read of it: see Files::IsBehind.
+bool NamesAreBehind(Files& files, const DataFolder& data, NameList list);
 
 }  // namespace tamo

@@ -12,7 +12,7 @@ int ReadPlanPath(Files& files, const DataFolder& data, PlanPath& path) {
 }
 
 int WritePlanPath(Files& files, const DataFolder& data, const PlanPath& path) {
-  return files.SaveLines(data.PickedPlans(), {path.folders, path.plans});
+  return files.SaveLines(data.PickedPlans(), {path.folders, path.plans}, FileKind::Latest);
 }
 
 }  // namespace tamo

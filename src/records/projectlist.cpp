@@ -9,7 +9,7 @@ int ReadProjectList(Files& files, const DataFolder& data, QStringList& entries) 
 }
 
 int WriteProjectList(Files& files, const DataFolder& data, const QStringList& entries) {
-  return files.SaveLines(data.ProjectList(), entries);
+  return files.SaveLines(data.ProjectList(), entries, FileKind::List);
 }
 
 QString ProjectEntry(const QString& id, const QString& name) {

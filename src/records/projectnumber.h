@@ -23,6 +23,18 @@ struct NextNumber {
 // Numbers never go back: with the clock moved back the count goes on.
 NextNumber NumberAfter(const QString& line, const QDate& today);
 
+// The number behind the last "-" of an id, or alone.
+struct ProjectNumber {
+  QString month;  // yymm; "" when the text ends in no number of a project: lower than all others
+  quint64 running = 0;
+
+  bool operator<(const ProjectNumber& other) const {
+    return month == other.month ? running < other.running : month < other.month;
+  }
+};
+ProjectNumber NumberInId(const QString& id);
+QString DigitsOf(const ProjectNumber& number);  // yymmnnn
+
 // The last number given out, as it stands in the data folder. Error numbers as Files has them;
 // `line` keeps its text when there is nothing to read.
 int ReadProjectNumber(Files& files, const DataFolder& data, QString& line);

@@ -1,9 +1,11 @@
 #include "records/recoveryfile.h"
 
+#include <QMap>
+#include <utility>
+
 #include "common/failure.h"
 #include "common/paths.h"
 #include "common/programname.h"
-#include "common/replacement.h"
 #include "common/textlines.h"
 
 namespace tamo {
@@ -11,8 +13,18 @@ namespace {
 
 const QString kEnding = QStringLiteral(".tamo-recovery");
 
-QString FileName(const ProgramRun& run) {
-  return ProgramNameOf(run).Text() + QLatin1Char('.') + run.run + kEnding;
+const QString kLastLine = QStringLiteral("end");  // of a file that is whole
+
+// The numbers sort as their texts do.
+QString FileName(const ProgramRun& run, int number) {
+  return QStringLiteral("%1.%2.%3%4")
+      .arg(ProgramNameOf(run).Text(), run.run)
+      .arg(number, 9, 10, QLatin1Char('0'))
+      .arg(kEnding);
+}
+
+QString RunOf(const QString& fileName) {
+  return fileName.section(QLatin1Char('.'), 3, 3);
 }
 
 bool IsLeft(const QString& fileName) {
@@ -20,7 +32,7 @@ bool IsLeft(const QString& fileName) {
   if (!fileName.endsWith(kEnding) || !ReadProgramName(fileName, program)) return false;
   if (!program.OfThisMachine()) return false;
   ProgramRun run = program.Run();
-  run.run = fileName.section(QLatin1Char('.'), 3, 3);
+  run.run = RunOf(fileName);
   return RunIsGone(run);
 }
 
@@ -83,26 +95,76 @@ QStringList WaitingEntries::Values(const QString& name) const {
   return found;
 }
 
-int WriteRecovery(Disk& disk, const QString& folder, const ProgramRun& run,
-                  const QList<WaitingEntries>& entries) {
-  const QString path = InFolder(folder, FileName(run));
-  if (entries.isEmpty()) return disk.Exists(path) ? disk.RemoveFile(path) : kNoError;
-  Replacement fresh(disk, path);
-  const int error = fresh.Begin();
-  if (error != kNoError) return error;
-  return fresh.Finish(disk.Write(fresh.Handle(), JoinedLines(LinesOf(entries)).toUtf8()));
+RecoveryFile::RecoveryFile(Disk& disk, const QString& folder)
+    : disk_(disk), folder_(folder), run_(BeginRun()) {}
+
+void RecoveryFile::RemoveAllBut(const QStringList& kept) {
+  paths_.removeIf([&](const QString& path) {
+    if (kept.contains(path)) return false;
+    const int error = disk_.RemoveFile(path);
+    return error == kNoError || error == kFileNotFound;
+  });
 }
 
+int RecoveryFile::Write(const QList<WaitingEntries>& entries) {
+  if (entries.isEmpty()) {
+    removed_ = removed_ || !paths_.isEmpty();
+    confirmed_.clear();
+    RemoveAllBut({});
+    return paths_.isEmpty() ? kNoError : kNoAccess;
+  }
+  const QString path = InFolder(folder_, FileName(run_, number_ + 1));
+  int handle = -1;
+  int error = disk_.OpenNew(path, handle);
+  if (error != kNoError) return error;
+  error = disk_.Write(handle, JoinedLines(LinesOf(entries) + QStringList(kLastLine)).toUtf8());
+  const int closing = disk_.Close(handle);
+  if (error == kNoError) error = closing;
+  if (error != kNoError) {
+    disk_.RemoveFile(path);
+    return error;
+  }
+  ++number_;
+  paths_ += path;
+  RemoveAllBut({confirmed_, path});
+  return kNoError;
+}
+
+int RecoveryFile::Confirm() {
+  if (paths_.isEmpty()) {
+    if (removed_ && disk_.SyncFolder(BareFolder(folder_)) == kNoError) removed_ = false;
+    return removed_ ? kNotConfirmed : kNoError;
+  }
+  if (paths_.last() == confirmed_) return kNoError;
+  int handle = -1;
+  int error = disk_.OpenAtEnd(paths_.last(), handle);
+  if (error != kNoError) return error;
+  error = disk_.Sync(handle);
+  const int closing = disk_.Close(handle);
+  if (error == kNoError) error = closing;
+  if (error == kNoError) error = disk_.SyncFolder(BareFolder(folder_));
+  if (error != kNoError) return error;
+  confirmed_ = paths_.last();
+  removed_ = false;
+  RemoveAllBut({confirmed_});
+  return kNoError;
+}
+
+// Of a run's files the newest that is whole counts.
 QList<WaitingEntries> ReadLeftRecoveries(Disk& disk, const QString& folder, QStringList& files) {
-  QList<WaitingEntries> entries;
+  QMap<QString, QStringList> runs;  // the lines of each
   for (const QString& name : disk.Names(folder)) {
     if (!IsLeft(name)) continue;
     const QString path = InFolder(folder, name);
     QByteArray bytes;
     if (disk.Read(path, bytes) != kNoError) continue;
-    AddEntries(WholeLines(DecodedText(bytes)), entries);
     files += path;
+    const QStringList lines = WholeLines(DecodedText(bytes));
+    QStringList& known = runs[RunOf(name)];
+    if (known.isEmpty() || lines.value(lines.size() - 1) == kLastLine) known = lines;
   }
+  QList<WaitingEntries> entries;
+  for (const QStringList& lines : std::as_const(runs)) AddEntries(lines, entries);
   return entries;
 }
 

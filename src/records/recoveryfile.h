@@ -24,10 +24,33 @@ struct WaitingEntries {
   bool operator==(const WaitingEntries& other) const = default;
 };
 
-// The file of the run in `folder`, written anew as a whole; with nothing to keep it is removed.
-// Error numbers as Disk has them.
-int WriteRecovery(Disk& disk, const QString& folder, const ProgramRun& run,
-                  const QList<WaitingEntries>& entries);
+// The file of one run. An entry costs no wait for the device: it is written into a file with a
+// higher number, beside the one that the device has confirmed, which goes when the new one is
+// confirmed, too. So a killed program loses nothing, and a power cut only what came after the last
+// Confirm. Error numbers as Disk has them.
+class RecoveryFile {
+ public:
+  RecoveryFile(Disk& disk, const QString& folder);
+  ~RecoveryFile() { EndRun(run_); }  // the file stays, as after a crash
+  RecoveryFile(const RecoveryFile&) = delete;
+  RecoveryFile& operator=(const RecoveryFile&) = delete;
+
+  // All of it anew; nothing to keep removes the file.
+  int Write(const QList<WaitingEntries>& entries);
+  // Brings to the device what was written or removed last.
+  int Confirm();
+
+ private:
+  void RemoveAllBut(const QStringList& kept);
+
+  Disk& disk_;
+  const QString folder_;
+  const ProgramRun run_;
+  int number_ = 0;
+  QStringList paths_;     // those that stand, oldest first
+  QString confirmed_;     // which of them the device has; "" when none
+  bool removed_ = false;  // and the device may not know of it
+};
 
 // What runs of this machine left that ended without storing it, oldest names first. `files` are the
 // paths, to be removed once it is kept elsewhere. A damaged file gives what can be read of it.

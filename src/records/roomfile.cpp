@@ -39,7 +39,7 @@ int ReadRoomFile(Files& files, const ProjectFolder& project, const QString& room
 
 int WriteRoomFile(Files& files, const ProjectFolder& project, const QString& room,
                   const QString& height, const QStringList& lines) {
-  return files.SaveLines(project.RoomFile(room), RoomFileLines(height, lines));
+  return files.SaveLines(project.RoomFile(room), RoomFileLines(height, lines), FileKind::Sheet);
 }
 
 }  // namespace tamo

@@ -42,7 +42,7 @@ int ReadRoomNames(Files& files, const ProjectFolder& project, QStringList& names
 }
 
 int WriteRoomNames(Files& files, const ProjectFolder& project, const QStringList& names) {
-  return files.SaveLines(project.RoomNames(), SheetNamesLines(names));
+  return files.SaveLines(project.RoomNames(), SheetNamesLines(names), FileKind::Pairs);
 }
 
 int ReadAreaNames(Files& files, const ProjectFolder& project, QStringList& names) {
@@ -50,7 +50,7 @@ int ReadAreaNames(Files& files, const ProjectFolder& project, QStringList& names
 }
 
 int WriteAreaNames(Files& files, const ProjectFolder& project, const QStringList& names) {
-  return files.SaveLines(project.AreaNames(), SheetNamesLines(names));
+  return files.SaveLines(project.AreaNames(), SheetNamesLines(names), FileKind::Pairs);
 }
 
 }  // namespace tamo

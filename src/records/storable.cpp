@@ -17,14 +17,4 @@ void RequireName(const QString& what, const QString& name) {
   if (!refusal.isEmpty()) throw RunTimeFailure(kInvalidArgument, refusal);
 }
 
-void RequireReadable(int error, const QString& what) {
-  if (error == kNoError || error == kFileNotFound || error == kPathNotFound) return;
-  const QString reason = error == kNoAccess ? QStringLiteral("access to its file is denied")
-                                            : QStringLiteral("the device reports a failure");
-  throw RunTimeFailure(
-      error, QStringLiteral("%1 could not be read: %2. Nothing is stored over it, so that nothing "
-                            "is lost; see to the file, then open this window again.")
-                 .arg(what, reason));
-}
-
 }  // namespace tamo

@@ -10,9 +10,4 @@ namespace tamo {
 // is "room" or "area".
 void RequireName(const QString& what, const QString& name);
 
-// Guards a record against being saved over a file that could not be read when the record was
-// loaded: raises a RunTimeFailure that names `what` unless `error` is 0, 53 or 76 (a missing file
-// is an empty record).
-void RequireReadable(int error, const QString& what);
-
 }  // namespace tamo

@@ -2,9 +2,7 @@
 
 #include "common/columns.h"
 #include "common/numbers.h"
-#include "records/adjustmentfile.h"
 #include "records/itemline.h"
-#include "records/itemsfile.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
 #include "reports/takeoffwalk.h"
@@ -14,9 +12,8 @@ namespace tamo {
 BreakFigures MakeBreak(const ReportSource& source, const Markups& markups,
                        QString& adjustmentText) {
   BreakFigures figures;
-  QStringList items;
-  ReadItemLines(source.files, source.project, items);
-  ReadAdjustment(source.files, source.project, adjustmentText);
+  const QStringList items = CountedItems(source);
+  ReadCountedAdjustment(source, adjustmentText);
   const std::vector<MergedRow> rows = Calculate(source);
   if (rows.empty()) return figures;
 

@@ -47,7 +47,13 @@ int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& sy
   system = PricedSystem();
   if (!NameRefusal(name).isEmpty()) return kFileNotFound;
   const int error = ReadSystemFile(source.files, source.project.SystemFile(name), system.file);
-  if (error != kNoError) return error;
+  if (error != kNoError) {
+    if (!IsMissing(error) && source.uncounted != nullptr)
+      source.uncounted->File(QStringLiteral("the price of \"%1\"").arg(name),
+                             source.project.SystemFile(name), error);
+    system.file = {};
+    return error;
+  }
   system.found = true;
   system.blocks = PricedBlocks(std::exchange(system.file.blocks, {}));
   return kNoError;

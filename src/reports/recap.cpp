@@ -2,9 +2,7 @@
 
 #include "common/columns.h"
 #include "common/numbers.h"
-#include "records/adjustmentfile.h"
 #include "records/itemline.h"
-#include "records/itemsfile.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
 #include "reports/rollup.h"
@@ -165,9 +163,8 @@ class RecapSheet {
 
 Report MinimalRecapSheet(const ReportSource& source, const Markups& markups, bool detailed,
                          QString& adjustment) {
-  QStringList items;
-  ReadItemLines(source.files, source.project, items);
-  ReadAdjustment(source.files, source.project, adjustment);
+  const QStringList items = CountedItems(source);
+  ReadCountedAdjustment(source, adjustment);
   RecapSheet sheet(source, markups, detailed);
   ForEachRow(source, Calculate(source), [&](const MergedRow& row) { sheet.Row(row); });
   sheet.Totals(items, adjustment);

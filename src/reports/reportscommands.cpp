@@ -17,13 +17,14 @@ QString TitleOf(const OrderedList& report) {
 
 void ReportsForm::PrintReport() {
   if (!Reporter.Shown()) return;
-  PrintPages(kit_.platform.printer, Reporter.SharedRows(), kit_.shared.JobID, kit_.shared.JobName);
+  PrintPages(kit_.platform.printer, WithUncounted(Reporter.SharedRows()), kit_.shared.JobID,
+             kit_.shared.JobName);
 }
 
 void ReportsForm::CopyReport() {
   QString text;
   const auto copy = [&](const OrderedList& list) {
-    text += list.SharedRows().Joined();
+    text += WithUncounted(list.SharedRows()).Joined();
     GetDesk().GetMessages().Tell(
         list.Row(0) + QStringLiteral(" has been copied to the computer clipboard.\n"
                                      "Use paste on the mouse right click to paste report into\n"
@@ -38,7 +39,16 @@ void ReportsForm::CopyReport() {
 void ReportsForm::WriteProjectFile() {
   const OrderedList& list = Reporter.Empty() ? Reporter1 : Reporter;
   WriteManagerFile(kit_.files, kit_.shared, kit_.shared.JobID, kit_.shared.JobName,
-                   list.SharedRows());
+                   WithUncounted(list.SharedRows()));
+}
+
+// A report that leaves the window says behind its title what it did not count.
+ListRows ReportsForm::WithUncounted(const ListRows& report) const {
+  const QStringList sentences = uncounted_.Sentences();
+  if (sentences.isEmpty() || report.Count() == 0) return report;
+  QStringList rows = report.List();
+  for (qsizetype i = 0; i < sentences.size(); ++i) rows.insert(i + 1, sentences[i]);
+  return rows;
 }
 
 void ReportsForm::ExitReports() {

@@ -1,8 +1,11 @@
 #include "reports/reportsform.h"
-#include "records/datafolder.h"
+
+#include <algorithm>
+#include <iterator>
 
 #include "common/failure.h"
 #include "common/numbers.h"
+#include "records/datafolder.h"
 #include "reports/bill.h"
 #include "reports/breakdown.h"
 #include "reports/notebook.h"
@@ -67,6 +70,7 @@ void ReportsForm::ClearNotes() {
   WholeQuantities.Hide();
   NotesList.Clear();
   notes_.clear();
+  uncounted_ = {};
 }
 
 void ReportsForm::Make(const std::function<void()>& report) {
@@ -96,16 +100,24 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files, kit_.shared, onProgress, joins_.settings.WholeQuantities()};
+  return {kit_.files, kit_.shared, onProgress, joins_.settings.WholeQuantities(), &uncounted_};
 }
 
 Markups ReportsForm::LoadedMarkups() {
   joins_.pricing.LoadMarkups();
+  for (const ReadFailure& failure : kit_.files.ReadFailures()) {
+    if (failure.path == ProjectFolder(kit_.shared).Markups() ||
+        failure.path == DataFolder(kit_.shared).Markups())
+      uncounted_.File(QStringLiteral("the markups as they stand now"), failure.path,
+                      failure.number);
+  }
   return joins_.pricing.MarkupTexts();
 }
 
 void ReportsForm::TakeNotes(Report& report, bool readsQuantities) {
-  notes_ = std::move(report.notes);
+  notes_.clear();
+  for (const QString& sentence : uncounted_.Sentences()) notes_.push_back({sentence, {}});
+  std::move(report.notes.begin(), report.notes.end(), std::back_inserter(notes_));
   QStringList rows;
   for (const ReportNote& note : notes_) rows += NoteLine(note);
   NotesList.SetRows(rows);

@@ -102,6 +102,7 @@ class ReportsForm : public Form {
   void ClearNotes();
   ReportSource Source();
   Markups LoadedMarkups();
+  ListRows WithUncounted(const ListRows& report) const;
   void ShowWindow();
   void RunByTitle();
   void ShowProgress();
@@ -114,6 +115,7 @@ class ReportsForm : public Form {
   bool running_ = false;     // a report is being made: ticks do not count, no other begins
   bool refreshing_ = false;  // the window stays where it is
   std::vector<ReportNote> notes_;
+  Uncounted uncounted_;       // by the report in the window
   std::vector<bool> detail_;  // of Reporter1: the lines that can be ticked
   ProjectProgress progress_;
   double bottomLineSum_ = 0;  // as a breakdown with an adjustment last made it

@@ -7,6 +7,7 @@
 #include "common/files.h"
 #include "common/textrows.h"
 #include "records/datafolder.h"
+#include "reports/uncounted.h"
 
 namespace tamo {
 
@@ -19,6 +20,8 @@ struct ReportSource {
   std::function<bool(int done, int all)> progress;
   // Bill and copies read the whole quantity column instead of the part that they are used to.
   bool wholeQuantities = false;
+  // Takes what could not be counted; may be null. It outlives the source.
+  Uncounted* uncounted = nullptr;
 };
 
 // Something that the columns of a report hide, with the rows (from 0) of the report that it means.
@@ -38,6 +41,11 @@ struct Report {
 
 // The failure number of a report that was stopped by the user.
 inline constexpr int kReportStopped = 18;
+
+// The bottom line items and the adjustment of the project, for a report that counts them. What
+// can't be read is not counted, and told.
+QStringList CountedItems(const ReportSource& source);
+void ReadCountedAdjustment(const ReportSource& source, QString& adjustment);
 
 // Tells how far the report is; raises a RunTimeFailure (kReportStopped) when it is to stop.
 void TellProgress(const ReportSource& source, int done, int all);

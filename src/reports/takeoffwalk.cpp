@@ -4,7 +4,9 @@
 #include "common/paths.h"
 #include "common/textsahead.h"
 #include "records/areafile.h"
+#include "records/arealine.h"
 #include "records/roomfile.h"
+#include "records/roomline.h"
 #include "records/sheetnames.h"
 
 namespace tamo {
@@ -28,9 +30,9 @@ constexpr int kLinesBetweenTellings = 500;
 class Sheets {
  public:
   explicit Sheets(const ReportSource& source) : source_(source) {
-    if (source.files.ReadText(source.project.RoomNames(), roomNames_) == kNoError)
-      rooms_ = ScanSheetNames(roomNames_);
-    source.files.ReadText(source.project.AreaNames(), areaNames_);
+    ReadNames(QStringLiteral("all rooms"), source.project.RoomNames(), roomNames_);
+    ReadNames(QStringLiteral("all areas"), source.project.AreaNames(), areaNames_);
+    rooms_ = ScanSheetNames(roomNames_);
     areas_ = ScanSheetNames(areaNames_);
   }
 
@@ -49,7 +51,20 @@ class Sheets {
                                          : source_.project.AreaFile(name);
   }
 
+  // As a note names it: The room "101".
+  QString Called(size_t at) const {
+    return (KindOf(at) == SheetKind::Room ? QStringLiteral("the room \"%1\"")
+                                          : QStringLiteral("the area \"%1\""))
+        .arg(NameOf(at));
+  }
+
  private:
+  void ReadNames(const QString& what, const QString& path, QString& text) {
+    const int error = source_.files.ReadForReport(path, text);
+    if (error == kNoError || IsMissing(error) || source_.uncounted == nullptr) return;
+    source_.uncounted->File(what, path, error);
+  }
+
   const ReportSource& source_;
   QString roomNames_;
   QString areaNames_;
@@ -71,14 +86,22 @@ class Walk {
     const SheetKind kind = sheets_.KindOf(at);
     visitor_.BeginSheet(kind, sheets_.NameOf(at));
     QString text;
-    texts_.Next(text);
-    LineScanner scanner = kind == SheetKind::Room ? ScanRoom(text).lines : ScanArea(text);
+    const int error = texts_.Next(text);
+    if (error != kNoError && source_.uncounted != nullptr)
+      source_.uncounted->File(sheets_.Called(at), sheets_.PathOf(at), error);
+    const bool room = kind == SheetKind::Room;
+    const ColumnRange quantity = room ? kRoomQuantityMerged : kAreaQuantityMerged;
+    LineScanner scanner = room ? ScanRoom(text).lines : ScanArea(text);
     QStringView line;
+    int unread = 0;
     while (scanner.Next(line)) {
+      if (LacksQuantity(line, ColumnsOf(line, quantity))) ++unread;
       visitor_.Line(kind, line);
       if (++lines_ % kLinesBetweenTellings == 0) TellProgress(source_, done_, all_);
     }
     visitor_.EndSheet(kind);
+    if (unread > 0 && source_.uncounted != nullptr)
+      source_.uncounted->Lines(sheets_.Called(at), sheets_.PathOf(at), unread);
     TellProgress(source_, ++done_, all_);
   }
 

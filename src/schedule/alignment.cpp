@@ -124,7 +124,7 @@ void GiveHeads(const std::vector<Span>& heads, double size, std::vector<Column>&
   }
   for (Column& column : columns) KeepLowest(size, column);
   for (const Span& head : over) {
-    if (BetweenLower(head, heads, size)) continue;
+    if (!head.single && BetweenLower(head, heads, size)) continue;
     const int near = BestColumn(head, -1.5 * size, columns);
     if (near >= 0 && columns[size_t(near)].heads.empty()) {
       columns[size_t(near)].heads.push_back(head);

@@ -9,7 +9,8 @@ namespace tamo {
 struct Span {
   double from = 0;
   double to = 0;
-  double base = 0;  // of a head: its base line
+  double base = 0;      // of a head: its base line
+  bool single = false;  // of a head: it names no more than one column
 };
 
 // Divides a stretch of a table into columns by where its rows leave a gap in common and where its

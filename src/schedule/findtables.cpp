@@ -5,6 +5,7 @@
 
 #include "schedule/headwords.h"
 #include "schedule/rulelevels.h"
+#include "schedule/tableamount.h"
 #include "schedule/tableframes.h"
 #include "schedule/tablereader.h"
 
@@ -150,9 +151,9 @@ class Search {
     if (within.empty()) return found_.push_back(std::move(found));
     if (within.size() > 1) return;
     Found& other = found_[within.front()];
-    const bool more = ColumnsWithHeads(found) > ColumnsWithHeads(other) &&
-                      Area(found.frame) < kMuchLarger * Area(other.frame);
-    if (more) other = std::move(found);
+    const bool larger = Area(found.frame) < kMuchLarger * Area(other.frame);
+    const bool more = ColumnsWithHeads(found) > ColumnsWithHeads(other);
+    if (larger && (more || HoldsMore(found.tables, other.tables))) other = std::move(found);
   }
 
   // The line over a table that names it.

@@ -7,8 +7,11 @@
 namespace tamo {
 namespace {
 
-constexpr int kLongestHead = 6;  // words
-constexpr int kFewestHeads = 3;  // that make a table
+constexpr int kLongestHead = 6;       // words
+constexpr double kWidestGap = 5;      // of the size, between two lines of heads
+constexpr double kBesideTurned = 14;  // the same where turned heads stand beside them
+constexpr size_t kSample = 60;        // lines of the rows that are looked at for their columns
+constexpr int kFewestHeads = 3;       // that make a table
 
 bool CanBeHeads(const TextLine& line) {
   const int heads = HeadPhrases(line);
@@ -58,6 +61,10 @@ class Finder {
       if (IsTitle(lines_[i])) area.title = lines_[i].phrases.front().text;
     }
     area.bottom = BottomBelow(end);
+    for (size_t i = body_; i < lines_.size() && i < body_ + kSample; ++i) {
+      ++area.bodyLines;
+      for (const Phrase& phrase : lines_[i].phrases) area.bodyMiddles.push_back(phrase.MidX());
+    }
     return area;
   }
 
@@ -120,7 +127,7 @@ class Finder {
     const bool bridged = std::any_of(turned_.begin(), turned_.end(), [&](const Phrase& phrase) {
       return phrase.box.top <= line.base && phrase.box.bottom >= lines_[last_].Bottom() - 2;
     });
-    return !bridged && gap > 5 * line.size;
+    return !bridged && gap > (turnedHeads_ >= 2 ? kBesideTurned : kWidestGap) * line.size;
   }
 
   // The rule that ends the heads, or the middle of the gap below them.
@@ -149,6 +156,7 @@ class Finder {
 bool IsHeadPhrase(const Phrase& phrase) {
   const QStringList words = HeadTokens(phrase.text);
   if (words.isEmpty() || words.size() > kLongestHead) return false;
+  if (words == QStringList{QStringLiteral("GENERAL"), QStringLiteral("NOTES")}) return false;
   int known = 0;
   for (const QString& word : words) {
     if (MeaningOf(word) != kNoMeaning) ++known;

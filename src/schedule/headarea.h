@@ -11,10 +11,12 @@ namespace tamo {
 struct HeadArea {
   bool found = false;
   double top = 0;
-  double bottom = 0;            // here the rows begin
-  std::vector<Phrase> phrases;  // the heads that read to the right
-  std::vector<Phrase> turned;   // and those that are turned
-  QString title;                // of a row over the heads
+  double bottom = 0;                // here the rows begin
+  std::vector<Phrase> phrases;      // the heads that read to the right
+  std::vector<Phrase> turned;       // and those that are turned
+  QString title;                    // of a row over the heads
+  int bodyLines = 0;                // of the first rows: how many lines,
+  std::vector<double> bodyMiddles;  // and the middles of all texts in them
 };
 
 // Looks for the heads in the upper part of a table's drawing. `across`: the levels of its rules

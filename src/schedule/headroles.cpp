@@ -1,6 +1,7 @@
 #include "schedule/headroles.h"
 
 #include <algorithm>
+#include <map>
 
 #include "schedule/headwords.h"
 
@@ -50,7 +51,7 @@ unsigned LetteredSide(const QString& token) {
 }
 
 struct Company {
-  int sides = 0;  // columns whose own head names a side
+  int sides = 0;  // columns with a head that is no more than a side
 };
 
 // The levels of one head from its own up to the top one.
@@ -66,7 +67,7 @@ class HeadReader {
 
   HeadRole Read() const {
     HeadRole role;
-    role.known = all_ != kNoMeaning;
+    role.known = (all_ & ~unsigned(kFillerWord)) != kNoMeaning;
     if (levels_.empty()) return role;
     unsigned below = kNoMeaning;
     for (size_t i = 0; i < levels_.size(); ++i) {
@@ -147,9 +148,10 @@ class HeadReader {
 };
 
 bool NamesSide(const HeadTexts& texts) {
-  if (texts.isEmpty()) return false;
-  const QStringList tokens = HeadTokens(texts.last());
-  return tokens.size() == 1 && SidesOf(MeaningOf(tokens.front())) != 0;
+  return std::any_of(texts.begin(), texts.end(), [](const QString& text) {
+    const QStringList tokens = HeadTokens(text);
+    return tokens.size() == 1 && SidesOf(MeaningOf(tokens.front())) != 0;
+  });
 }
 
 bool OnlyRoom(const HeadTexts& texts) {
@@ -188,6 +190,46 @@ void SettleNumber(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& ro
   }
 }
 
+bool HasWalls(const std::vector<HeadRole>& roles) {
+  return std::any_of(roles.begin(), roles.end(), [](const HeadRole& one) {
+    return one.role >= ColumnRole::North && one.role <= ColumnRole::EastWest;
+  });
+}
+
+// What a column is most likely whose head has no usual word: by the columns beside it and by what
+// the table lacks. Remarks stand last. `part`: its head is no more than MATERIAL or FINISH.
+ColumnRole RoleByPlace(const std::vector<HeadRole>& roles, size_t at, bool part) {
+  const ColumnRole before = at > 0 ? roles[at - 1].role : ColumnRole::Other;
+  if (part && before >= ColumnRole::Floor && before <= ColumnRole::Ceiling) return before;
+  const ColumnRole after = at + 1 < roles.size() ? roles[at + 1].role : ColumnRole::Other;
+  const auto lacks = [&roles](ColumnRole role) { return !Has(roles, role); };
+  if (at == 0 && lacks(ColumnRole::NumberAndName) && lacks(ColumnRole::Number))
+    return ColumnRole::Number;
+  if (before == ColumnRole::Number && lacks(ColumnRole::Name)) return ColumnRole::Name;
+  if (before == ColumnRole::Floor && lacks(ColumnRole::Base)) return ColumnRole::Base;
+  if (after == ColumnRole::Base && lacks(ColumnRole::Floor)) return ColumnRole::Floor;
+  if (before == ColumnRole::Base && !HasWalls(roles)) return ColumnRole::Walls;
+  if (before == ColumnRole::Ceiling && lacks(ColumnRole::Height) && at + 1 < roles.size()) {
+    return ColumnRole::Height;
+  }
+  if (after == ColumnRole::Height && lacks(ColumnRole::Ceiling)) return ColumnRole::Ceiling;
+  if (at + 1 == roles.size() && lacks(ColumnRole::Remarks)) return ColumnRole::Remarks;
+  return ColumnRole::Other;
+}
+
+// A column whose head has no usual word is never sure.
+void SettleUnknown(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& roles) {
+  for (size_t i = 0; i < roles.size(); ++i) {
+    const bool part =
+        (MeaningOfText(heads[i].join(u' ')) & ~unsigned(kFillerWord)) == kMaterialWord;
+    if ((roles[i].known && !part) || roles[i].role != ColumnRole::Other) continue;
+    if (heads[i].isEmpty()) continue;
+    roles[i].role = RoleByPlace(roles, i, part);
+    roles[i].guessed = roles[i].role != ColumnRole::Other;
+    if (part && i + 1 < roles.size()) roles[i + 1].guessed = true;  // perhaps a part of that one
+  }
+}
+
 // MAT and FIN under one head.
 bool ArePartsOfOne(const HeadTexts& a, const HeadTexts& b) {
   const unsigned parts = kMaterialWord | kHeightWord | kColourWord | kDescriptionWord;
@@ -208,6 +250,23 @@ void DoubtTwins(const std::vector<HeadTexts>& heads, std::vector<HeadRole>& role
   }
 }
 
+// Sides that have columns of different number: a part of one may stand under another.
+void DoubtUnevenSides(std::vector<HeadRole>& roles) {
+  const auto isSide = [](const HeadRole& one) {
+    return one.role >= ColumnRole::North && one.role <= ColumnRole::West;
+  };
+  std::map<ColumnRole, int> columns;
+  for (const HeadRole& one : roles) {
+    if (isSide(one)) ++columns[one.role];
+  }
+  const bool even = std::all_of(columns.begin(), columns.end(), [&columns](const auto& side) {
+    return side.second == columns.begin()->second;
+  });
+  for (HeadRole& one : roles) {
+    if (!even && isSide(one)) one.guessed = true;
+  }
+}
+
 int Columns(const std::vector<HeadTexts>& heads, unsigned meaning) {
   return int(std::count_if(heads.begin(), heads.end(), [meaning](const HeadTexts& texts) {
     return (MeaningOfText(texts.join(u' ')) & meaning) != 0;
@@ -224,7 +283,9 @@ std::vector<HeadRole> RolesOf(const std::vector<HeadTexts>& heads) {
   for (const HeadTexts& texts : heads) roles.push_back(HeadReader(texts, company).Read());
   SettleRooms(heads, roles);
   SettleNumber(heads, roles);
+  SettleUnknown(heads, roles);
   DoubtTwins(heads, roles);
+  DoubtUnevenSides(roles);
   return roles;
 }
 

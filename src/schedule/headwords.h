@@ -27,9 +27,10 @@ enum HeadMeaning : unsigned {
   kWindowWord = 1u << 16,
   kCodeWord = 1u << 17,
   kDescriptionWord = 1u << 18,
-  kMakerWord = 1u << 19,  // manufacturer, product, style
-  kSizeWord = 1u << 20,   // width, thickness, area ...
-  kOtherWord = 1u << 21,  // known, and none of a room's finishes
+  kMakerWord = 1u << 19,   // manufacturer, product, style
+  kSizeWord = 1u << 20,    // width, thickness, area ...
+  kOtherWord = 1u << 21,   // known, and none of a room's finishes
+  kFillerWord = 1u << 22,  // says nothing by itself: SEE, GENERAL
   kSideWords = kNorthWord | kEastWord | kSouthWord | kWestWord,
   kFinishWords = kFloorWord | kBaseWord | kWallWord | kSideWords | kCeilingWord,
 };

@@ -50,7 +50,7 @@ class DrawnBefore {
   static qint64 Key(int column, int row) { return (qint64(column) << 32) ^ quint32(row); }
   static bool Same(const Letter& a, const Letter& b) {
     const double near = kSamePlace * a.size;
-    return a.letter == b.letter && a.piece != b.piece && std::abs(a.from - b.from) <= near &&
+    return a.letter == b.letter && std::abs(a.from - b.from) <= near &&
            std::abs(a.base - b.base) <= near && std::abs(a.size - b.size) <= 0.2 * a.size;
   }
 

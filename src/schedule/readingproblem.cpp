@@ -7,6 +7,7 @@ namespace tamo {
 namespace {
 
 constexpr qsizetype kMostLetters = 200000;  // a schedule of 1,000 rooms has half of them
+constexpr double kHeadsHigh = 60;           // points from a table's top in which its heads stand
 constexpr double kBeyond = 12;              // points that a table's rules go on outside of a box
 
 QString Where(bool boxed) {
@@ -73,9 +74,34 @@ QString KindText(TableKind kind) {
   }
 }
 
+// The words of the heads' lowest line beside the left (or right) side of a box, in order.
+QStringList HeadWordsBeside(const SheetDrawing& sheet, const PageBox& box, const PageBox& table,
+                            bool left) {
+  const double bottom = table.top + kHeadsHigh;
+  std::vector<const Word*> beside;
+  for (const Word& word : sheet.words) {
+    const bool outside = left ? word.MidX() < box.left : word.MidX() > box.right;
+    if (outside && word.MidY() > table.top - 2 && word.MidY() < bottom) beside.push_back(&word);
+  }
+  QStringList texts;
+  for (const Word* word : beside) texts.append(word->text.toUpper());
+  return texts;
+}
+
+// A further block of the same schedule stands right beside a side of the box: the heads begin anew
+// there.
+bool BlockBeside(const SheetDrawing& sheet, const PageBox& box, const ScheduleTable& table,
+                 bool left) {
+  const QString head = (left ? table.columns.back() : table.columns.front()).head.toUpper();
+  const QString last = head.section(u' ', -1);
+  return !last.isEmpty() && HeadWordsBeside(sheet, box, table.box, left).contains(last);
+}
+
 // Whether the ruling of a table goes on outside of a side of the box.
-bool GoesOn(const SheetDrawing& sheet, const PageBox& box, const PageBox& table) {
+bool GoesOn(const SheetDrawing& sheet, const PageBox& box, const ScheduleTable& whole) {
+  const PageBox& table = whole.box;
   int beyond = 0;
+  int beside[] = {0, 0};  // to the left, to the right
   for (const Rule& rule : sheet.rules) {
     const double low = rule.along ? table.top : table.left;
     const double high = rule.along ? table.bottom : table.right;
@@ -85,7 +111,19 @@ bool GoesOn(const SheetDrawing& sheet, const PageBox& box, const PageBox& table)
     if (rule.to < first + 5 || rule.from > last - 5) continue;
     const double boxFirst = rule.along ? box.left : box.top;
     const double boxLast = rule.along ? box.right : box.bottom;
-    if (rule.from < boxFirst - kBeyond || rule.to > boxLast + kBeyond) ++beyond;
+    const bool before = rule.from < boxFirst - kBeyond;
+    const bool after = rule.to > boxLast + kBeyond;
+    if (rule.along) {
+      beside[0] += before ? 1 : 0;
+      beside[1] += after ? 1 : 0;
+    } else if (before || after) {
+      ++beyond;
+    }
+  }
+  for (const bool left : {true, false}) {
+    if (beside[left ? 0 : 1] > 0 && !BlockBeside(sheet, box, whole, left)) {
+      beyond += beside[left ? 0 : 1];
+    }
   }
   return beyond >= 3;
 }
@@ -170,7 +208,7 @@ QString TwoTables(const ScheduleTable& other) {
 QString WhyCut(const SheetDrawing& sheet, const PageBox& box,
                const std::vector<ScheduleTable>& tables) {
   const bool cut = std::any_of(tables.begin(), tables.end(), [&](const ScheduleTable& table) {
-    return GoesOn(sheet, box, table.box) || CutsText(sheet, box, table.box);
+    return GoesOn(sheet, box, table) || CutsText(sheet, box, table.box);
   });
   if (!cut) return {};
   return QStringLiteral(

@@ -7,6 +7,7 @@
 #include "schedule/findtables.h"
 #include "schedule/readingproblem.h"
 #include "schedule/sheetdrawing.h"
+#include "schedule/tableamount.h"
 #include "schedule/tablereader.h"
 
 namespace tamo {
@@ -74,7 +75,7 @@ size_t KnownColumns(const std::vector<ScheduleTable>& tables) {
   size_t columns = 0;
   for (const ScheduleTable& table : tables) {
     for (const ScheduleColumn& column : table.columns)
-      columns += column.role == ColumnRole::Other ? 0 : 1;
+      columns += column.role == ColumnRole::Other || column.guessed ? 0 : 1;
   }
   return columns;
 }
@@ -86,10 +87,10 @@ std::vector<ScheduleTable> TablesInBox(const SheetDrawing& drawing, const PageBo
   if (tables.size() > 1) return tables;
   std::vector<ScheduleTable> whole = WholeBox(drawing, box, before);
   if (tables.empty()) return whole;
-  const bool better = whole.size() == 1 && whole[0].kind == tables[0].kind &&
-                      whole[0].rows.size() >= tables[0].rows.size() &&
+  const bool same = whole.size() == 1 && whole[0].kind == tables[0].kind;
+  const bool better = same && whole[0].rows.size() >= tables[0].rows.size() &&
                       KnownColumns(whole) > KnownColumns(tables);
-  return better ? whole : tables;
+  return better || (same && HoldsMore(whole, tables)) ? whole : tables;
 }
 
 bool SameHeads(const ScheduleTable& a, const ScheduleTable& b) {

@@ -117,9 +117,11 @@ FinishRow RowOf(const ScheduleTable& table, const ScheduleRow& from, Dittos& dit
     TakeCell(table.columns[i], cell, row);
   }
   Append(row.cells[kCeiling], row.height);
-  if (HasNumbers(table) && row.cells[kNumber].isEmpty()) {
+  const bool names = table.ColumnOf(ColumnRole::Name) >= 0;
+  if ((HasNumbers(table) || !names) && row.cells[kNumber].isEmpty()) {
     Mark(row.doubts[kNumber], {Doubt::NoNumber});
   }
+  if (!HasNumbers(table) && !names) Mark(row.doubts[kName], {Doubt::NoNumber});
   return row;
 }
 

@@ -29,7 +29,8 @@ struct Part {
   }
 };
 
-// The middle of the gaps between neighbouring letters of a string, 0 when it is set as usual.
+// How wide the narrow gaps between neighbouring letters of a string are, 0 when it is set as usual;
+// the wide ones may be blanks that were not drawn.
 double SpacingOf(const std::vector<Letter>& letters, size_t first, size_t last) {
   std::vector<double> gaps;
   for (size_t i = first + 1; i < last; ++i) {
@@ -37,9 +38,9 @@ double SpacingOf(const std::vector<Letter>& letters, size_t first, size_t last) 
     gaps.push_back(letters[i].from - letters[i - 1].to);
   }
   if (gaps.size() < 2) return 0;
-  const auto middle = gaps.begin() + std::ptrdiff_t(gaps.size() / 2);
-  std::nth_element(gaps.begin(), middle, gaps.end());
-  return *middle > kSpaced * letters[first].size ? *middle : 0;
+  const auto narrow = gaps.begin() + std::ptrdiff_t((gaps.size() - 1) / 4);
+  std::nth_element(gaps.begin(), narrow, gaps.end());
+  return *narrow > kSpaced * letters[first].size ? *narrow : 0;
 }
 
 void CutString(const std::vector<Letter>& letters, size_t first, size_t last,

@@ -12,6 +12,9 @@ namespace {
 
 constexpr double kCovers = 0.45;  // of the rows' height: a rule that divides columns
 constexpr double kNarrowest = 4;  // points of a column
+constexpr size_t kRuledRows = 4;  // rules that go through the rows, of a table with ruled columns
+constexpr double kHeadCell = 5;   // points: the least height of a head's cell
+constexpr double kUnder = 0.25;   // of the way between two heads: right under one between them
 constexpr double kOutside = 4;    // points between the outermost rule and text outside of it
 
 bool Above(const Phrase& upper, const Phrase& lower) {
@@ -20,9 +23,22 @@ bool Above(const Phrase& upper, const Phrase& lower) {
   return lower.base > upper.base + 0.4 * upper.size && shared > 0;
 }
 
+// Whether the rows have texts right under a head, not only under the heads to both sides of it.
+bool HasOwnTexts(const Phrase& phrase, const Phrase& left, const Phrase& right,
+                 const HeadArea& heads) {
+  const double apart = right.MidX() - left.MidX();
+  const auto own =
+      std::count_if(heads.bodyMiddles.begin(), heads.bodyMiddles.end(), [&](double middle) {
+        const double off = std::abs(middle - phrase.MidX());
+        return off < kUnder * apart && off < std::abs(middle - left.MidX()) &&
+               off < std::abs(middle - right.MidX());
+      });
+  return heads.bodyLines > 0 && own * 3 >= heads.bodyLines;
+}
+
 // Whether heads of the line below, to the left and to the right of a head, are parts of what it
 // names: N and E of WALLS, MATL and HGT of CEILING.
-bool StandsOverBoth(const Phrase& phrase, const std::vector<Phrase>& all) {
+bool StandsOverBoth(const Phrase& phrase, const std::vector<Phrase>& all, const HeadArea& heads) {
   const Phrase* left = nullptr;
   const Phrase* right = nullptr;
   for (const Phrase& other : all) {
@@ -33,6 +49,7 @@ bool StandsOverBoth(const Phrase& phrase, const std::vector<Phrase>& all) {
     if (!before && (right == nullptr || other.MidX() < right->MidX())) right = &other;
   }
   if (left == nullptr || right == nullptr) return false;
+  if (HasOwnTexts(phrase, *left, *right, heads)) return false;
   const unsigned over = MeaningOfText(phrase.text);
   const unsigned both[] = {MeaningOfText(left->text), MeaningOfText(right->text)};
   const auto are = [&both](unsigned what) {
@@ -46,14 +63,32 @@ bool StandsOverBoth(const Phrase& phrase, const std::vector<Phrase>& all) {
 }
 
 // The rules from top to bottom that go through the rows.
-std::vector<double> RuledBorders(const SheetDrawing& drawing, double top, double bottom) {
+std::vector<double> RuledBorders(const SheetDrawing& drawing, const HeadArea& heads,
+                                 double bottom) {
   std::vector<double> borders;
-  for (const RuleLevel& level : LevelsOf(drawing.rules, false, top, bottom)) {
-    if (level.covered < kCovers * (bottom - top)) continue;
+  for (const RuleLevel& level : LevelsOf(drawing.rules, false, heads.bottom, bottom)) {
+    if (level.covered < kCovers * (bottom - heads.bottom)) continue;
     if (!borders.empty() && level.at - borders.back() < kNarrowest) continue;
     borders.push_back(level.at);
   }
   return borders;
+}
+
+// Between rows that are ruled, the rules between the lowest heads: where most rows have one cell
+// over several columns.
+void AddHeadBorders(const SheetDrawing& drawing, const HeadArea& heads,
+                    std::vector<double>& borders) {
+  if (!heads.found || borders.size() < kRuledRows) return;
+  const std::vector<double> through = borders;
+  for (const Rule& rule : drawing.rules) {
+    if (rule.along || rule.from > heads.bottom - kHeadCell || rule.to < heads.bottom - 1) continue;
+    if (rule.at < through.front() || rule.at > through.back()) continue;
+    const bool there = std::any_of(borders.begin(), borders.end(), [&rule](double at) {
+      return std::abs(at - rule.at) < kNarrowest;
+    });
+    if (!there) borders.push_back(rule.at);
+  }
+  std::sort(borders.begin(), borders.end());
 }
 
 // From the first to the last text of the heads and rows.
@@ -104,12 +139,19 @@ bool ReachesOver(const SheetDrawing& drawing, const Phrase& head, double from, d
   return left < from - kOutside || right > to + kOutside;
 }
 
+// WAINSCOT and REMARKS never stand over several columns.
+bool NamesOne(const Phrase& head) {
+  const unsigned one = kRemarkWord | kOtherWord | kHeightWord | kNumberWord | kNameWord |
+                       kDescriptionWord | kDoorWord;
+  return (MeaningOfText(head.text) & one) != 0;
+}
+
 std::vector<Span> HeadsBetween(const SheetDrawing& drawing, const std::vector<Phrase>& leaves,
                                double from, double to) {
   std::vector<Span> heads;
   for (const Phrase& leaf : leaves) {
     if (leaf.MidX() < from || leaf.MidX() > to || ReachesOver(drawing, leaf, from, to)) continue;
-    heads.push_back({leaf.box.left, leaf.box.right, leaf.box.bottom});
+    heads.push_back({leaf.box.left, leaf.box.right, leaf.box.bottom, NamesOne(leaf)});
   }
   std::sort(heads.begin(), heads.end(),
             [](const Span& a, const Span& b) { return a.from < b.from; });
@@ -151,7 +193,7 @@ std::vector<Phrase> LeavesOf(const HeadArea& heads) {
   for (const Phrase& phrase : heads.phrases) {
     const bool over = std::any_of(all.begin(), all.end(),
                                   [&phrase](const Phrase& other) { return Above(phrase, other); });
-    if (!over && !StandsOverBoth(phrase, all)) leaves.push_back(phrase);
+    if (!over && !StandsOverBoth(phrase, all, heads)) leaves.push_back(phrase);
   }
   leaves.insert(leaves.end(), heads.turned.begin(), heads.turned.end());
   return leaves;
@@ -159,7 +201,8 @@ std::vector<Phrase> LeavesOf(const HeadArea& heads) {
 
 ColumnBorders ColumnsOf(const SheetDrawing& drawing, const std::vector<TextLine>& lines,
                         const HeadArea& heads, const PageBox& frame) {
-  std::vector<double> ruled = RuledBorders(drawing, heads.bottom, frame.bottom);
+  std::vector<double> ruled = RuledBorders(drawing, heads, frame.bottom);
+  AddHeadBorders(drawing, heads, ruled);
   const std::vector<double> drawn = ruled;
   AddOuter(frame, lines, heads.top, ruled);
   std::vector<double> borders = ruled;

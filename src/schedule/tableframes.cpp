@@ -115,6 +115,29 @@ std::vector<HeadRun> RunsOf(const TextLine& line) {
   return runs;
 }
 
+// Heads over one table though a wide column parts them.
+bool Beside(const HeadRun& a, const HeadRun& b) {
+  const double apart = std::max(a.box.left, b.box.left) - std::min(a.box.right, b.box.right);
+  const double below = std::max(a.box.top, b.box.top) - std::min(a.box.bottom, b.box.bottom);
+  return apart < kHeadsApart / 2 && below < 1.5 * std::max(a.size, b.size);
+}
+
+void JoinBeside(std::vector<HeadRun>& runs) {
+  for (size_t i = 0; i < runs.size(); ++i) {
+    for (size_t k = i + 1; k < runs.size();) {
+      if (!Beside(runs[i], runs[k])) {
+        ++k;
+        continue;
+      }
+      runs[i].box.Take({runs[k].box.left, runs[k].box.top});
+      runs[i].box.Take({runs[k].box.right, runs[k].box.bottom});
+      runs[i].heads += runs[k].heads;
+      runs.erase(runs.begin() + std::ptrdiff_t(k));
+      k = i + 1;
+    }
+  }
+}
+
 bool Stacked(const HeadRun& upper, const HeadRun& lower) {
   const double gap = lower.box.top - upper.box.bottom;
   const double shared =
@@ -137,6 +160,7 @@ std::vector<HeadRun> HeadRunsOf(const std::vector<TextLine>& lines) {
       over->heads += run.heads;
     }
   }
+  JoinBeside(all);
   return all;
 }
 
@@ -148,14 +172,19 @@ PageBox WithRows(const HeadRun& run, const std::vector<TextLine>& lines) {
     if (line.base <= box.bottom + 0.5) continue;
     const double apart = line.base - last;
     bool any = false;
+    double left = box.left;
     double right = box.right;
     for (const Phrase& phrase : line.phrases) {
-      if (phrase.box.left < run.box.left - 3 * run.size || phrase.box.left > box.right) continue;
+      const bool under = phrase.box.left >= run.box.left - 3 * run.size ||
+                         phrase.box.right > run.box.left + run.size;
+      if (!under || phrase.box.left > box.right) continue;
       any = true;
+      left = std::min(left, phrase.box.left);
       right = std::max(right, phrase.box.right);
     }
     if (!any) continue;
     if (apart > kRowsApart * line.size || IsHeadLine(line)) break;
+    box.left = left;
     box.right = right;
     last = line.base;
   }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "schedule/headroles.h"
 #include "schedule/headwords.h"
@@ -138,12 +139,30 @@ class TableReader {
   }
 
   // The column whose texts begin the rows: the numbers, else the first with text in most rows.
-  static int KeyOf(const ScheduleTable& table) {
+  static RowKey KeyOf(const ScheduleTable& table) {
     for (const ColumnRole role :
          {ColumnRole::Number, ColumnRole::NumberAndName, ColumnRole::Name}) {
-      if (table.ColumnOf(role) >= 0) return table.ColumnOf(role);
+      if (table.ColumnOf(role) >= 0) return {table.ColumnOf(role), role, {}};
     }
-    return 0;
+    return {};
+  }
+
+  // ROOM over names alone: where hardly a text of a column of numbers and names is a number.
+  static void SettleBoth(ScheduleTable& table, const std::vector<PlacedWord>& words) {
+    const int both = table.ColumnOf(ColumnRole::NumberAndName);
+    if (both < 0) return;
+    std::map<double, const Word*> firstOfLine;
+    for (const PlacedWord& placed : words) {
+      if (placed.first != both) continue;
+      const Word*& first = firstOfLine[placed.word->base];
+      if (first == nullptr || placed.word->box.left < first->box.left) first = placed.word;
+    }
+    const auto numbers =
+        std::count_if(firstOfLine.begin(), firstOfLine.end(),
+                      [](const auto& line) { return LooksLikeNumber(line.second->text); });
+    if (size_t(numbers) * 4 < firstOfLine.size()) {
+      table.columns[size_t(both)].role = ColumnRole::Name;
+    }
   }
 
   std::vector<PlacedWord> WordsIn(int first, int last) const {
@@ -159,8 +178,13 @@ class TableReader {
 
   void TakeRows(ScheduleTable& table, int first, int last) {
     std::vector<PlacedWord> words = WordsIn(first, last);
+    SettleBoth(table, words);
+    RowKey key = KeyOf(table);
+    for (const ScheduleColumn& column : table.columns) {
+      key.heads.push_back(column.head.toUpper().split(u' ', Qt::SkipEmptyParts));
+    }
     const std::vector<RowPlace> places =
-        RowsOf(words, across_, KeyOf(table), heads_.bottom, frame_.bottom + 2);
+        RowsOf(words, across_, key, heads_.bottom, frame_.bottom + 2);
     TakeTurned(places, first, last, words);
     for (size_t i = 0; i < places.size(); ++i) {
       if (places[i].group) {
@@ -169,6 +193,9 @@ class TableReader {
       }
       table.rows.push_back(
           {CellsOf(words, int(i), last - first + 1), places[i].top, places[i].bottom});
+      for (const int column : places[i].doubtful) {
+        table.rows.back().cells[size_t(column)].Add(Doubt::WhichRow);
+      }
     }
     ShareMergedCells(table, drawing_, across_);
     DoubtHeadless(table);

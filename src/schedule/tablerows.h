@@ -12,13 +12,20 @@ struct RowPlace {
   double top = 0;
   double bottom = 0;
   bool group = false;
-  QString text;  // of a title
+  QString text;               // of a title
+  std::vector<int> doubtful;  // columns in which a line may belong here that went to another row
+};
+
+// The column that begins the rows: the numbers, or the names where there are none.
+struct RowKey {
+  int column = 0;
+  ColumnRole role = ColumnRole::Number;
+  std::vector<QStringList> heads;  // the words over each column, in capitals
 };
 
 // Divides the words below the heads into rows, sets their `row`, and gives the rows' places.
-// `across`: the levels of the rules that cross nearly all of the table, `key` the column with the
-// rooms' numbers.
+// `across`: the levels of the rules that cross nearly all of the table.
 std::vector<RowPlace> RowsOf(std::vector<PlacedWord>& words, const std::vector<double>& across,
-                             int key, double top, double bottom);
+                             const RowKey& key, double top, double bottom);
 
 }  // namespace tamo

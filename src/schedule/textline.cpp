@@ -9,6 +9,7 @@ namespace {
 constexpr double kSameLine = 0.3;   // of the size
 constexpr double kPhraseGap = 0.6;  // of the size: a wider gap is more than a blank
 constexpr double kFixedGap = 0.95;  // the same of a typewriter face
+constexpr double kLeastHigh = 0.6;  // of the size over the base line: a rule that parts words
 
 bool OneBlank(const Word& left, const Word& right) {
   const double size = std::max(left.size, right.size);
@@ -45,9 +46,8 @@ TextLine LineOf(const SheetDrawing& drawing, std::vector<int> words) {
     const Word& word = drawing.words[size_t(index)];
     line.base = std::max(line.base, word.base);
     line.size = std::max(line.size, word.size);
-    const bool follows =
-        before >= 0 && OneBlank(drawing.words[size_t(before)], word) &&
-        !RuleBetween(drawing, drawing.words[size_t(before)].MidX(), word.MidX(), word.MidY());
+    const bool follows = before >= 0 && OneBlank(drawing.words[size_t(before)], word) &&
+                         !RuleBetween(drawing, drawing.words[size_t(before)], word);
     if (follows) {
       AddTo(line.phrases.back(), word, index);
     } else {
@@ -70,9 +70,11 @@ bool Follows(const Word& before, const Word& word) {
 
 }  // namespace
 
-bool RuleBetween(const SheetDrawing& drawing, double left, double right, double y) {
-  return std::any_of(drawing.rules.begin(), drawing.rules.end(), [=](const Rule& rule) {
-    return !rule.along && rule.at > left && rule.at < right && rule.from <= y && rule.to >= y;
+bool RuleBetween(const SheetDrawing& drawing, const Word& left, const Word& right) {
+  const double top = right.base - kLeastHigh * right.size;
+  return std::any_of(drawing.rules.begin(), drawing.rules.end(), [&](const Rule& rule) {
+    return !rule.along && rule.at > left.MidX() && rule.at < right.MidX() && rule.from <= top &&
+           rule.to >= right.MidY();
   });
 }
 

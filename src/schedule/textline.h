@@ -36,8 +36,9 @@ std::vector<TextLine> LinesOf(const SheetDrawing& drawing);
 // The turned texts of a drawing, one phrase a line of them; `words` is in the order of reading.
 std::vector<Phrase> TurnedPhrasesOf(const SheetDrawing& drawing);
 
-// Whether a rule from top to bottom stands between two places at the height `y`.
-bool RuleBetween(const SheetDrawing& drawing, double left, double right, double y);
+// Whether a rule stands between two words of a line and is as high as they are: one that only pokes
+// into the line from below parts nothing.
+bool RuleBetween(const SheetDrawing& drawing, const Word& left, const Word& right);
 
 // The size that most words have.
 double UsualSize(const SheetDrawing& drawing);

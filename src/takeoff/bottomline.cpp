@@ -1,10 +1,11 @@
 #include "takeoff/bottomline.h"
 
 #include "common/chain.h"
+#include "common/failure.h"
+#include "records/datafolder.h"
 #include "records/itemline.h"
 #include "records/itemsfile.h"
 #include "records/namelists.h"
-#include "records/storable.h"
 #include "takeoff/bottomlinemoney.h"
 
 namespace tamo {
@@ -67,26 +68,33 @@ void BottomLine::FollowProject() {
 
 void BottomLine::LoadItems() {
   QStringList names;
-  itemsError_ = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Items, names);
+  ReadNamesDelimited(kit_.files, kit_.shared, NameList::Items, names);
   ItemList.SetRows(names);
 }
 
 void BottomLine::SaveItems() {
-  RequireReadable(itemsError_, QStringLiteral("The list of item names"));
   WriteNames(kit_.files, kit_.shared, NameList::Items, ItemList.Rows());
 }
 
 void BottomLine::LoadoiList() {
   QStringList lines;
-  listError_ = ReadItemLines(kit_.files, kit_.shared, lines);
+  ReadItemLines(kit_.files, kit_.shared, lines);
   oiList.SetRows(lines);
   listJob_ = kit_.shared.JobID;
   unsaved_ = false;
 }
 
+void BottomLine::ReadAgain() {
+  if (NamesAreBehind(kit_.files, kit_.shared, NameList::Items)) LoadItems();
+  if (unsaved_ || listJob_.isEmpty() || listJob_ != kit_.shared.JobID) return;
+  QStringList lines;
+  if (kit_.files.IsBehind(ProjectFolder(kit_.shared).Items()) &&
+      ReadItemLines(kit_.files, kit_.shared, lines) == kNoError)
+    oiList.Refill(lines);
+}
+
 void BottomLine::SaveoiList() {
   if (!listJob_.isEmpty()) {
-    RequireReadable(listError_, QStringLiteral("The list of bottom line items"));
     WriteItemLines(kit_.files, DataFolder(kit_.shared).Project(listJob_), oiList.Rows());
   }
   unsaved_ = false;

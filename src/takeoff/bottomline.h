@@ -38,6 +38,8 @@ class BottomLine : public Form {
   void SaveItems();
   void LoadoiList();
   void SaveoiList();
+  // What is behind its file is read again; the estimator stays where he is.
+  void ReadAgain();
 
  private:
   void Bind();
@@ -52,8 +54,6 @@ class BottomLine : public Form {
   const Kit kit_;
   TakeoffReportRefresh& reports_;
   QString listJob_;       // the project whose lines stand in oiList
-  int itemsError_ = 0;    // why the names could not be read
-  int listError_ = 0;     // why the lines could not be read
   bool unsaved_ = false;  // a line was stored in oiList and not yet written
 };
 

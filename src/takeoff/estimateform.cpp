@@ -92,15 +92,14 @@ void EstimateForm::LoadDescriptions() {
 
 void EstimateForm::LoadAreas() {
   QStringList names;
-  areasError_ = ReadAreaNames(kit_.files, kit_.shared, names);
-  if (areasError_ != kNoError) error_ = areasError_;
+  const int failure = ReadAreaNames(kit_.files, kit_.shared, names);
+  if (IsMissing(failure)) error_ = failure;
   AreasList.SetRows(names);
   areaIndex_ = AreasList.Index();
   UpdateStatus();
 }
 
 void EstimateForm::SaveAreas() {
-  RequireReadable(areasError_, QStringLiteral("The list of areas"));
   WriteAreaNames(kit_.files, kit_.shared, AreasList.Rows());
 }
 
@@ -109,10 +108,12 @@ void EstimateForm::LoadArea() {
   AreaList.Clear();
   QStringList lines;
   const int failure = ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), lines);
-  lines_.Begin(Area.Text(), failure);
-  unread_ = error_ != kNoError;
-  if (failure != kNoError) error_ = failure;
-  if (error_ == kNoError) AreaList.AddAll(lines);
+  lines_.Begin(Area.Text());
+  // Of a file that can't be read now come the lines that it had when it could.
+  const bool missing = IsMissing(failure);
+  unread_ = error_ != kNoError && (missing || failure == kNoError);
+  if (missing) error_ = failure;
+  if (!unread_) AreaList.AddAll(lines);
   UpdateStatus();
   if (kept >= 0 && kept < AreaList.Count()) AreaList.SetIndex(kept);
 }
@@ -123,8 +124,7 @@ void EstimateForm::PrepareSave() {
   lines_.RequireStorable(Area.Text());
   if (!unread_) return;
   QStringList lines;
-  const int failure = ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), lines);
-  RequireReadable(failure, QStringLiteral("Area \"%1\"").arg(Area.Text()));
+  ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), lines);
   unread_ = false;
   for (qsizetype i = 0; i < lines.size(); ++i) AreaList.Insert(static_cast<int>(i), lines[i]);
 }
@@ -133,6 +133,23 @@ void EstimateForm::SaveArea() {
   PrepareSave();
   WriteAreaFile(kit_.files, kit_.shared, Area.Text(), AreaList.Rows());
   reports_.PrintReport();
+}
+
+void EstimateForm::ReadAgain() {
+  if (!lines_.OfOpenProject()) return;
+  const ProjectFolder project(kit_.shared);
+  QStringList rows;
+  if (kit_.files.IsBehind(project.AreaNames()) &&
+      ReadAreaNames(kit_.files, kit_.shared, rows) == kNoError) {
+    const QStringList before = AreasList.Rows();
+    AreasList.Refill(rows);
+    areaIndex_ = AreasList.RowAfter(before, areaIndex_);
+  }
+  if (!Area.Empty() && NameStands() && !unread_ &&
+      kit_.files.IsBehind(project.AreaFile(Area.Text())) &&
+      ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), rows) == kNoError)
+    AreaList.Refill(rows);
+  UpdateStatus();
 }
 
 void EstimateForm::LoadSystem() {

@@ -49,6 +49,8 @@ class EstimateForm : public TakeoffForm {
   void LoadArea();
   void SaveArea();
   void LoadSystem();  // the system named in eDescription
+  // What is behind its file is read again; the estimator stays where he is.
+  void ReadAgain();
 
  private:
   // estimateform.cpp
@@ -102,7 +104,6 @@ class EstimateForm : public TakeoffForm {
   // and reads nothing while it is not 0: after a new area, the next area that is opened shows no
   // lines until a system is loaded (held by a test).
   int error_ = 0;
-  int areasError_ = 0;  // why the list of areas could not be read
   LinesInWork lines_{kit_.shared, "area"};
   bool unread_ = false;     // the file of the area was not read: AreaList lacks its lines
   bool following_ = false;  // a name is followed: the focus goes where the estimator sends it

@@ -5,15 +5,13 @@
 
 namespace tamo {
 
-void LinesInWork::Begin(const QString& name, int error) {
+void LinesInWork::Begin(const QString& name) {
   job_ = shared_.JobID;
   name_ = name;
-  error_ = error;
 }
 
 void LinesInWork::Forget() {
   name_.clear();
-  error_ = kNoError;
 }
 
 void LinesInWork::FollowProject() {
@@ -33,8 +31,6 @@ void LinesInWork::RequireStorable(const QString& name) const {
                        "and press Enter.")
             .arg(what_, whose));
   }
-  const QString shown = what_.left(1).toUpper() + what_.mid(1);
-  RequireReadable(error_, QStringLiteral("%1 \"%2\"").arg(shown, name));
 }
 
 }  // namespace tamo

@@ -13,9 +13,8 @@ class LinesInWork {
   // `what` is "room" or "area". `shared` outlives this.
   LinesInWork(const SharedFields& shared, const QString& what) : shared_(shared), what_(what) {}
 
-  // The lines of `name` in the open project were loaded, or are begun when it has none. `error`:
-  // why its file could not be read, 0 or 53 when it could.
-  void Begin(const QString& name, int error);
+  // The lines of `name` in the open project were loaded, or are begun when it has none.
+  void Begin(const QString& name);
   // The list was emptied with the name.
   void Forget();
   // The form goes over to the open project; nothing stands in its list.
@@ -25,8 +24,7 @@ class LinesInWork {
   bool AreOf(const QString& name) const { return OfOpenProject() && name_ == name; }
 
   // Raises a RunTimeFailure that says why lines under `name` can't be stored: no such file name,
-  // lines of another project or another name, a file that could not be read. Asked before anything
-  // on the screen changes.
+  // lines of another project or another name. Asked before anything on the screen changes.
   void RequireStorable(const QString& name) const;
 
  private:
@@ -34,7 +32,6 @@ class LinesInWork {
   QString what_;
   QString job_;
   QString name_;
-  int error_ = 0;
 };
 
 }  // namespace tamo

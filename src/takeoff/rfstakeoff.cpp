@@ -143,6 +143,7 @@ void RFSForm::SaveAndWalkOn() {
 
 // To the next line, through rooms without lines, to the end of the last room.
 void RFSForm::EstimateRFS() {
+  const Files::Look look(kit_.files);
   place.room = RoomsList.Index();
   int line = RoomList.Index();
   for (;;) {

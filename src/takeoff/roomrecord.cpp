@@ -11,13 +11,12 @@ namespace tamo {
 
 void RoomRecord::LoadRooms() {
   QStringList names;
-  roomsError_ = ReadRoomNames(kit_.files, kit_.shared, names);
+  ReadRoomNames(kit_.files, kit_.shared, names);
   screen_.RoomsList.SetRows(names);
   screen_.UpdateStatus();
 }
 
 void RoomRecord::SaveRooms() {
-  RequireReadable(roomsError_, QStringLiteral("The list of rooms"));
   WriteRoomNames(kit_.files, kit_.shared, screen_.RoomsList.Rows());
 }
 
@@ -25,8 +24,8 @@ void RoomRecord::LoadRoom() {
   const QString room = screen_.Room.Text();
   screen_.RoomList.Clear();
   RoomFile file;
-  const int error = ReadRoomFile(kit_.files, kit_.shared, room, file);
-  lines_.Begin(room, error);
+  ReadRoomFile(kit_.files, kit_.shared, room, file);
+  lines_.Begin(room);
   if (file.hasHeight) {
     screen_.How.SetText(file.height);
     screen_.CopyHeight = file.height;
@@ -48,12 +47,11 @@ void RoomRecord::SaveRoom() {
 
 void RoomRecord::LoadAreas() {
   QStringList names;
-  areasError_ = ReadNames(kit_.files, kit_.shared, NameList::FinishAreas, names);
+  ReadNames(kit_.files, kit_.shared, NameList::FinishAreas, names);
   screen_.AreaList.SetRows(names);
 }
 
 void RoomRecord::SaveAreas() {
-  RequireReadable(areasError_, QStringLiteral("The list of finish areas"));
   WriteNames(kit_.files, kit_.shared, NameList::FinishAreas, screen_.AreaList.Rows());
 }
 
@@ -78,6 +76,36 @@ bool RoomRecord::FollowName() {
   });
   if (!loaded) kit_.desk.Focus(screen_.Room);
   return loaded;
+}
+
+void RoomRecord::ReadAgain() {
+  if (!lines_.OfOpenProject()) return;
+  const ProjectFolder project(kit_.shared);
+  if (NamesAreBehind(kit_.files, kit_.shared, NameList::FinishAreas)) LoadAreas();
+  if (kit_.files.IsBehind(project.RoomNames())) ReadNamesAgain();
+  const QString room = screen_.Room.Text();
+  if (!room.isEmpty() && NameStands() && kit_.files.IsBehind(project.RoomFile(room)))
+    ReadLinesAgain();
+  screen_.UpdateStatus();
+}
+
+void RoomRecord::ReadNamesAgain() {
+  QStringList names;
+  if (ReadRoomNames(kit_.files, kit_.shared, names) != kNoError) return;
+  const QStringList before = screen_.RoomsList.Rows();
+  screen_.RoomsList.Refill(names);
+  screen_.place.room = screen_.RoomsList.RowAfter(before, screen_.place.room);
+}
+
+void RoomRecord::ReadLinesAgain() {
+  RoomFile file;
+  if (ReadRoomFile(kit_.files, kit_.shared, screen_.Room.Text(), file) != kNoError) return;
+  file.lines.removeAll(QString());
+  const QStringList before = screen_.RoomList.Rows();
+  screen_.RoomList.Refill(file.lines);
+  screen_.place.line = screen_.RoomList.RowAfter(before, screen_.place.line);
+  if (screen_.How.Empty()) screen_.How.SetText(file.height);
+  if (screen_.CopyHeight.isEmpty()) screen_.CopyHeight = file.height;
 }
 
 void RoomRecord::ForgetLines() {

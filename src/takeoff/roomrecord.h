@@ -30,18 +30,21 @@ class RoomRecord {
   // No other name stands in Room than that of the lines below (one that was refused, say).
   bool NameStands() const { return screen_.Room.Empty() || lines_.AreOf(screen_.Room.Text()); }
   void RequireStorable() const { lines_.RequireStorable(screen_.Room.Text()); }
+  // What is behind its file is read again; the estimator stays where he is.
+  void ReadAgain();
   void ForgetLines();  // no room's lines stand on the screen
   // When another project is open than the one whose room stands here, nothing of it may be stored
   // there. What Copy Room took stays.
   void FollowProject();
 
  private:
+  void ReadNamesAgain();
+  void ReadLinesAgain();
+
   RFSScreen& screen_;
   const Kit kit_;
   TakeoffReportRefresh& reports_;
   LinesInWork lines_{kit_.shared, "room"};
-  int roomsError_ = 0;  // why the list of rooms could not be read
-  int areasError_ = 0;  // why the list of finish areas could not be read
 };
 
 }  // namespace tamo

@@ -43,8 +43,9 @@ TakeoffSystem LoadTakeoffSystem(Files& files, const SharedFields& shared, const 
     }
   }
   TakeoffSystem system;
-  if (error == kNoError) system.units = head.units;
-  system.lineColour = error == kNoError ? head.lineColor : QString();
+  // Of a file that can't be read now the head is the one that it had when it could.
+  if (!IsMissing(error)) system.units = head.units;
+  system.lineColour = IsMissing(error) ? QString() : head.lineColor;
   if (system.lineColour.size() != 9) system.lineColour = shared.SettingsLineColor;
   return system;
 }

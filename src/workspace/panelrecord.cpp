@@ -78,13 +78,15 @@ QStringList PanelRecord::Texts() const {
 void PanelRecord::ReadRecord(const QString& picked) {
   kit_.shared.LoadingJobNFO = QStringLiteral("True");
   panel_.JobNFOFrame.Hide();
-  JobNFO record = std::exchange(emptied_, false) ? JobNFO() : RecordOfFields();
+  const bool other = std::exchange(emptied_, false);
+  JobNFO record = other ? JobNFO() : RecordOfFields();
   record.planLocation.clear();
-  if (ReadProjectRecord(kit_.files, kit_.shared, record) != kNoError) {
+  if (const int error = ReadProjectRecord(kit_.files, kit_.shared, record); error != kNoError) {
     kit_.shared.LoadingJobNFO = QStringLiteral("False");
     stored_ = Texts();
-    // A project without a record has no plan; the one on the screen belongs to another project.
-    if (picked.isEmpty()) LeavePlan();
+    // A project without a record has no plan; the one on the screen belongs to another project. One
+    // whose record can't be read now keeps what stands.
+    if (picked.isEmpty() && (other || IsMissing(error))) LeavePlan();
     return;
   }
   TakeFields(record);

@@ -4,6 +4,37 @@
 #include "workspace/projectdelete.h"
 
 namespace tamo {
+namespace {
+
+constexpr qsizetype kMostNamed = 10;
+
+QString Listed(const QStringList& paths) {
+  QString text;
+  for (const QString& path : paths.mid(0, kMostNamed)) text += QLatin1Char('\n') + path;
+  if (paths.size() > kMostNamed)
+    text += QStringLiteral("\nand %1 more").arg(paths.size() - kMostNamed);
+  return text;
+}
+
+QString ToldOf(const ProjectCopy& copy, const QString& source, const QString& target) {
+  if (!copy.left.isEmpty())
+    return QStringLiteral(
+               "%1 was not copied into %2: these files can't be read, and half a "
+               "project would look like a whole one.%3")
+        .arg(source, target, Listed(copy.left));
+  if (!copy.done)
+    return QStringLiteral("%1 was not copied into %2: the folder of one of them can't be found.")
+        .arg(source, target);
+  const QString done = QStringLiteral("%1 has been copied into %2.").arg(source, target);
+  if (copy.waiting.isEmpty()) return done;
+  return done +
+         QStringLiteral(
+             "\n\nThese files of the copy could not be written yet. They wait in "
+             "memory and are tried again:") +
+         Listed(copy.waiting);
+}
+
+}  // namespace
 
 void ProjectCopies::CopyProject() {
   kit_.shared.CopyJobID = kit_.shared.JobID;
@@ -27,8 +58,7 @@ void ProjectCopies::PasteProject() {
     return;
   }
   if (!parts_.hold.NeedWritable()) return;
-  CopyProjectFiles(kit_.files, kit_.shared, source, target);
-  messages.Tell(QStringLiteral("%1 has been copied into %2.").arg(source, target));
+  messages.Tell(ToldOf(CopyProjectFiles(kit_.files, kit_.shared, source, target), source, target));
 }
 
 void ProjectCopies::DeleteProject() {
@@ -39,8 +69,20 @@ void ProjectCopies::DeleteProject() {
   if (name.isEmpty() || id.isEmpty()) return;
   if (!kit_.desk.GetMessages().Ask(QStringLiteral("Delete %1\r%2 ?").arg(id, name))) return;
   if (!parts_.hold.NeedWritable()) return;
-  parts_.picker.RemoveProject();
-  DeleteProjectFiles(kit_.files, kit_.shared, id);
+  const QString folder = DataFolder(kit_.shared).Project(id).Path();
+  if (kit_.files.IsGone(folder)) {
+    kit_.desk.GetMessages().Tell(
+        QStringLiteral("The folder %1 can't be reached. Nothing was deleted.").arg(folder));
+    return;
+  }
+  const QStringList left = DeleteProjectFiles(kit_.files, kit_.shared, id);
+  // What is left of it can be opened, and deleted once more.
+  const bool stays = HoldsProjectFiles(kit_.files, kit_.shared, id);
+  if (!stays) parts_.picker.RemoveProject();
+  if (stays)
+    kit_.desk.GetMessages().Tell(QStringLiteral("%1 could not be deleted whole, so it stays in the "
+                                                "project list. Still there:%2")
+                                     .arg(id, Listed(left)));
   projects_.ClearProject();
   near_.followers.ClearReports();
 }

@@ -1,5 +1,7 @@
 #include "workspace/projectcopy.h"
 
+#include <vector>
+
 #include "common/failure.h"
 #include "common/paths.h"
 #include "common/replacement.h"
@@ -14,27 +16,54 @@ bool IsProject(Files& files, const DataFolder& data, const QString& id) {
   return NameRefusal(id).isEmpty() && files.GetDisk().IsFolder(BareFolder(data.Project(id).Path()));
 }
 
-void CopyFile(Files& files, const QString& from, const QString& to, const QString& targetId,
-              ProjectCopy& result) {
+// One file of a copy: where it goes, and its text.
+struct CopiedFile {
+  QString to;
   QString text;
-  if (files.ReadText(from, text) != kNoError) {
-    result.left << from;
-  } else if (files.SaveText(to, CopiedText(FileNameOf(from), text, targetId)) != kNoError) {
-    result.left << to;
-  } else {
-    ++result.copied;
+};
+
+// The files that stand directly in `folder`, those too that only wait to be saved there. Paths.
+QStringList FilesIn(Files& files, const QString& folder) {
+  Disk& disk = files.GetDisk();
+  QStringList paths;
+  for (const QString& name : disk.Names(folder)) {
+    const QString path = InFolder(folder, name);
+    const bool passing = name.endsWith(QLatin1String(kUnfinishedEnding)) ||
+                         name.startsWith(QLatin1String(kInUseName), Qt::CaseInsensitive);
+    if (!passing && !disk.IsFolder(path)) paths << path;
+  }
+  for (const Files::Pending& waiting : files.PendingSaves()) {
+    const bool inside =
+        FolderOf(NativePath(waiting.path)).compare(NativePath(folder), Qt::CaseInsensitive) == 0;
+    if (inside && !waiting.save && !paths.contains(waiting.path, Qt::CaseInsensitive))
+      paths << waiting.path;
+  }
+  return paths;
+}
+
+// Reads the files of one folder; what can't be read goes to `left`.
+void ReadFolder(Files& files, const QString& from, const QString& to, const QString& targetId,
+                std::vector<CopiedFile>& copies, QStringList& left) {
+  for (const QString& path : FilesIn(files, from)) {
+    QString text;
+    const QString name = FileNameOf(path);
+    if (files.ReadText(path, text) != kNoError) {
+      left << path;
+    } else {
+      copies.push_back({InFolder(to, name), CopiedText(name, text, targetId)});
+    }
   }
 }
 
-// The files that stand directly in `from`; folders are passed over.
-void CopyFolder(Files& files, const QString& from, const QString& to, const QString& targetId,
-                ProjectCopy& result) {
-  Disk& disk = files.GetDisk();
-  for (const QString& name : disk.Names(from)) {
-    const QString path = InFolder(from, name);
-    if (disk.IsFolder(path) || name.endsWith(QLatin1String(kUnfinishedEnding))) continue;
-    if (name.startsWith(QLatin1String(kInUseName), Qt::CaseInsensitive)) continue;
-    CopyFile(files, path, InFolder(to, name), targetId, result);
+// The text that stands in the target is replaced, not merged with the copy.
+void WriteCopies(Files& files, const std::vector<CopiedFile>& copies, ProjectCopy& result) {
+  for (const CopiedFile& copy : copies) {
+    files.Forget(copy.to);
+    if (files.SaveText(copy.to, copy.text) == kNoError) {
+      ++result.copied;
+    } else {
+      result.waiting << copy.to;
+    }
   }
 }
 
@@ -57,14 +86,20 @@ ProjectCopy CopyProjectFiles(Files& files, const DataFolder& data, const QString
   const QString source = BareFolder(data.Project(sourceId).Path());
   const QString target = BareFolder(data.Project(targetId).Path());
   if (files.Resolved(source) == files.Resolved(target)) return result;
-  result.done = true;
-  CopyFolder(files, source, target, targetId, result);
+  std::vector<CopiedFile> copies;
+  QStringList folders;
+  ReadFolder(files, source, target, targetId, copies, result.left);
   for (const char* name : kCopiedSubFolders) {
     const QString from = files.Resolved(InFolder(source, QLatin1String(name)));
     const QString to = files.Resolved(InFolder(target, QLatin1String(name)));
-    files.MakeFolder(to);
-    CopyFolder(files, from, to, targetId, result);
+    folders << to;
+    ReadFolder(files, from, to, targetId, copies, result.left);
   }
+  // Half a project is worse than none: it looks like a whole one.
+  if (!result.left.isEmpty()) return result;
+  result.done = true;
+  for (const QString& folder : folders) files.MakeFolder(folder);
+  WriteCopies(files, copies, result);
   return result;
 }
 

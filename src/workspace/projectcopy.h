@@ -8,12 +8,13 @@
 
 namespace tamo {
 
-// What a paste did. Files that could not be read or written are passed over by the command; their
-// paths stand here.
+// What a paste did. It is whole, or nothing was copied, or what is missing stands here.
 struct ProjectCopy {
-  bool done = false;  // false: one of the projects has no folder, or no id that can be one
+  bool done = false;  // false: nothing was copied, because one of the projects has no folder, or no
+                      // id that can be one, or because files of the source can't be read
   int copied = 0;
-  QStringList left;
+  QStringList left;     // the paths of the source that can't be read
+  QStringList waiting;  // those of the target that could not be written yet: saves that wait
 };
 
 // The text of a copied file: every line ended by CR LF. In a project's record every line of exactly
@@ -22,8 +23,8 @@ struct ProjectCopy {
 QString CopiedText(const QString& fileName, const QString& text, const QString& targetId);
 
 // Fills project `targetId` from `sourceId`: the files that stand directly in the source's folder,
-// then those of Systems, Rooms and ATOs. Files of the same name in the target are replaced. Plans
-// and project manager files are not copied.
+// then those of Systems, Rooms and ATOs. Saves that still wait are copied as they wait. Files of
+// the same name in the target are replaced. Plans and project manager files are not copied.
 ProjectCopy CopyProjectFiles(Files& files, const DataFolder& data, const QString& sourceId,
                              const QString& targetId);
 

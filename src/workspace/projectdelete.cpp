@@ -60,9 +60,24 @@ QStringList DeleteProjectFiles(Files& files, const DataFolder& data, const QStri
     }
     RemoveFolder(disk, folder);
   }
+  files.ForgetFolder(folder);
   QStringList left;
   StillThere(disk, folder, left);
   return left;
+}
+
+bool HoldsProjectFiles(Files& files, const DataFolder& data, const QString& id) {
+  Disk& disk = files.GetDisk();
+  const QString project = BareFolder(data.Project(id).Path());
+  QStringList folders{project};
+  for (const char* part : kProjectSubFolders) folders << InFolder(project, QLatin1String(part));
+  for (const QString& folder : folders) {
+    for (const QString& name : disk.Names(files.Resolved(folder))) {
+      const bool sign = name.startsWith(QLatin1String(kInUseName), Qt::CaseInsensitive);
+      if (!sign && !disk.IsFolder(InFolder(folder, name))) return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace tamo

@@ -17,4 +17,7 @@ namespace tamo {
 // paths that are still there: empty when the project is gone.
 QStringList DeleteProjectFiles(Files& files, const DataFolder& data, const QString& id);
 
+// Some file of the project itself is there, not only what the estimator put beside it.
+bool HoldsProjectFiles(Files& files, const DataFolder& data, const QString& id);
+
 }  // namespace tamo

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QSet>
+#include <QString>
+#include <QStringList>
 
 #include "common/form.h"
 #include "common/kit.h"
@@ -8,8 +9,8 @@
 namespace tamo {
 
 // The ids that new projects get: the estimator's number, "-", and a number that all estimators
-// share, counted up until neither the project list nor a folder of a project has that id. An id
-// never stands for two projects.
+// share. It is higher than any in Project.num, in the project list and among the folders of
+// projects. An id never stands for two projects.
 class ProjectIds {
  public:
   // The field holds the estimator's number; it outlives this.
@@ -21,13 +22,17 @@ class ProjectIds {
   void LoadProjectNumber();
   // Project.num becomes JobID, unless that is empty.
   void SaveProjectNumber();
-  // Makes the folders of the new project JobID. When its id was given to another project since it
-  // was shown (`entries` is the project list), it is counted up once more.
+  // Makes the folders of the new project JobID. When another project got its number, or a higher
+  // one, since it was shown (`entries` is the project list), it is counted up once more.
   void MakeProject(const QStringList& entries);
 
  private:
-  QSet<QString> TakenIds(const QStringList& entries) const;
+  // The ids in the list and of the folders.
+  QStringList KnownIds(const QStringList& entries) const;
+  QString FreeId(const QString& id, const QStringList& known) const;
   bool MakeFolderOf(const QString& id);
+  bool SharesItsNumber(const QString& id) const;
+  void GiveUpFolderOf(const QString& id);
 
   const Kit kit_;
   const TextField& estimator_;

@@ -2,6 +2,7 @@
 
 #include "common/columns.h"
 #include "common/paths.h"
+#include "records/datafolder.h"
 
 namespace tamo {
 
@@ -54,6 +55,9 @@ void ProjectLifeCycle::OpenSelected() {
   panel.JobsList.Hide();
   const QString id = parts_.picker.SelectedId();
   if (id.isEmpty()) return;
+  const ProjectFolder project = DataFolder(kit_.shared).Project(id);
+  kit_.files.ExpectFolder(project.Path());
+  kit_.files.Expect(project.Record());
   kit_.shared.JobID = id;
   panel.JobName.SetText(From(entry, 14));
   kit_.shared.LoadingJobNFO = QStringLiteral("False");
@@ -70,6 +74,23 @@ void ProjectLifeCycle::ReadOpenProject() {
   near_.plan.SetProjectName(parts_.panel.JobName.Text());
   if (!near_.plan.Fields().planLocation.isEmpty()) near_.plan.LoadPDF();
   near_.windows.BringUpShell();
+}
+
+void ProjectLifeCycle::ReadBehind() {
+  Files& files = kit_.files;
+  if (files.IsBehind(DataFolder(kit_.shared).ProjectList())) parts_.picker.LoadJobsList();
+  if (kit_.shared.JobID.isEmpty()) return;
+  const ProjectFolder project(kit_.shared);
+  if (files.IsBehind(project.Lock())) parts_.lock.LoadLocked();
+  // A record brings its plan and the shell's window with it, so it waits for the shell.
+  const Form* active = kit_.desk.Active();
+  const bool working =
+      active != nullptr && active->Name() != QLatin1String("OST") && active != &parts_.panel.form;
+  if (!files.IsBehind(project.Record()) || !parts_.panel.HoldsNameOnly() || working) return;
+  const bool shown = parts_.panel.JobNFOFrame.Shown();
+  parts_.record.LoadJobNFO();
+  if (!near_.plan.Fields().planLocation.isEmpty()) near_.plan.LoadPDF();
+  parts_.panel.JobNFOFrame.SetShown(shown);
 }
 
 void ProjectLifeCycle::ShowWhoHasIt() {

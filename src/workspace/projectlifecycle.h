@@ -30,6 +30,8 @@ class ProjectLifeCycle {
   // The project of the line that is selected in the list.
   void OpenSelected();
   void ClearProject();
+  // What is behind its file is read again; nothing that was typed goes.
+  void ReadBehind();
   // The open project belongs to another program, or to this one again, or none is open: the fields
   // and the titles show it.
   void ShowWhoHasIt();

@@ -1,5 +1,7 @@
 #include "workspace/projectpanel.h"
 
+#include <algorithm>
+
 #include "common/chain.h"
 #include "common/desk.h"
 
@@ -33,6 +35,13 @@ void ProjectPanel::BindChain() {
     }
     chained(key);
   };
+}
+
+bool ProjectPanel::HoldsNameOnly() {
+  const auto fields = Fields();
+  return std::all_of(fields.begin(), fields.end(), [this](const TextField* field) {
+    return field == &JobName || field->Empty();
+  });
 }
 
 }  // namespace tamo

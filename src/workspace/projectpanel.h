@@ -30,6 +30,9 @@ struct ProjectPanel {
             &Inclusions, &Exclusions, &Architect, &Notes};
   }
 
+  // Nothing stands in the fields but the name: the record was not read, and nothing was entered.
+  bool HoldsNameOnly();
+
  private:
   void BindChain();
 };

@@ -1,6 +1,5 @@
 #include "workspace/projectpicker.h"
 
-#include "common/failure.h"
 #include "common/paths.h"
 #include "records/projectlist.h"
 
@@ -8,18 +7,9 @@ namespace tamo {
 
 void ProjectPicker::LoadJobsList() {
   QStringList entries;
-  listError_ = ReadProjectList(kit_.files, kit_.shared, entries);
+  ReadProjectList(kit_.files, kit_.shared, entries);
   panel_.JobsList.SetRows(entries);
   listedFolder_ = kit_.shared.DataPath;
-}
-
-void ProjectPicker::RequireReadableList() const {
-  if (listError_ == kNoError || listError_ == kFileNotFound || listError_ == kPathNotFound) return;
-  throw RunTimeFailure(
-      listError_,
-      QStringLiteral("The project list %1 could not be read. Nothing is stored over it, so that no "
-                     "project is lost; see to the file, then do this again.")
-          .arg(DataFolder(kit_.shared).ProjectList()));
 }
 
 // The list is written back whole, so it must be that of the present data folder: what was never
@@ -32,13 +22,11 @@ void ProjectPicker::SaveJobsList() {
   if (panel_.JobName.Empty() || kit_.shared.JobID.isEmpty()) return;
   if (kit_.shared.OPN == QLatin1String("1")) AddProject();
   NeedJobsList();
-  RequireReadableList();
   WriteProjectList(kit_.files, kit_.shared, panel_.JobsList.Rows());
 }
 
 void ProjectPicker::AddProject() {
   LoadJobsList();
-  RequireReadableList();
   ids_.MakeProject(panel_.JobsList.Rows());
   panel_.JobsList.Add(ProjectEntry(kit_.shared.JobID, panel_.JobName.Text()));
   ids_.SaveProjectNumber();

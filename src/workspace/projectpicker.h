@@ -14,8 +14,7 @@ class ProjectPicker {
 
   void LoadJobsList();
   // Writes the list back. A project that is being created gets its id, its folders and its line
-  // first; nothing happens without an id and a name. Throws a RunTimeFailure, with nothing written,
-  // when the list that stands on the disk could not be read.
+  // first; nothing happens without an id and a name.
   void SaveJobsList();
   // Takes the open project's line out of the list and writes the list.
   void RemoveProject();
@@ -27,12 +26,10 @@ class ProjectPicker {
  private:
   void AddProject();
   void NeedJobsList();
-  void RequireReadableList() const;
 
   const Kit kit_;
   ProjectPanel& panel_;
   ProjectIds& ids_;
-  int listError_ = 0;     // of the last reading
   QString listedFolder_;  // the data folder that JobsList was read from
 };
 

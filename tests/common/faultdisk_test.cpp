@@ -59,7 +59,7 @@ TEST_F(FaultDiskTest, InAHiddenFolderNothingIsFoundAndNothingCanBeMade) {
   EXPECT_TRUE(disk.Names(root).isEmpty());
   EXPECT_EQ(disk.MakeFolder(root), kPathNotFound);
   EXPECT_EQ(disk.MakeFolder(Path("Systems/More")), kPathNotFound);
-  EXPECT_EQ(files.SaveText(Path("Jobs.lst"), "2"), kPathNotFound);
+  EXPECT_EQ(files.SaveText(Path("Jobs.lst"), "2"), kGone);
   EXPECT_EQ(disk.Rename(Path("Jobs.lst"), Path("Other.lst")), kPathNotFound);
 }
 

@@ -181,6 +181,19 @@ TEST_F(ReplacementTest, OneOfADeadProgramIsSwept) {
   EXPECT_TRUE(disk.Names(dir.path()).isEmpty());
 }
 
+TEST_F(ReplacementTest, OneAtTheEndOfALinkIsSweptByTheNextSave) {
+  ASSERT_TRUE(QDir(dir.path()).mkdir("far"));
+  Put("far/real");
+  Put("far/real.tamo-unfinished");
+  Replacement living(disk, Path("far/other"));
+  ASSERT_EQ(living.Begin(), 0);
+  ASSERT_TRUE(QFile::link(Path("far/real"), Path("a")));
+  ASSERT_EQ(files.SaveText(Path("a"), "new"), 0);
+  EXPECT_FALSE(disk.Exists(Path("far/real.tamo-unfinished")));
+  EXPECT_TRUE(disk.Exists(living.Unfinished()));
+  EXPECT_EQ(living.Finish(kNoError), 0);
+}
+
 TEST_F(ReplacementTest, OneOfAnotherMachineIsSweptAfterADay) {
   const QString name = QStringLiteral("0123456789abcdef.1.boot-7.1.tamo-unfinished");
   EXPECT_FALSE(LeftByTheDead(name, -1));

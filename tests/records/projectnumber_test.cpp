@@ -35,6 +35,18 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"", kDecember, "2112001", true},              // an empty file
         Row{"abc", kDecember, "abc001", false}));         // letters stand after digits
 
+TEST(NumberInId, ReadsWhatStandsBehindTheEstimator) {
+  EXPECT_EQ(DigitsOf(NumberInId("00-2112002")), "2112002");
+  EXPECT_EQ(DigitsOf(NumberInId("2112000")), "2112000");
+  EXPECT_EQ(DigitsOf(NumberInId("07-21121000")), "21121000");
+  EXPECT_TRUE(NumberInId("00-2112999") < NumberInId("07-21121000"));
+  EXPECT_TRUE(NumberInId("07-2112999") < NumberInId("00-2201001"));
+  for (const char* other : {"", "Photos", "07-wild", "07-2113001", "07-211200", "07-2112x01"}) {
+    EXPECT_TRUE(NumberInId(other).month.isEmpty()) << other;
+    EXPECT_TRUE(NumberInId(other) < NumberInId("2101000")) << other;
+  }
+}
+
 TEST(SeedNumber, YearMonthAndNone) {
   EXPECT_EQ(SeedNumber(kDecember), QStringLiteral("2112000"));
   EXPECT_EQ(SeedNumber(QDate(2026, 3, 1)), QStringLiteral("2603000"));

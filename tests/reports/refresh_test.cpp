@@ -46,6 +46,7 @@ class Changes {
       case 0:
       case 1:
         files_.SaveText(path, QString::fromUtf8(text));
+        files_.BeginAnew();  // what would wait beside another program's change is stored
         break;
       case 2:
         disk_.Overwrite(path, text);

@@ -206,8 +206,16 @@ TEST_F(AreasTest, AnAreaFileThatCanNotBeReadIsNotSavedOver) {
   QDir().mkpath(Project(S("ATOs/A.ato")));
   StartArea(S("A"));
   Line1(S("Rubber Base"), S("5"));
-  EXPECT_EQ(TakeMessages().size(), 1);
-  EXPECT_TRUE(files.PendingSaves().empty());
+  EXPECT_TRUE(files.Notice().contains(S("A.ato")));
+  EXPECT_TRUE(files.Notice().contains(S("Your entries wait here")));
+  ASSERT_EQ(files.PendingSaves().size(), 1U);
+  EXPECT_TRUE(disk.IsFolder(Project(S("ATOs/A.ato"))));
+  // What can't be read made way for what others had entered.
+  disk.RemoveFolder(Project(S("ATOs/A.ato")));
+  const QString theirs = ALine(S("Carpet"), S("7"), S("SF"));
+  Write(Project(S("ATOs/A.ato")), {theirs});
+  EXPECT_TRUE(files.TryAgain());
+  EXPECT_EQ(Area(S("A")), (QStringList{theirs, ALine(S("Rubber Base"), S("5"), S("LF"))}));
 }
 
 TEST_F(AreasTest, AFullDiskLosesNothing) {

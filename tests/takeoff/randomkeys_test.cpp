@@ -146,8 +146,8 @@ TEST_F(RandomKeys, BottomLine) {
         desk.CloseBox(bottom);
         EXPECT_EQ(bottom.oiList.Rows(), Lines(Project(S("oItems.tamo"))));
         // Each typed name is added; without a clean-up now and then this would be about long lists.
-        if (bottom.ItemList.Count() > 200) disk.RemoveFile(Data(S("Items.tamo")));
-        if (bottom.oiList.Count() > 200) disk.RemoveFile(Project(S("oItems.tamo")));
+        if (bottom.ItemList.Count() > 200) files.Remove(Data(S("Items.tamo")));
+        if (bottom.oiList.Count() > 200) files.Remove(Project(S("oItems.tamo")));
       });
   EXPECT_GT(reports.count, 0);
 }

@@ -248,8 +248,14 @@ TEST_F(TakeoffTest, AListThatCouldNotBeReadIsNotSavedOver) {
   QDir().mkpath(Project(S("Rooms/Rooms.tamo")));  // a folder in the file's place can't be read
   EnterSchedule();
   Enter(rfs.Room, S("101"));
-  EXPECT_EQ(TakeMessages().size(), 1);
-  EXPECT_TRUE(files.PendingSaves().empty());
+  EXPECT_TRUE(TakeMessages().isEmpty());
+  EXPECT_TRUE(files.Notice().contains(S("Rooms.tamo")));
+  ASSERT_EQ(files.PendingSaves().size(), 1U);
+  disk.RemoveFolder(Project(S("Rooms/Rooms.tamo")));
+  Write(Project(S("Rooms/Rooms.tamo")), {S("Lobby"), S("True")});
+  EXPECT_TRUE(files.TryAgain());
+  EXPECT_EQ(Lines(Project(S("Rooms/Rooms.tamo"))),
+            (QStringList{S("Lobby"), S("True"), S("101"), S("True")}));
 }
 
 TEST_F(TakeoffTest, ExitClearsTheWork) {

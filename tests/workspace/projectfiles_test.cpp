@@ -119,17 +119,27 @@ TEST_F(ProjectFiles, AnIdThatIsNoFolderCopiesNothing) {
   EXPECT_FALSE(There("JobNFO.tamo"));
 }
 
-TEST_F(ProjectFiles, AFileThatCantBeReadIsSkippedWithoutAWord) {
+TEST_F(ProjectFiles, AFileThatCantBeReadLeavesNoHalfProject) {
   QFile::link("/nowhere/at all", Path("Projects/00-2112001/Rooms/A.rfs"));
   const ProjectCopy copy = Paste();
-  EXPECT_EQ(copy.copied, 6);
+  EXPECT_FALSE(copy.done);
+  EXPECT_EQ(copy.copied, 0);
   EXPECT_EQ(copy.left, QStringList{Path("Projects/00-2112001/Rooms/A.rfs")});
+  EXPECT_FALSE(There("Projects/00-2112002/ATOs/Roof.ato"));
+}
+
+TEST_F(ProjectFiles, ASaveThatWaitsIsCopiedAlthoughItHasNoFileYet) {
+  disk.Deny(Path("Projects/00-2112001/Rooms/New.rfs"));
+  files.SaveText(Path("Projects/00-2112001/Rooms/New.rfs"), "new\r\n");
+  EXPECT_TRUE(Paste().left.isEmpty());
+  EXPECT_EQ(Content("Projects/00-2112002/Rooms/New.rfs"), "new\r\n");
 }
 
 TEST_F(ProjectFiles, AFileThatCantBeWrittenDoesNotStopTheRest) {
   disk.Deny(Path("Projects/00-2112002/Rooms/Lobby.rfs"));
   const ProjectCopy copy = Paste();
   EXPECT_EQ(copy.copied, 5);
+  EXPECT_EQ(copy.waiting, QStringList{Path("Projects/00-2112002/Rooms/Lobby.rfs")});
   EXPECT_EQ(Content("Projects/00-2112002/ATOs/Roof.ato"), "GWB 5\r\n");
 }
 
@@ -206,6 +216,7 @@ TEST_F(ProjectFiles, FoldersThatAProjectDoesNotHaveByItselfStay) {
   EXPECT_FALSE(There("Projects/00-2112001/JobNFO.tamo"));
   EXPECT_FALSE(There("Projects/00-2112001/Rooms/Lobby.rfs"));
   EXPECT_TRUE(left.contains(Path("Projects/00-2112001/Photos/site.jpg")));
+  EXPECT_FALSE(HoldsProjectFiles(files, Data(), "00-2112001"));
 }
 
 TEST_F(ProjectFiles, AFolderInAnotherCaseIsTheSameFolder) {
@@ -218,6 +229,7 @@ TEST_F(ProjectFiles, AFileThatCantBeRemovedDoesNotStopTheRest) {
   disk.Deny(Path("Projects/00-2112001/Rooms/Lobby.rfs"));
   const QStringList left = Delete("00-2112001");
   EXPECT_TRUE(left.contains(Path("Projects/00-2112001/Rooms/Lobby.rfs")));
+  EXPECT_TRUE(HoldsProjectFiles(files, Data(), "00-2112001"));
   EXPECT_FALSE(There("Projects/00-2112001/ATOs"));
   EXPECT_FALSE(There("Projects/00-2112001/JobNFO.tamo"));
 }

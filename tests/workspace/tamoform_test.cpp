@@ -83,6 +83,26 @@ TEST_F(MainForm, AnIdThatWasTakenMeanwhileIsCountedUpAtTheSave) {
   EXPECT_TRUE(disk.Names(Path("home/Tamo/Projects/07-2112001")).isEmpty());
 }
 
+// All estimators share the numbers: nobody's is as high as the new one.
+TEST_F(MainForm, TheNumberIsHigherThanAnyInTheListAndOnTheDisk) {
+  Write("home/Tamo/Jobs.lst", {"07-2112001   One", "08-2112005   Five", "Photos"});
+  Run([this] { form.projects.NewProject(); });
+  EXPECT_EQ(shared.JobID, "07-2112006");
+  files.MakeFolders(Path("home/Tamo/Projects/09-2112008/"));
+  Enter(form.panel.JobName, QStringLiteral("Nine"));
+  desk.ClickInto(form.panel.Command1);
+  EXPECT_EQ(Lines("home/Tamo/Jobs.lst").last(), "07-2112009   Nine");
+}
+
+TEST_F(MainForm, TheNumberIsHigherThanTheOneThatAnotherProgramHasSavedMeanwhile) {
+  Run([this] { form.projects.NewProject(); });
+  EXPECT_EQ(shared.JobID, "07-2112001");
+  Write("home/Tamo/Project.num", {"08-2112004"});
+  Enter(form.panel.JobName, QStringLiteral("Five"));
+  desk.ClickInto(form.panel.Command1);
+  EXPECT_EQ(Lines("home/Tamo/Jobs.lst"), QStringList{"07-2112005   Five"});
+}
+
 TEST_F(MainForm, AFullDiskIsNoTakenId) {
   Run([this] { form.projects.NewProject(); });
   Enter(form.panel.JobName, QStringLiteral("Kept"));
