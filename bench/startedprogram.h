@@ -58,7 +58,7 @@ class StartedProgram {
   DeskClipboard clipboard_;
   Platform platform_;
   Files files_;
-  WorkerEngine engine_;
+  WorkerEngine engine_{TAMO_ENGINE};
   PdfDraw viewer_;
   Program program_;
   WindowKeeper windows_;

@@ -101,6 +101,12 @@ int WorkerLink::TakeSlot() {
   }
 }
 
+void WorkerLink::GiveSlot(int slot) {
+  const std::lock_guard<std::mutex> guard(mutex_);
+  slotTaken_[slot] = false;
+  news_.notify_all();
+}
+
 WorkerLink::Answer WorkerLink::Call(WireKind kind, const QByteArray& body, const Terms& terms) {
   SendDropped();
   Waiting waiting;
@@ -142,15 +148,15 @@ WorkerLink::Answer WorkerLink::Await(Waiting& waiting, uint32_t call, const Term
       end = std::min(end, Clock::now() + kCancelPatience);
     }
   }
-  Answer answer{waiting.answered, false, gone_ && !waiting.answered, call, waiting.answer};
-  answer.late = !waiting.answered && !gone_ && !waiting.cancelled;
+  Answer answer;
+  answer.there = waiting.answered;
+  answer.gone = gone_ && !waiting.answered;
+  answer.left = !gone_ && !waiting.answered;
+  answer.late = answer.left && !waiting.cancelled;
+  answer.call = call;
+  answer.body = waiting.answer;
   waiting_.erase(call);
-  if (waiting.answered || gone_) {
-    if (terms.slot >= 0) slotTaken_[terms.slot] = false;
-  } else {
-    leftSlots_[call] = terms.slot;
-  }
-  news_.notify_all();
+  if (answer.left) leftSlots_[call] = terms.slot;
   lock.unlock();
   if (answer.late) Kill();
   return answer;

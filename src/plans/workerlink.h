@@ -27,6 +27,7 @@ class WorkerLink {
     bool there = false;
     bool late = false;  // it took too long, and the worker was killed for it
     bool gone = false;  // the worker ended before it answered
+    bool left = false;  // the worker is still at it, and frees the slot when it is done
     uint32_t call = 0;
     QByteArray body;
   };
@@ -34,7 +35,7 @@ class WorkerLink {
   struct Terms {
     int milliseconds = 20000;
     CancelFlag* cancel = nullptr;  // the call then comes back within a second
-    int slot = -1;                 // of the tiles; free again when the worker is done with it
+    int slot = -1;                 // of the tiles
     // Takes the parts of a long answer, and returns 0 or an error number that ends it.
     std::function<int(const QByteArray& part)> part;
   };
@@ -42,6 +43,7 @@ class WorkerLink {
   void Drop(uint32_t call);  // a page that is not wanted any more; tells it with the next call
 
   int TakeSlot();  // waits for a free one; -1 when the worker is gone
+  void GiveSlot(int slot);
   const uint32_t* Slot(int slot) const { return process_->Slot(slot); }
   void Kill() { process_->Kill(); }
   bool Gone();

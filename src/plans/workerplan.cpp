@@ -206,7 +206,11 @@ WorkerLink::Answer WorkerPlan::PaintIn(const Link& link, const Page& page, const
     again.IsIn(nullptr, 0);
   }
   const int slot = link->TakeSlot();
-  if (slot < 0) return {false, false, true, 0, {}};
+  if (slot < 0) {
+    answer = {};
+    answer.gone = true;
+    return answer;
+  }
   WireWriter wire;
   wire.Number(page.In(link));
   Put(wire, part);
@@ -222,6 +226,7 @@ WorkerLink::Answer WorkerPlan::PaintIn(const Link& link, const Page& page, const
   } else {
     answer.body.clear();
   }
+  if (!answer.left) link->GiveSlot(slot);
   return answer;
 }
 

