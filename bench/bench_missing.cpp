@@ -30,8 +30,7 @@ struct Listed {
     shared.JobID = QStringLiteral("00-2112001");
     shared.DriveBy = QStringLiteral("False");
     const ProjectFolder project(shared);
-    for (const char* name : {"Rooms", "ATOs", "Systems"})
-      QDir().mkpath(project.SubFolder(QString::fromLatin1(name)));
+    for (const char* name : {"Rooms", "ATOs", "Systems"}) QDir().mkpath(project.SubFolder(name));
     Files files(disk);
     files.SaveLines(DataFolder(shared).NameFile("Descriptions.tamo"), {QStringLiteral("Paint")});
     QStringList rooms;

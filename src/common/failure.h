@@ -42,6 +42,8 @@ inline constexpr int kNotText = 321;      // a file that holds something else th
 inline constexpr int kChangedMeanwhile = 1001;
 // A save is done, but the device did not confirm that it outlives a power cut.
 inline constexpr int kNotConfirmed = 1002;
+// A save that was given up: another program has changed the file, and the estimator takes that.
+inline constexpr int kTheirsTaken = 1003;
 
 // The file was never there, which is no failure: its defaults stand, or its list is empty.
 inline constexpr bool IsMissing(int number) {

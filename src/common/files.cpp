@@ -23,10 +23,14 @@ int Files::ReadText(const QString& path, QString& text) {
       return kNoError;
     }
   }
+  const FileStamp stamp = disk_.Stamp(path);
   const int error = Noted(path, ReadAnyCase(path, text));
   if (error == kNoError) {
     book_.Read(path, text);
-  } else if (!IsMissing(error)) {
+    book_.Saw(path, stamp);
+  } else if (IsMissing(error)) {
+    book_.NotThere(path);
+  } else {
     text = book_.LastText(path);
   }
   return error;
@@ -114,18 +118,19 @@ int Files::ReadFields(const QString& path, QStringList& fields) {
   return error;
 }
 
-int Files::SaveLines(const QString& path, const QStringList& lines, FileKind kind) {
-  return SaveText(path, JoinedLines(lines), kind);
+int Files::SaveLines(const QString& path, const QStringList& lines, FileKind kind,
+                     const QString& base) {
+  return SaveText(path, JoinedLines(lines), kind, base);
 }
 
-int Files::SaveText(const QString& path, const QString& text, FileKind kind) {
+int Files::SaveText(const QString& path, const QString& text, FileKind kind, const QString& base) {
   if (mayWrite && !mayWrite(path)) return kNoAccess;
   if (!pending_.empty() || !book_.Failures().empty()) RetryPending(path);
-  Pending save{path, text, kNoError, {}, kind};
+  Pending save{path, text, kNoError, {}, kind, false, base};
   save.text.remove(QChar(u'\0'));  // no text that can be read again holds one
-  const int error = Store(save);
+  const int error = Store(save, true);
   Pending* known = FindPending(path);
-  if (error != kNoError) {
+  if (error != kNoError && error != kTheirsTaken) {
     if (known != nullptr) {
       *known = std::move(save);
     } else {
@@ -140,30 +145,57 @@ int Files::SaveText(const QString& path, const QString& text, FileKind kind) {
 }
 
 // Writes it, together with what the file holds beyond what the program knows of it.
-int Files::Store(Pending& save) {
+int Files::Store(Pending& save, bool mayAsk) {
   QString text;
-  save.reason = TextToStore(save, text);
+  save.reason = TextToStore(save, mayAsk, text);
   save.held = save.reason != kNoError;
   if (save.held) return save.reason;
   save.reason = ReplaceInItsFolder(save.path, text.toUtf8());
-  if (save.reason == kNoError || save.reason == kNotConfirmed)
-    book_.Stored(save.path, save.text, text != save.text);
+  if (save.reason != kNoError && save.reason != kNotConfirmed) return save.reason;
+  book_.Stored(save.path, save.text, text != save.text);
+  book_.Saw(save.path, disk_.Stamp(save.path));
   return save.reason;
+}
+
+// The text of the save was made from an earlier one than the program has read since.
+bool Files::IsOlder(const Pending& save) const {
+  return !save.base.isNull() && book_.HadAnothersText(save.path) &&
+         save.base != book_.LastText(save.path);
+}
+
+// The file may hold something else than what the text of the save was made from.
+bool Files::MustLook(const Pending& save) const {
+  const QString& path = save.path;
+  const FileStamp stamp = disk_.Stamp(path);
+  if (!stamp.Known() && !disk_.Exists(path))
+    return book_.Seen(path) || book_.Apart(path) || !disk_.Exists(FolderOf(path));
+  return book_.WasAbsent(path) || book_.Apart(path) || book_.MayBeChanged(path, stamp) ||
+         IsOlder(save);
 }
 
 // The text of a save, merged with the file's where that is not what the program last had of it. An
 // error number when the file must not be written over.
-int Files::TextToStore(const Pending& save, QString& text) {
+int Files::TextToStore(const Pending& save, bool mayAsk, QString& text) {
   text = save.text;
   const QString& path = save.path;
-  const bool mayBeGone = !disk_.Exists(path) && (book_.Seen(path) || !disk_.Exists(FolderOf(path)));
-  if (!mayBeGone && !book_.Apart(path)) return kNoError;
+  if (!MustLook(save)) return kNoError;
   QString theirs;
   const int error = Noted(path, ReadAnyCase(path, theirs));
   if (IsMissing(error)) return kNoError;
   if (error != kNoError) return error;
-  return MergeTexts(save.kind, book_.LastText(path), save.text, theirs, text) ? kNoError
-                                                                              : kChangedMeanwhile;
+  const bool older = IsOlder(save);
+  if (!older && book_.IsLastText(path, theirs)) return kNoError;
+  if (MergeTexts(save.kind, older ? save.base : book_.LastText(path), save.text, theirs, text))
+    return kNoError;
+  text = save.text;
+  return mayAsk && keepMine ? Chosen(save, theirs) : kChangedMeanwhile;
+}
+
+// Two texts that can't be merged: the estimator says which one stays.
+int Files::Chosen(const Pending& save, const QString& theirs) {
+  if (keepMine(save.path, save.text, theirs)) return kNoError;
+  book_.SetApart(save.path);
+  return kTheirsTaken;
 }
 
 int Files::Replace(const QString& path, const QByteArray& bytes) {

@@ -54,9 +54,14 @@ class Files {
   // Replaces the file by `text`, atomically and durably: a new file in the same folder, synced,
   // renamed over the old one, the folder synced. On failure the text becomes pending and the number
   // is returned.
-  int SaveText(const QString& path, const QString& text, FileKind kind = FileKind::Record);
+  // What another program stored there since this one read or stored it is looked at first: lists
+  // are merged, of other files the estimator chooses (keepMine). `base`: the text from which this
+  // one was made, when it is an earlier one than the program last read; null: the last one read.
+  int SaveText(const QString& path, const QString& text, FileKind kind = FileKind::Record,
+               const QString& base = {});
   // CR LF behind each line.
-  int SaveLines(const QString& path, const QStringList& lines, FileKind kind = FileKind::Record);
+  int SaveLines(const QString& path, const QStringList& lines, FileKind kind = FileKind::Record,
+                const QString& base = {});
 
   bool Exists(const QString& path);  // also true for a pending file
   int Remove(const QString& path);   // a pending text of that file is dropped, too
@@ -92,6 +97,7 @@ class Files {
     std::function<int()> save;
     FileKind kind = FileKind::Record;
     bool held = false;  // by what could not be read; `reason` says by what
+    QString base = {};  // from which `text` was made; null: what the program last read
   };
   // A save of a file that is no text failed with `reason`: the notice names it, and `save` (which
   // returns an error number and must not call this object) is tried at every later save.
@@ -127,15 +133,23 @@ class Files {
   // hand; nothing is done, the answer is 75, and nothing waits.
   std::function<bool(const QString& path)> mayWrite;
 
+  // Asked when a file that is about to be saved was changed by another program since it was read or
+  // saved here, and the two texts can't be merged. True keeps `mine`; false gives the save up
+  // (kTheirsTaken), and the file counts as behind. Not set, or in a save that waited: it is held.
+  std::function<bool(const QString& path, const QString& mine, const QString& theirs)> keepMine;
+
   // Removes what a crash left of half-made saves directly in `folder`.
   void Sweep(const QString& folder);
 
  private:
+  bool IsOlder(const Pending& save) const;
   int ReadAnyCase(const QString& path, QString& text, bool missing = false);
   int GoneOrMissing(const QString& path, int error) const;
   int Noted(const QString& path, int error);
-  int Store(Pending& save);
-  int TextToStore(const Pending& save, QString& text);
+  int Store(Pending& save, bool mayAsk);
+  bool MustLook(const Pending& save) const;
+  int TextToStore(const Pending& save, bool mayAsk, QString& text);
+  int Chosen(const Pending& save, const QString& theirs);
   int Replace(const QString& path, const QByteArray& bytes);
   int ReplaceInItsFolder(const QString& path, const QByteArray& bytes);
   int MakeMissingFolders();

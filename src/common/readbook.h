@@ -5,6 +5,8 @@
 #include <QString>
 #include <vector>
 
+#include "common/disk.h"
+
 namespace tamo {
 
 // A read that failed and has not been made good since.
@@ -19,6 +21,10 @@ class ReadBook {
  public:
   // `path` was read: `text` is what the program now holds for its content.
   void Read(const QString& path, const QString& text);
+  // How the file looked from outside when the program last read or stored it.
+  void Saw(const QString& path, const FileStamp& stamp) { stamps_.insert(Key(path), stamp); }
+  // A read found that it is not there, and never was.
+  void NotThere(const QString& path) { absent_.insert(Key(path)); }
   // The program's own text was stored, alone or, `merged`, together with what others had entered.
   void Stored(const QString& path, const QString& text, bool merged);
   // The file has to be there although it was not read: a list names it. The same for a folder.
@@ -32,6 +38,16 @@ class ReadBook {
 
   bool Seen(const QString& path) const { return seen_.contains(Key(path)); }
   bool SeenFolder(const QString& folder) const { return folders_.contains(Key(folder)); }
+  bool WasAbsent(const QString& path) const { return absent_.contains(Key(path)); }
+  // What the program read there was once not what it had last read or stored.
+  bool HadAnothersText(const QString& path) const { return anothers_.contains(Key(path)); }
+  // Another program may have stored the file since: it looks different, or its looks say nothing.
+  // Never for a file of which the program knows nothing.
+  bool MayBeChanged(const QString& path, const FileStamp& now) const;
+  // `text` is what the program last read there or stored.
+  bool IsLastText(const QString& path, const QString& text) const;
+  // What the program has of the file is not what it holds.
+  void SetApart(const QString& path) { apart_.insert(Key(path)); }
   // The file may hold more than the program's own text: a save must look and merge. It holds from
   // a failed read, or a merged save, to the next time that the program reads the file.
   bool Apart(const QString& path) const { return apart_.contains(Key(path)); }
@@ -51,6 +67,10 @@ class ReadBook {
   QSet<QString> seen_;
   QSet<QString> folders_;  // in which a file was read
   QSet<QString> apart_;
+  QSet<QString> absent_;
+  QSet<QString> anothers_;
+  QHash<QString, FileStamp> stamps_;
+  QHash<QString, size_t> marks_;  // of each last text, when it itself has gone
   // Two generations: when the younger one is full the older one is dropped.
   QHash<QString, QString> young_;
   QHash<QString, QString> old_;

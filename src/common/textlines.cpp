@@ -69,7 +69,7 @@ QStringList DelimitedFields(const QString& text) {
 }
 
 QString JoinedLines(const QStringList& lines) {
-  QString text;
+  QString text = QStringLiteral("");  // no lines are a text, too
   for (const QString& line : lines) text += line + QLatin1String("\r\n");
   return text;
 }

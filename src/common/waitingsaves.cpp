@@ -91,7 +91,7 @@ void Files::RetryPending(const QString& except) {
     if (pending.save) {
       pending.reason = pending.save();
     } else {
-      Store(pending);
+      Store(pending, false);
     }
     return pending.reason == kNoError;
   });

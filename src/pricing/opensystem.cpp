@@ -76,8 +76,16 @@ void OpenSystem::Write() {
   RequireOwnName();
   TakeName();
   blocks_.EmptySpareRows();
-  store.Write(AsFile());
+  if (!store.Write(AsFile())) ShowTheirs();
   price_.ShowAsFarAsItGoes();
+}
+
+// What was entered here is given up, and so is what was to come after it in the chain.
+void OpenSystem::ShowTheirs() {
+  SystemFile theirs;
+  if (store.Read(system_.Description.Text(), theirs)) Take(theirs);
+  throw RunTimeFailure(kTheirsTaken,
+                       QStringLiteral("The system stands here now as the other program saved it."));
 }
 
 void OpenSystem::SaveSystem() {

@@ -41,6 +41,8 @@ class OpenSystem {
   SystemStore store;
 
  private:
+  void ShowTheirs();
+
   SystemControls& system_;
   LookControls& look_;
   SystemBlocks& blocks_;

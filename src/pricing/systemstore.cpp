@@ -10,8 +10,15 @@ bool SystemStore::Read(const QString& name, SystemFile& system) {
   RequireFileName(name);
   QString text;
   int error = kPathNotFound;
+  QString library;
+  const int inLibrary = kit_.files.ReadText(MasterSystemPath(kit_.shared, name), library);
   if (InProject()) error = kit_.files.ReadText(ProjectSystemPath(kit_.shared, name), text);
-  if (IsMissing(error)) error = kit_.files.ReadText(MasterSystemPath(kit_.shared, name), text);
+  if (IsMissing(error)) {
+    error = inLibrary;
+    text = library;
+  }
+  read_ = name;
+  library_ = library.isNull() ? QStringLiteral("") : library;
   if (IsMissing(error)) return false;
   // What was read of it earlier stands; the notice tells that it can't be read now.
   if (error != kNoError && text.isEmpty())
@@ -23,10 +30,19 @@ bool SystemStore::Read(const QString& name, SystemFile& system) {
   return true;
 }
 
-void SystemStore::Write(const SystemFile& system) {
+// The project's copy belongs to this program alone; the library's file may have been changed.
+bool SystemStore::Write(const SystemFile& system) {
   const QString text = SystemFileText(system);
-  kit_.files.SaveText(MasterSystemPath(kit_.shared, system.description), text);
-  if (InProject()) kit_.files.SaveText(ProjectSystemPath(kit_.shared, system.description), text);
+  const QString& name = system.description;
+  const QString path = MasterSystemPath(kit_.shared, name);
+  const bool known = name.compare(read_, Qt::CaseInsensitive) == 0;
+  const int error = kit_.files.SaveText(path, text, FileKind::Record, known ? library_ : QString());
+  read_ = name;
+  library_ = text;
+  if (error == kTheirsTaken) kit_.files.ReadText(path, library_);
+  const int own =
+      InProject() ? kit_.files.SaveText(ProjectSystemPath(kit_.shared, name), library_) : kNoError;
+  return error != kTheirsTaken && own != kTheirsTaken;
 }
 
 void SystemStore::Remove(const QString& name) {

@@ -32,7 +32,8 @@ class VocabularyList {
   OrderedList& list_;
   NameIndex index_;
   const NameList file_;
-  int error_ = 0;  // of the last reading
+  int error_ = 0;     // of the last reading
+  QStringList base_;  // the names when they were last read or written
 };
 
 }  // namespace tamo

@@ -2,6 +2,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "program/changedquestion.h"
 #include "program/followers.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
@@ -87,6 +88,10 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
       if (!list->Empty() && list->FindAnyCase(name) < 0) list->Insert(0, name);
     }
   };
+  parts.files.keepMine = [&parts](const QString& path, const QString& mine, const QString& theirs) {
+    return parts.desk.GetMessages().Ask(
+        ChangedQuestion({path, mine, theirs}, parts.pricing.MarkupTexts()));
+  };
   parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
   parts.ost.onClose = [&parts] { return parts.shell.CloseOst(); };
 }
@@ -132,7 +137,13 @@ void Program::TrySavesAgain() {
     const QString question = files.BeginAnewQuestion();
     if (!question.isEmpty() && parts_->platform.messages.Ask(question)) files.BeginAnew();
     parts_->readAgain.Run();
+    parts_->main.conflicts.LookAround();
   });
+}
+
+QString Program::Notice() const {
+  const QString unsaved = parts_->files.Notice();
+  return unsaved.isEmpty() ? parts_->main.conflicts.Notice() : unsaved;
 }
 
 void Program::Tick() {
@@ -141,6 +152,7 @@ void Program::Tick() {
   parts_->desk.Dispatch([this] {
     parts_->main.hold.Tick();
     parts_->readAgain.Tick();
+    parts_->main.conflicts.Tick();
   });
 }
 

@@ -38,6 +38,9 @@ class Program {
   // The text named FORM.NAME that is no control (Tamo.JobID, Form11.IAmHere, RFSForm.Flag), nullptr
   // when there is none.
   const QString* FindText(const QString& form, const QString& name);
+  // For the strip at the foot of every window: what is not saved or can't be read, or else what a
+  // sync program left; "" when all is well.
+  QString Notice() const;
   // The strip at the foot of every window was clicked.
   void TrySavesAgain();
   // Every few seconds: renews the hold on the open project, or looks whether it is free by now.

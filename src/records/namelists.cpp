@@ -1,5 +1,7 @@
 #include "records/namelists.h"
 
+#include "common/textlines.h"
+
 namespace tamo {
 namespace {
 
@@ -35,6 +37,11 @@ int ReadNamesDelimited(Files& files, const DataFolder& data, NameList list, QStr
 
 int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names) {
   return files.SaveLines(data.NameFile(FileNameOf(list)), names, FileKind::List);
+}
+
+int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names,
+               const QStringList& base) {
+  return files.SaveLines(data.NameFile(FileNameOf(list)), names, FileKind::List, JoinedLines(base));
 }
 
 bool NamesAreBehind(Files& files, const DataFolder& data, NameList list) {

@@ -22,7 +22,11 @@ enum class NameList {
 int ReadNames(Files& files, const DataFolder& data, NameList list, QStringList& names);
 // A comma makes two names of one, leading blanks are dropped.
 int ReadNamesDelimited(Files& files, const DataFolder& data, NameList list, QStringList& names);
+// Merged with what another program added or took out since. `base`: the names that the list had
+// when it was last filled or written, when others in this program may have read the file since.
 int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names);
+int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names,
+               const QStringList& base);
 // The file holds more than was last read of it: see Files::IsBehind.
 bool NamesAreBehind(Files& files, const DataFolder& data, NameList list);
 

@@ -1,6 +1,7 @@
 #include "records/projectlist.h"
 
 #include "common/columns.h"
+#include "common/textlines.h"
 
 namespace tamo {
 
@@ -8,8 +9,9 @@ int ReadProjectList(Files& files, const DataFolder& data, QStringList& entries) 
   return files.ReadLines(data.ProjectList(), entries);
 }
 
-int WriteProjectList(Files& files, const DataFolder& data, const QStringList& entries) {
-  return files.SaveLines(data.ProjectList(), entries, FileKind::List);
+int WriteProjectList(Files& files, const DataFolder& data, const QStringList& entries,
+                     const QStringList& base) {
+  return files.SaveLines(data.ProjectList(), entries, FileKind::List, JoinedLines(base));
 }
 
 QString ProjectEntry(const QString& id, const QString& name) {

@@ -49,10 +49,13 @@ void RoomRecord::LoadAreas() {
   QStringList names;
   ReadNames(kit_.files, kit_.shared, NameList::FinishAreas, names);
   screen_.AreaList.SetRows(names);
+  areasRead_ = names;
 }
 
 void RoomRecord::SaveAreas() {
-  WriteNames(kit_.files, kit_.shared, NameList::FinishAreas, screen_.AreaList.Rows());
+  const QStringList names = screen_.AreaList.Rows();
+  WriteNames(kit_.files, kit_.shared, NameList::FinishAreas, names, areasRead_);
+  areasRead_ = names;
 }
 
 // A found room keeps the field's spelling; its file is found whatever its case.

@@ -45,6 +45,7 @@ class RoomRecord {
   const Kit kit_;
   TakeoffReportRefresh& reports_;
   LinesInWork lines_{kit_.shared, "room"};
+  QStringList areasRead_;  // the finish areas when they were last read or written
 };
 
 }  // namespace tamo

@@ -1,6 +1,7 @@
 #include "takeoff/takeoffform.h"
 
 #include "common/chain.h"
+#include "common/failure.h"
 #include "records/namelists.h"
 #include "takeoff/takeoffsystem.h"
 
@@ -44,6 +45,7 @@ int TakeoffForm::ReadDescriptions() {
   QStringList names;
   const int error = ReadNamesDelimited(kit_.files, kit_.shared, NameList::Systems, names);
   DescriptionsList.SetRows(names);
+  namesRead_ = names;
   return error;
 }
 
@@ -52,7 +54,9 @@ void TakeoffForm::LoadDescriptionsIfEmpty() {
 }
 
 void TakeoffForm::SaveDescriptions() {
-  WriteNames(kit_.files, kit_.shared, NameList::Systems, DescriptionsList.Rows());
+  const QStringList names = DescriptionsList.Rows();
+  WriteNames(kit_.files, kit_.shared, NameList::Systems, names, namesRead_);
+  namesRead_ = names;
 }
 
 void TakeoffForm::TellToPriceFirst() {
@@ -64,13 +68,19 @@ int TakeoffForm::FetchSystem(const QString& name) {
   int error = 0;
   QStringList fetched;
   const TakeoffSystem system = LoadTakeoffSystem(kit_.files, kit_.shared, name, fetched, error);
+  const bool unread = error != kNoError && !IsMissing(error);
+  if (unread && system.units.isEmpty())
+    throw RunTimeFailure(error,
+                         QStringLiteral("The system \"%1\" can't be read: %2. Its unit is not "
+                                        "known, so nothing was entered for it.")
+                             .arg(name, ReadReasonText(error)));
   if (!fetched.isEmpty()) System.SetRows(fetched);
   Units.SetText(system.units);
   kit_.shared.LineColor = system.lineColour;
   plan_.SetPenColour(system.lineColour);
   plan_.ResetMeasure();
   ShowScale();
-  return error;
+  return unread ? kNoError : error;  // with what was read of it earlier
 }
 
 void TakeoffForm::ShowStatus(const QString& what, int at, int names, const OrderedList& lines) {

@@ -60,6 +60,8 @@ class TakeoffForm : public Form {
 
  private:
   void Activated();
+
+  QStringList namesRead_;  // the systems when their list was last read or written
 };
 
 // A row picked from a list that keeps the most recent first: it goes into the field and to the top.

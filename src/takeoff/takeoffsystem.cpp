@@ -34,8 +34,11 @@ TakeoffSystem LoadTakeoffSystem(Files& files, const SharedFields& shared, const 
   if (NameRefusal(name).isEmpty()) {
     error = ReadSystemHeadDelimited(files, CopyPath(shared, name), head);
     if (error == kFileNotFound) {
-      ImportTakeoffSystem(files, shared, name, fetched);
-      error = ReadSystemHeadDelimited(files, CopyPath(shared, name), head);
+      const int import = ImportTakeoffSystem(files, shared, name, fetched);
+      // A library that can't be read now does not say that there is no such system.
+      const bool unread = import != kNoError && !IsMissing(import);
+      error = ReadSystemHeadDelimited(
+          files, unread ? DataFolder(shared).SystemFile(name) : CopyPath(shared, name), head);
     }
     // A project whose folder for systems is gone can't take a copy; the line still gets its unit.
     if (error == kPathNotFound) {

@@ -142,7 +142,7 @@ void WindowKeeper::SyncWindows() {
     return;
   }
   const Desk& desk = parts_->program.GetDesk();
-  const QString notice = parts_->program.GetFiles().Notice();
+  const QString notice = parts_->program.Notice();
   // From the back to the front, so that new windows lie in the order of the forms.
   const std::vector<Form*> shown(desk.FrontToBack().rbegin(), desk.FrontToBack().rend());
   bool shownBehind = false;

@@ -64,9 +64,10 @@ void PanelRecord::SaveJobNFO() {
   if (kit_.shared.JobID.isEmpty() || panel_.JobName.Empty()) return;
   const QString plan = near_.plan.Fields().planLocation;
   if (!plan.isEmpty()) near_.plan.SetPlanLocation(MarkedPlanPath(plan, kit_.shared));
-  WriteProjectRecord(kit_.files, kit_.shared, RecordOfFields());
+  const int error = WriteProjectRecord(kit_.files, kit_.shared, RecordOfFields());
   shownFolder_ = ProjectFolder(kit_.shared).Path();
   stored_ = Texts();
+  if (error == kTheirsTaken) LoadJobNFO();
 }
 
 QStringList PanelRecord::Texts() const {

@@ -9,6 +9,7 @@ void ProjectPicker::LoadJobsList() {
   QStringList entries;
   ReadProjectList(kit_.files, kit_.shared, entries);
   panel_.JobsList.SetRows(entries);
+  base_ = entries;
   listedFolder_ = kit_.shared.DataPath;
 }
 
@@ -22,7 +23,9 @@ void ProjectPicker::SaveJobsList() {
   if (panel_.JobName.Empty() || kit_.shared.JobID.isEmpty()) return;
   if (kit_.shared.OPN == QLatin1String("1")) AddProject();
   NeedJobsList();
-  WriteProjectList(kit_.files, kit_.shared, panel_.JobsList.Rows());
+  const QStringList entries = panel_.JobsList.Rows();
+  WriteProjectList(kit_.files, kit_.shared, entries, base_);
+  base_ = entries;
 }
 
 void ProjectPicker::AddProject() {

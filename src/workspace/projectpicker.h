@@ -30,6 +30,7 @@ class ProjectPicker {
   const Kit kit_;
   ProjectPanel& panel_;
   ProjectIds& ids_;
+  QStringList base_;      // what the list held when it was last read or written
   QString listedFolder_;  // the data folder that JobsList was read from
 };
 

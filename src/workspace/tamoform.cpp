@@ -14,7 +14,9 @@ TamoForm::TamoForm(const Kit& kit, SettingsForm& settings, const ProjectNeighbou
   SetCaption(QStringLiteral("Estimating Beta 1.4"));
   panel.JobName.onChange = [this] { kit_.shared.JobName = panel.JobName.Text(); };
   panel.JobsList.onSelect = [this] {
-    if (panel.JobsList.Index() >= 0) projects.OpenSelected();
+    if (panel.JobsList.Index() < 0) return;
+    projects.OpenSelected();
+    conflicts.LookAround();
   };
   hold.onChange = [this] { projects.ShowWhoHasIt(); };
   hold.onFree = [this] { projects.ReadAgain(); };
@@ -35,6 +37,7 @@ void TamoForm::Init() {
   }
   SweepDataFolders(kit_.files, kit_.shared);
   kit_.shared.JobID.clear();
+  conflicts.LookAround();
   kit_.shared.Locked = QStringLiteral("False");
   near_.windows.EnterMode(kit_.shared.GUIText == QLatin1String("2") ? 2 : 1);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workspace/conflictcopies.h"
 #include "workspace/projectcopies.h"
 #include "workspace/projectlifecycle.h"
 #include "workspace/settingsform.h"
@@ -34,6 +35,7 @@ class TamoForm : public Form {
   ProjectIds ids{kit_, settings_.EstimatorNumber};
   ProjectPicker picker{kit_, panel, ids};
   ProjectHold hold{kit_};
+  ConflictCopies conflicts{kit_};
   ProjectLock lock{kit_, hold};
   PanelRecord record{kit_, panel, lock, near_};
 

@@ -34,7 +34,7 @@ PdfDraw& ProgramPlayed::Viewer() {
   return *viewer_;
 }
 QString ProgramPlayed::Notice() {
-  return program_->GetFiles().Notice();
+  return program_->Notice();
 }
 void ProgramPlayed::TrySavesAgain() {
   program_->TrySavesAgain();

@@ -162,8 +162,12 @@ std::vector<RecordCase> NameRecords() {
           Names("Items", "Items.tamo", NameList::Items, ReadNamesDelimited)};
 }
 
+int WriteNewProjectList(Files& files, const DataFolder& data, const QStringList& entries) {
+  return WriteProjectList(files, data, entries, {});
+}
+
 std::vector<RecordCase> ListRecords() {
-  return {List("ProjectList", &DataFolder::ProjectList, ReadProjectList, WriteProjectList),
+  return {List("ProjectList", &DataFolder::ProjectList, ReadProjectList, WriteNewProjectList),
           Text("ProjectNumber", &DataFolder::ProjectNumber, ReadProjectNumber, WriteProjectNumber),
           List("RoomNames", &ProjectFolder::RoomNames, ReadRoomNames, WriteRoomNames),
           List("AreaNames", &ProjectFolder::AreaNames, ReadAreaNames, WriteAreaNames),
