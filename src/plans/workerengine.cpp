@@ -16,9 +16,9 @@ std::atomic<bool> filesFree = false;
 
 }  // namespace
 
-void NoteGuard(WireReader& wire) {
-  if (!wire.Flag()) callsFree = true;
-  if (!wire.Flag()) filesFree = true;
+void NoteGuard(const WorkerGuard& guard) {
+  if (!guard.calls) callsFree = true;
+  if (!guard.files) filesFree = true;
 }
 
 QString WorkerEngine::MissingGuards() {

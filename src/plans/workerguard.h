@@ -5,6 +5,6 @@
 namespace tamo {
 
 // What a worker says of how it is guarded, kept for WorkerEngine::MissingGuards.
-void NoteGuard(WireReader& wire);
+void NoteGuard(const WorkerGuard& guard);
 
 }  // namespace tamo

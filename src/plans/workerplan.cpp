@@ -153,11 +153,13 @@ PlanContents WorkerPlan::Open(const QString& password) {
   });
   PlanContents contents;
   WireReader wire(answer.body);
-  if (answer.there) {
-    NoteGuard(wire);
-    Take(wire, contents);
+  const WorkerGuard guard{wire.Flag(), wire.Flag()};
+  Take(wire, contents);
+  const bool said = contents.error == kNoError || !contents.problem.isEmpty();
+  if (answer.there && wire.AtEnd() && said) {
+    NoteGuard(guard);
+    return contents;
   }
-  if (answer.there && wire.AtEnd()) return contents;
   contents = {};
   contents.error = kFileOther;
   contents.problem = started ? EngineEnded()
