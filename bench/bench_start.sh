@@ -5,7 +5,8 @@ set -euo pipefail
 bench=$1/bench
 data=$(cd "$(dirname "$0")/../data" && pwd)
 work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
+owner=
+trap '[ -z "$owner" ] || kill "$owner"; rm -rf "$work"' EXIT
 project=$work/home/Tamo/Projects/07-2611001
 mkdir -p "$work/program" "$work/bare" "$project"/{Rooms,Systems,ATOs}
 cp "$data"/*.pdf "$work/program/"
@@ -43,7 +44,6 @@ for _ in $(seq 21); do
   [ $status = 3 ] || { echo "the second program was not told that the project is open" && exit 1; }
   echo $((($(date +%s%N) - begun) / 1000)) >>"$work/second"
 done
-kill "$owner"
 for kind in tamo project second; do
   time=$(median <"$work/$kind")
   words=Tamo

@@ -24,7 +24,8 @@ int main(int argc, char** argv) {
     QFile ready(QString::fromLocal8Bit(argv[3]));
     return ready.open(QIODevice::WriteOnly) ? QApplication::exec() : 2;
   }
+  const bool theirs = !program.Shared().ReadOnly.isEmpty();
   const tamo::bench::FirstFrame end;
   const int status = QApplication::exec();
-  return program.Shared().ReadOnly.isEmpty() ? status : 3;
+  return theirs ? 3 : status;
 }

@@ -7,9 +7,27 @@ install(FILES ${PROJECT_SOURCE_DIR}/data/Blank.pdf ${PROJECT_SOURCE_DIR}/data/Ab
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/Docs ${PROJECT_SOURCE_DIR}/data/Sample DESTINATION ${program_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/tamo.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/tamo.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+foreach(size 16 22 24 32 48 64 128 256)
+  install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/icons/tamo-${size}.png
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps RENAME tamo.png)
+endforeach()
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/desktop/icons DESTINATION ${program_folder}/desktop)
 install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/tamo.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
-install(FILES ${PROJECT_SOURCE_DIR}/LICENSE ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md ${PROJECT_SOURCE_DIR}/README.md
+# The documents, with the pictures and pages that they point to.
+install(FILES ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/data/desktop/copyright
         DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# Compressed without a time in it, so that two builds are equal.
+find_program(GZIP gzip REQUIRED)
+function(install_compressed source folder name)
+  set(made ${CMAKE_BINARY_DIR}/compressed/${name}.gz)
+  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/compressed)
+  execute_process(COMMAND ${GZIP} -9nc ${PROJECT_SOURCE_DIR}/${source} OUTPUT_FILE ${made} COMMAND_ERROR_IS_FATAL ANY)
+  install(FILES ${made} DESTINATION ${folder})
+endfunction()
+install_compressed(CHANGELOG.md ${CMAKE_INSTALL_DOCDIR} changelog)
+install_compressed(data/desktop/changelog ${CMAKE_INSTALL_DOCDIR} changelog.Debian)
+install_compressed(data/desktop/tamo.1 ${CMAKE_INSTALL_MANDIR}/man1 tamo.1)
 install(CODE "
   file(MAKE_DIRECTORY \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")
   file(CREATE_LINK ../${program_folder}/tamo \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/tamo\" SYMBOLIC)")

@@ -23,7 +23,7 @@ TOPICS = """Mission Start Projects OpenProject ClearProject NewProject ProjectIn
 LockUnlockProject CopyProject PasteProject DeleteProject Pricing BuildingSystems Markups CopySystem
 PasteSystem ImportSystem ExportSystem ExitPricing Estimate RFS EnterRFS EstimateRFS NonRFS BottomLine
 PriceAdjust Reports Quantities RecapSheet AreaRoomDetail BillOfMaterial BillingHelp OST ZoomOut
-ZoomIn Scale Files Save Print Documentation Settings ExitOST""".split()
+ZoomIn Scale Files Save Print Documentation Settings ExitOST Versions""".split()
 
 problems = []
 

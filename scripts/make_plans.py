@@ -13,6 +13,7 @@ import json
 import pathlib
 import sys
 
+from finish_sheet import TITLE, finish_sheet
 from floor_plans import ABOUT, LARKSPUR, POINTS_PER_FOOT, WALL
 from pdf_sheet import Sheet
 
@@ -270,6 +271,7 @@ def main():
     target.parent.mkdir(parents=True, exist_ok=True)
     sheet.write(target)
     write_dimensions(tests / "Larkspur-dimensions.json", target.name, sheet, drawing)
+    finish_sheet().write(target.with_name(TITLE + ".pdf"))
 
 
 if __name__ == "__main__":

@@ -16,6 +16,7 @@ import sys
 from floor_plans import LARKSPUR
 from make_plans import SAMPLE_PLAN
 from sample_library import (FINISH_AREAS, KNOWN_ITEMS, MARKUPS, SYSTEMS, UNITS, materials)
+from sample_version import version
 
 JOB_ID = "12-2611001"
 JOB_NAME = "Larkspur Learning Center"
@@ -117,11 +118,18 @@ class Folder:
 
     def __init__(self, root):
         self.root = root
+        self.files = {}  # the texts that were put, by their paths
 
     def put(self, path, lines):
         target = self.root / path
         target.parent.mkdir(parents=True, exist_ok=True)
-        target.write_bytes("".join(line + "\r\n" for line in lines).encode("utf-8"))
+        self.files[path] = "".join(line + "\r\n" for line in lines)
+        target.write_bytes(self.files[path].encode("utf-8"))
+
+    def put_version(self, name, text):
+        target = self.root / "History" / "Versions" / name
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_bytes(text.encode("utf-8"))
 
 
 def system_lines(name):
@@ -198,6 +206,7 @@ def main():
     folder.put("Project.num", [JOB_ID])
     folder.put("Jobs.lst", [f"{JOB_ID}   {JOB_NAME}"])
     write_project(folder)
+    folder.put_version(f"{JOB_ID}/2026-11-17 140211.version", version(folder.files, JOB_ID, JOB_NAME))
 
 
 if __name__ == "__main__":

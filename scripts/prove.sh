@@ -29,6 +29,7 @@ prove "A failing write (access, input/output, full disk, half a write): one, fiv
 prove "A failing read, the same" reading --most $((5000 / part))
 prove "Power lost, what was not synced dropped or reordered" power --most $((10000 / part))
 prove "The folder gone for 5, 30 or 150 file operations, then there again" away --most $((2000 / part))
+prove "Killed at each file operation while bottom line items wait for their last step; what was entered is offered" waiting --most $((1000 / part))
 prove "Two programs at one folder, each file operation of both delayed at random" two --most $((1000 / part))
 
 python3 - "$figures" docs/reliability.md <<'END'

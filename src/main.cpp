@@ -1,6 +1,6 @@
 #include <QApplication>
 #include <QDir>
-#include <QIcon>
+#include <QFileInfo>
 #include <QSessionManager>
 #include <QStandardPaths>
 #include <QTimer>
@@ -10,13 +10,16 @@
 #include "plans/pdfdraw.h"
 #include "plans/workerengine.h"
 #include "program/program.h"
+#include "schedule/sheetpictures.h"
+#include "schedule/tesseract.h"
 #include "windows/endsignals.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
 #include "windows/reportprinter.h"
 #include "windows/windowkeeper.h"
 
-// Starts the toolkit, the program and its windows. There is no command line.
+// Starts the toolkit, the program and its windows. A plan that is named on the command line is
+// opened.
 
 namespace {
 
@@ -43,11 +46,8 @@ QString ConfigFolder() {
 
 // Behind the first window: the readers of pictures take their time to load.
 void ShowIconLater(const tamo::Platform& platform) {
-  QTimer::singleShot(0, [&platform] {
-    QApplication::setWindowIcon(
-        QIcon::fromTheme(QStringLiteral("tamo"),
-                         QIcon(platform.programFolder + QStringLiteral("/desktop/tamo.svg"))));
-  });
+  QTimer::singleShot(
+      0, [&platform] { QApplication::setWindowIcon(tamo::ProgramIcon(platform.programFolder)); });
 }
 
 // The user logs out, or the machine is switched off.
@@ -66,6 +66,11 @@ void KeepWhatIsTyped(QTimer& timer, tamo::Program& program) {
   timer.start(kKeepEvery);
 }
 
+void OpenNamedPlan(const QStringList& arguments, tamo::Program& program) {
+  if (arguments.size() < 2) return;
+  program.OpenPlan(QDir::toNativeSeparators(QFileInfo(arguments[1]).absoluteFilePath()));
+}
+
 void LookAbout(QTimer& ticks, tamo::Program& program) {
   QObject::connect(&ticks, &QTimer::timeout, &ticks, [&program] { program.Tick(); });
   ticks.start(kTick);
@@ -82,6 +87,7 @@ int main(int argc, char** argv) {
   tamo::ApplyLook(tamo::Look::Of(QApplication::palette()));
 
   tamo::RealDisk disk;
+  tamo::RealDisk historyDisk;
   tamo::SystemClock clock;
   tamo::BoxMessages messages;
   tamo::ReportPrinter printer;
@@ -92,26 +98,31 @@ int main(int argc, char** argv) {
   const tamo::Platform platform{
       disk,         clock,     messages,
       printer,      clipboard, tamo::FindProgramFolder(QCoreApplication::applicationDirPath()),
-      HomeFolder(), config};
+      HomeFolder(), config,    &historyDisk};
   ShowIconLater(platform);
 
   tamo::Files planFiles(disk);
   tamo::WorkerEngine engine;
   tamo::PdfDraw viewer(planFiles, engine);
   viewer.SetPatience(kPatience);
+  const tamo::Tesseract recogniser;
   tamo::Program program(platform, viewer);
+  program.ReadPictures(std::make_shared<const tamo::SheetPictures>(recogniser));
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
+  printer.company = [&program] { return program.CompanyName(); };
   messages.beforeBox = [&windows] { windows.SyncNow(); };
   program.onEnded = [] { QTimer::singleShot(0, [] { QApplication::quit(); }); };
   SaveBeforeTheSystemEnds(application, program);
   const tamo::EndSignals signals([&program] {
     program.SaveAll();
-    QApplication::quit();
+    // Not quit: no window is asked, nothing may wait for an answer.
+    QCoreApplication::exit();
   });
   QTimer keeping;
   KeepWhatIsTyped(keeping, program);
   program.Start();
+  OpenNamedPlan(QApplication::arguments(), program);
   QTimer ticks;
   LookAbout(ticks, program);
   return QApplication::exec();

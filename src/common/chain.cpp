@@ -32,8 +32,11 @@ void OnEnter(TextField& field, Step step) {
 }
 
 void OnEnter(TextField& field, Keys keys, Step step) {
-  field.onKey = [keys, step = std::move(step)](Key& key) {
-    if (!Passes(key, keys)) key.Drop();
+  field.onKey = [&field, keys, step = std::move(step)](Key& key) {
+    if (!Passes(key, keys)) {
+      key.Drop();
+      if (keys != Keys::FileName && key.character == QLatin1Char(',')) field.CommaDropped();
+    }
     if (!key.IsEnter()) return;
     key.Drop();
     step();

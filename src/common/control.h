@@ -101,6 +101,10 @@ class TextField : public Control {
   int MaxLength() const { return maxLength_; }  // 0: no limit. Holds for typing and pasting
   bool readOnly = false;                        // to the user
   void SetReadOnly(bool is);                    // the same, at any time
+  // A comma typed between digits was dropped, and one or two digits follow its place: the number as
+  // it was taken is another one than was meant. It is said beside the field.
+  void CommaDropped();
+  QString Beside() const;
   bool multiLine = false;
 
   int SelectionStart() const { return selectionStart_; }
@@ -127,6 +131,7 @@ class TextField : public Control {
   int maxLength_;
   int selectionStart_ = 0;
   int selectionLength_ = 0;
+  int comma_ = -1;  // where one was dropped
 };
 
 // An ordered list of text rows with a selected index (-1 for none) and a top row. Never sorted.

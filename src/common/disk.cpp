@@ -56,6 +56,15 @@ int Result(int returned, const QString& path) {
   return returned < 0 ? NumberOf(errno, path) : kNoError;
 }
 
+// Network file systems and old kernels have no such renames.
+int RenameWith(unsigned flags, const QString& from, const QString& to) {
+  const int done =
+      ::renameat2(AT_FDCWD, Native(from).constData(), AT_FDCWD, Native(to).constData(), flags);
+  if (done == 0) return kNoError;
+  if (errno == EINVAL || errno == ENOSYS || errno == ENOTSUP) return kNotOffered;
+  return errno == EEXIST ? kFileExists : NumberOf(errno, to);
+}
+
 class RealReader : public FileReader {
  public:
   RealReader(int handle, qint64 size) : handle_(handle), size_(size) {}
@@ -214,6 +223,14 @@ void RealDisk::TakeOver(int handle, const QString& from) {
 
 int RealDisk::Rename(const QString& from, const QString& to) {
   return Result(std::rename(Native(from).constData(), Native(to).constData()), to);
+}
+
+int RealDisk::RenameNew(const QString& from, const QString& to) {
+  return RenameWith(RENAME_NOREPLACE, from, to);
+}
+
+int RealDisk::Swap(const QString& one, const QString& other) {
+  return RenameWith(RENAME_EXCHANGE, one, other);
 }
 
 int RealDisk::SyncFolder(const QString& folder) {

@@ -36,6 +36,9 @@ struct FileStamp {
 
 inline constexpr qint64 kLargestText = 64 << 20;  // bytes; no text file of ours comes near it
 
+// An error number: the file system can't do that.
+inline constexpr int kNotOffered = 1004;
+
 // The file system, one call a step, so that a test can make any step fail. Every call that can fail
 // returns an error number: 0, 53 file not found, 76 path not found, 75 access, 61 disk full, 57
 // other; reading also 14 far too large, 62 ended short. Paths are whole paths in the platform's
@@ -73,6 +76,18 @@ class Disk {
   virtual int Close(int handle) = 0;
   // `to` is replaced in one step: whoever opens it sees the old file or the new one, whole.
   virtual int Rename(const QString& from, const QString& to) = 0;
+  // As Rename, but 58 when `to` is there. kNotOffered where the file system has no such step.
+  virtual int RenameNew(const QString& from, const QString& to) {
+    (void)from;
+    (void)to;
+    return kNotOffered;
+  }
+  // Two files change names in one step. kNotOffered likewise.
+  virtual int Swap(const QString& one, const QString& other) {
+    (void)one;
+    (void)other;
+    return kNotOffered;
+  }
   // Makes a rename in `folder` last.
   virtual int SyncFolder(const QString& folder) = 0;
 
@@ -113,6 +128,8 @@ class RealDisk : public Disk {
   int Sync(int handle) override;
   int Close(int handle) override;
   int Rename(const QString& from, const QString& to) override;
+  int RenameNew(const QString& from, const QString& to) override;
+  int Swap(const QString& one, const QString& other) override;
   int SyncFolder(const QString& folder) override;
   int MakeFolder(const QString& path) override;
   int RemoveFile(const QString& path) override;

@@ -8,7 +8,6 @@
 #include "common/textlines.h"
 
 namespace tamo {
-
 QString Files::Resolved(const QString& path) {
   if (disk_.Exists(path)) return path;
   const QString other = names_.OtherCase(disk_, path);
@@ -146,15 +145,48 @@ int Files::SaveText(const QString& path, const QString& text, FileKind kind, con
 
 // Writes it, together with what the file holds beyond what the program knows of it.
 int Files::Store(Pending& save, bool mayAsk) {
-  QString text;
-  save.reason = TextToStore(save, mayAsk, text);
-  save.held = save.reason != kNoError;
-  if (save.held) return save.reason;
-  save.reason = ReplaceInItsFolder(save.path, text.toUtf8());
-  if (save.reason != kNoError && save.reason != kNotConfirmed) return save.reason;
-  book_.Stored(save.path, save.text, text != save.text);
-  book_.Saw(save.path, disk_.Stamp(save.path));
+  constexpr int kMostRounds = 20;
+  for (int round = 0; round < kMostRounds; ++round) {
+    Text made;
+    save.reason = TextToStore(save, mayAsk, made);
+    save.held = save.reason != kNoError;
+    if (save.held) return save.reason;
+    save.reason = ReplaceInItsFolder(save.path, made);
+    if (!made.displaced.isNull()) save.reason = TakeIn(save, save.reason, made);
+    if (save.reason == kFileExists) continue;  // another program was quicker
+    if (save.reason != kNoError && save.reason != kNotConfirmed) return save.reason;
+    book_.Stored(save.path, save.text, made.text != save.text);
+    book_.Saw(save.path, disk_.Stamp(save.path));
+    return save.reason;
+  }
   return save.reason;
+}
+
+// Another program stored its text between our look and our save, and ours stands in its place: what
+// it holds is merged into ours, until nobody was between. They may have begun with a text that was
+// out of its place just then, so that a name that is missing there was not taken out by anybody.
+// What can't be merged is put back, and looked at like anything that was there before. 58: the save
+// has to be made once more.
+int Files::TakeIn(Pending& save, int reason, Text& made) {
+  while (!made.displaced.isNull()) {
+    Text whole{{}, made.text, {}};
+    const bool names = save.kind == FileKind::List || save.kind == FileKind::Pairs;
+    const QString base = names ? QString() : made.expected;
+    if (!MergeTexts(save.kind, base, made.text, made.displaced, whole.text)) {
+      whole.text = made.displaced;
+      Replace(save.path, whole);
+      book_.SetApart(save.path);
+      return kFileExists;
+    }
+    if (whole.text == made.text) return reason;
+    reason = Replace(save.path, whole);
+    made = whole;
+    if (reason != kNoError && reason != kNotConfirmed) {
+      save.text = whole.text;  // theirs waits together with ours
+      return reason;
+    }
+  }
+  return reason;
 }
 
 // The text of the save was made from an earlier one than the program has read since.
@@ -175,19 +207,21 @@ bool Files::MustLook(const Pending& save) const {
 
 // The text of a save, merged with the file's where that is not what the program last had of it. An
 // error number when the file must not be written over.
-int Files::TextToStore(const Pending& save, bool mayAsk, QString& text) {
-  text = save.text;
+int Files::TextToStore(const Pending& save, bool mayAsk, Text& made) {
   const QString& path = save.path;
+  made.text = save.text;
+  if (book_.HasLastText(path)) made.Expect(book_.LastText(path));
   if (!MustLook(save)) return kNoError;
   QString theirs;
   const int error = Noted(path, ReadAnyCase(path, theirs));
   if (IsMissing(error)) return kNoError;
   if (error != kNoError) return error;
+  made.Expect(theirs);
   const bool older = IsOlder(save);
   if (!older && book_.IsLastText(path, theirs)) return kNoError;
-  if (MergeTexts(save.kind, older ? save.base : book_.LastText(path), save.text, theirs, text))
+  if (MergeTexts(save.kind, older ? save.base : book_.LastText(path), save.text, theirs, made.text))
     return kNoError;
-  text = save.text;
+  made.text = save.text;
   return mayAsk && keepMine ? Chosen(save, theirs) : kChangedMeanwhile;
 }
 
@@ -198,17 +232,6 @@ int Files::Chosen(const Pending& save, const QString& theirs) {
   return kTheirsTaken;
 }
 
-int Files::Replace(const QString& path, const QByteArray& bytes) {
-  const QString target = Resolved(path);
-  names_.Forget();
-  memory_.Forget(target);
-  if (disk_.Exists(target) && !disk_.CanWrite(target)) return kNoAccess;
-  if (disk_.IsFolder(target)) return kNoAccess;
-  Replacement fresh(disk_, target);
-  const int error = fresh.Begin();
-  return error != kNoError ? error : fresh.Finish(disk_.Write(fresh.Handle(), bytes));
-}
-
 bool Files::Exists(const QString& path) {
   return FindPendingText(path) != nullptr || disk_.Exists(Resolved(path));
 }
@@ -216,8 +239,12 @@ bool Files::Exists(const QString& path) {
 int Files::Remove(const QString& path) {
   if (mayWrite && !mayWrite(path)) return kNoAccess;
   StopTrying(path);
-  const int error = disk_.RemoveFile(Resolved(path));
+  const QString target = Resolved(path);
+  std::shared_ptr<FileReader> former;
+  if (witness != nullptr) disk_.OpenToRead(target, former);
+  const int error = disk_.RemoveFile(target);
   names_.Forget();
+  if (error == kNoError && former != nullptr) witness->Replaced(target, std::move(former));
   if (error == kNoError || IsMissing(error)) book_.Forget(path);
   return error;
 }
@@ -256,11 +283,11 @@ void Files::MakeFolders(const QString& path) {
 
 // A folder that could not be made when it was asked for is made now; why it still can't be is the
 // reason of the failed save.
-int Files::ReplaceInItsFolder(const QString& path, const QByteArray& bytes) {
-  const int error = Replace(path, bytes);
+int Files::ReplaceInItsFolder(const QString& path, Text& made) {
+  const int error = Replace(path, made);
   if (error != kPathNotFound || missingFolders_.isEmpty()) return error;
   const int folders = MakeMissingFolders();
-  const int again = Replace(path, bytes);
+  const int again = Replace(path, made);
   return again == kPathNotFound && folders != kNoError ? folders : again;
 }
 

@@ -8,6 +8,7 @@
 
 #include "common/disk.h"
 #include "common/filememory.h"
+#include "common/filewitness.h"
 #include "common/foldernames.h"
 #include "common/merge.h"
 #include "common/readbook.h"
@@ -63,6 +64,9 @@ class Files {
   int SaveLines(const QString& path, const QStringList& lines, FileKind kind = FileKind::Record,
                 const QString& base = {});
 
+  // The same for bytes as they are. A failure is only told: nothing waits, nothing is tried again.
+  int ReplaceFile(const QString& path, const QByteArray& bytes);
+
   bool Exists(const QString& path);  // also true for a pending file
   int Remove(const QString& path);   // a pending text of that file is dropped, too
   // The program removed the folder with all in it: it may be missing, and made anew.
@@ -116,6 +120,8 @@ class Files {
   QString Notice() const;
   std::function<void()> onPendingChanged;  // set by whoever shows the notice
 
+  FileWitness* witness = nullptr;  // of each file that is replaced or removed; outlives this
+
   // While one stands, a folder is listed once however many missing names are looked for in it. For
   // reports and walks, which change nothing; a save ends what was listed.
   class Look {
@@ -142,16 +148,27 @@ class Files {
   void Sweep(const QString& folder);
 
  private:
+  // What is to be written, and what the file is taken to hold then; null: nothing is known of it.
+  struct Text {
+    QString text;
+    QString expected;
+    QString displaced;   // what it held instead; null when that was right, or can't be told
+    QByteArray bytes{};  // in place of `text` where they are no text; null otherwise
+    void Expect(const QString& held) { expected = held.isNull() ? QLatin1String("") : held; }
+  };
   bool IsOlder(const Pending& save) const;
   int ReadAnyCase(const QString& path, QString& text, bool missing = false);
   int GoneOrMissing(const QString& path, int error) const;
   int Noted(const QString& path, int error);
   int Store(Pending& save, bool mayAsk);
   bool MustLook(const Pending& save) const;
-  int TextToStore(const Pending& save, bool mayAsk, QString& text);
+  int TakeIn(Pending& save, int reason, Text& made);
+  int TextToStore(const Pending& save, bool mayAsk, Text& made);
   int Chosen(const Pending& save, const QString& theirs);
-  int Replace(const QString& path, const QByteArray& bytes);
-  int ReplaceInItsFolder(const QString& path, const QByteArray& bytes);
+  int Replace(const QString& path, Text& made);
+  int ReplaceOnce(const QString& target, Text& made);
+  int Witnessed(int error, const QString& target, std::shared_ptr<FileReader> former) const;
+  int ReplaceInItsFolder(const QString& path, Text& made);
   int MakeMissingFolders();
   void MakeLasting(const QString& folder);
   void RetryPending(const QString& except);

@@ -103,6 +103,11 @@ void ReadBook::ForgetFolder(const QString& folder) {
   Forget(folder);
 }
 
+bool ReadBook::HasLastText(const QString& path) const {
+  const QString key = Key(path);
+  return young_.contains(key) || old_.contains(key);
+}
+
 QString ReadBook::LastText(const QString& path) const {
   const QString key = Key(path);
   const auto young = young_.constFind(key);

@@ -52,6 +52,8 @@ class ReadBook {
   // a failed read, or a merged save, to the next time that the program reads the file.
   bool Apart(const QString& path) const { return apart_.contains(Key(path)); }
   qsizetype CountApart() const { return apart_.size(); }
+  // Whether LastText is there.
+  bool HasLastText(const QString& path) const;
   // What the program last read there or stored, "" when it knows nothing.
   QString LastText(const QString& path) const;
   bool IsFailing(const QString& path) const;

@@ -36,17 +36,50 @@ int Replacement::Begin() {
   return error == kFileNotFound ? kPathNotFound : error;
 }
 
-int Replacement::Finish(int error) {
+int Replacement::Ready(int error) {
   if (error == kNoError) disk_.TakeOver(handle_, target_);
   if (error == kNoError) error = disk_.Sync(handle_);
   const int closing = disk_.Close(handle_);
-  if (error == kNoError) error = closing;
-  if (error == kNoError) error = disk_.Rename(name_, target_);
+  return error == kNoError ? closing : error;
+}
+
+int Replacement::Done(int error) {
   if (error != kNoError) {
     disk_.RemoveFile(name_);
     return error;
   }
   return disk_.SyncFolder(FolderOf(target_)) == kNoError ? kNoError : kNotConfirmed;
+}
+
+int Replacement::Finish(int error) {
+  error = Ready(error);
+  return Done(error == kNoError ? disk_.Rename(name_, target_) : error);
+}
+
+int Replacement::FinishNew(int error) {
+  error = Ready(error);
+  if (error != kNoError) return Done(error);
+  error = disk_.RenameNew(name_, target_);
+  return Done(error == kNotOffered ? disk_.Rename(name_, target_) : error);
+}
+
+// Whoever swapped in between finds our file under its own name, as we find theirs.
+int Replacement::FinishSwapped(int error, QByteArray& displaced) {
+  displaced = QByteArray();
+  error = Ready(error);
+  if (error != kNoError) return Done(error);
+  error = disk_.Swap(name_, target_);
+  if (error == kNotOffered || error == kFileNotFound) return Done(disk_.Rename(name_, target_));
+  if (error != kNoError) return Done(error);
+  error = disk_.Read(name_, displaced);
+  if (error != kNoError) {
+    disk_.Swap(name_, target_);
+    return Done(error);
+  }
+  if (displaced.isNull()) displaced = QByteArray("");
+  error = Done(kNoError);
+  disk_.RemoveFile(name_);
+  return error;
 }
 
 bool LeftByTheDead(const QString& name, qint64 age) {

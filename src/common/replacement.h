@@ -28,8 +28,17 @@ class Replacement {
   // Last of all, unless Begin failed. With an `error` of what went before, or when a step fails,
   // the new file is taken away again and the old one stays.
   int Finish(int error);
+  // The same for a file that is not there: 58 when another program has made it since.
+  int FinishNew(int error);
+  // The same for a file that another program may have stored since it was looked at: `displaced`
+  // gets what the old file held in the moment in which its place was taken. Null where the file
+  // system can't tell.
+  int FinishSwapped(int error, QByteArray& displaced);
 
  private:
+  int Ready(int error);
+  int Done(int error);
+
   Disk& disk_;
   QString path_;
   QString target_;  // the same, or what the link at `path_` leads to

@@ -62,6 +62,8 @@ struct Platform {
   QString homeFolder;     // in which the default data folder stands
   QString
       configFolder;  // the user's own configuration, used when the program folder can't be written
+  // What former states of files are kept on; used from a thread of its own. None are kept without.
+  Disk* historyDisk = nullptr;
 };
 
 class SystemClock : public Clock {

@@ -11,6 +11,8 @@ TextField::TextField(Form& form, const QString& name, int maxLength)
 }
 
 void TextField::Take(const QString& text) {
+  // Whatever changes before its place, or takes the whole text away, is another number.
+  if (comma_ > 0 && text.left(comma_) != text_.left(comma_)) comma_ = -1;
   text_ = text;
   Changed();
   if (onChange) onChange();
@@ -20,7 +22,20 @@ void TextField::SetText(const QString& text) {
   if (text_ == text) return;
   selectionStart_ = 0;
   selectionLength_ = 0;
+  comma_ = -1;
   Take(text);
+}
+
+void TextField::CommaDropped() {
+  if (comma_ > 0 || selectionLength_ > 0 || selectionStart_ == 0) return;
+  if (text_[selectionStart_ - 1].isDigit()) comma_ = selectionStart_;
+}
+
+QString TextField::Beside() const {
+  if (comma_ < 0) return {};
+  qsizetype digits = 0;
+  while (comma_ + digits < text_.size() && text_[comma_ + digits].isDigit()) ++digits;
+  return digits == 1 || digits == 2 ? QStringLiteral("taken as %1").arg(text_) : QString();
 }
 
 void TextField::SetReadOnly(bool is) {

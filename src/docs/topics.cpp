@@ -74,7 +74,8 @@ QString FileOfForm(const QString& form) {
       {"BottomLine", "BottomLineDocs.tamo"},
       {"AdjustmentForm", "PriceAdjustDocs.tamo"},
       {"OST", "OSTDocs.tamo"},
-      {"Reports", "ReportsDocs.tamo"}};
+      {"Reports", "ReportsDocs.tamo"},
+      {"Versions", "VersionsDocs.tamo"}};
   for (const auto& [name, file] : forms) {
     if (form == QLatin1String(name)) return QLatin1String(file);
   }

@@ -32,6 +32,8 @@ double SamplesOf(const unsigned char* data, size_t size) {
 
 }  // namespace
 
+// The linker gives the engine's function these names (--wrap).
+// NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 
 fz_pixmap* __real_fz_load_jpx(fz_context* context, const unsigned char* data, size_t size,
@@ -56,3 +58,4 @@ fz_pixmap* __wrap_fz_load_jpx(fz_context* context, const unsigned char* data, si
 }
 
 }  // extern "C"
+// NOLINTEND(bugprone-reserved-identifier)

@@ -42,6 +42,31 @@ bool IsColourCode(const QString& code) {
          });
 }
 
+namespace {
+
+double Luminance(const double (&parts)[3]) {
+  double light[3];
+  for (int i = 0; i < 3; ++i) {
+    light[i] = parts[i] <= 0.03928 ? parts[i] / 12.92 : std::pow((parts[i] + 0.055) / 1.055, 2.4);
+  }
+  return 0.2126 * light[0] + 0.7152 * light[1] + 0.0722 * light[2];
+}
+
+}  // namespace
+
+unsigned ReadableOnWhite(unsigned colour) {
+  constexpr double kLeastContrast = 4.5;
+  constexpr double kDarker = 0.95;
+  double parts[3];
+  for (int i = 0; i < 3; ++i) parts[i] = (colour >> (16 - 8 * i) & 255) / 255.0;
+  while (1.05 / (Luminance(parts) + 0.05) < kLeastContrast) {
+    for (double& part : parts) part *= kDarker;
+  }
+  unsigned dark = 0;
+  for (const double part : parts) dark = dark << 8 | static_cast<unsigned>(part * 255);
+  return dark;
+}
+
 unsigned ColourNumber(const QString& code) {
   if (!IsColourCode(code)) return 0;
   unsigned colour = 0;

@@ -46,6 +46,8 @@ double Distance(PagePoint from, PagePoint to);
 // The three parts of a colour code RRRGGGBBB as 0xRRGGBB, parts over 255 taken as 255; black for a
 // text that is not nine digits.
 unsigned ColourNumber(const QString& code);
+// The colour itself, or as much darker as it takes to be read on white paper. 0xRRGGBB.
+unsigned ReadableOnWhite(unsigned colour);
 bool IsColourCode(const QString& code);
 
 }  // namespace tamo

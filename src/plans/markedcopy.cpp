@@ -6,6 +6,7 @@
 #include "common/failure.h"
 #include "plans/planname.h"
 #include "records/datafolder.h"
+#include "records/projectfolders.h"
 
 namespace tamo {
 
@@ -44,6 +45,7 @@ void MarkedCopy::Save(const QString& id) {
 // long as it shows this plan.
 void MarkedCopy::Write(const QString& target) {
   if (waiting_ != target) kit_.files.StopTrying(waiting_);
+  MakeFolderOfProjectAgain(kit_.files, target);
   const int error = viewer_.SaveAs(target);
   if (error == kNoError) {
     form_.PlanProblem.SetCaption(QString());

@@ -15,11 +15,15 @@ bool IsWidth(double points) {
 }  // namespace
 
 void MarkedSheets::SetMarkColour(const QString& colour) {
-  if (IsColourCode(colour)) colour_ = colour;
+  if (!IsColourCode(colour)) return;
+  colour_ = colour;
+  Raise(onPenChanged);
 }
 
 void MarkedSheets::SetMarkWidth(double points) {
-  if (IsWidth(points)) width_ = points;
+  if (!IsWidth(points)) return;
+  width_ = points;
+  Raise(onPenChanged);
 }
 
 void MarkedSheets::SetMarkerSize(double points) {

@@ -30,8 +30,7 @@ QByteArray Pair(PagePoint at) {
   return PdfNumber(at.x) + ' ' + PdfNumber(at.y);
 }
 
-QByteArray ColourParts(const QString& code) {
-  const unsigned colour = ColourNumber(code);
+QByteArray ColourParts(unsigned colour) {
   return PdfNumber((colour >> 16 & 255) / 255.0) + ' ' + PdfNumber((colour >> 8 & 255) / 255.0) +
          ' ' + PdfNumber((colour & 255) / 255.0);
 }
@@ -103,7 +102,7 @@ QByteArray Common(const Mark& mark, double width, const Box& box) {
       "(D:" +
       QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddHHmmss")).toLatin1() + "Z)";
   return "/Type/Annot/Rect" + box.Text() + "/NM" + PdfText(mark.name) + "/F 4/C[" +
-         ColourParts(mark.colour) + "]/BS<</Type/Border/W " + PdfNumber(width) +
+         ColourParts(ColourNumber(mark.colour)) + "]/BS<</Type/Border/W " + PdfNumber(width) +
          "/S/S>>/T(Tamo)/M" + date + "/CreationDate" + date;
 }
 
@@ -127,8 +126,8 @@ MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
   const double width = shape.width / map.Unit();
   MarkObjects objects;
   Box box;
-  objects.formContent = ColourParts(mark.colour) + " RG " + ColourParts(mark.colour) + " rg " +
-                        PdfNumber(width) + " w\n";
+  const QByteArray colour = ColourParts(ColourNumber(mark.colour));
+  objects.formContent = colour + " RG " + colour + " rg " + PdfNumber(width) + " w\n";
   if (shape.circle) {
     const PagePoint centre = map.ToFile(shape.centre);
     const double radius = shape.radius / map.Unit();
@@ -144,6 +143,7 @@ MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
       objects.formContent += Pair(from) + " m " + Pair(to) + " l S\n";
     }
     TakeText(shape, map, box);
+    objects.formContent += ColourParts(ReadableOnWhite(ColourNumber(mark.colour))) + " rg\n";
     objects.formContent += TextPart(shape, map);
     objects.annotation = "/Subtype/Line/L[" + Pair(map.ToFile(mark.points.front())) + ' ' +
                          Pair(map.ToFile(mark.points.back())) +

@@ -92,6 +92,7 @@ void OSTForm::BindViewer() {
   const auto event = [this](auto handler) {
     return [this, handler](auto&&... values) { kit_.desk.Dispatch([&] { handler(values...); }); };
   };
+  viewer_.onPenChanged = [this] { pen_.ShowPen(); };
   viewer_.onModeChanged = event([this](PlanTool tool) { pen_.ModeChanged(tool); });
   viewer_.onLineMeasured =
       event([this](double& length, QString& label) { measure_.LineMeasured(length, label); });
@@ -106,6 +107,7 @@ void OSTForm::BindViewer() {
   viewer_.onMousePressed = event([this] {
     kit_.desk.Focus(picPdfDraw);
     measure_.WarnOfMissingScale();
+    if (onPlanPressed) onPlanPressed();
   });
   viewer_.onReservation = [this](const QString& reservation) {
     return kit_.platform.messages.Ask(reservation +
@@ -154,6 +156,7 @@ void OSTForm::Load() {
   kit_.shared.DriveBy = QStringLiteral("True");
   keeper_.InitMain();
   kit_.shared.DriveBy = QStringLiteral("False");
+  pen_.ShowPen();
 }
 
 void OSTForm::Save() {

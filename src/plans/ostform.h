@@ -54,6 +54,7 @@ class OSTForm : public OstControls {
   // Enter on the plan with a box drawn and no tool in hand: true when it was taken, so that Enter
   // does not go back to the field that waits.
   std::function<bool()> onEnterBox;
+  std::function<void()> onPlanPressed;  // a press on the plan; the cross hair stands there
 
   QString ViewerName;
 

@@ -24,6 +24,9 @@ constexpr Row kShell[] = {
     {"CopyProject", "Copy P&roject", "ProjectS"},
     {"PasteProject", "P&aste Project", "ProjectS"},
     {"DeleteProject", "&Delete Project", "ProjectS"},
+    {"KeepVersion", "&Keep This Version", "ProjectS"},
+    {"Versions", "&Versions", "ProjectS"},
+    {"DeletedProjects", "&Bring Back a Deleted Project", "ProjectS"},
     {"Pricing2", "Pricing", ""},
     {"Estimate", "&Estimate", ""},
     {"RFS", "&Room Finish Schedule", "Estimate"},
@@ -46,6 +49,8 @@ constexpr Row kShell[] = {
     {"ProjectSupport", "&PM Support", "Reports1"},
     {"PMOFile", "&Build PMO File", "ProjectSupport"},
     {"PMFFile", "&Build PMF File", "ProjectSupport"},
+    {"ScheduleCheck", "Schedule &Check", "Reports1"},
+    {"WhatChanged", "&What Changed Since the Bid Was Sent (F8)", "Reports1"},
     {"Spacer1", kSpace, ""},
 };
 

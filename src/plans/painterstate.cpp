@@ -292,7 +292,9 @@ void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<LoadedPage> l
     lists.emplace_front(job.page, std::move(list));
     while (lists.size() > kMostLists) lists.pop_back();
   } else if (job.kind == Kind::ReadSmall) {
-    smallLists[job.page] = std::move(list);
+    // What was scrolled away meanwhile would keep its place for ever.
+    if (std::count(wantedThumbnails.begin(), wantedThumbnails.end(), job.page) > 0)
+      smallLists[job.page] = std::move(list);
   } else if (job.kind == Kind::Coarse) {
     KeepCoarse(job, picture);
   } else if (job.kind == Kind::Sharp) {

@@ -12,7 +12,6 @@ namespace tamo {
 namespace {
 
 constexpr int kPrintPatience = 60000;
-constexpr int kReadPatience = 20000;
 
 QString OpenReason(int error) {
   switch (error) {
@@ -317,19 +316,8 @@ std::shared_ptr<const Picture> PdfDraw::PrintPicture(const PlanView& part) {
   return session_->painter->PrintPicture(part, kPrintPatience);
 }
 
-PageContent PdfDraw::ReadPage(int page) const {
-  PageContent nothing;
-  nothing.error = kFileOther;
-  nothing.problem = QStringLiteral("it takes too long");
-  if (session_ == nullptr) return nothing;
-  const auto cancel = std::make_shared<CancelFlag>();
-  const auto content = std::make_shared<PageContent>();
-  const bool done = session_->thread->Run([plan = session_->plan, cancel, content,
-                                           page] { *content = plan->ReadContent(page, *cancel); },
-                                          kReadPatience);
-  if (done) return *content;
-  cancel->Cancel();
-  return nothing;
+std::shared_ptr<EnginePlan> PdfDraw::OpenedPlan() const {
+  return session_ != nullptr && opening_ == nullptr ? session_->plan : nullptr;
 }
 
 bool PdfDraw::WaitUntilSharp(int milliseconds) {

@@ -22,6 +22,7 @@ struct PlanEvents {
   std::function<void(double& length, QString& label)> onLineRunning;
   std::function<void(double paperLength)> onLineChecked;
   std::function<void(int count)> onCircleCountChanged;  // the circles of all pages
+  std::function<void()> onPenChanged;                   // the colour or the width of the next mark
   // Something speaks against marking this plan: true when it is to be marked all the same. Asked
   // once for a plan, before its first mark.
   std::function<bool(const QString& reservation)> onReservation;

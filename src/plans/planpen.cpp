@@ -1,10 +1,17 @@
 #include "plans/planpen.h"
 
+#include <cmath>
 #include <span>
 
 #include "workspace/swatches.h"
 
 namespace tamo {
+
+namespace {
+
+constexpr double kPointsOfAPixel = 72 / 96.0;
+
+}  // namespace
 
 PlanPen::PlanPen(const Kit& kit, OstControls& form, PdfDraw& viewer)
     : kit_(kit), form_(form), viewer_(viewer) {
@@ -37,8 +44,16 @@ void PlanPen::ModeChanged(PlanTool tool) {
   }
   form_.Mode.SetText(QStringLiteral("Measuring"));
   viewer_.SetMarkColour(kit_.shared.LineColor);
-  form_.Line1.SetWidth(kit_.shared.LineWidth);
-  viewer_.SetMarkWidth(kit_.shared.LineWidth / 96.0 * 72);
+  viewer_.SetMarkWidth(kit_.shared.LineWidth * kPointsOfAPixel);
+}
+
+// With no tool in hand the next mark begins with a measure, and that takes the width of Settings.
+void PlanPen::ShowPen() {
+  const bool settled = viewer_.Tool() != PlanTool::None;
+  form_.Line1.SetColour(viewer_.MarkColour());
+  form_.Line1.SetWidth(settled
+                           ? static_cast<int>(std::lround(viewer_.MarkWidth() / kPointsOfAPixel))
+                           : kit_.shared.LineWidth);
 }
 
 // For the moment only: the next time measuring begins, the colour of the system in work comes back.

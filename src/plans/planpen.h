@@ -17,6 +17,8 @@ class PlanPen {
 
   void Load();  // red, and the swatches painted
   void ModeChanged(PlanTool tool);
+  // The sample line is drawn as the next mark will be.
+  void ShowPen();
 
  private:
   void Choose(const QString& code);

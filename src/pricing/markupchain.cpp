@@ -6,11 +6,11 @@
 namespace tamo {
 
 MarkupChain::MarkupChain(const Kit& kit, MarkupControls& controls, MaterialControls& materials,
-                         Frame& systemFrame, LaborPrice& price, ReportRefresh& refresh)
+                         SystemControls& system, LaborPrice& price, ReportRefresh& refresh)
     : kit_(kit),
       c_(controls),
       materials_(materials),
-      systemFrame_(systemFrame),
+      system_(system),
       price_(price),
       refresh_(refresh) {
   for (size_t i = 0; i < c_.MarkupRing.size(); ++i) {
@@ -26,8 +26,18 @@ MarkupChain::MarkupChain(const Kit& kit, MarkupControls& controls, MaterialContr
   OnFocusSelectAll(c_.LMU, [this] { SaveMarkups(); });
   c_.ExitMarkups.onClick = [this] {
     c_.MarkupsFrame.Hide();
-    if (!systemFrame_.Shown()) c_.form.Hide();
+    if (system_.FramePricing.Shown()) {
+      GoBack();
+    } else {
+      c_.form.Hide();
+    }
   };
+}
+
+// The field that was left goes with its frame; the system beside it goes on.
+void MarkupChain::GoBack() {
+  if (kit_.desk.Focused() != nullptr) return;
+  kit_.desk.Focus(materials_.Material.Usable() ? materials_.Material : system_.Description);
 }
 
 int MarkupChain::LoadMarkups() {
@@ -50,7 +60,7 @@ void MarkupChain::Store() {
 void MarkupChain::ToggleFrame() {
   refresh_.DisableProjectFileEntry();
   Toggle(c_.MarkupsFrame);
-  if (!c_.MarkupsFrame.Shown()) return;
+  if (!c_.MarkupsFrame.Shown()) return GoBack();
   LoadMarkups();
   FocusByCommand(kit_.desk, c_.MOH);
 }

@@ -9,9 +9,9 @@ namespace tamo {
 // The twelve markups: fields in a ring, the file rewritten at each Enter.
 class MarkupChain {
  public:
-  // All of it outlives this. `systemFrame` is shown while a system is open.
+  // All of it outlives this.
   MarkupChain(const Kit& kit, MarkupControls& controls, MaterialControls& materials,
-              Frame& systemFrame, LaborPrice& price, ReportRefresh& refresh);
+              SystemControls& system, LaborPrice& price, ReportRefresh& refresh);
 
   int LoadMarkups();  // the error number of the last file that was tried
   void SaveMarkups();
@@ -20,11 +20,12 @@ class MarkupChain {
 
  private:
   void Store();
+  void GoBack();
 
   const Kit kit_;
   MarkupControls& c_;
   MaterialControls& materials_;
-  Frame& systemFrame_;
+  SystemControls& system_;
   LaborPrice& price_;
   ReportRefresh& refresh_;
 };

@@ -36,7 +36,7 @@ PricingForm::PricingForm(const Kit& kit, ReportRefresh& refresh, SettingsReader&
       systemChain_(kit, *this, parts_),
       materialChain_(kit, *this, parts_, nth, [this] { systemChain_.ClearStuff(); }),
       look_(kit, *this, *this, open_, refresh, LineColor, Material),
-      markups_(kit, *this, *this, FramePricing, price_, refresh),
+      markups_(kit, *this, *this, *this, price_, refresh),
       exchange_(
           kit, parts_, [this] { look_.KeepNotes(); }, [this] { materialChain_.KeepRowReady(); }) {
   AddText(QStringLiteral("LineColor"), &LineColor);

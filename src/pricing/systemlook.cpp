@@ -49,8 +49,13 @@ void SystemLook::ChooseColour(const QString& code) {
   refresh_.PrintReport();
 }
 
+// A colour chosen by key goes with its palette; whoever typed goes on with the next system.
 void SystemLook::EndSystem() {
-  if (afterColour_.Usable()) kit_.desk.Focus(afterColour_);
+  if (afterColour_.Usable()) {
+    kit_.desk.Focus(afterColour_);
+  } else if (kit_.desk.Focused() == nullptr) {
+    kit_.desk.Focus(system_.Description);
+  }
 }
 
 // The background's number stands in the colour's place and is not saved until something else is. A

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "history/history.h"
 #include "plans/ostform.h"
 #include "pricing/pricingform.h"
 #include "reports/reportsform.h"
@@ -19,11 +20,12 @@ class FollowersOnForms : public ProjectFollowers {
  public:
   // All of it is used only once the program runs.
   FollowersOnForms(PricingForm& pricing, AdjustmentForm& adjustment, ReportsForm& reports,
-                   OSTForm& ost, std::vector<Form*> writing)
+                   OSTForm& ost, History& history, std::vector<Form*> writing)
       : pricing_(pricing),
         adjustment_(adjustment),
         reports_(reports),
         ost_(ost),
+        history_(history),
         writing_(std::move(writing)) {}
 
   void InitPricing() override { pricing_.Init(); }
@@ -35,6 +37,14 @@ class FollowersOnForms : public ProjectFollowers {
     if (!readOnly) return;
     for (Form* form : writing_) form->Hide();
   }
+  void KeepDeleted(const QString& id, const QString& name) override {
+    const QString problem = history_.KeepDeletedProject(id, name);
+    if (!problem.isEmpty())
+      reports_.GetDesk().GetMessages().Tell(
+          QStringLiteral("The project can't be brought back later: its last state could not be "
+                         "kept, because %1.")
+              .arg(problem));
+  }
   void ForgetProject() override {
     adjustment_.ForgetAmount();
     reports_.ForgetProject();
@@ -45,6 +55,7 @@ class FollowersOnForms : public ProjectFollowers {
   AdjustmentForm& adjustment_;
   ReportsForm& reports_;
   OSTForm& ost_;
+  History& history_;
   std::vector<Form*> writing_;  // what is entered there goes into the open project
 };
 

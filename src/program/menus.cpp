@@ -10,6 +10,7 @@ Menus::Menus(const Kit& kit, Shell& shell, const Forms& forms)
   BindProjectFromOst();
   BindWork();
   BindReports();
+  BindVersions();
   BindShell();
 }
 
@@ -88,6 +89,19 @@ void Menus::BindWork() {
          [this] { forms_.adjustment.PriceAdjustment(&forms_.ost); });
 }
 
+void Menus::BindVersions() {
+  OnBoth(forms_.main.menu.KeepVersion, "KeepVersion", Guard::Project,
+         [this] { forms_.versions.KeepThisVersion(&shell_.ShellForm()); });
+  OnBoth(forms_.main.menu.Versions, "Versions", Guard::Project,
+         [this] { forms_.versions.Versions(&shell_.ShellForm()); });
+  OnBoth(forms_.main.menu.DeletedProjects, "DeletedProjects", Guard::None,
+         [this] { forms_.versions.DeletedProjects(&shell_.ShellForm()); });
+  OnBoth(forms_.main.menu.WhatChanged, "WhatChanged", Guard::Project, [this] {
+    forms_.reports.menu.MakeProjectFile.Hide();
+    forms_.reports.WhatChanged();
+  });
+}
+
 void Menus::BindReports() {
   OnBoth(forms_.main.menu.ProjectNFO, "ProjectNFO", Guard::Project,
          [this] { ProjectInformationReport(); });
@@ -103,6 +117,8 @@ void Menus::BindReports() {
   });
   OnBoth(forms_.main.menu.BillOfMaterial, "BillofMaterial", Guard::Project,
          [this] { ShowReport([this] { forms_.reports.BillofMaterial(); }); });
+  OnBoth(forms_.main.menu.ScheduleCheck, "ScheduleCheck", Guard::Project,
+         [this] { ShowReport([this] { forms_.reports.ScheduleCheck(); }); });
   OnBoth(forms_.main.menu.oCopy, "oCopy", Guard::Project, [this] { OfficeCopy(); });
   OnBoth(forms_.main.menu.fCopy, "fCopy", Guard::Project, [this] { FieldCopy(); });
   // These two only ask for a project.

@@ -6,6 +6,7 @@
 #include "pricing/pricingform.h"
 #include "program/shell.h"
 #include "reports/reportsform.h"
+#include "reports/versionsform.h"
 #include "takeoff/adjustmentform.h"
 #include "takeoff/bottomline.h"
 #include "takeoff/estimateform.h"
@@ -30,6 +31,7 @@ class Menus {
     AdjustmentForm& adjustment;
     ReportsForm& reports;
     DocsForm& docs;
+    VersionsForm& versions;
   };
   Menus(const Kit& kit, Shell& shell, const Forms& forms);
 
@@ -45,6 +47,7 @@ class Menus {
   void BindProject();
   void BindProjectFromOst();
   void BindWork();
+  void BindVersions();
   void BindReports();
   void BindShell();
 

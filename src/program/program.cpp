@@ -2,6 +2,7 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "history/history.h"
 #include "program/changedquestion.h"
 #include "program/followers.h"
 #include "program/menus.h"
@@ -11,6 +12,7 @@
 #include "program/recovery.h"
 #include "program/reportadapters.h"
 #include "program/takeoffadapters.h"
+#include "program/versionadapters.h"
 #include "schedule/scheduleform.h"
 #include "workspace/form11.h"
 
@@ -35,10 +37,12 @@ struct Program::Parts {
   Files files{platform.disk};
   SharedFields shared = FirstFields(platform);
   const Kit kit{desk, files, shared, platform};
+  History history{platform, files, shared};
 
   Shell shell{kit, main, settings, ost};
-  FollowersOnForms followers{
-      pricing, adjustment, reports, ost, {&pricing, &rooms, &areas, &bottomLine, &adjustment}};
+  FollowersOnForms followers{pricing, adjustment,
+                             reports, ost,
+                             history, {&pricing, &rooms, &areas, &bottomLine, &adjustment}};
   ReportFollows reportFollows{reports};
   StartOfPricing startOfPricing{settings, main};
   PricingOnForm pricingOnForm{pricing, ost};
@@ -48,6 +52,7 @@ struct Program::Parts {
   TakeoffExitsOnForms takeoffExits{shell, main, ost};
   TakeoffFieldsOnForms takeoffFields{rooms, areas};
   ProjectRecordOnTamo projectRecord{main};
+  BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
 
   Form11 form11{kit};
   SettingsForm settings{kit, shell};
@@ -58,13 +63,15 @@ struct Program::Parts {
   EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
   BottomLine bottomLine{kit, reportFollows};
   AdjustmentForm adjustment{kit, reportFollows};
-  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost}};
+  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history}};
+  VersionsForm versions{kit, history, reports, bidChanger};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
   ReadAgain readAgain{kit, {main, ost, pricing, rooms, areas, bottomLine, reports}};
   Menus menus{kit,
               shell,
-              {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs}};
+              {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs,
+               versions}};
   Recovery recovery{kit, {shell, settings, main, bottomLine}};
 };
 
@@ -102,12 +109,16 @@ void Program::Start() {
   parts_->desk.Dispatch([this] {
     parts_->ost.Load();
     parts_->main.Init();
+    parts_->history.Finish();
     parts_->recovery.Begin();
   });
 }
 
 bool Program::Running() const {
   return parts_->shell.Running();
+}
+void Program::ReadPictures(std::shared_ptr<const SheetPictures> pictures) {
+  parts_->schedule.pictures = std::move(pictures);
 }
 Desk& Program::GetDesk() {
   return parts_->desk;
@@ -128,6 +139,19 @@ Form* Program::FindForm(const QString& name) {
 const QString* Program::FindText(const QString& form, const QString& name) {
   const Form* found = parts_->desk.Find(form);
   return found == nullptr ? nullptr : found->FindText(name);
+}
+
+QString Program::CompanyName() const {
+  return parts_->settings.CompanyName.Text();
+}
+
+void Program::OpenPlan(const QString& path) {
+  OSTForm& ost = parts_->ost;
+  parts_->desk.Dispatch([&] {
+    ost.Show();
+    ost.PlanLocation.SetText(path);
+  });
+  parts_->desk.PressKey(ost.PlanLocation, Key::Named(Key::Name::Enter));
 }
 
 void Program::TrySavesAgain() {

@@ -11,6 +11,8 @@
 
 namespace tamo {
 
+class SheetPictures;
+
 // The whole program below its windows: makes every form, the menus of both shells with their guards
 // and transitions, and joins the forms' hand-overs. Windows, or the scenario player, stand on top
 // of it.
@@ -38,6 +40,10 @@ class Program {
   // The text named FORM.NAME that is no control (Tamo.JobID, Form11.IAmHere, RFSForm.Flag), nullptr
   // when there is none.
   const QString* FindText(const QString& form, const QString& name);
+  // As Settings has it; "" for none.
+  QString CompanyName() const;
+  // Shows the plan `path` in the plan window, as one that is typed there.
+  void OpenPlan(const QString& path);
   // For the strip at the foot of every window: what is not saved or can't be read, or else what a
   // sync program left; "" when all is well.
   QString Notice() const;
@@ -50,6 +56,8 @@ class Program {
   bool MayEnd();
   // Everything that waits in a form is kept in the recovery file, also what is being typed.
   void KeepWaiting();
+  // Scanned sheets may be read by it from then on; without it they are refused.
+  void ReadPictures(std::shared_ptr<const SheetPictures> pictures);
   // The system asks the program to end, and nobody may be asked: all that waits is saved, or kept
   // for the next start.
   void SaveAll();

@@ -22,7 +22,8 @@ void Shell::EnterMode(int mode) {
   ShowMenus(ost_, {"Spacer2"}, !online);
   if (online) ShowMenus(ost_, {"Exit"}, true);
   ShowMenus(main_,
-            {"Project", "Pricing2", "Estimate", "Reports1", "Settings1", "Docs1", "Exit", "OST1"},
+            {"Project", "Pricing2", "Estimate", "Reports1", "Settings1", "Docs1", "Exit", "OST1",
+             "Drawings"},
             !online);
   ShowTitles();
   BringUpShell();

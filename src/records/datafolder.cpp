@@ -90,6 +90,10 @@ QString ProjectFolder::FinishKey() const {
   return Named(path_, kFinishKey);
 }
 
+QString ProjectFolder::FinishSchedule() const {
+  return Named(path_, "FinishSchedule.tamo");
+}
+
 QString DataFolder::FinishKey() const {
   return Named(path_, kFinishKey);
 }

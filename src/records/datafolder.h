@@ -43,6 +43,7 @@ class ProjectFolder {
   QString AreaFile(const QString& area) const;
   QString PlanNotes() const;
   QString FinishKey() const;
+  QString FinishSchedule() const;
 
  private:
   QString path_;

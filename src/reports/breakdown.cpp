@@ -3,6 +3,7 @@
 #include "common/columns.h"
 #include "common/numbers.h"
 #include "records/itemline.h"
+#include "reports/cents.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
 #include "reports/takeoffwalk.h"
@@ -36,6 +37,7 @@ BreakFigures MakeBreak(const ReportSource& source, const Markups& markups,
   });
   for (const QString& item : items) sums.rawBottomLine += ItemPrice(item);
   const double adjustment = Value(adjustmentText);
+  figures.withCents = EntriesWithCents(items, adjustmentText);
   figures.bottomLineListed = adjustment != 0;
   figures.roll = RollUpProject(sums, adjustment, MarkupFactors(markups));
   return figures;
@@ -99,6 +101,20 @@ QString Profit(const char* label, int width, double percent) {
   return QLatin1String(label) + GrownLeft(NumberText(percent), width) + QStringLiteral(" %");
 }
 
+void NoteCents(const BreakFigures& figures, Report& report) {
+  ReportNote note{
+      CentsNote(figures.withCents, QStringLiteral("The total bid price"), figures.roll.totalBid),
+      {}};
+  for (qsizetype row = 0; row < report.lines.size(); ++row) {
+    const QString line = report.lines[row];
+    const qsizetype cents = line.lastIndexOf(QLatin1Char('.'));
+    const qsizetype point = line.lastIndexOf(QLatin1Char('.'), cents - 1);
+    if (cents > 0 && point > line.lastIndexOf(QLatin1Char(' ')))
+      note.rows.push_back(static_cast<int>(row));
+  }
+  if (!note.rows.empty()) report.notes.push_back(std::move(note));
+}
+
 }  // namespace
 
 Report BreakDown(const BreakFigures& figures) {
@@ -122,6 +138,7 @@ Report BreakDown(const BreakFigures& figures) {
              .arg(figures.unitItems.join(QStringLiteral(", ")), NumberText(figures.unitPriced)),
          {2, lastTotal}});
   }
+  NoteCents(figures, report);
   return report;
 }
 

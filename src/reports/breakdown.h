@@ -13,6 +13,7 @@ struct BreakFigures {
   ProjectRollUp roll;
   double unitPriced = 0;          // dollars of the unit-priced items, which are no part of the bid
   QStringList unitItems;          // their names
+  QStringList withCents;          // the entries that bring cents into the figures, in words
   bool bottomLineListed = false;  // the items were listed behind an adjustment
 };
 

@@ -24,7 +24,13 @@ QStringView UnitsOf(SheetKind kind, QStringView line) {
 
 class Merger : public TakeoffVisitor {
  public:
+  explicit Merger(TakeoffVisitor* also) : also_(also) {}
+
+  void BeginSheet(SheetKind kind, const QString& name) override {
+    if (also_ != nullptr) also_->BeginSheet(kind, name);
+  }
   void Line(SheetKind kind, QStringView line) override {
+    if (also_ != nullptr) also_->Line(kind, line);
     const QStringView name = SystemOfLine(line);
     const int at = index_.Find(name);
     if (at < 0) {
@@ -51,6 +57,7 @@ class Merger : public TakeoffVisitor {
   }
 
  private:
+  TakeoffVisitor* also_;
   NameRows index_;
   std::vector<MergedRow> rows_;
   std::vector<bool> summed_;
@@ -58,8 +65,8 @@ class Merger : public TakeoffVisitor {
 
 }  // namespace
 
-std::vector<MergedRow> Calculate(const ReportSource& source) {
-  Merger merger;
+std::vector<MergedRow> Calculate(const ReportSource& source, TakeoffVisitor* also) {
+  Merger merger(also);
   WalkTakeoff(source, merger);
   return merger.Take();
 }

@@ -7,6 +7,8 @@
 
 namespace tamo {
 
+class TakeoffVisitor;
+
 // One system of the project with the sum of its takeoff.
 struct MergedRow {
   QString name;
@@ -16,8 +18,9 @@ struct MergedRow {
 };
 
 // All rooms, then all areas, merged into one list of systems in order of first appearance. Names
-// are told apart exactly, by case, too. Linear in the lines of the project.
-std::vector<MergedRow> Calculate(const ReportSource& source);
+// are told apart exactly, by case, too. Linear in the lines of the project. `also` sees every line
+// on the way.
+std::vector<MergedRow> Calculate(const ReportSource& source, TakeoffVisitor* also = nullptr);
 
 // `each` for every row, telling the progress of the report.
 template <typename Each>

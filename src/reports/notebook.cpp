@@ -35,6 +35,8 @@ void NoteBook::AddRow(int note, int row) {
 void NoteBook::NoteSystem(const SystemShelf& shelf, const QString& name, int row) {
   if (!shelf.Found()) {
     NoteMissing(shelf, name, row);
+  } else if (shelf.Blocks().empty() && shelf.UnitPrice() == 0) {
+    Note(QStringLiteral("The system \"%1\" has no price yet.").arg(name), row);
   } else if (shelf.ReadsZero() && shelf.UnitPrice() == 0) {
     for (const PricedBlock& block : shelf.Blocks()) {
       if (block.ReadsZero()) NoteZero(block, name, row);

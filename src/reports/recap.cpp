@@ -3,6 +3,7 @@
 #include "common/columns.h"
 #include "common/numbers.h"
 #include "records/itemline.h"
+#include "reports/cents.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
 #include "reports/rollup.h"
@@ -56,6 +57,10 @@ class RecapSheet {
         QStringLiteral(" manhours to complete"));
     Add(QStringLiteral("       excluding unit priced items."));
     Add({});
+    for (const int row : centRows_)
+      notes_.Note(
+          CentsNote(EntriesWithCents(items, adjustmentText), QStringLiteral("The total"), total_),
+          row);
   }
 
   Report Take() {
@@ -65,6 +70,8 @@ class RecapSheet {
 
  private:
   void Add(const QString& line) { report_.lines += line; }
+  // The next line reads badly: ".00" stands behind cents.
+  void NoteRow() { centRows_.push_back(static_cast<int>(report_.lines.size())); }
 
   void UnitPricedRow(const MergedRow& row) {
     const double amount = UnitPricedAmount(shelf_.UnitPrice(), row.value, row.name);
@@ -122,6 +129,7 @@ class RecapSheet {
   // The total as it stands now. A total that ends in cents is followed by ".00" like any other.
   void TotalLine(const QString& label, qsizetype fill) {
     const QString total = NumberText(total_);
+    if (HasCents(total_)) NoteRow();
     Add(label + GrownBlanks(fill - total.size()) + QStringLiteral("$ ") + total + kCents);
   }
 
@@ -141,6 +149,7 @@ class RecapSheet {
   void Adjustment(const QString& text, double adjustment) {
     TotalLine(QStringLiteral("                Subtotal"), 40);
     Add({});
+    if (text.contains(QLatin1Char('.'))) NoteRow();
     Add(Blanks(39) + QStringLiteral("Adjustment") + GrownLeft(text, 17) + kCents);
     Add(Blanks(61) + QStringLiteral("__________"));
     Add({});
@@ -155,6 +164,7 @@ class RecapSheet {
   StandingFigures standing_;
   Report report_;
   NoteBook notes_;
+  std::vector<int> centRows_;
   double total_ = 0;
   double manhours_ = 0;
 };

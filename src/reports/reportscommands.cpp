@@ -1,6 +1,7 @@
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "records/managerfile.h"
+#include "reports/compare.h"
 #include "reports/printpages.h"
 #include "reports/reportsform.h"
 
@@ -17,12 +18,16 @@ QString TitleOf(const OrderedList& report) {
 
 void ReportsForm::PrintReport() {
   if (!Reporter.Shown()) return;
-  PrintPages(kit_.platform.printer, WithUncounted(Reporter.SharedRows()), kit_.shared.JobID,
-             kit_.shared.JobName);
+  const QString mark = bid_.Mark();
+  const QString name =
+      mark.isEmpty() ? kit_.shared.JobName : kit_.shared.JobName + QStringLiteral("   ") + mark;
+  PrintPages(kit_.platform.printer, WithUncounted(Reporter.SharedRows()), kit_.shared.JobID, name);
+  if (TitleOf(Reporter) == QLatin1String("Recap Sheet") && !bid_.Former()) OfferToKeep();
 }
 
 void ReportsForm::CopyReport() {
   QString text;
+  if (bid_.Former()) text = bid_.Mark() + QStringLiteral("\r\n");
   const auto copy = [&](const OrderedList& list) {
     text += WithUncounted(list.SharedRows()).Joined();
     GetDesk().GetMessages().Tell(
@@ -37,6 +42,12 @@ void ReportsForm::CopyReport() {
 }
 
 void ReportsForm::WriteProjectFile() {
+  if (bid_.Former()) {
+    GetDesk().GetMessages().Tell(QStringLiteral(
+        "This is not the bid as it stands. Nothing was written for the project manager; go back to "
+        "the bid as it stands first."));
+    return;
+  }
   const OrderedList& list = Reporter.Empty() ? Reporter1 : Reporter;
   WriteManagerFile(kit_.files, kit_.shared, kit_.shared.JobID, kit_.shared.JobName,
                    WithUncounted(list.SharedRows()));
@@ -60,17 +71,21 @@ void ReportsForm::ExitReports() {
   Reporter.Clear();
   Reporter1.Clear();
   ClearNotes();
+  LookAt(nullptr);
   Hide();
 }
 
 void ReportsForm::ClearReport() {
   Reporter.Clear();
   ClearNotes();
+  LookAt(nullptr);
   Hide();
 }
 
 void ReportsForm::ForgetProject() {
   Adjustment.clear();
+  compared_ = nullptr;
+  LookAt(nullptr);
 }
 
 void ReportsForm::RunByTitle() {
@@ -78,12 +93,16 @@ void ReportsForm::RunByTitle() {
   if (title == QLatin1String("  Project Information")) {
     joins_.record.LoadJobNFO();
     ProjectInformation();
+  } else if (title == QLatin1String(kCompareTitle)) {
+    CompareWith(compared_);
   } else if (title == QLatin1String("Quantities")) {
     Quantities();
   } else if (title == QLatin1String("Recap Sheet")) {
     MinimalRecapSheet();
   } else if (title == QLatin1String("Bill Of Materials")) {
     BillofMaterial();
+  } else if (title == QLatin1String("Schedule Check")) {
+    ScheduleCheck();
   } else if (title == QLatin1String("BreakDown")) {
     BreakDown();
   } else if (title == QLatin1String("Project Manager")) {
@@ -97,7 +116,7 @@ void ReportsForm::RunByTitle() {
 }
 
 void ReportsForm::Refresh() {
-  if (kit_.shared.AutoCheck != 1 || !Visible() || running_) return;
+  if (kit_.shared.AutoCheck != 1 || !Visible() || running_ || bid_.Former()) return;
   kit_.shared.TopOfReport = NumberText(Reporter.Top());
   refreshing_ = true;
   // The position is forgotten behind every refresh, also one that fails.

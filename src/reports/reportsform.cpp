@@ -12,6 +12,7 @@
 #include "reports/projectinformation.h"
 #include "reports/quantities.h"
 #include "reports/recap.h"
+#include "reports/schedulecheck.h"
 
 // The form and its reports. What is done with a report that stands: reportscommands.cpp.
 
@@ -43,8 +44,9 @@ void ReportsForm::PrepareControls() {
     field->PutInto(Frame1);
     field->readOnly = true;
   }
-  for (Control* control : std::initializer_list<Control*>{&Reporter, &Reporter1, &prList,
-                                                          &NotesList, &WholeQuantities, &Frame1})
+  for (Control* control :
+       std::initializer_list<Control*>{&Reporter, &Reporter1, &prList, &NotesList, &WholeQuantities,
+                                       &Frame1, &VersionLabel, &BackToNow, &KeepPrinted})
     control->Hide();
   prList.inTabOrder = false;
 }
@@ -53,6 +55,7 @@ void ReportsForm::BindControls() {
   Reporter1.onTick = [this](int row) { Ticked(row); };
   NotesList.onSelect = [this] { NotePicked(); };
   WholeQuantities.onChange = [this] { WholeQuantitiesChanged(); };
+  BindVersions();
 }
 
 void ReportsForm::Clear() {
@@ -68,6 +71,8 @@ void ReportsForm::Clear() {
 void ReportsForm::ClearNotes() {
   NotesList.Hide();
   WholeQuantities.Hide();
+  KeepPrinted.Hide();
+  if (!bid_.Former()) VersionLabel.Hide();
   NotesList.Clear();
   notes_.clear();
   uncounted_ = {};
@@ -91,6 +96,7 @@ void ReportsForm::Make(const std::function<void()>& report) {
   try {
     report();
     running.whole = true;
+    FocusList();
   } catch (const RunTimeFailure& failure) {
     Clear();
     if (failure.number != kReportStopped) throw;
@@ -100,10 +106,11 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {kit_.files, kit_.shared, onProgress, joins_.settings.WholeQuantities(), &uncounted_};
+  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(), &uncounted_};
 }
 
 Markups ReportsForm::LoadedMarkups() {
+  if (bid_.Former()) return bid_.LoadedMarkups();
   joins_.pricing.LoadMarkups();
   for (const ReadFailure& failure : kit_.files.ReadFailures()) {
     if (failure.path == ProjectFolder(kit_.shared).Markups() ||
@@ -143,6 +150,13 @@ void ReportsForm::FillCopy(TakeoffCopy report) {
   Frame1.Show();
 }
 
+// The keys read on in the report that was asked for.
+void ReportsForm::FocusList() {
+  if (refreshing_ || GetDesk().Active() != this || GetDesk().Focused() != nullptr) return;
+  for (OrderedList* list : std::initializer_list<OrderedList*>{&Reporter, &Reporter1})
+    GetDesk().Focus(*list);
+}
+
 void ReportsForm::ShowWindow() {
   // A refresh finds the window open and takes the focus from nobody.
   if (!refreshing_) Show(&joins_.planWindow);
@@ -152,8 +166,9 @@ void ReportsForm::MinimalRecapSheet() {
   Make([this] {
     prList.Clear();
     const Markups markups = LoadedMarkups();
+    QString former;
     Fill(tamo::MinimalRecapSheet(Source(), markups, kit_.shared.DTText == QLatin1String("True"),
-                                 Adjustment));
+                                 bid_.Former() ? former : Adjustment));
   });
 }
 
@@ -166,6 +181,10 @@ void ReportsForm::DetailedRecapSheet() {
 
 void ReportsForm::Quantities() {
   Make([this] { Fill(tamo::Quantities(Source())); });
+}
+
+void ReportsForm::ScheduleCheck() {
+  Make([this] { Fill(tamo::ScheduleCheck(Source())); });
 }
 
 void ReportsForm::BillofMaterial() {
@@ -186,12 +205,15 @@ void ReportsForm::AreaRoomWP() {
 void ReportsForm::BreakDown() {
   Make([this] {
     const Markups markups = LoadedMarkups();
-    const BreakFigures figures = MakeBreak(Source(), markups, Adjustment);
+    QString former;
+    const BreakFigures figures = MakeBreak(Source(), markups, bid_.Former() ? former : Adjustment);
     Report report = tamo::BreakDown(figures);
     // The sum is made only when the items are listed behind an adjustment; otherwise the field
     // shows the sum made before. A test holds it.
-    if (figures.bottomLineListed) bottomLineSum_ = figures.roll.rawBottomLine;
-    joins_.pricing.TotalBL = NumberText(bottomLineSum_);
+    if (!bid_.Former()) {
+      if (figures.bottomLineListed) bottomLineSum_ = figures.roll.rawBottomLine;
+      joins_.pricing.TotalBL = NumberText(bottomLineSum_);
+    }
     ShowWindow();
     Fill(std::move(report));
   });
@@ -200,7 +222,7 @@ void ReportsForm::BreakDown() {
 void ReportsForm::ProjectInformation() {
   Make([this] {
     ShowWindow();
-    Fill(tamo::ProjectInformation(kit_.shared.JobID, joins_.record.Facts()));
+    Fill(tamo::ProjectInformation(kit_.shared.JobID, bid_.Facts()));
   });
 }
 

@@ -6,10 +6,12 @@
 
 #include "common/form.h"
 #include "common/kit.h"
+#include "history/history.h"
 #include "pricing/pricingform.h"
 #include "reports/copies.h"
 #include "reports/projectprogress.h"
 #include "reports/projectrecord.h"
+#include "reports/reportedbid.h"
 #include "reports/reportsource.h"
 #include "workspace/frontwindows.h"
 #include "workspace/settingsform.h"
@@ -29,6 +31,7 @@ class ReportsForm : public Form {
     FrontWindows& windows;
     SettingsForm& settings;  // keeps whether whole quantities are read
     Form& planWindow;        // the report stands above it
+    History& history;        // former states of the bid, and what a comparison begins with
   };
   ReportsForm(const Kit& kit, const Joins& joins);
 
@@ -39,6 +42,12 @@ class ReportsForm : public Form {
   OrderedList NotesList{*this, QStringLiteral("NotesList")};
   CheckBox WholeQuantities{*this, QStringLiteral("WholeQuantities"),
                            QStringLiteral("Read &whole quantities")};
+  // Only while a former state of the bid is looked at: which, and the way back.
+  Label VersionLabel{*this, QStringLiteral("VersionLabel")};
+  Button BackToNow{*this, QStringLiteral("BackToNow"),
+                   QStringLiteral("Back to the Bid as It Stands")};
+  // Behind the printing of a recap: keeps the bid as it was printed.
+  Button KeepPrinted{*this, QStringLiteral("KeepPrinted"), {}};
   Frame Frame1{*this, QStringLiteral("Frame1")};  // the project manager's figures
   TextField ttText{*this, QStringLiteral("ttText")};
   TextField tlText{*this, QStringLiteral("tlText")};
@@ -68,6 +77,14 @@ class ReportsForm : public Form {
   void AreaRoomWP();  // the copy that Flag names
   void BreakDown();
   void ProjectInformation();
+  void ScheduleCheck();
+  // What lies between the version that was sent and the bid as it stands.
+  void WhatChanged();
+  void CompareWith(std::shared_ptr<const FormerBid> then);
+
+  // All reports read this state from now on and say so, until the form is left, another project is
+  // opened, or nullptr is given.
+  void LookAt(std::shared_ptr<const FormerBid> former);
 
   void PrintReport();  // the report in Reporter; never the Office Copy
   void CopyReport();
@@ -93,6 +110,9 @@ class ReportsForm : public Form {
 
  private:
   void BindControls();
+  void BindVersions();
+  void ShowMark();
+  void OfferToKeep();
   void PrepareControls();
   void Make(const std::function<void()>& report);
   void Fill(Report report, bool readsQuantities = false);
@@ -102,6 +122,7 @@ class ReportsForm : public Form {
   void ClearNotes();
   ReportSource Source();
   Markups LoadedMarkups();
+  void FocusList();
   ListRows WithUncounted(const ListRows& report) const;
   void ShowWindow();
   void RunByTitle();
@@ -112,6 +133,8 @@ class ReportsForm : public Form {
 
   const Kit kit_;
   Joins joins_;
+  ReportedBid bid_{kit_, joins_.history, joins_.record};
+  std::shared_ptr<const FormerBid> compared_;  // of the last comparison
   bool running_ = false;     // a report is being made: ticks do not count, no other begins
   bool refreshing_ = false;  // the window stays where it is
   std::vector<ReportNote> notes_;

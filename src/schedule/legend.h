@@ -5,6 +5,7 @@
 #include <map>
 #include <vector>
 
+#include "plans/pagecontent.h"
 #include "schedule/scheduletable.h"
 
 namespace tamo {
@@ -15,5 +16,10 @@ namespace tamo {
 using Legend = std::map<QString, QString>;
 
 Legend LegendOf(const std::vector<ScheduleTable>& tables);
+
+// What stands right of each of the codes, anywhere on the sheet but in the `schedule` itself: for
+// keys without heads and lists of abbreviations.
+Legend LegendBeside(const PageContent& page, const QStringList& codes,
+                    const std::vector<ScheduleTable>& schedule);
 
 }  // namespace tamo

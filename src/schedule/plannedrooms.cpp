@@ -27,10 +27,11 @@ class Planner {
  public:
   Planner(const FinishKey& key, const FinishAreas& areas) : key_(key), areas_(areas) {}
 
-  void Take(const FinishRow& row) {
+  void Take(const FinishRow& row, int index) {
     const QString whole = (row.cells[kNumber] + u' ' + row.cells[kName]).simplified();
     if (whole.isEmpty()) return;
     PlannedRoom room;
+    room.row = index;
     room.name = NameFor(whole);
     if (room.name.isEmpty()) return;
     room.height = FeetOf(row.height);
@@ -125,7 +126,7 @@ int RoomPlan::Lines() const {
 RoomPlan PlanRooms(const std::vector<FinishRow>& rows, const FinishKey& key,
                    const FinishAreas& areas) {
   Planner planner(key, areas);
-  for (const FinishRow& row : rows) planner.Take(row);
+  for (size_t i = 0; i < rows.size(); ++i) planner.Take(rows[i], int(i));
   return planner.Plan();
 }
 

@@ -19,6 +19,7 @@ struct PlannedRoom {
   QString name;    // number and name, without what no room's name may hold; each name once
   QString height;  // feet as number text ("8.5"); empty when the schedule has none
   std::vector<PlannedLine> lines;
+  int row = 0;  // of the schedule, from 0
 };
 
 struct RoomPlan {

@@ -168,6 +168,13 @@ QString WhyUnreadable(const PageContent& page, const PageBox& box, bool boxed) {
   return {};
 }
 
+bool OnlyAPicture(const PageContent& page, const std::optional<PageBox>& box) {
+  const PageBox area = box.value_or(PageBox{0, 0, page.size.width, page.size.height});
+  const LetterCounts letters = LettersIn(page, area);
+  if (letters.hidden > 2 * letters.letters) return true;
+  return letters.letters == 0 && PictureOver(page, area);
+}
+
 QString WhyNoSchedule(const std::vector<ScheduleTable>& tables, bool boxed) {
   if (tables.empty()) {
     return QStringLiteral(

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 #include "schedule/scheduletable.h"
@@ -13,6 +14,8 @@ namespace tamo {
 
 // Of the text itself: none, a scan, hidden text, another script, far too much.
 QString WhyUnreadable(const PageContent& page, const PageBox& box, bool boxed);
+// Whether that is so because it is a scan: a picture with no text, or with hidden text alone.
+bool OnlyAPicture(const PageContent& page, const std::optional<PageBox>& box);
 // Of the tables that stand there.
 QString WhyNoSchedule(const std::vector<ScheduleTable>& tables, bool boxed);
 QString TwoTables(const ScheduleTable& other);

@@ -23,12 +23,17 @@ class Maker {
     areasBefore_ = areas_.size();
   }
 
-  MadeRooms Make(const RoomPlan& plan) {
+  MadeRooms Make(const RoomPlan& plan, const std::function<bool(int done, int all)>& progress) {
     MakeProjectFolders(files_, project_);
     for (size_t i = 0; i < plan.rooms.size(); ++i) {
       const int error = Write(plan.rooms[i]);
-      if (error == 0) continue;
-      TellMissing(plan, i, error);
+      if (error != 0) {
+        TellMissing(plan, i, ReasonText(error));
+        break;
+      }
+      const bool last = i + 1 == plan.rooms.size();
+      if (last || !progress || progress(int(i) + 1, int(plan.rooms.size()))) continue;
+      TellMissing(plan, i + 1, QStringLiteral("it was stopped"));
       break;
     }
     if (!made_.rooms.empty()) WriteRoomNames(files_, project_, names_);
@@ -93,14 +98,14 @@ class Maker {
     return 0;
   }
 
-  void TellMissing(const RoomPlan& plan, size_t from, int error) {
+  void TellMissing(const RoomPlan& plan, size_t from, const QString& reason) {
     QStringList missing;
     for (size_t i = from; i < plan.rooms.size(); ++i) missing.append(plan.rooms[i].name);
     made_.problem = QStringLiteral(
-                        "%1 rooms are not made, because %2: %3. Make room, then choose "
-                        "Make Rooms again; what stands already stays as it is.")
+                        "%1 rooms are not made, because %2: %3. Choose Make Rooms again "
+                        "for them; what stands already stays as it is.")
                         .arg(missing.size())
-                        .arg(ReasonText(error), missing.join(u", "));
+                        .arg(reason, missing.join(u", "));
   }
 
   Files& files_;
@@ -114,8 +119,9 @@ class Maker {
 
 }  // namespace
 
-MadeRooms MakeRooms(Files& files, const SharedFields& shared, const RoomPlan& plan) {
-  return Maker(files, shared).Make(plan);
+MadeRooms MakeRooms(Files& files, const SharedFields& shared, const RoomPlan& plan,
+                    const std::function<bool(int done, int all)>& progress) {
+  return Maker(files, shared).Make(plan, progress);
 }
 
 QString TakeBackRooms(Files& files, const SharedFields& shared, const MadeRooms& made) {

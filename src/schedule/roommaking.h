@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <vector>
 
 #include "common/files.h"
@@ -26,7 +27,9 @@ struct MadeRooms {
 // its lines, and gets only lines for systems that it has not. Systems come into the project from
 // the library, finish areas into their list. Ends at the first file that can't be written; what was
 // written are whole rooms.
-MadeRooms MakeRooms(Files& files, const SharedFields& shared, const RoomPlan& plan);
+// `progress` is told after each room, `done` of `all`; false stops behind that room.
+MadeRooms MakeRooms(Files& files, const SharedFields& shared, const RoomPlan& plan,
+                    const std::function<bool(int done, int all)>& progress = {});
 
 // Takes the rooms back as long as none of them was changed since; else says which was, and leaves
 // all of them.

@@ -1,9 +1,10 @@
 #include "schedule/scheduleform.h"
 
+#include <algorithm>
+
 #include "records/namelists.h"
 #include "schedule/finishcodes.h"
 #include "schedule/librarysystems.h"
-#include "schedule/schedulereader.h"
 
 namespace tamo {
 namespace {
@@ -60,6 +61,8 @@ void ScheduleForm::BindMenus() {
     ost_.Viewer().SetBoxNext(true);
   };
   ost_.onEnterBox = [this] { return EnterBox(); };
+  ost_.onPlanPressed = [this] { ClickedOnPlan(); };
+  Compare.onClick = [this] { CompareWithKept(); };
 }
 
 void ScheduleForm::Read() {
@@ -79,41 +82,6 @@ void ScheduleForm::AddPart() {
   if (TakeFromPlan()) ShowAll();
 }
 
-// What the plan's box holds; false, and said, when nothing can be taken of it.
-bool ScheduleForm::TakeFromPlan() {
-  const PdfDraw& viewer = ost_.Viewer();
-  if (viewer.ShownPath().isEmpty()) {
-    kit_.desk.GetMessages().Tell(QStringLiteral("No plan is open. Open the plan first."));
-    return false;
-  }
-  std::optional<PageBox> box;
-  const std::optional<DrawnBox>& drawn = viewer.Box();
-  if (drawn.has_value() && drawn->page == viewer.Page()) {
-    box = PageBox{drawn->topLeft.x, drawn->topLeft.y, drawn->bottomRight.x, drawn->bottomRight.y};
-    if (box->left == framed_.left && box->top == framed_.top) box.reset();  // only shows a row
-  }
-  const PageContent page = viewer.ReadPage(viewer.Page());
-  if (page.error != 0) {
-    kit_.desk.GetMessages().Tell(QStringLiteral("The sheet can't be read: %1.").arg(page.problem));
-    return false;
-  }
-  const bool further = !parts_.empty() && pages_.back() != kNoPage;
-  ScheduleReading reading = ReadSchedule(page, box, further ? &parts_.back() : nullptr);
-  if (!reading.problem.isEmpty()) {
-    kit_.desk.GetMessages().Tell(reading.problem);
-    return false;
-  }
-  taken_ = box.value_or(PageBox{});
-  if (parts_.empty()) legend_.clear();
-  legend_.merge(LegendOf(FindTables(page)));
-  for (ScheduleTable& table : reading.parts) {
-    parts_.push_back(std::move(table));
-    pages_.push_back(viewer.Page());
-  }
-  if (!box.has_value()) FrameOnPlan(parts_.back().box, pages_.back());
-  return true;
-}
-
 // The project's key; a new bid begins with the last one's.
 void ScheduleForm::LoadKey() {
   key_.clear();
@@ -131,6 +99,7 @@ void ScheduleForm::LoadKey() {
 }
 
 void ScheduleForm::ShowAll() {
+  LoadAreas();
   made_ = {};
   TakeBack.SetEnabled(false);
   MakeRows();
@@ -149,41 +118,6 @@ void ScheduleForm::ShowUnsure() {
   Unsure.SetRows(places);
 }
 
-// The schedule that stands on the sheet, framed: Enter on the plan reads it. Nothing when there is
-// none, or more than one.
-void ScheduleForm::FrameFound() {
-  const PdfDraw& viewer = ost_.Viewer();
-  if (viewer.ShownPath().isEmpty()) return;
-  const PageContent page = viewer.ReadPage(viewer.Page());
-  const ScheduleReading reading = ReadSchedule(page, std::nullopt);
-  if (!reading.problem.isEmpty()) return;
-  FrameOnPlan(reading.parts.front().box, viewer.Page());
-  offered_ = framed_;
-}
-
-// Enter takes a box that was not read yet: a drawn one, or the schedule that was found.
-bool ScheduleForm::EnterBox() {
-  const DrawnBox& box = *ost_.Viewer().Box();
-  const auto same = [&box](const PageBox& other) {
-    return box.topLeft.x == other.left && box.topLeft.y == other.top &&
-           box.bottomRight.x == other.right && box.bottomRight.y == other.bottom;
-  };
-  const bool offered = same(offered_);
-  if (!offered && (same(framed_) || (same(taken_) && Visible()))) return false;
-  offered_ = {};
-  Read();
-  return true;
-}
-
-// The place of a row on the drawing, in the box's colour.
-void ScheduleForm::FrameOnPlan(const PageBox& box, int page) {
-  PdfDraw& viewer = ost_.Viewer();
-  if (box.Empty() || viewer.ShownPath().isEmpty()) return;
-  if (viewer.Page() != page) viewer.SetPage(page);
-  framed_ = {box.left - 2, box.top - 2, box.right + 2, box.bottom + 2};
-  viewer.DrawBox({framed_.left, framed_.top}, {framed_.right, framed_.bottom});
-}
-
 void ScheduleForm::ShowCells() {
   QStringList cells;
   if (Rows.Index() >= 0) {
@@ -195,7 +129,9 @@ void ScheduleForm::ShowCells() {
       place.Take({cell.box.left, cell.box.top});
       place.Take({cell.box.right, cell.box.bottom});
     }
-    if (pages_[size_t(row.part)] != kNoPage) FrameOnPlan(place, pages_[size_t(row.part)]);
+    if (pages_[size_t(row.part)] != kNoPage && !clicked_) {
+      FrameOnPlan(place, pages_[size_t(row.part)]);
+    }
     for (size_t i = 0; i < row.cells.size(); ++i) {
       const QString mark = row.doubts[i].empty() ? QString() : QStringLiteral("? ");
       cells.append(mark + QLatin1String(kCellNames[i]) + u'\t' + row.cells[i]);
@@ -212,9 +148,27 @@ void ScheduleForm::ShowCell() {
   const FinishRow& row = rows_[size_t(Rows.Index())];
   const auto cell = size_t(Cells.Index());
   Correct.SetText(row.cells[cell]);
+  FrameCell(row, Cells.Index());
   QStringList reasons;
   for (const Doubt doubt : row.doubts[cell]) reasons.append(DoubtText(doubt));
   if (!reasons.isEmpty()) Why.SetCaption(QStringLiteral("Not sure: %1.").arg(reasons.join(u"; ")));
+}
+
+// The selected cell on the drawing; the whole row where the cell has no text.
+void ScheduleForm::FrameCell(const FinishRow& row, int cell) {
+  const int page = pages_[size_t(row.part)];
+  if (page == kNoPage || clicked_) return;
+  const ScheduleTable& part = parts_[size_t(row.part)];
+  PageBox place = NoBox();
+  for (size_t i = 0; i < part.columns.size(); ++i) {
+    const std::vector<int> cells = CellsFor(part.columns[i].role);
+    if (std::find(cells.begin(), cells.end(), cell) == cells.end()) continue;
+    const ScheduleCell& own = part.rows[size_t(row.row)].cells[i];
+    if (own.text.isEmpty()) continue;
+    place.Take({own.box.left, own.box.top});
+    place.Take({own.box.right, own.box.bottom});
+  }
+  if (!place.Empty()) FrameOnPlan(place, page);
 }
 
 void ScheduleForm::CorrectCell() {
@@ -289,45 +243,6 @@ void ScheduleForm::ShowSummary() {
                          .arg(plan.Lines())
                          .arg(plan.leftOut.size())
                          .arg(Unsure.Count()));
-}
-
-bool ScheduleForm::MayWrite() {
-  if (kit_.shared.JobID.isEmpty()) {
-    kit_.desk.GetMessages().Tell(
-        QStringLiteral("No project is open, so the rooms have no place. Open a project first."));
-    return false;
-  }
-  if (kit_.shared.Locked == QLatin1String("True")) {
-    kit_.desk.GetMessages().Tell(QStringLiteral("Project is locked."));
-    return false;
-  }
-  return true;
-}
-
-void ScheduleForm::WriteRooms() {
-  if (!MayWrite()) return;
-  const RoomPlan plan = PlanRooms(rows_, key_, Areas());
-  made_ = tamo::MakeRooms(kit_.files, kit_.shared, plan);
-  TakeBack.SetEnabled(!made_.rooms.empty());
-  if (!made_.problem.isEmpty()) kit_.desk.GetMessages().Tell(made_.problem);
-  Summary.SetCaption(QStringLiteral("%1 rooms and %2 lines made, %3 codes left out. %4")
-                         .arg(made_.rooms.size())
-                         .arg(made_.lines)
-                         .arg(plan.leftOut.size())
-                         .arg(plan.told.join(u' '))
-                         .trimmed());
-}
-
-void ScheduleForm::TakeRoomsBack() {
-  if (!MayWrite()) return;
-  const QString refusal = tamo::TakeBackRooms(kit_.files, kit_.shared, made_);
-  if (!refusal.isEmpty()) {
-    kit_.desk.GetMessages().Tell(refusal);
-    return;
-  }
-  made_ = {};
-  TakeBack.SetEnabled(false);
-  ShowSummary();
 }
 
 }  // namespace tamo

@@ -9,11 +9,21 @@
 #include "records/finishkey.h"
 #include "schedule/legend.h"
 #include "schedule/plannedrooms.h"
+#include "schedule/readaside.h"
 #include "schedule/roommaking.h"
 #include "schedule/scheduleedits.h"
 #include "schedule/scheduletable.h"
 
 namespace tamo {
+
+class SheetPictures;
+
+// The boxes of the sheet in front.
+struct SheetBoxes {
+  PageBox framed;   // what is framed on the plan of the selected row
+  PageBox offered;  // the schedule that was found on the sheet and not yet read
+  PageBox taken;    // the drawn box that was read last
+};
 
 // The room finish schedule as it was read off the plan: its rows, what is not sure, the finish
 // codes with the systems that they mean, and the rooms that are made of it.
@@ -26,6 +36,12 @@ class ScheduleForm : public Form {
   void Read();     // begins anew with the box, or with the schedule that stands on the sheet
   void AddPart();  // adds what the box holds behind the rows
 
+  // Called while a sheet is read (`all` is 0) or rooms are made, `done` of `all`; false stops it.
+  // Events may come in meanwhile. Afterwards onDone, with whether it came to its end.
+  std::function<bool(int done, int all)> onProgress;
+  std::function<void(bool whole)> onDone;
+  // Reads scanned sheets, when somebody wants that; null: they are refused.
+  std::shared_ptr<const SheetPictures> pictures;
   // A new system stands in the library: lists of systems that were read before take it.
   std::function<void(const QString& name)> onSystemMade;
 
@@ -33,6 +49,7 @@ class ScheduleForm : public Form {
   MenuEntry TakePasted{*this, "TakePasted", "Take &Pasted Rows", &RowMenu};
   MenuEntry LeaveOut{*this, "LeaveOut", "&Leave Row Out", &RowMenu};
   MenuEntry NewSystem{*this, "NewSystem", "&New System"};
+  MenuEntry Compare{*this, "Compare", "&Compare", nullptr};
   MenuEntry MakeRooms{*this, "MakeRooms", "&Make Rooms"};
   MenuEntry TakeBack{*this, "TakeBack", "&Take Rooms Back"};
   MenuEntry Xit{*this, "Xit", "E&xit"};
@@ -72,6 +89,8 @@ class ScheduleForm : public Form {
   void BindSources();
   void BindAreas();
   FinishAreas Areas() const;
+  void LoadAreas();
+  void KeepAreas();
   void TakeSystem(const QString& system);
   void MakeSystem();
   void ShowUnpriced(const RoomPlan& plan);
@@ -87,14 +106,19 @@ class ScheduleForm : public Form {
   void ShowUnsure();
   void ShowCells();
   void ShowCell();
+  void FrameCell(const FinishRow& row, int cell);
   void ShowSystem();
   void ShowSummary();
   void CorrectCell();
   void ChooseSystem();
   void LeaveRowOut();
   void WriteRooms();
+  void KeepSchedule(const RoomPlan& plan);
+  void CompareWithKept();
   void TakeRoomsBack();
   bool MayWrite();
+  SheetToRead SheetInFront();
+  void ClickedOnPlan();
   void FrameFound();
   bool EnterBox();
   void FrameOnPlan(const PageBox& box, int page);
@@ -103,14 +127,15 @@ class ScheduleForm : public Form {
   OSTForm& ost_;
   std::vector<ScheduleTable> parts_;
   std::vector<int> pages_;  // on which page each part stands, or kNoPage
-  PageBox framed_;          // what is framed on the plan of the selected row
-  PageBox offered_;         // the schedule that was found on the sheet and not yet read
-  PageBox taken_;           // the drawn box that was read last
+  SheetBoxes boxes_;
   std::vector<FinishRow> rows_;
   ScheduleEdits edits_;
   FinishKey key_;
   Legend legend_;  // of the sheets that were read
   MadeRooms made_;
+  bool areasLoaded_ = false;
+  bool busy_ = false;     // a sheet is being read, or rooms are being made
+  bool clicked_ = false;  // the selection follows a click on the drawing: the frame stays away
 };
 
 }  // namespace tamo

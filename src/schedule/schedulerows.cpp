@@ -9,39 +9,6 @@ namespace {
 
 enum Cell { kNumber, kName, kFloor, kBase, kNorth, kEast, kSouth, kWest, kCeiling, kRemarks };
 
-std::vector<int> CellsFor(ColumnRole role) {
-  switch (role) {
-    case ColumnRole::Number:
-      return {kNumber};
-    case ColumnRole::Name:
-      return {kName};
-    case ColumnRole::Floor:
-      return {kFloor};
-    case ColumnRole::Base:
-      return {kBase};
-    case ColumnRole::North:
-      return {kNorth};
-    case ColumnRole::East:
-      return {kEast};
-    case ColumnRole::South:
-      return {kSouth};
-    case ColumnRole::West:
-      return {kWest};
-    case ColumnRole::Walls:
-      return {kNorth, kEast, kSouth, kWest};
-    case ColumnRole::NorthSouth:
-      return {kNorth, kSouth};
-    case ColumnRole::EastWest:
-      return {kEast, kWest};
-    case ColumnRole::Ceiling:
-      return {kCeiling};
-    case ColumnRole::Remarks:
-      return {kRemarks};
-    default:
-      return {};
-  }
-}
-
 void Append(QString& text, const QString& more) {
   if (more.isEmpty()) return;
   if (!text.isEmpty()) text += u' ';
@@ -126,6 +93,55 @@ FinishRow RowOf(const ScheduleTable& table, const ScheduleRow& from, Dittos& dit
 }
 
 }  // namespace
+
+std::vector<int> CellsFor(ColumnRole role) {
+  switch (role) {
+    case ColumnRole::Number:
+      return {kNumber};
+    case ColumnRole::Name:
+      return {kName};
+    case ColumnRole::NumberAndName:
+      return {kNumber, kName};
+    case ColumnRole::Floor:
+      return {kFloor};
+    case ColumnRole::Base:
+      return {kBase};
+    case ColumnRole::North:
+      return {kNorth};
+    case ColumnRole::East:
+      return {kEast};
+    case ColumnRole::South:
+      return {kSouth};
+    case ColumnRole::West:
+      return {kWest};
+    case ColumnRole::Walls:
+      return {kNorth, kEast, kSouth, kWest};
+    case ColumnRole::NorthSouth:
+      return {kNorth, kSouth};
+    case ColumnRole::EastWest:
+      return {kEast, kWest};
+    case ColumnRole::Ceiling:
+    case ColumnRole::Height:
+      return {kCeiling};
+    case ColumnRole::Remarks:
+      return {kRemarks};
+    default:
+      return {};
+  }
+}
+
+int ColumnUnder(const ScheduleTable& table, size_t row, PagePoint at) {
+  const std::vector<ScheduleCell>& cells = table.rows[row].cells;
+  for (size_t i = 0; i < cells.size(); ++i) {
+    const PageBox& box = cells[i].box;
+    if (cells[i].text.isEmpty()) continue;
+    if (at.x >= box.left - 1 && at.x <= box.right + 1 && at.y >= box.top - 1 &&
+        at.y <= box.bottom + 1) {
+      return int(i);
+    }
+  }
+  return -1;
+}
 
 bool IsDitto(const QString& text) {
   static const QStringList marks = {QStringLiteral("\""),           QStringLiteral("\u201d"),

@@ -26,6 +26,12 @@ struct FinishRow {
 // all four.
 std::vector<FinishRow> FinishRowsOf(const std::vector<ScheduleTable>& parts);
 
+// Which of the ten cells a column of a meaning fills; a height is in the ceiling's.
+std::vector<int> CellsFor(ColumnRole role);
+
+// The column whose text in a row lies under a place on the sheet; -1.
+int ColumnUnder(const ScheduleTable& table, size_t row, PagePoint at);
+
 bool IsDitto(const QString& text);
 
 }  // namespace tamo

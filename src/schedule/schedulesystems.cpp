@@ -1,3 +1,4 @@
+#include "records/datafolder.h"
 #include "schedule/finishcodes.h"
 #include "schedule/librarysystems.h"
 #include "schedule/scheduleform.h"
@@ -8,6 +9,7 @@ namespace tamo {
 namespace {
 
 constexpr size_t kBaseCell = 3;
+constexpr char kAreasFile[] = "ScheduleAreas.tamo";
 
 // Whether a code stands in bases alone: those are measured along their length.
 bool OnlyBase(const std::vector<FinishRow>& rows, const QString& code) {
@@ -22,12 +24,30 @@ bool OnlyBase(const std::vector<FinishRow>& rows, const QString& code) {
 }  // namespace
 
 void ScheduleForm::BindAreas() {
-  const FinishAreas usual;
-  FloorArea.SetText(usual.floor);
-  BaseArea.SetText(usual.base);
-  WallsArea.SetText(usual.walls);
-  CeilingArea.SetText(usual.ceiling);
   NewSystem.onClick = [this] { MakeSystem(); };
+}
+
+// The areas of the last schedule, else the usual ones; only while no field was typed into.
+void ScheduleForm::LoadAreas() {
+  if (areasLoaded_) return;
+  areasLoaded_ = true;
+  const FinishAreas usual;
+  QStringList lines;
+  kit_.files.ReadLines(DataFolder(kit_.shared).NameFile(kAreasFile), lines);
+  const auto show = [&lines](TextField& field, qsizetype line, const QString& area) {
+    const QString last = lines.value(line).simplified();
+    field.SetText(last.isEmpty() ? area : last);
+  };
+  show(FloorArea, 0, usual.floor);
+  show(BaseArea, 1, usual.base);
+  show(WallsArea, 2, usual.walls);
+  show(CeilingArea, 3, usual.ceiling);
+}
+
+void ScheduleForm::KeepAreas() {
+  const FinishAreas areas = Areas();
+  kit_.files.SaveLines(DataFolder(kit_.shared).NameFile(kAreasFile),
+                       {areas.floor, areas.base, areas.walls, areas.ceiling});
 }
 
 // A field that was left empty gives the usual area.

@@ -82,6 +82,7 @@ void EstimateForm::DeleteLine() {
   AreaList.Remove(AreaList.Index());
   SaveArea();
   eDescription.Clear();
+  Lengths.Clear();
   GetDesk().Focus(eDescription);
   UpdateStatus();
 }

@@ -54,6 +54,7 @@ void RoomCommands::DeleteLine() {
   screen_.RoomList.Remove(screen_.RoomList.Index());
   screen_.Description.Clear();
   screen_.Area.Clear();
+  screen_.Lengths.Clear();
   kit_.desk.Focus(screen_.Description);
   record_.SaveRoom();
   screen_.UpdateStatus();

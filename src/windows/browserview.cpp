@@ -69,6 +69,7 @@ BrowserView::BrowserView(FileBrowser::Kind kind, QWidget* parent)
 
 void BrowserView::Show(const std::vector<BrowserRow>& rows, const QString& folder,
                        const QString& file) {
+  const bool other = folder != folder_;
   rows_->clear();
   folder_ = folder;
   for (const BrowserRow& row : rows) {
@@ -77,6 +78,7 @@ void BrowserView::Show(const std::vector<BrowserRow>& rows, const QString& folde
     if (!file.isEmpty() && row.text == file) rows_->setCurrentItem(item);
   }
   ShowFolder();
+  if (other && rows_->currentItem() == nullptr) rows_->scrollToTop();
 }
 
 QString BrowserView::PathOf(int row) const {

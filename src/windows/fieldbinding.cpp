@@ -8,6 +8,8 @@
 #include <QTextCursor>
 #include <algorithm>
 
+#include "windows/look.h"
+
 namespace tamo {
 namespace {
 
@@ -184,6 +186,28 @@ void LineBinding::ShowText() {
   if (edit_.isReadOnly() != field.readOnly) {
     edit_.setReadOnly(field.readOnly);
   }
+  ShowBeside();
+}
+
+// A tag at the field's right end, over whatever stands there.
+void LineBinding::ShowBeside() {
+  const QString text = Field().Beside();
+  if (beside_.isNull()) {
+    if (text.isEmpty()) return;
+    beside_ = new QLabel(edit_.window());
+    beside_->setProperty("role", QStringLiteral("tag"));
+    beside_->setFont(PromptFont());
+    beside_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+  edit_.setAccessibleDescription(text);
+  beside_->setVisible(!text.isEmpty() && edit_.isVisible());
+  if (text.isEmpty()) return;
+  beside_->setText(text);
+  beside_->adjustSize();
+  const QPoint end = edit_.mapTo(edit_.window(), QPoint(edit_.width() + kGrid / 2, 0));
+  const int left = std::min(end.x(), edit_.window()->width() - beside_->width());
+  beside_->move(left, end.y() + (edit_.height() - beside_->height()) / 2);
+  beside_->raise();
 }
 
 void LineBinding::ShowSelection() {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 
 #include "windows/display.h"
 
@@ -53,7 +55,10 @@ class LineBinding : public AnyFieldBinding {
   bool Paste() override;
 
  private:
+  void ShowBeside();
+
   QLineEdit& edit_;
+  QPointer<QLabel> beside_;
 };
 
 class TextBinding : public AnyFieldBinding {

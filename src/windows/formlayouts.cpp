@@ -7,7 +7,7 @@ namespace tamo {
 
 bool LayOut(Builder& builder) {
   using Make = void (*)(Builder&);
-  static constexpr std::array<std::pair<const char*, Make>, 11> kLayouts = {
+  static constexpr std::array<std::pair<const char*, Make>, 12> kLayouts = {
       {{"Tamo", LayOutTamo},
        {"Settings", LayOutSettings},
        {"Pricing", LayOutPricing},
@@ -18,7 +18,8 @@ bool LayOut(Builder& builder) {
        {"OST", LayOutOST},
        {"Schedule", LayOutSchedule},
        {"Reports", LayOutReports},
-       {"Docs", LayOutDocs}}};
+       {"Docs", LayOutDocs},
+       {"Versions", LayOutVersions}}};
   for (const auto& [name, make] : kLayouts) {
     if (builder.GetForm().Name() != QLatin1String(name)) continue;
     make(builder);

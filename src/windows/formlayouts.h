@@ -18,6 +18,7 @@ void LayOutOST(Builder& builder);
 void LayOutSchedule(Builder& builder);
 void LayOutReports(Builder& builder);
 void LayOutDocs(Builder& builder);
+void LayOutVersions(Builder& builder);
 
 // The layout of a form of that name; false when there is none (a form that is never shown).
 bool LayOut(Builder& builder);

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 #include <algorithm>
 
 #include "windows/look.h"
@@ -71,11 +72,21 @@ FormWindow::FormWindow(Form& form, Display& display)
   whole_->setContentsMargins(0, 0, 0, 0);
   whole_->setSpacing(0);
   if (menus_.Bar() != nullptr) whole_->setMenuBar(menus_.Bar());
+  menuWidth_ = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
+  whole_->addItem(menuWidth_);
   body_->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
   body_->setSpacing(kGrid);
   whole_->addLayout(body_, 1);
   notice_->hide();
   whole_->addWidget(notice_);
+}
+
+void FormWindow::KeepMenusInSight() {
+  if (menus_.Bar() == nullptr) return;
+  const int wanted = std::min(menus_.Bar()->sizeHint().width(), screen()->availableSize().width());
+  if (menuWidth_->sizeHint().width() == wanted) return;
+  menuWidth_->changeSize(wanted, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
+  whole_->invalidate();
 }
 
 void FormWindow::UseWholeWindow() {

@@ -48,6 +48,8 @@ class FormWindow : public QWidget {
   QHBoxLayout& StatusLine();
   void SetStatus(const QString& project, bool locked, const QString& folder);
   NoticeStrip& Notice() const { return *notice_; }
+  // A window as narrow as its menus, on a screen that has the room, no narrower.
+  void KeepMenusInSight();
   // Shows the strip, or puts it away; the window grows by it, and shrinks again.
   void SetNotice(const QString& text);
 
@@ -79,6 +81,7 @@ class FormWindow : public QWidget {
   QLabel* folderLabel_ = nullptr;
   NoticeStrip* notice_;
   int heightWithoutNotice_ = 0;
+  QSpacerItem* menuWidth_ = nullptr;  // as wide as the menu bar
 };
 
 }  // namespace tamo

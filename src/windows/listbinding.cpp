@@ -63,6 +63,8 @@ void ListBinding::Apply() {
   view_.SetSelected(index);
   if (list_.ShownWithFrames() && (under_ != nullptr || view_.isHidden())) Place();
   Binding::Apply();
+  // A list of nothing is no list.
+  if (list_.dropsFrom != nullptr && list_.Empty() && !view_.isHidden()) view_.hide();
   if (!list_.Shown()) view_.SetWalked(-1);
   if (index >= 0 && (index != appliedIndex_ || other)) view_.scrollTo(view_.Model().index(index));
   appliedIndex_ = index;

@@ -13,7 +13,7 @@
 namespace tamo {
 namespace {
 
-constexpr int kColumnWidth = 32 * kGrid;
+constexpr int kColumnWidth = 34 * kGrid;
 constexpr int kQuietSave = 300;  // milliseconds before a save shows its bar
 
 QToolButton* Tool(const QString& text, const QString& hover) {
@@ -55,13 +55,19 @@ std::vector<QToolButton*> PageButtons(PdfDraw& viewer, Desk& desk, PlanCanvas& c
       Tool(QStringLiteral("Turn"), QStringLiteral("Turn the sheet to the right (T)"));
   before->setAccessibleName(QStringLiteral("Page before"));
   after->setAccessibleName(QStringLiteral("Next page"));
+  QToolButton* page =
+      Tool(QStringLiteral("Fit page"), QStringLiteral("The whole sheet in sight (F)"));
+  QToolButton* width =
+      Tool(QStringLiteral("Fit width"), QStringLiteral("The sheet's whole width in sight (W)"));
   const auto turn = [&viewer, &desk](int by) {
     desk.Dispatch([&] { viewer.TurnPage(viewer.Page() + by); });
   };
   QObject::connect(before, &QToolButton::clicked, before, [turn] { turn(-1); });
   QObject::connect(after, &QToolButton::clicked, after, [turn] { turn(1); });
   QObject::connect(rotate, &QToolButton::clicked, rotate, [&canvas] { canvas.TurnView(); });
-  return {before, after, rotate};
+  QObject::connect(page, &QToolButton::clicked, page, [&canvas] { canvas.FitPage(); });
+  QObject::connect(width, &QToolButton::clicked, width, [&canvas] { canvas.FitWidth(); });
+  return {before, after, rotate, page, width};
 }
 
 // The viewer's own tool bar: which tool is in hand is shown by the pressed button and by Mode.
@@ -142,16 +148,26 @@ void Scales(Builder& b, QVBoxLayout& column) {
   column.addLayout(line);
 }
 
+// The step says little to whoever zooms by wheel.
+void ShowPerCent(Builder& b, QLabel& label) {
+  label.setObjectName(QStringLiteral("ZoomPerCent"));
+  const QString caption = label.text();
+  b.Window().onSynced.push_back([&label, caption, &viewer = b.GetProgram().Viewer()] {
+    label.setText(QStringLiteral("%1 %2%").arg(caption).arg(viewer.Zoom()));
+  });
+}
+
 void Sheet(Builder& b, QVBoxLayout& column) {
   Stack(column, QStringLiteral("Job Name"), b.Field("ProjectName"));
   Stack(column, QStringLiteral("Plan"), b.Field("PlanLocation"));
   auto* grid = new QGridLayout;
   grid->setSpacing(kGrid / 2);
   const std::tuple<const char*, const char*, int> fields[] = {
-      {"Page", "PageText", 7}, {"Zoom", "ZoomLevel", 3}, {"Mode", "Mode", 0}};
+      {"Page", "PageText", 6}, {"Zoom", "ZoomLevel", 3}, {"Mode", "Mode", 0}};
   int at = 0;
   for (const auto& [caption, name, columns] : fields) {
     QLabel* label = FixedPrompt(QLatin1String(caption));
+    if (at == 1) ShowPerCent(b, *label);
     QLineEdit* field = b.Field(name, columns);
     label->setBuddy(field);
     grid->addWidget(label, 0, at);

@@ -43,10 +43,16 @@ bool PlanCanvas::TakeLetter(int key) {
       TurnView();
       return true;
     case Qt::Key_Plus:
-      if (onZoomIn) onZoomIn();
+      ZoomByKey(onZoomIn);
       return true;
     case Qt::Key_Minus:
-      if (onZoomOut) onZoomOut();
+      ZoomByKey(onZoomOut);
+      return true;
+    case Qt::Key_F:
+      FitPage();
+      return true;
+    case Qt::Key_W:
+      FitWidth();
       return true;
     default:
       return false;

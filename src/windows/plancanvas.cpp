@@ -319,8 +319,7 @@ void PlanCanvas::wheelEvent(QWheelEvent* event) {
   const QPointF notches = QPointF(event->angleDelta()) / 120.0;
   event->accept();
   if (event->modifiers().testFlag(Qt::ControlModifier)) {
-    if (notches.y() > 0 && onZoomIn) onZoomIn();
-    if (notches.y() < 0 && onZoomOut) onZoomOut();
+    if (notches.y() != 0) ZoomByWheel(event->position(), notches.y());
     return;
   }
   QPointF pixels = event->pixelDelta().isNull() ? notches * kWheelStep * PixelsPerPoint(100, 1)

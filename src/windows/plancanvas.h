@@ -38,8 +38,11 @@ class PlanCanvas : public QAbstractScrollArea {
   // Asks for a printer; false when the user thinks better of it. The system's dialog, unless set.
   std::function<bool(QPrinter& printer)> askForPrinter;
 
-  std::function<void()> onZoomIn, onZoomOut;  // Ctrl and the wheel, plus and minus
-  std::function<void()> onPictures;           // more pictures are there
+  std::function<void()> onZoomIn, onZoomOut;  // plus and minus: a step
+  // The whole sheet, or its whole width, in sight.
+  void FitPage();
+  void FitWidth();
+  std::function<void()> onPictures;  // more pictures are there
   // The user's scrolling that the viewer has not been told of yet. It is told once the sheet rests,
   // since the project's record is saved each time.
   void FinishScroll();
@@ -67,6 +70,10 @@ class PlanCanvas : public QAbstractScrollArea {
   void PaintMarks(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
   void Pan(const QPointF& points);
+  void ZoomAbout(const QPointF& place, const std::function<void()>& zoom);
+  void ZoomByWheel(const QPointF& place, double notches);
+  void ZoomByKey(const std::function<void()>& zoom);
+  void FitTo(double pixelsPerPoint);
   bool TakeLetter(int key);
 
   PdfDraw& viewer_;

@@ -55,6 +55,7 @@ void PaintMark(QPainter& painter, const Mark& mark, double markerSize) {
   painter.rotate(shape.textAngle * 180 / std::numbers::pi);
   painter.scale(shape.textWidth / wide, shape.textSize / kFine);
   painter.setFont(font);
+  painter.setPen(QColor::fromRgb(ReadableOnWhite(ColourNumber(mark.colour))));
   painter.drawText(QPointF(-wide / 2, 0), shape.text);
   painter.restore();
 }

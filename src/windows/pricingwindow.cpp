@@ -10,6 +10,13 @@ constexpr int kSideWidth = 35 * kGrid;
 constexpr int kCaptions = 21 * kGrid;
 constexpr int kPrompts = 42 * kGrid;
 
+// Captions name units and grow with them; the fields stay where they are.
+QLabel* Steady(QLabel* caption) {
+  caption->setFixedWidth(kCaptions);
+  caption->setWordWrap(true);
+  return caption;
+}
+
 QWidget* SystemFields(Builder& b) {
   QWidget* frame = b.Group("FramePricing");
   auto* column = ColumnIn(frame, kGrid / 4);
@@ -22,7 +29,7 @@ QWidget* SystemFields(Builder& b) {
   units->setBuddy(unitsField);
   price->setBuddy(priceField);
   SwatchPatch* sample = b.SampleLine("Line1");
-  sample->setMinimumWidth(6 * kGrid);
+  sample->setMinimumWidth(3 * kGrid);
   sample->setMaximumWidth(20 * kGrid);
   line->addWidget(units);
   line->addWidget(unitsField);
@@ -30,6 +37,7 @@ QWidget* SystemFields(Builder& b) {
   line->addWidget(price);
   line->addWidget(priceField);
   line->addSpacing(kGrid);
+  line->addWidget(FixedCaption(QStringLiteral("Line:")));
   line->addWidget(sample, 1);
   line->addWidget(b.PushButton("Command2"));
   line->addWidget(b.PushButton("Command1"));
@@ -45,13 +53,13 @@ QWidget* MaterialFields(Builder& b) {
   auto* fields = new QWidget;
   FieldColumn column(*fields);
   column.captionWidth = kCaptions;
-  column.Add(b.Caption("LabelMaterial"), b.Field("Material", 34), b.Prompt("Label18"));
-  column.Add(b.Caption("LabelOrderUnits"), b.Field("OrderUnits", 14));
-  column.Add(b.Caption("LabelPrice"), b.Field("Price", 14));
-  column.Add(b.Caption("LabelUPO"), b.Field("UPO", 14), b.Prompt("Label5"));
-  column.Add(b.Caption("LabelMnhr"), b.Field("MnhrPO", 14), b.Prompt("Label8"));
-  column.Add(b.Caption("Label4"), b.Field("Waste", 14));
-  column.Add(b.Caption("Label7"), b.Field("WageRate", 14));
+  column.Add(Steady(b.Caption("LabelMaterial")), b.Field("Material", 34), b.Prompt("Label18"));
+  column.Add(Steady(b.Caption("LabelOrderUnits")), b.Field("OrderUnits", 14));
+  column.Add(Steady(b.Caption("LabelPrice")), b.Field("Price", 14));
+  column.Add(Steady(b.Caption("LabelUPO")), b.Field("UPO", 14), b.Prompt("Label5"));
+  column.Add(Steady(b.Caption("LabelMnhr")), b.Field("MnhrPO", 14), b.Prompt("Label8"));
+  column.Add(Steady(b.Caption("Label4")), b.Field("Waste", 14));
+  column.Add(Steady(b.Caption("Label7")), b.Field("WageRate", 14));
   column.Grid().setColumnMinimumWidth(1, kPrompts);
   column.Grid().setRowStretch(column.Grid().rowCount(), 1);
   return fields;

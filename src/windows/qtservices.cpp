@@ -42,6 +42,15 @@ void DeskClipboard::SetText(const QString& text) {
   QApplication::clipboard()->setText(text);
 }
 
+QIcon ProgramIcon(const QString& programFolder) {
+  QIcon icon;
+  for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+    icon.addFile(QStringLiteral("%1/desktop/icons/tamo-%2.png").arg(programFolder).arg(size),
+                 QSize(size, size));
+  }
+  return icon;
+}
+
 QString FindProgramFolder(const QString& executableFolder) {
   for (const char* place : {"", "/../share/tamo", "/../data", "/../../data"}) {
     const QString folder = executableFolder + QLatin1String(place);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QIcon>
+#include <QString>
 #include <functional>
 
 #include "common/services.h"
@@ -20,6 +22,9 @@ class DeskClipboard : public Clipboard {
   void Clear() override;
   void SetText(const QString& text) override;
 };
+
+// The program's icon in all its sizes, from the pictures in its folder.
+QIcon ProgramIcon(const QString& programFolder);
 
 // The folder with the program's own files: that of the executable, or, in an installed program or a
 // build tree, the one that belongs to it.

@@ -1,11 +1,14 @@
 #include "windows/reportprinter.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QDate>
 #include <QDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
@@ -14,6 +17,8 @@
 #include <QPrinterInfo>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <initializer_list>
+#include <utility>
 
 #include "windows/look.h"
 
@@ -27,27 +32,64 @@ void SetMargins(QPrinter& printer) {
                          QPageLayout::Point);
 }
 
-std::vector<PageComposer::Sheet> SheetsFor(const PageComposer& pages, const QPrinter& printer) {
+std::vector<PageComposer::Sheet> SheetsFor(const PageComposer& pages, const QPrinter& printer,
+                                           const PageFrame& frame) {
   const QRectF paper = printer.pageRect(QPrinter::Point);
-  return pages.Sheets(paper.width(), paper.height());
+  return pages.Sheets(paper.width(), paper.height() - frame.Top() - frame.Bottom());
 }
 
-void PrintOnPaper(const PageComposer& pages, const QString& title, QDialog& preview) {
+void PaintSheet(QPainter& painter, const PageComposer::Sheet& sheet, const PageFrame& frame,
+                QPrinter& printer, int page, int pages) {
+  const double dots = printer.resolution();
+  frame.Paint(painter, printer.pageRect(QPrinter::Point).size(), page, pages, dots);
+  painter.save();
+  painter.translate(0, frame.Top() * dots / 72);
+  PageComposer::Paint(painter, sheet, dots);
+  painter.restore();
+}
+
+// What can be chosen, by the names under which it is sold.
+constexpr std::pair<const char*, QPageSize::PageSizeId> kPapers[] = {
+    {"Letter", QPageSize::Letter},
+    {"Legal", QPageSize::Legal},
+    {"Tabloid", QPageSize::Tabloid},
+    {"A4", QPageSize::A4},
+    {"A3", QPageSize::A3}};
+
+QComboBox* PaperChoice(QPageSize::PageSizeId chosen) {
+  auto* papers = new QComboBox;
+  papers->setAccessibleName(QStringLiteral("Paper"));
+  for (const auto& [name, paper] : kPapers) {
+    papers->addItem(QLatin1String(name), paper);
+    if (paper == chosen) papers->setCurrentIndex(papers->count() - 1);
+  }
+  return papers;
+}
+
+struct Job {
+  const PageComposer& pages;
+  const QString& title;
+  const PageFrame frame;
+  const QPageSize::PageSizeId& paper;
+};
+
+void PrintOnPaper(const Job& job, QDialog& preview) {
   QPrinter printer(QPrinter::HighResolution);
+  printer.setPageSize(QPageSize(job.paper));
   SetMargins(printer);
-  printer.setDocName(title);
+  printer.setDocName(job.title);
   QPrintDialog dialog(&printer, &preview);
   if (dialog.exec() != QDialog::Accepted) return;
   if (printer.outputFormat() == QPrinter::PdfFormat) {
-    PaintDocument(pages, printer);
+    PaintDocument(job.pages, printer, job.frame);
   } else {
-    PaintJobs(pages, printer);
+    PaintJobs(job.pages, printer, job.frame);
   }
   preview.accept();
 }
 
-void PrintIntoFile(const PageComposer& pages, const QString& title, QDialog& preview) {
-  QString name = title;
+void PrintIntoFile(const Job& job, QDialog& preview) {
+  QString name = job.title;
   for (QChar& c : name) {
     if (QStringLiteral("\\/:*?\"<>|").contains(c)) c = QLatin1Char(' ');
   }
@@ -59,9 +101,10 @@ void PrintIntoFile(const PageComposer& pages, const QString& title, QDialog& pre
   QPrinter printer(QPrinter::HighResolution);
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(path);
-  printer.setDocName(title);
+  printer.setDocName(job.title);
+  printer.setPageSize(QPageSize(job.paper));
   SetMargins(printer);
-  PaintDocument(pages, printer);
+  PaintDocument(job.pages, printer, job.frame);
   if (QFileInfo(path).size() > 0) {
     preview.accept();
     return;
@@ -72,24 +115,30 @@ void PrintIntoFile(const PageComposer& pages, const QString& title, QDialog& pre
 
 }  // namespace
 
-void PaintDocument(const PageComposer& pages, QPrinter& printer) {
-  const auto sheets = SheetsFor(pages, printer);
+void PaintDocument(const PageComposer& pages, QPrinter& printer, const PageFrame& frame) {
+  const auto sheets = SheetsFor(pages, printer, frame);
   QPainter painter;
   if (!painter.begin(&printer)) return;
-  bool first = true;
+  int page = 0;
   for (const PageComposer::Sheet& sheet : sheets) {
-    if (!first) printer.newPage();
-    first = false;
-    PageComposer::Paint(painter, sheet, printer.resolution());
+    if (page > 0) printer.newPage();
+    PaintSheet(painter, sheet, frame, printer, ++page, static_cast<int>(sheets.size()));
   }
 }
 
-void PaintJobs(const PageComposer& pages, QPrinter& printer) {
-  for (const PageComposer::Sheet& sheet : SheetsFor(pages, printer)) {
+void PaintJobs(const PageComposer& pages, QPrinter& printer, const PageFrame& frame) {
+  const auto sheets = SheetsFor(pages, printer, frame);
+  int page = 0;
+  for (const PageComposer::Sheet& sheet : sheets) {
     QPainter painter;
     if (!painter.begin(&printer)) return;
-    PageComposer::Paint(painter, sheet, printer.resolution());
+    PaintSheet(painter, sheet, frame, printer, ++page, static_cast<int>(sheets.size()));
   }
+}
+
+PageFrame ReportPrinter::Frame() const {
+  return {company ? company().trimmed() : QString(), title_,
+          QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat)};
 }
 
 bool ReportPrinter::BeginPrint(const QString& title) {
@@ -98,21 +147,18 @@ bool ReportPrinter::BeginPrint(const QString& title) {
   return true;
 }
 
-void ReportPrinter::EndPrint() {
-  pages_.EndPage();
-  if (pages_.Empty()) return;
-  QDialog preview(QApplication::activeWindow());
-  preview.setWindowTitle(QStringLiteral("Print: ") + title_);
-  preview.resize(760, 680);
-  auto* column = new QVBoxLayout(&preview);
-  QPrinter sheet(QPrinter::ScreenResolution);
-  SetMargins(sheet);
+namespace {
+
+QPrintPreviewWidget* Preview(const Job& job, QPrinter& sheet) {
   auto* view = new QPrintPreviewWidget(&sheet);
   view->setViewMode(QPrintPreviewWidget::AllPagesView);
   view->setZoomMode(QPrintPreviewWidget::FitToWidth);
-  QObject::connect(view, &QPrintPreviewWidget::paintRequested, &preview,
-                   [this](QPrinter* printer) { PaintDocument(pages_, *printer); });
-  column->addWidget(view, 1);
+  QObject::connect(view, &QPrintPreviewWidget::paintRequested, view,
+                   [&job](QPrinter* printer) { PaintDocument(job.pages, *printer, job.frame); });
+  return view;
+}
+
+QHBoxLayout* PrintButtons(const Job& job, QDialog& preview, QComboBox* papers) {
   auto* buttons = new QHBoxLayout;
   const bool none = QPrinterInfo::availablePrinterNames().isEmpty();
   auto* why =
@@ -123,14 +169,40 @@ void ReportPrinter::EndPrint() {
   auto* close = new QPushButton(QStringLiteral("&Cancel"));
   print->setEnabled(!none);
   (none ? save : print)->setDefault(true);
-  QObject::connect(print, &QPushButton::clicked, &preview,
-                   [&] { PrintOnPaper(pages_, title_, preview); });
-  QObject::connect(save, &QPushButton::clicked, &preview,
-                   [&] { PrintIntoFile(pages_, title_, preview); });
+  QObject::connect(print, &QPushButton::clicked, &preview, [&] { PrintOnPaper(job, preview); });
+  QObject::connect(save, &QPushButton::clicked, &preview, [&] { PrintIntoFile(job, preview); });
   QObject::connect(close, &QPushButton::clicked, &preview, [&preview] { preview.reject(); });
   buttons->addWidget(why, 1);
-  for (QPushButton* button : {print, save, close}) buttons->addWidget(button);
-  column->addLayout(buttons);
+  auto* caption = new QLabel(QStringLiteral("Pape&r:"));
+  caption->setBuddy(papers);
+  buttons->addWidget(caption);
+  for (QWidget* widget : std::initializer_list<QWidget*>{papers, print, save, close})
+    buttons->addWidget(widget);
+  return buttons;
+}
+
+}  // namespace
+
+void ReportPrinter::EndPrint() {
+  pages_.EndPage();
+  if (pages_.Empty()) return;
+  const Job job{pages_, title_, Frame(), paper_};
+  QDialog preview(QApplication::activeWindow());
+  preview.setWindowTitle(QStringLiteral("Print: ") + title_);
+  preview.resize(760, 680);
+  auto* column = new QVBoxLayout(&preview);
+  QPrinter sheet(QPrinter::ScreenResolution);
+  sheet.setPageSize(QPageSize(paper_));
+  SetMargins(sheet);
+  QPrintPreviewWidget* view = Preview(job, sheet);
+  column->addWidget(view, 1);
+  QComboBox* papers = PaperChoice(paper_);
+  QObject::connect(papers, &QComboBox::currentIndexChanged, view, [&, papers, view](int at) {
+    paper_ = static_cast<QPageSize::PageSizeId>(papers->itemData(at).toInt());
+    sheet.setPageSize(QPageSize(paper_));
+    view->updatePreview();
+  });
+  column->addLayout(PrintButtons(job, preview, papers));
   preview.exec();
   pages_.Clear();
 }

@@ -1,7 +1,12 @@
 #pragma once
 
+#include <QLocale>
+#include <QPageSize>
+#include <functional>
+
 #include "common/services.h"
 #include "windows/pagecomposer.h"
+#include "windows/pageframe.h"
 
 class QPrinter;
 
@@ -17,14 +22,20 @@ class ReportPrinter : public Printer {
   bool BeginPrint(const QString& title) override;
   void EndPrint() override;
 
+  // The line on top of each page, "" for none.
+  std::function<QString()> company;
+
  private:
+  PageFrame Frame() const;
+
   PageComposer pages_;
   QString title_;
+  QPageSize::PageSizeId paper_ = PaperOf(QLocale::system());  // as it was last chosen
 };
 
 // All sheets on one device, as one document.
-void PaintDocument(const PageComposer& pages, QPrinter& printer);
+void PaintDocument(const PageComposer& pages, QPrinter& printer, const PageFrame& frame = {});
 // Each sheet a job of its own.
-void PaintJobs(const PageComposer& pages, QPrinter& printer);
+void PaintJobs(const PageComposer& pages, QPrinter& printer, const PageFrame& frame = {});
 
 }  // namespace tamo

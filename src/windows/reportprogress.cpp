@@ -6,8 +6,7 @@
 namespace tamo {
 namespace {
 
-constexpr int kPatience = 50;  // milliseconds before the bar comes up
-constexpr int kFrame = 5;      // between two looks at what waits: thrice in a frame of the screen
+constexpr int kFrame = 5;  // between two looks at what waits: thrice in a frame of the screen
 
 }  // namespace
 
@@ -19,7 +18,7 @@ bool ReportProgress::Tell(int done, int all) {
   const qint64 now = clock_.elapsed();
   if (now - shown_ < kFrame) return true;
   shown_ = now;
-  if (now < kPatience) {
+  if (now < patience_) {
     // What the user does waits for the bar, which can tell it from a key meant for it.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     return true;
@@ -45,8 +44,8 @@ void ReportProgress::End(bool whole) {
 }
 
 void ReportProgress::Begin(int all) {
-  dialog_ = new QProgressDialog(QStringLiteral("The report is being made. Escape stops it."),
-                                QStringLiteral("Stop"), 0, all, QApplication::activeWindow());
+  dialog_ = new QProgressDialog(text_ + QStringLiteral(" Escape stops it."), QStringLiteral("Stop"),
+                                0, all, QApplication::activeWindow());
   dialog_->setWindowModality(Qt::ApplicationModal);
   dialog_->setAutoReset(false);
   dialog_->setMinimumDuration(0);

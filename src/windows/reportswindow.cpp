@@ -39,6 +39,19 @@ QWidget* Figures(Builder& b) {
   return panel;
 }
 
+// Which state of the bid the report shows; empty for the one that stands.
+QLayout* VersionStrip(Builder& b) {
+  QHBoxLayout* strip = NewRow();
+  QLabel* which = b.Text("VersionLabel");
+  QFont heavy = which->font();
+  heavy.setBold(true);
+  which->setFont(heavy);
+  strip->addWidget(which, 1);
+  strip->addWidget(b.PushButton("KeepPrinted"), 0, Qt::AlignRight);
+  strip->addWidget(b.PushButton("BackToNow"), 0, Qt::AlignRight);
+  return strip;
+}
+
 void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
   const auto grow = [lists](double points) {
     for (RowsView* list : lists) {
@@ -60,6 +73,7 @@ void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
 void LayOutReports(Builder& b) {
   FormWindow& window = b.Window();
   QVBoxLayout& body = window.Body();
+  body.addLayout(VersionStrip(b));
   auto* row = new QHBoxLayout;
   row->setSpacing(kGrid);
   RowsView* reporter = b.List("Reporter", QStringLiteral("Report"), 96, 30);

@@ -15,6 +15,7 @@ QLineEdit[role="figure"] { min-height: 40px; max-height: 40px; }
 QLineEdit:read-only { background: @window; border-color: @faint; }
 QLineEdit:focus { border: 2px solid @accent; padding: 2px 5px; background: @ground; }
 QPlainTextEdit { padding: 4px; }
+QPlainTextEdit:read-only { background: @window; border-color: @faint; }
 QPlainTextEdit:focus { border: 2px solid @accent; padding: 3px; background: @ground; }
 QListView { padding: 1px; }
 QListView:focus { border: 2px solid @accent; padding: 0px; }
@@ -37,6 +38,10 @@ QCheckBox, QRadioButton { padding: 3px; border: 2px solid transparent; border-ra
 QCheckBox:focus, QRadioButton:focus { border-color: @accent; background: @ground; }
 QLabel[role="prompt"], QLabel[role="quiet"] { color: @quiet; }
 QLabel[role="title"] { color: @text; }
+QLabel[role="tag"] {
+  background: @notice; color: @text; border: 1px solid @noticeLine; border-radius: 3px;
+  padding: 2px 6px;
+}
 QFrame[role="rule"] { background: @faint; border: none; max-height: 1px; min-height: 1px; }
 QFrame[role="panel"] { background: @base; border: 1px solid @line; border-radius: 4px; }
 QFrame[role="foot"] { background: @window; border: none; border-top: 1px solid @faint; }

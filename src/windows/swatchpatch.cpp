@@ -8,6 +8,13 @@
 
 namespace tamo {
 
+namespace {
+
+constexpr int kPatch = 3 * kGrid - 2;  // the height of a patch
+constexpr int kRing = 4;               // room around it for the frame of the focus
+
+}  // namespace
+
 QColor ColourOf(const QString& code) {
   if (code.size() != 9) return {};
   int parts[3] = {};
@@ -47,7 +54,7 @@ void SwatchPatch::SetCaption(const QString& caption) {
 
 QSize SwatchPatch::sizeHint() const {
   if (kind_ == Kind::Line) return {10 * kGrid, kFieldHeight};
-  return {8 * kGrid, 3 * kGrid + 2 + QFontMetrics(font()).height()};
+  return {8 * kGrid, kPatch + 2 * kRing + 2 + QFontMetrics(font()).height()};
 }
 
 void SwatchPatch::paintEvent(QPaintEvent*) {
@@ -67,13 +74,18 @@ void SwatchPatch::paintEvent(QPaintEvent*) {
                      QPointF(width() - 2 * kGrid, height() / 2.0));
     return;
   }
-  const QRectF patch(0.5, 0.5, width() - 1, 3 * kGrid - 1);
-  painter.setPen(QPen(hasFocus() || underMouse() ? look.accent : look.line, hasFocus() ? 2 : 1));
+  if (hasFocus()) {
+    painter.setPen(QPen(look.accent, 2));
+    painter.setBrush(look.accentGround);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 3, 3);
+  }
+  const QRectF patch(kRing + 0.5, kRing + 0.5, width() - 2 * kRing - 1, kPatch - 1);
+  painter.setPen(QPen(underMouse() ? look.accent : look.line, 1));
   painter.setBrush(colour.isValid() ? colour : look.window);
   painter.drawRoundedRect(patch, 3, 3);
   painter.setPen(look.text);
-  painter.drawText(QRect(0, 3 * kGrid + 1, width(), height() - 3 * kGrid - 1), Qt::AlignCenter,
-                   caption_);
+  const int below = kPatch + kRing + 1;
+  painter.drawText(QRect(0, below, width(), height() - below - kRing), Qt::AlignCenter, caption_);
 }
 
 }  // namespace tamo

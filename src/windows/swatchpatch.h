@@ -15,6 +15,7 @@ class SwatchPatch : public QWidget {
   enum class Kind { Patch, Line };
   explicit SwatchPatch(Kind kind, QWidget* parent = nullptr);
 
+  Kind GetKind() const { return kind_; }
   void SetColour(const QString& code);  // "" paints the ground
   void SetLineWidth(int pixels);
   void SetCaption(const QString& caption);

@@ -50,10 +50,13 @@ QWidget* ProjectPanel(Builder& b) {
     fields.Add(FixedCaption(QLatin1String(caption)), b.Field(name));
   QLabel* notesCaption = FixedCaption(QStringLiteral("Notes:"));
   QPlainTextEdit* notes = b.LongField("Notes", QStringLiteral("Notes"));
-  notes->setMinimumHeight(12 * kGrid);
+  notes->setMinimumHeight(7 * kGrid);
   fields.Add(notesCaption, notes,
              FixedPrompt(QStringLiteral("Enter goes on to the next field; in the notes Ctrl+Enter "
                                         "begins a new line.")));
+  QLabel* missing = b.Text("NumberMissing");
+  missing->setWordWrap(true);
+  column->addWidget(missing);
   auto* foot = new QHBoxLayout;
   foot->addStretch(1);
   foot->addWidget(b.PushButton("Command1"));

@@ -6,6 +6,8 @@
 
 #include "program/program.h"
 #include "reports/reportsform.h"
+#include "schedule/scheduleform.h"
+#include "windows/accessible.h"
 #include "windows/builder.h"
 #include "windows/formlayouts.h"
 #include "windows/helptopics.h"
@@ -22,7 +24,8 @@ struct WindowKeeper::Parts {
   WindowPlaces places;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows{};
   std::unique_ptr<Display> display = std::make_unique<Display>(program.GetDesk());
-  ReportProgress progress{};
+  ReportProgress progress{QStringLiteral("The report is being made."), 50};
+  ReportProgress schedule{QStringLiteral("The schedule is being worked on."), 500};
   WindowActivation activation{program.GetDesk()};
 
   FormWindow* Existing(const Form* form) {
@@ -34,6 +37,7 @@ struct WindowKeeper::Parts {
 WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QString& placesFile)
     : parts_(
           new Parts{.program = program, .pictures = pictures, .places = WindowPlaces(placesFile)}) {
+  InstallAccessibility();
   Display& display = *parts_->display;
   display.windowOf = [this](Form& form) -> QWidget* { return parts_->Existing(&form); };
   display.syncWindows = [this] { SyncWindows(); };
@@ -43,6 +47,10 @@ WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QStri
     if (auto* reports = dynamic_cast<ReportsForm*>(form)) {
       reports->onProgress = [this](int done, int all) { return parts_->progress.Tell(done, all); };
       reports->onMade = [this](bool whole) { parts_->progress.End(whole); };
+    }
+    if (auto* schedule = dynamic_cast<ScheduleForm*>(form)) {
+      schedule->onProgress = [this](int done, int all) { return parts_->schedule.Tell(done, all); };
+      schedule->onDone = [this](bool whole) { parts_->schedule.End(whole); };
     }
   }
   program.GetFiles().onPendingChanged = [this] { parts_->display->MarkDirty(); };
@@ -58,6 +66,10 @@ WindowKeeper::~WindowKeeper() {
     if (auto* reports = dynamic_cast<ReportsForm*>(form)) {
       reports->onProgress = nullptr;
       reports->onMade = nullptr;
+    }
+    if (auto* schedule = dynamic_cast<ScheduleForm*>(form)) {
+      schedule->onProgress = nullptr;
+      schedule->onDone = nullptr;
     }
   }
   parts_->program.GetFiles().onPendingChanged = nullptr;
@@ -86,6 +98,21 @@ FormWindow& WindowKeeper::WindowOf(const Form& form) {
   return *window;
 }
 
+namespace {
+
+// The entry of the shell that carries the menus.
+void ChooseWhatChanged(Program& program) {
+  for (const char* shell : {"Tamo", "OST"}) {
+    Form* form = program.FindForm(QLatin1String(shell));
+    MenuEntry* entry = form == nullptr ? nullptr : form->FindMenu(QStringLiteral("WhatChanged"));
+    if (entry == nullptr || !entry->Choosable()) continue;
+    program.GetDesk().ChooseMenu(*entry);
+    return;
+  }
+}
+
+}  // namespace
+
 std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
   auto window = std::make_unique<FormWindow>(form, *parts_->display);
   if (!form.Controls().empty()) {
@@ -95,6 +122,8 @@ std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
   window->Notice().onClick = [this] { parts_->program.TrySavesAgain(); };
   auto* help = new QShortcut(QKeySequence(Qt::Key_F1), window.get());
   connect(help, &QShortcut::activated, this, [this, &form] { ShowHelp(parts_->program, form); });
+  auto* changed = new QShortcut(QKeySequence(Qt::Key_F8), window.get());
+  connect(changed, &QShortcut::activated, this, [this] { ChooseWhatChanged(parts_->program); });
   return window;
 }
 
@@ -125,6 +154,7 @@ void ShowFacts(FormWindow& window, const SharedFields& shared, const QString& no
   const Form& form = window.GetForm();
   if (window.windowTitle() != form.Caption()) window.setWindowTitle(form.Caption());
   window.Menus().Apply();
+  window.KeepMenusInSight();
   window.SetNotice(notice);
   if (IsShell(form)) {
     window.SetStatus(shared.JobID.isEmpty() ? QStringLiteral("No project is open")
@@ -152,8 +182,18 @@ void WindowKeeper::SyncWindows() {
     if (ShowWindow(window) && form != desk.Active()) shownBehind = true;
   }
   HideWindows(false);
-  if (const Form* front = parts_->activation.ToRaise(shownBehind))
+  if (const Form* front = parts_->activation.ToRaise(shownBehind)) {
     parts_->activation.Raise(WindowOf(*front), shownBehind);
+    RaiseOwned(*front);
+  }
+}
+
+// Not every window system lifts what stands above a window together with it.
+void WindowKeeper::RaiseOwned(const Form& owner) {
+  const std::vector<Form*>& order = parts_->program.GetDesk().FrontToBack();
+  for (auto form = order.rbegin(); form != order.rend(); ++form) {
+    if ((*form)->OwnerForm() == &owner && *form != &owner) WindowOf(**form).raise();
+  }
 }
 
 // False when it was on the screen already.
@@ -162,6 +202,7 @@ bool WindowKeeper::ShowWindow(FormWindow& window) {
   const Form& form = window.GetForm();
   // An owner that was never shown has no window to stand over.
   SetOwner(window, parts_->Existing(form.OwnerForm()));
+  parts_->places.Place(form.Name(), window);
   window.setAttribute(Qt::WA_ShowWithoutActivating, &form != parts_->program.GetDesk().Active());
   window.show();
   return true;

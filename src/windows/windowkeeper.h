@@ -45,6 +45,7 @@ class WindowKeeper : public QObject {
   void SyncWindows();
   bool ShowWindow(FormWindow& window);
   void HideWindows(bool all);
+  void RaiseOwned(const Form& owner);
   void ShowPopups();
   bool eventFilter(QObject* object, QEvent* event) override;
 

@@ -25,7 +25,7 @@ QString ToldOf(const ProjectCopy& copy, const QString& source, const QString& ta
   if (!copy.done)
     return QStringLiteral("%1 was not copied into %2: the folder of one of them can't be found.")
         .arg(source, target);
-  const QString done = QStringLiteral("%1 has been copied into %2.").arg(source, target);
+  QString done = QStringLiteral("%1 has been copied into %2.").arg(source, target);
   if (copy.waiting.isEmpty()) return done;
   return done +
          QStringLiteral(
@@ -75,6 +75,7 @@ void ProjectCopies::DeleteProject() {
         QStringLiteral("The folder %1 can't be reached. Nothing was deleted.").arg(folder));
     return;
   }
+  near_.followers.KeepDeleted(id, name);
   const QStringList left = DeleteProjectFiles(kit_.files, kit_.shared, id);
   // What is left of it can be opened, and deleted once more.
   const bool stays = HoldsProjectFiles(kit_.files, kit_.shared, id);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 namespace tamo {
 
 // What the project panel asks of the working forms when a project comes or goes.
@@ -13,6 +15,8 @@ class ProjectFollowers {
   // The open project can only be read: the forms that would change it are put away, and the plan's
   // notes can't be typed into; or it can be written again.
   virtual void ShowReadOnly(bool readOnly) = 0;
+  // The project is about to be deleted: it can be brought back for thirty days.
+  virtual void KeepDeleted(const QString& id, const QString& name) = 0;
   virtual void ForgetProject() = 0;  // no project's adjustment is shown or counted in another
 };
 

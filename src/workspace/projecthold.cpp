@@ -5,6 +5,7 @@
 #include "common/failure.h"
 #include "common/paths.h"
 #include "records/datafolder.h"
+#include "records/projectfolders.h"
 #include "workspace/holdwords.h"
 
 namespace tamo {
@@ -16,7 +17,11 @@ constexpr int kMostTries = 3;
 }  // namespace
 
 ProjectHold::ProjectHold(const Kit& kit) : kit_(kit), me_(BeginRun()) {
-  kit_.files.mayWrite = [this](const QString& path) { return MayWrite(path); };
+  kit_.files.mayWrite = [this](const QString& path) {
+    if (!MayWrite(path)) return false;
+    if (state_ != State::None) MakeFolderOfProjectAgain(kit_.files, path);
+    return true;
+  };
 }
 
 ProjectHold::~ProjectHold() {

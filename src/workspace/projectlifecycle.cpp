@@ -24,12 +24,23 @@ void ProjectLifeCycle::NewProject() {
   if (!TakeNewId()) return;
   parts_.hold.Leave();
   kit_.shared.OPN = QStringLiteral("1");
-  if (parts_.estimator.Text().size() != 2) near_.windows.AskForEstimatorNumber();
+  ShowWhetherNumbered(kit_.shared.JobID);
+  if (parts_.panel.NumberMissing.Shown()) near_.windows.AskForEstimatorNumber();
   parts_.record.Clear();
   near_.followers.ForgetProject();
   parts_.record.NameNoPlan();
   near_.followers.ClearReports();
   TogglePanelForName();
+}
+
+// An id without the estimator's number in front is not what anybody wants.
+void ProjectLifeCycle::ShowWhetherNumbered(const QString& newId) {
+  Label& missing = parts_.panel.NumberMissing;
+  missing.SetCaption(
+      QStringLiteral("The estimator number is missing: this project would be %1. Type it in "
+                     "Settings, at Estimator Number, then choose Create Project twice.")
+          .arg(newId));
+  missing.SetShown(!newId.isEmpty() && parts_.estimator.Text().size() != 2);
 }
 
 void ProjectLifeCycle::TogglePanelForName() {
@@ -55,6 +66,7 @@ void ProjectLifeCycle::OpenSelected() {
   panel.JobsList.Hide();
   const QString id = parts_.picker.SelectedId();
   if (id.isEmpty()) return;
+  ShowWhetherNumbered({});
   const ProjectFolder project = DataFolder(kit_.shared).Project(id);
   kit_.files.ExpectFolder(project.Path());
   kit_.files.Expect(project.Record());
@@ -106,6 +118,7 @@ void ProjectLifeCycle::ReadAgain() {
 }
 
 void ProjectLifeCycle::ClearProject() {
+  ShowWhetherNumbered({});
   parts_.hold.Leave();
   kit_.shared.JobID.clear();
   parts_.record.Clear();
@@ -123,6 +136,7 @@ void ProjectLifeCycle::ExitProjectInformation() {
   const bool isNew = kit_.shared.OPN == QLatin1String("1");
   if (!name.Empty() && isNew) parts_.ids.SaveProjectNumber();
   parts_.panel.JobNFOFrame.Hide();
+  ShowWhetherNumbered({});
   near_.plan.SetProjectName(name.Text());
   near_.followers.RefreshPricingList();
   near_.windows.BringUpShell();

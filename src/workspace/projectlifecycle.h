@@ -42,6 +42,7 @@ class ProjectLifeCycle {
 
  private:
   void ReadOpenProject();
+  void ShowWhetherNumbered(const QString& newId);  // "": no project is being made
   bool TakeNewId();
   void TogglePanelForName();
 

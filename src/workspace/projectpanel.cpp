@@ -10,6 +10,8 @@ namespace tamo {
 ProjectPanel::ProjectPanel(Form& owner) : form(owner) {
   Notes.multiLine = true;
   for (TextField* field : Fields()) field->PutInto(JobNFOFrame);
+  NumberMissing.PutInto(JobNFOFrame);
+  NumberMissing.Hide();
   Command1.PutInto(JobNFOFrame);
   JobNFOFrame.Hide();
   JobsList.Hide();

@@ -22,6 +22,7 @@ struct ProjectPanel {
   TextField Exclusions{form, "Exclusions"};
   TextField Architect{form, "Architect"};
   TextField Notes{form, "Notes"};
+  Label NumberMissing{form, "NumberMissing"};  // of the estimator, while a project is made
   Button Command1{form, "Command1", "Exit Project Information"};
   OrderedList JobsList{form, "JobsList"};
 

@@ -16,7 +16,6 @@ namespace tamo {
 SettingsForm::SettingsForm(const Kit& kit, FrontWindows& windows)
     : Form(kit.desk, QStringLiteral("Settings")), kit_(kit), windows_(windows) {
   AddText(QStringLiteral("LineColor"), &lineColor_);
-  MakeSwatches();
   BindChain();
   BindDataPath();
   BindChoices();
@@ -67,7 +66,8 @@ void SettingsForm::BindChoices() {
   };
 }
 
-void SettingsForm::MakeSwatches() {
+std::vector<std::unique_ptr<Swatch>> SettingsForm::MakeSwatches() {
+  std::vector<std::unique_ptr<Swatch>> made;
   for (const SwatchRow& row : kSwatches) {
     auto swatch =
         std::make_unique<Swatch>(*this, QLatin1String(row.name), QLatin1String(row.caption));
@@ -76,8 +76,9 @@ void SettingsForm::MakeSwatches() {
     if (!stored.isEmpty()) {
       swatch->onClick = [this, stored] { PaintSampleLine(stored); };
     }
-    swatches.push_back(std::move(swatch));
+    made.push_back(std::move(swatch));
   }
+  return made;
 }
 
 void SettingsForm::PaintSampleLine(const QString& code) {
@@ -144,10 +145,11 @@ void SettingsForm::SaveSettings() {
   stored_ = Fields();
 }
 
+// A number that was only filled in is no entry.
 SettingsForm::Values SettingsForm::Fields() const {
-  Values values;
-  for (const TextField* field :
-       {&EstimatorNumber, &EstimatorName, &CompanyName, &Telephone, &DataPath})
+  const QString number = EstimatorNumber.Text();
+  Values values{{EstimatorNumber.Name(), number.isEmpty() ? QStringLiteral("00") : number}};
+  for (const TextField* field : {&EstimatorName, &CompanyName, &Telephone, &DataPath})
     values += {field->Name(), field->Text()};
   values += {QStringLiteral("LineColor"), lineColor_};
   values += {HScroll1.Name(), QString::number(Line1.Width())};

@@ -45,22 +45,23 @@ class SettingsForm : public Form {
   TextField CompanyName{*this, "CompanyName"};
   TextField Telephone{*this, "Telephone"};
   TextField DataPath{*this, "DataPath"};
+  // In the order of the eye: so the keys walk.
+  std::vector<std::unique_ptr<Swatch>> swatches = MakeSwatches();
   Swatch Line1{*this, "Line1"};  // the sample line
   ScrollBar HScroll1{*this, "HScroll1", 2, 6, 3};
   Option Option1{*this, "Option1", "On Site Takeoff", 1};
   Option Option2{*this, "Option2", "Online Plans", 1};
-  CheckBox AutoCheck{*this, "AutoCheck", "AutoUpdate Reports"};
   Option Option3{*this, "Option3", "U.S. Scale", 2};
   Option Option4{*this, "Option4", "Metric Scale", 2};
+  CheckBox AutoCheck{*this, "AutoCheck", "AutoUpdate Reports"};
   Label PlanGuard{*this, "PlanGuard"};  // what the system lacks to shut in the reader of plans
   Button Command1{*this, "Command1", "Exit Settings"};
-  std::vector<std::unique_ptr<Swatch>> swatches;
 
  private:
   void BindChain();
   void BindDataPath();
   void BindChoices();
-  void MakeSwatches();
+  std::vector<std::unique_ptr<Swatch>> MakeSwatches();
   SettingsRecord RecordOfFields() const;
   void TakeRecord(const SettingsRecord& record);
   void NormaliseEstimatorNumber();

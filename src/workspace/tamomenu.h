@@ -19,6 +19,9 @@ struct TamoMenu {
   MenuEntry CopyProject{form, "CopyProject", "&Copy Project", &Project};
   MenuEntry PasteProject{form, "PasteProject", "P&aste Project", &Project};
   MenuEntry DeleteProject{form, "DeleteProject", "&Delete Project", &Project};
+  MenuEntry KeepVersion{form, "KeepVersion", "&Keep This Version", &Project};
+  MenuEntry Versions{form, "Versions", "&Versions", &Project};
+  MenuEntry DeletedProjects{form, "DeletedProjects", "&Bring Back a Deleted Project", &Project};
   MenuEntry Pricing2{form, "Pricing2", "Pricing"};
   MenuEntry UnitsPricing{form, "UnitsPricing", "&Unit Pricing", &Pricing2};
   MenuEntry Markups{form, "Markups", "&Markups", &Pricing2};
@@ -45,6 +48,9 @@ struct TamoMenu {
   MenuEntry oCopy{form, "oCopy", "&Office Copy", &ProjectManager};
   MenuEntry fCopy{form, "fCopy", "&Field Copy", &ProjectManager};
   MenuEntry Proposal{form, "Proposal", "Propo&sal", &Reports1};
+  MenuEntry ScheduleCheck{form, "ScheduleCheck", "Schedule &Check", &Reports1};
+  MenuEntry WhatChanged{form, "WhatChanged", "&What Changed Since the Bid Was Sent (F8)",
+                        &Reports1};
   MenuEntry Drawings{form, "Drawings", "&Drawings"};
   MenuEntry LoadDRawings{form, "LoadDRawings", "&Load Drawings", &Drawings};
   MenuEntry ViewDrawings{form, "ViewDrawings", "&View Drawings", &Drawings};

@@ -44,11 +44,16 @@ TEST_F(ReplacementTest, ASavedFileKeepsItsRights) {
   for (const mode_t mode : {0600U, 0640U, 0664U, 0755U}) {
     Put("a");
     ASSERT_EQ(::chmod(Native("a").c_str(), mode), 0);
-    ASSERT_EQ(Files(disk).SaveText(Path("a"), "new"), 0);
+    Files fresh(disk);
+    ASSERT_EQ(fresh.SaveText(Path("a"), "new"), 0);
     struct stat info {};
     ASSERT_EQ(::stat(Native("a").c_str(), &info), 0);
     EXPECT_EQ(info.st_mode & 07777, mode);
     EXPECT_EQ(Content("a"), "new");
+    ASSERT_EQ(fresh.SaveText(Path("a"), "newer"), 0);
+    ASSERT_EQ(::stat(Native("a").c_str(), &info), 0);
+    EXPECT_EQ(info.st_mode & 07777, mode);
+    EXPECT_EQ(Content("a"), "newer");
   }
 }
 

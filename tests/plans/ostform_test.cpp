@@ -72,11 +72,12 @@ TEST_F(OstForm, TheShellsMenusHaveTheirEntries) {
   };
   EXPECT_EQ(children("ProjectS"),
             "OpenProject ClearProject NewProject ProjectInformation CopyProject PasteProject "
-            "DeleteProject");
+            "DeleteProject KeepVersion Versions DeletedProjects");
   EXPECT_EQ(children("Estimate"), "RFS NRFS BottomLine1 PriceAdjustment");
   EXPECT_EQ(children("RFS"), "EnterRFS TakeoffRFS");
   EXPECT_EQ(children("Reports1"),
-            "ProjectNFO Quantities Recaps BreakDown BillofMaterial ProjectManager ProjectSupport");
+            "ProjectNFO Quantities Recaps BreakDown BillofMaterial ProjectManager ProjectSupport "
+            "ScheduleCheck WhatChanged");
   EXPECT_EQ(children("Recaps"), "Recap DetailedRecap");
   EXPECT_EQ(children("ProjectManager"), "oCopy fCopy");
   EXPECT_EQ(children("ProjectSupport"), "PMOFile PMFFile");

@@ -141,6 +141,8 @@ bool Looker::LookAtState(const QString& word, const QString& rest, QString& text
     text = RowState(word, rest);
   } else if (is("selection")) {
     text = ControlOfKind<TextField>(Program(), rest, "field").SelectedText();
+  } else if (is("beside")) {
+    text = ControlOfKind<TextField>(Program(), rest, "field").Beside();
   } else if (is("hover")) {
     text = ControlNamed(Program(), rest).Hover();
   } else if (is("colour")) {

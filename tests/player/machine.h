@@ -31,10 +31,11 @@ class Machine {
   static bool Copy(const QString& from, const QString& to);  // a file, or a folder with all in it
   static bool Remove(const QString& path);
   // Everything below a folder, paths relative to it, folders with a slash at the end, sorted. The
-  // sign that a program has a project open is left out.
+  // sign that a program has a project open is left out, and the history of a data folder.
   static QStringList Everything(const QString& folder);
 
   test::FaultDisk disk;
+  RealDisk historyDisk;
   test::FixedClock clock;
   test::ScriptedMessages messages;
   test::RecordingPrinter printer;

@@ -81,6 +81,17 @@ TEST_F(RecoveryTest, NothingIsKeptWhereNothingWaits) {
   EXPECT_TRUE(Kept().isEmpty());
 }
 
+TEST_F(RecoveryTest, ANumberThatWasOnlyFilledInDoesNotWait) {
+  Crash();
+  disk.RemoveFile(Path("program/Settings.tamo"));
+  Begin();
+  Run("Tamo", "Settings1");
+  program->GetDesk().UserFocus(Field("Settings", "EstimatorNumber"));
+  program->GetDesk().UserFocus(Field("Settings", "EstimatorName"));
+  EXPECT_EQ(Field("Settings", "EstimatorNumber").Text(), "00");
+  EXPECT_TRUE(Kept().isEmpty());
+}
+
 TEST_F(RecoveryTest, BottomLineItemsComeBackWhenTheirProjectIsOpened) {
   MakeProject();
   EnterItem();
@@ -197,6 +208,18 @@ TEST_F(RecoveryTest, ARequestToEndSavesAllThatWaits) {
   messages.answers = {true};
   Begin();
   EXPECT_EQ(Field("Settings", "EstimatorName").Text(), "Ann");
+}
+
+// The machine goes down: the project is nobody's, and no other program must wait for it.
+TEST_F(RecoveryTest, ARequestToEndGivesTheProjectBack) {
+  MakeProject();
+  const QString sign = program->Shared().DataPath + QStringLiteral("Projects/") +
+                       program->Shared().JobID + QStringLiteral("/InUse.lock");
+  EXPECT_TRUE(disk.Exists(sign));
+  program->SaveAll();
+  EXPECT_TRUE(disk.Exists(sign)) << "the user may think better of it";
+  Crash();
+  EXPECT_FALSE(disk.Exists(sign));
 }
 
 TEST_F(RecoveryTest, ALivingProgramsEntriesAreItsOwn) {

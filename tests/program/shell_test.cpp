@@ -29,6 +29,13 @@ class ShellTest : public ::testing::Test, public test::MachineRoom {
   Program program{platform, viewer};
 };
 
+TEST_F(ShellTest, APlanNamedAtTheStartIsShown) {
+  Put(Path("home/Depot.pdf"), "%PDF");
+  program.OpenPlan(Path("home/Depot.pdf"));
+  EXPECT_TRUE(Ost().Visible());
+  EXPECT_EQ(viewer.ShownPath(), Path("home/Depot.pdf"));
+}
+
 TEST_F(ShellTest, ExitOfTheMainFormInMode2DoesNotEndTheProgram) {
   Enter("Option2");
   Run(Main(), "Exit");
@@ -74,7 +81,8 @@ TEST_F(ShellTest, TheMenusStandInTheirOrder) {
     reports += entry->Caption();
   EXPECT_EQ(reports,
             QStringList({"Pr&oject Information", "&Quantities", "&Recap", "&BreakDown",
-                         "Bill of &Labor", "Bill of &Material", "&Project Manager", "Propo&sal"}));
+                         "Bill of &Labor", "Bill of &Material", "&Project Manager", "Propo&sal",
+                         "Schedule &Check", "&What Changed Since the Bid Was Sent (F8)"}));
   QStringList plan;
   for (const MenuEntry* entry : Ost().Menus()) {
     if (entry->Parent() == nullptr && !entry->Name().startsWith(QLatin1String("Spacer")))

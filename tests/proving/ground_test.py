@@ -50,6 +50,15 @@ class Versioned(unittest.TestCase):
         self.assertEqual(plain.wrong({"A": b"one"}, 1), [])
 
 
+    def test_two_files_that_change_names(self):
+        log = [step(1), *save("A", b"one"), step(4), operation("open", "N", "ct"), operation("write", "N", data=b"two"),
+               operation("exchange", "N", "A"), operation("unlink", "N"), step(7)]
+        swapped = Versions(log)
+        for content in (b"one", b"two"):
+            self.assertEqual(swapped.wrong({"A": content}, 4), [])
+        self.assertEqual(len(swapped.wrong({"A": b"one"}, 7)), 1)
+
+
 class WithoutPower(unittest.TestCase):
     def after(self, log, keeps=0.0):
         disk = power.Unsynced({})
@@ -63,6 +72,12 @@ class WithoutPower(unittest.TestCase):
 
     def test_a_name_goes_without_the_sync_of_its_folder(self):
         self.assertEqual(self.after(TWO_SAVES[:-2]), {"A": b"one"})
+
+    def test_names_that_changed_are_as_before_without_the_sync_of_their_folder(self):
+        swap = [*save("A", b"one"), operation("open", "N", "ct"), operation("write", "N", data=b"two"),
+                operation("fsync", "N"), operation("exchange", "N", "A")]
+        self.assertEqual(self.after(swap)["A"], b"one")
+        self.assertEqual(self.after([*swap, operation("fsync", ""), operation("unlink", "N")])["A"], b"two")
 
     def test_content_goes_without_its_sync(self):
         log = [each for each in save("A", b"one") if each.name != "fsync" or each.path == ""]

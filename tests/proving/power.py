@@ -33,6 +33,10 @@ class Unsynced:
             file = self.live.pop(path)
             self.live[other] = file
             self._name(other, lambda names: (names.__setitem__(other, file), names.pop(path, None)))
+        elif operation.name == "exchange" and path in self.live and other in self.live:
+            ours, theirs = self.live[path], self.live[other]
+            self.live[path], self.live[other] = theirs, ours
+            self._name(other, lambda names: names.update({other: ours, path: theirs}))
         elif operation.name == "unlink":
             self.live.pop(path, None)
             self._name(path, lambda names: names.pop(path, None))

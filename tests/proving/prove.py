@@ -10,6 +10,7 @@ import failures
 import kills
 import power
 import two
+import waiting
 from ground import Ground
 from restart import Restarts
 
@@ -43,7 +44,7 @@ class Report:
 
 def main():
     options = argparse.ArgumentParser()
-    options.add_argument("what", choices=("kills", "writing", "reading", "power", "away", "two"))
+    options.add_argument("what", choices=("kills", "writing", "reading", "power", "away", "two", "waiting"))
     for name in ("player", "shim", "data"):
         options.add_argument("--" + name, required=True)
     options.add_argument("--most", type=int, default=100)
@@ -65,6 +66,8 @@ def main():
             power.prove(ground, restarts, report, given.most, chance)
         elif given.what == "two":
             two.prove(ground, report, given.most, chance)
+        elif given.what == "waiting":
+            waiting.prove(ground, report, given.most, chance)
         elif given.what == "away":
             failures.prove(ground, report, given.most, chance, "rwl", (5, 30, 150), ("ENOENT",))
         else:

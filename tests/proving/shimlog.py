@@ -58,6 +58,9 @@ class Folder:
             if operation.name == "rename":
                 del self.files[path]
             return (path, other)
+        elif operation.name == "exchange" and path in self.files and other in self.files:
+            self.files[path], self.files[other] = self.files[other], self.files[path]
+            return (path, other)
         elif operation.name == "unlink":
             self.files.pop(path, None)
         elif operation.name == "mkdir":

@@ -29,7 +29,7 @@ class Versions:
                 self._begin(step, folder)
             changed = folder.apply(operation)
             # What is written in place is whole only when the step is over.
-            if operation.name in ("rename", "link", "unlink"):
+            if operation.name in ("rename", "exchange", "link", "unlink"):
                 self._allow(step, changed, folder)
         self._begin(step + 1, folder)
         self.end = step + 1

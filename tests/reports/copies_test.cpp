@@ -257,10 +257,11 @@ TEST(BreakDownReport, UnitPricedItemsThatItLeavesOutAreNotedWithTheirSum) {
   BenchProject project(DataPathOf(S("riverside/home/Tamo/Projects/07-2611004/")));
   QString adjustment;
   const Report report = BreakDown(MakeBreak(project.Source(), project.MarkupsOfFile(), adjustment));
-  ASSERT_EQ(report.notes.size(), 1u);
+  ASSERT_EQ(report.notes.size(), 2u);
   EXPECT_TRUE(report.notes[0].text.contains(S("Carpet Broadloom, Corner Guard 4ft, Fire Caulk")));
   EXPECT_TRUE(report.notes[0].text.contains(S("2375.00")));
   EXPECT_EQ(report.notes[0].rows, (std::vector<int>{2, 32}));
+  EXPECT_TRUE(report.notes[1].text.contains(S("Lift Rental")));
 }
 
 }  // namespace

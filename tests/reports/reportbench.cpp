@@ -81,7 +81,8 @@ FormBench::FormBench(BenchProject& bench)
                clipboard,      bench.dataPath + QStringLiteral("program"),
                bench.dataPath, bench.dataPath + QStringLiteral("config")},
       kit{desk, bench.files, shared, platform},
-      form(kit, {pricing, record, windows, settings, plan}) {
+      history(platform, bench.files, shared),
+      form(kit, {pricing, record, windows, settings, plan, history}) {
   QDir().mkpath(platform.programFolder);
   shared.Separator = PlatformSeparator();
   shared.zDir = platform.programFolder;

@@ -108,6 +108,7 @@ class FormBench {
   SharedFields shared;
   Platform platform;
   Kit kit;
+  History history;
   RecordDouble record;
   WindowsDouble windows;
   PricingDouble beside;

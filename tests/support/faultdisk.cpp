@@ -122,6 +122,20 @@ int FaultDisk::Rename(const QString& from, const QString& to) {
   return RealDisk::Rename(from, to);
 }
 
+int FaultDisk::RenameNew(const QString& from, const QString& to) {
+  if (Hidden(from)) return CannotRead(from);
+  if (const int error = CannotWrite(to)) return error;
+  if (const int error = Step()) return error;
+  return RealDisk::RenameNew(from, to);
+}
+
+int FaultDisk::Swap(const QString& one, const QString& other) {
+  if (Hidden(one)) return CannotRead(one);
+  if (const int error = CannotWrite(other)) return error;
+  if (const int error = Step()) return error;
+  return RealDisk::Swap(one, other);
+}
+
 int FaultDisk::SyncFolder(const QString& folder) {
   if (Hidden(folder)) return kPathNotFound;
   if (quick) return kNoError;

@@ -45,6 +45,8 @@ class FaultDisk : public RealDisk {
   int Sync(int handle) override;
   int Close(int handle) override;
   int Rename(const QString& from, const QString& to) override;
+  int RenameNew(const QString& from, const QString& to) override;
+  int Swap(const QString& one, const QString& other) override;
   int SyncFolder(const QString& folder) override;
   int MakeFolder(const QString& path) override;
   int RemoveFile(const QString& path) override;

@@ -1,50 +1,25 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QWheelEvent>
 
-#include "plans/pdfdraw.h"
-#include "program/program.h"
-#include "support/fakeplanengine.h"
-#include "support/room.h"
-#include "windows/application.h"
-#include "windows/formwindow.h"
+#include "windows/keeperroom.h"
 #include "windows/keys.h"
 #include "windows/look.h"
 #include "windows/plancanvas.h"
 #include "windows/rowsview.h"
-#include "windows/windowprobe.h"
 
 // The windows of the whole program.
 
 namespace tamo {
 namespace {
 
-const char* const kForms[] = {"Tamo",       "Settings",       "Pricing", "RFSForm", "EstimateForm",
-                              "BottomLine", "AdjustmentForm", "OST",     "Reports", "Docs"};
+const char* const kForms[] = {"Tamo",         "Settings",   "Pricing",        "RFSForm",
+                              "EstimateForm", "BottomLine", "AdjustmentForm", "OST",
+                              "Reports",      "Docs",       "Versions"};
 
-struct KeeperTest : test::WithApplication, testing::Test, test::MachineRoom {
-  KeeperTest() {
-    ApplyLook(Look::Light());
-    program.Start();
-    windows.SyncNow();
-  }
-  Form& FormOf(const char* name) { return *program.FindForm(QLatin1String(name)); }
-  FormWindow& Window(const char* name) {
-    return dynamic_cast<FormWindow&>(*windows.WindowOf(FormOf(name)));
-  }
-  void Menu(const char* form, const char* entry) {
-    desk.ChooseMenu(*FormOf(form).FindMenu(QLatin1String(entry)));
-    test::Settle();
-  }
-
-  Files planFiles{disk};
-  test::FakePlanEngine engine;
-  PdfDraw viewer{planFiles, engine};
-  Program program{platform, viewer};
-  Desk& desk = program.GetDesk();
-  test::WindowProbe windows{program, nullptr, Path("windows.ini")};
-};
+struct KeeperTest : testing::Test, test::KeeperRoom {};
 
 TEST_F(KeeperTest, EveryControlThatALayoutNamesIsThere) {
   for (const char* name : kForms) {
@@ -147,6 +122,15 @@ TEST_F(KeeperTest, F1ShowsTheTopicOfTheFormInFront) {
   EXPECT_TRUE(FormOf("Docs").Visible());
   const auto& topics = dynamic_cast<OrderedList&>(*FormOf("Docs").Find(QStringLiteral("MenuList")));
   EXPECT_EQ(topics.Selected(), QStringLiteral("Settings"));
+}
+
+TEST_F(KeeperTest, F8ComparesTheBidFromEveryWindow) {
+  Menu("Tamo", "Settings1");
+  program.Shared().JobID = QStringLiteral("12-2611001");
+  test::Press(Window("Settings"), Qt::Key_F8);
+  test::Settle();
+  ASSERT_FALSE(messages.texts.isEmpty());
+  EXPECT_TRUE(messages.texts.back().startsWith(QStringLiteral("No version of this bid was kept")));
 }
 
 TEST_F(KeeperTest, ThePlaceOfAWindowIsRemembered) {

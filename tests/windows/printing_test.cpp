@@ -2,11 +2,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QLocale>
+#include <QPainter>
 #include <QPrinter>
 #include <QTemporaryDir>
 
 #include "windows/application.h"
 #include "windows/pagecomposer.h"
+#include "windows/pageframe.h"
 #include "windows/qtservices.h"
 #include "windows/reportprinter.h"
 
@@ -79,6 +83,37 @@ TEST_F(PrintingTest, AnEmptyPrintHasNoPages) {
   PageComposer pages;
   pages.EndPage();
   EXPECT_TRUE(pages.Empty());
+}
+
+TEST_F(PrintingTest, ThePaperIsThatOfTheCountry) {
+  EXPECT_EQ(PaperOf(QLocale(QStringLiteral("en_US"))), QPageSize::Letter);
+  EXPECT_EQ(PaperOf(QLocale(QStringLiteral("en_CA"))), QPageSize::Letter);
+  EXPECT_EQ(PaperOf(QLocale(QStringLiteral("de_DE"))), QPageSize::A4);
+}
+
+TEST_F(PrintingTest, CompanyProjectDateAndPageStandAroundThePage) {
+  PageFrame frame{QString(), QStringLiteral("Recap - Clinic"), QStringLiteral("11/22/26")};
+  const auto inked = [&](const QRect& part) {
+    QImage page(600, 800, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    frame.Paint(painter, QSizeF(600, 800), 2, 3, 72);
+    painter.end();
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+      for (int x = part.left(); x <= part.right(); ++x) {
+        if (qGray(page.pixel(x, y)) < 128) return true;
+      }
+    }
+    return false;
+  };
+  EXPECT_TRUE(inked({0, 780, 100, 20}));
+  EXPECT_TRUE(inked({250, 780, 100, 20}));
+  EXPECT_TRUE(inked({540, 780, 60, 20}));
+  EXPECT_FALSE(inked({0, 0, 600, 770}));
+  EXPECT_EQ(frame.Top(), 0);
+  frame.company = QStringLiteral("Vale Drywall");
+  EXPECT_TRUE(inked({0, 0, 100, 20}));
+  EXPECT_GT(frame.Top(), 0);
 }
 
 TEST(ProgramFolder, IsTheExecutablesOwnOrTheOneThatBelongsToIt) {

@@ -26,7 +26,7 @@ struct ReportProgressTest : test::WithApplication, testing::Test {
     return nullptr;
   }
 
-  ReportProgress progress;
+  ReportProgress progress{QStringLiteral("The report is being made."), 50};
 };
 
 TEST_F(ReportProgressTest, AShortReportShowsNoBar) {
@@ -89,7 +89,8 @@ TEST_F(ReportProgressTest, EscapeStopsAReportAlsoWithinOneSheet) {
 }
 
 TEST_F(ReportProgressTest, AWindowThatGoesTakesItsBarAlong) {
-  auto progressOfWindow = std::make_unique<ReportProgress>();
+  auto progressOfWindow =
+      std::make_unique<ReportProgress>(QStringLiteral("The report is being made."), 50);
   {
     QWidget window;
     window.show();

@@ -51,8 +51,10 @@ struct FollowersDouble : ProjectFollowers {
   void RefreshPricingList() override { ++lists; }
   void PrintReport() override { ++reports; }
   void ClearReports() override { ++cleared; }
+  void KeepDeleted(const QString& id, const QString&) override { keptDeleted += id; }
   void ForgetProject() override { ++forgotten; }
   void ShowReadOnly(bool is) override { readOnly = is; }
+  QStringList keptDeleted;
   bool readOnly = false;
   int pricing = 0, lists = 0, reports = 0, cleared = 0, forgotten = 0;
 };

@@ -54,7 +54,9 @@ int renameat(int fromFolder, const char* from, int toFolder, const char* to) noe
 int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
               unsigned flags) noexcept {
   TAMO_NEXT(renameat2);
-  return Renamed(from, to, [&] { return next(fromFolder, from, toFolder, to, flags); });
+  const auto rename = [&] { return next(fromFolder, from, toFolder, to, flags); };
+  if ((flags & RENAME_EXCHANGE) != 0) return Named('w', "exchange", from, to, rename);
+  return Renamed(from, to, rename);
 }
 
 int link(const char* from, const char* to) noexcept {

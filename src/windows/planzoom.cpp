@@ -1,0 +1,55 @@
+#include <algorithm>
+#include <cmath>
+
+#include "windows/plancanvas.h"
+
+// Zooming of the plan: about the pointer, about the cross hair, to the window.
+
+namespace tamo {
+namespace {
+
+constexpr double kWheelZoom = 1.25;
+constexpr int kLeastZoom = 10;  // per cent, by the wheel
+constexpr int kMostZoom = 800;
+
+}  // namespace
+
+// What lies at `place` stays there, as far as the sheet reaches.
+void PlanCanvas::ZoomAbout(const QPointF& place, const std::function<void()>& zoom) {
+  FinishScroll();
+  const QPointF before = (place - Origin()) / Scale();
+  zoom();
+  const QPointF after = (place - Origin()) / Scale();
+  Pan(before - after);
+}
+
+void PlanCanvas::ZoomByWheel(const QPointF& place, double notches) {
+  const int now = viewer_.Zoom();
+  const int zoom = static_cast<int>(std::lround(now * std::pow(kWheelZoom, notches)));
+  const int bound = std::clamp(zoom, std::min(now, kLeastZoom), std::max(now, kMostZoom));
+  ZoomAbout(place, [&] { desk_.Dispatch([&] { viewer_.SetZoom(bound); }); });
+}
+
+// About the cross hair while it is in sight, else about the middle.
+void PlanCanvas::ZoomByKey(const std::function<void()>& zoom) {
+  if (!zoom) return;
+  const QPointF hair = Origin() + OnTurned(viewer_.CrossHair()) * Scale();
+  const bool seen = viewer_.Tool() != PlanTool::None && QRectF(viewport()->rect()).contains(hair);
+  ZoomAbout(seen ? hair : QRectF(viewport()->rect()).center(), zoom);
+}
+
+void PlanCanvas::FitTo(double pixelsPerPoint) {
+  const int zoom = static_cast<int>(pixelsPerPoint / PixelsPerPoint(100, 1) * 100);
+  ZoomAbout({0, 0}, [&] { desk_.Dispatch([&] { viewer_.SetZoom(zoom); }); });
+}
+
+void PlanCanvas::FitPage() {
+  const QSizeF page = TurnedPage();
+  FitTo(std::min(viewport()->width() / page.width(), viewport()->height() / page.height()));
+}
+
+void PlanCanvas::FitWidth() {
+  FitTo(viewport()->width() / TurnedPage().width());
+}
+
+}  // namespace tamo
