@@ -2,11 +2,8 @@
 
 #include <QByteArray>
 #include <QString>
-#include <atomic>
-#include <memory>
 #include <vector>
 
-#include "common/disk.h"
 #include "plans/mark.h"
 
 // What stands on a page, as data: the words with their places, the lines and areas of the drawing,
@@ -104,16 +101,6 @@ struct PageContent {
   std::vector<PathPiece> paths;
   std::vector<PicturePiece> pictures;
 };
-
-// Reads page `page` (from 1) of a PDF. `password` is UTF-8, empty when it has none. Once `cancel`
-// is set it comes back within a moment with what it has. Any thread; several may read at once.
-PageContent ReadPageContent(std::shared_ptr<FileReader> file, int page,
-                            const QByteArray& password = {},
-                            const std::atomic<bool>* cancel = nullptr);
-// The same by the path of the file.
-PageContent ReadPageContent(Disk& disk, const QString& path, int page,
-                            const QByteArray& password = {},
-                            const std::atomic<bool>* cancel = nullptr);
 
 struct PageLine {
   PagePoint from;
