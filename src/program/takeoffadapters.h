@@ -47,31 +47,4 @@ class TakeoffExitsOnForms : public TakeoffExits {
   OSTForm& ost_;
 };
 
-class TakeoffFieldsOnForms : public TakeoffFields {
- public:
-  TakeoffFieldsOnForms(RFSForm& rooms, EstimateForm& areas) : rooms_(rooms), areas_(areas) {}
-
-  bool FormVisible(Field field) const override { return At(field).Owner().Visible(); }
-  void SetText(Field field, const QString& text) override { At(field).SetText(text); }
-  void FocusOn(Field field) override { rooms_.GetDesk().FocusWithoutActivation(At(field)); }
-
- private:
-  TextField& At(Field field) const {
-    switch (field) {
-      case Field::ELength:
-        return areas_.eLength;
-      case Field::Hite:
-        return areas_.Hite;
-      case Field::Length:
-        return rooms_.Length;
-      case Field::How:
-        break;
-    }
-    return rooms_.How;
-  }
-
-  RFSForm& rooms_;
-  EstimateForm& areas_;
-};
-
 }  // namespace tamo

@@ -91,6 +91,16 @@ QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
   return bar;
 }
 
+// Over the sheet, where the eye is: which line the next length or count belongs to.
+QWidget* GoesTo(Builder& b) {
+  QLabel* goes = b.Text("GoesTo");
+  goes->setTextFormat(Qt::PlainText);
+  goes->setFont(SectionFont());
+  goes->setContentsMargins(2 * kGrid, kGrid / 4, kGrid, kGrid / 2);
+  goes->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  return goes;
+}
+
 QWidget* Browser(Builder& b) {
   QFrame* frame = b.Panel("Frame1");
   frame->setFixedWidth(38 * kGrid);
@@ -305,6 +315,7 @@ void LayOutOST(Builder& b) {
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(ToolBar(b, *canvas));
+  middle->addWidget(GoesTo(b));
   middle->addWidget(Colours(b));
   middle->addWidget(canvas, 1);
   row->addLayout(middle, 1);

@@ -255,7 +255,9 @@ bool KeyFromName(const QString& name, Key& key) {
                                                             {"Up", Key::Name::Up},
                                                             {"Down", Key::Name::Down},
                                                             {"Left", Key::Name::Left},
-                                                            {"Right", Key::Name::Right}};
+                                                            {"Right", Key::Name::Right},
+                                                            {"Ctrl+Z", Key::Name::TakeBack},
+                                                            {"Ctrl+Y", Key::Name::BringBack}};
   for (const auto& [text, value] : names) {
     if (name != QLatin1String(text)) continue;
     key = Key::Named(value);
