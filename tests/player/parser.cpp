@@ -57,6 +57,7 @@ constexpr Verb kVerbs[] = {
     {"doublepick", Act::DoublePick, Shape::ControlAndPath},
     {"close", Act::Close, Shape::Form},
     {"answer", Act::Answer, Shape::YesOrNo},
+    {"choose", Act::Choose, Shape::Path},
     {"plan", Act::PlanMode, Shape::Plan},
     {"write", Act::Write, Shape::PathAndBlock},
     {"copy", Act::Copy, Shape::Path},
