@@ -3,6 +3,7 @@
 #include "plans/ostform.h"
 #include "program/shell.h"
 #include "takeoff/estimateform.h"
+#include "takeoff/measuredarea.h"
 #include "takeoff/plantools.h"
 #include "takeoff/rfsform.h"
 #include "takeoff/takeoffexits.h"
@@ -53,6 +54,15 @@ class TakeoffFieldsOnForms : public TakeoffFields {
 
   bool FormVisible(Field field) const override { return At(field).Owner().Visible(); }
   void SetText(Field field, const QString& text) override { At(field).SetText(text); }
+  bool TakeArea(Field waiting, const QString& squareFeet, QString& words) override {
+    if (waiting == Field::ELength || waiting == Field::Hite)
+      return PutArea({areas_.Units, areas_.Hite, areas_.eLength}, squareFeet, words);
+    if (waiting == Field::How && rooms_.Entering()) {
+      words = QStringLiteral("The height of the room is asked for, and an area is none.");
+      return false;
+    }
+    return PutArea({rooms_.Units, rooms_.How, rooms_.Length}, squareFeet, words);
+  }
   void FocusOn(Field field) override { rooms_.GetDesk().FocusWithoutActivation(At(field)); }
 
  private:
