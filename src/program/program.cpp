@@ -12,6 +12,7 @@
 #include "program/readagain.h"
 #include "program/recovery.h"
 #include "program/reportadapters.h"
+#include "program/reportsaver.h"
 #include "program/takeoffadapters.h"
 #include "program/versionadapters.h"
 #include "program/waitingfields.h"
@@ -57,6 +58,7 @@ struct Program::Parts {
   WaitingFields takeoffFields{kit, ost, rooms, areas, entryMarks};
   ProjectRecordOnTamo projectRecord{main};
   BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
+  ReportSaver reportSaver{kit};
 
   Form11 form11{kit};
   SettingsForm settings{kit, shell};
@@ -67,7 +69,7 @@ struct Program::Parts {
   EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits, takingBack};
   BottomLine bottomLine{kit, reportFollows};
   AdjustmentForm adjustment{kit, reportFollows};
-  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history}};
+  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history, reportSaver}};
   VersionsForm versions{kit, history, reports, bidChanger};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
@@ -110,6 +112,7 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     return parts.desk.GetMessages().Ask(
         ChangedQuestion({path, mine, theirs}, parts.pricing.MarkupTexts()));
   };
+  parts.reportSaver.company = [this] { return CompanyName(); };
   parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
   parts.ost.onClose = [&parts] { return parts.shell.CloseOst(); };
 }
@@ -130,6 +133,12 @@ bool Program::Running() const {
 }
 void Program::ReadPictures(std::shared_ptr<const SheetPictures> pictures) {
   parts_->schedule.pictures = std::move(pictures);
+}
+void Program::ChooseFilesWith(FileChooser chooser) {
+  parts_->reportSaver.onChoose = std::move(chooser);
+}
+void Program::DrawChartsWith(std::function<void(const ChartData& chart)> draw) {
+  parts_->reportSaver.onChart = std::move(draw);
 }
 Desk& Program::GetDesk() {
   return parts_->desk;

@@ -3,6 +3,7 @@
 #include "plans/ostform.h"
 #include "program/shell.h"
 #include "takeoff/estimateform.h"
+#include "takeoff/measuredarea.h"
 #include "takeoff/plantools.h"
 #include "takeoff/rfsform.h"
 #include "takeoff/takeoffexits.h"

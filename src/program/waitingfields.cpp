@@ -1,5 +1,7 @@
 #include "program/waitingfields.h"
 
+#include "takeoff/measuredarea.h"
+
 namespace tamo {
 
 WaitingFields::Place WaitingFields::At(Field field) const {
@@ -27,6 +29,22 @@ void WaitingFields::SetText(Field field, const QString& text) {
   const bool named = place.form.Visible();
   place.measured.Into(place.field, text, named ? place.form.TargetOf(place.field) : QString());
   marks_.HandedOver(field, place.field.Text());
+}
+
+// What the line gets then waits in its length, as a measured length does.
+bool WaitingFields::TakeArea(Field waiting, const QString& squareFeet, QString& words) {
+  words.clear();
+  if (marks_.Moving()) return false;
+  const bool free = waiting == Field::ELength || waiting == Field::Hite;
+  if (waiting == Field::How && rooms_.Entering()) {
+    words = QStringLiteral("The height of the room is asked for, and an area is none.");
+    return false;
+  }
+  const bool taken = free ? PutArea({areas_.Units, areas_.Hite, areas_.eLength}, squareFeet, words)
+                          : PutArea({rooms_.Units, rooms_.How, rooms_.Length}, squareFeet, words);
+  const Field length = free ? Field::ELength : Field::Length;
+  if (taken) SetText(length, At(length).field.Text());
+  return taken;
 }
 
 void WaitingFields::FocusOn(Field field) {

@@ -19,6 +19,7 @@ class WaitingFields : public TakeoffFields {
 
   bool FormVisible(Field field) const override;
   void SetText(Field field, const QString& text) override;
+  bool TakeArea(Field waiting, const QString& squareFeet, QString& words) override;
   void FocusOn(Field field) override;
 
   // After each event: a measure stays with the line that was named for it, and the plan says where

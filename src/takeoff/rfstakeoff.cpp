@@ -14,6 +14,7 @@ void RFSForm::BindTakeoff() {
   OnEnter(How, Keys::Number, [this] { TakeHeight(); });
   How.onGotFocus = [this] { HowGotFocus(); };
   OnEnter(Length, [this] { TakeLength(); });
+  SayTakenNumber(Length);
   Length.onGotFocus = [this] { LengthGotFocus(); };
   Length.onDoubleClick = [this] { Toggle(Lengths); };
   RoomList.onSelect = [this] { LineSelected(); };

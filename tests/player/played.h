@@ -27,6 +27,10 @@ class Played {
   virtual bool Running() = 0;
   // The figures of the home page are read now: somebody looks at them.
   virtual void RefreshHomePage() {}
+  // What is chosen in the next dialog for a file.
+  virtual void ChooseNext(const QString& path) { (void)path; }
+  // What the chart says that was last drawn.
+  virtual QStringList Chart() const { return {}; }
   // The form whose window is closed to end the program; nullptr when any will do.
   virtual Form* Shell() = 0;
 };
