@@ -80,6 +80,13 @@ struct Program::Parts {
                versions}};
   Recovery recovery{kit, {shell, settings, main, bottomLine}};
   HomePage home{kit, {main, ost, pricing, docs, takingBack}};
+
+  void AfterEvent() {
+    takingBack.EndEvent();
+    takeoffFields.Follow();
+    recovery.Follow();
+    home.Follow();
+  }
 };
 
 Program::Program(const Platform& platform, PdfDraw& viewer)
@@ -94,12 +101,7 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     parts.bottomLine.SaveUnsaved();
     parts.ost.SaveMarks();
   };
-  parts.desk.onRest = [&parts] {
-    parts.takingBack.EndEvent();
-    parts.takeoffFields.Follow();
-    parts.recovery.Follow();
-    parts.home.Follow();
-  };
+  parts.desk.onRest = [&parts] { parts.AfterEvent(); };
   parts.home.openPlan = [this](const QString& path) { OpenPlan(path); };
   // Lists of systems that are loaded are written whole: they must know the new one.
   parts.schedule.onSystemMade = [&parts](const QString& name) {
