@@ -54,12 +54,13 @@ void HomeCell::paintEvent(QPaintEvent*) {
   const QFontMetrics large(OwnFont());
   line.moveTop(line.bottom() + 1);
   line.setHeight(large.height());
-  if (cut < 0) line.moveTop((height() - line.height()) / 2);
+  if (cut < 0) line.moveTop(HasMore() ? kGrid : (height() - line.height()) / 2);
   painter.setFont(OwnFont());
   painter.setPen(look.text);
   painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
                    large.elidedText(figure, Qt::ElideRight, line.width()));
-  PaintMore(painter, rect().adjusted(inset, TextHeight(), -inset, -kGrid));
+  const int top = cut < 0 ? line.bottom() + kGrid / 2 : TextHeight();
+  PaintMore(painter, rect().adjusted(inset, top, -inset, -kGrid));
 }
 
 }  // namespace tamo

@@ -18,6 +18,7 @@ class HomeCell : public QPushButton {
   void paintEvent(QPaintEvent* event) override;
   // The lower part of the cell, for a picture.
   virtual void PaintMore(QPainter&, const QRect&) {}
+  virtual bool HasMore() const { return false; }
   int TextHeight() const;
 
  private:

@@ -47,6 +47,28 @@ class PlanCell : public HomeCell {
   QTimer again_;
 };
 
+// A way to begin, with a sentence on what it is.
+class WayCell : public HomeCell {
+ public:
+  explicit WayCell(const QString& sentence) : sentence_(sentence) {
+    setAccessibleDescription(sentence);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  }
+  QSize minimumSizeHint() const override { return {22 * kGrid, 9 * kGrid}; }
+  QSize sizeHint() const override { return {40 * kGrid, 12 * kGrid}; }
+
+ protected:
+  bool HasMore() const override { return true; }
+  void PaintMore(QPainter& painter, const QRect& place) override {
+    painter.setFont(PromptFont());
+    painter.setPen(CurrentLook().quiet);
+    painter.drawText(place, Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, sentence_);
+  }
+
+ private:
+  const QString sentence_;
+};
+
 template <class Cell>
 Cell* Placed(Builder& b, const char* name, Cell* cell) {
   cell->setObjectName(QLatin1String(name));
@@ -116,10 +138,19 @@ QWidget* WaysToBegin(Builder& b) {
   auto* title = new QLabel(QStringLiteral("No project is open"));
   title->setFont(FigureFont());
   column->addWidget(title);
-  auto* ways = NewRow();
-  for (const char* name : {"HomeSample", "HomeCreate", "HomeOpen", "HomeGuide"})
-    ways->addWidget(Figure(b, name));
-  column->addLayout(ways);
+  const std::pair<const char*, const char*> ways[] = {
+      {"HomeSample", "A whole bid to look around in: rooms, prices, a plan and every report."},
+      {"HomeCreate", "A new bid, with its number, its name and its bid date."},
+      {"HomeOpen", "The list of the projects of this data folder."},
+      {"HomeGuide", "The first lesson of the manual."}};
+  auto* grid = new QGridLayout;
+  grid->setSpacing(kGrid);
+  int at = 0;
+  for (const auto& [name, sentence] : ways) {
+    grid->addWidget(Placed(b, name, new WayCell(QLatin1String(sentence))), at / 2, at % 2);
+    ++at;
+  }
+  column->addLayout(grid, 1);
   auto* recent = NewRow(3 * kGrid);
   recent->addWidget(
       Recent(b, QStringLiteral("Last projects"), "HomeNoProjects", QStringLiteral("HomeProject")),

@@ -107,7 +107,7 @@ void Notes(Builder& b, QVBoxLayout& column) {
 
 QWidget* Column(Builder& b) {
   auto* side = new QWidget;
-  side->setFixedWidth(kColumnWidth);
+  side->setMinimumWidth(kColumnWidth - 2 * kGrid);  // beside a scroll bar
   auto* column = new QVBoxLayout(side);
   column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
   column->setSpacing(kGrid / 2);
@@ -131,7 +131,7 @@ QWidget* Column(Builder& b) {
 
 QWidget* PlanColumn(Builder& b) {
   QWidget* side = Scrolled(Column(b), 20 * kGrid);
-  side->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  side->setFixedWidth(kColumnWidth);
   return side;
 }
 
