@@ -4,7 +4,24 @@
 
 #include "reports/reportsource.h"
 
+#ifdef __linux__
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#endif
+
 namespace tamo {
+namespace {
+
+// Who types comes first.
+void StepBehindTheWindow() {
+#ifdef __linux__
+  constexpr int kNice = 5;
+  setpriority(PRIO_PROCESS, static_cast<id_t>(syscall(SYS_gettid)), kNice);
+#endif
+}
+
+}  // namespace
 
 BidReader::BidReader(Disk& disk, std::function<void()> onAnswer)
     : files_(disk), onAnswer_(std::move(onAnswer)) {}
@@ -38,7 +55,7 @@ bool BidReader::Idle() {
 }
 
 BidOverview BidReader::Read(Files& files, const Question& question,
-                         const std::function<bool(int done, int all)>& progress) {
+                            const std::function<bool(int done, int all)>& progress) {
   Markups markups = question.markups;
   LoadMarkups(files, question.shared, markups);
   ReportSource source{files, ProjectFolder(question.shared), progress};
@@ -46,6 +63,7 @@ BidOverview BidReader::Read(Files& files, const Question& question,
 }
 
 void BidReader::Run() {
+  StepBehindTheWindow();
   std::unique_lock<std::mutex> lock(mutex_);
   for (;;) {
     wake_.wait(lock, [this] { return stop_ || question_; });

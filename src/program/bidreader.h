@@ -43,7 +43,7 @@ class BidReader {
 
   // The same at once, by the caller, from `files`.
   static BidOverview Read(Files& files, const Question& question,
-                       const std::function<bool(int done, int all)>& progress = {});
+                          const std::function<bool(int done, int all)>& progress = {});
 
  private:
   void Run();

@@ -173,13 +173,26 @@ void HomePage::Follow() {
   if (pending) {
     ShowFigures(BidReader::Read(kit_.files, TheQuestion()));
   } else {
-    reader_.Ask(TheQuestion());
+    AskLater();
   }
+}
+
+// When the event is over and the windows show it; once, however many events there were.
+void HomePage::AskLater() {
+  if (asking_) return;
+  asking_ = true;
+  QMetaObject::invokeMethod(
+      &here_,
+      [this] {
+        asking_ = false;
+        reader_.Ask(TheQuestion());
+      },
+      Qt::QueuedConnection);
 }
 
 void HomePage::Tick() {
   if (!begun_ || !InSight() || kit_.shared.JobID.isEmpty()) return;
-  reader_.Ask(TheQuestion());
+  AskLater();
 }
 
 void HomePage::Refresh() {

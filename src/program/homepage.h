@@ -43,7 +43,7 @@ class HomePage {
   void Tick();
   // Now, and by whoever calls it.
   void Refresh();
-  bool Idle() { return reader_.Idle(); }
+  bool Idle() { return !asking_ && reader_.Idle(); }
   std::function<void(const QString& path)> openPlan;
 
  private:
@@ -54,6 +54,7 @@ class HomePage {
   void OpenSample();
   void OpenRecent(size_t at);
   void OpenProject(const QString& id);
+  void AskLater();
   void ShowParts();
   void ShowRecent();
   void ShowFacts();
@@ -67,6 +68,7 @@ class HomePage {
   HomeControls page_;
   RecentThings recent_;
   bool begun_ = false;
+  bool asking_ = false;
   QString job_;   // whose figures stand here
   QString plan_;  // the plan that was last noted
   std::unique_ptr<Saves> saves_;
