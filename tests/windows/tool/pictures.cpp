@@ -77,7 +77,7 @@ struct Pictures {
   QString out;
   QString suffix;
   Files planFiles{disk};
-  WorkerEngine engine(TAMO_ENGINE);
+  WorkerEngine engine{TAMO_ENGINE};
   PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
   test::WindowProbe windows{program, &viewer};
