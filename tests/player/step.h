@@ -44,6 +44,7 @@ enum class Act {
   PlanPolyline,
   PlanPolygon,
   PlanCutOut,
+  PlanSnap,
   Write,
   Copy,
   Remove,
