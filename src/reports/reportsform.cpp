@@ -64,7 +64,7 @@ void ReportsForm::Clear() {
   Frame1.Hide();
   Reporter.Clear();
   Reporter1.Clear();
-  detail_.clear();
+  copied_.reset();
   ClearNotes();
 }
 
@@ -106,7 +106,20 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(), &uncounted_};
+  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(),
+          &uncounted_,     &memory_};
+}
+
+// A refresh keeps its place in the report, which may lie behind the first page.
+ReportSource ReportsForm::SourceOfCopy(OrderedList& list) {
+  ReportSource source = Source();
+  if (!refreshing_) {
+    source.onFirstPage = [&list](const QStringList& rows) {
+      list.SetRows(rows);
+      list.Show();
+    };
+  }
+  return source;
 }
 
 Markups ReportsForm::LoadedMarkups() {
@@ -142,7 +155,7 @@ void ReportsForm::Fill(Report report, bool readsQuantities) {
 
 void ReportsForm::FillCopy(TakeoffCopy report) {
   Reporter1.TakeRows(ListRows(std::move(report.lines)));
-  detail_ = std::move(report.detail);
+  copied_ = report.rows;
   TakeNotes(report, true);
   progress_.Begin(report.total, report.labor, report.material);
   ShowProgress();
@@ -195,9 +208,9 @@ void ReportsForm::AreaRoomWP() {
   Make([this] {
     if (Flag == QLatin1String("True")) {
       const Markups markups = LoadedMarkups();
-      FillCopy(OfficeCopy(Source(), markups));
+      FillCopy(OfficeCopy(SourceOfCopy(Reporter1), markups));
     } else if (Flag == QLatin1String("False")) {
-      Fill(FieldCopy(Source()), true);
+      Fill(FieldCopy(SourceOfCopy(Reporter)), true);
     }
   });
 }
