@@ -12,21 +12,13 @@
 #include "common/kit.h"
 #include "common/paths.h"
 #include "pricing/pricingform.h"
+#include "silentplatform.h"
 
 namespace {
 
 using namespace tamo;
 
-struct Quiet : Messages, Printer, Clipboard, ReportRefresh, SettingsReader, ProjectNumberSeed {
-  void Tell(const QString&) override {}
-  bool Ask(const QString&) override { return false; }
-  void SetFont(const QString&, int) override {}
-  void PrintLine(const QString&) override {}
-  void EndPage() override {}
-  bool BeginPrint(const QString&) override { return false; }
-  void EndPrint() override {}
-  void Clear() override {}
-  void SetText(const QString&) override {}
+struct Quiet : bench::SilentPlatform, ReportRefresh, SettingsReader, ProjectNumberSeed {
   void PrintReport() override {}
   void DisableProjectFileEntry() override {}
   void LoadSettings() override {}

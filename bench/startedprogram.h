@@ -9,6 +9,7 @@
 #include "plans/mupdfengine.h"
 #include "plans/pdfdraw.h"
 #include "program/program.h"
+#include "silentplatform.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
 #include "windows/windowkeeper.h"
@@ -25,20 +26,11 @@ class SpokenMessages : public Messages {
   }
 };
 
-class NoPrinter : public Printer {
- public:
-  void SetFont(const QString&, int) override {}
-  void PrintLine(const QString&) override {}
-  void EndPage() override {}
-  bool BeginPrint(const QString&) override { return false; }
-  void EndPrint() override {}
-};
-
 // The program with its windows, as it starts at a desk, on the home folder `home`.
 class StartedProgram {
  public:
   StartedProgram(const QString& programFolder, const QString& home)
-      : platform_{disk_,      clock_,        messages_, printer_,
+      : platform_{disk_,      clock_,        messages_, silent_,
                   clipboard_, programFolder, home,      home + QStringLiteral("/config")},
         files_(disk_),
         viewer_(files_, engine_),
@@ -54,7 +46,7 @@ class StartedProgram {
   RealDisk disk_;
   SystemClock clock_;
   SpokenMessages messages_;
-  NoPrinter printer_;
+  SilentPlatform silent_;
   DeskClipboard clipboard_;
   Platform platform_;
   Files files_;
