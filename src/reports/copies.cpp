@@ -5,6 +5,7 @@
 #include "common/numbers.h"
 #include "records/linecolumns.h"
 #include "records/roomline.h"
+#include "reports/copytable.h"
 #include "reports/detailrow.h"
 #include "reports/linequantity.h"
 #include "reports/notebook.h"
@@ -24,13 +25,17 @@ class CopyMaker : public TakeoffVisitor {
         shelf_(source),
         arithmetic_(MarkupFactors(markups), office),
         rows_(std::make_shared<CopyRows>(arithmetic_)),
-        labor_(DetailRow::Labor(office)) {
+        labor_(DetailRow::Labor(office)),
+        table_(source.table, office) {
     rows_->Add(QStringLiteral("Project Manager"));
     rows_->Add(office ? QStringLiteral("Office Copy") : QStringLiteral("Field Copy"));
     rows_->Add({});
   }
 
-  void BeginSheet(SheetKind, const QString& name) override { rows_->Add(name); }
+  void BeginSheet(SheetKind kind, const QString& name) override {
+    rows_->Add(name);
+    table_.BeginSheet(kind, name);
+  }
   void EndSheet(SheetKind) override { rows_->Add({}); }
 
   void Line(SheetKind kind, QStringView line) override {
@@ -39,10 +44,13 @@ class CopyMaker : public TakeoffVisitor {
     const int head = static_cast<int>(rows_->Count());
     notes_.NoteSystem(shelf_, system, head);
     const QStringView end = line.last(qMin(kEnd, line.size()));
+    if (source_.table != nullptr) table_.Line(line, WholeQuantity(kind, line));
     if (shelf_.UnitPrice() != 0) {
       rows_->Add(CopyHead(kind, system, end) + QStringLiteral("     Unit price item"));
+      table_.EndLine(0);
     } else if (shelf_.Blocks().empty()) {
       rows_->Add(CopyHead(kind, system, end));
+      table_.EndLine(0);
     } else {
       AddLine(kind, end, QuantityOf(kind, line, head));
     }
@@ -56,6 +64,7 @@ class CopyMaker : public TakeoffVisitor {
       rows_->Add(QStringLiteral("   This project will take ") + NumberText(Raised(manhours_)) +
                  QStringLiteral(" manhours to complete"));
       rows_->Add(QStringLiteral("   excluding all unit priced descriptions and quantities."));
+      table_.Manhours(Raised(manhours_));
       rows_->Add({});
     }
     report_.notes = notes_.Take();
@@ -100,11 +109,20 @@ class CopyMaker : public TakeoffVisitor {
     }
     CheckFigures({manhours_}, system);
     const int number = Number();
-    if (rows_->AddLine(kind, number, end, quantity, figures_, dollars)) {
-      CountFitting(rows_->System(number));
-    } else {
-      AddAsTexts(kind, end, rows_->System(number));
+    const bool fits = rows_->AddLine(kind, number, end, quantity, figures_, dollars);
+    const double worth =
+        fits ? CountFitting(rows_->System(number)) : AddAsTexts(kind, end, rows_->System(number));
+    report_.total += worth;
+    if (source_.table != nullptr) TellTable(worth);
+  }
+
+  void TellTable(double worth) {
+    const std::vector<PricedBlock>& blocks = shelf_.Blocks();
+    for (size_t i = 0; i < blocks.size(); ++i) {
+      table_.Material(blocks[i], figures_[i].material / 100, figures_[i].materialDollars);
+      table_.Labor(figures_[i].labor / 100, figures_[i].laborDollars);
     }
+    table_.EndLine(worth);
   }
 
   // The number in the rows of the system at hand.
@@ -120,9 +138,10 @@ class CopyMaker : public TakeoffVisitor {
     (worth.labor ? report_.labor : report_.material) += worth.dollars;
   }
 
-  void CountFitting(const CopySystem& system) {
-    if (!arithmetic_.Office()) return;
+  // What the detail lines come to.
+  double CountFitting(const CopySystem& system) {
     double dollars = 0;
+    if (!arithmetic_.Office()) return dollars;
     for (size_t i = 0; i < figures_.size(); ++i) {
       const bool named = system.materials[i].IsLabor();
       Count({figures_[i].materialDollars, named});
@@ -130,11 +149,11 @@ class CopyMaker : public TakeoffVisitor {
       dollars += figures_[i].materialDollars;
       dollars += figures_[i].laborDollars;
     }
-    report_.total += dollars;
+    return dollars;
   }
 
   // What a line is worth is then read off its text.
-  void AddAsTexts(SheetKind kind, QStringView end, const CopySystem& system) {
+  double AddAsTexts(SheetKind kind, QStringView end, const CopySystem& system) {
     TextRows details;
     double dollars = 0;
     for (size_t i = 0; i < figures_.size(); ++i) {
@@ -146,10 +165,10 @@ class CopyMaker : public TakeoffVisitor {
         dollars += worth.dollars;
       }
     }
-    report_.total += dollars;
     rows_->Add(arithmetic_.Office() ? CopyHead(kind, system.name, end, dollars)
                                     : CopyHead(kind, system.name, end));
     for (qsizetype i = 0; i < details.size(); ++i) rows_->AddDetail(details[i]);
+    return dollars;
   }
 
   const ReportSource& source_;
@@ -160,6 +179,7 @@ class CopyMaker : public TakeoffVisitor {
   StandingFigures standing_;
   std::vector<CopyFigures> figures_;  // of the line at hand
   std::vector<int> numbers_;          // in the rows, of each system of the shelf; -1 for none yet
+  CopyTable table_;
   double manhours_ = 0;
   TakeoffCopy report_;
   NoteBook notes_;

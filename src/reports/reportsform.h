@@ -13,6 +13,7 @@
 #include "reports/projectprogress.h"
 #include "reports/projectrecord.h"
 #include "reports/reportedbid.h"
+#include "reports/reportfiles.h"
 #include "reports/reportmemory.h"
 #include "reports/reportsource.h"
 #include "workspace/frontwindows.h"
@@ -34,6 +35,7 @@ class ReportsForm : public Form {
     SettingsForm& settings;  // keeps whether whole quantities are read
     Form& planWindow;        // the report stands above it
     History& history;        // former states of the bid, and what a comparison begins with
+    ReportFiles& files;      // saves a report as a file, draws its chart
   };
   ReportsForm(const Kit& kit, const Joins& joins);
 
@@ -63,7 +65,7 @@ class ReportsForm : public Form {
 
   struct Entries {
     explicit Entries(ReportsForm& form);
-    MenuEntry printReport, CopyReport, MakeProjectFile, ExitReports;
+    MenuEntry printReport, CopyReport, MakeProjectFile, ExitReports, SaveReport, ShowChart;
   };
   Entries menu{*this};
 
@@ -90,6 +92,8 @@ class ReportsForm : public Form {
 
   void PrintReport();  // the report in Reporter; never the Office Copy
   void CopyReport();
+  void SaveReport();        // as a PDF, CSV or workbook
+  void ShowChart();         // of the recap or the breakdown
   void WriteProjectFile();  // of the report in the window, into the data folder
   void ExitReports();
   void ClearReport();  // empties Reporter and hides the form: its project is left
@@ -114,6 +118,9 @@ class ReportsForm : public Form {
   void BindControls();
   void BindVersions();
   void ShowMark();
+  QStringList WriteFigures(ReportKind kind, TableSink& table);
+  void MakeFigures(ReportKind kind, TableSink& table);
+  ShownReport InWindow();
   void OfferToKeep();
   void PrepareControls();
   void Make(const std::function<void()>& report);
@@ -139,6 +146,7 @@ class ReportsForm : public Form {
   ReportMemory memory_;
   ReportedBid bid_{kit_, joins_.history, joins_.record};
   std::shared_ptr<const FormerBid> compared_;  // of the last comparison
+  ReportKind kind_ = ReportKind::Recap;        // of the report in the window
   bool running_ = false;     // a report is being made: ticks do not count, no other begins
   bool refreshing_ = false;  // the window stays where it is
   std::vector<ReportNote> notes_;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "common/files.h"
+#include "common/tablesink.h"
 #include "common/textrows.h"
 #include "records/datafolder.h"
 #include "reports/uncounted.h"
@@ -31,6 +32,8 @@ struct ReportSource {
   // Takes the first rows of a copy as soon as they stand; may be empty. Other reports stand only
   // when the last sheet has been read.
   std::function<void(const QStringList& rows)> onFirstPage = {};
+  // Gets the same figures as the lines, one row a line; may be null. It outlives the source.
+  TableSink* table = nullptr;
 };
 
 // Something that the columns of a report hide, with the rows (from 0) of the report that it means.
