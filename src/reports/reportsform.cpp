@@ -68,7 +68,7 @@ void ReportsForm::Clear() {
   Frame1.Hide();
   Reporter.Clear();
   Reporter1.Clear();
-  detail_.clear();
+  copied_.reset();
   ClearNotes();
 }
 
@@ -110,7 +110,20 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(), &uncounted_};
+  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(),
+          &uncounted_,     &memory_};
+}
+
+// A refresh keeps its place in the report, which may lie behind the first page.
+ReportSource ReportsForm::SourceOfCopy(OrderedList& list) {
+  ReportSource source = Source();
+  if (!refreshing_) {
+    source.onFirstPage = [&list](const QStringList& rows) {
+      list.SetRows(rows);
+      list.Show();
+    };
+  }
+  return source;
 }
 
 Markups ReportsForm::LoadedMarkups() {
@@ -146,7 +159,7 @@ void ReportsForm::Fill(Report report, bool readsQuantities) {
 
 void ReportsForm::FillCopy(TakeoffCopy report) {
   Reporter1.TakeRows(ListRows(std::move(report.lines)));
-  detail_ = std::move(report.detail);
+  copied_ = report.rows;
   TakeNotes(report, true);
   progress_.Begin(report.total, report.labor, report.material);
   ShowProgress();
@@ -211,10 +224,10 @@ void ReportsForm::AreaRoomWP() {
     if (Flag == QLatin1String("True")) {
       kind_ = ReportKind::OfficeCopy;
       const Markups markups = LoadedMarkups();
-      FillCopy(OfficeCopy(Source(), markups));
+      FillCopy(OfficeCopy(SourceOfCopy(Reporter1), markups));
     } else if (Flag == QLatin1String("False")) {
       kind_ = ReportKind::FieldCopy;
-      Fill(FieldCopy(Source()), true);
+      Fill(FieldCopy(SourceOfCopy(Reporter)), true);
     }
   });
 }
