@@ -29,6 +29,7 @@ constexpr long kAllowed[] = {
     SYS_write,
     SYS_sendto,
     SYS_recvfrom,
+    SYS_recvmsg,
     SYS_futex,
     SYS_mmap,
     SYS_munmap,

@@ -55,7 +55,10 @@ void ShutIn(WorkerGuard& guard) {
   ::syscall(SYS_close_range, kWorkerTiles + 1, ~0U, 0);
   ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
   ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
-  ::mallopt(M_ARENA_MAX, 2);
+  // What is given back is kept for the next page.
+  ::mallopt(M_ARENA_MAX, 1);
+  ::mallopt(M_MMAP_THRESHOLD, 32 << 20);
+  ::mallopt(M_TRIM_THRESHOLD, 64 << 20);
   guard.files = LockFiles();
   Limit(RLIMIT_CORE, 0);
   Limit(RLIMIT_FSIZE, 0);

@@ -19,7 +19,7 @@ namespace {
 class KilledEngine : public PlanEngine {
  public:
   std::shared_ptr<EnginePlan> NewPlan(std::shared_ptr<PlanSource> source) override {
-    const auto plan = std::make_shared<WorkerPlan>(TAMO_ENGINE, std::move(source));
+    const auto plan = std::make_shared<WorkerPlan>(workers_, std::move(source));
     const std::lock_guard<std::mutex> guard(mutex_);
     plans_.push_back(plan);
     return plan;
@@ -40,6 +40,7 @@ class KilledEngine : public PlanEngine {
   }
 
  private:
+  const std::shared_ptr<WorkerSource> workers_ = std::make_shared<WorkerSource>(TAMO_ENGINE);
   std::mutex mutex_;
   std::vector<std::weak_ptr<WorkerPlan>> plans_;
 };
@@ -119,6 +120,10 @@ TEST_F(Worker, EndsWithItsPlan) {
   const pid_t process = workers.Process();
   ASSERT_GT(process, 0);
   plan.reset();
+  // In its own time: nobody waits for the end of a process.
+  for (int i = 0; i < 200 && ::kill(process, 0) == 0; ++i) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
   EXPECT_NE(::kill(process, 0), 0);
 }
 
