@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int kThreads = 10;  // the viewer has at most six calls in work
+constexpr int kThreads = 8;  // the viewer has at most six calls in work
 constexpr size_t kTileBytes =
     sizeof(uint32_t) * size_t(tamo::kTileSlots) * size_t(tamo::kSlotPixels);
 
@@ -50,14 +50,17 @@ int main() {
   tamo::MuPdfEngine engine;
   tamo::EngineServer server(engine, tiles);
   Bind(server);
+  std::latch begun(kThreads - 1);
   std::latch ready(1);
   for (int i = 1; i < kThreads; ++i) {
-    std::thread([&server, &ready] {
+    std::thread([&server, &begun, &ready] {
+      begun.count_down();
       ready.wait();
       server.Work();
       _exit(0);
     }).detach();
   }
+  begun.wait();
   const bool waits = !PlanIsThere();
   tamo::FilterCalls(guard);
   server.guard = guard;

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <linux/landlock.h>
 #include <malloc.h>
+#include <pthread.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/syscall.h>
@@ -13,8 +14,10 @@
 namespace tamo {
 namespace {
 
-// Address space; what can be in use of it stays below 512 MB: the engine has 320, the tiles 48.
-constexpr rlim_t kMemory = rlim_t(640) << 20;
+// All the memory there is for it: the engine takes 320 MB at most, the tiles 48, its code and what
+// stands in it 80, and each thread its stack.
+constexpr rlim_t kMemory = rlim_t(512) << 20;
+constexpr size_t kStack = size_t(2) << 20;
 constexpr rlim_t kSeconds = 3600;  // of the processor, then another worker takes its place
 
 void Limit(__rlimit_resource what, rlim_t most) {
@@ -63,7 +66,13 @@ void ShutIn(WorkerGuard& guard) {
   Limit(RLIMIT_CORE, 0);
   Limit(RLIMIT_FSIZE, 0);
   Limit(RLIMIT_CPU, kSeconds);
-  if (!HasSanitizer()) Limit(RLIMIT_AS, kMemory);
+  if (HasSanitizer()) return;
+  Limit(RLIMIT_AS, kMemory);
+  pthread_attr_t threads;
+  ::pthread_attr_init(&threads);
+  ::pthread_attr_setstacksize(&threads, kStack);
+  ::pthread_setattr_default_np(&threads);
+  ::pthread_attr_destroy(&threads);
 }
 
 }  // namespace tamo

@@ -287,7 +287,7 @@ PlanUpdate WorkerPlan::BuildUpdate(const MarkChanges& changes) {
   const std::lock_guard<std::mutex> guard(mutex_);
   if (answer.there && wire.AtEnd() && update.bytes.size() <= kLongestUpdate) {
     if (update.error != kNoError) return update;
-    if (IsAddition(update.bytes, GrownSize())) {
+    if (update.bytes.isEmpty() || IsAddition(update.bytes, GrownSize())) {
       updates_.push_back({changes, update.bytes.size()});
       if (link_ != built) link_.reset();  // a worker that has begun meanwhile does not know of it
       return update;

@@ -177,16 +177,20 @@ void Sheet(Builder& b, QVBoxLayout& column) {
   column.addLayout(grid);
 }
 
-// Shown while the plan asked for is locked.
+// Shown over the sheet while the plan asked for is locked.
 QWidget* Password(Builder& b) {
   QFrame* frame = b.Panel("LockedPlan");
-  auto* column = new QVBoxLayout(frame);
-  column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
-  column->setSpacing(kGrid / 2);
-  QLineEdit* password = b.Field("PlanPassword");
+  auto* line = new QHBoxLayout(frame);
+  line->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
+  line->setSpacing(kGrid);
+  QLabel* caption = FixedPrompt(QStringLiteral("Password of the plan"));
+  QLineEdit* password = b.Field("PlanPassword", 30);
   password->setEchoMode(QLineEdit::Password);
-  Stack(*column, QStringLiteral("Password of the plan"), password);
-  column->addWidget(b.PushButton("UnlockPlan"));
+  caption->setBuddy(password);
+  line->addWidget(caption);
+  line->addWidget(password);
+  line->addWidget(b.PushButton("UnlockPlan"));
+  line->addStretch(1);
   return frame;
 }
 
@@ -224,7 +228,6 @@ QWidget* Column(Builder& b) {
   column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
   column->setSpacing(kGrid / 2);
   Sheet(b, *column);
-  column->addWidget(Password(b));
   column->addWidget(Rule());
   Scales(b, *column);
   Distance(b, *column);
@@ -306,6 +309,7 @@ void LayOutOST(Builder& b) {
   middle->setSpacing(0);
   middle->addWidget(ToolBar(b, *canvas));
   middle->addWidget(Colours(b));
+  middle->addWidget(Password(b));
   middle->addWidget(canvas, 1);
   row->addLayout(middle, 1);
   row->addWidget(Column(b));
