@@ -40,33 +40,69 @@ bool PlacePage(fz_context* context, pdf_document* document, int object, fz_matri
 
 struct RawMark {
   int object = 0;
-  bool circle = false;
-  float points[4] = {0, 0, 0, 0};  // of a line; a circle's rectangle
+  Mark::Kind kind = Mark::Kind::Line;
+  std::vector<float> numbers;  // its places; a circle's rectangle
   float colour[3] = {0, 0, 0};
   float width = 1;
   const char* name = nullptr;
   const char* label = nullptr;
+  const char* subject = nullptr;
 };
 
 void ReadFloats(fz_context* context, pdf_obj* array, float* into, int count) {
   for (int i = 0; i < count; ++i) into[i] = pdf_array_get_real(context, array, i);
 }
 
+struct AnnotationKind {
+  pdf_obj* subtype;
+  Mark::Kind kind;
+  pdf_obj* places;  // the key of its places
+};
+
+// The kinds of annotations that marks are kept as. A polygon's subject tells which outline it is.
+const AnnotationKind* KindOf(fz_context* context, pdf_obj* annotation) {
+  static const AnnotationKind kinds[] = {
+      {PDF_NAME(Line), Mark::Kind::Line, PDF_NAME(L)},
+      {PDF_NAME(Circle), Mark::Kind::Circle, PDF_NAME(Rect)},
+      {PDF_NAME(PolyLine), Mark::Kind::Polyline, PDF_NAME(Vertices)},
+      {PDF_NAME(Polygon), Mark::Kind::Area, PDF_NAME(Vertices)}};
+  pdf_obj* subtype = pdf_dict_get(context, annotation, PDF_NAME(Subtype));
+  for (const AnnotationKind& known : kinds) {
+    if (pdf_name_eq(context, subtype, known.subtype)) return &known;
+  }
+  return nullptr;
+}
+
+// Its places are numbers, as many as the kind has. Anything else is left alone, as an annotation of
+// another program is.
+bool HasPlaces(fz_context* context, pdf_obj* annotation, const AnnotationKind& kind) {
+  pdf_obj* places = pdf_dict_get(context, annotation, kind.places);
+  const int count = pdf_array_len(context, places);
+  for (int i = 0; i < std::min(count, 2 * static_cast<int>(kMostMarkPoints)); ++i) {
+    if (!pdf_is_number(context, pdf_array_get(context, places, i))) return false;
+  }
+  if (kind.kind == Mark::Kind::Circle || kind.kind == Mark::Kind::Line) return count == 4;
+  return count % 2 == 0 && FitsKind(kind.kind, static_cast<size_t>(count / 2));
+}
+
 // Reads annotation `index` of the array into `mark`; false when it is none of ours.
 bool ReadRaw(fz_context* context, pdf_obj* annotations, int index, RawMark* mark) {
   pdf_obj* annotation = pdf_array_get(context, annotations, index);
   if (!pdf_is_indirect(context, annotation) || !IsOwnMark(context, annotation)) return false;
+  const AnnotationKind* kind = KindOf(context, annotation);
+  if (kind == nullptr) return false;
   mark->object = pdf_to_num(context, annotation);
-  mark->circle =
-      pdf_name_eq(context, pdf_dict_get(context, annotation, PDF_NAME(Subtype)), PDF_NAME(Circle));
-  pdf_obj* places = pdf_dict_get(context, annotation, mark->circle ? PDF_NAME(Rect) : PDF_NAME(L));
-  if (pdf_array_len(context, places) != 4) return false;
-  ReadFloats(context, places, mark->points, 4);
+  mark->kind = kind->kind;
+  pdf_obj* places = pdf_dict_get(context, annotation, kind->places);
+  const int count = pdf_array_len(context, places);
+  mark->numbers.resize(static_cast<size_t>(count));
+  ReadFloats(context, places, mark->numbers.data(), count);
   ReadFloats(context, pdf_dict_get(context, annotation, PDF_NAME(C)), mark->colour, 3);
   pdf_obj* border = pdf_dict_get(context, annotation, PDF_NAME(BS));
   if (border != nullptr) mark->width = pdf_dict_get_real(context, border, PDF_NAME(W));
   mark->name = pdf_to_text_string(context, pdf_dict_gets(context, annotation, "NM"));
   mark->label = pdf_dict_get_text_string(context, annotation, PDF_NAME(Contents));
+  mark->subject = pdf_to_text_string(context, pdf_dict_gets(context, annotation, "Subj"));
   return true;
 }
 
@@ -89,17 +125,19 @@ QString ColourCode(const float* parts) {
 
 Mark AsMark(const RawMark& raw, const PageMap& map) {
   Mark mark;
+  mark.kind = raw.kind;
   mark.name = QString::fromUtf8(raw.name);
   mark.colour = ColourCode(raw.colour);
   mark.width = raw.width * map.Unit();
-  const auto& p = raw.points;
-  if (raw.circle) {
-    mark.kind = Mark::Kind::Circle;
-    mark.points = {map.ToPage((p[0] + p[2]) / 2, (p[1] + p[3]) / 2)};
-  } else {
-    mark.label = QString::fromUtf8(raw.label);
-    mark.points = {map.ToPage(p[0], p[1]), map.ToPage(p[2], p[3])};
+  const std::vector<float>& numbers = raw.numbers;
+  if (raw.kind == Mark::Kind::Circle) {
+    mark.points = {map.ToPage((numbers[0] + numbers[2]) / 2, (numbers[1] + numbers[3]) / 2)};
+    return mark;
   }
+  if (raw.kind == Mark::Kind::Area) mark.kind = OutlineOfSubject(QString::fromUtf8(raw.subject));
+  mark.label = QString::fromUtf8(raw.label);
+  for (size_t i = 0; i + 1 < numbers.size(); i += 2)
+    mark.points.push_back(map.ToPage(numbers[i], numbers[i + 1]));
   return mark;
 }
 
@@ -109,11 +147,11 @@ bool IsOwnMark(fz_context* context, pdf_obj* annotation) {
   bool own = false;
   fz_var(own);
   fz_try(context) {
-    pdf_obj* kind = pdf_dict_get(context, annotation, PDF_NAME(Subtype));
-    if (pdf_name_eq(context, kind, PDF_NAME(Line)) ||
-        pdf_name_eq(context, kind, PDF_NAME(Circle))) {
+    const AnnotationKind* kind = KindOf(context, annotation);
+    if (kind != nullptr) {
       const char* name = pdf_to_text_string(context, pdf_dict_gets(context, annotation, "NM"));
-      own = strncmp(name, kMarkPrefix, sizeof kMarkPrefix - 1) == 0;
+      own = strncmp(name, kMarkPrefix, sizeof kMarkPrefix - 1) == 0 &&
+            HasPlaces(context, annotation, *kind);
     }
   }
   fz_catch(context) own = false;

@@ -25,17 +25,6 @@ void Limit(__rlimit_resource what, rlim_t most) {
   ::setrlimit(what, &limit);
 }
 
-bool HasSanitizer() {
-#if defined(__SANITIZE_ADDRESS__)
-  return true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-  return true;
-#endif
-#endif
-  return false;
-}
-
 // No file can be opened, made or run by its name any more.
 bool LockFiles() {
   landlock_ruleset_attr rules{};
@@ -53,6 +42,17 @@ bool LockFiles() {
 }
 
 }  // namespace
+
+bool HasSanitizer() {
+#if defined(__SANITIZE_ADDRESS__)
+  return true;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+  return true;
+#endif
+#endif
+  return false;
+}
 
 void ShutIn(WorkerGuard& guard) {
   ::syscall(SYS_close_range, kWorkerTiles + 1, ~0U, 0);

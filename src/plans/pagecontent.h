@@ -107,6 +107,9 @@ struct PageLine {
   PagePoint to;
 };
 
+// Cuts a line to a rectangle; false when nothing of it is inside.
+bool CutLine(PageLine& line, const PageBox& box);
+
 // The straight lines of a path, curves as lines that lie within `tolerance` points of them, each
 // cut to what the clip leaves. Of a fill, its outline. An open outline stays open.
 std::vector<PageLine> Flattened(const PathPiece& path, double tolerance = 0.1);

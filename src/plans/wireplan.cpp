@@ -17,7 +17,7 @@ QString Words(WireReader& wire) {
 }
 
 void Put(WireWriter& wire, const Mark& mark) {
-  wire.Byte(mark.kind == Mark::Kind::Circle ? 1 : 0);
+  wire.Byte(static_cast<unsigned>(mark.kind));
   wire.Number(mark.page);
   wire.Number(static_cast<int64_t>(mark.points.size()));
   for (const PagePoint& point : mark.points) {
@@ -31,10 +31,12 @@ void Put(WireWriter& wire, const Mark& mark) {
 }
 
 void Take(WireReader& wire, Mark& mark) {
-  mark.kind = wire.Flag() ? Mark::Kind::Circle : Mark::Kind::Line;
+  const unsigned kind = wire.Byte();
+  if (kind > static_cast<unsigned>(Mark::Kind::CutOut)) wire.Spoil();
+  mark.kind = wire.Good() ? static_cast<Mark::Kind>(kind) : Mark::Kind::Line;
   mark.page = static_cast<int>(wire.Number(1, kMostPages));
-  const size_t points = mark.kind == Mark::Kind::Circle ? 1 : 2;
-  if (wire.Count(16) != points) wire.Spoil();
+  const size_t points = wire.Count(16);
+  if (!FitsKind(mark.kind, points)) return wire.Spoil();
   for (size_t i = 0; i < points; ++i) {
     const double x = wire.Real();
     mark.points.push_back({x, wire.Real()});

@@ -141,6 +141,40 @@ TEST(Wire, MarksBelongToPages) {
   EXPECT_FALSE(wire.AtEnd());
 }
 
+TEST(Wire, AMarkHasAsManyPointsAsItsKindTakes) {
+  const std::pair<Mark::Kind, size_t> good[] = {{Mark::Kind::Polyline, 2},
+                                                {Mark::Kind::Area, 3},
+                                                {Mark::Kind::Perimeter, 40},
+                                                {Mark::Kind::CutOut, kMostMarkPoints}};
+  const std::pair<Mark::Kind, size_t> bad[] = {{Mark::Kind::Line, 3},
+                                               {Mark::Kind::Circle, 2},
+                                               {Mark::Kind::Polyline, 1},
+                                               {Mark::Kind::Area, 2},
+                                               {Mark::Kind::CutOut, kMostMarkPoints + 1},
+                                               {static_cast<Mark::Kind>(9), 2}};
+  const auto heard = [](Mark::Kind kind, size_t points, Mark& mark) {
+    MarkChanges changes;
+    mark = ALine();
+    mark.kind = kind;
+    mark.points.assign(points, {1, 2});
+    changes.added = {mark};
+    const QByteArray bytes = Bytes(changes);
+    WireReader wire(bytes);
+    MarkChanges read;
+    Take(wire, read);
+    if (!wire.AtEnd()) return false;
+    mark = read.added.at(0);
+    return true;
+  };
+  Mark mark;
+  for (const auto& [kind, points] : good) {
+    EXPECT_TRUE(heard(kind, points, mark));
+    EXPECT_EQ(mark.kind, kind);
+    EXPECT_EQ(mark.points.size(), points);
+  }
+  for (const auto& [kind, points] : bad) EXPECT_FALSE(heard(kind, points, mark)) << points;
+}
+
 TEST(Wire, HeadsOfMessagesAreChecked) {
   const QByteArray head = HeadOf({WireKind::Paint, 77, "12345"});
   WireMessage message;
