@@ -235,6 +235,7 @@ void PdfDraw::TakeOpened() {
   // What was drawn on the blank sheet meanwhile is kept.
   contents.marks.insert(contents.marks.end(), MarksAsDrawn().begin(), MarksAsDrawn().end());
   FillPlan(std::move(contents.sizes), std::move(contents.marks));
+  if (opening->slow && !notices_.caution.isEmpty()) Raise(onPageProblem, notices_.caution);
 }
 
 void PdfDraw::StartPainting() {
@@ -311,9 +312,10 @@ std::shared_ptr<const Picture> PdfDraw::Thumbnail(int page, int longSide) {
   return session_->painter->Thumbnail(page, longSide);
 }
 
-std::shared_ptr<const Picture> PdfDraw::PrintPicture(const PlanView& part) {
+std::shared_ptr<const Picture> PdfDraw::PrintPicture(const PlanView& part,
+                                                     const std::function<void()>& meanwhile) {
   if (session_ == nullptr || session_->painter == nullptr) return nullptr;
-  return session_->painter->PrintPicture(part, kPrintPatience);
+  return session_->painter->PrintPicture(part, kPrintPatience, meanwhile);
 }
 
 std::shared_ptr<EnginePlan> PdfDraw::OpenedPlan() const {

@@ -1,5 +1,6 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QMenu>
 #include <QProgressDialog>
 #include <QToolButton>
@@ -179,6 +180,23 @@ QWidget* Colours(Builder& b) {
   return frame;
 }
 
+// Shown over the sheet while the plan asked for is locked.
+QWidget* Password(Builder& b) {
+  QFrame* frame = b.Panel("LockedPlan");
+  auto* line = new QHBoxLayout(frame);
+  line->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
+  line->setSpacing(kGrid);
+  QLabel* caption = FixedPrompt(QStringLiteral("Password of the plan"));
+  QLineEdit* password = b.Field("PlanPassword", 30);
+  password->setEchoMode(QLineEdit::Password);
+  caption->setBuddy(password);
+  line->addWidget(caption);
+  line->addWidget(password);
+  line->addWidget(b.PushButton("UnlockPlan"));
+  line->addStretch(1);
+  return frame;
+}
+
 // The first marked copy of a large plan takes a while; the bar says so and can't be stopped. The
 // windows are painted meanwhile, keys and mouse wait.
 std::function<void(int)> SaveProgress(QWidget& window) {
@@ -247,6 +265,7 @@ void LayOutOST(Builder& b) {
   middle->addWidget(ToolBar(b, *canvas));
   middle->addWidget(GoesTo(b));
   middle->addWidget(Colours(b));
+  middle->addWidget(Password(b));
   middle->addWidget(ToolHint(b));
   middle->addWidget(canvas, 1);
   row->addLayout(middle, 1);

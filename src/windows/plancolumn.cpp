@@ -65,19 +65,6 @@ void Sheet(Builder& b, QVBoxLayout& column) {
   column.addLayout(grid);
 }
 
-// Shown while the plan asked for is locked.
-QWidget* Password(Builder& b) {
-  QFrame* frame = b.Panel("LockedPlan");
-  auto* column = new QVBoxLayout(frame);
-  column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
-  column->setSpacing(kGrid / 2);
-  QLineEdit* password = b.Field("PlanPassword");
-  password->setEchoMode(QLineEdit::Password);
-  Stack(*column, QStringLiteral("Password of the plan"), password);
-  column->addWidget(b.PushButton("UnlockPlan"));
-  return frame;
-}
-
 void Distance(Builder& b, QVBoxLayout& column) {
   QLineEdit* distance = b.Field("DistanceText", 0, QStringLiteral("Last distance or count"));
   distance->setFont(FigureFont());
@@ -112,7 +99,6 @@ QWidget* Column(Builder& b) {
   column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
   column->setSpacing(kGrid / 2);
   Sheet(b, *column);
-  column->addWidget(Password(b));
   column->addWidget(Rule());
   Scales(b, *column);
   Distance(b, *column);
