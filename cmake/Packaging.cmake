@@ -2,7 +2,7 @@
 # itself share one folder; a link puts it on the path.
 include(GNUInstallDirs)
 set(program_folder lib/tamo)
-install(TARGETS tamo RUNTIME DESTINATION ${program_folder})
+install(TARGETS tamo tamo-engine RUNTIME DESTINATION ${program_folder})
 install(TARGETS tamo_charts LIBRARY DESTINATION ${program_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/data/Blank.pdf ${PROJECT_SOURCE_DIR}/data/About.pdf DESTINATION ${program_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/Docs ${PROJECT_SOURCE_DIR}/data/Sample DESTINATION ${program_folder})

@@ -10,8 +10,8 @@
 #include "command/commandmain.h"
 #include "common/memory.h"
 #include "common/paths.h"
-#include "plans/mupdfengine.h"
 #include "plans/pdfdraw.h"
+#include "plans/workerengine.h"
 #include "program/program.h"
 #include "schedule/sheetpictures.h"
 #include "schedule/tesseract.h"
@@ -124,12 +124,12 @@ int main(int argc, char** argv) {
   ShowIconLater(platform);
 
   tamo::Files planFiles(disk);
-  tamo::MuPdfEngine engine;
+  tamo::WorkerEngine engine;
   tamo::PdfDraw viewer(planFiles, engine);
   viewer.SetPatience(kPatience);
   const tamo::Tesseract recogniser;
   tamo::Program program(platform, viewer);
-  program.ReadPictures(std::make_shared<const tamo::SheetPictures>(engine, recogniser));
+  program.ReadPictures(std::make_shared<const tamo::SheetPictures>(recogniser));
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
   printer.company = [&program] { return program.CompanyName(); };

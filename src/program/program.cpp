@@ -15,6 +15,7 @@
 #include "program/systemsheets.h"
 #include "program/takeoffadapters.h"
 #include "program/versionadapters.h"
+#include "program/waitingfields.h"
 #include "schedule/scheduleform.h"
 #include "workspace/form11.h"
 
@@ -52,7 +53,9 @@ struct Program::Parts {
   ProjectKeeperOnTamo projectKeeper{main};
   PlanToolsOnOst planTools{ost};
   TakeoffExitsOnForms takeoffExits{shell, main, ost};
-  TakeoffFieldsOnForms takeoffFields{rooms, areas};
+  MarksOnPlan entryMarks{ost};
+  TakingBack takingBack{kit, entryMarks, reportFollows};
+  WaitingFields takeoffFields{kit, ost, rooms, areas, entryMarks};
   ProjectRecordOnTamo projectRecord{main};
   BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
   ReportSaver reportSaver{kit};
@@ -63,8 +66,8 @@ struct Program::Parts {
   OSTForm ost{kit, viewer, projectKeeper, takeoffFields};
   TamoForm main{kit, settings, {shell, planOfProject, followers}};
   PricingForm pricing{kit, reportFollows, startOfPricing, startOfPricing};
-  RFSForm rooms{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
-  EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
+  RFSForm rooms{kit, planTools, pricingOnForm, reportFollows, takeoffExits, takingBack};
+  EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits, takingBack};
   BottomLine bottomLine{kit, reportFollows};
   AdjustmentForm adjustment{kit, reportFollows};
   ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history, reportSaver}};
@@ -91,7 +94,11 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     parts.bottomLine.SaveUnsaved();
     parts.ost.SaveMarks();
   };
-  parts.desk.onRest = [&parts] { parts.recovery.Follow(); };
+  parts.desk.onRest = [&parts] {
+    parts.takingBack.EndEvent();
+    parts.takeoffFields.Follow();
+    parts.recovery.Follow();
+  };
   // Lists of systems that are loaded are written whole: they must know the new one.
   parts.schedule.onSystemMade = parts.systemSheets.onNewSystem = [&parts](const QString& name) {
     for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,

@@ -37,6 +37,7 @@ void RFSForm::HowGotFocus() {
 }
 
 void RFSForm::TakeHeight() {
+  measured.Entered(How);
   if (Flag != QLatin1String("Estimate")) {
     FinishRoom();
     return;
@@ -83,6 +84,7 @@ void RFSForm::TakeLength() {
 }
 
 void RFSForm::AddEntry() {
+  BeginQuantity();
   const double entered = GroupedValue(Length.Text());
   const double stands = RoomLine(RoomList.Selected()).Quantity();
   if (IsLinearOrCount(Units.Text())) {

@@ -65,6 +65,9 @@ void LayOutSettings(Builder& b) {
            Pair(b.Choice("Option1"), b.Choice("Option2")));
   ways.Add(FixedCaption(QStringLiteral("Scale:")), Pair(b.Choice("Option3"), b.Choice("Option4")));
   ways.Add(FixedCaption(QStringLiteral("Reports:")), b.Check("AutoCheck"));
+  QLabel* guard = b.Text("PlanGuard");
+  guard->setWordWrap(true);
+  body.addWidget(guard);
   body.addStretch(1);
   auto* foot = new QHBoxLayout;
   foot->addStretch(1);

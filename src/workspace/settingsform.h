@@ -54,6 +54,7 @@ class SettingsForm : public Form {
   Option Option3{*this, "Option3", "U.S. Scale", 2};
   Option Option4{*this, "Option4", "Metric Scale", 2};
   CheckBox AutoCheck{*this, "AutoCheck", "AutoUpdate Reports"};
+  Label PlanGuard{*this, "PlanGuard"};  // what the system lacks to shut in the reader of plans
   Button Command1{*this, "Command1", "Exit Settings"};
 
  private:
