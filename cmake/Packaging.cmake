@@ -3,7 +3,8 @@
 include(GNUInstallDirs)
 set(program_folder lib/tamo)
 install(TARGETS tamo tamo-engine RUNTIME DESTINATION ${program_folder})
-install(TARGETS tamo_charts LIBRARY DESTINATION ${program_folder})
+# A folder deeper than the loader of libraries looks.
+install(TARGETS tamo_charts LIBRARY DESTINATION ${program_folder}/modules)
 install(FILES ${PROJECT_SOURCE_DIR}/data/Blank.pdf ${PROJECT_SOURCE_DIR}/data/About.pdf DESTINATION ${program_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/Docs ${PROJECT_SOURCE_DIR}/data/Sample DESTINATION ${program_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/tamo.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)

@@ -10,7 +10,7 @@ namespace {
 
 ChartFunction Load() {
   const QString folder = QCoreApplication::applicationDirPath();
-  for (const char* place : {"/", "/../"}) {
+  for (const char* place : {"/", "/modules/", "/../"}) {
     QLibrary module(folder + QLatin1String(place) + QLatin1String(kChartModule));
     if (auto* function = module.resolve(kChartFunction))
       return reinterpret_cast<ChartFunction>(function);
