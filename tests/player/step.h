@@ -45,6 +45,7 @@ enum class Act {
   PlanPolyline,
   PlanPolygon,
   PlanCutOut,
+  PlanSnap,
   Write,
   Copy,
   Remove,
