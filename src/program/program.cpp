@@ -13,6 +13,7 @@
 #include "program/recovery.h"
 #include "program/reportadapters.h"
 #include "program/reportsaver.h"
+#include "program/systemsheets.h"
 #include "program/takeoffadapters.h"
 #include "program/versionadapters.h"
 #include "program/waitingfields.h"
@@ -59,6 +60,7 @@ struct Program::Parts {
   ProjectRecordOnTamo projectRecord{main};
   BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
   ReportSaver reportSaver{kit};
+  SystemSheets systemSheets{kit, pricing};
 
   Form11 form11{kit};
   SettingsForm settings{kit, shell};
@@ -104,12 +106,13 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
   parts.desk.onRest = [&parts] { parts.AfterEvent(); };
   parts.home.openPlan = [this](const QString& path) { OpenPlan(path); };
   // Lists of systems that are loaded are written whole: they must know the new one.
-  parts.schedule.onSystemMade = [&parts](const QString& name) {
+  parts.schedule.onSystemMade = parts.systemSheets.onNewSystem = [&parts](const QString& name) {
     for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,
                               &parts.areas.DescriptionsList}) {
       if (!list->Empty() && list->FindAnyCase(name) < 0) list->Insert(0, name);
     }
   };
+  parts.systemSheets.Bind();
   parts.files.keepMine = [&parts](const QString& path, const QString& mine, const QString& theirs) {
     return parts.desk.GetMessages().Ask(
         ChangedQuestion({path, mine, theirs}, parts.pricing.MarkupTexts()));
@@ -137,7 +140,8 @@ void Program::ReadPictures(std::shared_ptr<const SheetPictures> pictures) {
   parts_->schedule.pictures = std::move(pictures);
 }
 void Program::ChooseFilesWith(FileChooser chooser) {
-  parts_->reportSaver.onChoose = std::move(chooser);
+  parts_->reportSaver.onChoose = chooser;
+  parts_->systemSheets.onChoose = std::move(chooser);
 }
 void Program::DrawChartsWith(std::function<void(const ChartData& chart)> draw) {
   parts_->reportSaver.onChart = std::move(draw);

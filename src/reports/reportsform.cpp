@@ -38,11 +38,10 @@ ReportsForm::ReportsForm(const Kit& kit, const Joins& joins)
     : Form(kit.desk, QStringLiteral("Reports")), kit_(kit), joins_(joins) {
   AddText(QStringLiteral("Flag"), &Flag);
   AddText(QStringLiteral("Adjustment"), &Adjustment);
-  PrepareControls();
   BindControls();
 }
 
-void ReportsForm::PrepareControls() {
+void ReportsForm::BindControls() {
   for (TextField* field :
        {&ttText, &tlText, &tmText, &tcText, &pcText, &lcText, &lpText, &mcText, &mpText}) {
     field->PutInto(Frame1);
@@ -53,9 +52,6 @@ void ReportsForm::PrepareControls() {
                                        &Frame1, &VersionLabel, &BackToNow, &KeepPrinted})
     control->Hide();
   prList.inTabOrder = false;
-}
-
-void ReportsForm::BindControls() {
   Reporter1.onTick = [this](int row) { Ticked(row); };
   NotesList.onSelect = [this] { NotePicked(); };
   WholeQuantities.onChange = [this] { WholeQuantitiesChanged(); };

@@ -117,12 +117,9 @@ class ReportsForm : public Form {
  private:
   void BindControls();
   void BindVersions();
-  void ShowMark();
   QStringList WriteFigures(ReportKind kind, TableSink& table);
-  void MakeFigures(ReportKind kind, TableSink& table);
   ShownReport InWindow();
   void OfferToKeep();
-  void PrepareControls();
   void Make(const std::function<void()>& report);
   void Fill(Report report, bool readsQuantities = false);
   void FillCopy(TakeoffCopy report);
