@@ -19,7 +19,8 @@ struct Key {
     Up,
     Down,
     Left,
-    Right
+    Right,
+    End  // moves the caret only; no handler of a form sees it
   };
 
   Name name = Name::Character;

@@ -11,6 +11,7 @@
 #include "program/readagain.h"
 #include "program/recovery.h"
 #include "program/reportadapters.h"
+#include "program/suggestions.h"
 #include "program/takeoffadapters.h"
 #include "program/versionadapters.h"
 #include "schedule/scheduleform.h"
@@ -73,6 +74,22 @@ struct Program::Parts {
               {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs,
                versions}};
   Recovery recovery{kit, {shell, settings, main, bottomLine}};
+  Suggestions suggestions{
+      kit,
+      {{pricing.Description, pricing.DescriptionsList, NameKind::System},
+       {pricing.Units, pricing.UnitsList, NameKind::TakeoffUnit},
+       {pricing.Material, pricing.MaterialsList, NameKind::Material},
+       {pricing.OrderUnits, pricing.oUnitsList, NameKind::OrderUnit},
+       {rooms.Room, rooms.RoomsList, NameKind::Room},
+       {rooms.Description, rooms.DescriptionsList, NameKind::System},
+       {rooms.Area, rooms.AreaList, NameKind::FinishArea},
+       {areas.Area, areas.AreasList, NameKind::FreeArea},
+       {areas.eDescription, areas.DescriptionsList, NameKind::System},
+       {schedule.System, pricing.DescriptionsList, NameKind::System},
+       {schedule.FloorArea, rooms.AreaList, NameKind::FinishArea},
+       {schedule.BaseArea, rooms.AreaList, NameKind::FinishArea},
+       {schedule.WallsArea, rooms.AreaList, NameKind::FinishArea},
+       {schedule.CeilingArea, rooms.AreaList, NameKind::FinishArea}}};
 };
 
 Program::Program(const Platform& platform, PdfDraw& viewer)
@@ -87,7 +104,14 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     parts.bottomLine.SaveUnsaved();
     parts.ost.SaveMarks();
   };
-  parts.desk.onRest = [&parts] { parts.recovery.Follow(); };
+  parts.desk.onRest = [&parts] {
+    parts.suggestions.Follow();
+    parts.recovery.Follow();
+  };
+  parts.desk.onKeyFirst = [&parts](const Control& control, const Key& key) {
+    return parts.suggestions.TakeKey(control, key);
+  };
+  parts.desk.onEdited = [&parts](TextField& field) { parts.suggestions.Edited(field); };
   // Lists of systems that are loaded are written whole: they must know the new one.
   parts.schedule.onSystemMade = [&parts](const QString& name) {
     for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,
@@ -131,6 +155,9 @@ SharedFields& Program::Shared() {
 }
 PdfDraw& Program::Viewer() {
   return parts_->viewer;
+}
+Suggestions& Program::GetSuggestions() {
+  return parts_->suggestions;
 }
 Form* Program::FindForm(const QString& name) {
   return parts_->desk.Find(name);

@@ -12,6 +12,7 @@
 namespace tamo {
 
 class SheetPictures;
+class Suggestions;
 
 // The whole program below its windows: makes every form, the menus of both shells with their guards
 // and transitions, and joins the forms' hand-overs. Windows, or the scenario player, stand on top
@@ -42,6 +43,8 @@ class Program {
   const QString* FindText(const QString& form, const QString& name);
   // As Settings has it; "" for none.
   QString CompanyName() const;
+  // What is offered under the field that is being typed in.
+  Suggestions& GetSuggestions();
   // Shows the plan `path` in the plan window, as one that is typed there.
   void OpenPlan(const QString& path);
   // For the strip at the foot of every window: what is not saved or can't be read, or else what a

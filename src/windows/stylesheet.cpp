@@ -20,6 +20,12 @@ QPlainTextEdit:focus { border: 2px solid @accent; padding: 3px; background: @gro
 QListView { padding: 1px; }
 QListView:focus { border: 2px solid @accent; padding: 0px; }
 QListView[role="drop"] { border: 1px solid @accent; }
+QFrame[role="offer"] { background: @base; border: 1px solid @accent; border-radius: 3px; }
+QFrame[role="offer"] QListView { border: none; border-radius: 0px; }
+QFrame[role="offer"] QListView::item { padding: 2px 6px; color: @text; }
+QFrame[role="offer"] QListView::item:hover { background: @ground; }
+QFrame[role="offer"] QListView::item:selected { background: @accent; color: @onAccent; }
+QFrame[role="offer"] QLabel { border-top: 1px solid @faint; }
 QPushButton {
   min-height: 22px; padding: 3px 14px; border: 1px solid @line; border-radius: 3px;
   background: @button; color: @text;

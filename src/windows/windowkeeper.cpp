@@ -12,6 +12,7 @@
 #include "windows/formlayouts.h"
 #include "windows/helptopics.h"
 #include "windows/reportprogress.h"
+#include "windows/suggestionview.h"
 #include "windows/windowactivation.h"
 #include "windows/windowplaces.h"
 
@@ -27,6 +28,7 @@ struct WindowKeeper::Parts {
   ReportProgress progress{QStringLiteral("The report is being made."), 50};
   ReportProgress schedule{QStringLiteral("The schedule is being worked on."), 500};
   WindowActivation activation{program.GetDesk()};
+  QPointer<SuggestionView> offer{};
 
   FormWindow* Existing(const Form* form) {
     const auto found = windows.find(form);
@@ -41,7 +43,10 @@ WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QStri
   Display& display = *parts_->display;
   display.windowOf = [this](Form& form) -> QWidget* { return parts_->Existing(&form); };
   display.syncWindows = [this] { SyncWindows(); };
-  display.afterSync = [this] { ShowPopups(); };
+  display.afterSync = [this] {
+    ShowPopups();
+    ShowSuggestions(parts_->program, *parts_->display, parts_->offer);
+  };
   for (Form* form : program.GetDesk().Forms()) {
     form->observer = [this] { parts_->display->MarkDirty(); };
     if (auto* reports = dynamic_cast<ReportsForm*>(form)) {
@@ -82,6 +87,10 @@ Display& WindowKeeper::GetDisplay() {
 
 Program& WindowKeeper::GetProgram() {
   return parts_->program;
+}
+
+SuggestionView* WindowKeeper::Offer() const {
+  return parts_->offer;
 }
 
 FormWindow& WindowKeeper::WindowOf(const Form& form) {

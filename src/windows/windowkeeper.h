@@ -12,6 +12,7 @@ class Display;
 class FormWindow;
 class PlanPictures;
 class Program;
+class SuggestionView;
 
 // A window for each form: made when the form is first shown (or first asked for), then shown,
 // hidden, raised and activated as the Desk says, never destroyed before the keeper. Windows
@@ -34,6 +35,8 @@ class WindowKeeper : public QObject {
   void SyncNow();
 
  protected:
+  // What is offered under the field that is being typed in; nullptr when nothing ever was.
+  SuggestionView* Offer() const;
   // The window of a form, made when it was never asked for.
   FormWindow& WindowOf(const Form& form);
   Display& GetDisplay();

@@ -53,6 +53,7 @@ constexpr Verb kVerbs[] = {
     {"doubleselect", Act::DoubleSelect, Shape::ControlAndRow},
     {"tick", Act::Tick, Shape::ControlAndRow},
     {"scrollto", Act::ScrollTo, Shape::ControlAndRow},
+    {"suggestion", Act::Suggestion, Shape::Seconds},
     {"pick", Act::Pick, Shape::ControlAndPath},
     {"doublepick", Act::DoublePick, Shape::ControlAndPath},
     {"close", Act::Close, Shape::Form},
@@ -255,7 +256,8 @@ bool KeyFromName(const QString& name, Key& key) {
                                                             {"Up", Key::Name::Up},
                                                             {"Down", Key::Name::Down},
                                                             {"Left", Key::Name::Left},
-                                                            {"Right", Key::Name::Right}};
+                                                            {"Right", Key::Name::Right},
+                                                            {"End", Key::Name::End}};
   for (const auto& [text, value] : names) {
     if (name != QLatin1String(text)) continue;
     key = Key::Named(value);

@@ -35,6 +35,7 @@ constexpr KeyCode kKeyCodes[] = {
     {Key::Name::Down, Qt::Key_Down, Qt::NoModifier, ""},
     {Key::Name::Left, Qt::Key_Left, Qt::NoModifier, ""},
     {Key::Name::Right, Qt::Key_Right, Qt::NoModifier, ""},
+    {Key::Name::End, Qt::Key_End, Qt::NoModifier, ""},
 };
 
 void SendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button,

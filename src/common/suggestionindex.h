@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace tamo {
+
+// How often each name was used, by its key (SuggestionIndex::KeyOf).
+using NameUses = QHash<QString, int>;
+
+// Finds the names that may be meant by what was typed so far: those that begin with it first, then
+// those that have it anywhere inside, then those of which a word begins with it but for one letter
+// (one too many, one missing, another one, two swapped). Case does not count. Within each of the
+// three the most used come first, then those that stand first in the list.
+class SuggestionIndex {
+ public:
+  // Empty names and repeated ones are left out.
+  void SetNames(const QStringList& names);
+
+  // At most `most` names. A name that equals `typed` to the letter is no suggestion; neither is any
+  // for an empty text. Misspelt names need at least kLeastMisspelt letters.
+  QStringList Matches(const QString& typed, int most, const NameUses& uses) const;
+
+  static constexpr int kLeastMisspelt = 3;
+  static QString KeyOf(const QString& name) { return name.toCaseFolded(); }
+
+ private:
+  struct Entry {
+    QString name;
+    QString key;
+    std::vector<int> words;  // where they begin in the key
+  };
+  std::vector<Entry> entries_;
+};
+
+// `text` begins with something that becomes `typed` by one insertion, deletion or replacement of a
+// letter, or by swapping two neighbours; also when it begins with `typed` itself.
+bool BeginsNearly(QStringView text, QStringView typed);
+
+}  // namespace tamo
