@@ -13,8 +13,8 @@ constexpr int kOffered = 8;
 const QStringList& Names() {
   static const QStringList names = [] {
     const QStringList heads = {QStringLiteral("GWB Partition"), QStringLiteral("Wall Paint"),
-                               QStringLiteral("ACT Ceiling"), QStringLiteral("Rubber Base"),
-                               QStringLiteral("Metal Stud"), QStringLiteral("Ceramic Tile")};
+                               QStringLiteral("ACT Ceiling"),   QStringLiteral("Rubber Base"),
+                               QStringLiteral("Metal Stud"),    QStringLiteral("Ceramic Tile")};
     QStringList made;
     for (int i = 0; i < kSystems; ++i)
       made += QStringLiteral("%1 %2").arg(heads[i % heads.size()]).arg(i);

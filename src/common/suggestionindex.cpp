@@ -1,6 +1,5 @@
 #include "common/suggestionindex.h"
 
-#include <QSet>
 #include <algorithm>
 
 namespace tamo {
@@ -20,25 +19,27 @@ struct Match {
   }
 };
 
-std::vector<int> WordsOf(const QString& key) {
-  std::vector<int> words;
+// A word of the key begins nearly so; its very first letter always begins one.
+bool AWordBeginsNearly(QStringView key, QStringView typed) {
   bool inside = false;
-  for (int at = 0; at < key.size(); ++at) {
+  for (qsizetype at = 0; at < key.size(); ++at) {
     const bool letter = key[at].isLetterOrNumber();
-    if (at == 0 || (letter && !inside)) words.push_back(at);
+    if ((at == 0 || (letter && !inside)) && BeginsNearly(key.mid(at), typed)) return true;
     inside = letter;
   }
-  return words;
+  return false;
 }
 
-Fit FitOf(const QString& key, const std::vector<int>& words, const QString& typed) {
+Fit FitOf(QStringView key, const QString& typed) {
   const qsizetype at = key.indexOf(typed);
   if (at >= 0) return at == 0 ? Fit::Begins : Fit::Inside;
   if (typed.size() < SuggestionIndex::kLeastMisspelt) return Fit::None;
-  for (const int word : words) {
-    if (BeginsNearly(QStringView(key).mid(word), typed)) return Fit::Misspelt;
-  }
-  return Fit::None;
+  return AWordBeginsNearly(key, typed) ? Fit::Misspelt : Fit::None;
+}
+
+// For a heap, which has its greatest on top.
+bool IsWorse(const Match& one, const Match& other) {
+  return other < one;
 }
 
 }  // namespace
@@ -59,34 +60,56 @@ bool BeginsNearly(QStringView text, QStringView typed) {
          rest[1] == typed[at] && rest.mid(2).startsWith(behind.mid(1));
 }
 
-void SuggestionIndex::SetNames(const QStringList& names) {
-  entries_.clear();
-  entries_.reserve(static_cast<size_t>(names.size()));
-  QSet<QString> known;
-  known.reserve(names.size());
-  for (const QString& name : names) {
-    QString key = KeyOf(name);
-    if (key.isEmpty() || known.contains(key)) continue;
-    known.insert(key);
-    std::vector<int> words = WordsOf(key);
-    entries_.push_back({name, std::move(key), std::move(words)});
+// Nearly all letters of nearly all names need no table.
+QString SuggestionIndex::KeyOf(QString name) {
+  QChar* const letters = name.data();
+  for (qsizetype at = 0; at < name.size(); ++at) {
+    const char16_t c = letters[at].unicode();
+    if (c < 128) {
+      if (c >= u'A' && c <= u'Z') letters[at] = QChar(char16_t(c + (u'a' - u'A')));
+    } else {
+      letters[at] = letters[at].toCaseFolded();
+    }
   }
+  return name;
+}
+
+void SuggestionIndex::SetNames(const QStringList& names) {
+  names_ = names;
+  keys_ = KeyOf(names.join(u'\n')) + u'\n';
+  ends_.clear();
+  ends_.reserve(static_cast<size_t>(names.size()));
+  for (qsizetype at = 0; (at = keys_.indexOf(u'\n', at)) >= 0; ++at)
+    ends_.push_back(static_cast<int>(at));
+  names_ = names_.mid(0, static_cast<qsizetype>(ends_.size()));
+}
+
+QStringView SuggestionIndex::KeyAt(int entry) const {
+  const int begin = entry == 0 ? 0 : ends_[static_cast<size_t>(entry) - 1] + 1;
+  return QStringView(keys_).sliced(begin, ends_[static_cast<size_t>(entry)] - begin);
 }
 
 QStringList SuggestionIndex::Matches(const QString& typed, int most, const NameUses& uses) const {
   const QString key = KeyOf(typed);
   if (key.isEmpty()) return {};
   std::vector<Match> found;
-  for (int i = 0; i < static_cast<int>(entries_.size()); ++i) {
-    const Entry& entry = entries_[static_cast<size_t>(i)];
-    const Fit fit = FitOf(entry.key, entry.words, key);
-    if (fit == Fit::None || entry.name == typed) continue;
-    found.push_back({fit, uses.value(entry.key), i});
+  for (int i = 0; i < static_cast<int>(names_.size()); ++i) {
+    const QStringView own = KeyAt(i);
+    const Fit fit = FitOf(own, key);
+    if (fit == Fit::None) continue;
+    found.push_back({fit, uses.value(QString::fromRawData(own.data(), own.size())), i});
   }
-  const auto shown = std::min(found.size(), static_cast<size_t>(std::max(most, 0)));
-  std::partial_sort(found.begin(), found.begin() + static_cast<long>(shown), found.end());
+  std::make_heap(found.begin(), found.end(), IsWorse);
   QStringList names;
-  for (size_t i = 0; i < shown; ++i) names += entries_[static_cast<size_t>(found[i].entry)].name;
+  std::vector<QStringView> keys;
+  while (!found.empty() && names.size() < most) {
+    const int best = found.front().entry;
+    std::pop_heap(found.begin(), found.end(), IsWorse);
+    found.pop_back();
+    if (std::find(keys.begin(), keys.end(), KeyAt(best)) != keys.end()) continue;
+    keys.push_back(KeyAt(best));
+    if (names_[best] != typed) names += names_[best];
+  }
   return names;
 }
 

@@ -5,6 +5,7 @@
 #include "history/history.h"
 #include "program/changedquestion.h"
 #include "program/followers.h"
+#include "program/frontprint.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
 #include "program/pricingadapters.h"
@@ -74,22 +75,21 @@ struct Program::Parts {
               {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs,
                versions}};
   Recovery recovery{kit, {shell, settings, main, bottomLine}};
-  Suggestions suggestions{
-      kit,
-      {{pricing.Description, pricing.DescriptionsList, NameKind::System},
-       {pricing.Units, pricing.UnitsList, NameKind::TakeoffUnit},
-       {pricing.Material, pricing.MaterialsList, NameKind::Material},
-       {pricing.OrderUnits, pricing.oUnitsList, NameKind::OrderUnit},
-       {rooms.Room, rooms.RoomsList, NameKind::Room},
-       {rooms.Description, rooms.DescriptionsList, NameKind::System},
-       {rooms.Area, rooms.AreaList, NameKind::FinishArea},
-       {areas.Area, areas.AreasList, NameKind::FreeArea},
-       {areas.eDescription, areas.DescriptionsList, NameKind::System},
-       {schedule.System, pricing.DescriptionsList, NameKind::System},
-       {schedule.FloorArea, rooms.AreaList, NameKind::FinishArea},
-       {schedule.BaseArea, rooms.AreaList, NameKind::FinishArea},
-       {schedule.WallsArea, rooms.AreaList, NameKind::FinishArea},
-       {schedule.CeilingArea, rooms.AreaList, NameKind::FinishArea}}};
+  Suggestions suggestions{kit,
+                          {{pricing.Description, pricing.DescriptionsList, NameKind::System},
+                           {pricing.Units, pricing.UnitsList, NameKind::TakeoffUnit},
+                           {pricing.Material, pricing.MaterialsList, NameKind::Material},
+                           {pricing.OrderUnits, pricing.oUnitsList, NameKind::OrderUnit},
+                           {rooms.Room, rooms.RoomsList, NameKind::Room},
+                           {rooms.Description, rooms.DescriptionsList, NameKind::System},
+                           {rooms.Area, rooms.AreaList, NameKind::FinishArea},
+                           {areas.Area, areas.AreasList, NameKind::FreeArea},
+                           {areas.eDescription, areas.DescriptionsList, NameKind::System},
+                           {schedule.System, pricing.DescriptionsList, NameKind::System},
+                           {schedule.FloorArea, rooms.AreaList, NameKind::FinishArea},
+                           {schedule.BaseArea, rooms.AreaList, NameKind::FinishArea},
+                           {schedule.WallsArea, rooms.AreaList, NameKind::FinishArea},
+                           {schedule.CeilingArea, rooms.AreaList, NameKind::FinishArea}}};
 };
 
 Program::Program(const Platform& platform, PdfDraw& viewer)
@@ -155,6 +155,9 @@ SharedFields& Program::Shared() {
 }
 PdfDraw& Program::Viewer() {
   return parts_->viewer;
+}
+void Program::PrintFront(Form& form) {
+  tamo::PrintFront(parts_->kit, form);
 }
 Suggestions& Program::GetSuggestions() {
   return parts_->suggestions;

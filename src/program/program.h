@@ -43,6 +43,8 @@ class Program {
   const QString* FindText(const QString& form, const QString& name);
   // As Settings has it; "" for none.
   QString CompanyName() const;
+  // Prints what stands in the window of the form.
+  void PrintFront(Form& form);
   // What is offered under the field that is being typed in.
   Suggestions& GetSuggestions();
   // Shows the plan `path` in the plan window, as one that is typed there.

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "windows/bodyarea.h"
 #include "windows/listbinding.h"
 #include "windows/look.h"
 
@@ -156,6 +157,7 @@ void Display::SyncFocus() {
   QWidget* target = binding == nullptr ? window : &binding->Widget();
   if (now != target || (window->isActiveWindow() && !target->hasFocus()))
     target->setFocus(Qt::OtherFocusReason);
+  if (moved && target != window) BringIntoSight(*target);
 }
 
 void Display::RefocusLater() {

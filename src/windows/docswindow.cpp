@@ -1,3 +1,4 @@
+#include "windows/findbar.h"
 #include "windows/formlayouts.h"
 
 // The help: topics on the left, the text on the right.
@@ -29,6 +30,11 @@ void LayOutDocs(Builder& b) {
                         4 * kGrid);
   text->setPlaceholderText(QStringLiteral("Choose a topic on the left."));
   right->addWidget(text, 1);
+  std::vector<std::unique_ptr<FindPlace>> places;
+  places.push_back(std::make_unique<TextPlace>(*text));
+  auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the manual"));
+  find->OpenByKey(b.Window());
+  right->addWidget(find);
   row->addLayout(right, 1);
   b.Window().Body().addLayout(row, 1);
   b.Window().firstSize = {1120, 680};

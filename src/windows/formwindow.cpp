@@ -2,12 +2,16 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScreen>
+#include <QScrollBar>
+#include <QUrl>
 #include <algorithm>
 
+#include "windows/bodyarea.h"
 #include "windows/look.h"
+#include "windows/windowplaces.h"
 
 namespace tamo {
 namespace {
@@ -65,7 +69,7 @@ FormWindow::FormWindow(Form& form, Display& display)
     : form_(form),
       display_(display),
       menus_(display, form, *this),
-      body_(new QVBoxLayout),
+      body_(nullptr),
       whole_(new QVBoxLayout(this)),
       notice_(new NoticeStrip(this)) {
   setObjectName(form.Name());
@@ -74,16 +78,23 @@ FormWindow::FormWindow(Form& form, Display& display)
   if (menus_.Bar() != nullptr) whole_->setMenuBar(menus_.Bar());
   menuWidth_ = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
   whole_->addItem(menuWidth_);
+  auto* page = new QWidget;
+  body_ = new QVBoxLayout(page);
   body_->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
   body_->setSpacing(kGrid);
-  whole_->addLayout(body_, 1);
+  auto* area = new BodyArea(page);
+  whole_->addWidget(area, 1);
+  // What lies over the window goes with its field.
+  for (const QScrollBar* bar : {area->horizontalScrollBar(), area->verticalScrollBar()})
+    connect(bar, &QScrollBar::valueChanged, this, [this] { display_.MarkFormDirty(form_); });
+  setAcceptDrops(true);
   notice_->hide();
   whole_->addWidget(notice_);
 }
 
 void FormWindow::KeepMenusInSight() {
   if (menus_.Bar() == nullptr) return;
-  const int wanted = std::min(menus_.Bar()->sizeHint().width(), screen()->availableSize().width());
+  const int wanted = std::min(menus_.Bar()->sizeHint().width(), RoomFor(*this).width());
   if (menuWidth_->sizeHint().width() == wanted) return;
   menuWidth_->changeSize(wanted, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
   whole_->invalidate();
@@ -155,6 +166,26 @@ void FormWindow::SetNotice(const QString& text) {
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   display_.GetDesk().CloseBox(form_);
+}
+
+QString DroppedPlan(const QMimeData* data) {
+  if (data == nullptr) return {};
+  for (const QUrl& url : data->urls()) {
+    const QString path = url.toLocalFile();
+    if (path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) return path;
+  }
+  return {};
+}
+
+void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (onPlanDropped && !DroppedPlan(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void FormWindow::dropEvent(QDropEvent* event) {
+  const QString plan = DroppedPlan(event->mimeData());
+  if (plan.isEmpty() || !onPlanDropped) return;
+  event->acceptProposedAction();
+  onPlanDropped(plan);
 }
 
 bool FormWindow::focusNextPrevChild(bool next) {

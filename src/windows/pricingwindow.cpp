@@ -1,3 +1,4 @@
+#include "windows/findbar.h"
 #include "windows/formlayouts.h"
 
 // The price library: the system above, its materials below with the list of them beside the fields,
@@ -179,6 +180,28 @@ QWidget* Side(Builder& b) {
   return side;
 }
 
+// In the list that is open under a field, else in the list of the field in focus, which then opens;
+// without one in the materials of the system.
+FindBar* FindInLists(Builder& b) {
+  std::vector<std::unique_ptr<FindPlace>> places;
+  for (const char* name : {"DescriptionsList", "UnitsList", "MaterialsList", "oUnitsList",
+                           "WagesList", "MaterialList"}) {
+    auto* list = b.Find<OrderedList>(name);
+    auto& view = static_cast<ListBinding*>(b.GetDisplay().Of(*list))->View();
+    places.push_back(std::make_unique<RowsPlace>(view, b.GetDisplay(), list));
+  }
+  auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the library"));
+  find->beforeOpen = [&form = b.GetForm()] {
+    for (Control* control : form.Controls()) {
+      auto* list = dynamic_cast<OrderedList*>(control);
+      if (list == nullptr || list->dropsFrom == nullptr || !list->dropsFrom->HasFocus()) continue;
+      form.GetDesk().Dispatch([list] { list->Show(); });
+    }
+  };
+  find->OpenByKey(b.Window());
+  return find;
+}
+
 }  // namespace
 
 void LayOutPricing(Builder& b) {
@@ -202,6 +225,7 @@ void LayOutPricing(Builder& b) {
   b.DropList("MaterialsList", "Material");
   b.DropList("oUnitsList", "OrderUnits");
   b.DropList("WagesList", "WageRate");
+  b.Window().Body().addWidget(FindInLists(b));
   b.Window().firstSize = {1128, 680};
 }
 

@@ -68,6 +68,16 @@ void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
   }
 }
 
+// A tick of the Office Copy is no place to go to: nothing is chosen here.
+FindBar* Find(Builder& b, std::initializer_list<RowsView*> lists) {
+  std::vector<std::unique_ptr<FindPlace>> places;
+  for (RowsView* list : lists)
+    places.push_back(std::make_unique<RowsPlace>(*list, b.GetDisplay(), nullptr));
+  auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the report"));
+  find->OpenByKey(b.Window());
+  return find;
+}
+
 }  // namespace
 
 void LayOutReports(Builder& b) {
@@ -93,8 +103,7 @@ void LayOutReports(Builder& b) {
   row->addLayout(lists, 1);
   row->addWidget(Figures(b));
   body.addLayout(row, 1);
-  auto* find = new FindBar({reporter, copy}, b.GetDisplay());
-  body.addWidget(find);
+  body.addWidget(Find(b, {reporter, copy}));
   auto* strip = new QHBoxLayout;
   RowsView* notes = b.List("NotesList", QStringLiteral("Notes to the report"), 60, 2);
   notes->linesOfRow = 2;
@@ -108,8 +117,6 @@ void LayOutReports(Builder& b) {
   strip->addWidget(notes, 1);
   strip->addWidget(b.Check("WholeQuantities"), 0, Qt::AlignTop);
   body.addLayout(strip);
-  auto* search = new QShortcut(QKeySequence(QKeySequence::Find), &window);
-  QObject::connect(search, &QShortcut::activated, &window, [find] { find->Open(); });
   LetTypeGrow(window, {reporter, copy});
   window.firstSize = {1080, 700};
 }

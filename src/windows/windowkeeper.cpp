@@ -1,19 +1,19 @@
 #include "windows/windowkeeper.h"
 
-#include <QShortcut>
 #include <QWindow>
 #include <map>
 
+#include "common/paths.h"
 #include "program/program.h"
 #include "reports/reportsform.h"
 #include "schedule/scheduleform.h"
 #include "windows/accessible.h"
 #include "windows/builder.h"
 #include "windows/formlayouts.h"
-#include "windows/helptopics.h"
 #include "windows/reportprogress.h"
 #include "windows/suggestionview.h"
 #include "windows/windowactivation.h"
+#include "windows/windowkeys.h"
 #include "windows/windowplaces.h"
 
 namespace tamo {
@@ -107,21 +107,6 @@ FormWindow& WindowKeeper::WindowOf(const Form& form) {
   return *window;
 }
 
-namespace {
-
-// The entry of the shell that carries the menus.
-void ChooseWhatChanged(Program& program) {
-  for (const char* shell : {"Tamo", "OST"}) {
-    Form* form = program.FindForm(QLatin1String(shell));
-    MenuEntry* entry = form == nullptr ? nullptr : form->FindMenu(QStringLiteral("WhatChanged"));
-    if (entry == nullptr || !entry->Choosable()) continue;
-    program.GetDesk().ChooseMenu(*entry);
-    return;
-  }
-}
-
-}  // namespace
-
 std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
   auto window = std::make_unique<FormWindow>(form, *parts_->display);
   if (!form.Controls().empty()) {
@@ -129,10 +114,7 @@ std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
     LayOut(builder);
   }
   window->Notice().onClick = [this] { parts_->program.TrySavesAgain(); };
-  auto* help = new QShortcut(QKeySequence(Qt::Key_F1), window.get());
-  connect(help, &QShortcut::activated, this, [this, &form] { ShowHelp(parts_->program, form); });
-  auto* changed = new QShortcut(QKeySequence(Qt::Key_F8), window.get());
-  connect(changed, &QShortcut::activated, this, [this] { ChooseWhatChanged(parts_->program); });
+  GiveWindowKeys(*window, parts_->program, askForPlan);
   return window;
 }
 
@@ -159,9 +141,24 @@ bool IsShell(const Form& form) {
   return form.Name() == QLatin1String("Tamo") || form.Name() == QLatin1String("OST");
 }
 
+// The form's caption, and what it is about: windows are told apart in a task bar, too.
+QString TitleOf(const Form& form, const SharedFields& shared) {
+  QStringList title = {form.Caption()};
+  const auto is = [&](const char* name) { return form.Name() == QLatin1String(name); };
+  const bool ofProject = !is("Settings") && !is("Docs");
+  if (ofProject && !shared.JobID.isEmpty())
+    title += (shared.JobID + QLatin1Char(' ') + shared.JobName).trimmed();
+  if (is("OST")) {
+    const auto* plan = dynamic_cast<const TextField*>(form.Find(QStringLiteral("PlanLocation")));
+    if (plan != nullptr && !plan->Empty()) title += FileNameOf(plan->Text());
+  }
+  return title.join(QStringLiteral(" - "));
+}
+
 void ShowFacts(FormWindow& window, const SharedFields& shared, const QString& notice) {
   const Form& form = window.GetForm();
-  if (window.windowTitle() != form.Caption()) window.setWindowTitle(form.Caption());
+  const QString title = TitleOf(form, shared);
+  if (window.windowTitle() != title) window.setWindowTitle(title);
   window.Menus().Apply();
   window.KeepMenusInSight();
   window.SetNotice(notice);

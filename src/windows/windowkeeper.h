@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 #include <memory>
 
 #include "common/form.h"
@@ -28,6 +29,9 @@ class WindowKeeper : public QObject {
   explicit WindowKeeper(Program& program, PlanPictures* pictures = nullptr,
                         const QString& placesFile = {});
   ~WindowKeeper() override;
+
+  // Asks the estimator for a plan, "" for none; as it stands, by the system's own dialog.
+  std::function<QString(QWidget* over)> askForPlan;
 
   // Brings every widget and window to the state of its control and form, at once. It is done by
   // itself after each event of the Desk; after this call nothing is left to do, and what the window

@@ -1,0 +1,64 @@
+#include "windows/bodyarea.h"
+
+#include <QKeyEvent>
+#include <QLayout>
+#include <algorithm>
+
+#include "windows/look.h"
+#include "windows/windowplaces.h"
+
+namespace tamo {
+namespace {
+
+constexpr int kLeast = 20 * kGrid;
+
+// The window's own menus and foot, which never scroll.
+int HeightOfTheRest(const QWidget& area) {
+  const QLayout* layout = area.window()->layout();
+  if (layout == nullptr) return 0;
+  int rest = layout->menuBar() == nullptr ? 0 : layout->menuBar()->sizeHint().height();
+  for (int i = 0; i < layout->count(); ++i) {
+    const QWidget* part = layout->itemAt(i)->widget();
+    if (part != nullptr && part != &area && !part->isHidden()) rest += part->sizeHint().height();
+  }
+  return rest;
+}
+
+}  // namespace
+
+BodyArea::BodyArea(QWidget* contents) {
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setWidgetResizable(true);
+  setWidget(contents);
+}
+
+QSize BodyArea::minimumSizeHint() const {
+  const QSize whole = widget()->minimumSizeHint();
+  const QSize room = RoomFor(*window());
+  const QSize own(room.width(), room.height() - HeightOfTheRest(*this));
+  if (whole.width() <= own.width() && whole.height() <= own.height()) return whole;
+  return whole.boundedTo(own).expandedTo(QSize(kLeast, kLeast)).boundedTo(whole);
+}
+
+QSize BodyArea::sizeHint() const {
+  return widget()->sizeHint();
+}
+
+bool BodyArea::eventFilter(QObject* object, QEvent* event) {
+  if (object == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  return QScrollArea::eventFilter(object, event);
+}
+
+// The keys are the form's.
+void BodyArea::keyPressEvent(QKeyEvent* event) {
+  event->ignore();
+}
+
+void BringIntoSight(QWidget& widget) {
+  for (QWidget* at = widget.parentWidget(); at != nullptr; at = at->parentWidget()) {
+    if (auto* area = dynamic_cast<BodyArea*>(at)) return area->ensureWidgetVisible(&widget);
+  }
+}
+
+}  // namespace tamo
