@@ -57,7 +57,14 @@ void BodyArea::keyPressEvent(QKeyEvent* event) {
 
 void BringIntoSight(QWidget& widget) {
   for (QWidget* at = widget.parentWidget(); at != nullptr; at = at->parentWidget()) {
-    if (auto* area = dynamic_cast<BodyArea*>(at)) return area->ensureWidgetVisible(&widget);
+    auto* area = dynamic_cast<BodyArea*>(at);
+    if (area == nullptr) continue;
+    // All of it; where it is larger than the window, its beginning.
+    const QPoint corner = widget.mapTo(area->widget(), QPoint());
+    const QPoint end = corner + QPoint(widget.width(), widget.height());
+    area->ensureVisible(end.x(), end.y(), kGrid, kGrid);
+    area->ensureVisible(corner.x(), corner.y(), kGrid, kGrid);
+    return;
   }
 }
 

@@ -31,7 +31,7 @@ void LayOutDocs(Builder& b) {
   text->setPlaceholderText(QStringLiteral("Choose a topic on the left."));
   right->addWidget(text, 1);
   std::vector<std::unique_ptr<FindPlace>> places;
-  places.push_back(std::make_unique<TextPlace>(*text));
+  places.push_back(std::make_unique<FindInText>(*text));
   auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the manual"));
   find->OpenByKey(b.Window());
   right->addWidget(find);

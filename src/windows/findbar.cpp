@@ -32,6 +32,7 @@ FindBar::FindBar(std::vector<std::unique_ptr<FindPlace>> places, Display& displa
   edit_->setAccessibleName(QStringLiteral("Find in ") + what);
   edit_->setMaximumWidth(40 * kGrid);
   edit_->installEventFilter(this);
+  result_->setObjectName(QStringLiteral("FindResult"));
   result_->setFont(PromptFont());
   result_->setProperty("role", QStringLiteral("prompt"));
   line->addWidget(caption);

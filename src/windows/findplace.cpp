@@ -7,24 +7,24 @@
 
 namespace tamo {
 
-bool RowsPlace::Choose(int row) {
+bool FindInRows::Choose(int row) {
   if (list_ == nullptr || row < 0 || row >= list_->Count() || !(list_->onSelect || list_->onClick))
     return false;
   display_.GetDesk().ClickRow(*list_, row);
   return true;
 }
 
-ListRows TextPlace::Rows() const {
+ListRows FindInText::Rows() const {
   return {edit_.toPlainText().split(u'\n')};
 }
 
-void TextPlace::Mark(const QString& text) {
+void FindInText::Mark(const QString& text) {
   text_ = text;
   row_ = -1;
   ShowMarks();
 }
 
-void TextPlace::GoTo(int row) {
+void FindInText::GoTo(int row) {
   row_ = row;
   ShowMarks();
   const QTextBlock block = edit_.document()->findBlockByNumber(row);
@@ -36,7 +36,7 @@ void TextPlace::GoTo(int row) {
 }
 
 // The caret stays where the reader left it: only the paint tells.
-void TextPlace::ShowMarks() {
+void FindInText::ShowMarks() {
   const Look& look = CurrentLook();
   QList<QTextEdit::ExtraSelection> marks;
   if (row_ >= 0) {

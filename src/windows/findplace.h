@@ -21,9 +21,9 @@ class FindPlace {
   }  // as a click on it; false where that means nothing
 };
 
-class RowsPlace : public FindPlace {
+class FindInRows : public FindPlace {
  public:
-  RowsPlace(RowsView& view, Display& display, OrderedList* list)
+  FindInRows(RowsView& view, Display& display, OrderedList* list)
       : view_(view), display_(display), list_(list) {}
   bool Visible() const override { return view_.isVisible(); }
   ListRows Rows() const override { return view_.Model().Rows(); }
@@ -37,9 +37,9 @@ class RowsPlace : public FindPlace {
   OrderedList* list_;
 };
 
-class TextPlace : public FindPlace {
+class FindInText : public FindPlace {
  public:
-  explicit TextPlace(QPlainTextEdit& edit) : edit_(edit) {}
+  explicit FindInText(QPlainTextEdit& edit) : edit_(edit) {}
   bool Visible() const override { return edit_.isVisible(); }
   ListRows Rows() const override;
   void Mark(const QString& text) override;

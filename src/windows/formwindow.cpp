@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QStyle>
 #include <QUrl>
 #include <algorithm>
 
@@ -34,7 +35,29 @@ class LockSign : public QWidget {
   }
 };
 
+// A line of the foot: where the window is narrow its end is left out, and shown on hover.
+class FootLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+  QSize minimumSizeHint() const override { return {4 * kGrid, QLabel::minimumSizeHint().height()}; }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const QString cut = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    setToolTip(cut == text() ? QString() : text());
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
+                          isEnabled(), cut, foregroundRole());
+  }
+};
+
 }  // namespace
+
+QLabel* NewFootLabel(const QString& text) {
+  auto* label = new FootLabel(text);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
 
 NoticeStrip::NoticeStrip(QWidget* parent) : QFrame(parent), text_(new QLabel) {
   setProperty("role", QStringLiteral("notice"));
@@ -119,8 +142,7 @@ QHBoxLayout& FormWindow::StatusLine() {
 void FormWindow::SetStatus(const QString& project, bool locked, const QString& folder) {
   if (projectLabel_ == nullptr) {
     QHBoxLayout& line = StatusLine();
-    projectLabel_ = new QLabel;
-    projectLabel_->setTextFormat(Qt::PlainText);
+    projectLabel_ = NewFootLabel();
     lockLabel_ = new QLabel(QStringLiteral("Locked"));
     lockLabel_->setFont(SectionFont());
     auto* sign = new LockSign;
@@ -130,8 +152,7 @@ void FormWindow::SetStatus(const QString& project, bool locked, const QString& f
     lockLine->setSpacing(kGrid / 2);
     lockLine->addWidget(sign);
     lockLine->addWidget(lockLabel_);
-    folderLabel_ = new QLabel;
-    folderLabel_->setTextFormat(Qt::PlainText);
+    folderLabel_ = NewFootLabel();
     folderLabel_->setProperty("role", QStringLiteral("quiet"));
     line.insertWidget(0, projectLabel_);
     line.insertWidget(1, lock);

@@ -38,6 +38,9 @@ class NoticeStrip : public QFrame {
   QLabel* text_;
 };
 
+// A text in the foot of a window, shortened where there is little room.
+QLabel* NewFootLabel(const QString& text = {});
+
 // The window of one form: its menu bar, what the form's own file lays out in Body(), the strip of
 // saves that are not on the disk, and the status line.
 class FormWindow : public QWidget {

@@ -188,7 +188,7 @@ FindBar* FindInLists(Builder& b) {
                            "WagesList", "MaterialList"}) {
     auto* list = b.Find<OrderedList>(name);
     auto& view = static_cast<ListBinding*>(b.GetDisplay().Of(*list))->View();
-    places.push_back(std::make_unique<RowsPlace>(view, b.GetDisplay(), list));
+    places.push_back(std::make_unique<FindInRows>(view, b.GetDisplay(), list));
   }
   auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the library"));
   find->beforeOpen = [&form = b.GetForm()] {

@@ -72,7 +72,7 @@ void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
 FindBar* Find(Builder& b, std::initializer_list<RowsView*> lists) {
   std::vector<std::unique_ptr<FindPlace>> places;
   for (RowsView* list : lists)
-    places.push_back(std::make_unique<RowsPlace>(*list, b.GetDisplay(), nullptr));
+    places.push_back(std::make_unique<FindInRows>(*list, b.GetDisplay(), nullptr));
   auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the report"));
   find->OpenByKey(b.Window());
   return find;

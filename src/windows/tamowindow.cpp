@@ -69,7 +69,7 @@ FindBar* FindProject(Builder& b) {
   auto* jobs = b.Find<OrderedList>("JobsList");
   auto& view = static_cast<ListBinding*>(b.GetDisplay().Of(*jobs))->View();
   std::vector<std::unique_ptr<FindPlace>> places;
-  places.push_back(std::make_unique<RowsPlace>(view, b.GetDisplay(), jobs));
+  places.push_back(std::make_unique<FindInRows>(view, b.GetDisplay(), jobs));
   auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the projects"));
   find->OpenByKey(b.Window());
   return find;
