@@ -123,6 +123,9 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     return parts.desk.GetMessages().Ask(
         ChangedQuestion({path, mine, theirs}, parts.pricing.MarkupTexts()));
   };
+  parts.settings.onLook = [this] {
+    if (onLook) onLook();
+  };
   parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
   parts.ost.onClose = [&parts] { return parts.shell.CloseOst(); };
 }
@@ -169,6 +172,10 @@ Form* Program::FindForm(const QString& name) {
 const QString* Program::FindText(const QString& form, const QString& name) {
   const Form* found = parts_->desk.Find(form);
   return found == nullptr ? nullptr : found->FindText(name);
+}
+
+QString Program::Look() const {
+  return parts_->settings.Look();
 }
 
 QString Program::CompanyName() const {

@@ -47,6 +47,9 @@ class Program {
   void PrintFront(Form& form);
   // What is offered under the field that is being typed in.
   Suggestions& GetSuggestions();
+  // The look that Settings has chosen: "Light", "Dark", "" for the desktop's.
+  QString Look() const;
+  std::function<void()> onLook;  // another one was chosen
   // Shows the plan `path` in the plan window, as one that is typed there.
   void OpenPlan(const QString& path);
   // For the strip at the foot of every window: what is not saved or can't be read, or else what a

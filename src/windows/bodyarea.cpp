@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QLayout>
+#include <QResizeEvent>
 #include <algorithm>
 
 #include "windows/look.h"
@@ -26,15 +27,35 @@ int HeightOfTheRest(const QWidget& area) {
 
 }  // namespace
 
-BodyArea::BodyArea(QWidget* contents) {
+int BodyPage::heightForWidth(int width) const {
+  return layout() == nullptr ? -1 : layout()->totalMinimumHeightForWidth(width);
+}
+
+BodyArea::BodyArea(BodyPage* contents) {
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::NoFocus);
   setWidgetResizable(true);
   setWidget(contents);
 }
 
+// Prompts that run over several lines are as high as the width makes them.
+QSize BodyArea::WholeSize() const {
+  QSize whole = widget()->minimumSizeHint();
+  const QLayout* layout = widget()->layout();
+  if (layout != nullptr && layout->hasHeightForWidth()) {
+    const int high = layout->totalMinimumHeightForWidth(std::max(whole.width(), width()));
+    whole.setHeight(std::max(whole.height(), high));
+  }
+  return whole;
+}
+
+void BodyArea::resizeEvent(QResizeEvent* event) {
+  QScrollArea::resizeEvent(event);
+  if (event->oldSize().width() != width()) updateGeometry();
+}
+
 QSize BodyArea::minimumSizeHint() const {
-  const QSize whole = widget()->minimumSizeHint();
+  const QSize whole = WholeSize();
   const QSize room = RoomFor(*window());
   const QSize own(room.width(), room.height() - HeightOfTheRest(*this));
   if (whole.width() <= own.width() && whole.height() <= own.height()) return whole;

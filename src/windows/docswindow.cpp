@@ -1,5 +1,6 @@
 #include "windows/findbar.h"
 #include "windows/formlayouts.h"
+#include "windows/topictext.h"
 
 // The help: topics on the left, the text on the right.
 
@@ -10,6 +11,7 @@ void LayOutDocs(Builder& b) {
   auto* left = new QVBoxLayout;
   left->addWidget(Section(QStringLiteral("Topics")));
   RowsView* topics = b.List("MenuList", QStringLiteral("Topics"), 34, 24);
+  topics->contents = true;
   topics->setFixedWidth(topics->sizeHint().width());
   left->addWidget(topics, 1);
   row->addLayout(left);
@@ -25,8 +27,8 @@ void LayOutDocs(Builder& b) {
   line->addWidget(b.PushButton("Command1"));
   right->addLayout(line);
   QPlainTextEdit* text = b.LongField("DocText", QStringLiteral("Text of the topic"));
-  text->setFont(FixedFont());
-  text->setMinimumWidth(QFontMetrics(text->font()).horizontalAdvance(QLatin1Char('0')) * 84 +
+  new TopicText(text->document());
+  text->setMinimumWidth(QFontMetrics(FixedFont()).horizontalAdvance(QLatin1Char('0')) * 84 +
                         4 * kGrid);
   text->setPlaceholderText(QStringLiteral("Choose a topic on the left."));
   right->addWidget(text, 1);

@@ -101,7 +101,7 @@ FormWindow::FormWindow(Form& form, Display& display)
   if (menus_.Bar() != nullptr) whole_->setMenuBar(menus_.Bar());
   menuWidth_ = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
   whole_->addItem(menuWidth_);
-  auto* page = new QWidget;
+  auto* page = new BodyPage;
   body_ = new QVBoxLayout(page);
   body_->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
   body_->setSpacing(kGrid);
@@ -180,7 +180,7 @@ void FormWindow::SetNotice(const QString& text) {
   // A large window has room for it; a small one would be cut.
   constexpr int kRoomy = 700;
   const int strip = std::max(notice_->heightForWidth(width()), notice_->sizeHint().height());
-  const int wanted = heightWithoutNotice_ + strip;
+  const int wanted = std::min(heightWithoutNotice_ + strip, RoomFor(*this).height());
   resize(width(), std::min(wanted, std::max(heightWithoutNotice_, kRoomy)));
 }
 

@@ -1,6 +1,7 @@
 #include <QPointer>
 #include <QShortcut>
 
+#include "reports/lineweight.h"
 #include "reports/reportsform.h"
 #include "windows/findbar.h"
 #include "windows/formlayouts.h"
@@ -91,6 +92,10 @@ void LayOutReports(Builder& b) {
   auto* lists = new QVBoxLayout;
   for (RowsView* list : {reporter, copy}) {
     list->UseFixedColumns();
+    list->isHeavy = [list](int row) {
+      const ListRows& rows = list->Model().Rows();
+      return row == 0 || IsHeavyLine(rows.At(0), rows.At(row));
+    };
     lists->addWidget(list, 1);
   }
   auto* empty = FixedPrompt(QStringLiteral(

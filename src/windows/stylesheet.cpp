@@ -55,6 +55,8 @@ QFrame[role="notice"] { background: @notice; border: none; border-top: 2px solid
 QFrame[role="notice"] QLabel { color: @text; background: transparent; }
 QMenuBar { background: @window; color: @text; padding: 2px 8px; }
 QMenuBar::item { padding: 5px 6px; margin-right: 1px; border-radius: 3px; background: transparent; }
+QToolButton#qt_menubar_ext_button { border: none; padding: 0px; background: @window; }
+QToolButton#qt_menubar_ext_button:hover { background: @ground; }
 QMenuBar::item:selected { background: @ground; border: 1px solid @accent; padding: 4px 5px; }
 QMenu { background: @base; color: @text; border: 1px solid @line; padding: 4px; }
 QMenu::item { padding: 6px 28px 6px 20px; border-radius: 3px; }

@@ -49,18 +49,34 @@ void SuggestionView::PlaceUnder(const QWidget& field, const QWidget* openList) {
   const QWidget& window = *parentWidget();
   const int row = std::max(names_->sizeHintForRow(0), names_->fontMetrics().height());
   names_->setFixedHeight(names_->count() * row + 2 * names_->frameWidth() + 4);
-  const int wanted =
-      std::max({field.width(), keys_->sizeHint().width() + 2, names_->sizeHintForColumn(0) + 24});
-  const int width = std::min(wanted, window.width());
-  const int height = names_->height() + keys_->sizeHint().height() + 2;
-  QPoint corner = field.mapTo(&window, QPoint(0, field.height()));
-  if (openList != nullptr) corner.rx() += openList->width() + 2;
-  if (openList != nullptr && corner.x() + width > window.width())
-    corner.setX(openList->x() - width - 2);
-  corner.setX(std::clamp(corner.x(), 0, std::max(0, window.width() - width)));
-  const int above = field.mapTo(&window, QPoint()).y() - height;
-  if (corner.y() + height > window.height() && above >= 0) corner.setY(above);
-  setGeometry(QRect(corner, QSize(width, height)));
+  const int needed =
+      std::max(keys_->sizeHint().width() + 2, names_->sizeHintForColumn(0) + 3 * kGrid);
+  QRect place(
+      field.mapTo(&window, QPoint(0, field.height())),
+      QSize(std::max(field.width(), needed), names_->height() + keys_->sizeHint().height() + 2));
+  if (openList != nullptr) place = Beside(openList->geometry(), place, needed);
+  place.setWidth(std::min(place.width(), window.width()));
+  place.moveLeft(std::clamp(place.x(), 0, window.width() - place.width()));
+  const int above = field.mapTo(&window, QPoint()).y() - place.height();
+  if (place.bottom() >= window.height() && above >= 0) place.moveTop(above);
+  setGeometry(place);
+}
+
+// To the right of the list, as far as there is room; else to its left; else over its end.
+QRect SuggestionView::Beside(const QRect& list, QRect place, int needed) const {
+  constexpr int kLeast = 18 * kGrid;
+  const int right = parentWidget()->width() - list.right() - 3;
+  place.setWidth(needed);
+  place.moveLeft(list.right() + 3);
+  if (right >= needed) return place;
+  if (list.left() - 2 >= needed) {
+    place.moveRight(list.left() - 2);
+  } else if (right >= kLeast) {
+    place.setWidth(right);
+  } else {
+    place.moveRight(list.right());
+  }
+  return place;
 }
 
 namespace {

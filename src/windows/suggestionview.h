@@ -24,6 +24,8 @@ class SuggestionView : public QFrame {
   std::function<void(int row)> onTake;
 
  private:
+  QRect Beside(const QRect& list, QRect place, int needed) const;
+
   QListWidget* names_;
   QLabel* keys_;
 };
