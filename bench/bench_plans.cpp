@@ -14,8 +14,9 @@
 #include <memory>
 
 #include "common/files.h"
-#include "plans/mupdfengine.h"
+#include "engine/mupdfengine.h"
 #include "plans/pdfdraw.h"
+#include "plans/workerengine.h"
 
 namespace {
 
@@ -36,11 +37,17 @@ QString PlanPath(const char* name) {
   return folder + QLatin1Char('/') + QLatin1String(name);
 }
 
+// As the program does it, in a process of its own; with TAMO_PLANS_HERE in this one, to compare.
+std::unique_ptr<PlanEngine> NewEngine() {
+  if (qEnvironmentVariableIsSet("TAMO_PLANS_HERE")) return std::make_unique<MuPdfEngine>();
+  return std::make_unique<WorkerEngine>(TAMO_ENGINE);
+}
+
 struct Viewer {
   RealDisk disk;
   Files files{disk};
-  MuPdfEngine engine;
-  std::unique_ptr<PdfDraw> draw = std::make_unique<PdfDraw>(files, engine);
+  std::unique_ptr<PlanEngine> engine = NewEngine();
+  std::unique_ptr<PdfDraw> draw = std::make_unique<PdfDraw>(files, *engine);
 };
 
 PlanView Window(int left, int top) {

@@ -6,8 +6,8 @@
 
 #include "common/memory.h"
 #include "common/paths.h"
-#include "plans/mupdfengine.h"
 #include "plans/pdfdraw.h"
+#include "plans/workerengine.h"
 #include "program/program.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
@@ -58,7 +58,7 @@ class StartedProgram {
   DeskClipboard clipboard_;
   Platform platform_;
   Files files_;
-  MuPdfEngine engine_;
+  WorkerEngine engine_{TAMO_ENGINE};
   PdfDraw viewer_;
   Program program_;
   WindowKeeper windows_;

@@ -28,7 +28,7 @@ find_package_handle_standard_args(MuPDF REQUIRED_VARS MuPDF_LIBRARY MuPDF_THIRD_
 if(MuPDF_FOUND AND NOT TARGET MuPDF::MuPDF)
   find_package(Threads REQUIRED)
   add_library(MuPDF::MuPDF INTERFACE IMPORTED)
-  # See src/plans/mupdfjpx.cpp.
+  # See src/engine/mupdfjpx.cpp.
   target_link_options(MuPDF::MuPDF INTERFACE LINKER:--wrap=fz_load_jpx LINKER:--undefined=__wrap_fz_load_jpx)
   target_include_directories(MuPDF::MuPDF SYSTEM INTERFACE ${MuPDF_INCLUDE_DIR})
   target_link_libraries(MuPDF::MuPDF INTERFACE ${MuPDF_LIBRARY} ${MuPDF_THIRD_LIBRARY} ${MuPDF_needs}

@@ -16,6 +16,7 @@
 #include <set>
 
 #include "common/failure.h"
+#include "common/filedescriptor.h"
 #include "common/filelook.h"
 
 // Plain system calls: every write, sync and rename is checked, nothing is buffered behind our back.
@@ -71,6 +72,7 @@ class RealReader : public FileReader {
   RealReader(const RealReader&) = delete;
   RealReader& operator=(const RealReader&) = delete;
 
+  int Descriptor() const { return handle_; }
   qint64 Size() const override { return size_; }
   int ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const override {
     got = 0;
@@ -124,6 +126,11 @@ bool IsLocal(dev_t device, const QByteArray& name) {
 }
 
 }  // namespace
+
+int DescriptorOf(const FileReader& reader) {
+  const auto* real = dynamic_cast<const RealReader*>(&reader);
+  return real == nullptr ? -1 : real->Descriptor();
+}
 
 int RealDisk::OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) {
   const int handle = ::open(Native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);

@@ -14,7 +14,6 @@ constexpr double kCoarseStep = 9;   // points, an eighth of an inch of paper
 constexpr double kFineStep = 0.5;   // a 144th
 constexpr double kScrollStep = 36;  // half an inch
 constexpr double kClickReach = 2;   // points the hand may shake within a click
-constexpr double kEighthTurn = 0.78539816339744830962;
 
 bool Sane(PagePoint at) {
   return std::isfinite(at.x) && std::isfinite(at.y) && std::abs(at.x) < 1e6 && std::abs(at.y) < 1e6;
@@ -42,6 +41,7 @@ void DrawingBoard::ClearBoard() {
   unitName_ = QStringLiteral("feet");
   line_ = LineState::None;
   work_ = {};
+  DropOutline();
   DropBox();
   if (tool_ != PlanTool::None) PickTool(PlanTool::None);
 }
@@ -72,12 +72,11 @@ void DrawingBoard::SetCheckNext(bool check) {
 }
 
 double DrawingBoard::PaperLength() const {
-  const double inches = Distance(work_.from, work_.to) / 72;
-  if (unit_ == PaperUnit::Centimetres) return inches * 2.54;
-  return unit_ == PaperUnit::Millimetres ? inches * 25.4 : inches;
+  return InPaperUnit(Distance(work_.from, work_.to), unit_);
 }
 
 void DrawingBoard::ScaleChanged() {
+  if (OutlineActive()) MeasureOutline();
   if (!work_.active) return;
   double length = PaperLength();
   QString label = UnitInWords(unit_);
@@ -91,15 +90,7 @@ void DrawingBoard::ScaleChanged() {
 // With Shift the line keeps to steps of 45 degrees: it ends at the foot of the pointer on the
 // nearest of those directions.
 PagePoint DrawingBoard::LineEnd(PagePoint at, bool shift) const {
-  if (!shift) return at;
-  const PagePoint from = work_.from;
-  const double dx = at.x - from.x;
-  const double dy = at.y - from.y;
-  const auto eighth = static_cast<int>(std::lround(std::atan2(dy, dx) / kEighthTurn));
-  if (eighth % 4 == 0) return {at.x, from.y};
-  if (eighth % 2 == 0) return {from.x, at.y};
-  const double along = (std::abs(dx) + std::abs(dy)) / 2;
-  return {from.x + std::copysign(along, dx), from.y + std::copysign(along, dy)};
+  return shift ? OnEighthTurn(work_.from, at) : at;
 }
 
 void DrawingBoard::BeginLine(PagePoint at) {
@@ -120,6 +111,11 @@ void DrawingBoard::DropLine() {
   line_ = LineState::None;
   work_.active = false;
   Repaint();
+}
+
+void DrawingBoard::DropWork() {
+  DropLine();
+  DropOutline();
 }
 
 void DrawingBoard::EndLine() {
@@ -143,7 +139,7 @@ void DrawingBoard::EndLine() {
 // --- The tools
 
 void DrawingBoard::PickTool(PlanTool tool) {
-  DropLine();
+  DropWork();
   if (tool != PlanTool::None && !MayMark()) tool = PlanTool::None;
   Raise(onBeforeModeChange);
   tool_ = tool;
@@ -162,6 +158,7 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
   }
   if (tool_ != PlanTool::None && !MayMark()) return PickTool(PlanTool::None);
   if (tool_ == PlanTool::Counting) AddMark(NewMark(Mark::Kind::Circle, {at}));
+  if (DrawsOutlines(tool_)) return PressOutline(tool_, at, shift);
   if (tool_ != PlanTool::Measuring) return;
   if (line_ == LineState::Placed) {
     line_ = LineState::Closing;
@@ -175,6 +172,7 @@ void DrawingBoard::Move(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   crossHair_ = at;
   if (boxing_) return StretchBox(at);
+  if (OutlineActive()) return MoveOutline(at, shift);
   if (line_ != LineState::None) {
     MoveLine(LineEnd(at, shift));
   } else if (tool_ != PlanTool::None) {
@@ -185,6 +183,7 @@ void DrawingBoard::Move(PagePoint at, bool shift) {
 void DrawingBoard::Release(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   if (boxing_) return DrawBox(boxFrom_, at);
+  if (OutlineActive()) return ReleaseOutline(at);
   if (line_ == LineState::None) return;
   work_.to = LineEnd(at, shift);
   if (line_ == LineState::Dragging && Distance(work_.from, work_.to) <= kClickReach) {
@@ -204,6 +203,20 @@ void DrawingBoard::DrawLine(PagePoint from, PagePoint to) {
   Press(from, false);
   Move(to, false);
   if (line_ != LineState::None) EndLine();
+}
+
+// The first press of the two has set its point.
+void DrawingBoard::DoubleClick(PagePoint at, bool shift) {
+  if (OutlineActive()) return EndOutline();
+  Press(at, shift);
+}
+
+void DrawingBoard::DrawOutline(PlanTool tool, const std::vector<PagePoint>& points) {
+  if (!DrawsOutlines(tool) || !std::all_of(points.begin(), points.end(), Sane)) return;
+  if (tool_ != tool) PickTool(tool);
+  DropOutline();
+  for (const PagePoint at : points) Press(at, false);
+  if (OutlineActive()) EndOutline();
 }
 
 void DrawingBoard::PlaceCircle(PagePoint at) {
@@ -264,6 +277,7 @@ void DrawingBoard::PressSpace(bool shift) {
 }
 
 void DrawingBoard::Key(const PlanStroke& stroke) {
+  if (TakeOutlineKey(stroke.key)) return;
   switch (stroke.key) {
     case PlanKey::Left:
     case PlanKey::Right:
@@ -286,6 +300,8 @@ void DrawingBoard::Key(const PlanStroke& stroke) {
       return;
     case PlanKey::Redo:
       Redo();
+      return;
+    case PlanKey::Arc:
       return;
   }
 }

@@ -3,8 +3,7 @@
 #include <QString>
 #include <optional>
 
-#include "plans/markedsheets.h"
-#include "plans/paperunit.h"
+#include "plans/outlineboard.h"
 #include "plans/plankey.h"
 
 namespace tamo {
@@ -28,7 +27,7 @@ struct DrawnBox {
 
 // The tools: what the mouse and the keys draw and measure on the sheets. Places in points on the
 // current page.
-class DrawingBoard : public MarkedSheets {
+class DrawingBoard : public OutlineBoard {
  public:
   // --- Measuring
   // A whole number, a fraction, or a whole number, a blank and a fraction: "1 1/2" gives 1.5.
@@ -37,7 +36,7 @@ class DrawingBoard : public MarkedSheets {
   void SetUnitName(const QString& name);  // does not change the unit
   QString UnitName() const { return unitName_; }
   void SetUnit(PaperUnit unit);
-  PaperUnit Unit() const { return unit_; }
+  PaperUnit Unit() const override { return unit_; }
   // The next line is a check: it raises onLineChecked instead of onLineMeasured and leaves no mark.
   void SetCheckNext(bool check);
   bool CheckNext() const { return work_.check; }
@@ -51,9 +50,12 @@ class DrawingBoard : public MarkedSheets {
   void Press(PagePoint at, bool shift);
   void Move(PagePoint at, bool shift);
   void Release(PagePoint at, bool shift);
+  void DoubleClick(PagePoint at, bool shift);  // its second press
   void Key(const PlanStroke& stroke);
   void DrawLine(PagePoint from, PagePoint to);  // the whole line; takes the tool first
   void PlaceCircle(PagePoint at);               // takes the tool first
+  // The whole outline, with one of the tools that draw them; takes the tool first.
+  void DrawOutline(PlanTool tool, const std::vector<PagePoint>& points);
 
   // A box around a table: the next drag draws it, whatever tool is in hand. It stays until the next
   // box, another plan or Escape.
@@ -72,7 +74,7 @@ class DrawingBoard : public MarkedSheets {
   // A plan is put on the board: inches, feet, no tool in hand, no line in work.
   void ClearBoard();
   void CentreCrossHair();
-  void LeavePage() override { DropLine(); }
+  void LeavePage() override { DropWork(); }
   // Whether this plan may be marked; asks the user where it has to be asked.
   virtual bool MayMark() { return true; }
 
@@ -81,6 +83,7 @@ class DrawingBoard : public MarkedSheets {
   void MoveLine(PagePoint to);
   void EndLine();
   void DropLine();
+  void DropWork();  // the line and the outline
   void MoveCrossHair(const PlanStroke& stroke);
   void PressArrow(const PlanStroke& stroke);
   void PressSpace(bool shift);

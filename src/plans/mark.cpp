@@ -5,6 +5,31 @@
 
 namespace tamo {
 
+bool IsOutline(Mark::Kind kind) {
+  return kind == Mark::Kind::Area || kind == Mark::Kind::Perimeter || kind == Mark::Kind::CutOut;
+}
+
+bool FitsKind(Mark::Kind kind, size_t points) {
+  if (kind == Mark::Kind::Circle) return points == 1;
+  if (kind == Mark::Kind::Line) return points == 2;
+  return points >= (IsOutline(kind) ? 3U : 2U) && points <= kMostMarkPoints;
+}
+
+bool IsSurface(Mark::Kind kind) {
+  return kind == Mark::Kind::Area || kind == Mark::Kind::CutOut;
+}
+
+QString KindInWords(Mark::Kind kind) {
+  static const char* const words[] = {"Line", "Count", "Polyline", "Area", "Perimeter", "Cut-out"};
+  return QLatin1String(words[static_cast<int>(kind)]);
+}
+
+double ValueOfMark(const Mark& mark) {
+  if (mark.kind == Mark::Kind::Circle) return 1;
+  const QString number = mark.label.section(QLatin1Char(' '), 0, 0);
+  return QString(number).remove(QLatin1Char(',')).toDouble();
+}
+
 QString LengthText(double length) {
   if (!std::isfinite(length) || std::abs(length) > 1e14) return QStringLiteral("0.0");
   // Rounding works on the 15 digits a person would see, so 0.25 and 2.45 go up as on paper.

@@ -18,9 +18,11 @@ struct PageSize {
   double height = 792;
 };
 
-// One mark on a plan: a measured line (two points) or a counting circle (its centre).
+// One mark on a plan: a measured line (two points), a counting circle (its centre), a way along
+// several points, or a closed outline that says its area, its perimeter, or what is cut out of an
+// area (a negative area).
 struct Mark {
-  enum class Kind { Line, Circle };
+  enum class Kind { Line, Circle, Polyline, Area, Perimeter, CutOut };
   Kind kind = Kind::Line;
   int page = 1;  // from 1
   std::vector<PagePoint> points;
@@ -29,6 +31,15 @@ struct Mark {
   QString label;                                 // as it stands on the plan: 10.0 feet @ 1/4"=1'
   QString name;  // the mark's own name inside the file; empty until it has one
 };
+
+// More points than anybody sets; a mark of a file that has more is no mark of this program.
+inline constexpr size_t kMostMarkPoints = 10000;
+bool IsOutline(Mark::Kind kind);                // closed: area, perimeter, cut-out
+bool FitsKind(Mark::Kind kind, size_t points);  // a mark of this kind can have so many points
+bool IsSurface(Mark::Kind kind);                // says square feet: area and cut-out
+// What a mark is called, and what it says as a number: 350 for "350.0 sq ft @ 1/4"=1'".
+QString KindInWords(Mark::Kind kind);
+double ValueOfMark(const Mark& mark);
 
 // The length as the plan and the takeoff show it: one decimal, a comma at the thousands
 // ("1,500.0"). Half goes up; a length that is no finite number gives "0.0".

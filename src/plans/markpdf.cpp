@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "plans/markshape.h"
+#include "plans/outline.h"
 #include "plans/pdfappend.h"
 
 namespace tamo {
@@ -78,23 +79,47 @@ QByteArray CirclePart(PagePoint centre, double radius) {
          curve(x + k, y - r, x + r, y - k, x + r, y) + "s\n";
 }
 
-// How a reader measures along the line: units of the label for one own unit of the page.
-QByteArray Measure(const Mark& mark, double unit) {
-  const qsizetype blank = mark.label.indexOf(QLatin1Char(' '));
-  const double length = QString(mark.label.left(blank)).remove(QLatin1Char(',')).toDouble();
-  const double drawn = Distance(mark.points.front(), mark.points.back()) / unit;
-  QString name = blank < 0 ? QString() : mark.label.mid(blank + 1);
-  QString ratio = name;
-  if (const qsizetype at = name.indexOf(QLatin1String(" @ ")); at >= 0) {
-    ratio = name.mid(at + 3);
-    name.truncate(at);
+// What the mark says, in words behind its number, and at what scale.
+struct LabelParts {
+  QString unit;
+  QString ratio;
+};
+
+LabelParts PartsOf(const QString& label) {
+  const qsizetype blank = label.indexOf(QLatin1Char(' '));
+  LabelParts parts;
+  parts.unit = blank < 0 ? QString() : label.mid(blank + 1);
+  parts.ratio = parts.unit;
+  if (const qsizetype at = parts.unit.indexOf(QLatin1String(" @ ")); at >= 0) {
+    parts.ratio = parts.unit.mid(at + 3);
+    parts.unit.truncate(at);
   }
-  if (name == QLatin1String("feet")) name = QStringLiteral("ft");
-  const double factor = drawn > 0 && length > 0 ? length / drawn : unit / 72;
-  const QByteArray format = "[<</Type/NumberFormat/U" + PdfText(name) + "/C " +
-                            QByteArray::number(factor, 'f', 8) + "/D 10/F/D>>]";
-  return "/Measure<</Type/Measure/Subtype/RL/R" + PdfText(ratio) + "/X" + format + "/D" + format +
-         "/A" + format + ">>";
+  if (parts.unit.startsWith(QLatin1String("sq "))) parts.unit.remove(0, 3);
+  if (parts.unit == QLatin1String("feet")) parts.unit = QStringLiteral("ft");
+  return parts;
+}
+
+// Units of the label for one own unit of the page.
+double UnitsOfOne(const Mark& mark, double unit) {
+  const double value = std::abs(ValueOfMark(mark));
+  const double drawn = IsSurface(mark.kind)
+                           ? std::sqrt(OutlineArea(mark.points)) / unit
+                           : OutlineLength(mark.points, IsOutline(mark.kind)) / unit;
+  const double said = IsSurface(mark.kind) ? std::sqrt(value) : value;
+  return drawn > 0 && said > 0 ? said / drawn : unit / 72;
+}
+
+// How a reader measures the mark. The page's own units become those of the label along X; lengths
+// and areas are in these.
+QByteArray Measure(const Mark& mark, double unit) {
+  const LabelParts parts = PartsOf(mark.label);
+  const auto format = [](const QString& name, double factor) {
+    return "[<</Type/NumberFormat/U" + PdfText(name) + "/C " + QByteArray::number(factor, 'f', 8) +
+           "/D 10/F/D>>]";
+  };
+  return "/Measure<</Type/Measure/Subtype/RL/R" + PdfText(parts.ratio) + "/X" +
+         format(parts.unit, UnitsOfOne(mark, unit)) + "/D" + format(parts.unit, 1) + "/A" +
+         format(QStringLiteral("sq ") + parts.unit, 1) + ">>";
 }
 
 QByteArray Common(const Mark& mark, double width, const Box& box) {
@@ -106,7 +131,64 @@ QByteArray Common(const Mark& mark, double width, const Box& box) {
          "/S/S>>/T(Tamo)/M" + date + "/CreationDate" + date;
 }
 
+void TakeStrokes(const MarkShape& shape, const PageMap& map, double width, Box& box,
+                 QByteArray& content) {
+  for (const MarkShape::Stroke& stroke : shape.strokes) {
+    const PagePoint from = map.ToFile(stroke.from);
+    const PagePoint to = map.ToFile(stroke.to);
+    box.Take(from, width);
+    box.Take(to, width);
+    content += Pair(from) + " m " + Pair(to) + " l S\n";
+  }
+}
+
+// The way along the points of a polyline or an outline: its light fill, then its line.
+QByteArray WayPart(const MarkShape& shape, const PageMap& map, Box& box, double width) {
+  if (shape.way.empty()) return {};
+  QByteArray way;
+  for (const PagePoint at : shape.way) {
+    const PagePoint own = map.ToFile(at);
+    box.Take(own, width);
+    way += Pair(own) + (way.isEmpty() ? " m\n" : " l\n");
+  }
+  if (shape.closed) way += "h\n";
+  QByteArray part = "1 j\n";
+  if (shape.filled) part += "q /Light gs\n" + way + "f\nQ\n";
+  if (shape.dashed) part += '[' + PdfNumber(kMarkDash / map.Unit()) + "] 0 d\n";
+  return part + way + "S\n";
+}
+
+QByteArray FillState(const MarkShape& shape) {
+  if (!shape.filled) return {};
+  return "/ExtGState<</Light<</Type/ExtGState/ca " + PdfNumber(kMarkFill) + ">>>>";
+}
+
+// What kind of annotation it is, and its places in the page's own coordinates.
+QByteArray Places(const Mark& mark, const PageMap& map) {
+  QByteArray places;
+  for (const PagePoint at : mark.points) places += Pair(map.ToFile(at)) + ' ';
+  places = '[' + places.trimmed() + ']';
+  if (mark.kind == Mark::Kind::Line)
+    return "/Subtype/Line/L" + places + "/LE[/Butt/Butt]/IT/LineDimension/Cap true";
+  if (mark.kind == Mark::Kind::Polyline)
+    return "/Subtype/PolyLine/Vertices" + places + "/IT/PolyLineDimension";
+  return "/Subtype/Polygon/Vertices" + places + "/IT/PolygonDimension/Subj(" +
+         SubjectOf(mark.kind) + ')';
+}
+
 }  // namespace
+
+const char* SubjectOf(Mark::Kind kind) {
+  if (kind == Mark::Kind::Perimeter) return "Perimeter";
+  return kind == Mark::Kind::CutOut ? "Cut-out" : "Area";
+}
+
+Mark::Kind OutlineOfSubject(const QString& subject) {
+  for (const Mark::Kind kind : {Mark::Kind::Perimeter, Mark::Kind::CutOut}) {
+    if (subject == QLatin1String(SubjectOf(kind))) return kind;
+  }
+  return Mark::Kind::Area;
+}
 
 PagePoint PageMap::ToFile(PagePoint at) const {
   const double whole = a * d - b * c;
@@ -135,24 +217,18 @@ MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
     objects.formContent += CirclePart(centre, radius);
     objects.annotation = "/Subtype/Circle/Contents" + PdfText(QStringLiteral("Count"));
   } else {
-    for (const MarkShape::Stroke& stroke : shape.strokes) {
-      const PagePoint from = map.ToFile(stroke.from);
-      const PagePoint to = map.ToFile(stroke.to);
-      box.Take(from, width);
-      box.Take(to, width);
-      objects.formContent += Pair(from) + " m " + Pair(to) + " l S\n";
-    }
+    TakeStrokes(shape, map, width, box, objects.formContent);
+    objects.formContent += WayPart(shape, map, box, width);
     TakeText(shape, map, box);
     objects.formContent += ColourParts(ReadableOnWhite(ColourNumber(mark.colour))) + " rg\n";
     objects.formContent += TextPart(shape, map);
-    objects.annotation = "/Subtype/Line/L[" + Pair(map.ToFile(mark.points.front())) + ' ' +
-                         Pair(map.ToFile(mark.points.back())) +
-                         "]/LE[/Butt/Butt]/IT/LineDimension/Cap true/Contents" +
-                         PdfText(mark.label) + Measure(mark, map.Unit());
+    objects.annotation =
+        Places(mark, map) + "/Contents" + PdfText(mark.label) + Measure(mark, map.Unit());
   }
   objects.annotation += Common(mark, width, box);
-  objects.formEntries = "/Type/XObject/Subtype/Form/BBox" + box.Text() +
-                        "/Resources<</Font<</F1<</Type/Font/Subtype/Type1/BaseFont/Helvetica"
+  objects.formEntries = "/Type/XObject/Subtype/Form/BBox" + box.Text() + "/Resources<<" +
+                        FillState(shape) +
+                        "/Font<</F1<</Type/Font/Subtype/Type1/BaseFont/Helvetica"
                         "/Encoding/WinAnsiEncoding>>>>>>";
   return objects;
 }

@@ -16,8 +16,8 @@ struct PageMap {
   double Unit() const;                   // points of one own unit: the page's user unit
 };
 
-// The two objects of a mark in a PDF: the annotation, a Line or a Circle any reader knows, and the
-// form that shows it.
+// The two objects of a mark in a PDF: the annotation, a Line, Circle, PolyLine or Polygon any
+// reader knows, and the form that shows it.
 struct MarkObjects {
   QByteArray annotation;   // without its page and its form, see MarkAnnotation
   QByteArray formEntries;  // dictionary entries of the form, without /Length
@@ -25,6 +25,10 @@ struct MarkObjects {
 };
 
 MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map);
+
+// What the annotation of a closed outline says that it is, and what outline a text stands for.
+const char* SubjectOf(Mark::Kind kind);
+Mark::Kind OutlineOfSubject(const QString& subject);
 
 // The whole dictionary of the annotation: on page object `page`, shown by form object `form`.
 QByteArray MarkAnnotation(const MarkObjects& objects, const QByteArray& page, int form);

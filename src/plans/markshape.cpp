@@ -1,6 +1,9 @@
 #include "plans/markshape.h"
 
+#include <algorithm>
 #include <cmath>
+
+#include "plans/outline.h"
 
 namespace tamo {
 namespace {
@@ -16,6 +19,42 @@ constexpr short kWidths[] = {
     611, 778, 722, 278, 500, 667, 556, 833, 722, 778, 667, 778, 722, 667,  611, 722, 667, 944, 667,
     667, 611, 278, 278, 278, 469, 556, 333, 556, 556, 500, 556, 556, 278,  556, 556, 222, 222, 500,
     222, 833, 556, 556, 556, 556, 333, 500, 278, 556, 500, 722, 500, 500,  500, 334, 260, 334, 584};
+
+// Over the line from one place to the other, reading from left to right, and upwards beside an
+// upright line.
+void LabelOver(MarkShape& shape, PagePoint from, PagePoint to) {
+  double angle = std::atan2(to.y - from.y, to.x - from.x);
+  constexpr double kShake = 1e-6;
+  if (angle >= kQuarterTurn - kShake) angle -= 2 * kQuarterTurn;
+  if (angle < -kQuarterTurn - kShake) angle += 2 * kQuarterTurn;
+  shape.textAngle = angle;
+  const double away = kTextAbove + shape.width / 2;
+  shape.textAt = {(from.x + to.x) / 2 + std::sin(angle) * away,
+                  (from.y + to.y) / 2 - std::cos(angle) * away};
+}
+
+// A polyline's label stands over its longest part, that of an outline in its middle.
+void ShapeWay(MarkShape& shape, const Mark& mark) {
+  shape.way = mark.points;
+  shape.closed = IsOutline(mark.kind);
+  shape.filled = mark.kind == Mark::Kind::Area;
+  shape.dashed = mark.kind == Mark::Kind::CutOut;
+  if (shape.closed && mark.points.size() > 2) {
+    shape.textAt = RoomiestPlace(mark.points);
+    shape.textAt.y += shape.textSize / 3;
+    return;
+  }
+  size_t longest = 0;
+  double most = -1;
+  for (size_t i = 0; i + 1 < mark.points.size(); ++i) {
+    const double length = Distance(mark.points[i], mark.points[i + 1]);
+    if (length <= most) continue;
+    most = length;
+    longest = i;
+  }
+  LabelOver(shape, mark.points[longest],
+            mark.points[std::min(longest + 1, mark.points.size() - 1)]);
+}
 
 }  // namespace
 
@@ -38,25 +77,22 @@ MarkShape ShapeOf(const Mark& mark, double markerSize) {
     shape.radius = markerSize / 2;
     return shape;
   }
+  shape.text = mark.label;
+  shape.textWidth = LetterWidth(mark.label, shape.textSize);
+  if (mark.kind != Mark::Kind::Line) {
+    ShapeWay(shape, mark);
+    return shape;
+  }
   const PagePoint from = mark.points.front();
   const PagePoint to = mark.points.back();
-  double angle = std::atan2(to.y - from.y, to.x - from.x);
+  const double angle = std::atan2(to.y - from.y, to.x - from.x);
   const PagePoint across = {-std::sin(angle) * kBar, std::cos(angle) * kBar};
   shape.strokes.push_back({from, to});
   for (const PagePoint end : {from, to}) {
     shape.strokes.push_back(
         {{end.x - across.x, end.y - across.y}, {end.x + across.x, end.y + across.y}});
   }
-  shape.text = mark.label;
-  shape.textWidth = LetterWidth(mark.label, shape.textSize);
-  // Reading from left to right, and upwards on an upright line.
-  constexpr double kShake = 1e-6;
-  if (angle >= kQuarterTurn - kShake) angle -= 2 * kQuarterTurn;
-  if (angle < -kQuarterTurn - kShake) angle += 2 * kQuarterTurn;
-  shape.textAngle = angle;
-  const double away = kTextAbove + mark.width / 2;
-  shape.textAt = {(from.x + to.x) / 2 + std::sin(angle) * away,
-                  (from.y + to.y) / 2 - std::cos(angle) * away};
+  LabelOver(shape, from, to);
   return shape;
 }
 

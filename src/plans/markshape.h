@@ -16,6 +16,10 @@ struct MarkShape {
     PagePoint to;
   };
   std::vector<Stroke> strokes;  // of a line: itself and a short bar across each end
+  std::vector<PagePoint> way;   // of a polyline and an outline: its points
+  bool closed = false;
+  bool filled = false;  // lightly, with kMarkFill of the colour
+  bool dashed = false;  // in dashes of kMarkDash points
   bool circle = false;
   PagePoint centre;
   double radius = 0;
@@ -28,6 +32,10 @@ struct MarkShape {
   double textSize = 9;
   double textWidth = 0;
 };
+
+// How much of an area's colour lies over the plan.
+inline constexpr double kMarkFill = 0.15;
+inline constexpr double kMarkDash = 6;
 
 // `markerSize` is the diameter of a counting circle.
 MarkShape ShapeOf(const Mark& mark, double markerSize);

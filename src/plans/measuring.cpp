@@ -25,6 +25,17 @@ MeasuredLine ScaledLine(double paperLength, double plan, const ScaleTexts& scale
   return line;
 }
 
+MeasuredArea ScaledArea(double paperArea, double plan, const ScaleTexts& scale,
+                        const QString& unitName, const QString& label) {
+  const double feet = Value(scale.scale2);
+  if (plan == 0 || feet == 0) return {false, paperArea, label};
+  const double side = feet / plan;
+  const bool inches = unitName == QLatin1String("feet");
+  const QString at = inches ? QStringLiteral("sq ft @ %1\"=%2'")
+                            : QStringLiteral("sq ft @ %1") + unitName + QStringLiteral(":%2 feet");
+  return {true, paperArea * side * side, at.arg(scale.scale1, scale.scale2)};
+}
+
 QString CheckInWords(double measured, double known) {
   const QString length = LengthText(measured);
   if (known <= 0)

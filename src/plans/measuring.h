@@ -23,6 +23,16 @@ struct MeasuredLine {
 MeasuredLine ScaledLine(double paperLength, double plan, const ScaleTexts& scale,
                         const QString& unitName, const QString& label);
 
+struct MeasuredArea {
+  bool scaled = false;  // false: there is no scale, the area stays in square paper units
+  double area = 0;      // square feet when scaled
+  QString label;
+};
+
+// The same of an area in square paper units. Unlike a length it needs both numbers of the scale.
+MeasuredArea ScaledArea(double paperArea, double plan, const ScaleTexts& scale,
+                        const QString& unitName, const QString& label);
+
 // How far a measured length is off a dimension that the plan states, in words; both in feet.
 QString CheckInWords(double measured, double known);
 

@@ -12,6 +12,7 @@ struct OstControls : Form {
 
   PictureBox picPdfThumbnails{*this, "picPdfThumbnails"};
   PictureBox picPdfDraw{*this, "picPdfDraw"};
+  Label GoesTo{*this, "GoesTo"};  // where the next length or count goes
   TextField ProjectName{*this, "ProjectName"};
   TextField PlanLocation{*this, "PlanLocation"};
   TextField PageText{*this, "PageText"};
@@ -25,6 +26,7 @@ struct OstControls : Form {
   // button that is shown beside that warning.
   Label ScaleInForce{*this, "ScaleInForce"};
   Button SetInches{*this, "SetInches", "Set Inches"};
+  Label ToolHint{*this, "ToolHint"};  // what the tool in hand does next, or why it can't
   TextField DistanceText{*this, "DistanceText"};
   TextField KnownDimension{*this, "KnownDimension"};  // feet, to check the scale against
   Button CheckDimension{*this, "CheckDimension", "Check a &Dimension"};

@@ -1,19 +1,11 @@
 #include "plans/ostform.h"
 
+#include "common/chain.h"
 #include "common/columns.h"
 #include "plans/ostmenu.h"
 
 namespace tamo {
 namespace {
-
-// Runs an action when Enter is pressed in a field; the key itself does nothing more.
-void OnEnter(TextField& field, std::function<void()> action) {
-  field.onKey = [action = std::move(action)](Key& key) {
-    if (!key.IsEnter()) return;
-    key.Drop();
-    action();
-  };
-}
 
 void Toggle(Frame& frame) {
   frame.SetShown(!frame.Shown());
@@ -35,7 +27,8 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       notes_(kit, *this, viewer),
       copy_(kit, *this, viewer, record_),
       opener_(kit, *this, viewer, {record_, scale_, pages_, browser_, copy_}),
-      measure_(kit, *this, viewer, scale_, takeoff) {
+      measure_(kit, *this, viewer, scale_, takeoff),
+      surfaces_(*this, scale_, measure_, takeoff) {
   AddText(QStringLiteral("ViewerName"), &ViewerName);
   AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
   SetCaption(QStringLiteral("Digital Plan Takeoff"));
@@ -67,6 +60,7 @@ void OSTForm::BindFields() {
   OnEnter(ZoomLevel, [this] { pages_.TakeZoomLevel(); });
   OnEnter(PlanLocation, [this] { opener_.EnterPlanLocation(); });
   OnEnter(KnownDimension, [this] { measure_.StartCheck(); });
+  for (TextField* field : {&KnownDimension, &Scale1, &Scale2}) SayTakenNumber(*field);
   Command2.onClick = [this] {
     if (ActiveControl() == &picPdfDraw) viewer_.DeleteMark(0);
   };
@@ -82,6 +76,17 @@ void OSTForm::BindMenus() {
   on("LinesColor", [this] { Toggle(ColorFrame); });
   on("Save", [this] { Save(); });
   on("Printit", [this] { viewer_.Print(); });
+  static const std::pair<const char*, PlanTool> tools[] = {{"DrawPolyline", PlanTool::Polyline},
+                                                           {"DrawArea", PlanTool::Area},
+                                                           {"DrawRectangle", PlanTool::Rectangle},
+                                                           {"DrawCutOut", PlanTool::CutOut},
+                                                           {"DrawPerimeter", PlanTool::Perimeter}};
+  for (const auto& [name, tool] : tools) {
+    on(name, [this, tool = tool] {
+      viewer_.PickTool(tool);
+      kit_.desk.Focus(picPdfDraw);
+    });
+  }
   for (const auto scales : {InchScales(), MillimetreScales(), CentimetreScales()}) {
     for (const ScaleEntry& scale : scales) on(scale.name, [this, &scale] { ChooseScale(scale); });
   }
@@ -93,12 +98,20 @@ void OSTForm::BindViewer() {
     return [this, handler](auto&&... values) { kit_.desk.Dispatch([&] { handler(values...); }); };
   };
   viewer_.onPenChanged = [this] { pen_.ShowPen(); };
-  viewer_.onModeChanged = event([this](PlanTool tool) { pen_.ModeChanged(tool); });
+  viewer_.onModeChanged = event([this](PlanTool tool) {
+    pen_.ModeChanged(tool);
+    surfaces_.ToolPicked(tool);
+  });
   viewer_.onLineMeasured =
       event([this](double& length, QString& label) { measure_.LineMeasured(length, label); });
   viewer_.onLineRunning =
       event([this](double& length, QString& label) { measure_.LineRunning(length, label); });
   viewer_.onLineChecked = event([this](double paperLength) { measure_.LineChecked(paperLength); });
+  viewer_.onAreaMeasured =
+      event([this](double& area, QString& label) { surfaces_.AreaMeasured(area, label); });
+  viewer_.onAreaRunning =
+      event([this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
+  viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
   viewer_.onCircleCountChanged = event([this](int count) { measure_.CirclesCounted(count); });
   viewer_.onPageChanged = event([this] { pages_.ShowPage(); });
   viewer_.onScrolled = event([this] {

@@ -10,6 +10,7 @@
 #include "plans/plannotespanel.h"
 #include "plans/planopener.h"
 #include "plans/planpen.h"
+#include "plans/plansurfaces.h"
 
 namespace tamo {
 
@@ -79,6 +80,7 @@ class OSTForm : public OstControls {
   MarkedCopy copy_;
   PlanOpener opener_;
   PlanMeasure measure_;
+  PlanSurfaces surfaces_;
 };
 
 }  // namespace tamo

@@ -73,6 +73,12 @@ constexpr Row kPlan[] = {
     {"ReadSchedule", "&Read Schedule", "ScheduleMenu"},
     {"DrawScheduleBox", "Draw a &Box", "ScheduleMenu"},
     {"AddToSchedule", "&Add to Schedule", "ScheduleMenu"},
+    {"DrawMenu", "Dra&w", ""},
+    {"DrawPolyline", "&Polyline (L)", "DrawMenu"},
+    {"DrawArea", "&Area (A)", "DrawMenu"},
+    {"DrawRectangle", "&Rectangle (R)", "DrawMenu"},
+    {"DrawCutOut", "&Cut-out (K)", "DrawMenu"},
+    {"DrawPerimeter", "P&erimeter (E)", "DrawMenu"},
 };
 
 class Bar {

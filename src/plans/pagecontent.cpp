@@ -53,32 +53,6 @@ std::vector<Outline> OutlinesOf(const PathPiece& path, double tolerance) {
   return outlines;
 }
 
-// Cuts a line to a rectangle; false when nothing of it is inside.
-bool CutLine(PageLine& line, const PageBox& box) {
-  const double dx = line.to.x - line.from.x;
-  const double dy = line.to.y - line.from.y;
-  double first = 0;
-  double last = 1;
-  // How far the line is inside of one edge: at its start, and its change along the whole line.
-  const std::pair<double, double> edges[] = {{line.from.x - box.left, dx},
-                                             {box.right - line.from.x, -dx},
-                                             {line.from.y - box.top, dy},
-                                             {box.bottom - line.from.y, -dy}};
-  for (const auto& [inside, change] : edges) {
-    if (change == 0) {
-      if (inside < 0) return false;
-    } else if (change > 0) {
-      first = std::max(first, -inside / change);
-    } else {
-      last = std::min(last, -inside / change);
-    }
-  }
-  if (first > last) return false;
-  const PagePoint from = line.from;
-  line = {{from.x + first * dx, from.y + first * dy}, {from.x + last * dx, from.y + last * dy}};
-  return true;
-}
-
 bool IsRectangle(const Outline& outline, double tolerance, PageBox& box) {
   if (outline.size() < 5) return false;
   box = NoBox();
@@ -117,6 +91,31 @@ void PageBox::Take(PagePoint at) {
   right = std::max(right, at.x);
   top = std::min(top, at.y);
   bottom = std::max(bottom, at.y);
+}
+
+bool CutLine(PageLine& line, const PageBox& box) {
+  const double dx = line.to.x - line.from.x;
+  const double dy = line.to.y - line.from.y;
+  double first = 0;
+  double last = 1;
+  // How far the line is inside of one edge: at its start, and its change along the whole line.
+  const std::pair<double, double> edges[] = {{line.from.x - box.left, dx},
+                                             {box.right - line.from.x, -dx},
+                                             {line.from.y - box.top, dy},
+                                             {box.bottom - line.from.y, -dy}};
+  for (const auto& [inside, change] : edges) {
+    if (change == 0) {
+      if (inside < 0) return false;
+    } else if (change > 0) {
+      first = std::max(first, -inside / change);
+    } else {
+      last = std::min(last, -inside / change);
+    }
+  }
+  if (first > last) return false;
+  const PagePoint from = line.from;
+  line = {{from.x + first * dx, from.y + first * dy}, {from.x + last * dx, from.y + last * dy}};
+  return true;
 }
 
 std::vector<PageLine> Flattened(const PathPiece& path, double tolerance) {

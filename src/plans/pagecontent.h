@@ -2,11 +2,8 @@
 
 #include <QByteArray>
 #include <QString>
-#include <atomic>
-#include <memory>
 #include <vector>
 
-#include "common/disk.h"
 #include "plans/mark.h"
 
 // What stands on a page, as data: the words with their places, the lines and areas of the drawing,
@@ -105,20 +102,13 @@ struct PageContent {
   std::vector<PicturePiece> pictures;
 };
 
-// Reads page `page` (from 1) of a PDF. `password` is UTF-8, empty when it has none. Once `cancel`
-// is set it comes back within a moment with what it has. Any thread; several may read at once.
-PageContent ReadPageContent(std::shared_ptr<FileReader> file, int page,
-                            const QByteArray& password = {},
-                            const std::atomic<bool>* cancel = nullptr);
-// The same by the path of the file.
-PageContent ReadPageContent(Disk& disk, const QString& path, int page,
-                            const QByteArray& password = {},
-                            const std::atomic<bool>* cancel = nullptr);
-
 struct PageLine {
   PagePoint from;
   PagePoint to;
 };
+
+// Cuts a line to a rectangle; false when nothing of it is inside.
+bool CutLine(PageLine& line, const PageBox& box);
 
 // The straight lines of a path, curves as lines that lie within `tolerance` points of them, each
 // cut to what the clip leaves. Of a fill, its outline. An open outline stays open.

@@ -66,6 +66,10 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   std::shared_ptr<const Picture> Thumbnail(int page, int longSide) override;
   std::shared_ptr<const Picture> PrintPicture(const PlanView& part) override;
 
+  // The plan shown, as long as who asks needs it: its calls block, so not for the windows' thread.
+  // Null when none is shown, or it is still opening.
+  std::shared_ptr<EnginePlan> OpenedPlan() const;
+
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
   // background; 10 seconds when not set. A window wants 80 milliseconds.
   void SetPatience(int milliseconds) { patience_ = milliseconds; }

@@ -316,6 +316,10 @@ std::shared_ptr<const Picture> PdfDraw::PrintPicture(const PlanView& part) {
   return session_->painter->PrintPicture(part, kPrintPatience);
 }
 
+std::shared_ptr<EnginePlan> PdfDraw::OpenedPlan() const {
+  return session_ != nullptr && opening_ == nullptr ? session_->plan : nullptr;
+}
+
 bool PdfDraw::WaitUntilSharp(int milliseconds) {
   return session_ != nullptr && session_->painter != nullptr &&
          session_->painter->WaitUntilSharp(milliseconds);

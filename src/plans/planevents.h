@@ -6,7 +6,16 @@
 
 namespace tamo {
 
-enum class PlanTool { None = 0, Measuring = 1, Counting = 2 };
+enum class PlanTool {
+  None = 0,
+  Measuring = 1,
+  Counting = 2,
+  Polyline = 3,
+  Area = 4,
+  Rectangle = 5,  // an area by two corners
+  CutOut = 6,
+  Perimeter = 7
+};
 
 // What the viewer tells, synchronously inside the call that causes it, on the thread of the forms.
 // The window has onMarksChanged, onViewChanged, onPrint, onBringToFront and onSaveProgress; all
@@ -21,6 +30,11 @@ struct PlanEvents {
   // The same arithmetic for the line in work, for its running length: nothing is handed over.
   std::function<void(double& length, QString& label)> onLineRunning;
   std::function<void(double paperLength)> onLineChecked;
+  // The same of an area, in square paper units. A cut-out comes with a negative area.
+  std::function<void(double& area, QString& label)> onAreaMeasured;
+  std::function<void(double& area, QString& label)> onAreaRunning;
+  // What is drawn can't be what the tool is for: why, and what to do. "" when it can again.
+  std::function<void(const QString& why)> onToolRefused;
   std::function<void(int count)> onCircleCountChanged;  // the circles of all pages
   std::function<void()> onPenChanged;                   // the colour or the width of the next mark
   // Something speaks against marking this plan: true when it is to be marked all the same. Asked

@@ -5,8 +5,8 @@ namespace tamo {
 // A key on the plan. Left to Down move the cross hair while a tool is in hand (9 points a step,
 // with Ctrl half a point) and scroll the page otherwise; Space places a point or a circle at the
 // cross hair; Escape drops the line in work; Backspace drops its last point; Enter gives the focus
-// back.
-enum class PlanKey { Left, Right, Up, Down, Space, Enter, Escape, Backspace, Undo, Redo };
+// back, and ends an outline in work; Arc makes its next two points those of an arc.
+enum class PlanKey { Left, Right, Up, Down, Space, Enter, Escape, Backspace, Undo, Redo, Arc };
 
 struct PlanStroke {
   PlanKey key = PlanKey::Enter;

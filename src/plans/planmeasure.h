@@ -18,14 +18,14 @@ class PlanMeasure {
   void LineRunning(double& length, QString& label) const;
   void LineChecked(double paperLength);
   void CirclesCounted(int count);
-  void ReturnFocus();  // to the field that waits
+  void ReturnFocus();                                    // to the field that waits
+  bool WaitingField(TakeoffFields::Field& field) const;  // false when none does
   void WarnOfMissingScale();
   // Begins to check the scale against a dimension that the plan states.
   void StartCheck();
 
  private:
   void HandOver(bool zeroLengthCounts);
-  bool WaitingField(TakeoffFields::Field& field) const;
 
   const Kit kit_;
   OstControls& form_;

@@ -38,7 +38,7 @@ void PlanPen::Load() {
 
 // The width of the sample line is in pixels of 1/96 inch, that of a mark in points.
 void PlanPen::ModeChanged(PlanTool tool) {
-  if (tool != PlanTool::Measuring) {
+  if (tool != PlanTool::Measuring && !PdfDraw::DrawsOutlines(tool)) {
     form_.Mode.SetText(QStringLiteral("Released"));
     return;
   }

@@ -39,6 +39,11 @@ MeasuredLine PlanScale::Measured(double paperLength, const QString& label) const
   return ScaledLine(paperLength, plan, Texts(), viewer_.UnitName(), label);
 }
 
+MeasuredArea PlanScale::MeasuredSurface(double paperArea, const QString& label) const {
+  const double plan = viewer_.EvaluateFraction(form_.Scale1.Text());
+  return ScaledArea(paperArea, plan, Texts(), viewer_.UnitName(), label);
+}
+
 // The unit text goes first, so that the saves that the numbers cause write all three fields.
 void PlanScale::Choose(const ScaleEntry& scale) {
   if (!scale.acts) return;

@@ -21,6 +21,8 @@ class PlanScale {
   bool IsSet() const;  // both numbers are other than 0
   // `paperLength` in the viewer's paper unit; `label` its own label.
   MeasuredLine Measured(double paperLength, const QString& label) const;
+  // The same of an area in square paper units.
+  MeasuredArea MeasuredSurface(double paperArea, const QString& label) const;
 
  private:
   void Bind();

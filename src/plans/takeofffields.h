@@ -19,6 +19,11 @@ class TakeoffFields {
   virtual bool FormVisible(Field field) const = 0;
   // As if typed: the estimator still presses Enter in the field.
   virtual void SetText(Field field, const QString& text) = 0;
+  // Square feet for the line whose field waits: its height becomes 1 and its length the square
+  // feet, and the length waits from then on. Those of a cut-out are negative: they go off the area
+  // that stands there and was not entered yet. False when they were not taken; `words` says why, or
+  // what was made of them.
+  virtual bool TakeArea(Field waiting, const QString& squareFeet, QString& words) = 0;
   // Brings the form to the front without its activation routine, so that no list is read again and
   // the line in work stays.
   virtual void FocusOn(Field field) = 0;

@@ -1,5 +1,7 @@
 #include "program/menus.h"
 
+#include "plans/workerengine.h"
+
 namespace tamo {
 
 Menus::Menus(const Kit& kit, Shell& shell, const Forms& forms)
@@ -126,8 +128,10 @@ void Menus::BindReports() {
 
 void Menus::BindShell() {
   OnMain(forms_.main.menu.OST1, Guard::None, [this] { ShowOst(); });
-  OnBoth(forms_.main.menu.Settings1, "Settings1", Guard::None,
-         [this] { forms_.settings.Toggle(&shell_.ShellForm()); });
+  OnBoth(forms_.main.menu.Settings1, "Settings1", Guard::None, [this] {
+    forms_.settings.PlanGuard.SetCaption(WorkerEngine::MissingGuards());
+    forms_.settings.Toggle(&shell_.ShellForm());
+  });
   OnBoth(forms_.main.menu.Docs1, "Documentation", Guard::None, [this] { ToggleDocs(); });
   OnMain(forms_.main.menu.Exit, Guard::None, [this] { shell_.ExitMain(); });
   OnOst("Exit", Guard::None, [this] { shell_.ExitOst(); });

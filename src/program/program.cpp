@@ -12,9 +12,11 @@
 #include "program/readagain.h"
 #include "program/recovery.h"
 #include "program/reportadapters.h"
+#include "program/reportsaver.h"
 #include "program/suggestions.h"
 #include "program/takeoffadapters.h"
 #include "program/versionadapters.h"
+#include "program/waitingfields.h"
 #include "schedule/scheduleform.h"
 #include "workspace/form11.h"
 
@@ -52,20 +54,23 @@ struct Program::Parts {
   ProjectKeeperOnTamo projectKeeper{main};
   PlanToolsOnOst planTools{ost};
   TakeoffExitsOnForms takeoffExits{shell, main, ost};
-  TakeoffFieldsOnForms takeoffFields{rooms, areas};
+  MarksOnPlan entryMarks{ost};
+  TakingBack takingBack{kit, entryMarks, reportFollows};
+  WaitingFields takeoffFields{kit, ost, rooms, areas, entryMarks};
   ProjectRecordOnTamo projectRecord{main};
   BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
+  ReportSaver reportSaver{kit};
 
   Form11 form11{kit};
   SettingsForm settings{kit, shell};
   OSTForm ost{kit, viewer, projectKeeper, takeoffFields};
   TamoForm main{kit, settings, {shell, planOfProject, followers}};
   PricingForm pricing{kit, reportFollows, startOfPricing, startOfPricing};
-  RFSForm rooms{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
-  EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
+  RFSForm rooms{kit, planTools, pricingOnForm, reportFollows, takeoffExits, takingBack};
+  EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits, takingBack};
   BottomLine bottomLine{kit, reportFollows};
   AdjustmentForm adjustment{kit, reportFollows};
-  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history}};
+  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history, reportSaver}};
   VersionsForm versions{kit, history, reports, bidChanger};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
@@ -106,6 +111,8 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
   };
   parts.desk.onRest = [&parts] {
     parts.suggestions.Follow();
+    parts.takingBack.EndEvent();
+    parts.takeoffFields.Follow();
     parts.recovery.Follow();
   };
   parts.desk.onKeyFirst = [&parts](const Control& control, const Key& key) {
@@ -126,6 +133,7 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
   parts.settings.onLook = [this] {
     if (onLook) onLook();
   };
+  parts.reportSaver.company = [this] { return CompanyName(); };
   parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
   parts.ost.onClose = [&parts] { return parts.shell.CloseOst(); };
 }
@@ -146,6 +154,12 @@ bool Program::Running() const {
 }
 void Program::ReadPictures(std::shared_ptr<const SheetPictures> pictures) {
   parts_->schedule.pictures = std::move(pictures);
+}
+void Program::ChooseFilesWith(FileChooser chooser) {
+  parts_->reportSaver.onChoose = std::move(chooser);
+}
+void Program::DrawChartsWith(std::function<void(const ChartData& chart)> draw) {
+  parts_->reportSaver.onChart = std::move(draw);
 }
 Desk& Program::GetDesk() {
   return parts_->desk;

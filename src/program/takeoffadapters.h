@@ -3,6 +3,7 @@
 #include "plans/ostform.h"
 #include "program/shell.h"
 #include "takeoff/estimateform.h"
+#include "takeoff/measuredarea.h"
 #include "takeoff/plantools.h"
 #include "takeoff/rfsform.h"
 #include "takeoff/takeoffexits.h"
@@ -45,33 +46,6 @@ class TakeoffExitsOnForms : public TakeoffExits {
   Shell& shell_;
   TamoForm& main_;
   OSTForm& ost_;
-};
-
-class TakeoffFieldsOnForms : public TakeoffFields {
- public:
-  TakeoffFieldsOnForms(RFSForm& rooms, EstimateForm& areas) : rooms_(rooms), areas_(areas) {}
-
-  bool FormVisible(Field field) const override { return At(field).Owner().Visible(); }
-  void SetText(Field field, const QString& text) override { At(field).SetText(text); }
-  void FocusOn(Field field) override { rooms_.GetDesk().FocusWithoutActivation(At(field)); }
-
- private:
-  TextField& At(Field field) const {
-    switch (field) {
-      case Field::ELength:
-        return areas_.eLength;
-      case Field::Hite:
-        return areas_.Hite;
-      case Field::Length:
-        return rooms_.Length;
-      case Field::How:
-        break;
-    }
-    return rooms_.How;
-  }
-
-  RFSForm& rooms_;
-  EstimateForm& areas_;
 };
 
 }  // namespace tamo

@@ -4,8 +4,6 @@
 #include <cmath>
 #include <vector>
 
-#include "plans/filetail.h"
-
 namespace tamo {
 namespace {
 
@@ -31,15 +29,14 @@ QString NotPainted(const QString& why) {
 }
 
 // Strip by strip, so that no more memory than for the grey is needed.
-bool PaintStrips(EnginePlan& plan, const LoadedPage& page, PaintPart part,
-                 const std::atomic<bool>& stop, GreyPicture& picture) {
+bool PaintStrips(EnginePlan& plan, const LoadedPage& page, PaintPart part, CancelFlag& stop,
+                 GreyPicture& picture) {
   const int top = part.top;
   std::vector<uint32_t> strip(size_t(picture.width) * kStrip);
-  CancelFlag cancel;
   for (int done = 0; done < picture.height; done += kStrip) {
     part.top = top + done;
     part.height = std::min(kStrip, picture.height - done);
-    if (stop || !plan.Paint(page, part, cancel, strip.data())) return false;
+    if (!plan.Paint(page, part, stop, strip.data())) return false;
     const auto end = strip.begin() + std::ptrdiff_t(picture.width) * part.height;
     std::transform(strip.begin(), end, picture.pixels.begin() + qsizetype(picture.width) * done,
                    GreyOf);
@@ -49,15 +46,9 @@ bool PaintStrips(EnginePlan& plan, const LoadedPage& page, PaintPart part,
 
 }  // namespace
 
-QString PaintGrey(PlanEngine& engine, const std::shared_ptr<FileReader>& file, int page,
-                  const PageBox& area, const std::atomic<bool>& stop, GreyPicture& picture) {
-  const auto source = std::make_shared<PlanSource>(file, ReadTail(*file).whole);
-  const std::shared_ptr<EnginePlan> plan = engine.NewPlan(source);
-  if (plan == nullptr) return NotPainted(QStringLiteral("there is no memory for it"));
-  const PlanContents contents = plan->Open({});
-  if (contents.error != 0) return NotPainted(contents.problem);
-  CancelFlag cancel;
-  const std::shared_ptr<LoadedPage> loaded = plan->LoadPage(page, cancel);
+QString PaintGrey(EnginePlan& plan, int page, const PageBox& area, CancelFlag& stop,
+                  GreyPicture& picture) {
+  const std::shared_ptr<LoadedPage> loaded = plan.LoadPage(page, stop);
   if (loaded == nullptr) return NotPainted(QStringLiteral("the page is damaged"));
   const PageBox part = area.Cut({0, 0, loaded->Size().width, loaded->Size().height});
   if (part.Width() < 1 || part.Height() < 1) return NotPainted(QStringLiteral("the box is empty"));
@@ -74,7 +65,7 @@ QString PaintGrey(PlanEngine& engine, const std::shared_ptr<FileReader>& file, i
   picture.height = std::max(1, int(part.Height() * scale));
   picture.corner = {paint.left / scale, paint.top / scale};
   picture.pixels.resize(qsizetype(picture.width) * picture.height);
-  const bool done = PaintStrips(*plan, *loaded, paint, stop, picture);
+  const bool done = PaintStrips(plan, *loaded, paint, stop, picture);
   return done ? QString() : NotPainted(QStringLiteral("the page can't be shown"));
 }
 

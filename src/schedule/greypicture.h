@@ -2,10 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
-#include <atomic>
-#include <memory>
 
-#include "common/disk.h"
 #include "plans/planengine.h"
 
 namespace tamo {
@@ -23,7 +20,7 @@ struct GreyPicture {
 
 // Paints `area` (points) of page `page` (from 1) with 300 dots an inch, with fewer where that is
 // too much. Empty when it is done; or why not, in plain words. Any thread but that of the windows.
-QString PaintGrey(PlanEngine& engine, const std::shared_ptr<FileReader>& file, int page,
-                  const PageBox& area, const std::atomic<bool>& stop, GreyPicture& picture);
+QString PaintGrey(EnginePlan& plan, int page, const PageBox& area, CancelFlag& stop,
+                  GreyPicture& picture);
 
 }  // namespace tamo

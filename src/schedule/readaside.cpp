@@ -1,11 +1,9 @@
 #include "schedule/readaside.h"
 
-#include <atomic>
 #include <chrono>
 #include <future>
 #include <thread>
 
-#include "common/files.h"
 #include "schedule/finishcodes.h"
 #include "schedule/readingproblem.h"
 #include "schedule/sheetpictures.h"
@@ -19,9 +17,9 @@ SheetRead Refused(const QString& why) {
   return {why, {}, {}, false};
 }
 
-SheetRead Read(const SheetToRead& sheet, const std::atomic<bool>& stop) {
-  PageContent page = ReadPageContent(sheet.file, sheet.page, {}, &stop);
-  if (stop) return Refused(QStringLiteral("The reading of the sheet was stopped."));
+SheetRead Read(const SheetToRead& sheet, CancelFlag& stop) {
+  PageContent page = sheet.plan->ReadContent(sheet.page, stop);
+  if (stop.Cancelled()) return Refused(QStringLiteral("The reading of the sheet was stopped."));
   if (page.error != 0) {
     return Refused(QStringLiteral("The sheet can't be read: %1.").arg(page.problem));
   }
@@ -37,7 +35,7 @@ SheetRead Read(const SheetToRead& sheet, const std::atomic<bool>& stop) {
   } else if (!read.problem.isEmpty()) {
     read.picture = OnlyAPicture(page, sheet.box);
   }
-  if (sheet.withLegend && read.problem.isEmpty() && !stop) {
+  if (sheet.withLegend && read.problem.isEmpty() && !stop.Cancelled()) {
     read.legend = LegendOf(FindTables(page));
     read.legend.merge(LegendBeside(page, CodesOf(FinishRowsOf(read.parts)), read.parts));
   }
@@ -47,17 +45,17 @@ SheetRead Read(const SheetToRead& sheet, const std::atomic<bool>& stop) {
 }  // namespace
 
 SheetRead ReadAside(SheetToRead sheet, const std::function<bool(int done, int all)>& progress) {
-  if (sheet.error != 0) {
-    return Refused(QStringLiteral("The sheet can't be read: %1.").arg(ReasonText(sheet.error)));
+  if (sheet.plan == nullptr) {
+    return Refused(QStringLiteral("The sheet can't be read: the plan is still being opened."));
   }
-  std::atomic<bool> stop = false;
+  CancelFlag stop;
   std::future<SheetRead> reading =
       std::async(std::launch::async, [&sheet, &stop] { return Read(sheet, stop); });
   while (progress && reading.wait_for(kLook) != std::future_status::ready) {
-    if (!stop && !progress(0, 0)) stop = true;
+    if (!stop.Cancelled() && !progress(0, 0)) stop.Cancel();
   }
   SheetRead read = reading.get();
-  return stop ? Refused(QStringLiteral("The reading of the sheet was stopped.")) : read;
+  return stop.Cancelled() ? Refused(QStringLiteral("The reading of the sheet was stopped.")) : read;
 }
 
 }  // namespace tamo

@@ -4,7 +4,7 @@
 #include <memory>
 #include <optional>
 
-#include "common/disk.h"
+#include "plans/planengine.h"
 #include "schedule/legend.h"
 #include "schedule/schedulereader.h"
 
@@ -12,10 +12,9 @@ namespace tamo {
 
 class SheetPictures;
 
-// A sheet to read, or why its file can't be opened.
+// A sheet to read.
 struct SheetToRead {
-  int error = 0;  // as of files
-  std::shared_ptr<FileReader> file;
+  std::shared_ptr<EnginePlan> plan;     // opened; null when it is not
   int page = 1;                         // from 1
   std::optional<PageBox> box;           // as ReadSchedule has it
   std::optional<ScheduleTable> before;  // the part that it follows

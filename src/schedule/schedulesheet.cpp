@@ -24,7 +24,7 @@ class Busy {
 SheetToRead ScheduleForm::SheetInFront() {
   SheetToRead sheet;
   const PdfDraw& viewer = ost_.Viewer();
-  sheet.error = kit_.files.GetDisk().OpenToRead(viewer.ShownPath(), sheet.file);
+  sheet.plan = viewer.OpenedPlan();
   sheet.page = viewer.Page();
   return sheet;
 }

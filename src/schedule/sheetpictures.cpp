@@ -8,12 +8,12 @@
 namespace tamo {
 
 QString SheetPictures::ReadInto(PageContent& page, const SheetToRead& sheet,
-                                const std::atomic<bool>& stop) const {
+                                CancelFlag& stop) const {
   const PageBox area = sheet.box.value_or(PageBox{0, 0, page.size.width, page.size.height});
   GreyPicture picture;
-  QString problem = PaintGrey(engine_, sheet.file, sheet.page, area, stop, picture);
+  QString problem = PaintGrey(*sheet.plan, sheet.page, area, stop, picture);
   if (!problem.isEmpty()) return problem;
-  const PictureText read = program_.Read(picture, sheet.box.has_value(), stop);
+  const PictureText read = program_.Read(picture, sheet.box.has_value(), stop.Value());
   if (!read.problem.isEmpty()) return read.problem;
   std::vector<TextPiece> pieces =
       PiecesOf(PictureWordsOf(read.table, picture.width, picture.height), picture.corner,

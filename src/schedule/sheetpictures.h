@@ -5,20 +5,17 @@
 
 namespace tamo {
 
-// Puts the words of a scanned sheet into its content. The engine and the program outlive it.
+// Puts the words of a scanned sheet into its content. The program outlives it.
 class SheetPictures {
  public:
-  SheetPictures(PlanEngine& engine, const PictureProgram& program)
-      : engine_(engine), program_(program) {}
+  explicit SheetPictures(const PictureProgram& program) : program_(program) {}
   bool Ready() const { return program_.Here(); }
 
   // In place of what text there is in the sheet's box, or on all of it. Empty when it is done; or
   // why not, in plain words. Not on the windows' thread.
-  QString ReadInto(PageContent& page, const SheetToRead& sheet,
-                   const std::atomic<bool>& stop) const;
+  QString ReadInto(PageContent& page, const SheetToRead& sheet, CancelFlag& stop) const;
 
  private:
-  PlanEngine& engine_;
   const PictureProgram& program_;
 };
 

@@ -1,5 +1,6 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QMenu>
 #include <QProgressDialog>
 #include <QToolButton>
 
@@ -34,6 +35,12 @@ constexpr ToolRow kTools[] = {
     {PlanTool::None, "Move", "Pull the sheet with the mouse (V)"},
     {PlanTool::Measuring, "Measure", "Draw a line; Shift keeps it to steps of 45 degrees (M)"},
     {PlanTool::Counting, "Count", "Each press counts one (C)"}};
+constexpr ToolRow kOutlineTools[] = {
+    {PlanTool::Polyline, "Polyline", "A length along several points; Enter ends it (L)"},
+    {PlanTool::Area, "Area", "Square feet inside an outline; Enter closes it (A)"},
+    {PlanTool::Rectangle, "Rectangle", "Square feet between two corners (R)"},
+    {PlanTool::CutOut, "Cut-out", "Takes a shaft or column off an area (K)"},
+    {PlanTool::Perimeter, "Perimeter", "The length around an outline (E)"}};
 
 std::vector<QToolButton*> ToolButtons(PdfDraw& viewer, Desk& desk) {
   std::vector<QToolButton*> tools;
@@ -46,6 +53,31 @@ std::vector<QToolButton*> ToolButtons(PdfDraw& viewer, Desk& desk) {
     tools.push_back(button);
   }
   return tools;
+}
+
+// The tools that draw point by point, in a list that drops from one button. It keeps the name of
+// the one used last, and a click on it takes that one again.
+QToolButton* DrawButton(PdfDraw& viewer, Desk& desk) {
+  QToolButton* button = Tool(QStringLiteral("Area"), QStringLiteral("Areas and long ways"));
+  button->setCheckable(true);
+  button->setPopupMode(QToolButton::MenuButtonPopup);
+  auto* menu = new QMenu(button);
+  for (const ToolRow& row : kOutlineTools) {
+    QAction* action = menu->addAction(QLatin1String(row.text));
+    action->setToolTip(QLatin1String(row.hover));
+    QObject::connect(action, &QAction::triggered, button, [&viewer, &desk, tool = row.tool] {
+      desk.Dispatch([&] { viewer.PickTool(tool); });
+    });
+  }
+  menu->setToolTipsVisible(true);
+  button->setMenu(menu);
+  QObject::connect(button, &QToolButton::clicked, button, [&viewer, &desk, button] {
+    for (const ToolRow& row : kOutlineTools) {
+      if (button->text() != QLatin1String(row.text)) continue;
+      desk.Dispatch([&] { viewer.PickTool(row.tool); });
+    }
+  });
+  return button;
 }
 
 std::vector<QToolButton*> PageButtons(PdfDraw& viewer, Desk& desk, PlanCanvas& canvas) {
@@ -76,19 +108,46 @@ QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
   Desk& desk = b.GetProgram().GetDesk();
   auto* bar = new QWidget;
   auto* line = new QHBoxLayout(bar);
-  line->setContentsMargins(kGrid, kGrid / 2, kGrid, kGrid / 2);
+  line->setContentsMargins(kGrid / 2, kGrid / 2, kGrid / 2, kGrid / 2);
   line->setSpacing(kGrid / 2);
   const std::vector<QToolButton*> tools = ToolButtons(viewer, desk);
   for (QToolButton* tool : tools) line->addWidget(tool);
-  line->addSpacing(2 * kGrid);
+  line->addSpacing(kGrid / 2);
   for (QToolButton* button : PageButtons(viewer, desk, canvas)) line->addWidget(button);
+  line->addSpacing(kGrid / 2);
+  QToolButton* draw = DrawButton(viewer, desk);
+  line->addWidget(draw);
   line->addStretch(1);
   // Mode changes with every tool; its field tells when to look.
   if (b.Find<TextField>("Mode") == nullptr) return bar;
-  b.Window().onSynced.push_back([&viewer, tools] {
+  b.Window().onSynced.push_back([&viewer, tools, draw] {
     for (size_t i = 0; i < tools.size(); ++i) tools[i]->setChecked(viewer.Tool() == kTools[i].tool);
+    draw->setChecked(PdfDraw::DrawsOutlines(viewer.Tool()));
+    for (const ToolRow& row : kOutlineTools) {
+      if (row.tool == viewer.Tool()) draw->setText(QLatin1String(row.text));
+    }
   });
   return bar;
+}
+
+// Over the sheet, where the eye is: which line the next length or count belongs to.
+QWidget* GoesTo(Builder& b) {
+  QLabel* goes = b.Text("GoesTo");
+  goes->setTextFormat(Qt::PlainText);
+  goes->setFont(SectionFont());
+  goes->setContentsMargins(2 * kGrid, kGrid / 4, kGrid, kGrid / 2);
+  goes->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  return goes;
+}
+
+// A line that is always there, so that the plan stays where it is when words come and go.
+QWidget* ToolHint(Builder& b) {
+  QLabel* hint = b.Text("ToolHint");
+  hint->setFont(PromptFont());
+  hint->setWordWrap(true);
+  hint->setContentsMargins(kGrid, 0, kGrid, kGrid / 2);
+  hint->setMinimumHeight(hint->fontMetrics().height() + kGrid / 2);
+  return hint;
 }
 
 QWidget* Browser(Builder& b) {
@@ -305,7 +364,9 @@ void LayOutOST(Builder& b) {
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(ToolBar(b, *canvas));
+  middle->addWidget(GoesTo(b));
   middle->addWidget(Colours(b));
+  middle->addWidget(ToolHint(b));
   middle->addWidget(canvas, 1);
   row->addLayout(middle, 1);
   row->addWidget(Column(b));

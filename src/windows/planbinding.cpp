@@ -28,17 +28,20 @@ std::optional<PlanKey> PlanKeyOf(int code) {
 
 // The tool bar by letters, while the keys go to the plan.
 bool PlanCanvas::TakeLetter(int key) {
-  const auto pick = [this](PlanTool tool) {
-    desk_.Dispatch([&] { viewer_.PickTool(tool); });
+  static constexpr std::pair<int, PlanTool> kTools[] = {
+      {Qt::Key_V, PlanTool::None},     {Qt::Key_M, PlanTool::Measuring},
+      {Qt::Key_C, PlanTool::Counting}, {Qt::Key_L, PlanTool::Polyline},
+      {Qt::Key_A, PlanTool::Area},     {Qt::Key_R, PlanTool::Rectangle},
+      {Qt::Key_K, PlanTool::CutOut},   {Qt::Key_E, PlanTool::Perimeter}};
+  for (const auto& [letter, tool] : kTools) {
+    if (letter != key) continue;
+    desk_.Dispatch([&, tool = tool] { viewer_.PickTool(tool); });
     return true;
-  };
+  }
   switch (key) {
-    case Qt::Key_V:
-      return pick(PlanTool::None);
-    case Qt::Key_M:
-      return pick(PlanTool::Measuring);
-    case Qt::Key_C:
-      return pick(PlanTool::Counting);
+    case Qt::Key_B:
+      desk_.Dispatch([&] { viewer_.Key({PlanKey::Arc, false, false}); });
+      return true;
     case Qt::Key_T:
       TurnView();
       return true;

@@ -217,6 +217,8 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
     mark.label = line.text;
     PaintMark(painter, mark, viewer_.MarkerSize());
   }
+  if (const std::optional<Mark> outline = viewer_.OutlineInWork())
+    PaintMark(painter, *outline, viewer_.MarkerSize());
   const std::optional<DrawnBox>& box = viewer_.Box();
   if (box.has_value() && box->page == viewer_.Page()) {
     painter.setPen(QPen(CurrentLook().accent.darker(110), 2 / Scale(), Qt::DashLine));
@@ -261,7 +263,7 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
     panFrom_ = event->position();
     return;
   }
-  if (!drawing_ && !viewer_.LineWork().active) return;
+  if (!drawing_ && !viewer_.LineWork().active && !viewer_.OutlineInWork()) return;
   const PagePoint at = PageAt(event->position());
   desk_.Dispatch([&] { viewer_.Move(at, shift); });
 }
@@ -279,9 +281,12 @@ void PlanCanvas::mouseReleaseEvent(QMouseEvent* event) {
   desk_.Dispatch([&] { viewer_.Release(at, shift); });
 }
 
-// Two quick clicks are two clicks: a line begun and ended.
+// Two quick clicks are two clicks: a line begun and ended. An outline ends with them.
 void PlanCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
-  mousePressEvent(event);
+  const bool ends = event->button() == Qt::LeftButton && viewer_.OutlineInWork().has_value();
+  if (!ends) return mousePressEvent(event);
+  const PagePoint at = PageAt(event->position());
+  desk_.Dispatch([&] { viewer_.DoubleClick(at, false); });
 }
 
 void PlanCanvas::Pan(const QPointF& points) {

@@ -89,6 +89,14 @@ class PlanCanvas : public QAbstractScrollArea {
   bool scrolling_ = false;
   QPointF scrollTo_;            // points, not yet whole ones
   int scrollFrom_[2] = {0, 0};  // the view values before
+  // About what the last zoom went: the place in the viewport, what of the turned page lies there,
+  // and the view after it.
+  struct {
+    QPointF place;
+    QPointF at;
+    QPoint view;
+    int page = 0;
+  } held_;
 };
 
 // Small pictures of all pages; a click turns to one.

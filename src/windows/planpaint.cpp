@@ -32,6 +32,23 @@ QTransform PageTransform(PageSize page, int turn, double scale) {
   return transform * QTransform::fromScale(scale, scale);
 }
 
+namespace {
+
+void PaintWay(QPainter& painter, const MarkShape& shape, QColor colour) {
+  QPolygonF way;
+  for (const PagePoint at : shape.way) way << QPointF(at.x, at.y);
+  QPen pen(colour, shape.width);
+  pen.setJoinStyle(Qt::RoundJoin);
+  if (shape.dashed) pen.setDashPattern({kMarkDash / shape.width, kMarkDash / shape.width});
+  painter.setPen(pen);
+  if (!shape.closed) return painter.drawPolyline(way);
+  colour.setAlphaF(kMarkFill);
+  painter.setBrush(shape.filled ? QBrush(colour) : QBrush(Qt::NoBrush));
+  painter.drawPolygon(way);
+}
+
+}  // namespace
+
 void PaintMark(QPainter& painter, const Mark& mark, double markerSize) {
   const MarkShape shape = ShapeOf(mark, markerSize);
   const QColor known = ColourOf(mark.colour);
@@ -40,6 +57,7 @@ void PaintMark(QPainter& painter, const Mark& mark, double markerSize) {
   painter.setBrush(Qt::NoBrush);
   for (const MarkShape::Stroke& stroke : shape.strokes)
     painter.drawLine(QPointF(stroke.from.x, stroke.from.y), QPointF(stroke.to.x, stroke.to.y));
+  if (!shape.way.empty()) PaintWay(painter, shape, colour);
   if (shape.circle)
     painter.drawEllipse(QPointF(shape.centre.x, shape.centre.y), shape.radius, shape.radius);
   if (shape.text.isEmpty()) return;

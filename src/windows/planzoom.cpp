@@ -14,13 +14,19 @@ constexpr int kMostZoom = 800;
 
 }  // namespace
 
-// What lies at `place` stays there, as far as the sheet reaches.
+// What lies at `place` stays there, as far as the sheet reaches. The view moves in whole points: of
+// several zooms about one place the first tells what lay there, so that no drift adds up.
 void PlanCanvas::ZoomAbout(const QPointF& place, const std::function<void()>& zoom) {
   FinishScroll();
-  const QPointF before = (place - Origin()) / Scale();
+  const auto view = [this] {
+    return QPoint(viewer_.ViewValue(ViewPart::Horizontal), viewer_.ViewValue(ViewPart::Vertical));
+  };
+  const bool again = held_.place == place && held_.view == view() && held_.page == viewer_.Page();
+  const QPointF before = again ? held_.at : (place - Origin()) / Scale();
   zoom();
   const QPointF after = (place - Origin()) / Scale();
   Pan(before - after);
+  held_ = {place, before, view(), viewer_.Page()};
 }
 
 void PlanCanvas::ZoomByWheel(const QPointF& place, double notches) {

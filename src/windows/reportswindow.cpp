@@ -79,6 +79,16 @@ FindBar* Find(Builder& b, std::initializer_list<RowsView*> lists) {
   return find;
 }
 
+void SaveByKey(Builder& b) {
+  MenuEntry* entry = b.GetForm().FindMenu(QStringLiteral("SaveReport"));
+  Display& display = b.GetDisplay();
+  auto* shortcut = new QShortcut(QKeySequence(QKeySequence::Save), &b.Window());
+  QObject::connect(shortcut, &QShortcut::activated, &b.Window(), [entry, &display] {
+    display.MarkDirty();
+    display.GetDesk().ChooseMenu(*entry);
+  });
+}
+
 }  // namespace
 
 void LayOutReports(Builder& b) {
@@ -122,6 +132,7 @@ void LayOutReports(Builder& b) {
   strip->addWidget(notes, 1);
   strip->addWidget(b.Check("WholeQuantities"), 0, Qt::AlignTop);
   body.addLayout(strip);
+  SaveByKey(b);
   LetTypeGrow(window, {reporter, copy});
   window.firstSize = {1080, 700};
 }

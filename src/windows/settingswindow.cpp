@@ -66,6 +66,9 @@ void LayOutSettings(Builder& b) {
   ways.Add(FixedCaption(QStringLiteral("Look:")),
            Row({b.Choice("LookSystem"), b.Choice("LookLight"), b.Choice("LookDark")}));
   ways.Add(FixedCaption(QStringLiteral("Reports:")), b.Check("AutoCheck"));
+  QLabel* guard = b.Text("PlanGuard");
+  guard->setWordWrap(true);
+  body.addWidget(guard);
   body.addStretch(1);
   auto* foot = new QHBoxLayout;
   foot->addStretch(1);

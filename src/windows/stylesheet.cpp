@@ -35,11 +35,14 @@ QPushButton:pressed { background: @ground; }
 QPushButton:focus { border: 2px solid @accent; padding: 2px 13px; background: @ground; }
 QPushButton:disabled { color: @quiet; border-color: @faint; }
 QToolButton {
-  border: 1px solid @line; border-radius: 3px; padding: 3px 10px; background: @button;
+  border: 1px solid @line; border-radius: 3px; padding: 3px 7px; background: @button;
   color: @text;
 }
 QToolButton:hover { border-color: @accent; }
-QToolButton:checked { border: 2px solid @accent; padding: 2px 9px; background: @ground; }
+QToolButton::menu-button { border: none; width: 16px; }
+QToolButton[popupMode="1"] { padding-right: 18px; }
+QToolButton:checked { border: 2px solid @accent; padding: 2px 6px; background: @ground; }
+QToolButton[popupMode="1"]:checked { padding-right: 17px; }
 QCheckBox, QRadioButton { padding: 3px; border: 2px solid transparent; border-radius: 3px; }
 QCheckBox:focus, QRadioButton:focus { border-color: @accent; background: @ground; }
 QLabel[role="prompt"], QLabel[role="quiet"] { color: @quiet; }
@@ -54,10 +57,10 @@ QFrame[role="foot"] { background: @window; border: none; border-top: 1px solid @
 QFrame[role="notice"] { background: @notice; border: none; border-top: 2px solid @noticeLine; }
 QFrame[role="notice"] QLabel { color: @text; background: transparent; }
 QMenuBar { background: @window; color: @text; padding: 2px 8px; }
-QMenuBar::item { padding: 5px 6px; margin-right: 1px; border-radius: 3px; background: transparent; }
+QMenuBar::item { padding: 5px 5px; margin-right: 1px; border-radius: 3px; background: transparent; }
 QToolButton#qt_menubar_ext_button { border: none; padding: 0px; background: @window; }
 QToolButton#qt_menubar_ext_button:hover { background: @ground; }
-QMenuBar::item:selected { background: @ground; border: 1px solid @accent; padding: 4px 5px; }
+QMenuBar::item:selected { background: @ground; border: 1px solid @accent; padding: 4px 4px; }
 QMenu { background: @base; color: @text; border: 1px solid @line; padding: 4px; }
 QMenu::item { padding: 6px 28px 6px 20px; border-radius: 3px; }
 QMenu::item:selected { background: @accent; color: @onAccent; }

@@ -63,6 +63,7 @@ class SettingsForm : public Form {
   Option LookLight{*this, "LookLight", "Light", 3};
   Option LookDark{*this, "LookDark", "Dark", 3};
   CheckBox AutoCheck{*this, "AutoCheck", "AutoUpdate Reports"};
+  Label PlanGuard{*this, "PlanGuard"};  // what the system lacks to shut in the reader of plans
   Button Command1{*this, "Command1", "Exit Settings"};
 
  private:

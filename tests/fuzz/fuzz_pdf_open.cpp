@@ -3,9 +3,9 @@
 #include <memory>
 #include <thread>
 
+#include "engine/mupdfcontexts.h"
+#include "engine/mupdfengine.h"
 #include "plans/filetail.h"
-#include "plans/mupdfcontexts.h"
-#include "plans/mupdfengine.h"
 #include "support/memoryreader.h"
 
 // Opens any bytes as a plan, paints its first page small, reads its content, adds a mark, and opens

@@ -7,7 +7,8 @@
 #include <thread>
 
 #include "common/failure.h"
-#include "plans/mupdfcontexts.h"
+#include "engine/mupdfcontentreader.h"
+#include "engine/mupdfcontexts.h"
 #include "plans/planfixture.h"
 
 // Damaged and hostile plans: a message or a sheet, never a crash, a hang or unbounded memory.

@@ -5,7 +5,7 @@
 #include <thread>
 
 #include "common/failure.h"
-#include "plans/mupdfcontexts.h"
+#include "engine/mupdfcontexts.h"
 #include "plans/planfixture.h"
 
 // Real plans that are odd: protected, certified, scanned, finely hatched, with odd names.

@@ -55,6 +55,11 @@ class RecordingTakeoff : public TakeoffFields {
   void SetText(Field field, const QString& text) override {
     calls << Name(field) + QLatin1Char('=') + text;
   }
+  bool TakeArea(Field field, const QString& squareFeet, QString& words) override {
+    calls << Name(field) + QStringLiteral(" takes ") + squareFeet;
+    words = areaWords;
+    return areaWords.isEmpty();
+  }
   void FocusOn(Field field) override { calls << QStringLiteral("focus ") + Name(field); }
 
   static QString Name(Field field) {
@@ -64,6 +69,7 @@ class RecordingTakeoff : public TakeoffFields {
   QStringList Take() { return std::exchange(calls, {}); }
 
   bool visible = true;
+  QString areaWords;  // not empty: an area is refused with them
   QStringList calls;
 };
 

@@ -1,4 +1,5 @@
 #include "plans/pagecontent.h"
+#include "engine/mupdfcontentreader.h"
 
 #include <gtest/gtest.h>
 

@@ -10,9 +10,9 @@
 #include <QTemporaryDir>
 
 #include "common/files.h"
+#include "engine/mupdfcontexts.h"
+#include "engine/mupdfengine.h"
 #include "plans/makepdf.h"
-#include "plans/mupdfcontexts.h"
-#include "plans/mupdfengine.h"
 #include "plans/pdfdraw.h"
 #include "support/faultdisk.h"
 

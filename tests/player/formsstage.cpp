@@ -198,4 +198,9 @@ void FormsStage::PlanBox(PagePoint from, PagePoint to) {
   GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
 }
 
+void FormsStage::PlanOutline(PlanTool tool, const std::vector<PagePoint>& points) {
+  GoToPlan();
+  GetDesk().Dispatch([&] { played_->Viewer().DrawOutline(tool, points); });
+}
+
 }  // namespace tamo::player

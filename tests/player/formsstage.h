@@ -37,6 +37,7 @@ class FormsStage : public Stage {
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;
   void PlanBox(PagePoint from, PagePoint to) override;
+  void PlanOutline(PlanTool tool, const std::vector<PagePoint>& points) override;
 
   bool SavePicture(Form&, const QString&) override { return false; }
 

@@ -119,6 +119,8 @@ bool Looker::LookAtProgram(const QString& word, QString& text) {
     text = Program().SuggestedNames().join(QStringLiteral("\r\n"));
   } else if (word == QStringLiteral("suggestion")) {
     text = Program().SuggestedNames().value(Program().WalkedSuggestion());
+  } else if (word == QStringLiteral("chart")) {
+    text = Program().Chart().join(QStringLiteral("\r\n"));
   } else if (word == QStringLiteral("focus")) {
     const Control* control = Program().GetDesk().Focused();
     text = control == nullptr ? QString() : control->FullName();

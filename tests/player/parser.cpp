@@ -58,6 +58,7 @@ constexpr Verb kVerbs[] = {
     {"doublepick", Act::DoublePick, Shape::ControlAndPath},
     {"close", Act::Close, Shape::Form},
     {"answer", Act::Answer, Shape::YesOrNo},
+    {"choose", Act::Choose, Shape::Path},
     {"plan", Act::PlanMode, Shape::Plan},
     {"write", Act::Write, Shape::PathAndBlock},
     {"copy", Act::Copy, Shape::Path},
@@ -78,13 +79,23 @@ constexpr Verb kVerbs[] = {
 struct PlanVerb {
   const char* word;
   Act act;
-  int numbers;  // -1: a key name; 0: one whole number
+  int numbers;  // -1: a key name; 0: one whole number; kPlaces: two or more places
 };
 
+constexpr int kPlaces = -2;
+
 constexpr PlanVerb kPlanVerbs[] = {
-    {"mode", Act::PlanMode, 0},   {"line", Act::PlanLine, 4}, {"circle", Act::PlanCircle, 2},
-    {"press", Act::PlanPress, 2}, {"key", Act::PlanKey, -1},  {"scroll", Act::PlanScroll, 2},
-    {"page", Act::PlanPage, 0},   {"box", Act::PlanBox, 4},
+    {"mode", Act::PlanMode, 0},
+    {"line", Act::PlanLine, 4},
+    {"circle", Act::PlanCircle, 2},
+    {"press", Act::PlanPress, 2},
+    {"key", Act::PlanKey, -1},
+    {"scroll", Act::PlanScroll, 2},
+    {"page", Act::PlanPage, 0},
+    {"box", Act::PlanBox, 4},
+    {"polyline", Act::PlanPolyline, kPlaces},
+    {"polygon", Act::PlanPolygon, kPlaces},
+    {"cutout", Act::PlanCutOut, kPlaces},
 };
 
 constexpr char kBlockStart[] = " <<END";
@@ -116,7 +127,7 @@ QString ParsePlan(Step& step, QString rest) {
     if (word != QLatin1String(verb.word)) continue;
     step.act = verb.act;
     if (verb.numbers == 0) return WholeNumber(rest, step.row);
-    if (verb.numbers < 0) {
+    if (verb.numbers == -1) {
       return test::PlanStrokeFromName(rest, step.stroke)
                  ? QString()
                  : QStringLiteral("there is no key \"%1\" on the plan").arg(rest);
@@ -127,6 +138,11 @@ QString ParsePlan(Step& step, QString rest) {
       if (!ok || !std::isfinite(value))
         return QStringLiteral("a number is expected, not \"%1\"").arg(number);
       step.points.push_back(value);
+    }
+    if (verb.numbers == kPlaces) {
+      return step.points.size() >= 4 && step.points.size() % 2 == 0
+                 ? QString()
+                 : QStringLiteral("at least two places X Y are expected");
     }
     if (static_cast<int>(step.points.size()) != verb.numbers)
       return QStringLiteral("%1 numbers are expected").arg(verb.numbers);
@@ -257,7 +273,9 @@ bool KeyFromName(const QString& name, Key& key) {
                                                             {"Down", Key::Name::Down},
                                                             {"Left", Key::Name::Left},
                                                             {"Right", Key::Name::Right},
-                                                            {"End", Key::Name::End}};
+                                                            {"End", Key::Name::End},
+                                                            {"Ctrl+Z", Key::Name::TakeBack},
+                                                            {"Ctrl+Y", Key::Name::BringBack}};
   for (const auto& [text, value] : names) {
     if (name != QLatin1String(text)) continue;
     key = Key::Named(value);

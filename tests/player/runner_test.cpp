@@ -100,7 +100,7 @@ TEST_F(PlayerTest, AnUnknownFormLookEntryOrKindStopsTheFile) {
   IsNotUnderstood("start\nselect Toy.Name 0", "Toy.Name is no list");
   IsNotUnderstood("start\ntick Toy.Rows 0", "no list with check boxes");
   IsNotUnderstood("start\ndance", "there is no step \"dance\"");
-  IsNotUnderstood("start\nplan mode 7", "there is no tool 7");
+  IsNotUnderstood("start\nplan mode 8", "there is no tool 8");
 }
 
 TEST_F(PlayerTest, EverythingBeforeALineThatCannotBeReadIsPlayed) {

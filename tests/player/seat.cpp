@@ -103,6 +103,8 @@ void Seat::Do(const Step& step) {
     case Act::Answer:
       machine_.messages.answers.push_back(step.yes);
       break;
+    case Act::Choose:
+      return Program().ChooseNext(machine_.PathOf(Unshown(step.text)));
     case Act::Type:
       Program();
       return stage_->Type(Text(step));
@@ -127,6 +129,9 @@ void Seat::Do(const Step& step) {
     case Act::PlanScroll:
     case Act::PlanPage:
     case Act::PlanBox:
+    case Act::PlanPolyline:
+    case Act::PlanPolygon:
+    case Act::PlanCutOut:
       return DoOnPlan(step);
     default:
       return DoToControl(step);
@@ -204,11 +209,17 @@ void Seat::Pick(const Step& step) {
 void Seat::DoOnPlan(const Step& step) {
   Program();
   const auto point = [&](size_t at) { return PagePoint{step.points[at], step.points[at + 1]}; };
+  const auto places = [&] {
+    std::vector<PagePoint> all;
+    for (size_t at = 0; at + 1 < step.points.size(); at += 2) all.push_back(point(at));
+    return all;
+  };
   switch (step.act) {
     case Act::PlanMode:
-      if (step.row < 0 || step.row > static_cast<int>(PlanTool::Counting))
-        NotUnderstood(
-            QStringLiteral("there is no tool %1: 0 none, 1 measuring, 2 counting").arg(step.row));
+      if (step.row < 0 || step.row > static_cast<int>(PlanTool::Perimeter))
+        NotUnderstood(QStringLiteral("there is no tool %1: 0 none, 1 measuring, 2 counting, 3 "
+                                     "polyline, 4 area, 5 rectangle, 6 cut-out, 7 perimeter")
+                          .arg(step.row));
       return stage_->PlanMode(step.row);
     case Act::PlanLine:
       return stage_->PlanLine(point(0), point(2));
@@ -222,6 +233,12 @@ void Seat::DoOnPlan(const Step& step) {
       return stage_->PlanScroll(step.points[0], step.points[1]);
     case Act::PlanBox:
       return stage_->PlanBox(point(0), point(2));
+    case Act::PlanPolyline:
+      return stage_->PlanOutline(PlanTool::Polyline, places());
+    case Act::PlanPolygon:
+      return stage_->PlanOutline(PlanTool::Area, places());
+    case Act::PlanCutOut:
+      return stage_->PlanOutline(PlanTool::CutOut, places());
     default:
       return stage_->PlanPage(step.row);
   }

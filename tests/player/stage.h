@@ -47,6 +47,7 @@ class Stage {
   virtual void PlanScroll(double dx, double dy) = 0;
   virtual void PlanPage(int page) = 0;
   virtual void PlanBox(PagePoint from, PagePoint to) = 0;
+  virtual void PlanOutline(PlanTool tool, const std::vector<PagePoint>& points) = 0;
 
   // After each step: what on the screen differs from the forms, "" when nothing does. `front`: the
   // program's windows are the active ones, so the focus must be where the forms say.

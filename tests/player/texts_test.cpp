@@ -78,4 +78,9 @@ TEST(Marks, AreOneLineEach) {
   circle.kind = Mark::Kind::Circle;
   circle.points = {{72, 144}};
   EXPECT_EQ(MarkLine(circle).toStdString(), "circle 1 72 144 255000000");
+  line.points.push_back({30, 40});
+  line.kind = Mark::Kind::Polyline;
+  EXPECT_EQ(MarkLine(line).toStdString(), "polyline 2 10 20.13 .5 0 30 40 255000000 .75 10.0 feet");
+  line.kind = Mark::Kind::CutOut;
+  EXPECT_EQ(MarkLine(line).toStdString(), "polygon 2 10 20.13 .5 0 30 40 255000000 .75 10.0 feet");
 }

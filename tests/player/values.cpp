@@ -1,6 +1,7 @@
 #include "player/values.h"
 
 #include <QDir>
+#include <algorithm>
 #include <cmath>
 
 #include "common/numbers.h"
@@ -20,8 +21,13 @@ QString MarkLine(const Mark& mark) {
   };
   if (mark.kind == Mark::Kind::Circle)
     return QStringLiteral("circle %1 %2 %3").arg(mark.page).arg(place(0), mark.colour);
-  return QStringLiteral("line %1 ").arg(mark.page) + place(0) + QLatin1Char(' ') + place(1) +
-         QLatin1Char(' ') + mark.colour + QLatin1Char(' ') + ShortNumber(mark.width) +
+  QString line = QLatin1String(IsOutline(mark.kind)                ? "polygon"
+                               : mark.kind == Mark::Kind::Polyline ? "polyline"
+                                                                   : "line");
+  line += QLatin1Char(' ') + QString::number(mark.page);
+  for (size_t i = 0; i < std::max<size_t>(2, mark.points.size()); ++i)
+    line += QLatin1Char(' ') + place(i);
+  return line + QLatin1Char(' ') + mark.colour + QLatin1Char(' ') + ShortNumber(mark.width) +
          QLatin1Char(' ') + mark.label;
 }
 

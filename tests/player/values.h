@@ -14,7 +14,8 @@ QStringList ControlLines(const Control& control);
 QStringList FileRows(const FileBrowser& browser);
 bool PatternTakes(const FileBrowser& browser, const QString& fileName);
 
-// `line PAGE X1 Y1 X2 Y2 RRRGGGBBB WIDTH LABEL` or `circle PAGE X Y RRRGGGBBB`.
+// `line PAGE X1 Y1 X2 Y2 RRRGGGBBB WIDTH LABEL`, the same of a `polyline` and a `polygon` with all
+// their points, or `circle PAGE X Y RRRGGGBBB`.
 QString MarkLine(const Mark& mark);
 // Number text with at most two decimals.
 QString ShortNumber(double number);

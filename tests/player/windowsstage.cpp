@@ -95,6 +95,7 @@ class WindowsStage : public Stage {
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;
   void PlanBox(PagePoint from, PagePoint to) override;
+  void PlanOutline(PlanTool tool, const std::vector<PagePoint>& points) override;
 
   QString Difference(bool front) override;
   bool SavePicture(Form& form, const QString& path) override;
@@ -370,9 +371,12 @@ void WindowsStage::PressOnPlan(PagePoint from, PagePoint to) {
 }
 
 void WindowsStage::PlanMode(int mode) {
-  static const QString captions[] = {QStringLiteral("Move"), QStringLiteral("Measure"),
-                                     QStringLiteral("Count")};
-  if (ClickTool(captions[mode])) return;
+  static const QString captions[] = {QStringLiteral("Move"),    QStringLiteral("Measure"),
+                                     QStringLiteral("Count"),   QStringLiteral("Polyline"),
+                                     QStringLiteral("Area"),    QStringLiteral("Rectangle"),
+                                     QStringLiteral("Cut-out"), QStringLiteral("Perimeter")};
+  if (mode >= 0 && mode < static_cast<int>(std::size(captions)) && ClickTool(captions[mode]))
+    return;
   GetDesk().Dispatch([&] { played_->Viewer().PickTool(static_cast<PlanTool>(mode)); });
 }
 
@@ -402,7 +406,8 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
       {tamo::PlanKey::Up, Qt::Key_Up},         {tamo::PlanKey::Down, Qt::Key_Down},
       {tamo::PlanKey::Space, Qt::Key_Space},   {tamo::PlanKey::Enter, Qt::Key_Return},
       {tamo::PlanKey::Escape, Qt::Key_Escape}, {tamo::PlanKey::Backspace, Qt::Key_Backspace},
-      {tamo::PlanKey::Undo, Qt::Key_Z},        {tamo::PlanKey::Redo, Qt::Key_Y}};
+      {tamo::PlanKey::Undo, Qt::Key_Z},        {tamo::PlanKey::Redo, Qt::Key_Y},
+      {tamo::PlanKey::Arc, Qt::Key_B}};
   QWidget& plan = Plan();
   plan.setFocus(Qt::ShortcutFocusReason);
   Settle();
@@ -430,6 +435,15 @@ void WindowsStage::PlanPage(int page) {
 void WindowsStage::PlanBox(PagePoint from, PagePoint to) {
   Plan();
   GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
+}
+
+// Each point is clicked, Enter ends.
+void WindowsStage::PlanOutline(PlanTool tool, const std::vector<PagePoint>& points) {
+  Plan();
+  TakeTool(static_cast<int>(tool));
+  if (played_->Viewer().OutlineInWork()) PlanKey({tamo::PlanKey::Escape});
+  for (const PagePoint at : points) PressOnPlan(at, at);
+  if (played_->Viewer().OutlineInWork()) PlanKey({tamo::PlanKey::Enter});
 }
 
 // On a platform without a screen a menu that closes leaves no window active; a window system gives

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "plans/mupdfengine.h"
+#include "engine/mupdfengine.h"
 #include "recogniser.h"
 #include "schedule/sheetpictures.h"
 #include "schedule/tesseract.h"
@@ -23,11 +23,14 @@ const std::vector<QStringList> kRows = {{"NO.", "NAME", "FLOOR", "BASE", "WALLS"
 const char kPrint[] = "echo \"$@\" > $here/asked; head -c 17 \"$1\" > $here/head; cat $here/table";
 
 SheetToRead Scan() {
+  static MuPdfEngine engine;
   SheetToRead sheet;
   RealDisk disk;
-  sheet.error = disk.OpenToRead(
-      QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/tests/data/schedules/scan.pdf"),
-      sheet.file);
+  std::shared_ptr<FileReader> file;
+  disk.OpenToRead(
+      QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/tests/data/schedules/scan.pdf"), file);
+  sheet.plan = engine.NewPlan(std::make_shared<PlanSource>(file, file->Size()));
+  sheet.plan->Open({});
   sheet.box = kBox;
   sheet.withLegend = true;
   return sheet;
@@ -38,7 +41,7 @@ class ScannedSheet : public testing::Test {
   SheetRead Read(bool answer, int patience = Tesseract::kPatience) {
     const Tesseract recogniser(patience);
     messages_.answers = {answer};
-    return ReadOrOffer(Scan(), std::make_shared<const SheetPictures>(engine_, recogniser), ask_,
+    return ReadOrOffer(Scan(), std::make_shared<const SheetPictures>(recogniser), ask_,
                        [](int, int) { return true; });
   }
   void ExpectRefused(const SheetRead& read, const char* why) {
@@ -46,7 +49,6 @@ class ScannedSheet : public testing::Test {
     EXPECT_TRUE(read.problem.contains(QLatin1String(why))) << read.problem.toStdString();
   }
 
-  MuPdfEngine engine_;
   test::ScriptedMessages messages_;
   const std::function<bool(const QString&)> ask_ = [this](const QString& question) {
     return messages_.Ask(question);
@@ -119,22 +121,22 @@ TEST_F(ScannedSheet, EscapeStopsTheProgram) {
   const Tesseract recogniser;
   messages_.answers = {true};
   const SheetRead read =
-      ReadOrOffer(Scan(), std::make_shared<const SheetPictures>(engine_, recogniser), ask_,
+      ReadOrOffer(Scan(), std::make_shared<const SheetPictures>(recogniser), ask_,
                   [&fake](int, int) { return !QFile::exists(fake.Path("begun")); });
   ExpectRefused(read, "was stopped");
 }
 
 TEST_F(ScannedSheet, ItsPictureIsPaintedInGrey) {
   GreyPicture picture;
-  const std::atomic<bool> stop = false;
-  EXPECT_EQ(PaintGrey(engine_, Scan().file, 1, kBox, stop, picture), "");
+  CancelFlag stop;
+  EXPECT_EQ(PaintGrey(*Scan().plan, 1, kBox, stop, picture), "");
   EXPECT_EQ(picture.pixels.size(), qsizetype(picture.width) * picture.height);
   const auto dark = std::count_if(picture.pixels.begin(), picture.pixels.end(),
                                   [](char grey) { return uchar(grey) < 100; });
   EXPECT_GT(dark, 1000);
   EXPECT_LT(dark, picture.pixels.size() / 2);
-  EXPECT_NE(PaintGrey(engine_, Scan().file, 99, kBox, stop, picture), "");
-  EXPECT_NE(PaintGrey(engine_, Scan().file, 1, {-50, -50, -10, -10}, stop, picture), "");
+  EXPECT_NE(PaintGrey(*Scan().plan, 99, kBox, stop, picture), "");
+  EXPECT_NE(PaintGrey(*Scan().plan, 1, {-50, -50, -10, -10}, stop, picture), "");
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "common/disk.h"
+#include "engine/mupdfcontentreader.h"
 #include "schedule/schedulereader.h"
 #include "schedule/schedulerows.h"
 

@@ -6,10 +6,12 @@ namespace tamo::test {
 
 bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
   static const std::pair<const char*, PlanKey> keys[] = {
-      {"Left", PlanKey::Left},     {"Right", PlanKey::Right},         {"Up", PlanKey::Up},
-      {"Down", PlanKey::Down},     {"Space", PlanKey::Space},         {"Enter", PlanKey::Enter},
-      {"Escape", PlanKey::Escape}, {"Backspace", PlanKey::Backspace}, {"Undo", PlanKey::Undo},
-      {"Redo", PlanKey::Redo}};
+      {"Left", PlanKey::Left},     {"Right", PlanKey::Right},
+      {"Up", PlanKey::Up},         {"Down", PlanKey::Down},
+      {"Space", PlanKey::Space},   {"Enter", PlanKey::Enter},
+      {"Escape", PlanKey::Escape}, {"Backspace", PlanKey::Backspace},
+      {"Undo", PlanKey::Undo},     {"Redo", PlanKey::Redo},
+      {"Arc", PlanKey::Arc}};
   PlanStroke read;
   QString rest = name.trimmed();
   for (;;) {

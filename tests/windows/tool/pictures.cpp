@@ -9,8 +9,8 @@
 #include <QWidget>
 
 #include "common/paths.h"
-#include "plans/mupdfengine.h"
 #include "plans/pdfdraw.h"
+#include "plans/workerengine.h"
 #include "program/program.h"
 #include "support/doubles.h"
 #include "windows/look.h"
@@ -79,7 +79,7 @@ struct Pictures {
   QString out;
   QString suffix;
   Files planFiles{disk};
-  MuPdfEngine engine;
+  WorkerEngine engine{TAMO_ENGINE};
   PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
   test::WindowProbe windows{program, &viewer};

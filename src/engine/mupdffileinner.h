@@ -1,0 +1,76 @@
+#pragma once
+
+// The inside of MuPdfFile, shared by its two source files. Code between fz_try and fz_catch may be
+// left by a jump, so it holds no local object with a destructor.
+
+#include <mupdf/fitz.h>
+#include <mupdf/pdf.h>
+
+#include "engine/mupdffile.h"
+#include "plans/markpdf.h"
+#include "plans/pdfappend.h"
+
+namespace tamo {
+
+// A mark of ours that stands in the file.
+struct FileMark {
+  QString name;
+  int object = 0;
+};
+
+struct PageRecord {
+  int object = 0;
+  int generation = 0;
+  size_t home = 0;  // the first page that is the same object: it has the marks of both
+  PageMap map;
+  PageSize size;
+  std::vector<FileMark> own;
+  // What a save repeats of the page, read when the first mark on it is saved: the entries of its
+  // dictionary but /Annots, and the annotations of others.
+  bool read = false;
+  QByteArray entries;
+  QByteArray others;
+};
+
+struct MuPdfFile::Inner {
+  fz_context* context = nullptr;
+  std::shared_ptr<MuPdfContexts> contexts;
+  std::shared_ptr<PlanSource> source;
+  pdf_document* document = nullptr;
+  std::vector<PageRecord> pages;
+  PdfEnd end;
+  PdfEnd endBefore;  // of the last addition, and the marks as they stood, to take it back
+  std::vector<std::vector<FileMark>> ownBefore;
+
+  bool OpenDocument(const QByteArray& password, PlanContents& contents);
+  void ReadPages();
+  void ReadMarks(size_t index, std::vector<Mark>& marks);
+  bool ReadEnd();
+  // What speaks against marking the plan, and what can't be saved of it.
+  QString Reservation() const;
+  QString Caution();
+  bool ReadPage(PageRecord& page);
+  bool ReadPageBytes(PageRecord& page);
+  bool ReadOthers(PageRecord& page, QByteArray annotations);
+  bool PrintPage(PageRecord& page);
+  // An object as it stands in the file and can be repeated inside object `into`; empty when it
+  // can't. More may follow it.
+  QByteArray ObjectBytes(int number, int into);
+  QByteArray PageBody(const PageRecord& page) const;
+  bool Encrypted(PdfObject& object);
+  bool EncryptedStream(PdfObject& object, const QByteArray& entries, const QByteArray& content);
+  bool NeedsRewrite() const;
+  void Remove(const QStringList& names, std::vector<bool>& touched);
+  bool Add(const Mark& mark, double markerSize, int& next, std::vector<PdfObject>& objects);
+  // The new and changed objects of a save.
+  bool Change(const MarkChanges& changes, std::vector<PdfObject>& objects);
+};
+
+// The text of an engine's object as it stands in a file, encrypted as the document is.
+QByteArray ObjectText(fz_context* context, pdf_obj* object, pdf_crypt* crypt, int number,
+                      int generation);
+
+// Whether an annotation is a mark of ours. Never throws.
+bool IsOwnMark(fz_context* context, pdf_obj* annotation);
+
+}  // namespace tamo

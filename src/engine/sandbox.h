@@ -1,0 +1,14 @@
+#pragma once
+
+#include "plans/wireplan.h"
+
+namespace tamo {
+
+// What keeps a worker from doing harm whatever a plan makes of it. First of all: nothing open but
+// what it was given, limits of memory and time, no files and no network by their names.
+void ShutIn(WorkerGuard& guard);
+// When all threads are there: from then on none of them can do more than compute, read what is
+// open, and talk to the program.
+void FilterCalls(WorkerGuard& guard);
+
+}  // namespace tamo
