@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -9,7 +10,6 @@
 #include "windows/chosenlook.h"
 #include "windows/figurelabel.h"
 #include "windows/keeperroom.h"
-#include "windows/pagecomposer.h"
 #include "windows/rowsview.h"
 #include "windows/topictext.h"
 
