@@ -113,6 +113,11 @@ void DrawingBoard::DropLine() {
   Repaint();
 }
 
+std::optional<PagePoint> DrawingBoard::WorkFrom() const {
+  if (work_.active) return work_.from;
+  return OutlineActive() ? std::optional(LastOfOutline()) : std::nullopt;
+}
+
 void DrawingBoard::DropWork() {
   DropLine();
   DropOutline();
@@ -277,7 +282,7 @@ void DrawingBoard::PressSpace(bool shift) {
 }
 
 void DrawingBoard::Key(const PlanStroke& stroke) {
-  if (TakeOutlineKey(stroke.key)) return;
+  if (TakeOutlineKey(stroke.key) || TakeSnapKey(stroke.key)) return;
   switch (stroke.key) {
     case PlanKey::Left:
     case PlanKey::Right:
@@ -301,7 +306,7 @@ void DrawingBoard::Key(const PlanStroke& stroke) {
     case PlanKey::Redo:
       Redo();
       return;
-    case PlanKey::Arc:
+    default:
       return;
   }
 }

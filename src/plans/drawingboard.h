@@ -67,6 +67,8 @@ class DrawingBoard : public OutlineBoard {
   // What is painted of it; nothing is worked out here.
   const LineInWork& LineWork() const { return work_; }
   PagePoint CrossHair() const { return crossHair_; }
+  // The last point set of what is in work, from which the next part of it goes.
+  std::optional<PagePoint> WorkFrom() const;
   // The scale has changed: the running length is worked out anew.
   void ScaleChanged();
 
@@ -75,6 +77,8 @@ class DrawingBoard : public OutlineBoard {
   void ClearBoard();
   void CentreCrossHair();
   void LeavePage() override { DropWork(); }
+  // True when the key was one of snapping.
+  virtual bool TakeSnapKey(PlanKey /*key*/) { return false; }
   // Whether this plan may be marked; asks the user where it has to be asked.
   virtual bool MayMark() { return true; }
 

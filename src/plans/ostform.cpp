@@ -76,6 +76,7 @@ void OSTForm::BindMenus() {
   on("LinesColor", [this] { Toggle(ColorFrame); });
   on("Save", [this] { Save(); });
   on("Printit", [this] { viewer_.Print(); });
+  on("SnapToDrawing", [this] { viewer_.Key({PlanKey::Snap, false, false}); });
   static const std::pair<const char*, PlanTool> tools[] = {{"DrawPolyline", PlanTool::Polyline},
                                                            {"DrawArea", PlanTool::Area},
                                                            {"DrawRectangle", PlanTool::Rectangle},
@@ -101,6 +102,7 @@ void OSTForm::BindViewer() {
   viewer_.onModeChanged = event([this](PlanTool tool) {
     pen_.ModeChanged(tool);
     surfaces_.ToolPicked(tool);
+    viewer_.Snap().Follow();
   });
   viewer_.onLineMeasured =
       event([this](double& length, QString& label) { measure_.LineMeasured(length, label); });
@@ -113,7 +115,10 @@ void OSTForm::BindViewer() {
       event([this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
   viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
   viewer_.onCircleCountChanged = event([this](int count) { measure_.CirclesCounted(count); });
-  viewer_.onPageChanged = event([this] { pages_.ShowPage(); });
+  viewer_.onPageChanged = event([this] {
+    pages_.ShowPage();
+    viewer_.Snap().Follow();
+  });
   viewer_.onScrolled = event([this] {
     if (Visible()) record_.SaveAfterScroll();
   });

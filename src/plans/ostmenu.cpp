@@ -79,6 +79,7 @@ constexpr Row kPlan[] = {
     {"DrawRectangle", "&Rectangle (R)", "DrawMenu"},
     {"DrawCutOut", "&Cut-out (K)", "DrawMenu"},
     {"DrawPerimeter", "P&erimeter (E)", "DrawMenu"},
+    {"SnapToDrawing", "&Snap to the Drawing (S)", "DrawMenu"},
 };
 
 class Bar {

@@ -30,7 +30,8 @@ class OutlineBoard : public MarkedSheets {
   void EndOutline();
   void DropOutline();
   bool OutlineActive() const { return outline_.Active(); }
-  void MeasureOutline();  // its running measure anew
+  PagePoint LastOfOutline() const { return outline_.Last(); }  // while it is active
+  void MeasureOutline();                                       // its running measure anew
 
  private:
   PagePoint Straight(PagePoint at, bool shift) const;

@@ -7,6 +7,7 @@
 #include "plans/drawingboard.h"
 #include "plans/planengine.h"
 #include "plans/planpictures.h"
+#include "plans/snappointer.h"
 
 namespace tamo {
 
@@ -70,6 +71,9 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   // Null when none is shown, or it is still opening.
   std::shared_ptr<EnginePlan> OpenedPlan() const;
 
+  // Where the pointer takes hold of the drawing while something is measured.
+  SnapPointer& Snap() { return snap_; }
+
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
   // background; 10 seconds when not set. A window wants 80 milliseconds.
   void SetPatience(int milliseconds) { patience_ = milliseconds; }
@@ -84,6 +88,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
 
  protected:
   bool MayMark() override;
+  bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
 
  private:
   struct Session;
@@ -143,6 +148,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
     QString caution;
   } notices_;
   bool saving_ = false;
+  SnapPointer snap_{*this};
   int patience_ = 10000;
   int longestOpening_ = 30000;
 };

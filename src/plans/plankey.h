@@ -5,8 +5,23 @@ namespace tamo {
 // A key on the plan. Left to Down move the cross hair while a tool is in hand (9 points a step,
 // with Ctrl half a point) and scroll the page otherwise; Space places a point or a circle at the
 // cross hair; Escape drops the line in work; Backspace drops its last point; Enter gives the focus
-// back, and ends an outline in work; Arc makes its next two points those of an arc.
-enum class PlanKey { Left, Right, Up, Down, Space, Enter, Escape, Backspace, Undo, Redo, Arc };
+// back, and ends an outline in work; Arc makes its next two points those of an arc; Snap turns the
+// snap to the drawing on or off, NextSnap takes the cross hair to the next place near it.
+enum class PlanKey {
+  Left,
+  Right,
+  Up,
+  Down,
+  Space,
+  Enter,
+  Escape,
+  Backspace,
+  Undo,
+  Redo,
+  Arc,
+  Snap,
+  NextSnap
+};
 
 struct PlanStroke {
   PlanKey key = PlanKey::Enter;

@@ -38,10 +38,17 @@ bool PlanCanvas::TakeLetter(int key) {
     desk_.Dispatch([&, tool = tool] { viewer_.PickTool(tool); });
     return true;
   }
+  const auto press = [this](PlanKey plan) {
+    desk_.Dispatch([&] { viewer_.Key({plan, false, false}); });
+    return true;
+  };
   switch (key) {
     case Qt::Key_B:
-      desk_.Dispatch([&] { viewer_.Key({PlanKey::Arc, false, false}); });
-      return true;
+      return press(PlanKey::Arc);
+    case Qt::Key_S:
+      return press(PlanKey::Snap);
+    case Qt::Key_Tab:
+      return TakeNextSnap();
     case Qt::Key_T:
       TurnView();
       return true;
@@ -60,6 +67,13 @@ bool PlanCanvas::TakeLetter(int key) {
     default:
       return false;
   }
+}
+
+// Where there is nothing to snap to, Tab goes on to the next field as everywhere.
+bool PlanCanvas::TakeNextSnap() {
+  bool taken = false;
+  desk_.Dispatch([&] { taken = viewer_.Snap().TakeKey(PlanKey::NextSnap); });
+  return taken;
 }
 
 bool PlanCanvas::TakeKey(const QKeyEvent& event) {

@@ -228,10 +228,17 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
   }
   if (viewer_.Tool() == PlanTool::None || !hasFocus()) return;
   const PagePoint hair = viewer_.CrossHair();
+  if (const std::optional<SnapHit> sign = viewer_.Snap().Sign())
+    PaintSnapSign(painter, *sign, Scale());
   const double arm = 9 / Scale();
   painter.setPen(QPen(CurrentLook().accent.darker(110), 1.4 / Scale()));
   painter.drawLine(QPointF(hair.x - arm, hair.y), QPointF(hair.x + arm, hair.y));
   painter.drawLine(QPointF(hair.x, hair.y - arm), QPointF(hair.x, hair.y + arm));
+}
+
+PagePoint PlanCanvas::Pointed(const QMouseEvent& event) {
+  return viewer_.Snap().Point(PageAt(event.position()),
+                              event.modifiers().testFlag(Qt::AltModifier));
 }
 
 // Without a tool in hand the left button pulls the sheet, as the middle one always does.
@@ -245,7 +252,7 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   panning_ = !left || !tool;
   if (!left) return;
   drawing_ = tool;
-  const PagePoint at = PageAt(event->position());
+  const PagePoint at = Pointed(*event);
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
   desk_.Dispatch([&] { viewer_.Press(at, shift); });
 }
@@ -263,8 +270,8 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
     panFrom_ = event->position();
     return;
   }
-  if (!drawing_ && !viewer_.LineWork().active && !viewer_.OutlineInWork()) return;
-  const PagePoint at = PageAt(event->position());
+  if (!drawing_ && !viewer_.WorkFrom() && !viewer_.Snap().Active()) return;
+  const PagePoint at = Pointed(*event);
   desk_.Dispatch([&] { viewer_.Move(at, shift); });
 }
 
@@ -276,7 +283,7 @@ void PlanCanvas::mouseReleaseEvent(QMouseEvent* event) {
   }
   if (event->button() != Qt::LeftButton) return;
   drawing_ = false;
-  const PagePoint at = PageAt(event->position());
+  const PagePoint at = Pointed(*event);
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
   desk_.Dispatch([&] { viewer_.Release(at, shift); });
 }

@@ -75,6 +75,9 @@ class PlanCanvas : public QAbstractScrollArea {
   void ZoomByKey(const std::function<void()>& zoom);
   void FitTo(double pixelsPerPoint);
   bool TakeLetter(int key);
+  bool TakeNextSnap();
+  // Where on the page the mouse takes hold.
+  PagePoint Pointed(const QMouseEvent& event);
 
   PdfDraw& viewer_;
   PlanPictures* pictures_;

@@ -5,6 +5,7 @@
 
 #include "plans/mark.h"
 #include "plans/picture.h"
+#include "plans/snapindex.h"
 
 class QPainter;
 
@@ -18,5 +19,10 @@ QTransform PageTransform(PageSize page, int turn, double scale);
 
 // Paints a mark; the painter works in points of the page.
 void PaintMark(QPainter& painter, const Mark& mark, double markerSize);
+
+// The sign of what the cross hair has taken, with its name: a square at an end, a cross at an
+// intersection, a triangle at a middle, a right angle at a foot, a diamond on a line. The painter
+// works in points of the page, `scale` pixels each.
+void PaintSnapSign(QPainter& painter, const SnapHit& hit, double scale);
 
 }  // namespace tamo

@@ -149,6 +149,8 @@ bool Looker::LookAtState(const QString& word, const QString& rest, QString& text
     text = ControlOfKind<TextField>(Program(), rest, "field").SelectedText();
   } else if (is("beside")) {
     text = ControlOfKind<TextField>(Program(), rest, "field").Beside();
+  } else if (is("snap")) {
+    text = SnapAt(rest);
   } else if (is("hover")) {
     text = ControlNamed(Program(), rest).Hover();
   } else if (is("colour")) {
@@ -159,6 +161,21 @@ bool Looker::LookAtState(const QString& word, const QString& rest, QString& text
     return false;
   }
   return true;
+}
+
+// What the cross hair takes at a place of the sheet, and where; "none" when there is nothing near.
+QString Looker::SnapAt(const QString& rest) {
+  QString second = rest;
+  bool good = false;
+  bool both = false;
+  const double x = TakeWord(second).toDouble(&good);
+  const double y = second.toDouble(&both);
+  if (!good || !both) NotUnderstood(QStringLiteral("snap X Y is expected"));
+  constexpr int kPatience = 20000;  // milliseconds for the lines of the sheet
+  const std::vector<SnapHit> hits = Program().Viewer().Snap().AllNear({x, y}, kPatience);
+  if (hits.empty()) return QStringLiteral("none");
+  return SnapInWords(hits[0].kind) + QLatin1Char(' ') + ShortNumber(hits[0].at.x) +
+         QLatin1Char(' ') + ShortNumber(hits[0].at.y);
 }
 
 QString Looker::MenuState(const QString& word, const QString& name) {

@@ -96,6 +96,7 @@ constexpr PlanVerb kPlanVerbs[] = {
     {"polyline", Act::PlanPolyline, kPlaces},
     {"polygon", Act::PlanPolygon, kPlaces},
     {"cutout", Act::PlanCutOut, kPlaces},
+    {"snap", Act::PlanSnap, 2},
 };
 
 constexpr char kBlockStart[] = " <<END";

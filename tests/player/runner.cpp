@@ -92,6 +92,11 @@ void Runner::Do(const Step& step) {
   switch (step.act) {
     case Act::Print:
       return Print(step);
+    case Act::PlanSnap:
+      for (const QString& line :
+           SeatOf(step).Look(QStringLiteral("snap %1 %2").arg(step.points[0]).arg(step.points[1])))
+        out_ << line << '\n';
+      return out_.flush();
     case Act::Expect:
       return Expect(step);
     case Act::Write:

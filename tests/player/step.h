@@ -46,6 +46,7 @@ enum class Act {
   PlanPolyline,
   PlanPolygon,
   PlanCutOut,
+  PlanSnap,
   Write,
   Copy,
   Remove,

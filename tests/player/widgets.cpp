@@ -41,8 +41,8 @@ constexpr KeyCode kKeyCodes[] = {
 };
 
 void SendMouse(QWidget& widget, QEvent::Type type, QPointF at, Qt::MouseButton button,
-               Qt::MouseButtons held) {
-  QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
+               Qt::MouseButtons held, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+  QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, keys);
   QSpontaneKeyEvent::setSpontaneous(&event);
   QApplication::sendEvent(&widget, &event);
 }
@@ -74,14 +74,14 @@ void SendTyped(QWidget& widget, const QString& character) {
                       c.isUpper() ? Qt::ShiftModifier : Qt::NoModifier);
 }
 
-void SendPress(QWidget& widget, QPointF at, Qt::MouseButton button) {
-  SendMouse(widget, QEvent::MouseButtonPress, at, button, button);
+void SendPress(QWidget& widget, QPointF at, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+  SendMouse(widget, QEvent::MouseButtonPress, at, button, button, keys);
 }
-void SendMove(QWidget& widget, QPointF at, Qt::MouseButtons held) {
-  SendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, held);
+void SendMove(QWidget& widget, QPointF at, Qt::MouseButtons held, Qt::KeyboardModifiers keys) {
+  SendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, held, keys);
 }
-void SendRelease(QWidget& widget, QPointF at, Qt::MouseButton button) {
-  SendMouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
+void SendRelease(QWidget& widget, QPointF at, Qt::MouseButton button, Qt::KeyboardModifiers keys) {
+  SendMouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton, keys);
 }
 
 void SendClick(QWidget& widget, QPointF at, Qt::MouseButton button) {

@@ -20,9 +20,12 @@ void SendKey(QWidget& widget, const Key& key);
 void SendTyped(QWidget& widget, const QString& character);  // one character, maybe two QChars
 
 // Press (and release) at a place in the widget.
-void SendPress(QWidget& widget, QPointF at, Qt::MouseButton button);
-void SendMove(QWidget& widget, QPointF at, Qt::MouseButtons held);
-void SendRelease(QWidget& widget, QPointF at, Qt::MouseButton button);
+void SendPress(QWidget& widget, QPointF at, Qt::MouseButton button,
+               Qt::KeyboardModifiers keys = Qt::NoModifier);
+void SendMove(QWidget& widget, QPointF at, Qt::MouseButtons held,
+              Qt::KeyboardModifiers keys = Qt::NoModifier);
+void SendRelease(QWidget& widget, QPointF at, Qt::MouseButton button,
+                 Qt::KeyboardModifiers keys = Qt::NoModifier);
 void SendClick(QWidget& widget, QPointF at, Qt::MouseButton button);
 void SendDoubleClick(QWidget& widget, QPointF at);
 

@@ -364,10 +364,11 @@ bool WindowsStage::ClickTool(const QString& caption) {
 void WindowsStage::PressOnPlan(PagePoint from, PagePoint to) {
   auto* area = qobject_cast<QAbstractScrollArea*>(&Plan());
   QWidget& sheet = area == nullptr ? Plan() : *area->viewport();
-  SendPress(sheet, keeper_->PlanPlace(from), Qt::LeftButton);
+  // Alt, since a scenario means the very points and not what lies near them.
+  SendPress(sheet, keeper_->PlanPlace(from), Qt::LeftButton, Qt::AltModifier);
   const QPointF end = keeper_->PlanPlace(to);
-  if (from.x != to.x || from.y != to.y) SendMove(sheet, end, Qt::LeftButton);
-  SendRelease(sheet, end, Qt::LeftButton);
+  if (from.x != to.x || from.y != to.y) SendMove(sheet, end, Qt::LeftButton, Qt::AltModifier);
+  SendRelease(sheet, end, Qt::LeftButton, Qt::AltModifier);
 }
 
 void WindowsStage::PlanMode(int mode) {
@@ -407,7 +408,8 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
       {tamo::PlanKey::Space, Qt::Key_Space},   {tamo::PlanKey::Enter, Qt::Key_Return},
       {tamo::PlanKey::Escape, Qt::Key_Escape}, {tamo::PlanKey::Backspace, Qt::Key_Backspace},
       {tamo::PlanKey::Undo, Qt::Key_Z},        {tamo::PlanKey::Redo, Qt::Key_Y},
-      {tamo::PlanKey::Arc, Qt::Key_B}};
+      {tamo::PlanKey::Arc, Qt::Key_B},         {tamo::PlanKey::Snap, Qt::Key_S},
+      {tamo::PlanKey::NextSnap, Qt::Key_Tab}};
   QWidget& plan = Plan();
   plan.setFocus(Qt::ShortcutFocusReason);
   Settle();

@@ -11,7 +11,8 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
       {"Space", PlanKey::Space},   {"Enter", PlanKey::Enter},
       {"Escape", PlanKey::Escape}, {"Backspace", PlanKey::Backspace},
       {"Undo", PlanKey::Undo},     {"Redo", PlanKey::Redo},
-      {"Arc", PlanKey::Arc}};
+      {"Arc", PlanKey::Arc},       {"S", PlanKey::Snap},
+      {"Tab", PlanKey::NextSnap}};
   PlanStroke read;
   QString rest = name.trimmed();
   for (;;) {

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTest>
 #include <QWheelEvent>
 #include <QWindow>
 
@@ -27,7 +28,7 @@ TEST_F(DeskWindowsTest, SettingsLieOverTheMainWindowWhenTheNumberIsMissing) {
   QWidget& settings = Window("Settings");
   ASSERT_TRUE(settings.isVisible());
   EXPECT_EQ(settings.windowHandle()->transientParent(), Window("Tamo").windowHandle());
-  EXPECT_TRUE(Window("Tamo").isActiveWindow());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Window("Tamo").isActiveWindow(); }));
 }
 
 TEST_F(DeskWindowsTest, EndAndPageDownReadOnInAReportThatWasJustOpened) {

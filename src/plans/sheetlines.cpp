@@ -1,0 +1,86 @@
+#include "plans/sheetlines.h"
+
+#include <chrono>
+#include <thread>
+#include <utility>
+
+namespace tamo {
+namespace {
+
+QString ProblemOf(const PageContent& content, size_t lines) {
+  if (content.error != 0)
+    return QStringLiteral("The lines of this sheet can't be read: %1.").arg(content.problem);
+  if (lines == 0 && !content.pictures.empty())
+    return QStringLiteral("This sheet is a scanned picture: it has no lines to snap to.");
+  if (lines == 0) return QStringLiteral("This sheet has no lines to snap to.");
+  if (content.whole) return {};
+  return QStringLiteral("A part of this sheet's lines could not be read: snap knows the others.");
+}
+
+}  // namespace
+
+SheetLines::~SheetLines() {
+  if (read_ != nullptr) read_->cancel.Cancel();
+}
+
+void SheetLines::ReadPage(const std::shared_ptr<EnginePlan>& plan, int page,
+                          const std::shared_ptr<Read>& read) {
+  std::shared_ptr<const SnapIndex> index;
+  QString problem;
+  if (!read->cancel.Cancelled()) {
+    const PageContent content = plan->ReadContent(page, read->cancel);
+    if (!read->cancel.Cancelled()) {
+      index = std::make_shared<SnapIndex>(SnapLinesOf(content));
+      problem = ProblemOf(content, index->Lines());
+    }
+  }
+  const std::lock_guard<std::mutex> guard(read->mutex);
+  read->index = std::move(index);
+  read->problem = std::move(problem);
+  read->done = true;
+}
+
+void SheetLines::KeepOnly(const std::shared_ptr<EnginePlan>& plan, int page) {
+  if (read_ == nullptr || (plan != nullptr && plan_.lock() == plan && page_ == page)) return;
+  read_->cancel.Cancel();
+  read_.reset();
+}
+
+void SheetLines::Want(const std::shared_ptr<EnginePlan>& plan, int page) {
+  KeepOnly(plan, page);
+  if (plan == nullptr || read_ != nullptr) return;
+  plan_ = plan;
+  page_ = page;
+  read_ = std::make_shared<Read>();
+  if (thread_ == nullptr) thread_ = std::make_unique<WorkThread>();
+  thread_->Post([plan, page, read = read_] { ReadPage(plan, page, read); });
+}
+
+std::shared_ptr<const SnapIndex> SheetLines::Index() const {
+  if (read_ == nullptr) return nullptr;
+  const std::lock_guard<std::mutex> guard(read_->mutex);
+  return read_->index;
+}
+
+bool SheetLines::Reading() const {
+  if (read_ == nullptr) return false;
+  const std::lock_guard<std::mutex> guard(read_->mutex);
+  return !read_->done;
+}
+
+QString SheetLines::Problem() const {
+  if (read_ == nullptr) return {};
+  const std::lock_guard<std::mutex> guard(read_->mutex);
+  return read_->problem;
+}
+
+bool SheetLines::Wait(int milliseconds) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+  while (Reading()) {
+    if (std::chrono::steady_clock::now() >= end) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
+  return true;
+}
+
+}  // namespace tamo
