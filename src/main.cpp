@@ -16,9 +16,9 @@
 #include "schedule/sheetpictures.h"
 #include "schedule/tesseract.h"
 #include "windows/chartwindow.h"
+#include "windows/chosenlook.h"
 #include "windows/endsignals.h"
 #include "windows/filedialog.h"
-#include "windows/look.h"
 #include "windows/qtservices.h"
 #include "windows/reportprinter.h"
 #include "windows/windowkeeper.h"
@@ -108,7 +108,6 @@ int main(int argc, char** argv) {
   QGuiApplication::setDesktopFileName(QStringLiteral("tamo"));
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  tamo::ApplyLook(tamo::Look::Of(QApplication::palette()));
 
   tamo::RealDisk disk;
   tamo::RealDisk historyDisk;
@@ -130,6 +129,7 @@ int main(int argc, char** argv) {
   const tamo::Tesseract recogniser;
   tamo::Program program(platform, viewer);
   program.ReadPictures(std::make_shared<const tamo::SheetPictures>(recogniser));
+  tamo::ChosenLook look(program);
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
   printer.company = [&program] { return program.CompanyName(); };
@@ -149,5 +149,6 @@ int main(int argc, char** argv) {
   OpenNamedPlan(QApplication::arguments(), program);
   QTimer ticks;
   LookAbout(ticks, program);
+  QTimer::singleShot(0, &look, [&look] { look.FollowDesktop(); });
   return QApplication::exec();
 }

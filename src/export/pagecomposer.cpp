@@ -49,12 +49,12 @@ void PageComposer::SetFont(const QString& name, int points) {
   points_ = std::clamp(points, 4, 72);
 }
 
-void PageComposer::Add(const QString& text) {
+void PageComposer::Add(const QString& text, bool heavy) {
   if (!open_) pages_.emplace_back();
   open_ = true;
   QString whole = text;
   while (!whole.isEmpty() && whole.back().isSpace()) whole.chop(1);
-  pages_.back().push_back({whole, font_, points_});
+  pages_.back().push_back({whole, font_, points_, heavy});
 }
 
 void PageComposer::EndPage() {
@@ -95,6 +95,7 @@ void PageComposer::Paint(QPainter& painter, const Sheet& sheet, double dotsPerIn
     // Ten times as large as meant and made small again: the painter's own sizes are whole pixels.
     constexpr double kFine = 10;
     font.setPixelSize(static_cast<int>(line.points * kFine));
+    if (line.heavy) font.setWeight(QFont::DemiBold);
     const QFontMetricsF metrics(font);
     const double one = metrics.horizontalAdvance(QLatin1Char('0'));
     painter.save();

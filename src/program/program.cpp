@@ -5,6 +5,7 @@
 #include "history/history.h"
 #include "program/changedquestion.h"
 #include "program/followers.h"
+#include "program/frontprint.h"
 #include "program/homepage.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
@@ -13,6 +14,7 @@
 #include "program/recovery.h"
 #include "program/reportadapters.h"
 #include "program/reportsaver.h"
+#include "program/suggestions.h"
 #include "program/systemsheets.h"
 #include "program/takeoffadapters.h"
 #include "program/versionadapters.h"
@@ -82,8 +84,24 @@ struct Program::Parts {
                versions}};
   Recovery recovery{kit, {shell, settings, main, bottomLine}};
   HomePage home{kit, {main, ost, pricing, docs, takingBack}};
+  Suggestions suggestions{kit,
+                          {{pricing.Description, pricing.DescriptionsList, NameKind::System},
+                           {pricing.Units, pricing.UnitsList, NameKind::TakeoffUnit},
+                           {pricing.Material, pricing.MaterialsList, NameKind::Material},
+                           {pricing.OrderUnits, pricing.oUnitsList, NameKind::OrderUnit},
+                           {rooms.Room, rooms.RoomsList, NameKind::Room},
+                           {rooms.Description, rooms.DescriptionsList, NameKind::System},
+                           {rooms.Area, rooms.AreaList, NameKind::FinishArea},
+                           {areas.Area, areas.AreasList, NameKind::FreeArea},
+                           {areas.eDescription, areas.DescriptionsList, NameKind::System},
+                           {schedule.System, pricing.DescriptionsList, NameKind::System},
+                           {schedule.FloorArea, rooms.AreaList, NameKind::FinishArea},
+                           {schedule.BaseArea, rooms.AreaList, NameKind::FinishArea},
+                           {schedule.WallsArea, rooms.AreaList, NameKind::FinishArea},
+                           {schedule.CeilingArea, rooms.AreaList, NameKind::FinishArea}}};
 
   void AfterEvent() {
+    suggestions.Follow();
     takingBack.EndEvent();
     takeoffFields.Follow();
     recovery.Follow();
@@ -105,6 +123,10 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
   };
   parts.desk.onRest = [&parts] { parts.AfterEvent(); };
   parts.home.openPlan = [this](const QString& path) { OpenPlan(path); };
+  parts.desk.onKeyFirst = [&parts](const Control& control, const Key& key) {
+    return parts.suggestions.TakeKey(control, key);
+  };
+  parts.desk.onEdited = [&parts](TextField& field) { parts.suggestions.Edited(field); };
   // Lists of systems that are loaded are written whole: they must know the new one.
   parts.schedule.onSystemMade = parts.systemSheets.onNewSystem = [&parts](const QString& name) {
     for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,
@@ -116,6 +138,9 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
   parts.files.keepMine = [&parts](const QString& path, const QString& mine, const QString& theirs) {
     return parts.desk.GetMessages().Ask(
         ChangedQuestion({path, mine, theirs}, parts.pricing.MarkupTexts()));
+  };
+  parts.settings.onLook = [this] {
+    if (onLook) onLook();
   };
   parts.reportSaver.company = [this] { return CompanyName(); };
   parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
@@ -158,6 +183,12 @@ SharedFields& Program::Shared() {
 PdfDraw& Program::Viewer() {
   return parts_->viewer;
 }
+void Program::PrintFront(Form& form) {
+  tamo::PrintFront(parts_->kit, form);
+}
+Suggestions& Program::GetSuggestions() {
+  return parts_->suggestions;
+}
 Form* Program::FindForm(const QString& name) {
   return parts_->desk.Find(name);
 }
@@ -165,6 +196,10 @@ Form* Program::FindForm(const QString& name) {
 const QString* Program::FindText(const QString& form, const QString& name) {
   const Form* found = parts_->desk.Find(form);
   return found == nullptr ? nullptr : found->FindText(name);
+}
+
+QString Program::Look() const {
+  return parts_->settings.Look();
 }
 
 QString Program::CompanyName() const {

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "windows/bodyarea.h"
 #include "windows/listbinding.h"
 #include "windows/look.h"
 
@@ -156,6 +157,7 @@ void Display::SyncFocus() {
   QWidget* target = binding == nullptr ? window : &binding->Widget();
   if (now != target || (window->isActiveWindow() && !target->hasFocus()))
     target->setFocus(Qt::OtherFocusReason);
+  if (moved && target != window) BringIntoSight(*target);
 }
 
 void Display::RefocusLater() {
@@ -241,9 +243,25 @@ std::optional<Key> KeyOf(const QKeyEvent& event) {
   return Key::Typed(text[0]);
 }
 
+namespace {
+
+// Keys that a field's widget keeps for itself, unless something lies over the field.
+std::optional<Key> WalkKeyOf(const QKeyEvent& event) {
+  if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return std::nullopt;
+  if (event.key() == Qt::Key_Down) return Key::Named(Key::Name::Down);
+  if (event.key() == Qt::Key_Up) return Key::Named(Key::Name::Up);
+  if (event.key() == Qt::Key_End) return Key::Named(Key::Name::End);
+  return std::nullopt;
+}
+
+}  // namespace
+
 bool Display::TakeKey(Binding& binding, QKeyEvent& event) {
   Control& control = binding.GetControl();
   auto* field = dynamic_cast<TextField*>(&control);
+  if (const std::optional<Key> walk = field == nullptr ? std::nullopt : WalkKeyOf(event)) {
+    if (desk_.TakenFirst(control, *walk)) return true;
+  }
   const bool list = dynamic_cast<OrderedList*>(&control) != nullptr;
   if (!list && TakeListKey(control.Owner(), field, event)) return true;
   const std::optional<Key> key = KeyOf(event);

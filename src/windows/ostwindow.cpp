@@ -272,10 +272,11 @@ void LayOutOST(Builder& b) {
   row->addWidget(PlanColumn(b));
   FormWindow& window = b.Window();
   window.Body().addLayout(row, 1);
-  QLabel* keys =
-      FixedPrompt(QStringLiteral("On the plan: arrows move the cross hair, Space sets a point, "
-                                 "Enter goes back to the field."));
-  keys->setWordWrap(false);
+  QLabel* keys = NewFootLabel(
+      QStringLiteral("On the plan: arrows move the cross hair, Space sets a point, Enter goes back "
+                     "to the field."));
+  keys->setFont(PromptFont());
+  keys->setProperty("role", QStringLiteral("prompt"));
   window.StatusLine().addWidget(keys);
   window.firstSize = {1340, 700};
 }

@@ -1,3 +1,4 @@
+#include "windows/findbar.h"
 #include "windows/formlayouts.h"
 #include "windows/homelayout.h"
 
@@ -70,6 +71,16 @@ QWidget* ProjectPanel(Builder& b) {
   return panel;
 }
 
+FindBar* FindProject(Builder& b) {
+  auto* jobs = b.Find<OrderedList>("JobsList");
+  auto& view = static_cast<ListBinding*>(b.GetDisplay().Of(*jobs))->View();
+  std::vector<std::unique_ptr<FindPlace>> places;
+  places.push_back(std::make_unique<FindInRows>(view, b.GetDisplay(), jobs));
+  auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the projects"));
+  find->OpenByKey(b.Window());
+  return find;
+}
+
 }  // namespace
 
 void LayOutTamo(Builder& b) {
@@ -81,6 +92,7 @@ void LayOutTamo(Builder& b) {
   right->addWidget(HomePageOf(b), 1);
   row->addLayout(right, 3);
   b.Window().Body().addLayout(row, 1);
+  b.Window().Body().addWidget(FindProject(b));
   b.Window().firstSize = {1000, 600};
 }
 

@@ -1,20 +1,21 @@
 #include "windows/windowkeeper.h"
 
 #include <QGuiApplication>
-#include <QShortcut>
 #include <QWindow>
 #include <map>
 
+#include "common/paths.h"
 #include "program/program.h"
 #include "reports/reportsform.h"
 #include "schedule/scheduleform.h"
 #include "windows/accessible.h"
 #include "windows/builder.h"
 #include "windows/formlayouts.h"
-#include "windows/helptopics.h"
 #include "windows/reportprogress.h"
 #include "windows/sidebyside.h"
+#include "windows/suggestionview.h"
 #include "windows/windowactivation.h"
+#include "windows/windowkeys.h"
 #include "windows/windowplaces.h"
 
 namespace tamo {
@@ -30,6 +31,7 @@ struct WindowKeeper::Parts {
   ReportProgress progress{QStringLiteral("The report is being made."), 50};
   ReportProgress schedule{QStringLiteral("The schedule is being worked on."), 500};
   WindowActivation activation{program.GetDesk()};
+  QPointer<SuggestionView> offer{};
 
   FormWindow* Existing(const Form* form) {
     const auto found = windows.find(form);
@@ -46,7 +48,10 @@ WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QStri
   Display& display = *parts_->display;
   display.windowOf = [this](Form& form) -> QWidget* { return parts_->Existing(&form); };
   display.syncWindows = [this] { SyncWindows(); };
-  display.afterSync = [this] { ShowPopups(); };
+  display.afterSync = [this] {
+    ShowPopups();
+    ShowSuggestions(parts_->program, *parts_->display, parts_->offer);
+  };
   for (Form* form : program.GetDesk().Forms()) {
     form->observer = [this] { parts_->display->MarkDirty(); };
     if (auto* reports = dynamic_cast<ReportsForm*>(form)) {
@@ -89,6 +94,10 @@ Program& WindowKeeper::GetProgram() {
   return parts_->program;
 }
 
+SuggestionView* WindowKeeper::Offer() const {
+  return parts_->offer;
+}
+
 FormWindow& WindowKeeper::WindowOf(const Form& form) {
   std::unique_ptr<FormWindow>& window = parts_->windows[&form];
   if (window == nullptr) {
@@ -103,21 +112,6 @@ FormWindow& WindowKeeper::WindowOf(const Form& form) {
   return *window;
 }
 
-namespace {
-
-// The entry of the shell that carries the menus.
-void ChooseWhatChanged(Program& program) {
-  for (const char* shell : {"Tamo", "OST"}) {
-    Form* form = program.FindForm(QLatin1String(shell));
-    MenuEntry* entry = form == nullptr ? nullptr : form->FindMenu(QStringLiteral("WhatChanged"));
-    if (entry == nullptr || !entry->Choosable()) continue;
-    program.GetDesk().ChooseMenu(*entry);
-    return;
-  }
-}
-
-}  // namespace
-
 std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
   auto window = std::make_unique<FormWindow>(form, *parts_->display);
   if (!form.Controls().empty()) {
@@ -125,10 +119,7 @@ std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
     LayOut(builder);
   }
   window->Notice().onClick = [this] { parts_->program.TrySavesAgain(); };
-  auto* help = new QShortcut(QKeySequence(Qt::Key_F1), window.get());
-  connect(help, &QShortcut::activated, this, [this, &form] { ShowHelp(parts_->program, form); });
-  auto* changed = new QShortcut(QKeySequence(Qt::Key_F8), window.get());
-  connect(changed, &QShortcut::activated, this, [this] { ChooseWhatChanged(parts_->program); });
+  GiveWindowKeys(*window, parts_->program, askForPlan);
   return window;
 }
 
@@ -155,9 +146,24 @@ bool IsShell(const Form& form) {
   return form.Name() == QLatin1String("Tamo") || form.Name() == QLatin1String("OST");
 }
 
+// The form's caption, and what it is about: windows are told apart in a task bar, too.
+QString TitleOf(const Form& form, const SharedFields& shared) {
+  QStringList title = {form.Caption()};
+  const auto is = [&](const char* name) { return form.Name() == QLatin1String(name); };
+  const bool ofProject = !is("Settings") && !is("Docs");
+  if (ofProject && !shared.JobID.isEmpty())
+    title += (shared.JobID + QLatin1Char(' ') + shared.JobName).trimmed();
+  if (is("OST")) {
+    const auto* plan = dynamic_cast<const TextField*>(form.Find(QStringLiteral("PlanLocation")));
+    if (plan != nullptr && !plan->Empty()) title += FileNameOf(plan->Text());
+  }
+  return title.join(QStringLiteral(" - "));
+}
+
 void ShowFacts(FormWindow& window, const SharedFields& shared, const QString& notice) {
   const Form& form = window.GetForm();
-  if (window.windowTitle() != form.Caption()) window.setWindowTitle(form.Caption());
+  const QString title = TitleOf(form, shared);
+  if (window.windowTitle() != title) window.setWindowTitle(title);
   window.Menus().Apply();
   window.KeepMenusInSight();
   window.SetNotice(notice);

@@ -116,6 +116,10 @@ bool Looker::LookAtProgram(const QString& word, QString& text) {
     text = TrueOrFalse(played_ != nullptr && played_->Running());
   } else if (word == QStringLiteral("notice")) {
     text = Program().Notice();
+  } else if (word == QStringLiteral("suggestions")) {
+    text = Program().SuggestedNames().join(QStringLiteral("\r\n"));
+  } else if (word == QStringLiteral("suggestion")) {
+    text = Program().SuggestedNames().value(Program().WalkedSuggestion());
   } else if (word == QStringLiteral("chart")) {
     text = Program().Chart().join(QStringLiteral("\r\n"));
   } else if (word == QStringLiteral("focus")) {

@@ -30,6 +30,9 @@ class ProgramPlayed : public Played {
   PdfDraw& Viewer() override;
   QString Notice() override;
   void TrySavesAgain() override;
+  QStringList SuggestedNames() override;
+  int WalkedSuggestion() override;
+  void TakeSuggestion(int row) override;
   void Tick() override;
   bool Running() override;
   void RefreshHomePage() override { program_->RefreshHomePage(); }
