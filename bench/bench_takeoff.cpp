@@ -38,7 +38,8 @@ struct BigProject {
   SharedFields shared;
   Platform platform{disk, clock, nobody, nobody, nobody, {}, {}, {}};
   Kit kit{desk, files, shared, platform};
-  RFSForm form{kit, nobody, nobody, nobody, nobody};
+  TakingBack steps{kit, nobody, nobody};
+  RFSForm form{kit, nobody, nobody, nobody, nobody, steps};
   ProjectHold hold{kit};
   QStringList lines;
 

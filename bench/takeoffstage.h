@@ -14,7 +14,8 @@ class Nobody : public Messages,
                public PlanTools,
                public MissingSystemPricing,
                public TakeoffReportRefresh,
-               public TakeoffExits {
+               public TakeoffExits,
+               public MeasuredMarks {
  public:
   void Tell(const QString&) override {}
   bool Ask(const QString&) override { return false; }
@@ -38,6 +39,9 @@ class Nobody : public Messages,
   void ShowMainForm() override {}
   void ShowProjectPanel() override {}
   void ShowOST() override {}
+  EntryMarks MarksOf(const std::vector<Measured>&) override { return {}; }
+  bool Reaches(const EntryMarks&) const override { return true; }
+  void PutOn(const EntryMarks&, bool) override {}
 };
 
 // The room schedule alone, on a project that stands on the disk.
@@ -50,7 +54,8 @@ struct TakeoffStage {
   SystemClock clock;
   Platform platform{disk, clock, nobody, nobody, nobody, {}, {}, {}};
   Kit kit{desk, files, shared, platform};
-  RFSForm form{kit, nobody, nobody, nobody, nobody};
+  TakingBack steps{kit, nobody, nobody};
+  RFSForm form{kit, nobody, nobody, nobody, nobody, steps};
 
   TakeoffStage(Disk& ofProject, const SharedFields& fields) : disk(ofProject), shared(fields) {}
 };

@@ -1,7 +1,7 @@
 # Where an installed Tamo lies, and the .deb that cpack makes of it. The executable and everything that it looks for beside
 # itself share one folder; a link puts it on the path.
 include(GNUInstallDirs)
-set(program_folder ${CMAKE_INSTALL_LIBDIR}/tamo)
+set(program_folder lib/tamo)
 install(TARGETS tamo tamo-engine RUNTIME DESTINATION ${program_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/data/Blank.pdf ${PROJECT_SOURCE_DIR}/data/About.pdf DESTINATION ${program_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/Docs ${PROJECT_SOURCE_DIR}/data/Sample DESTINATION ${program_folder})
@@ -14,8 +14,12 @@ endforeach()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/desktop/icons DESTINATION ${program_folder}/desktop)
 install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/tamo.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 # The documents, with the pictures and pages that they point to.
-install(FILES ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/data/desktop/copyright
-        DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES ${PROJECT_SOURCE_DIR}/THIRD-PARTY.md ${PROJECT_SOURCE_DIR}/data/desktop/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# The license stands in the file that each package has for it.
+file(READ ${PROJECT_SOURCE_DIR}/README.md readme)
+string(REPLACE "(LICENSE)" "(copyright)" readme "${readme}")
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/packaged/README.md CONTENT "${readme}" @ONLY)
+install(FILES ${CMAKE_BINARY_DIR}/packaged/README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # Compressed without a time in it, so that two builds are equal.
 find_program(GZIP gzip REQUIRED)
@@ -37,8 +41,9 @@ set(CPACK_PACKAGE_NAME tamo)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT "The Tamo maintainers <maintainers@tamo.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Desktop estimating for construction subcontractors")
-set(CPACK_PACKAGE_DESCRIPTION "Keeps a library of priced building systems, takes off quantities per bid, also on PDF plans,
-and shows the bid as recap sheets, quantities, a bill of material, a breakdown and crew copies.")
+set(CPACK_PACKAGE_DESCRIPTION "Keeps a library of priced building systems, takes off quantities per bid, also
+on PDF plans, and shows the bid as recap sheets, quantities, a bill of
+material, a breakdown and crew copies, in windows or from the command line.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)

@@ -1,5 +1,6 @@
-# The headers of Qt, of the standard library and of GoogleTest take half the time of a build with sanitizers. With the option
-# TAMO_PRECOMPILE each target reads them once. It is off by default: a file that forgets an include then does not compile.
+# The headers of Qt, of the standard library and of GoogleTest take half the time of a build. With TAMO_PRECOMPILE=ON each
+# target reads them once, with TESTS each test program. It is off by default: a file that forgets an include then does not
+# compile; ./check builds with TESTS, so that the program itself is looked at for that.
 #
 #   tamo_precompile(TARGET [more headers...])
 function(tamo_precompile target)

@@ -5,6 +5,7 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include "command/commandmain.h"
 #include "common/memory.h"
 #include "common/paths.h"
 #include "plans/pdfdraw.h"
@@ -12,14 +13,16 @@
 #include "program/program.h"
 #include "schedule/sheetpictures.h"
 #include "schedule/tesseract.h"
+#include "windows/chartwindow.h"
 #include "windows/endsignals.h"
+#include "windows/filedialog.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
 #include "windows/reportprinter.h"
 #include "windows/windowkeeper.h"
 
 // Starts the toolkit, the program and its windows. A plan that is named on the command line is
-// opened.
+// opened; a command is run without any window.
 
 namespace {
 
@@ -39,9 +42,12 @@ QString HomeFolder() {
 #endif
 }
 
-QString ConfigFolder() {
-  return QDir::toNativeSeparators(
-      QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+QString MakeConfigFolder(tamo::Disk& disk) {
+  QString folder =
+      QDir::toNativeSeparators(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+  for (const QString& level : tamo::FolderLevels(folder + tamo::PlatformSeparator()))
+    disk.MakeFolder(level);
+  return folder;
 }
 
 // Behind the first window: the readers of pictures take their time to load.
@@ -76,9 +82,21 @@ void LookAbout(QTimer& ticks, tamo::Program& program) {
   ticks.start(kTick);
 }
 
+// Reports are saved by way of the system's dialog for files, and charts get windows of their own.
+void JoinFilesAndCharts(tamo::Program& program, tamo::FileDialog& files, tamo::Disk& disk) {
+  const tamo::FileChooser choose = [&files](const tamo::FileQuestion& question) {
+    return files.Choose(question);
+  };
+  program.ChooseFilesWith(choose);
+  program.DrawChartsWith([&disk, choose](const tamo::ChartData& chart) {
+    (new tamo::ChartWindow(chart, disk, choose, QApplication::activeWindow()))->show();
+  });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+  if (tamo::AsksForCommand(argc, argv)) return tamo::CommandMain(argc, argv);
   tamo::KeepMemory();
   QCoreApplication::setApplicationName(QStringLiteral("tamo"));
   QGuiApplication::setDesktopFileName(QStringLiteral("tamo"));
@@ -92,9 +110,7 @@ int main(int argc, char** argv) {
   tamo::BoxMessages messages;
   tamo::ReportPrinter printer;
   tamo::DeskClipboard clipboard;
-  const QString config = ConfigFolder();
-  for (const QString& level : tamo::FolderLevels(config + tamo::PlatformSeparator()))
-    disk.MakeFolder(level);
+  const QString config = MakeConfigFolder(disk);
   const tamo::Platform platform{
       disk,         clock,     messages,
       printer,      clipboard, tamo::FindProgramFolder(QCoreApplication::applicationDirPath()),
@@ -111,6 +127,9 @@ int main(int argc, char** argv) {
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
   printer.company = [&program] { return program.CompanyName(); };
+  tamo::FileDialog files(config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
+  files.beforeDialog = [&windows] { windows.SyncNow(); };
+  JoinFilesAndCharts(program, files, disk);
   messages.beforeBox = [&windows] { windows.SyncNow(); };
   program.onEnded = [] { QTimer::singleShot(0, [] { QApplication::quit(); }); };
   SaveBeforeTheSystemEnds(application, program);

@@ -35,7 +35,9 @@ void OnEnter(TextField& field, Keys keys, Step step) {
   field.onKey = [&field, keys, step = std::move(step)](Key& key) {
     if (!Passes(key, keys)) {
       key.Drop();
-      if (keys != Keys::FileName && key.character == QLatin1Char(',')) field.CommaDropped();
+      // Where the point is thrown away, too, a number loses as much by it.
+      if (keys != Keys::FileName && QStringLiteral(",.").contains(key.character))
+        field.CommaDropped();
     }
     if (!key.IsEnter()) return;
     key.Drop();
@@ -47,6 +49,13 @@ void OnEnter(TextField& field, Keys keys, Step step, Step out) {
   OnEnter(field, keys, [&field, step = std::move(step), out = std::move(out)] {
     field.Empty() ? out() : step();
   });
+}
+
+void SayTakenNumber(TextField& field) {
+  field.onKey = [&field, then = std::move(field.onKey)](Key& key) {
+    if (key.Is(Key::Name::Character) && key.character == QLatin1Char(',')) field.CommaDropped();
+    if (then) then(key);
+  };
 }
 
 void HideOnKey(TextField& field, OrderedList& list) {

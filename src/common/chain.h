@@ -37,6 +37,10 @@ void OnEnter(TextField& field, Keys keys, Step step);
 // The same, but Enter in the empty field steps out of the loop: it runs `out` instead.
 void OnEnter(TextField& field, Keys keys, Step step, Step out);
 
+// The field takes any key, and its text is read as a number: a comma ends it, and where one or two
+// digits follow, what is taken is said beside the field. Call it after OnEnter.
+void SayTakenNumber(TextField& field);
+
 // Any key, Enter too, first hides `list`; then the handler that the field had runs. Call it after
 // OnEnter.
 void HideOnKey(TextField& field, OrderedList& list);

@@ -19,7 +19,9 @@ struct Key {
     Up,
     Down,
     Left,
-    Right
+    Right,
+    TakeBack,  // Ctrl+Z
+    BringBack  // Ctrl+Y
   };
 
   Name name = Name::Character;

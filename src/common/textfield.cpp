@@ -27,15 +27,20 @@ void TextField::SetText(const QString& text) {
 }
 
 void TextField::CommaDropped() {
-  if (comma_ > 0 || selectionLength_ > 0 || selectionStart_ == 0) return;
+  const bool stands = comma_ > 0 && comma_ < text_.size() && text_[comma_] == QLatin1Char(',');
+  if ((comma_ > 0 && !stands) || selectionLength_ > 0 || selectionStart_ == 0) return;
   if (text_[selectionStart_ - 1].isDigit()) comma_ = selectionStart_;
 }
 
 QString TextField::Beside() const {
   if (comma_ < 0) return {};
+  // In a field of any keys it stands, and ends the number that is read.
+  const bool stands = comma_ < text_.size() && text_[comma_] == QLatin1Char(',');
+  const qsizetype from = stands ? comma_ + 1 : comma_;
   qsizetype digits = 0;
-  while (comma_ + digits < text_.size() && text_[comma_ + digits].isDigit()) ++digits;
-  return digits == 1 || digits == 2 ? QStringLiteral("taken as %1").arg(text_) : QString();
+  while (from + digits < text_.size() && text_[from + digits].isDigit()) ++digits;
+  if (digits != 1 && digits != 2) return {};
+  return QStringLiteral("taken as %1").arg(stands ? text_.left(comma_) : text_);
 }
 
 void TextField::SetReadOnly(bool is) {

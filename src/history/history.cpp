@@ -77,7 +77,10 @@ std::vector<Version> History::VersionsOfBid() const {
 }
 
 bool History::SentVersion(Version& version) const {
-  const std::vector<Version> versions = VersionsOfBid();
+  return SentVersionOf(VersionsOfBid(), version);
+}
+
+bool SentVersionOf(const std::vector<Version>& versions, Version& version) {
   const auto kept = [](const Version& v) { return v.head.reason == VersionHead::Reason::Kept; };
   const auto sent = [&](const Version& v) {
     return kept(v) && v.head.name.contains(QLatin1String("sent"), Qt::CaseInsensitive);

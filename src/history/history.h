@@ -30,6 +30,10 @@ class FormerBid {
   std::unique_ptr<Files> files_;
 };
 
+// The newest version of a bid that was sent, by its name; otherwise the newest one that was kept by
+// hand. `versions`: newest first. False when there is none.
+bool SentVersionOf(const std::vector<Version>& versions, Version& version);
+
 // All that the program remembers of former states: the journal of files, the versions of bids, and
 // deleted projects. What goes wrong is told in words; "" is none.
 class History {
@@ -46,8 +50,6 @@ class History {
   // The open project as it stands on the disk.
   QString KeepVersion(const QString& name, VersionHead::Reason reason = VersionHead::Reason::Kept);
   std::vector<Version> VersionsOfBid() const;
-  // The newest version of the open project that was sent, by its name; otherwise the newest one
-  // that was kept by hand. False when there is none.
   bool SentVersion(Version& version) const;
   // The days of which something is known, newest first: each stands for the bid as it was when that
   // day began.

@@ -83,6 +83,30 @@ bool MarkedSheets::Redo() {
   return true;
 }
 
+bool MarkedSheets::WasDrawnHere(const QString& name) const {
+  return std::any_of(done_.begin(), done_.end(),
+                     [&](const Step& step) { return step.added && step.mark.name == name; });
+}
+
+bool MarkedSheets::TakeOff(const QString& name, Mark& mark) {
+  const auto found = std::find_if(marks_.begin(), marks_.end(),
+                                  [&](const Mark& other) { return other.name == name; });
+  if (found == marks_.end()) return false;
+  mark = *found;
+  DeleteMark(static_cast<int>(marks_.end() - found) - 1);
+  return true;
+}
+
+bool MarkedSheets::PutBack(const Mark& mark) {
+  if (std::any_of(marks_.begin(), marks_.end(),
+                  [&](const Mark& other) { return other.name == mark.name; }))
+    return false;
+  done_.push_back({true, marks_.size(), mark});
+  undone_.clear();
+  Do(Step(done_.back()), true);
+  return true;
+}
+
 void MarkedSheets::Do(const Step& step, bool forward) {
   const auto place = static_cast<std::ptrdiff_t>(std::min(step.at, marks_.size()));
   const bool circle = step.mark.kind == Mark::Kind::Circle;

@@ -24,6 +24,13 @@ class MarkedSheets : public SheetView {
   bool Undo();                 // false when there is nothing to take back
   bool Redo();
 
+  // The mark of that name was drawn since the plan was opened.
+  bool WasDrawnHere(const QString& name) const;
+  // Takes it off the sheet, or puts it there again under its own name. False when it is not there,
+  // or there already.
+  bool TakeOff(const QString& name, Mark& mark);
+  bool PutBack(const Mark& mark);
+
  protected:
   // Takes the place of all marks; oldest first. Nothing can be taken back then.
   void FillMarks(std::vector<Mark> marks);

@@ -12,6 +12,7 @@ struct OstControls : Form {
 
   PictureBox picPdfThumbnails{*this, "picPdfThumbnails"};
   PictureBox picPdfDraw{*this, "picPdfDraw"};
+  Label GoesTo{*this, "GoesTo"};  // where the next length or count goes
   TextField ProjectName{*this, "ProjectName"};
   TextField PlanLocation{*this, "PlanLocation"};
   TextField PageText{*this, "PageText"};

@@ -1,19 +1,11 @@
 #include "plans/ostform.h"
 
+#include "common/chain.h"
 #include "common/columns.h"
 #include "plans/ostmenu.h"
 
 namespace tamo {
 namespace {
-
-// Runs an action when Enter is pressed in a field; the key itself does nothing more.
-void OnEnter(TextField& field, std::function<void()> action) {
-  field.onKey = [action = std::move(action)](Key& key) {
-    if (!key.IsEnter()) return;
-    key.Drop();
-    action();
-  };
-}
 
 void Toggle(Frame& frame) {
   frame.SetShown(!frame.Shown());
@@ -70,6 +62,7 @@ void OSTForm::BindFields() {
   OnEnter(ZoomLevel, [this] { pages_.TakeZoomLevel(); });
   OnEnter(PlanLocation, [this] { opener_.EnterPlanLocation(); });
   OnEnter(KnownDimension, [this] { measure_.StartCheck(); });
+  for (TextField* field : {&KnownDimension, &Scale1, &Scale2}) SayTakenNumber(*field);
   Command2.onClick = [this] {
     if (ActiveControl() == &picPdfDraw) viewer_.DeleteMark(0);
   };

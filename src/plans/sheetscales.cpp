@@ -54,7 +54,7 @@ double FeetPerInch(const ScaleTexts& scale) {
 ScaleTexts ScaleFor(double feetPerInch) {
   for (const ScaleEntry& entry : InchScales()) {
     ScaleTexts usual = {QLatin1String(entry.scale1), QLatin1String(entry.scale2),
-                              QLatin1String(kInchText)};
+                        QLatin1String(kInchText)};
     if (Alike(FeetPerInch(usual), feetPerInch)) return usual;
   }
   const double rounded = QString::number(feetPerInch, 'g', 6).toDouble();

@@ -20,6 +20,7 @@ MarkupChain::MarkupChain(const Kit& kit, MarkupControls& controls, MaterialContr
       kit_.desk.Focus(*next);
       refresh_.PrintReport();
     });
+    SayTakenNumber(*c_.MarkupRing[i]);
     OnFocusSelectAll(*c_.MarkupRing[i]);
   }
   // The labor markup alone is saved when it is entered, too. A test holds it.

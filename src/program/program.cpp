@@ -11,8 +11,10 @@
 #include "program/readagain.h"
 #include "program/recovery.h"
 #include "program/reportadapters.h"
+#include "program/reportsaver.h"
 #include "program/takeoffadapters.h"
 #include "program/versionadapters.h"
+#include "program/waitingfields.h"
 #include "schedule/scheduleform.h"
 #include "workspace/form11.h"
 
@@ -50,20 +52,23 @@ struct Program::Parts {
   ProjectKeeperOnTamo projectKeeper{main};
   PlanToolsOnOst planTools{ost};
   TakeoffExitsOnForms takeoffExits{shell, main, ost};
-  TakeoffFieldsOnForms takeoffFields{rooms, areas};
+  MarksOnPlan entryMarks{ost};
+  TakingBack takingBack{kit, entryMarks, reportFollows};
+  WaitingFields takeoffFields{kit, ost, rooms, areas, entryMarks};
   ProjectRecordOnTamo projectRecord{main};
   BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
+  ReportSaver reportSaver{kit};
 
   Form11 form11{kit};
   SettingsForm settings{kit, shell};
   OSTForm ost{kit, viewer, projectKeeper, takeoffFields};
   TamoForm main{kit, settings, {shell, planOfProject, followers}};
   PricingForm pricing{kit, reportFollows, startOfPricing, startOfPricing};
-  RFSForm rooms{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
-  EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits};
+  RFSForm rooms{kit, planTools, pricingOnForm, reportFollows, takeoffExits, takingBack};
+  EstimateForm areas{kit, planTools, pricingOnForm, reportFollows, takeoffExits, takingBack};
   BottomLine bottomLine{kit, reportFollows};
   AdjustmentForm adjustment{kit, reportFollows};
-  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history}};
+  ReportsForm reports{kit, {pricing, projectRecord, shell, settings, ost, history, reportSaver}};
   VersionsForm versions{kit, history, reports, bidChanger};
   DocsForm docs{kit, [this] { shell.BringUpShell(); }};
   ScheduleForm schedule{kit, ost};
@@ -87,7 +92,11 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     parts.bottomLine.SaveUnsaved();
     parts.ost.SaveMarks();
   };
-  parts.desk.onRest = [&parts] { parts.recovery.Follow(); };
+  parts.desk.onRest = [&parts] {
+    parts.takingBack.EndEvent();
+    parts.takeoffFields.Follow();
+    parts.recovery.Follow();
+  };
   // Lists of systems that are loaded are written whole: they must know the new one.
   parts.schedule.onSystemMade = [&parts](const QString& name) {
     for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,
@@ -99,6 +108,7 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     return parts.desk.GetMessages().Ask(
         ChangedQuestion({path, mine, theirs}, parts.pricing.MarkupTexts()));
   };
+  parts.reportSaver.company = [this] { return CompanyName(); };
   parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
   parts.ost.onClose = [&parts] { return parts.shell.CloseOst(); };
 }
@@ -119,6 +129,12 @@ bool Program::Running() const {
 }
 void Program::ReadPictures(std::shared_ptr<const SheetPictures> pictures) {
   parts_->schedule.pictures = std::move(pictures);
+}
+void Program::ChooseFilesWith(FileChooser chooser) {
+  parts_->reportSaver.onChoose = std::move(chooser);
+}
+void Program::DrawChartsWith(std::function<void(const ChartData& chart)> draw) {
+  parts_->reportSaver.onChart = std::move(draw);
 }
 Desk& Program::GetDesk() {
   return parts_->desk;

@@ -7,7 +7,9 @@
 #include "common/files.h"
 #include "common/services.h"
 #include "common/sharedfields.h"
+#include "export/chartdata.h"
 #include "plans/pdfdraw.h"
+#include "program/filechoice.h"
 
 namespace tamo {
 
@@ -56,6 +58,9 @@ class Program {
   bool MayEnd();
   // Everything that waits in a form is kept in the recovery file, also what is being typed.
   void KeepWaiting();
+  // Who asks the user for a file, and who draws a chart; without them nothing is saved or drawn.
+  void ChooseFilesWith(FileChooser chooser);
+  void DrawChartsWith(std::function<void(const ChartData& chart)> draw);
   // Scanned sheets may be read by it from then on; without it they are refused.
   void ReadPictures(std::shared_ptr<const SheetPictures> pictures);
   // The system asks the program to end, and nobody may be asked: all that waits is saved, or kept

@@ -48,40 +48,4 @@ class TakeoffExitsOnForms : public TakeoffExits {
   OSTForm& ost_;
 };
 
-class TakeoffFieldsOnForms : public TakeoffFields {
- public:
-  TakeoffFieldsOnForms(RFSForm& rooms, EstimateForm& areas) : rooms_(rooms), areas_(areas) {}
-
-  bool FormVisible(Field field) const override { return At(field).Owner().Visible(); }
-  void SetText(Field field, const QString& text) override { At(field).SetText(text); }
-  bool TakeArea(Field waiting, const QString& squareFeet, QString& words) override {
-    if (waiting == Field::ELength || waiting == Field::Hite)
-      return PutArea({areas_.Units, areas_.Hite, areas_.eLength}, squareFeet, words);
-    if (waiting == Field::How && rooms_.Entering()) {
-      words = QStringLiteral("The height of the room is asked for, and an area is none.");
-      return false;
-    }
-    return PutArea({rooms_.Units, rooms_.How, rooms_.Length}, squareFeet, words);
-  }
-  void FocusOn(Field field) override { rooms_.GetDesk().FocusWithoutActivation(At(field)); }
-
- private:
-  TextField& At(Field field) const {
-    switch (field) {
-      case Field::ELength:
-        return areas_.eLength;
-      case Field::Hite:
-        return areas_.Hite;
-      case Field::Length:
-        return rooms_.Length;
-      case Field::How:
-        break;
-    }
-    return rooms_.How;
-  }
-
-  RFSForm& rooms_;
-  EstimateForm& areas_;
-};
-
 }  // namespace tamo

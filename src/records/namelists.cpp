@@ -44,8 +44,12 @@ int WriteNames(Files& files, const DataFolder& data, NameList list, const QStrin
   return files.SaveLines(data.NameFile(FileNameOf(list)), names, FileKind::List, JoinedLines(base));
 }
 
+QString NamesFile(const DataFolder& data, NameList list) {
+  return data.NameFile(FileNameOf(list));
+}
+
 bool NamesAreBehind(Files& files, const DataFolder& data, NameList list) {
-  return files.IsBehind(data.NameFile(FileNameOf(list)));
+  return files.IsBehind(NamesFile(data, list));
 }
 
 }  // namespace tamo

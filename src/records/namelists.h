@@ -27,6 +27,8 @@ int ReadNamesDelimited(Files& files, const DataFolder& data, NameList list, QStr
 int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names);
 int WriteNames(Files& files, const DataFolder& data, NameList list, const QStringList& names,
                const QStringList& base);
+// Where the list stands.
+QString NamesFile(const DataFolder& data, NameList list);
 // The file holds more than was last read of it: see Files::IsBehind.
 bool NamesAreBehind(Files& files, const DataFolder& data, NameList list);
 

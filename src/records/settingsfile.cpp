@@ -16,12 +16,17 @@ constexpr double kWidest = 100;
 const QString kRed = QStringLiteral("255000000");
 const QString kWholeQuantities = QStringLiteral("WholeQuantities");
 
-QString SettingsPath(Files& files, const Platform& platform, bool forWriting) {
+QString SettingsPath(Files& files, const QString& programFolder, const QString& configFolder,
+                     bool forWriting) {
   const QString name = PlatformSeparator() + QStringLiteral("Settings.tamo");
-  QString beside = platform.programFolder + name;
-  if (files.GetDisk().CanWrite(platform.programFolder)) return beside;
-  QString own = platform.configFolder + name;
+  QString beside = programFolder + name;
+  if (files.GetDisk().CanWrite(programFolder)) return beside;
+  QString own = configFolder + name;
   return forWriting || files.Exists(own) ? own : beside;
+}
+
+QString SettingsPath(Files& files, const Platform& platform, bool forWriting) {
+  return SettingsPath(files, platform.programFolder, platform.configFolder, forWriting);
 }
 
 // A choice that stands in the file, or "" for anything else.
@@ -57,8 +62,13 @@ void TakeLines(const QStringList& lines, SettingsRecord& record) {
 }  // namespace
 
 int ReadSettings(Files& files, const Platform& platform, SettingsRecord& record) {
+  return ReadSettings(files, platform.programFolder, platform.configFolder, record);
+}
+
+int ReadSettings(Files& files, const QString& programFolder, const QString& configFolder,
+                 SettingsRecord& record) {
   QStringList lines;
-  const int error = files.ReadLines(SettingsPath(files, platform, false), lines);
+  const int error = files.ReadLines(SettingsPath(files, programFolder, configFolder, false), lines);
   if (error != kNoError) return error;
   record.wholeQuantities = !lines.isEmpty() && lines.last() == kWholeQuantities;
   record.lines = 0;

@@ -27,6 +27,9 @@ struct SettingsRecord {
 // Error numbers as Files has them; nothing changes when there is nothing to read. A colour of the
 // wrong length is read as red.
 int ReadSettings(Files& files, const Platform& platform, SettingsRecord& record);
+// The same from the two folders in which the file may lie.
+int ReadSettings(Files& files, const QString& programFolder, const QString& configFolder,
+                 SettingsRecord& record);
 // A pair of which nothing was picked has no line, and the later lines stand one higher; such a file
 // is read back by position all the same.
 int WriteSettings(Files& files, const Platform& platform, const SettingsRecord& record);

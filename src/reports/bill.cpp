@@ -151,6 +151,10 @@ Report BillofMaterial(const ReportSource& source) {
   NoteBook notes;
   const std::vector<BillRow> rows = GetMaterial(source, notes, report.partlyRead);
   report.lines = {QStringLiteral("Bill Of Materials"), QString()};
+  if (source.table != nullptr)
+    source.table->Begin({{QStringLiteral("Material"), ColumnKind::Text},
+                         {QStringLiteral("Quantity"), ColumnKind::Number},
+                         {QStringLiteral("Order unit"), ColumnKind::Text, 12}});
   for (const BillRow& row : rows) {
     double order = Raised(row.quantity);
     if (order == 0) order = 1;
@@ -158,6 +162,7 @@ Report BillofMaterial(const ReportSource& source) {
                     Column(NumberText(order), 10, true, row.material) + QStringLiteral("  ") +
                     Column(row.orderUnit, 10, false, row.material) + QStringLiteral("____________");
     report.lines += QString();
+    if (source.table != nullptr) source.table->Add({row.material, order, row.orderUnit});
   }
   report.notes = notes.Take();
   return report;

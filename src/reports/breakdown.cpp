@@ -80,9 +80,43 @@ constexpr BreakLine kMisc[] = {
     {"        Misc. Markup:", 0, 21, &ProjectRollUp::miscMarkup},
 };
 
+// A caption as a table has it: without blanks and the colon.
+QString Plain(const char* label) {
+  const QString name = QString::fromLatin1(label).trimmed();
+  return name.endsWith(QLatin1Char(':')) ? name.chopped(1) : name;
+}
+
+void BeginTable(TableSink* table, const ProjectRollUp& roll) {
+  if (table == nullptr) return;
+  table->Begin({{QStringLiteral("Group"), ColumnKind::Text, 20},
+                {QStringLiteral("Figure"), ColumnKind::Text},
+                {QStringLiteral("Amount"), ColumnKind::Money},
+                {QStringLiteral("Per cent"), ColumnKind::Percent}});
+  table->Add({u"Bid", u"Total Bid Price", roll.totalBid}, RowWeight::Total);
+}
+
+void AddProfits(TableSink* table, const ProjectRollUp& roll) {
+  if (table == nullptr) return;
+  table->Add({u"Profit", u"Gross Profit", {}, roll.grossProfit});
+  table->Add({u"Profit", u"Net Profit", {}, roll.netProfit});
+}
+
 template <size_t N>
-void AddGroup(TextRows& lines, const char* heading, const BreakLine (&group)[N],
+void AddRows(TableSink* table, const char* heading, const BreakLine (&group)[N],
+             const ProjectRollUp& roll) {
+  if (table == nullptr) return;
+  const QString name = QString::fromLatin1(heading);
+  for (const BreakLine& line : group) {
+    const QString figure = Plain(line.label);
+    table->Add({name, figure, roll.*line.figure},
+               &line == group ? RowWeight::Total : RowWeight::Plain);
+  }
+}
+
+template <size_t N>
+void AddGroup(TextRows& lines, TableSink* table, const char* heading, const BreakLine (&group)[N],
               const ProjectRollUp& roll) {
+  AddRows(table, heading, group, roll);
   lines += QLatin1String(heading);
   for (const BreakLine& line : group) {
     lines += QLatin1String(line.label) + Blanks(line.blanks) +
@@ -117,15 +151,17 @@ void NoteCents(const BreakFigures& figures, Report& report) {
 
 }  // namespace
 
-Report BreakDown(const BreakFigures& figures) {
+Report BreakDown(const BreakFigures& figures, TableSink* table) {
   const ProjectRollUp& roll = figures.roll;
   Report report;
   TextRows& lines = report.lines;
   lines = {QStringLiteral("BreakDown"), QString(), TotalBid(roll), QString()};
-  AddGroup(lines, "Labor", kLabor, roll);
-  AddGroup(lines, "Material", kMaterial, roll);
-  AddGroup(lines, "Bottom Line Items", kBottomLine, roll);
-  AddGroup(lines, "Miscellaneous", kMisc, roll);
+  BeginTable(table, roll);
+  AddGroup(lines, table, "Labor", kLabor, roll);
+  AddGroup(lines, table, "Material", kMaterial, roll);
+  AddGroup(lines, table, "Bottom Line Items", kBottomLine, roll);
+  AddGroup(lines, table, "Miscellaneous", kMisc, roll);
+  AddProfits(table, roll);
   lines += QString(71, QLatin1Char('_'));
   const int lastTotal = static_cast<int>(lines.size());
   lines += TotalBid(roll);

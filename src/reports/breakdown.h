@@ -21,7 +21,7 @@ struct BreakFigures {
 // text that the reports hold and takes that of the project's file, when there is one.
 BreakFigures MakeBreak(const ReportSource& source, const Markups& markups, QString& adjustment);
 
-// The whole bid by kind of cost.
-Report BreakDown(const BreakFigures& figures);
+// The whole bid by kind of cost. `table` gets the same figures; may be null.
+Report BreakDown(const BreakFigures& figures, TableSink* table = nullptr);
 
 }  // namespace tamo

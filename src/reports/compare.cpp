@@ -3,6 +3,7 @@
 #include <array>
 
 #include "reports/comparelines.h"
+#include "reports/comparetable.h"
 
 namespace tamo {
 namespace {
@@ -51,6 +52,15 @@ Report Compare(const ComparedBid& then, const ComparedBid& now, const QString& p
   };
   sheets("Rooms", SheetKind::Room);
   sheets("Areas", SheetKind::Area);
+  if (now.source.table != nullptr) {
+    CompareTable table(*now.source.table);
+    table.Figures(changes);
+    table.Manhours(bidThen.manhours, bidNow.manhours);
+    table.Sheets(u"Room",
+                 ChangedSheets(sheetsThen.Of(SheetKind::Room), sheetsNow.Of(SheetKind::Room)));
+    table.Sheets(u"Area",
+                 ChangedSheets(sheetsThen.Of(SheetKind::Area), sheetsNow.Of(SheetKind::Area)));
+  }
   Report report;
   report.lines = lines.Take();
   return report;

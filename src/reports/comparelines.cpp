@@ -25,27 +25,6 @@ struct Mover {
   QString line;
 };
 
-QString KindText(SystemChange::Kind kind) {
-  using Kind = SystemChange::Kind;
-  switch (kind) {
-    case Kind::Same:
-      return {};
-    case Kind::Quantity:
-      return QStringLiteral("quantity");
-    case Kind::Price:
-      return QStringLiteral("price");
-    case Kind::Both:
-      return QStringLiteral("price and quantity");
-    case Kind::New:
-      return QStringLiteral("new");
-    case Kind::Gone:
-      return QStringLiteral("gone");
-    case Kind::Other:
-      return QStringLiteral("what the system before it left standing");
-  }
-  return {};
-}
-
 QString Counted(int count, const char* one, const char* many) {
   return QString::number(count) + QLatin1Char(' ') + QLatin1String(count == 1 ? one : many);
 }
@@ -73,6 +52,27 @@ std::vector<Mover> Movers(const BidChanges& changes) {
 }
 
 }  // namespace
+
+QString KindText(SystemChange::Kind kind) {
+  using Kind = SystemChange::Kind;
+  switch (kind) {
+    case Kind::Same:
+      return {};
+    case Kind::Quantity:
+      return QStringLiteral("quantity");
+    case Kind::Price:
+      return QStringLiteral("price");
+    case Kind::Both:
+      return QStringLiteral("price and quantity");
+    case Kind::New:
+      return QStringLiteral("new");
+    case Kind::Gone:
+      return QStringLiteral("gone");
+    case Kind::Other:
+      return QStringLiteral("what the system before it left standing");
+  }
+  return {};
+}
 
 QString CentsText(qint64 cents) {
   const QString digits = QString::number(std::abs(cents)).rightJustified(3, QLatin1Char('0'));

@@ -31,6 +31,9 @@ class CompareLines {
   TextRows lines_;
 };
 
+// What is another: "price", "new"; "" for the same.
+QString KindText(SystemChange::Kind kind);
+
 // "1250.00", "-3.50"; with a sign "+1250.00", and "0.00" for nothing.
 QString CentsText(qint64 cents);
 QString SignedCentsText(qint64 cents);

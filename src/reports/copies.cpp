@@ -4,6 +4,7 @@
 
 #include "common/columns.h"
 #include "common/numbers.h"
+#include "reports/copytable.h"
 #include "reports/detailrow.h"
 #include "reports/linequantity.h"
 #include "reports/notebook.h"
@@ -41,13 +42,17 @@ class CopyMaker : public TakeoffVisitor {
         shelf_(source),
         markups_(markups),
         office_(office),
-        labor_(DetailRow::Labor(office)) {
+        labor_(DetailRow::Labor(office)),
+        table_(source.table, office) {
     Add(QStringLiteral("Project Manager"));
     Add(office ? QStringLiteral("Office Copy") : QStringLiteral("Field Copy"));
     Add({});
   }
 
-  void BeginSheet(SheetKind, const QString& name) override { Add(name); }
+  void BeginSheet(SheetKind kind, const QString& name) override {
+    Add(name);
+    table_.BeginSheet(kind, name);
+  }
   void EndSheet(SheetKind) override { Add({}); }
 
   void Line(SheetKind kind, QStringView line) override {
@@ -63,10 +68,14 @@ class CopyMaker : public TakeoffVisitor {
       report_.lines.Add({u"   ", system, pad, end,
                          unitPriced ? QStringView(u"     Unit price item") : QStringView()});
       report_.detail.push_back(false);
+      table_.Line(line, WholeQuantity(kind, line));
+      table_.EndLine(0);
       return;
     }
     Add({});
+    table_.Line(line, WholeQuantity(kind, line));
     const double dollars = AddDetails(QuantityOf(kind, line, columns, static_cast<int>(head)));
+    table_.EndLine(dollars);
     report_.total += dollars;
     const QString subtotal = office_ ? MoneyText(dollars) : QString();
     const qsizetype room = office_ ? columns.subtotalWidth - subtotal.size() : 0;
@@ -81,6 +90,7 @@ class CopyMaker : public TakeoffVisitor {
       Add(QStringLiteral("   This project will take ") + NumberText(Raised(manhours_)) +
           QStringLiteral(" manhours to complete"));
       Add(QStringLiteral("   excluding all unit priced descriptions and quantities."));
+      table_.Manhours(Raised(manhours_));
       Add({});
     }
     report_.notes = notes_.Take();
@@ -149,6 +159,7 @@ class CopyMaker : public TakeoffVisitor {
       dollars = Raised(m + markups);
       CheckFigures({dollars}, system);
     }
+    table_.Material(block, hundredths / 100, dollars);
     return row.AddTo(report_.lines, hundredths, dollars);
   }
 
@@ -167,6 +178,7 @@ class CopyMaker : public TakeoffVisitor {
       dollars = Rounded(labor + markups);
       CheckFigures({dollars}, system);
     }
+    table_.Labor(hundredths / 100, dollars);
     return labor_.AddTo(report_.lines, hundredths, dollars);
   }
 
@@ -177,6 +189,7 @@ class CopyMaker : public TakeoffVisitor {
   StandingFigures standing_;
   std::vector<std::vector<DetailRow>> materials_;  // of each system
   DetailRow labor_;
+  CopyTable table_;
   double manhours_ = 0;
   TakeoffCopy report_;
   NoteBook notes_;

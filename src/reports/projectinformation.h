@@ -8,6 +8,8 @@
 namespace tamo {
 
 // Who, when and what is bid.
-Report ProjectInformation(const QString& jobID, const ProjectFacts& facts);
+// `table` gets the same; may be null.
+Report ProjectInformation(const QString& jobID, const ProjectFacts& facts,
+                          TableSink* table = nullptr);
 
 }  // namespace tamo

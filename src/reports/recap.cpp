@@ -6,6 +6,7 @@
 #include "reports/cents.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
+#include "reports/recaptable.h"
 #include "reports/rollup.h"
 #include "reports/takeoffwalk.h"
 
@@ -19,7 +20,7 @@ const QString kRule =
 class RecapSheet {
  public:
   RecapSheet(const ReportSource& source, const Markups& markups, bool detailed)
-      : shelf_(source), markups_(markups), detailed_(detailed) {
+      : shelf_(source), markups_(markups), detailed_(detailed), table_(source.table, detailed) {
     Add(QStringLiteral("Recap Sheet"));
     Add({});
   }
@@ -56,6 +57,7 @@ class RecapSheet {
     Add(QStringLiteral("       This project will take ") + NumberText(Raised(manhours_)) +
         QStringLiteral(" manhours to complete"));
     Add(QStringLiteral("       excluding unit priced items."));
+    table_.Manhours(Raised(manhours_));
     Add({});
     for (const int row : centRows_)
       notes_.Note(
@@ -78,6 +80,7 @@ class RecapSheet {
     Add(GrownRight(QStringLiteral("  ") + row.name, 21) + GrownLeft(row.quantity, 14) +
         QLatin1Char(' ') + GrownRight(row.units, 6) + GrownLeft(shelf_.UnitPriceText(), 11) +
         GrownLeft(NumberText(amount) + kCents, 14));
+    table_.UnitPriced(row, shelf_.UnitPrice(), amount);
     total_ += amount;
   }
 
@@ -93,6 +96,7 @@ class RecapSheet {
       Figure(QStringLiteral("Material  "), SignedNumberText(line.rawMaterial), 37);
       Figure(QStringLiteral("Markups          "), NumberText(line.markups), 30);
     }
+    table_.Priced(row, line, markups_);
     total_ += line.total;
     manhours_ += line.manhours;
   }
@@ -131,6 +135,7 @@ class RecapSheet {
     const QString total = NumberText(total_);
     if (HasCents(total_)) NoteRow();
     Add(label + GrownBlanks(fill - total.size()) + QStringLiteral("$ ") + total + kCents);
+    table_.Total(label.trimmed(), total_);
   }
 
   void Items(const QStringList& items) {
@@ -140,6 +145,7 @@ class RecapSheet {
       const double markup = markups_.BottomLineSum() * price;
       Add(QStringLiteral("                Markup") + GrownLeft(NumberText(Truncated(markup)), 18) +
           kCents);
+      table_.Item(item, price, markup);
       total_ = total_ + price;
       total_ = total_ + markup;
     }
@@ -151,6 +157,7 @@ class RecapSheet {
     Add({});
     if (text.contains(QLatin1Char('.'))) NoteRow();
     Add(Blanks(39) + QStringLiteral("Adjustment") + GrownLeft(text, 17) + kCents);
+    table_.Adjustment(adjustment);
     Add(Blanks(61) + QStringLiteral("__________"));
     Add({});
     total_ += adjustment;
@@ -161,6 +168,7 @@ class RecapSheet {
   SystemShelf shelf_;
   MarkupFactors markups_;
   bool detailed_;
+  RecapTable table_;
   StandingFigures standing_;
   Report report_;
   NoteBook notes_;

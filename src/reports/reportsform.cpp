@@ -22,11 +22,15 @@ ReportsForm::Entries::Entries(ReportsForm& form)
     : printReport(form, QStringLiteral("printReport"), QStringLiteral("&Print Report")),
       CopyReport(form, QStringLiteral("CopyReport"), QStringLiteral("Copy Report to ClipBoard")),
       MakeProjectFile(form, QStringLiteral("MakeProjectFile"), QStringLiteral("&Tamo PM")),
-      ExitReports(form, QStringLiteral("ExitReports"), QStringLiteral("E&xit Reports")) {
+      ExitReports(form, QStringLiteral("ExitReports"), QStringLiteral("E&xit Reports")),
+      SaveReport(form, QStringLiteral("SaveReport"), QStringLiteral("&Save Report As ...")),
+      ShowChart(form, QStringLiteral("ShowChart"), QStringLiteral("Show C&hart")) {
   printReport.onClick = [&form] { form.PrintReport(); };
   CopyReport.onClick = [&form] { form.CopyReport(); };
   MakeProjectFile.onClick = [&form] { form.WriteProjectFile(); };
   ExitReports.onClick = [&form] { form.ExitReports(); };
+  SaveReport.onClick = [&form] { form.SaveReport(); };
+  ShowChart.onClick = [&form] { form.ShowChart(); };
   MakeProjectFile.Hide();
 }
 
@@ -165,6 +169,8 @@ void ReportsForm::ShowWindow() {
 void ReportsForm::MinimalRecapSheet() {
   Make([this] {
     prList.Clear();
+    kind_ =
+        kit_.shared.DTText == QLatin1String("True") ? ReportKind::DetailedRecap : ReportKind::Recap;
     const Markups markups = LoadedMarkups();
     QString former;
     Fill(tamo::MinimalRecapSheet(Source(), markups, kit_.shared.DTText == QLatin1String("True"),
@@ -180,23 +186,34 @@ void ReportsForm::DetailedRecapSheet() {
 }
 
 void ReportsForm::Quantities() {
-  Make([this] { Fill(tamo::Quantities(Source())); });
+  Make([this] {
+    kind_ = ReportKind::Quantities;
+    Fill(tamo::Quantities(Source()));
+  });
 }
 
 void ReportsForm::ScheduleCheck() {
-  Make([this] { Fill(tamo::ScheduleCheck(Source())); });
+  Make([this] {
+    kind_ = ReportKind::ScheduleCheck;
+    Fill(tamo::ScheduleCheck(Source()));
+  });
 }
 
 void ReportsForm::BillofMaterial() {
-  Make([this] { Fill(tamo::BillofMaterial(Source()), true); });
+  Make([this] {
+    kind_ = ReportKind::BillOfMaterial;
+    Fill(tamo::BillofMaterial(Source()), true);
+  });
 }
 
 void ReportsForm::AreaRoomWP() {
   Make([this] {
     if (Flag == QLatin1String("True")) {
+      kind_ = ReportKind::OfficeCopy;
       const Markups markups = LoadedMarkups();
       FillCopy(OfficeCopy(Source(), markups));
     } else if (Flag == QLatin1String("False")) {
+      kind_ = ReportKind::FieldCopy;
       Fill(FieldCopy(Source()), true);
     }
   });
@@ -204,6 +221,7 @@ void ReportsForm::AreaRoomWP() {
 
 void ReportsForm::BreakDown() {
   Make([this] {
+    kind_ = ReportKind::BreakDown;
     const Markups markups = LoadedMarkups();
     QString former;
     const BreakFigures figures = MakeBreak(Source(), markups, bid_.Former() ? former : Adjustment);
@@ -221,6 +239,7 @@ void ReportsForm::BreakDown() {
 
 void ReportsForm::ProjectInformation() {
   Make([this] {
+    kind_ = ReportKind::ProjectInformation;
     ShowWindow();
     Fill(tamo::ProjectInformation(kit_.shared.JobID, bid_.Facts()));
   });

@@ -12,6 +12,7 @@
 #include "reports/projectprogress.h"
 #include "reports/projectrecord.h"
 #include "reports/reportedbid.h"
+#include "reports/reportfiles.h"
 #include "reports/reportsource.h"
 #include "workspace/frontwindows.h"
 #include "workspace/settingsform.h"
@@ -32,6 +33,7 @@ class ReportsForm : public Form {
     SettingsForm& settings;  // keeps whether whole quantities are read
     Form& planWindow;        // the report stands above it
     History& history;        // former states of the bid, and what a comparison begins with
+    ReportFiles& files;      // saves a report as a file, draws its chart
   };
   ReportsForm(const Kit& kit, const Joins& joins);
 
@@ -61,7 +63,7 @@ class ReportsForm : public Form {
 
   struct Entries {
     explicit Entries(ReportsForm& form);
-    MenuEntry printReport, CopyReport, MakeProjectFile, ExitReports;
+    MenuEntry printReport, CopyReport, MakeProjectFile, ExitReports, SaveReport, ShowChart;
   };
   Entries menu{*this};
 
@@ -88,6 +90,8 @@ class ReportsForm : public Form {
 
   void PrintReport();  // the report in Reporter; never the Office Copy
   void CopyReport();
+  void SaveReport();        // as a PDF, CSV or workbook
+  void ShowChart();         // of the recap or the breakdown
   void WriteProjectFile();  // of the report in the window, into the data folder
   void ExitReports();
   void ClearReport();  // empties Reporter and hides the form: its project is left
@@ -112,6 +116,9 @@ class ReportsForm : public Form {
   void BindControls();
   void BindVersions();
   void ShowMark();
+  QStringList WriteFigures(ReportKind kind, TableSink& table);
+  void MakeFigures(ReportKind kind, TableSink& table);
+  ShownReport InWindow();
   void OfferToKeep();
   void PrepareControls();
   void Make(const std::function<void()>& report);
@@ -135,6 +142,7 @@ class ReportsForm : public Form {
   Joins joins_;
   ReportedBid bid_{kit_, joins_.history, joins_.record};
   std::shared_ptr<const FormerBid> compared_;  // of the last comparison
+  ReportKind kind_ = ReportKind::Recap;        // of the report in the window
   bool running_ = false;     // a report is being made: ticks do not count, no other begins
   bool refreshing_ = false;  // the window stays where it is
   std::vector<ReportNote> notes_;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "common/files.h"
+#include "common/tablesink.h"
 #include "common/textrows.h"
 #include "records/datafolder.h"
 #include "reports/uncounted.h"
@@ -22,6 +23,8 @@ struct ReportSource {
   bool wholeQuantities = false;
   // Takes what could not be counted; may be null. It outlives the source.
   Uncounted* uncounted = nullptr;
+  // Gets the same figures as the lines, one row a line; may be null. It outlives the source.
+  TableSink* table = nullptr;
 };
 
 // Something that the columns of a report hide, with the rows (from 0) of the report that it means.

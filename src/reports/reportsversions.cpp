@@ -51,7 +51,10 @@ void ReportsForm::CompareWith(std::shared_ptr<const FormerBid> then) {
   compared_ = std::move(then);
   LookAt(nullptr);
   ShowWindow();
-  Make([this] { Fill(bid_.CompareWith(*compared_, Source())); });
+  Make([this] {
+    kind_ = ReportKind::WhatChanged;
+    Fill(bid_.CompareWith(*compared_, Source()));
+  });
 }
 
 }  // namespace tamo

@@ -42,8 +42,8 @@ bool Same(const QString& a, const QString& b) {
 
 class Checker {
  public:
-  Checker(const KeptSchedule& schedule, const std::vector<RoomSheet>& rooms)
-      : schedule_(schedule), rooms_(rooms) {}
+  Checker(const KeptSchedule& schedule, const std::vector<RoomSheet>& rooms, TableSink* table)
+      : schedule_(schedule), rooms_(rooms), table_(table) {}
 
   Report Make() {
     Say(QStringLiteral("Schedule Check"));
@@ -64,10 +64,12 @@ class Checker {
   void Begin(const QString& head) {
     Say(QString());
     Say(head);
+    head_ = head;
     found_ = false;
   }
   void Found(const QString& text) {
     Say(QStringLiteral("  ") + text);
+    if (table_ != nullptr) table_->Add({head_, text});
     found_ = true;
   }
   void End() {
@@ -105,6 +107,8 @@ class Checker {
 
   const KeptSchedule& schedule_;
   const std::vector<RoomSheet>& rooms_;
+  TableSink* table_;
+  QString head_;  // under which what is found stands
   Report report_;
   bool found_ = false;
 };
@@ -112,6 +116,9 @@ class Checker {
 }  // namespace
 
 Report ScheduleCheck(const ReportSource& source) {
+  if (source.table != nullptr)
+    source.table->Begin({{QStringLiteral("What"), ColumnKind::Text, 40},
+                         {QStringLiteral("Found"), ColumnKind::Text, 60}});
   KeptSchedule schedule;
   ReadKeptSchedule(source.files, source.project, schedule);
   if (schedule.rooms.empty()) {
@@ -123,7 +130,7 @@ Report ScheduleCheck(const ReportSource& source) {
   }
   RoomCollector collector;
   WalkTakeoff(source, collector);
-  return Checker(schedule, collector.rooms).Make();
+  return Checker(schedule, collector.rooms, source.table).Make();
 }
 
 }  // namespace tamo

@@ -15,6 +15,7 @@ AdjustmentForm::AdjustmentForm(const Kit& kit, TakeoffReportRefresh& reports)
     Adjustment.SelectAll();
   };
   OnEnter(Adjustment, [this] { TakeAdjustment(); });
+  SayTakenNumber(Adjustment);
 }
 
 void AdjustmentForm::PriceAdjustment(Form* owner) {

@@ -37,6 +37,7 @@ void BottomLine::Bind() {
   OnFocusSelectAll(Item);
   Item.onDoubleClick = [this] { Toggle(ItemList); };
   OnEnter(iPrice, [this] { TakePrice(); });
+  SayTakenNumber(iPrice);
   OnFocusSelectAll(iPrice);
   ItemList.onSelect = [this] { NameSelected(); };
   oiList.onClick = [this] { TakeLine(); };

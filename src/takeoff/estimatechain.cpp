@@ -66,6 +66,7 @@ void EstimateForm::TakeArea() {
 void EstimateForm::EnterArea() {
   RequireName(QStringLiteral("area"), Area.Text());
   if (AreasList.Find(Area.Text()) >= 0) return;
+  steps_.Begin(QStringLiteral("the new area \"%1\"").arg(Area.Text()), *this);
   AreasList.Add(Area.Text());
   SaveAreas();
 }
@@ -176,6 +177,7 @@ void EstimateForm::AskForLength() {
 }
 
 void EstimateForm::TakeHeight() {
+  measured.Entered(Hite);
   if (GroupedValue(Hite.Text()) != 0) {
     plan_.SetToolMode(0);
     plan_.ClearDistance();
@@ -220,6 +222,7 @@ void EstimateForm::LengthGotFocus() {
 
 // The running total is rounded at each entry, of lengths and counts too.
 void EstimateForm::AddEntry() {
+  BeginQuantity();
   Units.SetText(TrimmedBlanks(Units.Text()));
   const AreaLine line(AreaList.Selected());
   const double entered = GroupedValue(eLength.Text());

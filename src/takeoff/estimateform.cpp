@@ -11,8 +11,8 @@
 namespace tamo {
 
 EstimateForm::EstimateForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
-                           TakeoffReportRefresh& reports, TakeoffExits& exits)
-    : TakeoffForm(kit, plan, pricing, reports, exits, "EstimateForm") {
+                           TakeoffReportRefresh& reports, TakeoffExits& exits, TakingBack& steps)
+    : TakeoffForm(kit, plan, pricing, reports, exits, steps, "EstimateForm") {
   SetCaption(QStringLiteral("Estimating"));
   DescriptionPrompt.SetCaption(QStringLiteral("Leave blank and press Enter for new Area"));
   DropFrom(Area, AreasList);
@@ -20,6 +20,7 @@ EstimateForm::EstimateForm(const Kit& kit, PlanTools& plan, MissingSystemPricing
   DropFrom(eLength, Lengths);
   KeepUnseen(CopyAreaList);
   BindWindow(OST1);
+  measured.target = [this](const TextField& field) { return TargetOf(field); };
   Exit.onClick = [this] { LeaveForm(); };
   BindPopups();
   BindChain();
@@ -68,12 +69,14 @@ void EstimateForm::FollowProject() {
   for (TextField* field : {&Area, &eDescription, &Units, &Hite, &eLength}) field->Clear();
   Lengths.Clear();
   unknown_ = false;
+  measured.Forget();
   ForgetLines();
   lines_.FollowProject();
 }
 
 void EstimateForm::LeaveForm() {
   for (TextField* field : {&Area, &Hite, &eLength}) field->Clear();
+  measured.Forget();
   ForgetLines();
   unknown_ = false;
   Hide();
@@ -100,6 +103,7 @@ void EstimateForm::LoadAreas() {
 }
 
 void EstimateForm::SaveAreas() {
+  steps_.Stores(ProjectFolder(kit_.shared).AreaNames());
   WriteAreaNames(kit_.files, kit_.shared, AreasList.Rows());
 }
 
@@ -131,6 +135,7 @@ void EstimateForm::PrepareSave() {
 
 void EstimateForm::SaveArea() {
   PrepareSave();
+  steps_.Stores(ProjectFolder(kit_.shared).AreaFile(Area.Text()));
   WriteAreaFile(kit_.files, kit_.shared, Area.Text(), AreaList.Rows());
   reports_.PrintReport();
 }

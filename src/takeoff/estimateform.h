@@ -2,6 +2,7 @@
 
 #include "takeoff/autoroomswitch.h"
 #include "takeoff/linesinwork.h"
+#include "takeoff/measuredvalue.h"
 #include "takeoff/takeoffform.h"
 
 namespace tamo {
@@ -13,7 +14,7 @@ class EstimateForm : public TakeoffForm {
  public:
   // All of it outlives the form.
   EstimateForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
-               TakeoffReportRefresh& reports, TakeoffExits& exits);
+               TakeoffReportRefresh& reports, TakeoffExits& exits, TakingBack& steps);
 
   TextField Area{*this, "Area"};  // no limit: a file name
   Label AreaPrompt{*this, "AreaPrompt", "Leave blank and press Enter to finish"};
@@ -25,6 +26,8 @@ class EstimateForm : public TakeoffForm {
 
   OrderedList AreasList{*this, "AreasList"};        // drops from Area
   OrderedList CopyAreaList{*this, "CopyAreaList"};  // what Copy Area took; never displayed
+
+  MeasuredValue measured{*this};
 
   MenuEntry AutoRoom{*this, "AutoRoom", " &AutoRoom is Off"};
   MenuEntry CopyArea{*this, "CopyArea", " &CopyArea"};
@@ -44,6 +47,7 @@ class EstimateForm : public TakeoffForm {
 
   void Init() override;
   void LoadDescriptions() override;
+  QString TargetOf(const TextField& field) const override;
   void LoadAreas();
   void SaveAreas();
   void LoadArea();
@@ -51,6 +55,9 @@ class EstimateForm : public TakeoffForm {
   void LoadSystem();  // the system named in eDescription
   // What is behind its file is read again; the estimator stays where he is.
   void ReadAgain();
+  SheetState State() const override;
+  void ShowState(const SheetState& state) override;
+  void FollowFiles(const QStringList& paths) override;
 
  private:
   // estimateform.cpp
@@ -95,6 +102,11 @@ class EstimateForm : public TakeoffForm {
   void CopyLines();
   void PasteLines();
 
+  // estimatestate.cpp: what taking back shows, and what it calls an entry
+  QString InArea() const;  // " in "Yard""
+  void BeginQuantity();    // a length or a count is entered
+  void LeaveArea();
+
   AutoRoomSwitch autoRoom_{AutoRoom};
   int areasTop_ = 0;
   int areaIndex_ = -1;  // AreasList's selected index, as last kept
@@ -107,6 +119,7 @@ class EstimateForm : public TakeoffForm {
   LinesInWork lines_{kit_.shared, "area"};
   bool unread_ = false;     // the file of the area was not read: AreaList lacks its lines
   bool following_ = false;  // a name is followed: the focus goes where the estimator sends it
+  bool quiet_ = false;      // a line is selected without being begun
   bool unknown_ = false;    // a system that is not there yet led to Pricing
 };
 

@@ -26,6 +26,7 @@ void EstimateForm::AreaSelected() {
 
 void EstimateForm::LineSelected() {
   UpdateStatus();
+  if (quiet_) return;
   const AreaLine line(AreaList.Selected());
   if (line.Text().isEmpty() || !NameStands()) return;
   eDescription.SetText(line.System());
@@ -54,6 +55,7 @@ void EstimateForm::DeleteArea() {
   if (Area.Empty()) return;
   const int at = static_cast<int>(AreasList.Rows().lastIndexOf(Area.Text()));
   if (at < 0) return;
+  steps_.Begin(QStringLiteral("the deletion of the area \"%1\"").arg(Area.Text()), *this);
   QString gone = QStringLiteral("\"%1\" is").arg(AreasList.Row(at));
   AreasList.Remove(at);
   if (at < AreasList.Count()) {
@@ -79,6 +81,10 @@ bool EstimateForm::LineIsSelected() {
 
 void EstimateForm::DeleteLine() {
   if (!LineIsSelected()) return;
+  const QString system = AreaLine(AreaList.Selected()).System();
+  steps_.Begin(system.isEmpty() ? QStringLiteral("the deletion of an empty line") + InArea()
+                                : QStringLiteral("the deletion of ") + system + InArea(),
+               *this);
   AreaList.Remove(AreaList.Index());
   SaveArea();
   eDescription.Clear();
@@ -90,6 +96,7 @@ void EstimateForm::DeleteLine() {
 // The empty slot is stored, unlike that of a room.
 void EstimateForm::InsertLine() {
   if (!LineIsSelected()) return;
+  steps_.Begin(QStringLiteral("the empty line") + InArea(), *this);
   AreaList.Insert(AreaList.Index(), QString());
   SaveArea();
   UpdateStatus();
@@ -104,6 +111,7 @@ void EstimateForm::CopyLines() {
 void EstimateForm::PasteLines() {
   if (CopyAreaList.Empty() || !FollowAreaName()) return;
   lines_.RequireStorable(Area.Text());
+  steps_.Begin(QStringLiteral("the lines pasted") + InArea(), *this);
   AreaList.Clear();
   AreaList.AddAll(CopyAreaList.Rows());
   Hite.SetText(copyHite_);

@@ -34,6 +34,7 @@ void RFSForm::BindEntry() {
 
   OnEnter(Area, [this] {
     record_.RequireStorable();
+    BeginLine();
     TakeFinishArea();
     StoreLine();
   });
@@ -131,6 +132,7 @@ void RFSForm::AddLine(int at) {
 // How in "Enter" mode: the room is finished.
 void RFSForm::FinishRoom() {
   record_.RequireStorable();
+  steps_.Begin(QStringLiteral("the height") + InRoom(), *this);
   if (How.Empty()) How.SetText(CopyHeight);
   CopyHeight = How.Text();
   record_.SaveRoom();

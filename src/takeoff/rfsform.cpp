@@ -5,9 +5,10 @@
 namespace tamo {
 
 RFSForm::RFSForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
-                 TakeoffReportRefresh& reports, TakeoffExits& exits)
-    : RFSScreen(kit, plan, pricing, reports, exits) {
+                 TakeoffReportRefresh& reports, TakeoffExits& exits, TakingBack& steps)
+    : RFSScreen(kit, plan, pricing, reports, exits, steps) {
   BindWindow(OST1);
+  measured.target = [this](const TextField& field) { return TargetOf(field); };
   Exit.onClick = [this] { LeaveForm(); };
   BindEntry();
   BindTakeoff();
@@ -60,6 +61,7 @@ void RFSForm::Init() {
 
 void RFSForm::LeaveForm() {
   for (TextField* field : {&Room, &Area, &How, &Length}) field->Clear();
+  measured.Forget();
   record_.ForgetLines();
   Hide();
   kit_.shared.DriveBy = QStringLiteral("True");

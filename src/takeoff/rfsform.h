@@ -16,7 +16,7 @@ class RFSForm : public RFSScreen {
  public:
   // All of it outlives the form.
   RFSForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
-          TakeoffReportRefresh& reports, TakeoffExits& exits);
+          TakeoffReportRefresh& reports, TakeoffExits& exits, TakingBack& steps);
 
   // The shell's menu entries, after their guards. `owner` is the window above which the form
   // stands.
@@ -25,9 +25,13 @@ class RFSForm : public RFSScreen {
 
   void Init() override;
   void LoadDescriptions() override;
+  QString TargetOf(const TextField& field) const override;
   void LoadSystem();   // the system named in Description
   void EstimateRFS();  // on to the next line of the walk
   RoomRecord& Record() { return record_; }
+  SheetState State() const override;
+  void ShowState(const SheetState& state) override;
+  void FollowFiles(const QStringList& paths) override;
 
  private:
   // rfsform.cpp
@@ -67,8 +71,15 @@ class RFSForm : public RFSScreen {
   void SaveAndWalkOn();
   void FinishSchedule();
 
-  RoomRecord record_{*this, kit_, reports_};
-  RoomCommands commands_{*this, record_, kit_};
+  // rfsstate.cpp: what taking back shows, and what it calls an entry
+  QString InRoom() const;   // " in "101""
+  QString TheLine() const;  // the system and the finish area in the fields
+  void BeginLine();         // a line is entered
+  void BeginQuantity();     // a length or a count is entered
+  void SelectLine(int at);  // without beginning it
+
+  RoomRecord record_{*this, kit_, reports_, steps_};
+  RoomCommands commands_{*this, record_, kit_, steps_};
   AutoRoomSwitch autoRoom_{AutoRoom};
 };
 

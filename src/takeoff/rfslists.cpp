@@ -49,6 +49,7 @@ void RFSForm::DescriptionSelected() {
 void RFSForm::FinishAreaSelected() {
   if (AreaList.Index() < 0) return;
   record_.RequireStorable();
+  BeginLine();
   PickToTop(AreaList, Area);
   record_.SaveAreas();
   AreaList.Hide();

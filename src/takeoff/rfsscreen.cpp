@@ -13,8 +13,8 @@ constexpr QLatin1String kForHeight("Leave blank and press Enter for new Height")
 }  // namespace
 
 RFSScreen::RFSScreen(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
-                     TakeoffReportRefresh& reports, TakeoffExits& exits)
-    : TakeoffForm(kit, plan, pricing, reports, exits, "RFSForm") {
+                     TakeoffReportRefresh& reports, TakeoffExits& exits, TakingBack& steps)
+    : TakeoffForm(kit, plan, pricing, reports, exits, steps, "RFSForm") {
   SetCaption(QStringLiteral("Room Finish Schedule"));
   for (Control* control : Controls()) {
     if (control != &RFSFrame && control != &StatusText) control->PutInto(RFSFrame);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "takeoff/measuredvalue.h"
 #include "takeoff/takeoffform.h"
 
 namespace tamo {
@@ -33,6 +34,8 @@ class RFSScreen : public TakeoffForm {
   OrderedList AreaList{*this, "AreaList"};          // finish areas, most recent first
   OrderedList CopyRoomList{*this, "CopyRoomList"};  // what Copy Room took; never displayed
 
+  MeasuredValue measured{*this};
+
   MenuEntry AutoRoom{*this, "AutoRoom", "&AutoRoom is OFF"};
   MenuEntry CopyRoom{*this, "CopyRoom", "&Copy Room"};
   MenuEntry PasteRoom{*this, "PasteRoom", "&Paste Room"};
@@ -58,7 +61,7 @@ class RFSScreen : public TakeoffForm {
 
  protected:
   RFSScreen(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
-            TakeoffReportRefresh& reports, TakeoffExits& exits);
+            TakeoffReportRefresh& reports, TakeoffExits& exits, TakingBack& steps);
 };
 
 }  // namespace tamo

@@ -14,6 +14,7 @@ void RFSForm::BindTakeoff() {
   OnEnter(How, Keys::Number, [this] { TakeHeight(); });
   How.onGotFocus = [this] { HowGotFocus(); };
   OnEnter(Length, [this] { TakeLength(); });
+  SayTakenNumber(Length);
   Length.onGotFocus = [this] { LengthGotFocus(); };
   Length.onDoubleClick = [this] { Toggle(Lengths); };
   RoomList.onSelect = [this] { LineSelected(); };
@@ -36,6 +37,7 @@ void RFSForm::HowGotFocus() {
 }
 
 void RFSForm::TakeHeight() {
+  measured.Entered(How);
   if (Flag != QLatin1String("Estimate")) {
     FinishRoom();
     return;
@@ -82,6 +84,7 @@ void RFSForm::TakeLength() {
 }
 
 void RFSForm::AddEntry() {
+  BeginQuantity();
   const double entered = GroupedValue(Length.Text());
   const double stands = RoomLine(RoomList.Selected()).Quantity();
   if (IsLinearOrCount(Units.Text())) {

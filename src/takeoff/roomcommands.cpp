@@ -1,9 +1,11 @@
 #include "takeoff/roomcommands.h"
 
+#include "records/roomline.h"
+
 namespace tamo {
 
-RoomCommands::RoomCommands(RFSScreen& screen, RoomRecord& record, const Kit& kit)
-    : screen_(screen), record_(record), kit_(kit) {
+RoomCommands::RoomCommands(RFSScreen& screen, RoomRecord& record, const Kit& kit, TakingBack& steps)
+    : screen_(screen), record_(record), kit_(kit), steps_(steps) {
   const auto rooms = [this] { screen_.PopUp(screen_.RmsPopup); };
   screen_.Room.onRightClick = rooms;
   screen_.RoomsList.onRightClick = rooms;
@@ -27,6 +29,7 @@ void RoomCommands::DeleteRoom() {
             .arg(room));
     return;
   }
+  steps_.Begin(QStringLiteral("the deletion of the room \"%1\"").arg(room), screen_);
   QString gone = QStringLiteral("\"%1\" is").arg(room);
   rooms.Remove(at);
   if (at < rooms.Count()) {
@@ -51,6 +54,11 @@ bool RoomCommands::LineIsSelected() {
 
 void RoomCommands::DeleteLine() {
   if (!LineIsSelected()) return;
+  const QString system = RoomLine(screen_.RoomList.Selected()).System();
+  steps_.Begin(
+      QStringLiteral("the deletion of %1 in \"%2\"")
+          .arg(system.isEmpty() ? QStringLiteral("an empty line") : system, screen_.Room.Text()),
+      screen_);
   screen_.RoomList.Remove(screen_.RoomList.Index());
   screen_.Description.Clear();
   screen_.Area.Clear();
@@ -63,6 +71,7 @@ void RoomCommands::DeleteLine() {
 // The empty slot is filled by the next new system; it is never stored.
 void RoomCommands::InsertLine() {
   if (!LineIsSelected()) return;
+  steps_.Begin(QStringLiteral("the empty line in \"%1\"").arg(screen_.Room.Text()), screen_);
   screen_.RoomList.Insert(screen_.RoomList.Index(), QString());
   record_.SaveRoom();
   screen_.UpdateStatus();
@@ -77,6 +86,7 @@ void RoomCommands::CopyLines() {
 void RoomCommands::PasteLines() {
   if (screen_.CopyRoomList.Empty() || !record_.FollowName()) return;
   record_.RequireStorable();
+  steps_.Begin(QStringLiteral("the lines pasted into \"%1\"").arg(screen_.Room.Text()), screen_);
   screen_.RoomList.SetRows(screen_.CopyRoomList.Rows());
   screen_.How.SetText(screen_.CopyHeight1);
   screen_.CopyHeight = screen_.CopyHeight1;

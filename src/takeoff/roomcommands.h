@@ -8,7 +8,7 @@ namespace tamo {
 class RoomCommands {
  public:
   // Binds the menu entries and pop-ups of `screen`. All of it outlives this.
-  RoomCommands(RFSScreen& screen, RoomRecord& record, const Kit& kit);
+  RoomCommands(RFSScreen& screen, RoomRecord& record, const Kit& kit, TakingBack& steps);
 
  private:
   void DeleteRoom();
@@ -21,6 +21,7 @@ class RoomCommands {
   RFSScreen& screen_;
   RoomRecord& record_;
   const Kit kit_;
+  TakingBack& steps_;
 };
 
 }  // namespace tamo

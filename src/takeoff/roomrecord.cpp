@@ -6,6 +6,7 @@
 #include "records/roomfile.h"
 #include "records/sheetnames.h"
 #include "records/storable.h"
+#include "takeoff/listchange.h"
 
 namespace tamo {
 
@@ -17,6 +18,7 @@ void RoomRecord::LoadRooms() {
 }
 
 void RoomRecord::SaveRooms() {
+  steps_.Stores(ProjectFolder(kit_.shared).RoomNames());
   WriteRoomNames(kit_.files, kit_.shared, screen_.RoomsList.Rows());
 }
 
@@ -40,6 +42,7 @@ void RoomRecord::LoadRoom() {
 void RoomRecord::SaveRoom() {
   RequireStorable();
   if (screen_.How.Empty()) screen_.How.SetText(screen_.CopyHeight);
+  steps_.Stores(ProjectFolder(kit_.shared).RoomFile(screen_.Room.Text()));
   WriteRoomFile(kit_.files, kit_.shared, screen_.Room.Text(), screen_.How.Text(),
                 screen_.RoomList.Rows());
   reports_.PrintReport();
@@ -54,6 +57,7 @@ void RoomRecord::LoadAreas() {
 
 void RoomRecord::SaveAreas() {
   const QStringList names = screen_.AreaList.Rows();
+  steps_.Stores(NamesFile(kit_.shared, NameList::FinishAreas), true);
   WriteNames(kit_.files, kit_.shared, NameList::FinishAreas, names, areasRead_);
   areasRead_ = names;
 }
@@ -64,6 +68,7 @@ void RoomRecord::EnterRoom() {
   RequireName(QStringLiteral("room"), room);
   screen_.place.room = screen_.RoomsList.FindAnyCase(room);
   if (screen_.place.room >= 0) return;
+  steps_.Begin(QStringLiteral("the new room \"%1\"").arg(room), screen_);
   screen_.RoomsList.Add(room);
   screen_.place.room = screen_.RoomsList.Count() - 1;
   SaveRooms();
@@ -111,6 +116,44 @@ void RoomRecord::ReadLinesAgain() {
   if (screen_.CopyHeight.isEmpty()) screen_.CopyHeight = file.height;
 }
 
+QString RoomRecord::SheetFile() const {
+  const QString room = screen_.Room.Text();
+  if (room.isEmpty() || !lines_.AreOf(room)) return {};
+  return ProjectFolder(kit_.shared).RoomFile(room);
+}
+
+void RoomRecord::FollowFiles(const QStringList& paths) {
+  if (!lines_.OfOpenProject()) return;
+  if (paths.contains(NamesFile(kit_.shared, NameList::FinishAreas))) LoadAreas();
+  const QString file = SheetFile();
+  if (paths.contains(ProjectFolder(kit_.shared).RoomNames())) {
+    const bool listed = screen_.RoomsList.FindAnyCase(screen_.Room.Text()) >= 0;
+    ReadNamesAgain();
+    if (listed && !file.isEmpty() && screen_.RoomsList.FindAnyCase(screen_.Room.Text()) < 0) {
+      LeaveRoom();
+      return;
+    }
+  }
+  if (!file.isEmpty() && paths.contains(file)) ReadChangedLines();
+  screen_.UpdateStatus();
+}
+
+void RoomRecord::LeaveRoom() {
+  ForgetLines();
+  screen_.Room.Clear();
+  screen_.place.room = -1;
+  kit_.shared.IAmHere.clear();  // no measure waits in the room any more
+  if (kit_.desk.Active() == &screen_) kit_.desk.Focus(screen_.Room);
+}
+
+void RoomRecord::ReadChangedLines() {
+  RoomFile file;
+  const int error = ReadRoomFile(kit_.files, kit_.shared, screen_.Room.Text(), file);
+  if (error != kNoError && !IsMissing(error)) return;
+  file.lines.removeAll(QString());
+  ChangeRows(screen_.RoomList, file.lines);
+}
+
 void RoomRecord::ForgetLines() {
   screen_.RoomList.Clear();
   lines_.Forget();
@@ -125,6 +168,7 @@ void RoomRecord::FollowProject() {
   screen_.Lengths.Clear();
   screen_.place.room = -1;
   screen_.place.line = -1;
+  screen_.measured.Forget();
   ForgetLines();
   lines_.FollowProject();
 }

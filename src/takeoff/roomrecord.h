@@ -3,6 +3,7 @@
 #include "common/kit.h"
 #include "takeoff/linesinwork.h"
 #include "takeoff/rfsscreen.h"
+#include "takeoff/takingback.h"
 
 namespace tamo {
 
@@ -12,8 +13,8 @@ namespace tamo {
 class RoomRecord {
  public:
   // All of it outlives this.
-  RoomRecord(RFSScreen& screen, const Kit& kit, TakeoffReportRefresh& reports)
-      : screen_(screen), kit_(kit), reports_(reports) {}
+  RoomRecord(RFSScreen& screen, const Kit& kit, TakeoffReportRefresh& reports, TakingBack& steps)
+      : screen_(screen), kit_(kit), reports_(reports), steps_(steps) {}
 
   void LoadRooms();  // the names of the project's rooms
   void SaveRooms();
@@ -32,7 +33,10 @@ class RoomRecord {
   void RequireStorable() const { lines_.RequireStorable(screen_.Room.Text()); }
   // What is behind its file is read again; the estimator stays where he is.
   void ReadAgain();
-  void ForgetLines();  // no room's lines stand on the screen
+  // The same of files that were changed on purpose. A room that is off the list leaves the screen.
+  void FollowFiles(const QStringList& paths);
+  QString SheetFile() const;  // of the room whose lines stand on the screen; "" for none
+  void ForgetLines();         // no room's lines stand on the screen
   // When another project is open than the one whose room stands here, nothing of it may be stored
   // there. What Copy Room took stays.
   void FollowProject();
@@ -40,10 +44,13 @@ class RoomRecord {
  private:
   void ReadNamesAgain();
   void ReadLinesAgain();
+  void ReadChangedLines();
+  void LeaveRoom();
 
   RFSScreen& screen_;
   const Kit kit_;
   TakeoffReportRefresh& reports_;
+  TakingBack& steps_;
   LinesInWork lines_{kit_.shared, "room"};
   QStringList areasRead_;  // the finish areas when they were last read or written
 };

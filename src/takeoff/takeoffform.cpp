@@ -8,13 +8,16 @@
 namespace tamo {
 
 TakeoffForm::TakeoffForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
-                         TakeoffReportRefresh& reports, TakeoffExits& exits, const QString& name)
+                         TakeoffReportRefresh& reports, TakeoffExits& exits, TakingBack& steps,
+                         const QString& name)
     : Form(kit.desk, name),
       kit_(kit),
       plan_(plan),
       pricing_(pricing),
       reports_(reports),
-      exits_(exits) {
+      exits_(exits),
+      steps_(steps) {
+  steps_.Add(*this);
   Units.readOnly = true;
   Units.inTabOrder = false;
   KeepUnseen(System);
@@ -22,13 +25,19 @@ TakeoffForm::TakeoffForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& 
 
 void TakeoffForm::BindWindow(MenuEntry& dsw) {
   onActivate = [this] { Activated(); };
-  onKeyPreview = [this](Key& key) {
-    if (key.Is(Key::Name::Delete)) plan_.DeleteKey();
-  };
+  onKeyPreview = [this](Key& key) { TakeKey(key); };
   dsw.onClick = [this] {
     exits_.ShowOST();
     Show(OwnerForm());
   };
+}
+
+void TakeoffForm::TakeKey(Key& key) {
+  if (key.Is(Key::Name::Delete)) plan_.DeleteKey();
+  if (!key.Is(Key::Name::TakeBack) && !key.Is(Key::Name::BringBack)) return;
+  const bool back = key.Is(Key::Name::TakeBack);
+  key.Drop();
+  StatusText.SetCaption(back ? steps_.TakeBack() : steps_.BringBack());
 }
 
 void TakeoffForm::Activated() {
@@ -91,6 +100,10 @@ void TakeoffForm::ShowStatus(const QString& what, int at, int names, const Order
                            ? QStringLiteral("line %1 of %2").arg(lines.Index() + 1).arg(count)
                            : QStringLiteral("%1 lines").arg(count);
   StatusText.SetCaption(place + QStringLiteral(", ") + line);
+}
+
+QString WithKind(const QString& kind, const QString& name) {
+  return name.startsWith(kind, Qt::CaseInsensitive) ? name : kind + QLatin1Char(' ') + name;
 }
 
 void PickToTop(OrderedList& list, TextField& field) {

@@ -5,15 +5,17 @@
 #include "common/kit.h"
 #include "takeoff/missingsystempricing.h"
 #include "takeoff/plantools.h"
+#include "takeoff/sheetscreen.h"
 #include "takeoff/takeoffexits.h"
 #include "takeoff/takeoffreportrefresh.h"
+#include "takeoff/takingback.h"
 
 namespace tamo {
 
 // What the room schedule and the free takeoff have in common: the labels, the lists of systems and
 // of entries, fetching a system with its unit and pen, and how the window comes and goes. The
 // fields of the chain stand in each form, in the order in which Tab walks them.
-class TakeoffForm : public Form {
+class TakeoffForm : public Form, public SheetScreen {
  public:
   Label AreaLabel{*this, "AreaLabel", "Area:"};
   Label DescriptionLabel{*this, "DescriptionLabel", "System Name:"};
@@ -30,13 +32,17 @@ class TakeoffForm : public Form {
   Label ScaleText{*this, "ScaleText"};    // the plan's scale in force
   Label StatusText{*this, "StatusText"};  // where the estimator stands
 
+  // The line into which what stands in a length or height field goes, in words; "" for none.
+  virtual QString TargetOf(const TextField& field) const = 0;
+
   virtual void Init() = 0;  // each time the window comes to the front with a project open
   void SaveDescriptions();
 
  protected:
   // All of it outlives the form.
   TakeoffForm(const Kit& kit, PlanTools& plan, MissingSystemPricing& pricing,
-              TakeoffReportRefresh& reports, TakeoffExits& exits, const QString& name);
+              TakeoffReportRefresh& reports, TakeoffExits& exits, TakingBack& steps,
+              const QString& name);
 
   void BindWindow(MenuEntry& dsw);
   // Reads the systems' names; the number of the failure.
@@ -57,12 +63,17 @@ class TakeoffForm : public Form {
   MissingSystemPricing& pricing_;
   TakeoffReportRefresh& reports_;
   TakeoffExits& exits_;
+  TakingBack& steps_;
 
  private:
   void Activated();
+  void TakeKey(Key& key);
 
   QStringList namesRead_;  // the systems when their list was last read or written
 };
+
+// "Room 101", and "Room 101" of a room that is called so itself.
+QString WithKind(const QString& kind, const QString& name);
 
 // A row picked from a list that keeps the most recent first: it goes into the field and to the top.
 void PickToTop(OrderedList& list, TextField& field);

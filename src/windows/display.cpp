@@ -183,6 +183,10 @@ bool IsArrow(const Key& key) {
          key.Is(Key::Name::Right);
 }
 
+bool IsTakingBack(const Key& key) {
+  return key.Is(Key::Name::TakeBack) || key.Is(Key::Name::BringBack);
+}
+
 }  // namespace
 
 std::optional<Key> KeyOf(const QKeyEvent& event) {
@@ -215,6 +219,13 @@ std::optional<Key> KeyOf(const QKeyEvent& event) {
       return Key::Named(Key::Name::Left);
     case Qt::Key_Right:
       return Key::Named(Key::Name::Right);
+    case Qt::Key_Z:
+      if (held != Qt::ControlModifier) break;
+      return Key::Named((event.modifiers() & Qt::ShiftModifier) != 0 ? Key::Name::BringBack
+                                                                     : Key::Name::TakeBack);
+    case Qt::Key_Y:
+      if (held != Qt::ControlModifier) break;
+      return Key::Named(Key::Name::BringBack);
     default:
       break;
   }
@@ -234,6 +245,8 @@ bool Display::TakeKey(Binding& binding, QKeyEvent& event) {
   const std::optional<Key> key = KeyOf(event);
   if (!key) return false;
   if (field != nullptr && IsArrow(*key)) return false;
+  // A form that takes entries back takes the key; elsewhere the field takes back its typing.
+  if (IsTakingBack(*key)) return desk_.HandleKey(control, *key);
   if (field != nullptr && EditsText(*key, *field)) {
     if (!IsTyped(*key)) return desk_.HandleKey(control, *key);
     for (const QChar c : event.text()) {

@@ -19,6 +19,7 @@ void LayOutEstimateForm(Builder& b) {
   b.DropList("DescriptionsList", "eDescription");
   b.DropList("Lengths", "eLength");
   body.addWidget(Tally(b, "Lengths"));
+  body.addWidget(MeasureWaits(b));
   TakeoffStatus(b);
   b.Window().firstSize = {860, 600};
 }

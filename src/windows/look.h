@@ -5,6 +5,8 @@
 #include <QPalette>
 #include <QString>
 
+#include "export/fixedfont.h"
+
 namespace tamo {
 
 // All measures are multiples of this many pixels (device independent).
@@ -41,8 +43,6 @@ double Contrast(const QColor& one, const QColor& other);
 void ApplyLook(const Look& look);
 const Look& CurrentLook();
 
-// A face of equal widths for lists of fixed columns: "MS Gothic", else the best that is installed.
-QFont FixedFont();
 QFont PromptFont();   // one size smaller than the fields
 QFont SectionFont();  // semibold
 QFont FigureFont();   // large, for what is watched from a distance

@@ -16,6 +16,16 @@ namespace {
 constexpr int kColumnWidth = 34 * kGrid;
 constexpr int kQuietSave = 300;  // milliseconds before a save shows its bar
 
+// Over the sheet, where the eye is: which line the next length or count belongs to.
+QWidget* GoesTo(Builder& b) {
+  QLabel* goes = b.Text("GoesTo");
+  goes->setTextFormat(Qt::PlainText);
+  goes->setFont(SectionFont());
+  goes->setContentsMargins(2 * kGrid, kGrid / 4, kGrid, kGrid / 2);
+  goes->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  return goes;
+}
+
 // Words above the plan: of the tool in hand, and what speaks against the scale. The line is always
 // there, so that the plan stays where it is when words come and go.
 QWidget* Words(Builder& b) {
@@ -250,6 +260,7 @@ void LayOutOST(Builder& b) {
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(PlanToolBar(b, *canvas));
+  middle->addWidget(GoesTo(b));
   middle->addWidget(Colours(b));
   middle->addWidget(Words(b));
   middle->addWidget(canvas, 1);

@@ -5,7 +5,8 @@
 #include "windows/plancanvas.h"
 #include "windows/planpaint.h"
 
-// What the plan's window shows: the pictures of the sheet, the marks, what is in work, the cross hair.
+// What the plan's window shows: the pictures of the sheet, the marks, what is in work, the cross
+// hair.
 
 namespace tamo {
 

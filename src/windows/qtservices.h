@@ -4,6 +4,7 @@
 #include <QString>
 #include <functional>
 
+#include "common/programfolder.h"
 #include "common/services.h"
 
 namespace tamo {
@@ -25,9 +26,5 @@ class DeskClipboard : public Clipboard {
 
 // The program's icon in all its sizes, from the pictures in its folder.
 QIcon ProgramIcon(const QString& programFolder);
-
-// The folder with the program's own files: that of the executable, or, in an installed program or a
-// build tree, the one that belongs to it.
-QString FindProgramFolder(const QString& executableFolder);
 
 }  // namespace tamo

@@ -25,29 +25,6 @@
 namespace tamo {
 namespace {
 
-constexpr double kMarginPoints = 18;
-
-void SetMargins(QPrinter& printer) {
-  printer.setPageMargins(QMarginsF(kMarginPoints, kMarginPoints, kMarginPoints, kMarginPoints),
-                         QPageLayout::Point);
-}
-
-std::vector<PageComposer::Sheet> SheetsFor(const PageComposer& pages, const QPrinter& printer,
-                                           const PageFrame& frame) {
-  const QRectF paper = printer.pageRect(QPrinter::Point);
-  return pages.Sheets(paper.width(), paper.height() - frame.Top() - frame.Bottom());
-}
-
-void PaintSheet(QPainter& painter, const PageComposer::Sheet& sheet, const PageFrame& frame,
-                QPrinter& printer, int page, int pages) {
-  const double dots = printer.resolution();
-  frame.Paint(painter, printer.pageRect(QPrinter::Point).size(), page, pages, dots);
-  painter.save();
-  painter.translate(0, frame.Top() * dots / 72);
-  PageComposer::Paint(painter, sheet, dots);
-  painter.restore();
-}
-
 // What can be chosen, by the names under which it is sold.
 constexpr std::pair<const char*, QPageSize::PageSizeId> kPapers[] = {
     {"Letter", QPageSize::Letter},
@@ -76,7 +53,7 @@ struct Job {
 void PrintOnPaper(const Job& job, QDialog& preview) {
   QPrinter printer(QPrinter::HighResolution);
   printer.setPageSize(QPageSize(job.paper));
-  SetMargins(printer);
+  SetPageMargins(printer);
   printer.setDocName(job.title);
   QPrintDialog dialog(&printer, &preview);
   if (dialog.exec() != QDialog::Accepted) return;
@@ -103,7 +80,7 @@ void PrintIntoFile(const Job& job, QDialog& preview) {
   printer.setOutputFileName(path);
   printer.setDocName(job.title);
   printer.setPageSize(QPageSize(job.paper));
-  SetMargins(printer);
+  SetPageMargins(printer);
   PaintDocument(job.pages, printer, job.frame);
   if (QFileInfo(path).size() > 0) {
     preview.accept();
@@ -115,24 +92,12 @@ void PrintIntoFile(const Job& job, QDialog& preview) {
 
 }  // namespace
 
-void PaintDocument(const PageComposer& pages, QPrinter& printer, const PageFrame& frame) {
-  const auto sheets = SheetsFor(pages, printer, frame);
-  QPainter painter;
-  if (!painter.begin(&printer)) return;
-  int page = 0;
-  for (const PageComposer::Sheet& sheet : sheets) {
-    if (page > 0) printer.newPage();
-    PaintSheet(painter, sheet, frame, printer, ++page, static_cast<int>(sheets.size()));
-  }
-}
-
 void PaintJobs(const PageComposer& pages, QPrinter& printer, const PageFrame& frame) {
-  const auto sheets = SheetsFor(pages, printer, frame);
-  int page = 0;
-  for (const PageComposer::Sheet& sheet : sheets) {
+  const PaintedPages sheets(pages, printer, frame);
+  for (int page = 0; page < sheets.Count(); ++page) {
     QPainter painter;
     if (!painter.begin(&printer)) return;
-    PaintSheet(painter, sheet, frame, printer, ++page, static_cast<int>(sheets.size()));
+    sheets.Paint(painter, page);
   }
 }
 
@@ -193,7 +158,7 @@ void ReportPrinter::EndPrint() {
   auto* column = new QVBoxLayout(&preview);
   QPrinter sheet(QPrinter::ScreenResolution);
   sheet.setPageSize(QPageSize(paper_));
-  SetMargins(sheet);
+  SetPageMargins(sheet);
   QPrintPreviewWidget* view = Preview(job, sheet);
   column->addWidget(view, 1);
   QComboBox* papers = PaperChoice(paper_);

@@ -5,8 +5,9 @@
 #include <functional>
 
 #include "common/services.h"
-#include "windows/pagecomposer.h"
-#include "windows/pageframe.h"
+#include "export/pagecomposer.h"
+#include "export/pageframe.h"
+#include "export/pages.h"
 
 class QPrinter;
 
@@ -33,8 +34,6 @@ class ReportPrinter : public Printer {
   QPageSize::PageSizeId paper_ = PaperOf(QLocale::system());  // as it was last chosen
 };
 
-// All sheets on one device, as one document.
-void PaintDocument(const PageComposer& pages, QPrinter& printer, const PageFrame& frame = {});
 // Each sheet a job of its own.
 void PaintJobs(const PageComposer& pages, QPrinter& printer, const PageFrame& frame = {});
 

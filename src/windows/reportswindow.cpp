@@ -68,6 +68,16 @@ void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
   }
 }
 
+void SaveByKey(Builder& b) {
+  MenuEntry* entry = b.GetForm().FindMenu(QStringLiteral("SaveReport"));
+  Display& display = b.GetDisplay();
+  auto* shortcut = new QShortcut(QKeySequence(QKeySequence::Save), &b.Window());
+  QObject::connect(shortcut, &QShortcut::activated, &b.Window(), [entry, &display] {
+    display.MarkDirty();
+    display.GetDesk().ChooseMenu(*entry);
+  });
+}
+
 }  // namespace
 
 void LayOutReports(Builder& b) {
@@ -110,6 +120,7 @@ void LayOutReports(Builder& b) {
   body.addLayout(strip);
   auto* search = new QShortcut(QKeySequence(QKeySequence::Find), &window);
   QObject::connect(search, &QShortcut::activated, &window, [find] { find->Open(); });
+  SaveByKey(b);
   LetTypeGrow(window, {reporter, copy});
   window.firstSize = {1080, 700};
 }

@@ -23,6 +23,7 @@ void LayOutRFSForm(Builder& b) {
   b.DropList("AreaList", "Area");
   b.DropList("Lengths", "Length");
   column->addWidget(Tally(b, "Lengths"));
+  column->addWidget(MeasureWaits(b));
   b.Window().Body().addWidget(frame, 1);
   TakeoffStatus(b);
   b.Window().firstSize = {860, 640};

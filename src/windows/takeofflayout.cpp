@@ -67,6 +67,17 @@ QWidget* Tally(Builder& b, const char* lengths) {
   return tally;
 }
 
+QWidget* MeasureWaits(Builder& b) {
+  auto* box = new QWidget;
+  auto* line = RowIn(box);
+  QLabel* text = b.Text("MeasuredText");
+  text->setTextFormat(Qt::PlainText);
+  line->addWidget(text, 1);
+  line->addWidget(b.PushButton("TakeMeasured"));
+  line->addWidget(b.PushButton("DropMeasured"));
+  return box;
+}
+
 void TakeoffStatus(Builder& b) {
   QHBoxLayout& line = b.Window().StatusLine();
   line.addWidget(b.Text("StatusText"));

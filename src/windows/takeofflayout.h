@@ -23,6 +23,9 @@ QWidget* TakeoffLines(Builder& builder, const char* list, const QString& accessi
 // What was entered for the line in work, in one row under the lines; also while its list is hidden.
 QWidget* Tally(Builder& builder, const char* lengths);
 
+// A measure that waits for the line it belongs to; nothing while none does.
+QWidget* MeasureWaits(Builder& builder);
+
 // The plan's scale and where the estimator stands.
 void TakeoffStatus(Builder& builder);
 

@@ -120,6 +120,8 @@ bool Looker::LookAtProgram(const QString& word, QString& text) {
     text = TrueOrFalse(played_ != nullptr && played_->Running());
   } else if (word == QStringLiteral("notice")) {
     text = Program().Notice();
+  } else if (word == QStringLiteral("chart")) {
+    text = Program().Chart().join(QStringLiteral("\r\n"));
   } else if (word == QStringLiteral("focus")) {
     const Control* control = Program().GetDesk().Focused();
     text = control == nullptr ? QString() : control->FullName();

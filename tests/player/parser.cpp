@@ -57,6 +57,7 @@ constexpr Verb kVerbs[] = {
     {"doublepick", Act::DoublePick, Shape::ControlAndPath},
     {"close", Act::Close, Shape::Form},
     {"answer", Act::Answer, Shape::YesOrNo},
+    {"choose", Act::Choose, Shape::Path},
     {"plan", Act::PlanMode, Shape::Plan},
     {"write", Act::Write, Shape::PathAndBlock},
     {"copy", Act::Copy, Shape::Path},
@@ -271,7 +272,9 @@ bool KeyFromName(const QString& name, Key& key) {
                                                             {"Up", Key::Name::Up},
                                                             {"Down", Key::Name::Down},
                                                             {"Left", Key::Name::Left},
-                                                            {"Right", Key::Name::Right}};
+                                                            {"Right", Key::Name::Right},
+                                                            {"Ctrl+Z", Key::Name::TakeBack},
+                                                            {"Ctrl+Y", Key::Name::BringBack}};
   for (const auto& [text, value] : names) {
     if (name != QLatin1String(text)) continue;
     key = Key::Named(value);

@@ -12,8 +12,8 @@ namespace tamo::player {
 // everything before it is still played.
 std::vector<Step> ParseScenario(const QStringList& lines);
 
-// The key named Enter, Ctrl+Enter, Backspace, Delete, Escape, Tab, Shift+Tab, Space, Up, Down,
-// Left, Right; false when there is none of that name.
+// The key named Enter, Ctrl+Enter, Ctrl+Z, Ctrl+Y, Backspace, Delete, Escape, Tab, Shift+Tab,
+// Space, Up, Down, Left, Right; false when there is none of that name.
 bool KeyFromName(const QString& name, Key& key);
 
 }  // namespace tamo::player

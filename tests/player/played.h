@@ -25,6 +25,10 @@ class Played {
   virtual void TrySavesAgain() = 0;
   virtual void Tick() = 0;  // as time goes by, between two events
   virtual bool Running() = 0;
+  // What is chosen in the next dialog for a file.
+  virtual void ChooseNext(const QString& path) { (void)path; }
+  // What the chart says that was last drawn.
+  virtual QStringList Chart() const { return {}; }
   // The form whose window is closed to end the program; nullptr when any will do.
   virtual Form* Shell() = 0;
 };

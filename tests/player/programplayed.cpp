@@ -5,7 +5,12 @@ namespace tamo::player {
 ProgramPlayed::ProgramPlayed(const Platform& platform)
     : planFiles_(platform.disk),
       viewer_(std::make_unique<PdfDraw>(planFiles_, engine_)),
-      program_(std::make_unique<Program>(platform, *viewer_)) {}
+      program_(std::make_unique<Program>(platform, *viewer_)) {
+  program_->ChooseFilesWith([this](const FileQuestion&) {
+    return choices_.isEmpty() ? QString() : choices_.takeFirst();
+  });
+  program_->DrawChartsWith([this](const ChartData& chart) { chart_ = chart.Lines(); });
+}
 
 ProgramPlayed::~ProgramPlayed() = default;
 

@@ -33,12 +33,16 @@ class ProgramPlayed : public Played {
   void Tick() override;
   bool Running() override;
   Form* Shell() override;
+  void ChooseNext(const QString& path) override { choices_ += path; }
+  QStringList Chart() const override { return chart_; }
 
  private:
   Files planFiles_;  // of the viewer, which knows no forms
   WorkerEngine engine_{TAMO_ENGINE};
   std::unique_ptr<PdfDraw> viewer_;
   std::unique_ptr<Program> program_;
+  QStringList choices_;  // for the dialogs to come
+  QStringList chart_;
 };
 
 }  // namespace tamo::player

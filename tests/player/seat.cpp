@@ -103,6 +103,8 @@ void Seat::Do(const Step& step) {
     case Act::Answer:
       machine_.messages.answers.push_back(step.yes);
       break;
+    case Act::Choose:
+      return Program().ChooseNext(machine_.PathOf(Unshown(step.text)));
     case Act::Type:
       Program();
       return stage_->Type(Text(step));

@@ -33,6 +33,7 @@ enum class Act {
   DoublePick,
   Close,
   Answer,
+  Choose,
   PlanMode,
   PlanLine,
   PlanCircle,

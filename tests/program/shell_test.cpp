@@ -90,7 +90,8 @@ TEST_F(ShellTest, TheMenusStandInTheirOrder) {
   }
   EXPECT_EQ(plan, QStringList({"ProjectS", "Pricing2", "Estimate", "Reports1", "ZoomOut", "ZoomIn",
                                "ScaleA", "GetFiles", "LinesColor", "LastPage", "NextPage", "Save",
-                               "Printit", "Documentation", "Settings1", "Exit", "ScheduleMenu"}));
+                               "Printit", "Documentation", "Settings1", "Exit", "ScheduleMenu",
+                               "DrawMenu"}));
   EXPECT_EQ(Ost().FindMenu(QStringLiteral("LockProject")), nullptr)
       << "a project is locked in mode 1 only";
 }

@@ -82,7 +82,7 @@ FormBench::FormBench(BenchProject& bench)
                bench.dataPath, bench.dataPath + QStringLiteral("config")},
       kit{desk, bench.files, shared, platform},
       history(platform, bench.files, shared),
-      form(kit, {pricing, record, windows, settings, plan, history}) {
+      form(kit, {pricing, record, windows, settings, plan, history, saved}) {
   QDir().mkpath(platform.programFolder);
   shared.Separator = PlatformSeparator();
   shared.zDir = platform.programFolder;

@@ -88,6 +88,10 @@ class FormBench {
     void ShowTitles() override {}
     void AskForEstimatorNumber() override {}
   };
+  struct FilesDouble : ReportFiles {
+    void Save(const ShownReport&) override {}
+    void ShowChart(const ShownReport&) override {}
+  };
   // What the price library asks of the rest: nothing that a report needs.
   struct PricingDouble : ReportRefresh, SettingsReader, ProjectNumberSeed {
     void PrintReport() override {}
@@ -111,6 +115,7 @@ class FormBench {
   History history;
   RecordDouble record;
   WindowsDouble windows;
+  FilesDouble saved;
   PricingDouble beside;
   PricingForm pricing{kit, beside, beside, beside};
   SettingsForm settings{kit, windows};

@@ -75,7 +75,7 @@ class RoomsGame : public TakeoffGame {
   }
 
  private:
-  RFSForm rfs{kit, plan, pricing, reports, shell};
+  RFSForm rfs{kit, plan, pricing, reports, shell, back};
 };
 
 class AreasGame : public TakeoffGame {
@@ -117,7 +117,7 @@ class AreasGame : public TakeoffGame {
   }
 
  private:
-  EstimateForm ato{kit, plan, pricing, reports, shell};
+  EstimateForm ato{kit, plan, pricing, reports, shell, back};
 };
 
 // An area line with a comma is read back as two (held by a test of its own): none is typed there.

@@ -6,6 +6,7 @@
 namespace tamo::test {
 
 TakeoffTest::TakeoffTest() {
+  desk.onRest = [this] { back.EndEvent(); };
   data = folder.path() + QStringLiteral("/Tamo/");
   shared.DataPath = data;
   disk.quick = true;

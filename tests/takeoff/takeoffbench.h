@@ -50,6 +50,26 @@ class RecordingRefresh : public TakeoffReportRefresh {
   std::function<void()> onRefresh;
 };
 
+// A plan whose marks have the texts that were measured as their names.
+class RecordingMarks : public MeasuredMarks {
+ public:
+  EntryMarks MarksOf(const std::vector<Measured>& fields) override {
+    EntryMarks found{QStringLiteral("Larkspur"), {}};
+    for (const Measured& field : fields) {
+      if (measured.removeOne(field.text)) found.names += field.text;
+    }
+    return found;
+  }
+  bool Reaches(const EntryMarks& marks) const override { return reaches || marks.names.isEmpty(); }
+  void PutOn(const EntryMarks& marks, bool on) override {
+    for (const QString& name : marks.names) moved += (on ? "on " : "off ") + name;
+  }
+
+  QStringList measured;  // and not entered yet
+  QStringList moved;
+  bool reaches = true;
+};
+
 // Two bare windows stand for the main form and the plan.
 class RecordingShell : public TakeoffExits {
  public:
@@ -120,8 +140,10 @@ class TakeoffTest : public ::testing::Test, public FormRoom {
   RecordingPricing pricing;
   RecordingRefresh reports;
   RecordingShell shell{desk};
-  RFSForm rfs{kit, plan, pricing, reports, shell};
-  EstimateForm ato{kit, plan, pricing, reports, shell};
+  RecordingMarks marks;
+  TakingBack back{kit, marks, reports};
+  RFSForm rfs{kit, plan, pricing, reports, shell, back};
+  EstimateForm ato{kit, plan, pricing, reports, shell, back};
   BottomLine bottom{kit, reports};
   AdjustmentForm adjustment{kit, reports};
 };

@@ -31,6 +31,7 @@ QString HomePath(const QString& path) {
 }  // namespace
 
 TakeoffGame::TakeoffGame() {
+  desk.onRest = [this] { back.EndEvent(); };
   shared.DataPath = S("/home/Tamo/");
   shared.Separator = S("/");
   shared.GUIText = S("1");

@@ -74,6 +74,8 @@ class TakeoffGame : public Game {
   RecordingPricing pricing;
   RecordingRefresh reports;
   RecordingShell shell{desk};
+  RecordingMarks marks;
+  TakingBack back{kit, marks, reports};
 
  private:
   struct Seen {

@@ -8,9 +8,9 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
+#include "export/pagecomposer.h"
+#include "export/pageframe.h"
 #include "windows/application.h"
-#include "windows/pagecomposer.h"
-#include "windows/pageframe.h"
 #include "windows/qtservices.h"
 #include "windows/reportprinter.h"
 

@@ -1,6 +1,7 @@
-#include "windows/pageframe.h"
+#include "export/pageframe.h"
 
-#include "windows/look.h"
+#include <QFont>
+#include <QGuiApplication>
 
 namespace tamo {
 namespace {
@@ -23,7 +24,7 @@ void PageFrame::Paint(QPainter& painter, const QSizeF& paper, int page, int page
                       double dotsPerInch) const {
   painter.save();
   painter.scale(dotsPerInch / 72 / kFine, dotsPerInch / 72 / kFine);
-  QFont font = PromptFont();
+  QFont font = QGuiApplication::font();
   font.setPixelSize(kLetters * kFine);
   painter.setFont(font);
   painter.setPen(Qt::black);

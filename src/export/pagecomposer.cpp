@@ -1,11 +1,11 @@
-#include "windows/pagecomposer.h"
+#include "export/pagecomposer.h"
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
 
-#include "windows/look.h"
+#include "export/fixedfont.h"
 
 namespace tamo {
 namespace {

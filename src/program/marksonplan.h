@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QHash>
+#include <QSet>
+#include <QString>
+
+#include "plans/mark.h"
+#include "plans/ostform.h"
+#include "plans/takeofffields.h"
+#include "takeoff/measuredmarks.h"
+
+namespace tamo {
+
+// Which marks of the plan were drawn for which entry of the takeoff.
+class MarksOnPlan : public MeasuredMarks {
+ public:
+  // The plan form is used only once it is made.
+  explicit MarksOnPlan(OSTForm& ost) : ost_(ost) {}
+
+  // The plan put `text` into a field.
+  void HandedOver(TakeoffFields::Field field, const QString& text);
+  // Marks are being taken off or put on: their number is no measure for anybody.
+  bool Moving() const { return moving_; }
+
+  EntryMarks MarksOf(const std::vector<Measured>& fields) override;
+  bool Reaches(const EntryMarks& marks) const override;
+  void PutOn(const EntryMarks& marks, bool on) override;
+
+ private:
+  QString PlanName() const;
+  bool IsFree(const Mark& mark) const;
+
+  OSTForm& ost_;
+  QHash<QString, QString> handed_;  // by the name of the field: the last measure
+  QSet<QString> owned_;             // marks of entries, by name
+  QHash<QString, Mark> off_;        // that were taken off with their entry
+  bool moving_ = false;
+};
+
+}  // namespace tamo

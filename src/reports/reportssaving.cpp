@@ -1,0 +1,70 @@
+#include "reports/reportsform.h"
+
+// A report that leaves the window as a file or a chart.
+
+namespace tamo {
+namespace {
+
+const QString kNothingShown =
+    QStringLiteral("There is no report in the window. Choose one from the menu Reports first.");
+
+}  // namespace
+
+ShownReport ReportsForm::InWindow() {
+  const OrderedList& list = Reporter.Empty() ? Reporter1 : Reporter;
+  const QString mark = bid_.Mark();
+  return {kind_, WithUncounted(list.SharedRows()), kit_.shared.JobID,
+          mark.isEmpty() ? kit_.shared.JobName : kit_.shared.JobName + QStringLiteral("   ") + mark,
+          [this](ReportKind kind, TableSink& table) { return WriteFigures(kind, table); }};
+}
+
+void ReportsForm::SaveReport() {
+  if (running_) return;
+  if (Reporter.Empty() && Reporter1.Empty()) return GetDesk().GetMessages().Tell(kNothingShown);
+  joins_.files.Save(InWindow());
+}
+
+void ReportsForm::ShowChart() {
+  if (running_) return;
+  const bool drawn = kind_ == ReportKind::Recap || kind_ == ReportKind::DetailedRecap ||
+                     kind_ == ReportKind::BreakDown;
+  if (Reporter.Empty() || !drawn) {
+    return GetDesk().GetMessages().Tell(QStringLiteral(
+        "The recap sheet and the breakdown have a chart. Choose one of them first."));
+  }
+  joins_.files.ShowChart(InWindow());
+}
+
+QStringList ReportsForm::WriteFigures(ReportKind kind, TableSink& table) {
+  // However it ends, it is told, and no report begins meanwhile.
+  struct Running {
+    ReportsForm& form;
+    bool whole = false;
+    explicit Running(ReportsForm& f) : form(f) { form.running_ = true; }
+    ~Running() {
+      if (form.onMade) form.onMade(whole);
+      form.running_ = false;
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+  } running(*this);
+  MakeFigures(kind, table);
+  running.whole = true;
+  QStringList remarks = uncounted_.Sentences();
+  if (bid_.Former()) remarks.prepend(bid_.Mark());
+  return remarks;
+}
+
+void ReportsForm::MakeFigures(ReportKind kind, TableSink& table) {
+  ReportSource source = Source();
+  source.table = &table;
+  if (kind == ReportKind::WhatChanged) {
+    bid_.CompareWith(*compared_, source);
+    return;
+  }
+  const ReportFacts facts{LoadedMarkups(), kit_.shared.JobID, bid_.Facts()};
+  QString adjustment = bid_.Former() ? QString() : Adjustment;
+  MakeReport(kind, source, facts, adjustment);
+}
+
+}  // namespace tamo

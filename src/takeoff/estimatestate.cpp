@@ -1,0 +1,89 @@
+// What taking back shows of an area, and what it calls an entry.
+
+#include "common/failure.h"
+#include "records/areafile.h"
+#include "records/arealine.h"
+#include "records/sheetnames.h"
+#include "takeoff/estimateform.h"
+#include "takeoff/listchange.h"
+#include "takeoff/unitcodes.h"
+
+namespace tamo {
+
+QString EstimateForm::InArea() const {
+  return QStringLiteral(" in \"%1\"").arg(Area.Text());
+}
+
+void EstimateForm::BeginQuantity() {
+  const bool surface = !IsLinearOrCount(Units.Text());
+  const AreaLine line(AreaList.Selected());
+  const QString system = line.Text().isEmpty() ? eDescription.Text() : line.System();
+  const QString entry =
+      surface ? Hite.Text() + QStringLiteral(" X ") + eLength.Text() : eLength.Text();
+  steps_.Begin(entry + QStringLiteral(" of ") + system + InArea(), *this);
+  if (surface) {
+    steps_.Measured({{"EL", eLength.Text()}, {"EH", Hite.Text()}});
+  } else {
+    steps_.Measured({{"EL", eLength.Text()}});
+  }
+}
+
+QString EstimateForm::TargetOf(const TextField&) const {
+  if (Area.Empty() || !lines_.AreOf(Area.Text()) || AreaList.Index() < 0) return {};
+  const AreaLine line(AreaList.Selected());
+  const QString system = line.Text().isEmpty() ? eDescription.Text() : line.System();
+  return WithKind(QStringLiteral("Area"), Area.Text()) + QStringLiteral(", ") + system;
+}
+
+SheetState EstimateForm::State() const {
+  const bool inWork = !Area.Empty() && lines_.AreOf(Area.Text());
+  SheetState state{inWork ? ProjectFolder(kit_.shared).AreaFile(Area.Text()) : QString(),
+                   AreaList.SharedRows(),
+                   AreaList.Index(),
+                   {}};
+  state.texts << Hite.Text() << Lengths.Rows().join(QLatin1Char('\n'));
+  return state;
+}
+
+void EstimateForm::ShowState(const SheetState& state) {
+  ChangeRows(AreaList, state.lines.List());
+  quiet_ = true;
+  if (state.line != SheetState::kAsItIs) AreaList.SetIndex(state.line);
+  quiet_ = false;
+  Hite.SetText(state.texts.value(0));
+  Lengths.SetRows(state.texts.value(1).split(QLatin1Char('\n'), Qt::SkipEmptyParts));
+  UpdateStatus();
+}
+
+void EstimateForm::FollowFiles(const QStringList& paths) {
+  if (!lines_.OfOpenProject()) return;
+  const ProjectFolder project(kit_.shared);
+  const bool inWork = !Area.Empty() && NameStands();
+  QStringList rows;
+  if (paths.contains(project.AreaNames()) &&
+      ReadAreaNames(kit_.files, kit_.shared, rows) == kNoError) {
+    const bool listed = AreasList.Find(Area.Text()) >= 0;
+    const QStringList before = AreasList.Rows();
+    AreasList.Refill(rows);
+    areaIndex_ = AreasList.RowAfter(before, areaIndex_);
+    if (inWork && listed && !rows.contains(Area.Text())) {
+      LeaveArea();
+      return;
+    }
+  }
+  if (inWork && !unread_ && paths.contains(project.AreaFile(Area.Text()))) {
+    const int error = ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), rows);
+    if (error == kNoError || IsMissing(error)) ChangeRows(AreaList, rows);
+  }
+  UpdateStatus();
+}
+
+void EstimateForm::LeaveArea() {
+  Area.Clear();
+  ForgetLines();
+  areaIndex_ = -1;
+  kit_.shared.IAmHere.clear();  // no length waits in the area any more
+  if (GetDesk().Active() == this) GetDesk().Focus(Area);
+}
+
+}  // namespace tamo

@@ -1,0 +1,73 @@
+// What taking back shows of a room, and what it calls an entry.
+
+#include "records/roomline.h"
+#include "takeoff/listchange.h"
+#include "takeoff/rfsform.h"
+#include "takeoff/unitcodes.h"
+
+namespace tamo {
+
+QString RFSForm::InRoom() const {
+  return QStringLiteral(" in \"%1\"").arg(Room.Text());
+}
+
+QString RFSForm::TheLine() const {
+  return Area.Empty() ? Description.Text()
+                      : Description.Text() + QStringLiteral(", ") + Area.Text();
+}
+
+void RFSForm::BeginLine() {
+  steps_.Begin(QStringLiteral("the line ") + TheLine() + InRoom(), *this);
+}
+
+void RFSForm::BeginQuantity() {
+  const bool surface = !IsLinearOrCount(Units.Text());
+  const QString entry =
+      surface ? How.Text() + QStringLiteral(" X ") + Length.Text() : Length.Text();
+  steps_.Begin(entry + QStringLiteral(" of ") + TheLine() + InRoom(), *this);
+  if (surface) {
+    steps_.Measured({{"RL", Length.Text()}, {"RH", How.Text()}});
+  } else {
+    steps_.Measured({{"RL", Length.Text()}});
+  }
+}
+
+QString RFSForm::TargetOf(const TextField& field) const {
+  if (Room.Empty() || record_.SheetFile().isEmpty()) return {};
+  QString target = WithKind(QStringLiteral("Room"), Room.Text());
+  if (&field == &How && Entering()) return target;
+  const RoomLine line(RoomList.Selected());
+  if (line.Text().isEmpty()) return {};
+  for (const QString& part : {line.System(), line.FinishArea()}) {
+    if (!part.isEmpty()) target += QStringLiteral(", ") + part;
+  }
+  return target;
+}
+
+SheetState RFSForm::State() const {
+  SheetState state{record_.SheetFile(), RoomList.SharedRows(), RoomList.Index(), {}};
+  state.texts << How.Text() << CopyHeight << Lengths.Rows().join(QLatin1Char('\n'));
+  return state;
+}
+
+void RFSForm::ShowState(const SheetState& state) {
+  ChangeRows(RoomList, state.lines.List());
+  SelectLine(state.line);
+  How.SetText(state.texts.value(0));
+  CopyHeight = state.texts.value(1);
+  Lengths.SetRows(state.texts.value(2).split(QLatin1Char('\n'), Qt::SkipEmptyParts));
+  UpdateStatus();
+}
+
+void RFSForm::SelectLine(int at) {
+  if (at == SheetState::kAsItIs || at == RoomList.Index()) return;
+  place.quiet = true;
+  RoomList.SetIndex(at);
+  place.quiet = false;
+}
+
+void RFSForm::FollowFiles(const QStringList& paths) {
+  record_.FollowFiles(paths);
+}
+
+}  // namespace tamo
