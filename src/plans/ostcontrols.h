@@ -36,7 +36,7 @@ struct OstControls : Form {
   // To check the scale against, or to set it by: feet, or any common form of a length.
   TextField KnownDimension{*this, "KnownDimension"};
   Button CheckDimension{*this, "CheckDimension", "Check a &Dimension"};
-  Button Calibrate{*this, "Calibrate", "Cali&brate the Scale"};
+  Button Calibrate{*this, "Calibrate", "Cali&brate"};
   Label DimensionResult{*this, "DimensionResult"};
   CheckBox Check1{*this, "Check1", "Turn Lines On"};
   Swatch Line1{*this, "Line1"};

@@ -157,8 +157,7 @@ void KnownDimension(Builder& b, QVBoxLayout& column) {
   QLineEdit* dimension = b.Field("KnownDimension", 8);
   known->setBuddy(dimension);
   column.addLayout(Line({known, dimension}));
-  column.addWidget(b.PushButton("CheckDimension"));
-  column.addWidget(b.PushButton("Calibrate"));
+  column.addLayout(Line({b.PushButton("CheckDimension"), b.PushButton("Calibrate")}));
   column.addWidget(b.Prompt("DimensionResult"));
 }
 
