@@ -29,11 +29,13 @@ void Scales(Builder& b, QVBoxLayout& column) {
   scale->setWordWrap(true);
   column.addWidget(scale);
   column.addWidget(b.PushButton("SetInches"));
+  column.addWidget(b.PushButton("TakeScale"));
   auto* line = Line({b.Field("Scale1", 6, QStringLiteral("Scale on the plan")),
                      b.Field("Text5", 0, QStringLiteral("Unit of the scale")),
                      b.Field("Scale2", 5, QStringLiteral("Scale in feet"))});
   line->setSpacing(kGrid / 2);
   column.addLayout(line);
+  column.addWidget(b.Check("FollowSheet"));
 }
 
 // The step says little to whoever zooms by wheel.
@@ -78,7 +80,7 @@ void KnownDimension(Builder& b, QVBoxLayout& column) {
   QLineEdit* dimension = b.Field("KnownDimension", 8);
   known->setBuddy(dimension);
   column.addLayout(Line({known, dimension}));
-  column.addWidget(b.PushButton("CheckDimension"));
+  column.addLayout(Line({b.PushButton("CheckDimension"), b.PushButton("Calibrate")}));
   column.addWidget(b.Prompt("DimensionResult"));
 }
 
