@@ -83,7 +83,7 @@ bool CommandData::Holds(const QString& path) const {
 }
 
 ReportSource CommandData::Source(Uncounted& uncounted, TableSink* table) {
-  ReportSource source{files_, shared_};
+  ReportSource source{files_, shared_, {}};
   source.wholeQuantities = wholeQuantities_;
   source.uncounted = &uncounted;
   source.table = table;
