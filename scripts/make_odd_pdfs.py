@@ -191,6 +191,25 @@ def shared_dictionary():
     save("jbig2.pdf", pdf(plan(LETTER + b"/Resources<</XObject<</A 5 0 R/B 6 0 R>>>>", place, more)))
 
 
+# --- Bombs: small files that ask for much memory
+
+def bombs():
+    data = segment(1, 48, struct.pack(">IIIIBH", 65000, 65000, 0, 0, 0, 0))
+    save("jbig2_bomb.pdf", picture(data, b"/Width 65000/Height 65000/BitsPerComponent 1/ColorSpace/DeviceGray"
+                                   b"/Filter/JBIG2Decode"))
+    # Four hundred groups, each inside the one before.
+    deep = {}
+    for number in range(5, 405):
+        inner = b"/Resources<</XObject<</F %d 0 R>>>>" % (number + 1) if number < 404 else b""
+        deep[number] = stream(b"0.9 g 0 0 612 792 re f" + (b" /F Do" if inner else b""),
+                              b"/Type/XObject/Subtype/Form/BBox[0 0 612 792]/Group<</S/Transparency/I true/K true>>" + inner)
+    half = b"/ExtGState<</G<</ca 0.5/CA 0.5>>>>"
+    save("deep_bomb.pdf", pdf(plan(LETTER + b"/Resources<<" + half + b"/XObject<</F 5 0 R>>>>",
+                                   stream(b"/G gs /F Do"), deep)))
+    lines = zlib.compress(b"0 0 m 9 9 l S\n" * 4000000, 9)
+    save("lines_bomb.pdf", pdf(plan(content=stream(lines, b"/Filter/FlateDecode"))))
+
+
 # --- Names
 
 def names():
@@ -232,6 +251,7 @@ def main():
     save("hatch_often.pdf", hatch(120))
     pictures()
     shared_dictionary()
+    bombs()
     names()
     print(COUNT)
 

@@ -4,6 +4,8 @@
 #include <QSessionManager>
 #include <QStandardPaths>
 #include <QTimer>
+#include <functional>
+#include <memory>
 
 #include "command/commandmain.h"
 #include "common/memory.h"
@@ -27,7 +29,7 @@
 namespace {
 
 // How long the window waits for a plan before it shows a blank sheet and goes on.
-constexpr int kPatience = 80;
+constexpr int kPatience = 10;
 // How often it is looked whether a project that another program has open is free; milliseconds.
 constexpr int kTick = 3000;
 
@@ -83,12 +85,16 @@ void LookAbout(QTimer& ticks, tamo::Program& program) {
 }
 
 // Reports are saved by way of the system's dialog for files, and charts get windows of their own.
-void JoinFilesAndCharts(tamo::Program& program, tamo::FileDialog& files, tamo::Disk& disk) {
-  const tamo::FileChooser choose = [&files](const tamo::FileQuestion& question) {
-    return files.Choose(question);
+void JoinFilesAndCharts(tamo::Program& program, const tamo::Platform& platform,
+                        const std::function<void()>& beforeDialog) {
+  const auto files = std::make_shared<tamo::FileDialog>(
+      platform.configFolder + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
+  files->beforeDialog = beforeDialog;
+  const tamo::FileChooser choose = [files](const tamo::FileQuestion& question) {
+    return files->Choose(question);
   };
   program.ChooseFilesWith(choose);
-  program.DrawChartsWith([&disk, choose](const tamo::ChartData& chart) {
+  program.DrawChartsWith([&disk = platform.disk, choose](const tamo::ChartData& chart) {
     (new tamo::ChartWindow(chart, disk, choose, QApplication::activeWindow()))->show();
   });
 }
@@ -127,10 +133,8 @@ int main(int argc, char** argv) {
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
   printer.company = [&program] { return program.CompanyName(); };
-  tamo::FileDialog files(config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
-  files.beforeDialog = [&windows] { windows.SyncNow(); };
-  JoinFilesAndCharts(program, files, disk);
   messages.beforeBox = [&windows] { windows.SyncNow(); };
+  JoinFilesAndCharts(program, platform, messages.beforeBox);
   program.onEnded = [] { QTimer::singleShot(0, [] { QApplication::quit(); }); };
   SaveBeforeTheSystemEnds(application, program);
   const tamo::EndSignals signals([&program] {
@@ -141,6 +145,7 @@ int main(int argc, char** argv) {
   QTimer keeping;
   KeepWhatIsTyped(keeping, program);
   program.Start();
+  program.BeginHomePage();
   OpenNamedPlan(QApplication::arguments(), program);
   QTimer ticks;
   LookAbout(ticks, program);

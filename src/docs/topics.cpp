@@ -77,6 +77,7 @@ constexpr FieldTopic kFields[] = {
     {"Tamo", " JobName BidDate Addenda Phase BidItems Inclusions Exclusions Architect Notes ",
      "ProjectInformationDocs.tamo"},
     {"Tamo", "", "ProjectsDocs.tamo"},
+    {"HomePage", "", "StartDocs.tamo"},
     {"Settings", "", "SettingsDocs.tamo"},
     {"Pricing", " MOH MTX MMU LOH LTX LMU BLOH BLTX BLMU MIOH MITX MIMU ExitMarkups ",
      "MarkupsDocs.tamo"},

@@ -42,7 +42,7 @@ bool EngineServer::Take(const WireMessage& message) {
       return true;
     case WireKind::GoOn:
       goOn_[message.call] = static_cast<int>(wire.Number(0, 100000));
-      news_.notify_all();
+      mayGoOn_.notify_all();
       return wire.AtEnd();
     case WireKind::Answer:
     case WireKind::Part:
@@ -53,7 +53,6 @@ bool EngineServer::Take(const WireMessage& message) {
   const auto cancel = std::make_shared<CancelFlag>();
   working_[message.call] = cancel;
   jobs_.push_back({message, cancel});
-  news_.notify_all();
   return true;
 }
 
@@ -72,9 +71,11 @@ bool EngineServer::WorkOnce() {
 void EngineServer::Work() {
   for (;;) {
     {
-      std::unique_lock<std::mutex> lock(mutex_);
-      news_.wait(lock, [this] { return !jobs_.empty(); });
+      const std::lock_guard<std::mutex> guard(receiving_);
+      WireMessage message;
+      if (!receive(message) || !Take(message)) return;
     }
+    // Who heard of it does it: nobody has to be woken.
     WorkOnce();
   }
 }
@@ -191,7 +192,7 @@ QByteArray EngineServer::BuildUpdate(WireReader& wire) {
 int EngineServer::HandPart(uint32_t call, const QByteArray& part) {
   Send(WireKind::Part, call, part);
   std::unique_lock<std::mutex> lock(mutex_);
-  news_.wait(lock, [&] { return goOn_.count(call) != 0; });
+  mayGoOn_.wait(lock, [&] { return goOn_.count(call) != 0; });
   const int error = goOn_[call];
   goOn_.erase(call);
   return error;

@@ -27,7 +27,11 @@ class EngineServer {
   // The plan, of that many bytes.
   std::function<std::shared_ptr<FileReader>(qint64 size)> file;
 
-  // Does calls until the end of the process; on as many threads as wanted.
+  // Waits for a message of the program. False when it is gone; called by one thread at a time.
+  std::function<bool(WireMessage& message)> receive;
+
+  // Hears and does calls until the program is gone or says what no honest one says. On more threads
+  // than there are ever calls in work, so that one always hears.
   void Work();
   // Takes a message of the program. False when no honest program sends it.
   bool Take(const WireMessage& message);
@@ -54,8 +58,9 @@ class EngineServer {
   PlanEngine& engine_;
   uint32_t* const tiles_;
   std::mutex sending_;
+  std::mutex receiving_;
   std::mutex mutex_;
-  std::condition_variable news_;
+  std::condition_variable mayGoOn_;
   std::deque<Job> jobs_;
   std::map<uint32_t, std::shared_ptr<CancelFlag>> working_;
   std::map<uint32_t, std::shared_ptr<LoadedPage>> pages_;

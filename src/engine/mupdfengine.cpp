@@ -107,8 +107,18 @@ class MuPdfPlan : public EnginePlan {
 
 }  // namespace
 
+void MuPdfEngine::GetReady() {
+  const std::lock_guard<std::mutex> guard(mutex_);
+  ready_ = MuPdfContexts::Make();
+}
+
 std::shared_ptr<EnginePlan> MuPdfEngine::NewPlan(std::shared_ptr<PlanSource> source) {
-  auto contexts = MuPdfContexts::Make();
+  std::shared_ptr<MuPdfContexts> contexts;
+  {
+    const std::lock_guard<std::mutex> guard(mutex_);
+    contexts = std::move(ready_);
+  }
+  if (contexts == nullptr) contexts = MuPdfContexts::Make();
   if (contexts == nullptr) return nullptr;
   return std::make_shared<MuPdfPlan>(std::move(contexts), std::move(source));
 }

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <linux/landlock.h>
 #include <malloc.h>
+#include <pthread.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/syscall.h>
@@ -13,24 +14,15 @@
 namespace tamo {
 namespace {
 
-// Address space; what can be in use of it stays below 512 MB: the engine has 320, the tiles 48.
-constexpr rlim_t kMemory = rlim_t(640) << 20;
+// All the memory there is for it: the engine takes 320 MB at most, the tiles 48, its code and what
+// stands in it 80, and each thread its stack.
+constexpr rlim_t kMemory = rlim_t(512) << 20;
+constexpr size_t kStack = size_t(2) << 20;
 constexpr rlim_t kSeconds = 3600;  // of the processor, then another worker takes its place
 
 void Limit(__rlimit_resource what, rlim_t most) {
   const rlimit limit{most, most};
   ::setrlimit(what, &limit);
-}
-
-bool HasSanitizer() {
-#if defined(__SANITIZE_ADDRESS__)
-  return true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-  return true;
-#endif
-#endif
-  return false;
 }
 
 // No file can be opened, made or run by its name any more.
@@ -51,16 +43,36 @@ bool LockFiles() {
 
 }  // namespace
 
+bool HasSanitizer() {
+#if defined(__SANITIZE_ADDRESS__)
+  return true;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+  return true;
+#endif
+#endif
+  return false;
+}
+
 void ShutIn(WorkerGuard& guard) {
   ::syscall(SYS_close_range, kWorkerTiles + 1, ~0U, 0);
   ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0);
   ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0);
-  ::mallopt(M_ARENA_MAX, 2);
+  // What is given back is kept for the next page.
+  ::mallopt(M_ARENA_MAX, 1);
+  ::mallopt(M_MMAP_THRESHOLD, 32 << 20);
+  ::mallopt(M_TRIM_THRESHOLD, 64 << 20);
   guard.files = LockFiles();
   Limit(RLIMIT_CORE, 0);
   Limit(RLIMIT_FSIZE, 0);
   Limit(RLIMIT_CPU, kSeconds);
-  if (!HasSanitizer()) Limit(RLIMIT_AS, kMemory);
+  if (HasSanitizer()) return;
+  Limit(RLIMIT_AS, kMemory);
+  pthread_attr_t threads;
+  ::pthread_attr_init(&threads);
+  ::pthread_attr_setstacksize(&threads, kStack);
+  ::pthread_setattr_default_np(&threads);
+  ::pthread_attr_destroy(&threads);
 }
 
 }  // namespace tamo

@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainter>
 #include <algorithm>
 
@@ -31,6 +32,14 @@ double ScaleFor(const PageComposer::Page& page, double width, double height) {
   }
   const double fit = std::min(1.0, height / high);
   return std::min(width / wide, std::max(fit, kLeastScale));
+}
+
+// Looking for a family takes its time, and a large report has a million lines.
+QFont FontNamed(const QString& name) {
+  static QHash<QString, QFont> known;
+  const auto found = known.constFind(name);
+  if (found != known.constEnd()) return *found;
+  return *known.insert(name, QFontDatabase::hasFamily(name) ? QFont(name) : FixedFont());
 }
 
 }  // namespace
@@ -82,7 +91,7 @@ void PageComposer::Paint(QPainter& painter, const Sheet& sheet, double dotsPerIn
   painter.setPen(Qt::black);
   double top = 0;
   for (const Line& line : sheet.lines) {
-    QFont font = QFontDatabase::hasFamily(line.font) ? QFont(line.font) : FixedFont();
+    QFont font = FontNamed(line.font);
     // Ten times as large as meant and made small again: the painter's own sizes are whole pixels.
     constexpr double kFine = 10;
     font.setPixelSize(static_cast<int>(line.points * kFine));

@@ -65,7 +65,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void Look(const PlanView& view) override;
   std::vector<PlacedPicture> PicturesFor(const PlanView& view) override;
   std::shared_ptr<const Picture> Thumbnail(int page, int longSide) override;
-  std::shared_ptr<const Picture> PrintPicture(const PlanView& part) override;
+  std::shared_ptr<const Picture> PrintPicture(const PlanView& part,
+                                              const std::function<void()>& meanwhile) override;
 
   // The plan shown, as long as who asks needs it: its calls block, so not for the windows' thread.
   // Null when none is shown, or it is still opening.
@@ -75,7 +76,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   SnapPointer& Snap() { return snap_; }
 
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
-  // background; 10 seconds when not set. A window wants 80 milliseconds.
+  // background; 10 seconds when not set. A window wants 10 milliseconds.
   void SetPatience(int milliseconds) { patience_ = milliseconds; }
   // How long a plan may take to open at all; 30 seconds when not set.
   void SetLongestOpening(int milliseconds) { longestOpening_ = milliseconds; }

@@ -67,6 +67,8 @@ int PdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
   error = WriteRepaired(copy.Handle(), problem);
   if (error == kNoError) problem = QStringLiteral("it is too damaged to hold marks");
   if (error == kNoError) anew = OpenAside(copy.Unfinished(), error, marks);
+  // No sheet may be missing from what the engine made of it.
+  if (error == kNoError && anew->sizes.size() != session_->sizes.size()) error = kFileOther;
   if (error == kNoError && !changes.Empty()) error = BuildUpdate(*anew, changes, bytes);
   if (error == kNeedsRewrite) error = kFileOther;
   if (error == kNoError) {

@@ -123,7 +123,11 @@ bool PdfDraw::MayMark() {
 // --- Opening and closing
 
 PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
-    : files_(files), engine_(engine), forms_(std::make_shared<FormsThread>(this)) {}
+    : files_(files), engine_(engine), forms_(std::make_shared<FormsThread>(this)) {
+  snap_.Lines().onRead = [forms = forms_] {
+    FormsThread::Post(forms, [](PdfDraw& draw) { draw.snap_.TellOfSheet(); });
+  };
+}
 
 PdfDraw::~PdfDraw() {
   forms_->Cut();
@@ -235,6 +239,7 @@ void PdfDraw::TakeOpened() {
   // What was drawn on the blank sheet meanwhile is kept.
   contents.marks.insert(contents.marks.end(), MarksAsDrawn().begin(), MarksAsDrawn().end());
   FillPlan(std::move(contents.sizes), std::move(contents.marks));
+  if (opening->slow && !notices_.caution.isEmpty()) Raise(onPageProblem, notices_.caution);
 }
 
 void PdfDraw::StartPainting() {
@@ -311,9 +316,10 @@ std::shared_ptr<const Picture> PdfDraw::Thumbnail(int page, int longSide) {
   return session_->painter->Thumbnail(page, longSide);
 }
 
-std::shared_ptr<const Picture> PdfDraw::PrintPicture(const PlanView& part) {
+std::shared_ptr<const Picture> PdfDraw::PrintPicture(const PlanView& part,
+                                                     const std::function<void()>& meanwhile) {
   if (session_ == nullptr || session_->painter == nullptr) return nullptr;
-  return session_->painter->PrintPicture(part, kPrintPatience);
+  return session_->painter->PrintPicture(part, kPrintPatience, meanwhile);
 }
 
 std::shared_ptr<EnginePlan> PdfDraw::OpenedPlan() const {

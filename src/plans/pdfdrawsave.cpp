@@ -265,7 +265,8 @@ int PdfDraw::WriteCopy(const QString& path, const MarkChanges& changes) {
 
 // The update that was built did not reach the disk.
 void PdfDraw::ForgetUpdate() {
-  session_->thread->Run([plan = session_->plan] { plan->ForgetUpdate(); }, kBuildPatience);
+  session_->thread->Run([plan = session_->plan] { plan->ForgetUpdate(); }, kBuildPatience,
+                        [this] { Raise(onSaveProgress, 0); });
 }
 
 }  // namespace tamo

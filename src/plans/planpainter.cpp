@@ -11,6 +11,7 @@ namespace {
 using State = PlanPainter::State;
 
 constexpr size_t kMostWanted = 200;
+constexpr auto kMeanwhile = std::chrono::milliseconds(8);
 
 // The whole work of a thread. It owns what it stands on, so it can end after the painter is gone.
 class Worker {
@@ -86,7 +87,7 @@ PlanPainter::~PlanPainter() {
   state_->onChanged = nullptr;
   for (PaintJob* job : state_->working) job->cancel->Cancel();
   state_->wake.notify_all();
-  const bool ended = state_->news.wait_for(lock, std::chrono::milliseconds(20),
+  const bool ended = state_->news.wait_for(lock, std::chrono::milliseconds(4),
                                            [this] { return state_->running == 0; });
   lock.unlock();
   for (std::thread& thread : threads_) {
@@ -155,15 +156,25 @@ std::shared_ptr<const Picture> PlanPainter::Thumbnail(int page, int longSide) {
   return nullptr;
 }
 
-std::shared_ptr<const Picture> PlanPainter::PrintPicture(const PlanView& part, int milliseconds) {
+// What is called meanwhile may end the painter.
+std::shared_ptr<const Picture> PlanPainter::PrintPicture(const PlanView& part, int milliseconds,
+                                                         const std::function<void()>& meanwhile) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+  const std::shared_ptr<State> state = state_;
   const auto job = std::make_shared<PrintJob>();
   job->part = Sane(part);
-  std::unique_lock<std::mutex> lock(state_->mutex);
-  if (state_->failed.count(job->part.page) != 0) return nullptr;
-  state_->prints.push_back(job);
-  state_->wake.notify_all();
-  state_->news.wait_for(lock, std::chrono::milliseconds(milliseconds), [&] { return job->done; });
-  std::erase(state_->prints, job);
+  std::unique_lock<std::mutex> lock(state->mutex);
+  if (state->failed.count(job->part.page) != 0) return nullptr;
+  state->prints.push_back(job);
+  state->wake.notify_all();
+  while (!job->done && !state->end && std::chrono::steady_clock::now() < end) {
+    state->news.wait_for(lock, kMeanwhile, [&] { return job->done; });
+    if (job->done || !meanwhile) continue;
+    lock.unlock();
+    meanwhile();
+    lock.lock();
+  }
+  std::erase(state->prints, job);
   return job->picture;
 }
 

@@ -29,7 +29,8 @@ class PlanPainter {
   void Look(const PlanView& view);
   std::vector<PlacedPicture> PicturesFor(const PlanView& view);
   std::shared_ptr<const Picture> Thumbnail(int page, int longSide);
-  std::shared_ptr<const Picture> PrintPicture(const PlanView& part, int milliseconds);
+  std::shared_ptr<const Picture> PrintPicture(const PlanView& part, int milliseconds,
+                                              const std::function<void()>& meanwhile);
 
   // Waits until nothing that is visible, and no thumbnail asked for, is missing. For tests and
   // benchmarks.

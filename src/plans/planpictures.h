@@ -47,7 +47,9 @@ class PlanPictures {
   // visible. The longer side has `longSide` pixels.
   virtual std::shared_ptr<const Picture> Thumbnail(int page, int longSide) = 0;
   // Waits for the picture of a part of a page, for printing. Bounded in time; null when it fails.
-  virtual std::shared_ptr<const Picture> PrintPicture(const PlanView& part) = 0;
+  // `meanwhile`, when there is one, is called every few milliseconds.
+  virtual std::shared_ptr<const Picture> PrintPicture(const PlanView& part,
+                                                      const std::function<void()>& meanwhile) = 0;
 
   std::function<void()> onPicturesChanged;  // on the thread of the forms
 };

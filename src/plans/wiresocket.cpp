@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstring>
 
 namespace tamo {
 namespace {
@@ -71,6 +72,45 @@ bool SendMessage(int socket, const WireMessage& message) {
   }
   return SendAll(socket, head.constData(), head.size()) &&
          SendAll(socket, message.body.constData(), message.body.size());
+}
+
+bool SendFile(int socket, int file) {
+  char byte = 0;
+  iovec part{&byte, 1};
+  alignas(cmsghdr) char space[CMSG_SPACE(sizeof file)] = {};
+  msghdr message{};
+  message.msg_iov = &part;
+  message.msg_iovlen = 1;
+  message.msg_control = space;
+  message.msg_controllen = sizeof space;
+  cmsghdr* head = CMSG_FIRSTHDR(&message);
+  head->cmsg_level = SOL_SOCKET;
+  head->cmsg_type = SCM_RIGHTS;
+  head->cmsg_len = CMSG_LEN(sizeof file);
+  std::memcpy(CMSG_DATA(head), &file, sizeof file);
+  ssize_t sent = -1;
+  while ((sent = ::sendmsg(socket, &message, MSG_NOSIGNAL)) < 0 && errno == EINTR) continue;
+  return sent == 1;
+}
+
+int ReceiveFile(int socket) {
+  char byte = 0;
+  iovec part{&byte, 1};
+  int file = -1;
+  alignas(cmsghdr) char space[CMSG_SPACE(sizeof file)] = {};
+  msghdr message{};
+  message.msg_iov = &part;
+  message.msg_iovlen = 1;
+  message.msg_control = space;
+  message.msg_controllen = sizeof space;
+  ssize_t got = -1;
+  while ((got = ::recvmsg(socket, &message, MSG_CMSG_CLOEXEC)) < 0 && errno == EINTR) continue;
+  const cmsghdr* head = got == 1 ? CMSG_FIRSTHDR(&message) : nullptr;
+  if (head != nullptr && head->cmsg_level == SOL_SOCKET && head->cmsg_type == SCM_RIGHTS &&
+      head->cmsg_len == CMSG_LEN(sizeof file)) {
+    std::memcpy(&file, CMSG_DATA(head), sizeof file);
+  }
+  return file;
 }
 
 // The memory for a long message is taken as it comes, not as its head promises.

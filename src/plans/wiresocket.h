@@ -26,10 +26,14 @@ bool TakeHead(const char* head, WireMessage& message, uint32_t& length);
 bool SendMessage(int socket, const WireMessage& message);
 bool ReceiveMessage(int socket, WireMessage& message);
 
+// Hands an open file over, ahead of all messages. Receiving blocks; -1 when the other side is gone
+// or handed none.
+bool SendFile(int socket, int file);
+int ReceiveFile(int socket);
+
 // The file numbers that a worker finds when it begins.
 inline constexpr int kWorkerSocket = 3;
-inline constexpr int kWorkerFile = 4;   // the plan, to be read
-inline constexpr int kWorkerTiles = 5;  // shared memory for pixels
+inline constexpr int kWorkerTiles = 4;  // shared memory for pixels
 
 // The tiles: slots of the same size, one for each call that paints.
 inline constexpr int kTileSlots = 6;

@@ -35,10 +35,11 @@ QString WorkerEngine::MissingGuards() {
   return {};
 }
 
-WorkerEngine::WorkerEngine(QByteArray program) : program_(std::move(program)) {}
+WorkerEngine::WorkerEngine(QByteArray program)
+    : workers_(std::make_shared<WorkerSource>(std::move(program))) {}
 
 std::shared_ptr<EnginePlan> WorkerEngine::NewPlan(std::shared_ptr<PlanSource> source) {
-  return std::make_shared<WorkerPlan>(program_, std::move(source));
+  return std::make_shared<WorkerPlan>(workers_, std::move(source));
 }
 
 QByteArray WorkerEngine::BesideThisProgram() {

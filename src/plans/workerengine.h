@@ -3,6 +3,7 @@
 #include <QByteArray>
 
 #include "plans/planengine.h"
+#include "plans/workersource.h"
 
 namespace tamo {
 
@@ -13,6 +14,8 @@ class WorkerEngine : public PlanEngine {
   // The program of the worker; when it is not there, no plan opens, and that is said.
   explicit WorkerEngine(QByteArray program = BesideThisProgram());
   std::shared_ptr<EnginePlan> NewPlan(std::shared_ptr<PlanSource> source) override;
+  // Whether a process waits for the next plan; one does from half a second after the first plan.
+  bool OneWaits() const { return workers_->OneWaits(); }
 
   static QByteArray BesideThisProgram();
   // What the system lacks to keep workers from doing harm, as a sentence; empty when nothing, or
@@ -20,7 +23,7 @@ class WorkerEngine : public PlanEngine {
   static QString MissingGuards();
 
  private:
-  QByteArray program_;
+  std::shared_ptr<WorkerSource> workers_;
 };
 
 }  // namespace tamo

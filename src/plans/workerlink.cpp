@@ -14,12 +14,18 @@ constexpr qsizetype kMostParts = 4;  // a worker sends the next when the last wa
 
 // A call that somebody waits for.
 struct WorkerLink::Waiting {
+  std::condition_variable news;
   bool answered = false;
   bool cancelled = false;
   bool cancelSent = false;
   QByteArray answer;
   std::vector<QByteArray> parts;
 };
+
+std::shared_ptr<WorkerLink> WorkerLink::To(std::unique_ptr<WorkerProcess> process) {
+  return {new WorkerLink(std::move(process)),
+          [](WorkerLink* link) { std::thread([link] { delete link; }).detach(); }};
+}
 
 WorkerLink::WorkerLink(std::unique_ptr<WorkerProcess> process) : process_(std::move(process)) {
   listener_ = std::thread([this] { Listen(); });
@@ -36,7 +42,8 @@ void WorkerLink::Listen() {
   Kill();
   const std::lock_guard<std::mutex> guard(mutex_);
   gone_ = true;
-  news_.notify_all();
+  for (const auto& [call, waiting] : waiting_) waiting->news.notify_all();
+  slotFree_.notify_all();
 }
 
 // False when the worker lies.
@@ -48,6 +55,7 @@ bool WorkerLink::Take(WireMessage& message) {
   if (last && left != leftSlots_.end()) {
     if (left->second >= 0) slotTaken_[left->second] = false;
     leftSlots_.erase(left);
+    slotFree_.notify_one();
   }
   const auto found = waiting_.find(message.call);
   if (found != waiting_.end()) {
@@ -59,8 +67,8 @@ bool WorkerLink::Take(WireMessage& message) {
       waiting.parts.push_back(std::move(message.body));
       if (qsizetype(waiting.parts.size()) > kMostParts) return false;
     }
+    waiting.news.notify_one();
   }
-  news_.notify_all();
   return true;
 }
 
@@ -97,14 +105,16 @@ int WorkerLink::TakeSlot() {
     }
     // All are with calls that were given up: the worker hangs.
     const bool hangs = leftSlots_.size() >= size_t(kTileSlots);
-    if (news_.wait_for(lock, std::chrono::seconds(5)) == std::cv_status::timeout && hangs) Kill();
+    if (slotFree_.wait_for(lock, std::chrono::seconds(5)) == std::cv_status::timeout && hangs) {
+      Kill();
+    }
   }
 }
 
 void WorkerLink::GiveSlot(int slot) {
   const std::lock_guard<std::mutex> guard(mutex_);
   slotTaken_[slot] = false;
-  news_.notify_all();
+  slotFree_.notify_one();
 }
 
 WorkerLink::Answer WorkerLink::Call(WireKind kind, const QByteArray& body, const Terms& terms) {
@@ -121,7 +131,7 @@ WorkerLink::Answer WorkerLink::Call(WireKind kind, const QByteArray& body, const
     terms.cancel->WhenCancelled([this, &waiting] {
       const std::lock_guard<std::mutex> guard(mutex_);
       waiting.cancelled = true;
-      news_.notify_all();
+      waiting.news.notify_one();
     });
   }
   Answer answer = Await(waiting, call, terms);
@@ -138,7 +148,7 @@ WorkerLink::Answer WorkerLink::Await(Waiting& waiting, uint32_t call, const Term
   };
   bool inTime = true;
   while (inTime && !(waiting.answered && waiting.parts.empty()) && !gone_) {
-    inTime = news_.wait_until(lock, end, stirs);
+    inTime = waiting.news.wait_until(lock, end, stirs);
     if (!waiting.parts.empty()) {
       HandPart(waiting, call, terms, lock);
     } else if (waiting.cancelled && !std::exchange(waiting.cancelSent, true)) {

@@ -18,8 +18,8 @@ namespace tamo {
 // ended, said what no honest worker says, or was killed because a call took too long.
 class WorkerLink {
  public:
-  explicit WorkerLink(std::unique_ptr<WorkerProcess> process);
-  ~WorkerLink();
+  // Whoever lets go of it last does not wait for the end of the process.
+  static std::shared_ptr<WorkerLink> To(std::unique_ptr<WorkerProcess> process);
   WorkerLink(const WorkerLink&) = delete;
   WorkerLink& operator=(const WorkerLink&) = delete;
 
@@ -51,6 +51,8 @@ class WorkerLink {
 
  private:
   struct Waiting;
+  explicit WorkerLink(std::unique_ptr<WorkerProcess> process);
+  ~WorkerLink();
   void Listen();
   bool Take(WireMessage& message);
   void Send(WireKind kind, uint32_t call, const QByteArray& body);
@@ -62,7 +64,7 @@ class WorkerLink {
   std::unique_ptr<WorkerProcess> process_;
   std::mutex sending_;
   std::mutex mutex_;
-  std::condition_variable news_;
+  std::condition_variable slotFree_;
   std::map<uint32_t, Waiting*> waiting_;
   std::map<uint32_t, int> leftSlots_;  // of calls that nobody waits for any more
   std::vector<uint32_t> dropped_;

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "common/failure.h"
+#include "plans/additioncheck.h"
 #include "plans/workerguard.h"
 
 namespace tamo {
@@ -72,8 +73,8 @@ class WorkerPlan::Page : public LoadedPage {
   mutable uint32_t call_ = 0;
 };
 
-WorkerPlan::WorkerPlan(QByteArray program, std::shared_ptr<PlanSource> source)
-    : program_(std::move(program)), source_(std::move(source)) {}
+WorkerPlan::WorkerPlan(std::shared_ptr<WorkerSource> workers, std::shared_ptr<PlanSource> source)
+    : workers_(std::move(workers)), source_(std::move(source)) {}
 
 // --- Workers
 
@@ -86,9 +87,9 @@ WorkerLink::Answer WorkerPlan::OpenIn(const Link& link) {
 
 // Brings a new worker to where the last one was.
 bool WorkerPlan::Repeat(const Link& link) {
-  for (const MarkChanges& changes : updates_) {
+  for (const Update& update : updates_) {
     WireWriter wire;
-    Put(wire, changes);
+    Put(wire, update.changes);
     if (!link->Call(WireKind::BuildUpdate, wire.Take(), {kUpdatePatience, nullptr, -1, {}}).there) {
       return false;
     }
@@ -102,9 +103,9 @@ WorkerPlan::Link WorkerPlan::OpenLink() {
   if (link_ != nullptr && !link_->Gone()) return link_;
   link_.reset();
   if (++starts_ > kMostStarts) return nullptr;
-  auto process = WorkerProcess::Start(program_, *source_->Reader(), source_->Size());
+  auto process = workers_->Take(*source_->Reader(), source_->Size());
   if (process == nullptr) return nullptr;
-  const auto link = std::make_shared<WorkerLink>(std::move(process));
+  const Link link = WorkerLink::To(std::move(process));
   if (starts_ > 1 && (!OpenIn(link).there || !Repeat(link))) return nullptr;
   if (abandoned_) return nullptr;
   link_ = link;
@@ -166,7 +167,7 @@ PlanContents WorkerPlan::Open(const QString& password) {
                              : QStringLiteral(
                                    "the part of this program that reads plans, %1, "
                                    "can't be started")
-                                   .arg(QString::fromLocal8Bit(program_));
+                                   .arg(QString::fromLocal8Bit(workers_->Program()));
   return contents;
 }
 
@@ -265,6 +266,13 @@ PageContent WorkerPlan::ReadContent(int page, CancelFlag& cancel) {
   return content;
 }
 
+// Of the file with all that was appended to it.
+qint64 WorkerPlan::GrownSize() const {
+  qint64 size = source_->Size();
+  for (const Update& update : updates_) size += update.bytes;
+  return size;
+}
+
 PlanUpdate WorkerPlan::BuildUpdate(const MarkChanges& changes) {
   Link built;
   const WorkerLink::Answer answer = Ask([&](const Link& link) {
@@ -276,13 +284,16 @@ PlanUpdate WorkerPlan::BuildUpdate(const MarkChanges& changes) {
   PlanUpdate update;
   WireReader wire(answer.body);
   Take(wire, update);
-  const bool addition = update.bytes.isEmpty() || update.bytes.endsWith("%%EOF\n");
-  if (answer.there && wire.AtEnd() && addition && update.bytes.size() <= kLongestUpdate) {
-    const std::lock_guard<std::mutex> guard(mutex_);
-    if (update.error == kNoError) updates_.push_back(changes);
-    if (link_ != built) link_.reset();  // a worker that has begun meanwhile does not know of it
-    return update;
+  const std::lock_guard<std::mutex> guard(mutex_);
+  if (answer.there && wire.AtEnd() && update.bytes.size() <= kLongestUpdate) {
+    if (update.error != kNoError) return update;
+    if (update.bytes.isEmpty() || IsAddition(update.bytes, GrownSize())) {
+      updates_.push_back({changes, update.bytes.size()});
+      if (link_ != built) link_.reset();  // a worker that has begun meanwhile does not know of it
+      return update;
+    }
   }
+  link_.reset();  // it counts the plan as having what nobody wrote
   return {kFileOther, EngineEnded(), false, {}};
 }
 

@@ -8,6 +8,7 @@
 
 #include "plans/planengine.h"
 #include "plans/workerlink.h"
+#include "plans/workersource.h"
 
 namespace tamo {
 
@@ -15,7 +16,7 @@ namespace tamo {
 // once more, alone in a new worker: so only the call that ends workers fails.
 class WorkerPlan : public EnginePlan, public std::enable_shared_from_this<WorkerPlan> {
  public:
-  WorkerPlan(QByteArray program, std::shared_ptr<PlanSource> source);
+  WorkerPlan(std::shared_ptr<WorkerSource> workers, std::shared_ptr<PlanSource> source);
 
   PlanContents Open(const QString& password) override;
   std::shared_ptr<LoadedPage> LoadPage(int page, CancelFlag& cancel) override;
@@ -40,11 +41,12 @@ class WorkerPlan : public EnginePlan, public std::enable_shared_from_this<Worker
   Link OpenLink();
   WorkerLink::Answer OpenIn(const Link& link);
   bool Repeat(const Link& link);
+  qint64 GrownSize() const;
   WorkerLink::Answer LoadIn(const Link& link, int number, CancelFlag& cancel, Page* page);
   WorkerLink::Answer PaintIn(const Link& link, const Page& page, const PaintPart& part,
                              CancelFlag& cancel, uint32_t* pixels);
 
-  const QByteArray program_;
+  const std::shared_ptr<WorkerSource> workers_;
   const std::shared_ptr<PlanSource> source_;
   std::atomic<bool> abandoned_ = false;
   std::shared_mutex lane_;  // calls share it; who tries again has it alone
@@ -52,7 +54,12 @@ class WorkerPlan : public EnginePlan, public std::enable_shared_from_this<Worker
   Link link_;
   QString password_;
   int starts_ = 0;
-  std::vector<MarkChanges> updates_;  // that the plan has had, for the next worker
+  // What the plan has had added, for the next worker.
+  struct Update {
+    MarkChanges changes;
+    qint64 bytes = 0;
+  };
+  std::vector<Update> updates_;
 };
 
 }  // namespace tamo

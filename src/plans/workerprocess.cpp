@@ -78,35 +78,47 @@ int HandleOf(const FileReader& plan, qint64 size) {
 
 }  // namespace
 
-std::unique_ptr<WorkerProcess> WorkerProcess::Start(const QByteArray& program,
-                                                    const FileReader& plan, qint64 size) {
+std::unique_ptr<WorkerProcess> WorkerProcess::Start(const QByteArray& program) {
   int ends[2] = {-1, -1};
   if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends) != 0) return nullptr;
   Handle ours(ends[0]);
   const Handle theirs(ends[1]);
-  const Handle file(HandleOf(plan, size));
   const Handle tiles(NewTiles());
-  if (ours.Get() < 0 || theirs.Get() < 0 || file.Get() < 0 || tiles.Get() < 0) return nullptr;
-  std::unique_ptr<WorkerProcess> made(new WorkerProcess);
-  void* memory = ::mmap(nullptr, kTileBytes, PROT_READ, MAP_SHARED, tiles.Get(), 0);
-  if (memory == MAP_FAILED) return nullptr;
-  made->tiles_ = memory;
-  made->socket_ = ours.Release();
-  // A worker that reads nothing any more holds nobody for good.
-  const timeval patience{kSendPatience, 0};
-  ::setsockopt(made->socket_, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
-  if (!made->Spawn(program, file.Get(), theirs.Get(), tiles.Get())) return nullptr;
+  if (ours.Get() < 0 || theirs.Get() < 0 || tiles.Get() < 0) return nullptr;
+  std::unique_ptr<WorkerProcess> made = With(ours.Release(), tiles.Get());
+  if (made == nullptr || !made->Spawn(program, theirs.Get(), tiles.Get())) return nullptr;
   return made;
 }
 
-bool WorkerProcess::Spawn(const QByteArray& program, int plan, int socket, int tiles) {
+std::unique_ptr<WorkerProcess> WorkerProcess::At(int socket) {
+  const Handle tiles(NewTiles());
+  return With(socket, tiles.Get());
+}
+
+std::unique_ptr<WorkerProcess> WorkerProcess::With(int socket, int tiles) {
+  std::unique_ptr<WorkerProcess> made(new WorkerProcess);
+  made->socket_ = socket;
+  void* memory = ::mmap(nullptr, kTileBytes, PROT_READ, MAP_SHARED, tiles, 0);
+  if (memory == MAP_FAILED) return nullptr;
+  made->tiles_ = memory;
+  // A worker that reads nothing any more holds nobody for good.
+  const timeval patience{kSendPatience, 0};
+  ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
+  return made;
+}
+
+bool WorkerProcess::Hand(const FileReader& plan, qint64 size) {
+  const Handle file(HandleOf(plan, size));
+  return file.Get() >= 0 && SendFile(socket_, file.Get());
+}
+
+bool WorkerProcess::Spawn(const QByteArray& program, int socket, int tiles) {
   posix_spawn_file_actions_t actions;
   if (::posix_spawn_file_actions_init(&actions) != 0) return false;
   for (const int number : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
     ::posix_spawn_file_actions_addopen(&actions, number, "/dev/null", O_RDWR, 0);
   }
   ::posix_spawn_file_actions_adddup2(&actions, socket, kWorkerSocket);
-  ::posix_spawn_file_actions_adddup2(&actions, plan, kWorkerFile);
   ::posix_spawn_file_actions_adddup2(&actions, tiles, kWorkerTiles);
   char name[] = "tamo-engine";
   char* arguments[] = {name, nullptr};

@@ -10,13 +10,16 @@
 
 namespace tamo {
 
-// A process that reads one plan (src/engine/main.cpp). It gets the plan, opened for reading, one
-// end of a socket and the memory for tiles, and nothing else of this program.
+// A process that reads one plan (src/engine/main.cpp). It gets one end of a socket, the memory for
+// tiles and, through the socket, the plan, opened for reading; nothing else of this program.
 class WorkerProcess {
  public:
-  // Null when it can't be started.
-  static std::unique_ptr<WorkerProcess> Start(const QByteArray& program, const FileReader& plan,
-                                              qint64 size);
+  // One without a plan. Null when it can't be started.
+  static std::unique_ptr<WorkerProcess> Start(const QByteArray& program);
+  // One that was begun by somebody else, who holds the other end of `socket`; the socket is taken.
+  static std::unique_ptr<WorkerProcess> At(int socket);
+  // Once. False when the plan can't be read, or the process is gone.
+  bool Hand(const FileReader& plan, qint64 size);
   ~WorkerProcess();  // kills it and waits for its end
   WorkerProcess(const WorkerProcess&) = delete;
   WorkerProcess& operator=(const WorkerProcess&) = delete;
@@ -29,7 +32,8 @@ class WorkerProcess {
 
  private:
   WorkerProcess() = default;
-  bool Spawn(const QByteArray& program, int plan, int socket, int tiles);
+  static std::unique_ptr<WorkerProcess> With(int socket, int tiles);
+  bool Spawn(const QByteArray& program, int socket, int tiles);
   int socket_ = -1;
   std::mutex ending_;
   pid_t id_ = -1;

@@ -46,7 +46,7 @@ WorkThread::~WorkThread() {
   state_->stop = true;
   state_->wake.notify_all();
   const bool ended =
-      state_->ended.wait_for(lock, std::chrono::milliseconds(20), [this] { return state_->done; });
+      state_->ended.wait_for(lock, std::chrono::milliseconds(4), [this] { return state_->done; });
   lock.unlock();
   if (ended) {
     thread_.join();

@@ -54,6 +54,11 @@ class Program {
   std::function<void()> onLook;  // another one was chosen
   // Shows the plan `path` in the plan window, as one that is typed there.
   void OpenPlan(const QString& path);
+  // From now on the home page follows what is stored, by a thread of its own; until then it is
+  // brought up to date only when it is asked to be.
+  void BeginHomePage();
+  void RefreshHomePage();
+  bool HomePageIsUpToDate();
   // For the strip at the foot of every window: what is not saved or can't be read, or else what a
   // sync program left; "" when all is well.
   QString Notice() const;

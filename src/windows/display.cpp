@@ -189,11 +189,22 @@ bool IsTakingBack(const Key& key) {
   return key.Is(Key::Name::TakeBack) || key.Is(Key::Name::BringBack);
 }
 
+// Ctrl+Z; Ctrl+Y, or Ctrl+Shift+Z.
+std::optional<Key> TakingBackKey(const QKeyEvent& event) {
+  const bool z = event.key() == Qt::Key_Z;
+  if (!z && event.key() != Qt::Key_Y) return std::nullopt;
+  const bool shift = (event.modifiers() & Qt::ShiftModifier) != 0;
+  return Key::Named(z && !shift ? Key::Name::TakeBack : Key::Name::BringBack);
+}
+
 }  // namespace
 
 std::optional<Key> KeyOf(const QKeyEvent& event) {
   const Qt::KeyboardModifiers held =
       event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  if (held == Qt::ControlModifier) {
+    if (const auto key = TakingBackKey(event)) return key;
+  }
   switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -221,13 +232,6 @@ std::optional<Key> KeyOf(const QKeyEvent& event) {
       return Key::Named(Key::Name::Left);
     case Qt::Key_Right:
       return Key::Named(Key::Name::Right);
-    case Qt::Key_Z:
-      if (held != Qt::ControlModifier) break;
-      return Key::Named((event.modifiers() & Qt::ShiftModifier) != 0 ? Key::Name::BringBack
-                                                                     : Key::Name::TakeBack);
-    case Qt::Key_Y:
-      if (held != Qt::ControlModifier) break;
-      return Key::Named(Key::Name::BringBack);
     default:
       break;
   }

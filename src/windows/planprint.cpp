@@ -1,3 +1,4 @@
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -28,7 +29,8 @@ void PlanCanvas::Print() {
     part.pixelsPerPoint = std::min(scale, 5000.0 / std::max(size.width, size.height));
     part.width = static_cast<int>(size.width * part.pixelsPerPoint);
     part.height = static_cast<int>(size.height * part.pixelsPerPoint);
-    if (const auto picture = pictures_->PrintPicture(part))
+    const auto paint = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
+    if (const auto picture = pictures_->PrintPicture(part, paint))
       painter.drawImage(QRectF(0, 0, size.width * scale, size.height * scale), ImageOf(*picture));
   }
   painter.scale(scale, scale);

@@ -1,5 +1,6 @@
 #include "windows/windowkeeper.h"
 
+#include <QGuiApplication>
 #include <QWindow>
 #include <map>
 
@@ -11,6 +12,7 @@
 #include "windows/builder.h"
 #include "windows/formlayouts.h"
 #include "windows/reportprogress.h"
+#include "windows/sidebyside.h"
 #include "windows/suggestionview.h"
 #include "windows/windowactivation.h"
 #include "windows/windowkeys.h"
@@ -23,6 +25,7 @@ struct WindowKeeper::Parts {
   Program& program;
   PlanPictures* pictures;
   WindowPlaces places;
+  SideBySide side;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows{};
   std::unique_ptr<Display> display = std::make_unique<Display>(program.GetDesk());
   ReportProgress progress{QStringLiteral("The report is being made."), 50};
@@ -37,8 +40,10 @@ struct WindowKeeper::Parts {
 };
 
 WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QString& placesFile)
-    : parts_(
-          new Parts{.program = program, .pictures = pictures, .places = WindowPlaces(placesFile)}) {
+    : parts_(new Parts{.program = program,
+                       .pictures = pictures,
+                       .places = WindowPlaces(placesFile),
+                       .side = SideBySide(placesFile)}) {
   InstallAccessibility();
   Display& display = *parts_->display;
   display.windowOf = [this](Form& form) -> QWidget* { return parts_->Existing(&form); };
@@ -209,9 +214,32 @@ bool WindowKeeper::ShowWindow(FormWindow& window) {
   // An owner that was never shown has no window to stand over.
   SetOwner(window, parts_->Existing(form.OwnerForm()));
   parts_->places.Place(form.Name(), window);
+  PlaceBesidePlan(window);
   window.setAttribute(Qt::WA_ShowWithoutActivating, &form != parts_->program.GetDesk().Active());
   window.show();
   return true;
+}
+
+namespace {
+
+bool IsTakeoff(const Form& form) {
+  return form.Name() == QLatin1String("RFSForm") || form.Name() == QLatin1String("EstimateForm");
+}
+
+}  // namespace
+
+// Plan and takeoff don't lie over each other. Where nobody looks the screen is a name only.
+void WindowKeeper::PlaceBesidePlan(FormWindow& shown) {
+  if (QGuiApplication::platformName() == QLatin1String("offscreen")) return;
+  const Desk& desk = parts_->program.GetDesk();
+  FormWindow* plan = parts_->Existing(desk.Find(QStringLiteral("OST")));
+  if (plan == nullptr || plan->isMinimized()) return;
+  for (const char* name : {"RFSForm", "EstimateForm"}) {
+    FormWindow* takeoff = parts_->Existing(desk.Find(QLatin1String(name)));
+    if (takeoff == nullptr || (&shown != plan && &shown != takeoff)) continue;
+    const bool both = &shown == plan ? takeoff->isVisible() : plan->isVisible();
+    if (both) parts_->side.Arrange(QLatin1String(name), *takeoff, *plan);
+  }
 }
 
 // Those of forms that are hidden; with `all` the others, too.
@@ -219,6 +247,7 @@ void WindowKeeper::HideWindows(bool all) {
   for (const auto& [form, window] : parts_->windows) {
     if (!window->isVisible() || (form->Visible() && !all)) continue;
     parts_->places.Keep(form->Name(), *window);
+    if (IsTakeoff(*form)) parts_->side.Leave(form->Name(), *window);
     window->hide();
   }
 }

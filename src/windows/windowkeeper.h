@@ -51,6 +51,7 @@ class WindowKeeper : public QObject {
   std::unique_ptr<FormWindow> MakeWindow(Form& form);
   void SyncWindows();
   bool ShowWindow(FormWindow& window);
+  void PlaceBesidePlan(FormWindow& shown);
   void HideWindows(bool all);
   void RaiseOwned(const Form& owner);
   void ShowPopups();

@@ -235,7 +235,7 @@ TEST_F(BadPlans, PageNIsOneSheetForEveryone) {
       part.page = page;
       part.width = 20;
       part.height = 20;
-      EXPECT_NE(draw->PrintPicture(part), nullptr) << tree.kids << " page " << page;
+      EXPECT_NE(draw->PrintPicture(part, {}), nullptr) << tree.kids << " page " << page;
     }
   }
 }

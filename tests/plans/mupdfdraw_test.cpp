@@ -426,7 +426,7 @@ TEST_F(RealPlan, ThumbnailsAndPrintPicturesAreMade) {
   part.top = 1000;
   part.width = 1224;
   part.height = 584;
-  const auto picture = draw->PrintPicture(part);
+  const auto picture = draw->PrintPicture(part, {});
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->width, 1224);
   EXPECT_NE(picture->pixels[size_t(384) * 1224 + 400], 0xffffffffU);  // the line at 100 from below

@@ -58,7 +58,7 @@ struct OddPlans : PlanFixture {
   std::shared_ptr<const Picture> Paint(PlanView view) {
     draw->Look(view);
     EXPECT_TRUE(draw->WaitUntilSharp(60000));
-    return draw->PrintPicture(view);
+    return draw->PrintPicture(view, {});
   }
   static unsigned At(const Picture& picture, int x, int y) {
     return picture.pixels[size_t(y) * size_t(picture.width) + size_t(x)] & 0xffffff;

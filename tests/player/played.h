@@ -31,6 +31,8 @@ class Played {
   virtual void TakeSuggestion(int /*row*/) {}
   virtual void Tick() = 0;  // as time goes by, between two events
   virtual bool Running() = 0;
+  // The figures of the home page are read now: somebody looks at them.
+  virtual void RefreshHomePage() {}
   // What is chosen in the next dialog for a file.
   virtual void ChooseNext(const QString& path) { (void)path; }
   // What the chart says that was last drawn.

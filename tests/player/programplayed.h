@@ -35,6 +35,7 @@ class ProgramPlayed : public Played {
   void TakeSuggestion(int row) override;
   void Tick() override;
   bool Running() override;
+  void RefreshHomePage() override { program_->RefreshHomePage(); }
   Form* Shell() override;
   void ChooseNext(const QString& path) override { choices_ += path; }
   QStringList Chart() const override { return chart_; }

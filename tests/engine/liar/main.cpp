@@ -51,6 +51,7 @@ QByteArray AnswerTo(const WireMessage& message, std::minstd_rand& random) {
 int main() {
   std::minstd_rand random(static_cast<unsigned>(getpid()));
   WireMessage message;
+  if (ReceiveFile(kWorkerSocket) < 0) return 1;
   while (ReceiveMessage(kWorkerSocket, message)) {
     if (random() % 30 == 0) return 0;
     WireMessage said{WireKind::Answer, message.call, AnswerTo(message, random)};

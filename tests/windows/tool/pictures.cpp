@@ -105,6 +105,10 @@ void Workspace(Pictures& p) {
   p.Take("Settings", "form");
   p.FormOf("Settings").Hide();
   p.Pick("Tamo", "JobsList", 0);
+  p.program.RefreshHomePage();
+  p.Take("Tamo", "home");
+  p.Wait(800);
+  p.Take("Tamo", "home");
   p.Menu("Tamo", "LockProject");
   p.Menu("Tamo", "ProjectInformation");
   p.Take("Tamo", "panel");
