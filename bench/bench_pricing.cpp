@@ -12,21 +12,14 @@
 #include "common/kit.h"
 #include "common/paths.h"
 #include "pricing/pricingform.h"
+#include "pricing/unitprice.h"
+#include "silentplatform.h"
 
 namespace {
 
 using namespace tamo;
 
-struct Quiet : Messages, Printer, Clipboard, ReportRefresh, SettingsReader, ProjectNumberSeed {
-  void Tell(const QString&) override {}
-  bool Ask(const QString&) override { return false; }
-  void SetFont(const QString&, int) override {}
-  void PrintLine(const QString&) override {}
-  void EndPage() override {}
-  bool BeginPrint(const QString&) override { return false; }
-  void EndPrint() override {}
-  void Clear() override {}
-  void SetText(const QString&) override {}
+struct Quiet : bench::SilentPlatform, ReportRefresh, SettingsReader, ProjectNumberSeed {
   void PrintReport() override {}
   void DisableProjectFileEntry() override {}
   void LoadSettings() override {}
@@ -138,10 +131,8 @@ void LoadSystem(benchmark::State& state) {
 BENCHMARK(LoadSystem)->Arg(10)->Arg(10000)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
 void EstimatedUnitPrice(benchmark::State& state) {
-  Room room;
-  room.Library(1, Materials(200));
-  room.Open(QStringLiteral("System 0"));
-  for (auto _ : state) room.form.MakeEUP();
+  const QStringList system = Materials(200);
+  for (auto _ : state) benchmark::DoNotOptimize(EstimateUnitPrice(system, {}));
 }
 BENCHMARK(EstimatedUnitPrice)->UseRealTime()->Unit(benchmark::kMicrosecond);
 

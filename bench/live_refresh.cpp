@@ -2,48 +2,31 @@
 // the Recap Sheet anew, on 1,000 rooms and 20,000 lines, beside the bare save of the same room.
 // Both take turns, so that they meet the same device in the same mood. Arguments: the program
 // folder and how many Enters.
-#include <QTemporaryDir>
 #include <QThread>
-#include <cstdio>
-#include <cstdlib>
 #include <vector>
 
-#include "largebid.h"
-#include "startedprogram.h"
+#include "playprogram.h"
 #include "takeoffplay.h"
 #include "timesof.h"
 
 using namespace tamo;
 
 int main(int argc, char** argv) {
-  KeepMemory();
-  QApplication application(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  ApplyLook(Look::Of(QApplication::palette()));
-  if (argc < 2) {
-    std::fprintf(stderr, "live_refresh PROGRAM_FOLDER [ENTERS]\n");
-    return 2;
-  }
-  const int count = argc > 2 ? std::atoi(argv[2]) : 500;
-  QTemporaryDir home;
-  bench::WriteDataFolder(std::filesystem::path(home.path().toStdString()) / "Tamo", 1000, 5);
-  bench::StartedProgram started(QString::fromLocal8Bit(argv[1]), home.path());
-  QThread::sleep(4);  // the files of a real bid were not written just now
-  bench::TakeoffPlay play(started.GetProgram());
-  play.Begin();
-  std::vector<double> enters;
-  std::vector<double> works;
-  std::vector<double> saves;
-  for (int i = 0; i < count; ++i) {
-    enters.push_back(play.Enter());
-    works.push_back(play.work);
-    QCoreApplication::processEvents();
-    saves.push_back(play.BareSave());
-  }
-  bench::Tell("Enter", enters);
-  bench::Tell("its work", works);
-  bench::Tell("bare save", saves);
-  std::fflush(stdout);
-  home.remove();
-  _Exit(0);
+  return bench::PlayProgram(argc, argv, {1000, 5}, 500, [](Program& program, int count) {
+    QThread::sleep(4);  // the files of a real bid were not written just now
+    bench::TakeoffPlay play(program);
+    play.Begin();
+    std::vector<double> enters;
+    std::vector<double> works;
+    std::vector<double> saves;
+    for (int i = 0; i < count; ++i) {
+      enters.push_back(play.Enter());
+      works.push_back(play.work);
+      QCoreApplication::processEvents();
+      saves.push_back(play.BareSave());
+    }
+    bench::Tell("Enter", enters);
+    bench::Tell("its work", works);
+    bench::Tell("bare save", saves);
+  });
 }

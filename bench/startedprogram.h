@@ -9,6 +9,7 @@
 #include "plans/pdfdraw.h"
 #include "plans/workerengine.h"
 #include "program/program.h"
+#include "silentplatform.h"
 #include "windows/look.h"
 #include "windows/qtservices.h"
 #include "windows/windowkeeper.h"
@@ -25,21 +26,13 @@ class SpokenMessages : public Messages {
   }
 };
 
-class NoPrinter : public Printer {
- public:
-  void SetFont(const QString&, int) override {}
-  void PrintLine(const QString&) override {}
-  void EndPage() override {}
-  bool BeginPrint(const QString&) override { return false; }
-  void EndPrint() override {}
-};
-
 // The program with its windows, as it starts at a desk, on the home folder `home`.
 class StartedProgram {
  public:
   StartedProgram(const QString& programFolder, const QString& home)
-      : platform_{disk_,      clock_,        messages_, printer_,
-                  clipboard_, programFolder, home,      home + QStringLiteral("/config")},
+      : platform_{disk_,        clock_,        messages_, silent_,
+                  clipboard_,   programFolder, home,      home + QStringLiteral("/config"),
+                  &historyDisk_},
         files_(disk_),
         viewer_(files_, engine_),
         program_(platform_, viewer_),
@@ -52,9 +45,10 @@ class StartedProgram {
 
  private:
   RealDisk disk_;
+  RealDisk historyDisk_;
   SystemClock clock_;
   SpokenMessages messages_;
-  NoPrinter printer_;
+  SilentPlatform silent_;
   DeskClipboard clipboard_;
   Platform platform_;
   Files files_;

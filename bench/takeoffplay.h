@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 
+#include "playprogram.h"
 #include "program/program.h"
 #include "records/datafolder.h"
 #include "takeoff/rfsform.h"
@@ -16,12 +16,14 @@ class TakeoffPlay {
   explicit TakeoffPlay(Program& program)
       : program_(program), rooms_(*dynamic_cast<RFSForm*>(Find("RFSForm"))) {}
 
-  void Begin() {
+  void Begin(bool report = true) {
     Choose("OpenProject");
     auto* jobs = dynamic_cast<OrderedList*>(Find("Tamo")->Find(QStringLiteral("JobsList")));
     program_.GetDesk().ClickRow(*jobs, 0);
-    program_.Shared().AutoCheck = 1;
-    Choose("RecapSheet");
+    if (report) {
+      program_.Shared().AutoCheck = 1;
+      Choose("RecapSheet");
+    }
     program_.GetDesk().Dispatch([this] { rooms_.TakeOffRoomFinishSchedule(nullptr); });
     QCoreApplication::processEvents();
   }
@@ -37,11 +39,10 @@ class TakeoffPlay {
   double Enter() {
     rooms_.Length.SetText(QStringLiteral("1.5"));
     const double before = WorkOfThread();
-    QElapsedTimer clock;
-    clock.start();
-    program_.GetDesk().PressKey(rooms_.Length, Key::Named(Key::Name::Enter));
+    const double took =
+        Timed([this] { program_.GetDesk().PressKey(rooms_.Length, Key::Named(Key::Name::Enter)); });
     work = WorkOfThread() - before;
-    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    return took;
   }
 
   // Another room, saved as an Enter saves it.
@@ -49,10 +50,7 @@ class TakeoffPlay {
     const QString path = ProjectFolder(program_.Shared()).RoomFile(QStringLiteral("Room 1"));
     QString text;
     program_.GetFiles().ReadText(path, text);
-    QElapsedTimer clock;
-    clock.start();
-    program_.GetFiles().SaveText(path, text);
-    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+    return Timed([&] { program_.GetFiles().SaveText(path, text); });
   }
 
  private:

@@ -3,29 +3,19 @@
 #include "common/desk.h"
 #include "common/files.h"
 #include "common/kit.h"
+#include "silentplatform.h"
 #include "takeoff/rfsform.h"
 
 namespace tamo::bench {
 
 // Whoever the takeoff forms ask for something: it does nothing and takes no time.
-class Nobody : public Messages,
-               public Printer,
-               public Clipboard,
+class Nobody : public SilentPlatform,
                public PlanTools,
                public MissingSystemPricing,
                public TakeoffReportRefresh,
                public TakeoffExits,
                public MeasuredMarks {
  public:
-  void Tell(const QString&) override {}
-  bool Ask(const QString&) override { return false; }
-  void SetFont(const QString&, int) override {}
-  void PrintLine(const QString&) override {}
-  void EndPage() override {}
-  bool BeginPrint(const QString&) override { return false; }
-  void EndPrint() override {}
-  void Clear() override {}
-  void SetText(const QString&) override {}
   void SetToolMode(int) override {}
   void SetPenColour(const QString&) override {}
   void ResetMeasure() override {}

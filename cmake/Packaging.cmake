@@ -3,6 +3,8 @@
 include(GNUInstallDirs)
 set(program_folder lib/tamo)
 install(TARGETS tamo tamo-engine RUNTIME DESTINATION ${program_folder})
+# A folder deeper than the loader of libraries looks.
+install(TARGETS tamo_charts LIBRARY DESTINATION ${program_folder}/modules)
 install(FILES ${PROJECT_SOURCE_DIR}/data/Blank.pdf ${PROJECT_SOURCE_DIR}/data/About.pdf DESTINATION ${program_folder})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/Docs ${PROJECT_SOURCE_DIR}/data/Sample DESTINATION ${program_folder})
 install(FILES ${PROJECT_SOURCE_DIR}/data/desktop/tamo.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
@@ -48,6 +50,7 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core")
+# The library for workbooks is loaded when one is written; nothing else names it.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, libxlsxwriter4")
 set(CPACK_STRIP_FILES ON)
 include(CPack)

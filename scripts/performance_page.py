@@ -40,10 +40,24 @@ RATIOS = [
     ("The text of a number", "BM_NumberText", "BM_PlainText", "the standard library", 1.0),
     ("A whole number below", "BM_Truncated", "BM_Floor", "the standard library", 1.0),
     ("A durable save", "DurableSave/real_time", "RawSave/real_time", "the bare system calls", 1.25),
+    ("A save with its former state in the journal", "SaveWithJournal/real_time", "SaveWithoutJournal/real_time",
+     "a save without", 1.1),
     ("Enter in WageRate, 200 materials", "EnterInWageRate/real_time", "TwoDurableSaves/real_time", "its two saves", 1.25),
     ("A system of a library of 10,000", "LoadSystem/10000/real_time", "LoadSystem/10/real_time", "of one of 10", 1.25),
     ("A sharp view of a plan", "SharpView/real_time", "SharpViewMutool/real_time", "`mutool draw`", 1.0),
+    ("One mark saved, on the 60 MB set", "SaveOneMark/set/iterations:200/real_time",
+     "SaveOneMark/sheet/iterations:200/real_time", "on one sheet", 1.5),
     ("The thumbnails of 300 sheets", "Thumbnails/real_time", "ThumbnailsMutool/real_time", "`mutool draw`", 1.0),
+]
+
+
+# Times that somebody waits: (text, benchmark, counter of it or None, milliseconds that are the limit, what those are).
+TIMES = [
+    ("The coarse picture of a plan of 60 MB", "OpenToCoarse/set/real_time", None, 100, "a blink"),
+    ("The longest hold while a plan is moved", "PanAndZoom/iterations:2000/real_time", "longest_ms", 16, "a frame"),
+    ("Enter in Length, a room of 300 lines, 99 of 100", "EnterBesideItsSave/real_time", "enter_p99_ms", 16, "a frame"),
+    ("A room schedule opened on 1,000 rooms", "OpenOnAThousandRooms/real_time", None, 100, "a blink"),
+    ("What changed, 1,000 rooms of which 200 changed", "CompareLargeBids/real_time", None, None, None),
 ]
 
 
@@ -61,8 +75,22 @@ def medians(folder):
             if run.get("run_type") == "iteration" and not run.get("error_occurred"):
                 runs.setdefault(run["run_name"], []).append(run)
     times = {name: statistics.median(r["real_time"] * MILLI[r["time_unit"]] for r in all_) for name, all_ in runs.items()}
-    counters = {name: all_ for name, all_ in runs.items()}
-    return times, counters, release
+    return times, runs, release
+
+
+def waits(times, runs):
+    lines = []
+    for what, name, counter, limit, peer in TIMES:
+        if name not in times:
+            continue
+        took = times[name] if counter is None else statistics.median(run[counter] for run in runs[name])
+        lines.append(row(what, shown(took), peer or "", f"{limit} ms" if limit else "", took / limit if limit else None,
+                         1 if limit else None))
+    found = statistics.median(run["times_the_save"] for run in runs["EnterBesideItsSave/real_time"]) \
+        if "EnterBesideItsSave/real_time" in runs else None
+    if found is not None:
+        lines.append(row("Enter in Length, median", "", "its durable save", "", found, 1.25))
+    return lines
 
 
 def text_of(folder, name):
@@ -129,6 +157,16 @@ def refresh(folder):
     return lines
 
 
+def bottom_line(folder):
+    found = dict((what, float(half)) for what, half in re.findall(
+        r"^(\w[\w ]*\w) +median +([\d.]+) ms", text_of(folder, "items.txt"), re.M))
+    if "bare save" not in found:
+        return []
+    return [row(f"Enter in the {what} of a bottom line item, 200 items", f"{found[what]:.1f} ms", "the save of the names",
+                f"{found['bare save']:.1f} ms", found[what] / found["bare save"], None)
+            for what in ("name", "price") if what in found]
+
+
 def start(folder):
     lines = []
     found = re.search(r"empty window (\d+) us, with one word (\d+) us", text_of(folder, "start.txt"))
@@ -136,7 +174,7 @@ def start(folder):
         empty, word = int(found.group(1)) / 1e3, int(found.group(2)) / 1e3
         lines.append(row("From the start to the first frame: a window with one word, for which fonts are sought", shown(word),
                          "an empty Qt window", shown(empty), word / empty, None))
-    for words, limit in (("Tamo", 1.5), ("Tamo with a project", 1.5)):
+    for words, limit in (("Tamo", 1.5), ("Tamo with a project", 1.5), ("Tamo with a project that is open elsewhere", 1.5)):
         found = re.search(rf"empty window (\d+) us, {words} (\d+) us", text_of(folder, "start.txt"))
         if found:
             empty, tamo = int(found.group(1)) / 1e3, int(found.group(2)) / 1e3
@@ -147,7 +185,7 @@ def start(folder):
 
 def main():
     folder = sys.argv[1]
-    times, _, release = medians(folder)
+    times, runs, release = medians(folder)
     print("# Performance\n")
     print("Written by `scripts/benchmark.sh`; every figure stands beside its peer of the same run, so that the ratio says more than")
     print("the time. Medians, unless the line says something else.\n")
@@ -158,7 +196,7 @@ def main():
     print(f"- The library that measures: {library}\n")
     print("| What | Takes | Beside | Takes | Ratio | Limit | Held |")
     print("| --- | --- | --- | --- | --- | --- | --- |")
-    for line in start(folder) + holds(folder) + refresh(folder):
+    for line in start(folder) + holds(folder) + refresh(folder) + waits(times, runs) + bottom_line(folder):
         print(line)
     missing = []
     for what, name, peer, words, limit in RATIOS:

@@ -4,6 +4,8 @@
 #include <QSessionManager>
 #include <QStandardPaths>
 #include <QTimer>
+#include <functional>
+#include <memory>
 
 #include "command/commandmain.h"
 #include "common/memory.h"
@@ -14,9 +16,9 @@
 #include "schedule/sheetpictures.h"
 #include "schedule/tesseract.h"
 #include "windows/chartwindow.h"
+#include "windows/chosenlook.h"
 #include "windows/endsignals.h"
 #include "windows/filedialog.h"
-#include "windows/look.h"
 #include "windows/qtservices.h"
 #include "windows/reportprinter.h"
 #include "windows/windowkeeper.h"
@@ -83,12 +85,16 @@ void LookAbout(QTimer& ticks, tamo::Program& program) {
 }
 
 // Reports are saved by way of the system's dialog for files, and charts get windows of their own.
-void JoinFilesAndCharts(tamo::Program& program, tamo::FileDialog& files, tamo::Disk& disk) {
-  const tamo::FileChooser choose = [&files](const tamo::FileQuestion& question) {
-    return files.Choose(question);
+void JoinFilesAndCharts(tamo::Program& program, const tamo::Platform& platform,
+                        const std::function<void()>& beforeDialog) {
+  const auto files = std::make_shared<tamo::FileDialog>(
+      platform.configFolder + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
+  files->beforeDialog = beforeDialog;
+  const tamo::FileChooser choose = [files](const tamo::FileQuestion& question) {
+    return files->Choose(question);
   };
   program.ChooseFilesWith(choose);
-  program.DrawChartsWith([&disk, choose](const tamo::ChartData& chart) {
+  program.DrawChartsWith([&disk = platform.disk, choose](const tamo::ChartData& chart) {
     (new tamo::ChartWindow(chart, disk, choose, QApplication::activeWindow()))->show();
   });
 }
@@ -102,7 +108,6 @@ int main(int argc, char** argv) {
   QGuiApplication::setDesktopFileName(QStringLiteral("tamo"));
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
-  tamo::ApplyLook(tamo::Look::Of(QApplication::palette()));
 
   tamo::RealDisk disk;
   tamo::RealDisk historyDisk;
@@ -124,13 +129,12 @@ int main(int argc, char** argv) {
   const tamo::Tesseract recogniser;
   tamo::Program program(platform, viewer);
   program.ReadPictures(std::make_shared<const tamo::SheetPictures>(recogniser));
+  tamo::ChosenLook look(program);
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
   printer.company = [&program] { return program.CompanyName(); };
-  tamo::FileDialog files(config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
-  files.beforeDialog = [&windows] { windows.SyncNow(); };
-  JoinFilesAndCharts(program, files, disk);
   messages.beforeBox = [&windows] { windows.SyncNow(); };
+  JoinFilesAndCharts(program, platform, messages.beforeBox);
   program.onEnded = [] { QTimer::singleShot(0, [] { QApplication::quit(); }); };
   SaveBeforeTheSystemEnds(application, program);
   const tamo::EndSignals signals([&program] {
@@ -141,8 +145,10 @@ int main(int argc, char** argv) {
   QTimer keeping;
   KeepWhatIsTyped(keeping, program);
   program.Start();
+  program.BeginHomePage();
   OpenNamedPlan(QApplication::arguments(), program);
   QTimer ticks;
   LookAbout(ticks, program);
+  QTimer::singleShot(0, &look, [&look] { look.FollowDesktop(); });
   return QApplication::exec();
 }

@@ -83,7 +83,11 @@ bool CommandData::Holds(const QString& path) const {
 }
 
 ReportSource CommandData::Source(Uncounted& uncounted, TableSink* table) {
-  return {files_, shared_, {}, wholeQuantities_, &uncounted, table};
+  ReportSource source{files_, shared_, {}};
+  source.wholeQuantities = wholeQuantities_;
+  source.uncounted = &uncounted;
+  source.table = table;
+  return source;
 }
 
 ReportFacts CommandData::Facts(Uncounted& uncounted) {

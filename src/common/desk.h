@@ -62,10 +62,15 @@ class Desk {
   // widget that edits its text itself. True when the key was dropped or has been dealt with.
   bool HandleKey(Control& control, Key key);
   void EditedByUser(TextField& field, const QString& text, int caret);
+  // What lies over a field has its keys before the form's handlers see them. True when the key has
+  // been dealt with.
+  bool TakenFirst(Control& control, const Key& key);
   // Tab and Shift+Tab from the focused control.
   void MoveFocus(bool forward);
 
   bool InEvent() const { return depth_ > 0; }
+  std::function<bool(Control&, const Key&)> onKeyFirst;  // for TakenFirst
+  std::function<void(TextField&)> onEdited;              // the user changed its text
   std::function<void()> onRest;  // after each outermost event, for the program; it may raise more
   std::function<void()> onSettled;  // then, for whoever shows the forms
 
@@ -78,6 +83,7 @@ class Desk {
   void LoseFocus();
   void MoveTo(Control& control, bool runRoutine);
   void Refocus(Form& form);
+  void MoveCaretToEnd(Control& control);
 
   Messages& messages_;
   std::vector<Form*> forms_;

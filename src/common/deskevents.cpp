@@ -95,10 +95,14 @@ void Desk::PressKey(Control& control, Key key) {
     MoveFocus(key.Is(Key::Name::Tab));
     return;
   }
+  if (TakenFirst(control, key)) return;
+  if (key.Is(Key::Name::End)) return MoveCaretToEnd(control);
   if (HandleKey(control, key)) return;
   Dispatch([&] {
     if (auto* field = dynamic_cast<TextField*>(&control)) {
+      const QString before = field->Text();
       EditWithKey(*field, key);
+      if (onEdited && field->Text() != before) onEdited(*field);
     } else if (auto* list = dynamic_cast<OrderedList*>(&control)) {
       auto* checks = dynamic_cast<CheckList*>(list);
       if (checks != nullptr && key.Is(Key::Name::Space) && list->Index() >= 0) {
@@ -122,12 +126,30 @@ void Desk::TypeText(Control& control, const QString& text) {
   }
 }
 
+bool Desk::TakenFirst(Control& control, const Key& key) {
+  bool taken = false;
+  if (onKeyFirst) Dispatch([&] { taken = onKeyFirst(control, key); });
+  return taken;
+}
+
+void Desk::MoveCaretToEnd(Control& control) {
+  auto* field = dynamic_cast<TextField*>(&control);
+  if (field == nullptr) return;
+  Dispatch([field] { field->Select(static_cast<int>(field->Text().size()), 0); });
+}
+
 void Desk::Paste(TextField& field, const QString& text) {
-  Dispatch([&] { field.ReplaceSelection(text); });
+  Dispatch([&] {
+    field.ReplaceSelection(text);
+    if (onEdited) onEdited(field);
+  });
 }
 
 void Desk::EditedByUser(TextField& field, const QString& text, int caret) {
-  Dispatch([&] { field.SetByUser(text, caret); });
+  Dispatch([&] {
+    field.SetByUser(text, caret);
+    if (onEdited) onEdited(field);
+  });
 }
 
 void Desk::UserFocus(Control& control) {

@@ -144,9 +144,27 @@ int RealDisk::OpenToRead(const QString& path, std::shared_ptr<FileReader>& reade
   return kNoError;
 }
 
-int RealDisk::Read(const QString& path, QByteArray& bytes) {
+namespace {
+
+qint64 Now() {
+  timespec now{};
+  ::clock_gettime(CLOCK_REALTIME, &now);
+  return Nanoseconds(now);
+}
+
+FileStamp StampOf(const struct stat& info, const QByteArray& name, qint64 seen) {
+  if (!S_ISREG(info.st_mode) || !IsLocal(info.st_dev, name)) return {};
+  return {
+      info.st_dev, info.st_ino, info.st_size, Nanoseconds(info.st_mtim), Nanoseconds(info.st_ctim),
+      seen};
+}
+
+// The whole of the file, and how it looked when it was opened.
+int ReadWhole(const QString& path, QByteArray& bytes, FileStamp* stamp) {
   bytes.clear();
-  const int handle = ::open(Native(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  const QByteArray name = Native(path);
+  const qint64 seen = stamp != nullptr ? Now() : 0;
+  const int handle = ::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (handle < 0) return NumberOf(errno, path);
   struct stat info {};
   int error = kNoError;
@@ -155,6 +173,7 @@ int RealDisk::Read(const QString& path, QByteArray& bytes) {
   } else if (info.st_size > kLargestText) {
     error = kTooLarge;
   } else {
+    if (stamp != nullptr) *stamp = StampOf(info, name, seen);
     bytes.reserve(static_cast<qsizetype>(info.st_size) + 1);
     error = ReadToEnd(handle, bytes);
     if (error == kNoError && bytes.size() < info.st_size) error = kPastEnd;
@@ -164,19 +183,22 @@ int RealDisk::Read(const QString& path, QByteArray& bytes) {
   return error;
 }
 
+}  // namespace
+
+int RealDisk::Read(const QString& path, QByteArray& bytes) {
+  return ReadWhole(path, bytes, nullptr);
+}
+
+int RealDisk::ReadStamped(const QString& path, QByteArray& bytes, FileStamp& stamp) {
+  stamp = {};
+  return ReadWhole(path, bytes, &stamp);
+}
+
 FileStamp RealDisk::Stamp(const QString& path) {
   const QByteArray name = Native(path);
   struct stat info {};
-  if (::stat(name.constData(), &info) != 0 || !S_ISREG(info.st_mode)) return {};
-  if (!IsLocal(info.st_dev, name)) return {};
-  timespec now{};
-  ::clock_gettime(CLOCK_REALTIME, &now);
-  return {info.st_dev,
-          info.st_ino,
-          info.st_size,
-          Nanoseconds(info.st_mtim),
-          Nanoseconds(info.st_ctim),
-          Nanoseconds(now)};
+  if (::stat(name.constData(), &info) != 0) return {};
+  return StampOf(info, name, Now());
 }
 
 int RealDisk::OpenNew(const QString& path, int& handle) {

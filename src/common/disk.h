@@ -52,6 +52,11 @@ class Disk {
   // From any thread. Unknown for what is no file, and on devices of other machines, whose stamps
   // can be older than the file.
   virtual FileStamp Stamp(const QString& path) = 0;
+  // Both at once: `stamp` is how the file looked before it was read. From any thread.
+  virtual int ReadStamped(const QString& path, QByteArray& bytes, FileStamp& stamp) {
+    stamp = Stamp(path);
+    return Read(path, bytes);
+  }
   // For files too large to be read whole.
   virtual int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) = 0;
 
@@ -118,6 +123,8 @@ class RealDisk : public Disk {
  public:
   int Read(const QString& path, QByteArray& bytes) override;
   FileStamp Stamp(const QString& path) override;
+  // With a look less at the file. A double that overrides Read or Stamp goes back to Disk's.
+  int ReadStamped(const QString& path, QByteArray& bytes, FileStamp& stamp) override;
   int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
   int OpenExclusive(const QString& path, int& handle) override;

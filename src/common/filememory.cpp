@@ -8,17 +8,24 @@ namespace tamo {
 bool FileMemory::Find(const QString& path, const FileStamp& stamp, QString& text) {
   if (!stamp.Known()) return false;
   const std::lock_guard lock(mutex_);
-  const auto young = young_.constFind(path);
-  if (young != young_.constEnd()) {
-    if (young->stamp != stamp) return false;
-    text = young->text;
+  const auto young = young_.find(path);
+  if (young != young_.end()) {
+    if (young->second.stamp != stamp) return false;
+    text = young->second.text;
     return true;
   }
-  const auto old = old_.constFind(path);
-  if (old == old_.constEnd() || old->stamp != stamp) return false;
-  text = old->text;
-  Add(path, old_.take(path));
+  const auto old = old_.find(path);
+  if (old == old_.end() || old->second.stamp != stamp) return false;
+  text = old->second.text;
+  Entry entry = std::move(old->second);
+  old_.erase(old);
+  Add(path, std::move(entry));
   return true;
+}
+
+bool FileMemory::Knows(const QString& path) {
+  const std::lock_guard lock(mutex_);
+  return young_.contains(path) || old_.contains(path);
 }
 
 void FileMemory::Keep(const QString& path, const FileStamp& stamp, const QString& text) {
@@ -33,8 +40,8 @@ void FileMemory::Keep(const QString& path, const FileStamp& stamp, const QString
 
 void FileMemory::Forget(const QString& path) {
   const std::lock_guard lock(mutex_);
-  young_.remove(path);
-  old_.remove(path);
+  young_.erase(path);
+  old_.erase(path);
 }
 
 void FileMemory::Add(const QString& path, Entry entry) {
@@ -43,7 +50,7 @@ void FileMemory::Add(const QString& path, Entry entry) {
     characters_ = 0;
   }
   characters_ += entry.text.size();
-  young_.emplace(path, std::move(entry));
+  young_.insert_or_assign(path, std::move(entry));
 }
 
 }  // namespace tamo

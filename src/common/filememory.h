@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QHash>
 #include <QString>
 #include <mutex>
+#include <unordered_map>
 
 #include "common/disk.h"
 
@@ -17,6 +17,8 @@ class FileMemory {
  public:
   // The text of `path` when its file still is what it was; false when it must be read.
   bool Find(const QString& path, const FileStamp& stamp, QString& text);
+  // False: it must be read, however the file looks.
+  bool Knows(const QString& path);
   // `text` was read after the file had been looked at with `stamp`.
   void Keep(const QString& path, const FileStamp& stamp, const QString& text);
   void Forget(const QString& path);
@@ -34,8 +36,9 @@ class FileMemory {
 
   std::mutex mutex_;
   // Two generations: when the younger one is full the older one is dropped.
-  QHash<QString, Entry> young_;
-  QHash<QString, Entry> old_;
+  using Entries = std::unordered_map<QString, Entry>;
+  Entries young_;
+  Entries old_;
   qsizetype characters_ = 0;  // of the younger one
 };
 

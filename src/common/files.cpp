@@ -89,10 +89,10 @@ int Files::Noted(const QString& path, int error) {
 
 // The stamp is taken before the file is read, so it is never newer than the text.
 int Files::ReadStored(const QString& path, QString& text) {
-  const FileStamp stamp = disk_.Stamp(path);
-  if (memory_.Find(path, stamp, text)) return kNoError;
+  if (memory_.Knows(path) && memory_.Find(path, disk_.Stamp(path), text)) return kNoError;
   QByteArray bytes;
-  const int error = disk_.Read(path, bytes);
+  FileStamp stamp;
+  const int error = disk_.ReadStamped(path, bytes, stamp);
   if (error != kNoError) return error;
   text = DecodedText(bytes);
   if (!IsText(text)) {

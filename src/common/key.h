@@ -20,8 +20,9 @@ struct Key {
     Down,
     Left,
     Right,
-    TakeBack,  // Ctrl+Z
-    BringBack  // Ctrl+Y
+    TakeBack,   // Ctrl+Z
+    BringBack,  // Ctrl+Y
+    End         // moves the caret only; no handler of a form sees it
   };
 
   Name name = Name::Character;

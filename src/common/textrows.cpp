@@ -47,6 +47,9 @@ TextRows::TextRows(const QStringList& rows) {
   *this += rows;
 }
 
+TextRows::TextRows(std::shared_ptr<const RowMaker> maker)
+    : size_(maker->Count()), longest_(maker->Longest()), maker_(std::move(maker)) {}
+
 TextRows::~TextRows() {
   // Small blocks are kept for the next report, only those of their own go back to the system.
   if (blocks_.size() <= kDoublings) return;
@@ -75,9 +78,11 @@ void TextRows::Swap(TextRows& other) noexcept {
   std::swap(rowEnd_, other.rowEnd_);
   std::swap(size_, other.size_);
   std::swap(longest_, other.longest_);
+  std::swap(maker_, other.maker_);
 }
 
 size_t TextRows::Bytes() const {
+  if (maker_ != nullptr) return maker_->Bytes();
   return filled_ + static_cast<size_t>(blockNext_ - blockBegin_) +
          static_cast<size_t>(size_) * sizeof(Row);
 }
@@ -145,6 +150,7 @@ TextRows::Row TextRows::Written(std::initializer_list<QStringView> parts) {
 }
 
 QString TextRows::operator[](qsizetype at) const {
+  if (maker_ != nullptr) return maker_->Row(at);
   const Text row = Read(at);
   if (!row.wide) return QString::fromLatin1(row.text, row.size);
   QString text(row.size, Qt::Uninitialized);

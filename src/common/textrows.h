@@ -10,6 +10,18 @@
 
 namespace tamo {
 
+// Rows of which only the figures are kept: the text of a row is made when it is read. What is read
+// never changes. From one thread at a time.
+class RowMaker {
+ public:
+  virtual ~RowMaker() = default;
+  virtual qsizetype Count() const = 0;
+  virtual QString Row(qsizetype at) const = 0;
+  virtual qsizetype SizeOf(qsizetype at) const = 0;
+  virtual int Longest() const = 0;  // characters of the longest row
+  virtual size_t Bytes() const = 0;
+};
+
 // Rows of text in a few large pieces of memory, one byte a character where that holds the row and
 // eight bytes a row beside it: a report of millions of lines is made, kept and given back without a
 // piece of memory for each of them. Rows are only added or replaced as a whole.
@@ -18,6 +30,8 @@ class TextRows {
   TextRows() = default;
   TextRows(std::initializer_list<QString> rows);
   TextRows(const QStringList& rows);
+  // All rows of `maker`; none can be added to them or replaced.
+  explicit TextRows(std::shared_ptr<const RowMaker> maker);
   ~TextRows();  // a large report is given back on a thread of its own
   TextRows(TextRows&& other) noexcept;
   TextRows& operator=(TextRows&& other) noexcept;
@@ -27,7 +41,9 @@ class TextRows {
   qsizetype size() const { return size_; }
   bool isEmpty() const { return size_ == 0; }
   QString operator[](qsizetype at) const;
-  qsizetype SizeOf(qsizetype at) const { return Read(at).size; }
+  qsizetype SizeOf(qsizetype at) const {
+    return maker_ != nullptr ? maker_->SizeOf(at) : Read(at).size;
+  }
   int Longest() const { return longest_; }  // characters of the longest row
   size_t Bytes() const;                     // of memory, as far as it is in use
 
@@ -110,6 +126,7 @@ class TextRows {
   Row* rowEnd_ = nullptr;
   qsizetype size_ = 0;
   int longest_ = 0;
+  std::shared_ptr<const RowMaker> maker_;  // makes the rows when it is there
 };
 
 // The rows of a list: texts that can be changed one by one, or a whole report.

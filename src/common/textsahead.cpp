@@ -8,6 +8,12 @@
 #include "common/failure.h"
 
 namespace tamo {
+namespace {
+
+constexpr size_t kBetweenCalls = 32;  // files asked for, between two calls to the other thread
+
+}  // namespace
+
 TextsAhead::TextsAhead(Files& files, size_t count, std::function<QString(size_t)> pathOf,
                        const ReadingPace& pace)
     : files_(files), pathOf_(std::move(pathOf)), pace_(pace) {
@@ -35,7 +41,7 @@ void TextsAhead::ReadAhead() {
   size_t at = 0;
   for (;;) {
     size_t next = next_;
-    for (; at + 1 >= next + pace_.ahead && !stop_; next = next_) next_.wait(next);
+    for (; FarAhead(at, next) && !stop_; next = next_) next_.wait(next);
     at = std::max(at + 1, next + pace_.lead);
     if (stop_ || at >= slots_.size()) return;
     Slot& slot = slots_[at];
@@ -47,6 +53,7 @@ void TextsAhead::ReadAhead() {
     } catch (const std::bad_alloc&) {
       slot.error = kFileOther;  // the asking thread reads it once more, and can tell the user
     }
+    waiting_ += slot.text.size();
     slot.state = Ready;
     slot.state.notify_one();
   }
@@ -61,13 +68,14 @@ int TextsAhead::ReadHere(size_t at, QString& text, bool missing) {
 int TextsAhead::Next(QString& text) {
   const size_t at = next_++;
   if (!thread_.joinable()) return ReadHere(at, text);
-  if ((at + 1) % (pace_.ahead / 2) == 0) next_.notify_one();
+  if ((at + 1) % kBetweenCalls == 0) next_.notify_one();
   Slot& slot = slots_[at];
   int untouched = Untouched;
   if (slot.state.compare_exchange_strong(untouched, InWork)) return ReadHere(at, text);
   // The file is mostly there at once, sooner than a sleeping thread wakes up.
   for (int i = 0; i < pace_.glances && slot.state == InWork; ++i) std::this_thread::yield();
   slot.state.wait(InWork);
+  waiting_ -= slot.text.size();
   // What went wrong ahead may be a name in another case, or right by now.
   if (slot.error != kNoError) return ReadHere(at, text, slot.error == kFileNotFound);
   text = std::exchange(slot.text, QString());

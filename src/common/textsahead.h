@@ -14,10 +14,11 @@ namespace tamo {
 // How far the thread and the one that asks go apart; BM_Pace holds each number against its
 // neighbours.
 struct ReadingPace {
-  size_t lead = 4;     // files left to the asking thread before the other one's first
-  int glances = 100;   // at a file that is being read, before the asking thread sleeps
-  size_t ahead = 64;   // most files that are read before they are asked for
-  size_t fewest = 24;  // files that are worth a thread
+  size_t lead = 4;           // files left to the asking thread before the other one's first
+  int glances = 100;         // at a file that is being read, before the asking thread sleeps
+  size_t ahead = 512;        // most files that are read before they are asked for
+  size_t fewest = 24;        // files that are worth a thread
+  qsizetype most = 1 << 21;  // characters of texts that wait, and the last one's
 };
 
 // Reads many text files in their order, while a thread of its own reads some of them ahead: the
@@ -46,6 +47,9 @@ class TextsAhead {
     QString text;
   };
 
+  bool FarAhead(size_t at, size_t next) const {
+    return at + 1 >= next + pace_.ahead || waiting_ > pace_.most;
+  }
   void ReadAhead();
   int ReadHere(size_t at, QString& text, bool missing = false);
 
@@ -55,6 +59,7 @@ class TextsAhead {
   const ReadingPace pace_;
   std::vector<Slot> slots_;  // empty when there is no thread
   std::atomic<size_t> next_ = 0;
+  std::atomic<qsizetype> waiting_ = 0;  // characters read and not asked for
   std::atomic<bool> stop_ = false;
   std::thread thread_;
 };

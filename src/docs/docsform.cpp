@@ -100,13 +100,15 @@ void DocsForm::SaveDocs() {
           .arg(file, ReasonText(error)));
 }
 
-void DocsForm::ShowTopicOf(const QString& form) {
-  const QString file = FileOfForm(form);
-  for (int row = 0; row < MenuList.Count(); ++row) {
-    if (FileOfTopic(MenuList.Row(row)) != file) continue;
-    MenuList.SetIndex(row);
-    return;
-  }
+void DocsForm::ShowTopic(const QString& file) {
+  int row = 0;
+  while (row < MenuList.Count() && FileOfTopic(MenuList.Row(row)) != file) ++row;
+  MenuList.SetIndex(row < MenuList.Count() ? row : -1);
+  if (fileName_ == file && DocText.Shown()) return;
+  // A topic beside the list, or one that was left for a file of another name.
+  fileName_ = file;
+  LoadDocs();
+  Text1.SetText(file.chopped(kEnding.size()).toLower());
 }
 
 void DocsForm::Leave() {

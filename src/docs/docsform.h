@@ -18,8 +18,8 @@ class DocsForm : public Form {
   // Shows the topic of the file name in work; a topic without a file is empty.
   void LoadDocs();
   void SaveDocs();
-  // Selects and shows the topic that explains `form` ("Pricing", "RFSForm", ...).
-  void ShowTopicOf(const QString& form);
+  // Shows a topic by its file, and selects its row where it has one.
+  void ShowTopic(const QString& file);
 
   MenuEntry ExitDocs{*this, "ExitDocs", "  &Exit Docs"};
   OrderedList MenuList{*this, "MenuList"};

@@ -64,22 +64,66 @@ QString FileOfTopic(const QString& row) {
   return {};
 }
 
-QString FileOfForm(const QString& form) {
-  static constexpr std::pair<const char*, const char*> forms[] = {
-      {"Tamo", "ProjectsDocs.tamo"},
-      {"Settings", "SettingsDocs.tamo"},
-      {"Pricing", "PricingDocs.tamo"},
-      {"RFSForm", "RFSDocs.tamo"},
-      {"EstimateForm", "NonRFSDocs.tamo"},
-      {"BottomLine", "BottomLineDocs.tamo"},
-      {"AdjustmentForm", "PriceAdjustDocs.tamo"},
-      {"OST", "OSTDocs.tamo"},
-      {"Reports", "ReportsDocs.tamo"},
-      {"Versions", "VersionsDocs.tamo"}};
-  for (const auto& [name, file] : forms) {
-    if (form == QLatin1String(name)) return QLatin1String(file);
+namespace {
+
+struct FieldTopic {
+  const char* form;
+  const char* fields;  // with a blank around each; "" for the form itself
+  const char* file;
+};
+
+constexpr FieldTopic kFields[] = {
+    {"Tamo", " JobsList ", "OpenProjectDocs.tamo"},
+    {"Tamo", " JobName BidDate Addenda Phase BidItems Inclusions Exclusions Architect Notes ",
+     "ProjectInformationDocs.tamo"},
+    {"Tamo", "", "ProjectsDocs.tamo"},
+    {"HomePage", "", "StartDocs.tamo"},
+    {"Settings", "", "SettingsDocs.tamo"},
+    {"Pricing", " MOH MTX MMU LOH LTX LMU BLOH BLTX BLMU MIOH MITX MIMU ExitMarkups ",
+     "MarkupsDocs.tamo"},
+    {"Pricing", " Drive1 Dir1 File1 ", "ImportSystemDocs.tamo"},
+    {"Pricing",
+     " Units UnitPrice Material OrderUnits Price UPO MnhrPO Waste WageRate MaterialList "
+     "PricingNotes ",
+     "BuildingSystemsDocs.tamo"},
+    {"Pricing", "", "PricingDocs.tamo"},
+    {"RFSForm", "", "EnterRFSDocs.tamo"},
+    {"Schedule", "", "EnterRFSDocs.tamo"},
+    {"EstimateForm", "", "NonRFSDocs.tamo"},
+    {"BottomLine", "", "BottomLineDocs.tamo"},
+    {"AdjustmentForm", "", "PriceAdjustDocs.tamo"},
+    {"OST", " Scale1 Scale2 Text5 KnownDimension CheckDimension SetInches ", "ScaleDocs.tamo"},
+    {"OST", " Drive1 Dir1 File1 PlanLocation ", "FilesDocs.tamo"},
+    {"OST", " ZoomLevel ", "ZoomInDocs.tamo"},
+    {"OST", "", "OSTDocs.tamo"},
+    {"Reports", "", "ReportsDocs.tamo"},
+    {"Versions", "", "VersionsDocs.tamo"}};
+
+// By the title in a report's first line.
+constexpr std::pair<const char*, const char*> kReports[] = {
+    {"Recap Sheet", "RecapSheetDocs.tamo"},
+    {"Quantities", "QuantitiesDocs.tamo"},
+    {"Bill Of Materials", "BillOfMaterialDocs.tamo"},
+    {"Project Information", "ProjectInformationDocs.tamo"},
+    {"Project Manager", "AreaRoomDetailDocs.tamo"}};
+
+}  // namespace
+
+QString FileOfField(const QString& form, const QString& field) {
+  const QByteArray sought = ' ' + field.toLatin1() + ' ';
+  for (const FieldTopic& row : kFields) {
+    const QByteArray fields = row.fields;
+    if (form == QLatin1String(row.form) && (fields.isEmpty() || fields.contains(sought)))
+      return QLatin1String(row.file);
   }
   return QStringLiteral("DocumentationDocs.tamo");
+}
+
+QString FileOfReport(const QString& title) {
+  for (const auto& [name, file] : kReports) {
+    if (title.trimmed() == QLatin1String(name)) return QLatin1String(file);
+  }
+  return QStringLiteral("ReportsDocs.tamo");
 }
 
 }  // namespace tamo

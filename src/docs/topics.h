@@ -17,8 +17,10 @@ std::span<const Topic> Topics();
 // The file of the first row with that text, "" when there is none.
 QString FileOfTopic(const QString& row);
 
-// The file that explains a form of the program ("Pricing", "RFSForm", ...); of a form without a
-// topic of its own, that of the documentation itself.
-QString FileOfForm(const QString& form);
+// The file that explains a field of a form ("Pricing", "Material"); that of its form where the
+// field has none of its own, and that of the documentation itself where the form has none.
+QString FileOfField(const QString& form, const QString& field);
+// The same for a report, by the title in its first line.
+QString FileOfReport(const QString& title);
 
 }  // namespace tamo

@@ -8,6 +8,7 @@ namespace {
 constexpr qsizetype kPiece = 1 << 16;
 
 bool BeginsFormula(QStringView text) {
+  if (text.isEmpty() || text.front().isLetterOrNumber()) return false;
   while (text.startsWith(u'\'')) text = text.sliced(1);
   return !text.isEmpty() && QStringView(u"=+-@\t\r\n").contains(text.front());
 }
@@ -64,12 +65,13 @@ int CsvFile::Finish() {
 }
 
 void CsvFile::AddText(QStringView text) {
-  const QString guarded = GuardedCell(text);
-  if (!NeedsQuotes(guarded)) {
-    waiting_ += guarded.toUtf8();
+  const bool formula = BeginsFormula(text);
+  if (!NeedsQuotes(text)) {
+    if (formula) waiting_ += '\'';
+    waiting_ += text.toUtf8();
     return;
   }
-  QByteArray bytes = guarded.toUtf8();
+  QByteArray bytes = (formula ? QByteArray("'") : QByteArray()) + text.toUtf8();
   bytes.replace('"', "\"\"");
   waiting_ += '"' + bytes + '"';
 }

@@ -8,8 +8,13 @@ namespace {
 constexpr qsizetype kPiece = 1 << 16;
 
 QByteArray Quoted(QStringView text) {
+  const QByteArray bytes = text.toUtf8();
+  const bool plain = std::none_of(bytes.begin(), bytes.end(), [](char c) {
+    return c == '"' || c == '\\' || static_cast<unsigned char>(c) < 0x20;
+  });
+  if (plain) return '"' + bytes + '"';
   QByteArray quoted = "\"";
-  for (const char c : text.toUtf8()) {
+  for (const char c : bytes) {
     if (c == '"' || c == '\\') {
       quoted += '\\';
       quoted += c;

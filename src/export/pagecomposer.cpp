@@ -2,6 +2,7 @@
 
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QPainter>
 #include <algorithm>
 
@@ -33,6 +34,14 @@ double ScaleFor(const PageComposer::Page& page, double width, double height) {
   return std::min(width / wide, std::max(fit, kLeastScale));
 }
 
+// Looking for a family takes its time, and a large report has a million lines.
+QFont FontNamed(const QString& name) {
+  static QHash<QString, QFont> known;
+  const auto found = known.constFind(name);
+  if (found != known.constEnd()) return *found;
+  return *known.insert(name, QFontDatabase::hasFamily(name) ? QFont(name) : FixedFont());
+}
+
 }  // namespace
 
 void PageComposer::SetFont(const QString& name, int points) {
@@ -40,12 +49,12 @@ void PageComposer::SetFont(const QString& name, int points) {
   points_ = std::clamp(points, 4, 72);
 }
 
-void PageComposer::Add(const QString& text) {
+void PageComposer::Add(const QString& text, bool heavy) {
   if (!open_) pages_.emplace_back();
   open_ = true;
   QString whole = text;
   while (!whole.isEmpty() && whole.back().isSpace()) whole.chop(1);
-  pages_.back().push_back({whole, font_, points_});
+  pages_.back().push_back({whole, font_, points_, heavy});
 }
 
 void PageComposer::EndPage() {
@@ -82,10 +91,11 @@ void PageComposer::Paint(QPainter& painter, const Sheet& sheet, double dotsPerIn
   painter.setPen(Qt::black);
   double top = 0;
   for (const Line& line : sheet.lines) {
-    QFont font = QFontDatabase::hasFamily(line.font) ? QFont(line.font) : FixedFont();
+    QFont font = FontNamed(line.font);
     // Ten times as large as meant and made small again: the painter's own sizes are whole pixels.
     constexpr double kFine = 10;
     font.setPixelSize(static_cast<int>(line.points * kFine));
+    if (line.heavy) font.setWeight(QFont::DemiBold);
     const QFontMetricsF metrics(font);
     const double one = metrics.horizontalAdvance(QLatin1Char('0'));
     painter.save();

@@ -21,6 +21,7 @@ class PageComposer {
     QString text;
     QString font;
     int points = 12;
+    bool heavy = false;  // painted with weight, every column where it is
   };
   using Page = std::vector<Line>;
   struct Sheet {
@@ -29,7 +30,7 @@ class PageComposer {
   };
 
   void SetFont(const QString& name, int points);
-  void Add(const QString& text);
+  void Add(const QString& text, bool heavy = false);
   void EndPage();
   void Clear();
 

@@ -44,6 +44,8 @@ int MakeFileSafely(Disk& disk, const QString& path, const std::function<int(Byte
 
 QString WriteReason(int error) {
   if (IsMissing(error)) return QStringLiteral("there is no such folder");
+  if (error == kNotOffered)
+    return QStringLiteral("libxlsxwriter, which writes workbooks, is not installed");
   return ReasonText(error);
 }
 

@@ -1,12 +1,14 @@
 #include "export/xlsxfile.h"
 
-#include <xlsxwriter.h>
+#include <QRegularExpression>
 
 #include <algorithm>
+#include <cmath>
 
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "export/safefile.h"
+#include "export/xlsxlibrary.h"
 
 namespace tamo {
 namespace {
@@ -27,40 +29,51 @@ double WidthOf(const TableColumn& column) {
   return std::max(wanted, name);
 }
 
-lxw_format* NewFormat(lxw_workbook* book, ColumnKind kind, bool bold) {
-  lxw_format* format = workbook_add_format(book);
-  if (kind != ColumnKind::Text) format_set_num_format(format, kFormats[At(kind)]);
-  if (bold) format_set_bold(format);
+// Without what a sum of fractions leaves behind the fifteenth digit. Most figures are whole.
+double Exact(double number) {
+  const bool whole = std::abs(number) < 1e15 && number == std::trunc(number);
+  return whole ? number : CutTo15Digits(number);
+}
+
+lxw_format* NewFormat(const XlsxLibrary& lib, lxw_workbook* book, ColumnKind kind, bool bold) {
+  lxw_format* format = lib.AddFormat(book);
+  if (kind != ColumnKind::Text) lib.SetNumbers(format, kFormats[At(kind)]);
+  if (bold) lib.SetBold(format);
   return format;
 }
 
 }  // namespace
 
-XlsxFile::XlsxFile(ByteSink& sink, const QString& title) : sink_(sink), title_(title) {
+XlsxFile::XlsxFile(ByteSink& sink, const QString& title)
+    : sink_(sink), title_(title), lib_(XlsxLibrary::Get()) {
+  if (lib_ == nullptr) {
+    error_ = kNotOffered;
+    return;
+  }
   if (!file_.open()) {
     error_ = kFileOther;
     return;
   }
   lxw_workbook_options options{};
   options.constant_memory = LXW_TRUE;
-  book_ = workbook_new_opt(file_.fileName().toLocal8Bit().constData(), &options);
+  book_ = lib_->NewBook(file_.fileName().toLocal8Bit().constData(), &options);
   if (book_ == nullptr) {
     error_ = kFileOther;
     return;
   }
-  formats_.head = workbook_add_format(book_);
-  format_set_bold(formats_.head);
-  format_set_bottom(formats_.head, LXW_BORDER_THIN);
-  format_set_text_wrap(formats_.head);
+  formats_.head = lib_->AddFormat(book_);
+  lib_->SetBold(formats_.head);
+  lib_->SetBottom(formats_.head, LXW_BORDER_THIN);
+  lib_->SetWrap(formats_.head);
   for (const ColumnKind kind :
        {ColumnKind::Text, ColumnKind::Number, ColumnKind::Money, ColumnKind::Percent}) {
-    formats_.plain[At(kind)] = NewFormat(book_, kind, false);
-    formats_.total[At(kind)] = NewFormat(book_, kind, true);
+    formats_.plain[At(kind)] = NewFormat(*lib_, book_, kind, false);
+    formats_.total[At(kind)] = NewFormat(*lib_, book_, kind, true);
   }
 }
 
 XlsxFile::~XlsxFile() {
-  if (book_ != nullptr) lxw_workbook_free(book_);
+  if (book_ != nullptr) lib_->FreeBook(book_);
 }
 
 void XlsxFile::Begin(const std::vector<TableColumn>& columns) {
@@ -74,20 +87,20 @@ void XlsxFile::NewSheet() {
   filtered_ = false;
   ++sheets_;
   const QString name = sheets_ == 1 ? title_ : QStringLiteral("%1 (%2)").arg(title_).arg(sheets_);
-  sheet_ = workbook_add_worksheet(book_, name.toUtf8().constData());
+  sheet_ = lib_->AddSheet(book_, name.toUtf8().constData());
   if (sheet_ == nullptr) {
     error_ = kFileOther;
     return;
   }
   for (size_t i = 0; i < columns_.size(); ++i) {
     const auto column = static_cast<lxw_col_t>(i);
-    worksheet_set_column(sheet_, column, column, WidthOf(columns_[i]), nullptr);
+    lib_->SetColumn(sheet_, column, column, WidthOf(columns_[i]), nullptr);
   }
-  worksheet_freeze_panes(sheet_, 1, 0);
-  worksheet_repeat_rows(sheet_, 0, 0);
-  worksheet_set_landscape(sheet_);
-  worksheet_fit_to_pages(sheet_, 1, 0);
-  worksheet_set_footer(sheet_, "&L&A&RPage &P of &N");
+  lib_->Freeze(sheet_, 1, 0);
+  lib_->RepeatRows(sheet_, 0, 0);
+  lib_->SetLandscape(sheet_);
+  lib_->FitToPages(sheet_, 1, 0);
+  lib_->SetFooter(sheet_, "&L&A&RPage &P of &N");
   row_ = 0;
   for (size_t i = 0; i < columns_.size(); ++i)
     WriteText(0, static_cast<lxw_col_t>(i), columns_[i].name, formats_.head);
@@ -97,7 +110,7 @@ void XlsxFile::NewSheet() {
 // The filter of the head reaches over all rows but the remarks.
 void XlsxFile::EndTable() {
   if (filtered_ || sheet_ == nullptr || columns_.empty()) return;
-  worksheet_autofilter(sheet_, 0, 0, row_ - 1, static_cast<lxw_col_t>(columns_.size() - 1));
+  lib_->Filter(sheet_, 0, 0, row_ - 1, static_cast<lxw_col_t>(columns_.size() - 1));
   filtered_ = true;
 }
 
@@ -118,8 +131,7 @@ void XlsxFile::Row(std::span<const TableCell> cells, RowWeight weight) {
     const auto column = static_cast<lxw_col_t>(i);
     lxw_format* format = formats[At(columns_[i].kind)];
     if (cells[i].GetKind() == TableCell::Kind::Number) {
-      if (worksheet_write_number(sheet_, row, column, CutTo15Digits(cells[i].Number()), format) !=
-          LXW_NO_ERROR)
+      if (lib_->WriteNumber(sheet_, row, column, Exact(cells[i].Number()), format) != LXW_NO_ERROR)
         error_ = kFileOther;
     } else if (cells[i].GetKind() == TableCell::Kind::Text) {
       WriteText(row, column, cells[i].Text(), format);
@@ -137,19 +149,22 @@ void XlsxFile::Remark(const QString& text) {
 void XlsxFile::WriteText(unsigned row, unsigned short column, QStringView text,
                          lxw_format* format) {
   if (text.isEmpty()) return;
-  QString shown = text.first(std::min(text.size(), kLongestText)).toString();
+  QString shown = text.toString();
   for (QChar& c : shown) {
     if (c.unicode() >= 0xFFFE || c.unicode() == 0) c = QChar::ReplacementCharacter;
   }
-  if (worksheet_write_string(sheet_, row, column, shown.toUtf8().constData(), format) !=
-      LXW_NO_ERROR)
+  // What reads like the sign of a character that no XML holds is no such sign.
+  static const QRegularExpression sign(QStringLiteral("_(x[0-9A-Fa-f]{4}_)"));
+  if (shown.contains(QLatin1String("_x"))) shown.replace(sign, QStringLiteral("_x005F_\\1"));
+  shown.truncate(kLongestText);
+  if (lib_->WriteString(sheet_, row, column, shown.toUtf8().constData(), format) != LXW_NO_ERROR)
     error_ = kFileOther;
 }
 
 int XlsxFile::Finish() {
   if (book_ == nullptr) return error_;
   EndTable();
-  const lxw_error closed = workbook_close(book_);
+  const lxw_error closed = lib_->CloseBook(book_);
   book_ = nullptr;
   if (closed != LXW_NO_ERROR && error_ == kNoError)
     error_ = closed == LXW_ERROR_CREATING_TMPFILE ? kDiskFull : kFileOther;

@@ -13,6 +13,8 @@ struct lxw_format;
 
 namespace tamo {
 
+struct XlsxLibrary;
+
 // A table as a workbook for spreadsheets: typed cells, a frozen head with a filter, formats for
 // money and quantities, totals in bold. A table longer than a sheet goes on on the next one. It is
 // written beside the table and only then handed on, so that no more than a row is ever held.
@@ -46,6 +48,7 @@ class XlsxFile : public TableFile {
 
   ByteSink& sink_;
   QString title_;
+  const XlsxLibrary* lib_;
   QTemporaryFile file_;
   lxw_workbook* book_ = nullptr;
   lxw_worksheet* sheet_ = nullptr;

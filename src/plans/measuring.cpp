@@ -42,7 +42,7 @@ QString CheckInWords(double measured, double known) {
     return QStringLiteral("Measured %1. Type the dimension that the plan states to compare.")
         .arg(length);
   const double off = measured - known;
-  if (std::abs(off) < 0.05) return QStringLiteral("Measured %1: the scale is right.").arg(length);
+  if (std::abs(off) < kRight) return QStringLiteral("Measured %1: the scale is right.").arg(length);
   return QStringLiteral("Measured %1: %2 too %3 (%4 per cent). Check the scale.")
       .arg(length, LengthText(std::abs(off)),
            off > 0 ? QStringLiteral("long") : QStringLiteral("short"),

@@ -33,6 +33,8 @@ struct MeasuredArea {
 MeasuredArea ScaledArea(double paperArea, double plan, const ScaleTexts& scale,
                         const QString& unitName, const QString& label);
 
+// Feet by which a measure may be off a dimension and still be right.
+inline constexpr double kRight = 0.05;
 // How far a measured length is off a dimension that the plan states, in words; both in feet.
 QString CheckInWords(double measured, double known);
 

@@ -27,9 +27,16 @@ struct OstControls : Form {
   Label ScaleInForce{*this, "ScaleInForce"};
   Button SetInches{*this, "SetInches", "Set Inches"};
   Label ToolHint{*this, "ToolHint"};  // what the tool in hand does next, or why it can't
+  // Above the plan: what speaks against the scale in force on this sheet. The button takes the one
+  // that belongs to it, the switch has it taken by itself.
+  Label ScaleNote{*this, "ScaleNote"};
+  Button TakeScale{*this, "TakeScale", "&Use"};
+  CheckBox FollowSheet{*this, "FollowSheet", "Scale Follows t&he Sheet"};
   TextField DistanceText{*this, "DistanceText"};
-  TextField KnownDimension{*this, "KnownDimension"};  // feet, to check the scale against
+  // To check the scale against, or to set it by: feet, or any common form of a length.
+  TextField KnownDimension{*this, "KnownDimension"};
   Button CheckDimension{*this, "CheckDimension", "Check a &Dimension"};
+  Button Calibrate{*this, "Calibrate", "Cali&brate"};
   Label DimensionResult{*this, "DimensionResult"};
   CheckBox Check1{*this, "Check1", "Turn Lines On"};
   Swatch Line1{*this, "Line1"};

@@ -28,13 +28,15 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       copy_(kit, *this, viewer, record_),
       opener_(kit, *this, viewer, {record_, scale_, pages_, browser_, copy_}),
       measure_(kit, *this, viewer, scale_, takeoff),
-      surfaces_(*this, scale_, measure_, takeoff) {
+      surfaces_(*this, scale_, measure_, takeoff),
+      sheetScales_(kit, *this, viewer, scale_, record_) {
   AddText(QStringLiteral("ViewerName"), &ViewerName);
   AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
   SetCaption(QStringLiteral("Digital Plan Takeoff"));
   BindFields();
   BindMenus();
   BindViewer();
+  BindOutlines();
   BindPlanKeys();
 }
 
@@ -93,6 +95,17 @@ void OSTForm::BindMenus() {
   }
 }
 
+void OSTForm::BindOutlines() {
+  const auto event = [this](auto handler) {
+    return [this, handler](auto&&... values) { kit_.desk.Dispatch([&] { handler(values...); }); };
+  };
+  viewer_.onAreaMeasured =
+      event([this](double& area, QString& label) { surfaces_.AreaMeasured(area, label); });
+  viewer_.onAreaRunning =
+      event([this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
+  viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
+}
+
 // Each event of the viewer is one of the desk: a failure in it is told there.
 void OSTForm::BindViewer() {
   const auto event = [this](auto handler) {
@@ -103,28 +116,29 @@ void OSTForm::BindViewer() {
     pen_.ModeChanged(tool);
     surfaces_.ToolPicked(tool);
     viewer_.Snap().Follow();
+    sheetScales_.ToolPicked(tool);
   });
   viewer_.onLineMeasured =
       event([this](double& length, QString& label) { measure_.LineMeasured(length, label); });
   viewer_.onLineRunning =
       event([this](double& length, QString& label) { measure_.LineRunning(length, label); });
-  viewer_.onLineChecked = event([this](double paperLength) { measure_.LineChecked(paperLength); });
-  viewer_.onAreaMeasured =
-      event([this](double& area, QString& label) { surfaces_.AreaMeasured(area, label); });
-  viewer_.onAreaRunning =
-      event([this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
-  viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
+  viewer_.onLineChecked = event([this](double paperLength) {
+    if (sheetScales_.TakeDimension(paperLength)) return;
+    if (measure_.LineChecked(paperLength)) sheetScales_.WasChecked();
+  });
+  viewer_.onSheetRead = event([this] { sheetScales_.SheetRead(); });
   viewer_.onCircleCountChanged = event([this](int count) { measure_.CirclesCounted(count); });
   viewer_.onPageChanged = event([this] {
     pages_.ShowPage();
     viewer_.Snap().Follow();
+    sheetScales_.SheetChanged();
   });
   viewer_.onScrolled = event([this] {
     if (Visible()) record_.SaveAfterScroll();
   });
   viewer_.onMousePressed = event([this] {
     kit_.desk.Focus(picPdfDraw);
-    measure_.WarnOfMissingScale();
+    if (!sheetScales_.Calibrating()) measure_.WarnOfMissingScale();
     if (onPlanPressed) onPlanPressed();
   });
   viewer_.onReservation = [this](const QString& reservation) {

@@ -11,6 +11,7 @@
 #include "plans/planopener.h"
 #include "plans/planpen.h"
 #include "plans/plansurfaces.h"
+#include "plans/sheetscales.h"
 
 namespace tamo {
 
@@ -63,6 +64,7 @@ class OSTForm : public OstControls {
   void BindFields();
   void BindMenus();
   void BindViewer();
+  void BindOutlines();
   void BindPlanKeys();
   void EnterOnPlan();
   void PlanLost(const QString& problem);
@@ -81,6 +83,7 @@ class OSTForm : public OstControls {
   PlanOpener opener_;
   PlanMeasure measure_;
   PlanSurfaces surfaces_;
+  SheetScales sheetScales_;
 };
 
 }  // namespace tamo

@@ -123,7 +123,11 @@ bool PdfDraw::MayMark() {
 // --- Opening and closing
 
 PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
-    : files_(files), engine_(engine), forms_(std::make_shared<FormsThread>(this)) {}
+    : files_(files), engine_(engine), forms_(std::make_shared<FormsThread>(this)) {
+  snap_.Lines().onRead = [forms = forms_] {
+    FormsThread::Post(forms, [](PdfDraw& draw) { draw.snap_.TellOfSheet(); });
+  };
+}
 
 PdfDraw::~PdfDraw() {
   forms_->Cut();

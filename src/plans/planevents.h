@@ -35,6 +35,8 @@ struct PlanEvents {
   std::function<void(double& area, QString& label)> onAreaRunning;
   // What is drawn can't be what the tool is for: why, and what to do. "" when it can again.
   std::function<void(const QString& why)> onToolRefused;
+  // The lines and the printed scales of the sheet in front are known.
+  std::function<void()> onSheetRead;
   std::function<void(int count)> onCircleCountChanged;  // the circles of all pages
   std::function<void()> onPenChanged;                   // the colour or the width of the next mark
   // Something speaks against marking this plan: true when it is to be marked all the same. Asked

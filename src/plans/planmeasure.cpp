@@ -1,6 +1,9 @@
 #include "plans/planmeasure.h"
 
+#include <cmath>
+
 #include "common/numbers.h"
+#include "plans/lengthtext.h"
 
 namespace tamo {
 
@@ -81,10 +84,12 @@ void PlanMeasure::StartCheck() {
   kit_.desk.Focus(form_.picPdfDraw);
 }
 
-void PlanMeasure::LineChecked(double paperLength) {
+bool PlanMeasure::LineChecked(double paperLength) {
   const MeasuredLine line = scale_.Measured(paperLength, QString());
-  form_.DimensionResult.SetCaption(
-      CheckInWords(line.length, GroupedValue(form_.KnownDimension.Text())));
+  const QString typed = form_.KnownDimension.Text();
+  const double known = FeetOf(typed).value_or(GroupedValue(typed));
+  form_.DimensionResult.SetCaption(CheckInWords(line.length, known));
+  return known > 0 && std::abs(line.length - known) < kRight;
 }
 
 }  // namespace tamo

@@ -16,7 +16,7 @@ class PlanMeasure {
 
   void LineMeasured(double& length, QString& label);
   void LineRunning(double& length, QString& label) const;
-  void LineChecked(double paperLength);
+  bool LineChecked(double paperLength);  // whether the scale is right
   void CirclesCounted(int count);
   void ReturnFocus();                                    // to the field that waits
   bool WaitingField(TakeoffFields::Field& field) const;  // false when none does

@@ -60,6 +60,20 @@ void PlanScale::Choose(const ScaleEntry& scale) {
   Show();
 }
 
+void PlanScale::Take(const ScaleTexts& scale) {
+  saved_ = false;
+  if (UnitOfText(scale.text5) == PaperUnit::Inches) {
+    viewer_.SetUnit(PaperUnit::Inches);
+    viewer_.SetUnitName(QStringLiteral("feet"));
+  }
+  form_.Text5.SetText(scale.text5);
+  SetUnitByText5();
+  form_.Scale1.SetText(scale.scale1);
+  form_.Scale2.SetText(scale.scale2);
+  if (!saved_) record_.SaveUnlessLoading();
+  Show();
+}
+
 // An inch scale chosen after a metric one leaves the viewer in its metric unit. A test holds it;
 // ScaleInForce warns of it.
 void PlanScale::SetUnitByText5() {
@@ -80,6 +94,7 @@ void PlanScale::Show() {
   form_.ScaleInForce.SetCaption(words);
   form_.SetInches.SetShown(differs && meant == PaperUnit::Inches);
   viewer_.ScaleChanged();
+  if (onShown) onShown();
 }
 
 void PlanScale::SetViewerToInches() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "plans/measuring.h"
 #include "plans/ostcontrols.h"
 #include "plans/pdfdraw.h"
@@ -15,6 +17,8 @@ class PlanScale {
   PlanScale(OstControls& form, PdfDraw& viewer, PlanRecord& record);
 
   void Choose(const ScaleEntry& scale);
+  // All three texts at once; an inch scale brings the viewer back to inches.
+  void Take(const ScaleTexts& scale);
   // The unit that Text5 names, on the viewer; nothing for an inch scale, by the rule of the form.
   void SetUnitByText5();
   void Show();
@@ -23,6 +27,8 @@ class PlanScale {
   MeasuredLine Measured(double paperLength, const QString& label) const;
   // The same of an area in square paper units.
   MeasuredArea MeasuredSurface(double paperArea, const QString& label) const;
+
+  std::function<void()> onShown;  // the scale was looked at anew: it may be another
 
  private:
   void Bind();

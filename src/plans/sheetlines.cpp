@@ -27,16 +27,19 @@ void SheetLines::ReadPage(const std::shared_ptr<EnginePlan>& plan, int page,
                           const std::shared_ptr<Read>& read) {
   std::shared_ptr<const SnapIndex> index;
   QString problem;
+  std::vector<PrintedScale> scales;
   if (!read->cancel.Cancelled()) {
     const PageContent content = plan->ReadContent(page, read->cancel);
     if (!read->cancel.Cancelled()) {
       index = std::make_shared<SnapIndex>(SnapLinesOf(content));
       problem = ProblemOf(content, index->Lines());
+      scales = ScalesOf(content);
     }
   }
   const std::lock_guard<std::mutex> guard(read->mutex);
   read->index = std::move(index);
   read->problem = std::move(problem);
+  read->scales = std::move(scales);
   read->done = true;
 }
 
@@ -53,7 +56,10 @@ void SheetLines::Want(const std::shared_ptr<EnginePlan>& plan, int page) {
   page_ = page;
   read_ = std::make_shared<Read>();
   if (thread_ == nullptr) thread_ = std::make_unique<WorkThread>();
-  thread_->Post([plan, page, read = read_] { ReadPage(plan, page, read); });
+  thread_->Post([plan, page, read = read_, tell = onRead] {
+    ReadPage(plan, page, read);
+    if (tell) tell();
+  });
 }
 
 std::shared_ptr<const SnapIndex> SheetLines::Index() const {
@@ -66,6 +72,19 @@ bool SheetLines::Reading() const {
   if (read_ == nullptr) return false;
   const std::lock_guard<std::mutex> guard(read_->mutex);
   return !read_->done;
+}
+
+std::vector<PrintedScale> SheetLines::Scales(const std::shared_ptr<EnginePlan>& plan,
+                                             int page) const {
+  if (read_ == nullptr || plan == nullptr || plan_.lock() != plan || page_ != page) return {};
+  const std::lock_guard<std::mutex> guard(read_->mutex);
+  return read_->scales;
+}
+
+bool SheetLines::TakeNews() {
+  if (read_ == nullptr) return false;
+  const std::lock_guard<std::mutex> guard(read_->mutex);
+  return read_->done && !std::exchange(read_->told, true);
 }
 
 QString SheetLines::Problem() const {

@@ -1,16 +1,19 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 #include "plans/planengine.h"
+#include "plans/printedscale.h"
 #include "plans/snapindex.h"
 #include "plans/workthread.h"
 
 namespace tamo {
 
-// The lines of one page of a plan, read and sorted on a thread of its own. Another page, another
-// plan or none drops them.
+// The lines of one page of a plan, and the scales that it prints, read on a thread of its own.
+// Another page, another plan or none drops them.
 class SheetLines {
  public:
   ~SheetLines();
@@ -23,6 +26,11 @@ class SheetLines {
   // Null while they are read, and when they could not be.
   std::shared_ptr<const SnapIndex> Index() const;
   bool Reading() const;
+  // What the page prints, as far as it is the one read and that is done.
+  std::vector<PrintedScale> Scales(const std::shared_ptr<EnginePlan>& plan, int page) const;
+  // True once after each page that was read.
+  bool TakeNews();
+  std::function<void()> onRead;  // called by the thread that reads; set before the first page
   // Why there is little or nothing to snap to, as a sentence; "" while they are read, and when all
   // is well.
   QString Problem() const;
@@ -36,6 +44,8 @@ class SheetLines {
     bool done = false;
     std::shared_ptr<const SnapIndex> index;
     QString problem;
+    std::vector<PrintedScale> scales;
+    bool told = false;
   };
   static void ReadPage(const std::shared_ptr<EnginePlan>& plan, int page,
                        const std::shared_ptr<Read>& read);

@@ -127,6 +127,11 @@ std::vector<SnapHit> SnapPointer::AllNear(PagePoint at, int patience) {
   return Near(at, Reach());
 }
 
+void SnapPointer::TellOfSheet(int patience) {
+  if (patience > 0) lines_.Wait(patience);
+  if (lines_.TakeNews() && viewer_.onSheetRead) viewer_.onSheetRead();
+}
+
 void SnapPointer::Tell(const QString& words) {
   if (viewer_.onToolRefused) viewer_.onToolRefused(words);
 }

@@ -34,6 +34,8 @@ class SnapPointer {
   // All that is near a place of the page shown, with the lines read first.
   std::vector<SnapHit> AllNear(PagePoint at, int patience);
   SheetLines& Lines() { return lines_; }
+  // Raises onSheetRead when there is news of the sheet in front; waits for it when told to.
+  void TellOfSheet(int patience = 0);
 
  private:
   double Reach() const;

@@ -16,6 +16,10 @@ struct PricingMenus : ControlGroup {
   MenuEntry ExportSystem{form, "ExportSystem", "&ExportSystem"};
   MenuEntry PrintSystem{form, "PrintSystem", "P&rint System"};
   MenuEntry Xit{form, "Xit", "E&xit"};
+  // The whole library as a sheet, and back.
+  MenuEntry SystemSheet{form, "SystemSheet", "&Sheet"};
+  MenuEntry SaveSystems{form, "SaveSystems", "&Save Systems As ...", &SystemSheet};
+  MenuEntry TakeSystems{form, "TakeSystems", "&Take Systems from a Sheet ...", &SystemSheet};
   MenuEntry SystemMenu{form, "SystemMenu", "System", nullptr, true};
   MenuEntry SystemDelete{form, "SystemDelete", "Delete System", &SystemMenu};
   MenuEntry SystemCancel{form, "SystemCancel", "Cancel", &SystemMenu};

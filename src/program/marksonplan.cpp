@@ -33,22 +33,39 @@ bool MarksOnPlan::IsFree(const Mark& mark) const {
   return !owned_.contains(mark.name) && ost_.Viewer().WasDrawnHere(mark.name);
 }
 
-// A length has the newest line with that length; a count has all circles that were counted for it.
+// A count has all circles that were counted for it; square feet their area and what was cut out of
+// it since; a length the newest mark that says it.
+QStringList MarksOnPlan::MarksBehind(const QString& text, const std::vector<Mark>& marks) const {
+  QStringList names;
+  const bool count = !marks.empty() && marks.front().kind == Mark::Kind::Circle;
+  const QString label = text + QLatin1Char(' ');
+  for (const Mark& mark : marks) {
+    if (count != (mark.kind == Mark::Kind::Circle) || !IsFree(mark)) continue;
+    const bool cut = mark.kind == Mark::Kind::CutOut;
+    const bool surface =
+        mark.kind == Mark::Kind::Area && (!names.isEmpty() || IsNewest(mark, marks));
+    if (!count && !cut && !surface && (!names.isEmpty() || !mark.label.startsWith(label))) continue;
+    names += mark.name;
+    if (!count && !cut) break;
+  }
+  return names;
+}
+
+bool MarksOnPlan::IsNewest(const Mark& mark, const std::vector<Mark>& marks) const {
+  for (const Mark& other : marks) {
+    if (other.kind != Mark::Kind::Circle && IsFree(other)) return other.name == mark.name;
+  }
+  return false;
+}
+
 EntryMarks MarksOnPlan::MarksOf(const std::vector<Measured>& fields) {
   EntryMarks entry{PlanName(), {}};
   const std::vector<Mark> marks = ost_.Viewer().Marks();
   for (const Measured& field : fields) {
     if (handed_.take(QLatin1String(field.field)) != field.text || field.text.isEmpty()) continue;
-    const QString label = field.text + QLatin1Char(' ');
-    const bool count = !marks.empty() && marks.front().kind == Mark::Kind::Circle;
-    for (const Mark& mark : marks) {
-      const bool circle = mark.kind == Mark::Kind::Circle;
-      if (circle != count || !IsFree(mark)) continue;
-      if (!circle && !mark.label.startsWith(label)) continue;
-      owned_.insert(mark.name);
-      entry.names += mark.name;
-      if (!circle) break;
-    }
+    const QStringList names = MarksBehind(field.text, marks);
+    for (const QString& name : names) owned_.insert(name);
+    entry.names += names;
   }
   return entry;
 }

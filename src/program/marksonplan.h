@@ -3,6 +3,8 @@
 #include <QHash>
 #include <QSet>
 #include <QString>
+#include <QStringList>
+#include <vector>
 
 #include "plans/mark.h"
 #include "plans/ostform.h"
@@ -28,6 +30,8 @@ class MarksOnPlan : public MeasuredMarks {
 
  private:
   QString PlanName() const;
+  QStringList MarksBehind(const QString& text, const std::vector<Mark>& marks) const;
+  bool IsNewest(const Mark& mark, const std::vector<Mark>& marks) const;
   bool IsFree(const Mark& mark) const;
 
   OSTForm& ost_;

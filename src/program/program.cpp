@@ -5,6 +5,8 @@
 #include "history/history.h"
 #include "program/changedquestion.h"
 #include "program/followers.h"
+#include "program/frontprint.h"
+#include "program/homepage.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
 #include "program/pricingadapters.h"
@@ -12,6 +14,8 @@
 #include "program/recovery.h"
 #include "program/reportadapters.h"
 #include "program/reportsaver.h"
+#include "program/suggestions.h"
+#include "program/systemsheets.h"
 #include "program/takeoffadapters.h"
 #include "program/versionadapters.h"
 #include "program/waitingfields.h"
@@ -58,6 +62,7 @@ struct Program::Parts {
   ProjectRecordOnTamo projectRecord{main};
   BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
   ReportSaver reportSaver{kit};
+  SystemSheets systemSheets{kit, pricing};
 
   Form11 form11{kit};
   SettingsForm settings{kit, shell};
@@ -78,6 +83,30 @@ struct Program::Parts {
               {main, settings, ost, pricing, rooms, areas, bottomLine, adjustment, reports, docs,
                versions}};
   Recovery recovery{kit, {shell, settings, main, bottomLine}};
+  HomePage home{kit, {main, ost, pricing, docs, takingBack}};
+  Suggestions suggestions{kit,
+                          {{pricing.Description, pricing.DescriptionsList, NameKind::System},
+                           {pricing.Units, pricing.UnitsList, NameKind::TakeoffUnit},
+                           {pricing.Material, pricing.MaterialsList, NameKind::Material},
+                           {pricing.OrderUnits, pricing.oUnitsList, NameKind::OrderUnit},
+                           {rooms.Room, rooms.RoomsList, NameKind::Room},
+                           {rooms.Description, rooms.DescriptionsList, NameKind::System},
+                           {rooms.Area, rooms.AreaList, NameKind::FinishArea},
+                           {areas.Area, areas.AreasList, NameKind::FreeArea},
+                           {areas.eDescription, areas.DescriptionsList, NameKind::System},
+                           {schedule.System, pricing.DescriptionsList, NameKind::System},
+                           {schedule.FloorArea, rooms.AreaList, NameKind::FinishArea},
+                           {schedule.BaseArea, rooms.AreaList, NameKind::FinishArea},
+                           {schedule.WallsArea, rooms.AreaList, NameKind::FinishArea},
+                           {schedule.CeilingArea, rooms.AreaList, NameKind::FinishArea}}};
+
+  void AfterEvent() {
+    suggestions.Follow();
+    takingBack.EndEvent();
+    takeoffFields.Follow();
+    recovery.Follow();
+    home.Follow();
+  }
 };
 
 Program::Program(const Platform& platform, PdfDraw& viewer)
@@ -92,21 +121,26 @@ Program::Program(const Platform& platform, PdfDraw& viewer)
     parts.bottomLine.SaveUnsaved();
     parts.ost.SaveMarks();
   };
-  parts.desk.onRest = [&parts] {
-    parts.takingBack.EndEvent();
-    parts.takeoffFields.Follow();
-    parts.recovery.Follow();
+  parts.desk.onRest = [&parts] { parts.AfterEvent(); };
+  parts.home.openPlan = [this](const QString& path) { OpenPlan(path); };
+  parts.desk.onKeyFirst = [&parts](const Control& control, const Key& key) {
+    return parts.suggestions.TakeKey(control, key);
   };
+  parts.desk.onEdited = [&parts](TextField& field) { parts.suggestions.Edited(field); };
   // Lists of systems that are loaded are written whole: they must know the new one.
-  parts.schedule.onSystemMade = [&parts](const QString& name) {
+  parts.schedule.onSystemMade = parts.systemSheets.onNewSystem = [&parts](const QString& name) {
     for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,
                               &parts.areas.DescriptionsList}) {
       if (!list->Empty() && list->FindAnyCase(name) < 0) list->Insert(0, name);
     }
   };
+  parts.systemSheets.Bind();
   parts.files.keepMine = [&parts](const QString& path, const QString& mine, const QString& theirs) {
     return parts.desk.GetMessages().Ask(
         ChangedQuestion({path, mine, theirs}, parts.pricing.MarkupTexts()));
+  };
+  parts.settings.onLook = [this] {
+    if (onLook) onLook();
   };
   parts.reportSaver.company = [this] { return CompanyName(); };
   parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
@@ -131,7 +165,8 @@ void Program::ReadPictures(std::shared_ptr<const SheetPictures> pictures) {
   parts_->schedule.pictures = std::move(pictures);
 }
 void Program::ChooseFilesWith(FileChooser chooser) {
-  parts_->reportSaver.onChoose = std::move(chooser);
+  parts_->reportSaver.onChoose = chooser;
+  parts_->systemSheets.onChoose = std::move(chooser);
 }
 void Program::DrawChartsWith(std::function<void(const ChartData& chart)> draw) {
   parts_->reportSaver.onChart = std::move(draw);
@@ -148,6 +183,12 @@ SharedFields& Program::Shared() {
 PdfDraw& Program::Viewer() {
   return parts_->viewer;
 }
+void Program::PrintFront(Form& form) {
+  tamo::PrintFront(parts_->kit, form);
+}
+Suggestions& Program::GetSuggestions() {
+  return parts_->suggestions;
+}
 Form* Program::FindForm(const QString& name) {
   return parts_->desk.Find(name);
 }
@@ -155,6 +196,10 @@ Form* Program::FindForm(const QString& name) {
 const QString* Program::FindText(const QString& form, const QString& name) {
   const Form* found = parts_->desk.Find(form);
   return found == nullptr ? nullptr : found->FindText(name);
+}
+
+QString Program::Look() const {
+  return parts_->settings.Look();
 }
 
 QString Program::CompanyName() const {
@@ -181,6 +226,18 @@ void Program::TrySavesAgain() {
   });
 }
 
+void Program::BeginHomePage() {
+  parts_->home.Begin();
+}
+
+void Program::RefreshHomePage() {
+  parts_->desk.Dispatch([this] { parts_->home.Refresh(); });
+}
+
+bool Program::HomePageIsUpToDate() {
+  return parts_->home.Idle();
+}
+
 QString Program::Notice() const {
   const QString unsaved = parts_->files.Notice();
   return unsaved.isEmpty() ? parts_->main.conflicts.Notice() : unsaved;
@@ -193,6 +250,7 @@ void Program::Tick() {
     parts_->main.hold.Tick();
     parts_->readAgain.Tick();
     parts_->main.conflicts.Tick();
+    parts_->home.Tick();
   });
 }
 

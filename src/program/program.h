@@ -14,6 +14,7 @@
 namespace tamo {
 
 class SheetPictures;
+class Suggestions;
 
 // The whole program below its windows: makes every form, the menus of both shells with their guards
 // and transitions, and joins the forms' hand-overs. Windows, or the scenario player, stand on top
@@ -44,8 +45,20 @@ class Program {
   const QString* FindText(const QString& form, const QString& name);
   // As Settings has it; "" for none.
   QString CompanyName() const;
+  // Prints what stands in the window of the form.
+  void PrintFront(Form& form);
+  // What is offered under the field that is being typed in.
+  Suggestions& GetSuggestions();
+  // The look that Settings has chosen: "Light", "Dark", "" for the desktop's.
+  QString Look() const;
+  std::function<void()> onLook;  // another one was chosen
   // Shows the plan `path` in the plan window, as one that is typed there.
   void OpenPlan(const QString& path);
+  // From now on the home page follows what is stored, by a thread of its own; until then it is
+  // brought up to date only when it is asked to be.
+  void BeginHomePage();
+  void RefreshHomePage();
+  bool HomePageIsUpToDate();
   // For the strip at the foot of every window: what is not saved or can't be read, or else what a
   // sync program left; "" when all is well.
   QString Notice() const;

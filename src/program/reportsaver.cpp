@@ -2,14 +2,11 @@
 
 #include <QGuiApplication>
 #include <QLocale>
-#include <memory>
 
 #include "common/failure.h"
-#include "common/paths.h"
-#include "export/csvfile.h"
 #include "export/pages.h"
 #include "export/safefile.h"
-#include "export/xlsxfile.h"
+#include "export/tableformats.h"
 #include "reports/printpages.h"
 
 namespace tamo {
@@ -27,12 +24,6 @@ QString SuggestedName(const ShownReport& report) {
     if (c.unicode() < 0x20 || QStringLiteral("\\/:*?\"<>|").contains(c)) c = QLatin1Char(' ');
   }
   return name.simplified().left(100);
-}
-
-QString EndingOf(const QString& path) {
-  const QString name = FileNameOf(path);
-  const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-  return dot > 0 ? name.mid(dot + 1).toLower() : QString();
 }
 
 bool IsKnown(const QString& ending) {
@@ -80,12 +71,7 @@ int ReportSaver::Write(const ShownReport& report, const QString& path) {
 
 int ReportSaver::WriteTable(const ShownReport& report, const QString& ending,
                             ByteSink& sink) const {
-  std::unique_ptr<TableFile> file;
-  if (ending == kCsv) {
-    file = std::make_unique<CsvFile>(sink, true);
-  } else {
-    file = std::make_unique<XlsxFile>(sink, QLatin1String(NamedReportOf(report.kind).title));
-  }
+  const auto file = NewTableFile(ending, sink, QLatin1String(NamedReportOf(report.kind).title));
   for (const QString& remark : report.figures(report.kind, *file)) file->Remark(remark);
   return file->Finish();
 }

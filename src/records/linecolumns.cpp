@@ -3,9 +3,11 @@
 namespace tamo {
 
 QStringView TrimmedBlanks(QStringView text) {
-  while (!text.isEmpty() && text.front() == u' ') text = text.sliced(1);
-  while (!text.isEmpty() && text.back() == u' ') text.chop(1);
-  return text;
+  const char16_t* begin = text.utf16();
+  const char16_t* end = begin + text.size();
+  while (begin < end && *begin == u' ') ++begin;
+  while (end > begin && end[-1] == u' ') --end;
+  return {begin, end};
 }
 
 QStringView SystemOfLine(QStringView line) {

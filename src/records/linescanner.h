@@ -14,18 +14,23 @@ class LineScanner {
   bool Next(QStringView& line) {
     const qsizetype size = text_.size();
     if (at_ >= size) return false;
-    const char16_t* const chars = text_.utf16();
-    qsizetype end = at_;
-    while (end < size && chars[end] != u'\n' && chars[end] != u'\r') ++end;
-    line = text_.sliced(at_, end - at_);
-    at_ = end + 1;
-    if (end + 1 < size && chars[end] == u'\r' && chars[end + 1] == u'\n') ++at_;
+    // Both searches look at many characters at a time; the next line feed may lie lines away.
+    if (feed_ < at_) {
+      feed_ = text_.indexOf(u'\n', at_);
+      if (feed_ < 0) feed_ = size;
+    }
+    const QStringView upTo = text_.sliced(at_, feed_ - at_);
+    const qsizetype back = upTo.indexOf(u'\r');
+    line = back < 0 ? upTo : upTo.first(back);
+    at_ += line.size() + 1;
+    if (back >= 0 && at_ == feed_) ++at_;
     return true;
   }
 
  private:
   QStringView text_;
   qsizetype at_ = 0;
+  qsizetype feed_ = -1;  // the next line feed at or behind at_, or the end of the text
 };
 
 }  // namespace tamo

@@ -15,6 +15,7 @@ constexpr int kColourLength = 9;
 constexpr double kWidest = 100;
 const QString kRed = QStringLiteral("255000000");
 const QString kWholeQuantities = QStringLiteral("WholeQuantities");
+const QString kLook = QStringLiteral("Look");  // before "Light" or "Dark", in the line before that
 
 QString SettingsPath(Files& files, const QString& programFolder, const QString& configFolder,
                      bool forWriting) {
@@ -71,6 +72,8 @@ int ReadSettings(Files& files, const QString& programFolder, const QString& conf
   const int error = files.ReadLines(SettingsPath(files, programFolder, configFolder, false), lines);
   if (error != kNoError) return error;
   record.wholeQuantities = !lines.isEmpty() && lines.last() == kWholeQuantities;
+  const QString look = lines.size() < 2 ? QString() : lines[lines.size() - 2];
+  record.look = look.startsWith(kLook) ? look.mid(kLook.size()) : QString();
   record.lines = 0;
   TakeLines(lines, record);
   return kNoError;
@@ -87,7 +90,8 @@ int WriteSettings(Files& files, const Platform& platform, const SettingsRecord& 
   if (!record.interfaceMode.isEmpty()) lines += record.interfaceMode;
   lines += SignedNumberText(record.autoCheck) + QLatin1Char(' ');
   if (!record.scales.isEmpty()) lines += record.scales;
-  for (int i = 1; i < kReserveLines; ++i) lines += QString();
+  for (int i = 2; i < kReserveLines; ++i) lines += QString();
+  lines += record.look.isEmpty() ? QString() : kLook + record.look;
   lines += record.wholeQuantities ? kWholeQuantities : QString();
   const QString path = SettingsPath(files, platform, true);
   files.MakeFolders(FolderOf(path));

@@ -20,6 +20,7 @@ struct SettingsRecord {
   QString interfaceMode;  // "1" On Site Takeoff, "2" Online Plans, "" when none was ever picked
   int autoCheck = 0;      // 1: open reports follow each save
   QString scales;         // "3" U.S., "4" metric, "" when none was ever picked
+  QString look;           // "Light", "Dark", "" as the desktop is
   bool wholeQuantities = false;  // the reports read the whole quantity column
   int lines = 0;  // of the ten lines above, those that the file had: the fields of the others stay
 };

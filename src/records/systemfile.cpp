@@ -1,7 +1,6 @@
 #include "records/systemfile.h"
 
 #include "common/textlines.h"
-#include "records/linescanner.h"
 #include "records/materialblock.h"
 
 namespace tamo {
@@ -12,21 +11,28 @@ constexpr char kLineEnd[] = "\r\n";
 
 }  // namespace
 
-SystemFile ReadSystemFile(const QString& text) {
+SystemFile ScanSystemFile(QStringView text, LineScanner& rows) {
   SystemFile system;
-  LineScanner lines(text);
+  rows = LineScanner(text);
   QStringView line;
   for (QString* field :
        {&system.description, &system.units, &system.unitPrice, &system.lineColor}) {
-    if (!lines.Next(line)) break;
+    if (!rows.Next(line)) break;
     *field = line.toString();
     ++system.reached;
   }
-  while (lines.Next(line) && line != QLatin1String(kEndMark))
+  while (rows.Next(line) && line != QLatin1String(kEndMark))
     system.notes.append(line).append(QLatin1String(kLineEnd));
-  lines.Next(line);
-  lines.Next(line);
-  while (lines.Next(line)) system.blocks += line.toString();
+  rows.Next(line);
+  rows.Next(line);
+  return system;
+}
+
+SystemFile ReadSystemFile(const QString& text) {
+  LineScanner rows;
+  SystemFile system = ScanSystemFile(text, rows);
+  QStringView line;
+  while (rows.Next(line)) system.blocks += line.toString();
   return system;
 }
 

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 #include "records/datafolder.h"
+#include "records/linescanner.h"
 
 namespace tamo {
 
@@ -25,6 +26,8 @@ struct SystemFile {
 // Each note line comes with its CR LF, so notes grow by one empty line with each save and load. A
 // test holds it.
 SystemFile ReadSystemFile(const QString& text);
+// The same without the material rows, which `rows` then walks through; it lives as long as `text`.
+SystemFile ScanSystemFile(QStringView text, LineScanner& rows);
 
 // The system's file at `path`. Error numbers as Files has them; `system` is empty when there is
 // nothing to read.

@@ -1,9 +1,10 @@
 #include "reports/copies.h"
 
-#include <algorithm>
+#include <vector>
 
-#include "common/columns.h"
 #include "common/numbers.h"
+#include "records/linecolumns.h"
+#include "records/roomline.h"
 #include "reports/copytable.h"
 #include "reports/detailrow.h"
 #include "reports/linequantity.h"
@@ -14,99 +15,77 @@
 namespace tamo {
 namespace {
 
-// What differs between the lines of a room and those of an area.
-struct SheetColumns {
-  qsizetype nameWidth;
-  qsizetype quantityFrom;
-  qsizetype quantityWidth;
-  qsizetype subtotalWidth;
-};
-// Of a room's quantity the copies read the first 10 of 14 characters; a test holds it.
-constexpr SheetColumns kRoom{21, 33, 10, 28};
-constexpr SheetColumns kArea{20, 22, 14, 26};
-
-QStringView LastOf(QStringView text, qsizetype count) {
-  return text.last(qMin(count, text.size()));
-}
-
-// Blanks that fill a column of the heads; none for a text that is wider.
-QStringView BlanksFor(qsizetype count) {
-  static const QString blanks = Blanks(32);
-  return QStringView(blanks).first(std::clamp<qsizetype>(count, 0, blanks.size()));
-}
+constexpr qsizetype kEnd = 28;         // characters of a takeoff line that its head repeats
+constexpr qsizetype kFirstPage = 100;  // rows
 
 class CopyMaker : public TakeoffVisitor {
  public:
   CopyMaker(const ReportSource& source, const Markups& markups, bool office)
       : source_(source),
         shelf_(source),
-        markups_(markups),
-        office_(office),
+        arithmetic_(MarkupFactors(markups), office),
+        rows_(std::make_shared<CopyRows>(arithmetic_)),
         labor_(DetailRow::Labor(office)),
         table_(source.table, office) {
-    Add(QStringLiteral("Project Manager"));
-    Add(office ? QStringLiteral("Office Copy") : QStringLiteral("Field Copy"));
-    Add({});
+    rows_->Add(QStringLiteral("Project Manager"));
+    rows_->Add(office ? QStringLiteral("Office Copy") : QStringLiteral("Field Copy"));
+    rows_->Add({});
   }
 
   void BeginSheet(SheetKind kind, const QString& name) override {
-    Add(name);
+    rows_->Add(name);
     table_.BeginSheet(kind, name);
   }
-  void EndSheet(SheetKind) override { Add({}); }
+  void EndSheet(SheetKind) override { rows_->Add({}); }
 
   void Line(SheetKind kind, QStringView line) override {
-    const SheetColumns& columns = kind == SheetKind::Room ? kRoom : kArea;
     shelf_.Load(SystemOfLine(line));
     const QString& system = shelf_.Asked();
-    const qsizetype head = report_.lines.size();
-    notes_.NoteSystem(shelf_, system, static_cast<int>(head));
-    const bool unitPriced = shelf_.UnitPrice() != 0;
-    const QStringView end = LastOf(line, 28);
-    const QStringView pad = BlanksFor(columns.nameWidth - system.size());
-    if (unitPriced || shelf_.Blocks().empty()) {
-      report_.lines.Add({u"   ", system, pad, end,
-                         unitPriced ? QStringView(u"     Unit price item") : QStringView()});
-      report_.detail.push_back(false);
-      table_.Line(line, WholeQuantity(kind, line));
+    const int head = static_cast<int>(rows_->Count());
+    notes_.NoteSystem(shelf_, system, head);
+    const QStringView end = line.last(qMin(kEnd, line.size()));
+    if (source_.table != nullptr) table_.Line(line, WholeQuantity(kind, line));
+    if (shelf_.UnitPrice() != 0) {
+      rows_->Add(CopyHead(kind, system, end) + QStringLiteral("     Unit price item"));
       table_.EndLine(0);
-      return;
+    } else if (shelf_.Blocks().empty()) {
+      rows_->Add(CopyHead(kind, system, end));
+      table_.EndLine(0);
+    } else {
+      AddLine(kind, end, QuantityOf(kind, line, head));
     }
-    Add({});
-    table_.Line(line, WholeQuantity(kind, line));
-    const double dollars = AddDetails(QuantityOf(kind, line, columns, static_cast<int>(head)));
-    table_.EndLine(dollars);
-    report_.total += dollars;
-    const QString subtotal = office_ ? MoneyText(dollars) : QString();
-    const qsizetype room = office_ ? columns.subtotalWidth - subtotal.size() : 0;
-    report_.lines.SetRow(head, {u"   ", system, pad, end, BlanksFor(room), subtotal});
-    report_.detail.resize(static_cast<size_t>(report_.lines.size()), true);
+    if (!paged_ && rows_->Count() >= kFirstPage) TellFirstPage();
   }
 
   TakeoffCopy Take() {
-    Add(QString(63, QLatin1Char('_')));
-    Add({});
-    if (office_) {
-      Add(QStringLiteral("   This project will take ") + NumberText(Raised(manhours_)) +
-          QStringLiteral(" manhours to complete"));
-      Add(QStringLiteral("   excluding all unit priced descriptions and quantities."));
+    rows_->Add(QString(63, QLatin1Char('_')));
+    rows_->Add({});
+    if (arithmetic_.Office()) {
+      rows_->Add(QStringLiteral("   This project will take ") + NumberText(Raised(manhours_)) +
+                 QStringLiteral(" manhours to complete"));
+      rows_->Add(QStringLiteral("   excluding all unit priced descriptions and quantities."));
       table_.Manhours(Raised(manhours_));
-      Add({});
+      rows_->Add({});
     }
     report_.notes = notes_.Take();
+    report_.rows = rows_;
+    report_.lines = TextRows(rows_);
     return std::move(report_);
   }
 
  private:
-  void Add(const QString& line) {
-    report_.lines += line;
-    report_.detail.push_back(false);
+  void TellFirstPage() {
+    paged_ = true;
+    if (!source_.onFirstPage) return;
+    QStringList rows;
+    for (qsizetype row = 0; row < kFirstPage; ++row) rows += rows_->Row(row);
+    source_.onFirstPage(rows);
   }
 
-  double QuantityOf(SheetKind kind, QStringView line, const SheetColumns& columns, int row) {
+  double QuantityOf(SheetKind kind, QStringView line, int row) {
     const double whole = WholeQuantity(kind, line);
-    const double part = QuantityAt(line, columns.quantityFrom, columns.quantityWidth);
-    if (source_.wholeQuantities) return whole;
+    if (source_.wholeQuantities || kind == SheetKind::Area) return whole;
+    const double part = ValueOf(line, kRoomQuantityStart);
     if (part != whole) {
       report_.partlyRead = true;
       if (partly_ < 0) {
@@ -119,80 +98,92 @@ class CopyMaker : public TakeoffVisitor {
     return part;
   }
 
-  // Adds the lines under a takeoff line; returns what they come to.
-  double AddDetails(double quantity) {
-    const std::vector<DetailRow>& materials = Materials();
-    const std::vector<PricedBlock>& blocks = shelf_.Blocks();
+  // A takeoff line with the lines under it.
+  void AddLine(SheetKind kind, QStringView end, double quantity) {
+    const QString& system = shelf_.Asked();
+    arithmetic_.Work(shelf_.Blocks(), quantity, system, standing_, figures_);
     double dollars = 0;
-    for (size_t i = 0; i < blocks.size(); ++i) {
-      for (const DetailRow::Worth& worth :
-           {AddMaterial(blocks[i], materials[i], quantity), AddLabor(blocks[i], quantity)}) {
-        (worth.labor ? report_.labor : report_.material) += worth.dollars;
-        dollars += worth.dollars;
-      }
+    for (const CopyFigures& of : figures_) {
+      manhours_ += of.manhours;
+      dollars += of.materialDollars + of.laborDollars;
     }
-    CheckFigures({manhours_}, shelf_.Asked());
+    CheckFigures({manhours_}, system);
+    const int number = Number();
+    const bool fits = rows_->AddLine(kind, number, end, quantity, figures_, dollars);
+    const double worth =
+        fits ? CountFitting(rows_->System(number)) : AddAsTexts(kind, end, rows_->System(number));
+    report_.total += worth;
+    if (source_.table != nullptr) TellTable(worth);
+  }
+
+  void TellTable(double worth) {
+    const std::vector<PricedBlock>& blocks = shelf_.Blocks();
+    for (size_t i = 0; i < blocks.size(); ++i) {
+      table_.Material(blocks[i], figures_[i].material / 100, figures_[i].materialDollars);
+      table_.Labor(figures_[i].labor / 100, figures_[i].laborDollars);
+    }
+    table_.EndLine(worth);
+  }
+
+  // The number in the rows of the system at hand.
+  int Number() {
+    const auto asked = static_cast<size_t>(shelf_.Number());
+    if (asked >= numbers_.size()) numbers_.resize(asked + 1, -1);
+    int& number = numbers_[asked];
+    if (number < 0) number = rows_->AddSystem(shelf_.Asked(), shelf_.AtHand());
+    return number;
+  }
+
+  void Count(const DetailRow::Worth& worth) {
+    (worth.labor ? report_.labor : report_.material) += worth.dollars;
+  }
+
+  // What the detail lines come to.
+  double CountFitting(const CopySystem& system) {
+    double dollars = 0;
+    if (!arithmetic_.Office()) return dollars;
+    for (size_t i = 0; i < figures_.size(); ++i) {
+      const bool named = system.materials[i].IsLabor();
+      Count({figures_[i].materialDollars, named});
+      Count({figures_[i].laborDollars, true});
+      dollars += figures_[i].materialDollars;
+      dollars += figures_[i].laborDollars;
+    }
     return dollars;
   }
 
-  const std::vector<DetailRow>& Materials() {
-    const auto number = static_cast<size_t>(shelf_.Number());
-    if (number >= materials_.size()) materials_.resize(number + 1);
-    std::vector<DetailRow>& rows = materials_[number];
-    if (rows.empty()) {
-      for (const PricedBlock& block : shelf_.Blocks())
-        rows.push_back(DetailRow::Material(block, office_));
-    }
-    return rows;
-  }
-
-  DetailRow::Worth AddMaterial(const PricedBlock& block, const DetailRow& row, double quantity) {
-    const QString& system = shelf_.Asked();
-    standing_.orderQuantity = WithWaste(block, OrderQuantity(block, quantity, system, standing_));
-    const double hundredths = Truncated(standing_.orderQuantity * 100);
-    CheckFigures({hundredths}, system);
+  // What a line is worth is then read off its text.
+  double AddAsTexts(SheetKind kind, QStringView end, const CopySystem& system) {
+    TextRows details;
     double dollars = 0;
-    if (office_) {
-      const double m = ReadWithPoint(hundredths) * block.price;
-      const double markups = markups_.MOH * m + markups_.MTX * m + markups_.MMU * m +
-                             markups_.MIOH * m + markups_.MITX * m + markups_.MIMU * m;
-      dollars = Raised(m + markups);
-      CheckFigures({dollars}, system);
+    for (size_t i = 0; i < figures_.size(); ++i) {
+      const CopyFigures& of = figures_[i];
+      for (const DetailRow::Worth& worth :
+           {system.materials[i].AddTo(details, of.material, of.materialDollars),
+            labor_.AddTo(details, of.labor, of.laborDollars)}) {
+        Count(worth);
+        dollars += worth.dollars;
+      }
     }
-    table_.Material(block, hundredths / 100, dollars);
-    return row.AddTo(report_.lines, hundredths, dollars);
-  }
-
-  DetailRow::Worth AddLabor(const PricedBlock& block, double quantity) {
-    const QString& system = shelf_.Asked();
-    standing_.manhours = Manhours(block, quantity, system, standing_);
-    manhours_ += standing_.manhours;
-    const double hundredths = Truncated(standing_.manhours * 100 + 0.5);
-    CheckFigures({hundredths}, system);
-    double dollars = 0;
-    if (office_) {
-      const double labor = standing_.manhours * block.wage;
-      const double markups =
-          Rounded(markups_.LOH * labor + markups_.LTX * labor + markups_.LMU * labor +
-                  markups_.MIOH * labor + markups_.MITX * labor + markups_.MIMU * labor);
-      dollars = Rounded(labor + markups);
-      CheckFigures({dollars}, system);
-    }
-    table_.Labor(hundredths / 100, dollars);
-    return labor_.AddTo(report_.lines, hundredths, dollars);
+    rows_->Add(arithmetic_.Office() ? CopyHead(kind, system.name, end, dollars)
+                                    : CopyHead(kind, system.name, end));
+    for (qsizetype i = 0; i < details.size(); ++i) rows_->AddDetail(details[i]);
+    return dollars;
   }
 
   const ReportSource& source_;
   SystemShelf shelf_;
-  MarkupFactors markups_;
-  bool office_;
+  const CopyArithmetic arithmetic_;
+  const std::shared_ptr<CopyRows> rows_;
+  const DetailRow labor_;
   StandingFigures standing_;
-  std::vector<std::vector<DetailRow>> materials_;  // of each system
-  DetailRow labor_;
+  std::vector<CopyFigures> figures_;  // of the line at hand
+  std::vector<int> numbers_;          // in the rows, of each system of the shelf; -1 for none yet
   CopyTable table_;
   double manhours_ = 0;
   TakeoffCopy report_;
   NoteBook notes_;
+  bool paged_ = false;
   int partly_ = -1;  // the number of the note on quantities that are read in part
 };
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include "common/textrows.h"
@@ -22,28 +21,35 @@ class DetailRow {
     double dollars = 0;
     bool labor = false;
   };
-  // Adds the line with a quantity in hundredths and, in the Office Copy, whole dollars.
+
+  // A quantity in hundredths and, in the Office Copy, whole dollars stand in their columns, and the
+  // line is worth the dollars.
+  bool Fits(double hundredths, double dollars) const {
+    return hundredths >= 0 && hundredths < endOfHundredths_ && dollars >= 0 &&
+           dollars < endOfDollars_;
+  }
+  // The line with figures that fit. All of them are of one size.
+  QString Text(double hundredths, double dollars) const;
+  qsizetype Size() const { return blank_.size(); }
+  bool IsLabor() const { return labor_; }
+
+  // Adds the line with any figures.
   Worth AddTo(TextRows& rows, double hundredths, double dollars) const;
 
  private:
   DetailRow(bool office, const QString& name, const QString& unit, qsizetype quantityWidth,
             qsizetype dollarsWidth);
 
-  // The long way, for what does not fit or is not Latin-1.
-  Worth AddGrown(TextRows& rows, double hundredths, double dollars) const;
-  Worth ReadWorth(const TextRows& rows) const;
-
   bool office_;
   QString name_;
   QString unit_;
   qsizetype quantityWidth_;
   qsizetype dollarsWidth_;
-  QByteArray blank_;  // the whole line without its figures
-  // Figures of at least 0 and less than these fit; none when the line is not Latin-1.
+  QString blank_;  // the whole line without its figures
+  // Figures of at least 0 and less than these fit.
   double endOfHundredths_ = 0;
   double endOfDollars_ = 0;
   bool labor_;
-  bool onlyDollars_;  // nothing but blanks and dollars in the last 14 characters
 };
 
 }  // namespace tamo

@@ -1,22 +1,24 @@
 #include "reports/pricedsystem.h"
 
+#include <array>
 #include <utility>
 
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "records/materialblock.h"
+#include "reports/reportmemory.h"
 
 namespace tamo {
 namespace {
 
-OrderTag OrderTagOf(const QString& text) {
+OrderTag OrderTagOf(QStringView text) {
   if (text == QLatin1String(kUpo)) return OrderTag::Upo;
   if (text == QLatin1String(kOpu)) return OrderTag::Opu;
   return OrderTag::None;
 }
 
-LaborTag LaborTagOf(const QString& text) {
+LaborTag LaborTagOf(QStringView text) {
   if (text == QLatin1String(kUpm)) return LaborTag::Upm;
   if (text == QLatin1String(kMpu)) return LaborTag::Mpu;
   return LaborTag::None;
@@ -24,60 +26,91 @@ LaborTag LaborTagOf(const QString& text) {
 
 }  // namespace
 
-std::vector<PricedBlock> PricedBlocks(const QStringList& lines) {
+std::vector<PricedBlock> PricedBlocks(LineScanner rows) {
   std::vector<PricedBlock> blocks;
-  for (qsizetype at = 0; at < lines.size(); at += kBlockRows) {
-    const MaterialBlock texts = MaterialBlock::At(lines, at);
-    PricedBlock block;
-    block.material = texts.material;
-    block.orderUnit = texts.orderUnits;
-    block.price = Value(texts.price);
-    block.ratio = Value(texts.upo);
-    block.orderTag = OrderTagOf(texts.upoTag);
-    block.manhourRatio = Value(texts.mnhrPO);
-    block.laborTag = LaborTagOf(texts.mnhrTag);
-    block.waste = Value(texts.waste);
-    block.wage = Value(texts.wageRate);
-    blocks.push_back(block);
+  for (;;) {
+    std::array<QStringView, kBlockRows> texts;
+    size_t count = 0;
+    while (count < texts.size() && rows.Next(texts[count])) ++count;
+    if (count == 0) return blocks;
+    for (; count < texts.size(); ++count) texts[count] = {};
+    PricedBlock& block = blocks.emplace_back();
+    block.material = texts[0].toString();
+    block.orderUnit = texts[1].toString();
+    block.price = Value(texts[2]);
+    block.ratio = Value(texts[3]);
+    block.orderTag = OrderTagOf(texts[4]);
+    block.manhourRatio = Value(texts[5]);
+    block.laborTag = LaborTagOf(texts[6]);
+    block.waste = Value(texts[7]);
+    block.wage = Value(texts[8]);
   }
-  return blocks;
 }
 
-int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& system) {
-  system = PricedSystem();
-  if (!NameRefusal(name).isEmpty()) return kFileNotFound;
-  const int error = ReadSystemFile(source.files, source.project.SystemFile(name), system.file);
-  if (error != kNoError) {
-    if (!IsMissing(error) && source.uncounted != nullptr)
-      source.uncounted->File(QStringLiteral("the price of \"%1\"").arg(name),
-                             source.project.SystemFile(name), error);
-    system.file = {};
-    return error;
-  }
+PricedSystem PricedSystemOf(const QString& text) {
+  PricedSystem system;
+  LineScanner rows;
+  system.file = ScanSystemFile(text, rows);
+  system.blocks = PricedBlocks(rows);
   system.found = true;
-  system.blocks = PricedBlocks(std::exchange(system.file.blocks, {}));
-  return kNoError;
+  return system;
+}
+
+namespace {
+
+// The text of the file. That it was read here is remembered: when it is missing later, it is gone.
+int ReadSystemText(const ReportSource& source, const QString& name, QString& text) {
+  if (!NameRefusal(name).isEmpty()) return kFileNotFound;
+  const QString path = source.project.SystemFile(name);
+  const int error = source.files.ReadForReport(path, text);
+  if (error == kNoError) {
+    source.files.Expect(path);
+  } else if (!IsMissing(error) && source.uncounted != nullptr) {
+    source.uncounted->File(QStringLiteral("the price of \"%1\"").arg(name), path, error);
+  }
+  return error;
+}
+
+}  // namespace
+
+int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& system) {
+  QString text;
+  const int error = ReadSystemText(source, name, text);
+  system = error == kNoError ? PricedSystemOf(text) : PricedSystem();
+  return error;
+}
+
+SystemShelf::Entry SystemShelf::Read(const QString& name) const {
+  Entry entry;
+  QString text;
+  if (ReadSystemText(source_, name, text) != kNoError) {
+    entry.system = std::make_shared<PricedSystem>();
+  } else if (source_.memory != nullptr) {
+    entry.system = source_.memory->System(name, text);
+  } else {
+    entry.system = std::make_shared<PricedSystem>(PricedSystemOf(text));
+  }
+  entry.unitPrice = Value(entry.system->file.unitPrice);
+  for (const PricedBlock& block : entry.system->blocks)
+    entry.readsZero = entry.readsZero || block.ReadsZero();
+  return entry;
 }
 
 void SystemShelf::Load(QStringView name) {
   int at = index_.Find(name);
   if (at < 0) {
+    Entry entry = Read(name.toString());
     at = index_.Add(name);
-    auto entry = std::make_unique<Entry>();
-    LoadSystem(source_, index_.At(at), entry->system);
-    entry->unitPrice = Value(entry->system.file.unitPrice);
-    for (const PricedBlock& block : entry->system.blocks)
-      entry->readsZero = entry->readsZero || block.ReadsZero();
-    entries_.push_back(std::move(entry));
+    entries_.push_back(std::make_unique<Entry>(std::move(entry)));
   }
   if (at == number_) return;
   number_ = at;
   const Entry& entry = *entries_[static_cast<size_t>(at)];
-  found_ = entry.system.found;
+  found_ = entry.system->found;
   readsZero_ = entry.readsZero;
-  blocks_ = &entry.system.blocks;
+  blocks_ = &entry.system->blocks;
   if (!found_) return;
-  const SystemFile& file = entry.system.file;
+  const SystemFile& file = entry.system->file;
   if (file.reached > 0) name_ = &file.description;
   if (file.reached > 1) units_ = &file.units;
   if (file.reached > 2) {

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "records/linescanner.h"
 #include "records/systemfile.h"
 #include "reports/namerows.h"
 #include "reports/reportsource.h"
@@ -33,16 +34,18 @@ struct PricedBlock {
   bool ReadsZero() const { return price == 0 || ratio == 0 || manhourRatio == 0 || wage == 0; }
 };
 
-// The material lines of a system as blocks of twelve. A last block of fewer lines counts, its
-// missing lines empty.
-std::vector<PricedBlock> PricedBlocks(const QStringList& lines);
+// The material rows of a system as blocks of twelve. A last block of fewer rows counts, its missing
+// rows empty.
+std::vector<PricedBlock> PricedBlocks(LineScanner rows);
 
 // A system's file in the project, as the reports read it.
 struct PricedSystem {
-  SystemFile file;
+  SystemFile file;     // without its material rows
   bool found = false;  // there is such a file
   std::vector<PricedBlock> blocks;
 };
+
+PricedSystem PricedSystemOf(const QString& text);
 
 // Reads the project's copy of the system `name`; the library is never read.
 int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& system);
@@ -65,6 +68,10 @@ class SystemShelf {
   double UnitPrice() const { return unitPrice_; }
   const QString& Notes() const { return *notes_; }
   const std::vector<PricedBlock>& Blocks() const { return *blocks_; }
+  // The system itself, as it stands.
+  const std::shared_ptr<const PricedSystem>& AtHand() const {
+    return entries_[static_cast<size_t>(number_)]->system;
+  }
   bool Found() const { return found_; }
   // Some material of the system at hand reads a figure of 0.
   bool ReadsZero() const { return readsZero_; }
@@ -74,10 +81,12 @@ class SystemShelf {
 
  private:
   struct Entry {
-    PricedSystem system;
+    std::shared_ptr<const PricedSystem> system;
     double unitPrice = 0;
     bool readsZero = false;
   };
+
+  Entry Read(const QString& name) const;
 
   const ReportSource& source_;
   NameRows index_;

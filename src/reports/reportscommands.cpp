@@ -135,7 +135,7 @@ void ReportsForm::Refresh() {
 void ReportsForm::Ticked(int row) {
   if (running_) return;
   const bool ticked = Reporter1.Ticked(row);
-  if (row >= static_cast<int>(detail_.size()) || !detail_[static_cast<size_t>(row)]) {
+  if (copied_ == nullptr || !copied_->IsDetail(row)) {
     Reporter1.SetTicked(row, false);
     return;
   }

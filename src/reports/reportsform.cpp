@@ -38,11 +38,10 @@ ReportsForm::ReportsForm(const Kit& kit, const Joins& joins)
     : Form(kit.desk, QStringLiteral("Reports")), kit_(kit), joins_(joins) {
   AddText(QStringLiteral("Flag"), &Flag);
   AddText(QStringLiteral("Adjustment"), &Adjustment);
-  PrepareControls();
   BindControls();
 }
 
-void ReportsForm::PrepareControls() {
+void ReportsForm::BindControls() {
   for (TextField* field :
        {&ttText, &tlText, &tmText, &tcText, &pcText, &lcText, &lpText, &mcText, &mpText}) {
     field->PutInto(Frame1);
@@ -53,9 +52,6 @@ void ReportsForm::PrepareControls() {
                                        &Frame1, &VersionLabel, &BackToNow, &KeepPrinted})
     control->Hide();
   prList.inTabOrder = false;
-}
-
-void ReportsForm::BindControls() {
   Reporter1.onTick = [this](int row) { Ticked(row); };
   NotesList.onSelect = [this] { NotePicked(); };
   WholeQuantities.onChange = [this] { WholeQuantitiesChanged(); };
@@ -68,7 +64,7 @@ void ReportsForm::Clear() {
   Frame1.Hide();
   Reporter.Clear();
   Reporter1.Clear();
-  detail_.clear();
+  copied_.reset();
   ClearNotes();
 }
 
@@ -110,7 +106,20 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(), &uncounted_};
+  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(),
+          &uncounted_,     &memory_};
+}
+
+// A refresh keeps its place in the report, which may lie behind the first page.
+ReportSource ReportsForm::SourceOfCopy(OrderedList& list) {
+  ReportSource source = Source();
+  if (!refreshing_) {
+    source.onFirstPage = [&list](const QStringList& rows) {
+      list.SetRows(rows);
+      list.Show();
+    };
+  }
+  return source;
 }
 
 Markups ReportsForm::LoadedMarkups() {
@@ -146,7 +155,7 @@ void ReportsForm::Fill(Report report, bool readsQuantities) {
 
 void ReportsForm::FillCopy(TakeoffCopy report) {
   Reporter1.TakeRows(ListRows(std::move(report.lines)));
-  detail_ = std::move(report.detail);
+  copied_ = report.rows;
   TakeNotes(report, true);
   progress_.Begin(report.total, report.labor, report.material);
   ShowProgress();
@@ -211,10 +220,10 @@ void ReportsForm::AreaRoomWP() {
     if (Flag == QLatin1String("True")) {
       kind_ = ReportKind::OfficeCopy;
       const Markups markups = LoadedMarkups();
-      FillCopy(OfficeCopy(Source(), markups));
+      FillCopy(OfficeCopy(SourceOfCopy(Reporter1), markups));
     } else if (Flag == QLatin1String("False")) {
       kind_ = ReportKind::FieldCopy;
-      Fill(FieldCopy(Source()), true);
+      Fill(FieldCopy(SourceOfCopy(Reporter)), true);
     }
   });
 }

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "common/form.h"
@@ -13,6 +14,7 @@
 #include "reports/projectrecord.h"
 #include "reports/reportedbid.h"
 #include "reports/reportfiles.h"
+#include "reports/reportmemory.h"
 #include "reports/reportsource.h"
 #include "workspace/frontwindows.h"
 #include "workspace/settingsform.h"
@@ -21,8 +23,8 @@ namespace tamo {
 
 // One screen for all reports. A report is a list of lines of fixed width whose first line is its
 // title; it is made from the files of the open project each time, and shown, printed or copied as
-// it stands. While a report is made its lists are hidden; one that stops on a failure leaves them
-// hidden and empty.
+// it stands. While a report is made its lists are hidden, but the first page of a copy is shown as
+// soon as it stands; one that stops on a failure leaves them hidden and empty.
 class ReportsForm : public Form {
  public:
   // What it is joined to; all of it outlives the form.
@@ -115,12 +117,9 @@ class ReportsForm : public Form {
  private:
   void BindControls();
   void BindVersions();
-  void ShowMark();
   QStringList WriteFigures(ReportKind kind, TableSink& table);
-  void MakeFigures(ReportKind kind, TableSink& table);
   ShownReport InWindow();
   void OfferToKeep();
-  void PrepareControls();
   void Make(const std::function<void()>& report);
   void Fill(Report report, bool readsQuantities = false);
   void FillCopy(TakeoffCopy report);
@@ -128,6 +127,7 @@ class ReportsForm : public Form {
   void Clear();
   void ClearNotes();
   ReportSource Source();
+  ReportSource SourceOfCopy(OrderedList& list);
   Markups LoadedMarkups();
   void FocusList();
   ListRows WithUncounted(const ListRows& report) const;
@@ -140,14 +140,15 @@ class ReportsForm : public Form {
 
   const Kit kit_;
   Joins joins_;
+  ReportMemory memory_;
   ReportedBid bid_{kit_, joins_.history, joins_.record};
   std::shared_ptr<const FormerBid> compared_;  // of the last comparison
   ReportKind kind_ = ReportKind::Recap;        // of the report in the window
   bool running_ = false;     // a report is being made: ticks do not count, no other begins
   bool refreshing_ = false;  // the window stays where it is
   std::vector<ReportNote> notes_;
-  Uncounted uncounted_;       // by the report in the window
-  std::vector<bool> detail_;  // of Reporter1: the lines that can be ticked
+  Uncounted uncounted_;                     // by the report in the window
+  std::shared_ptr<const CopyRows> copied_;  // in Reporter1: its detail lines can be ticked
   ProjectProgress progress_;
   double bottomLineSum_ = 0;  // as a breakdown with an adjustment last made it
 };

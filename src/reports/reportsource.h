@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <vector>
 
@@ -11,6 +12,8 @@
 #include "reports/uncounted.h"
 
 namespace tamo {
+
+class ReportMemory;
 
 // Where a report reads from, and whom it tells how far it is. The files outlive it.
 struct ReportSource {
@@ -23,6 +26,12 @@ struct ReportSource {
   bool wholeQuantities = false;
   // Takes what could not be counted; may be null. It outlives the source.
   Uncounted* uncounted = nullptr;
+  // What earlier reports have read out of texts, so that it need not be read out of the same texts
+  // again; may be null. It outlives the source.
+  ReportMemory* memory = nullptr;
+  // Takes the first rows of a copy as soon as they stand; may be empty. Other reports stand only
+  // when the last sheet has been read.
+  std::function<void(const QStringList& rows)> onFirstPage = {};
   // Gets the same figures as the lines, one row a line; may be null. It outlives the source.
   TableSink* table = nullptr;
 };

@@ -48,23 +48,19 @@ QStringList ReportsForm::WriteFigures(ReportKind kind, TableSink& table) {
     Running(const Running&) = delete;
     Running& operator=(const Running&) = delete;
   } running(*this);
-  MakeFigures(kind, table);
-  running.whole = true;
-  QStringList remarks = uncounted_.Sentences();
-  if (bid_.Former()) remarks.prepend(bid_.Mark());
-  return remarks;
-}
-
-void ReportsForm::MakeFigures(ReportKind kind, TableSink& table) {
   ReportSource source = Source();
   source.table = &table;
   if (kind == ReportKind::WhatChanged) {
     bid_.CompareWith(*compared_, source);
-    return;
+  } else {
+    const ReportFacts facts{LoadedMarkups(), kit_.shared.JobID, bid_.Facts()};
+    QString adjustment = bid_.Former() ? QString() : Adjustment;
+    MakeReport(kind, source, facts, adjustment);
   }
-  const ReportFacts facts{LoadedMarkups(), kit_.shared.JobID, bid_.Facts()};
-  QString adjustment = bid_.Former() ? QString() : Adjustment;
-  MakeReport(kind, source, facts, adjustment);
+  running.whole = true;
+  QStringList remarks = uncounted_.Sentences();
+  if (bid_.Former()) remarks.prepend(bid_.Mark());
+  return remarks;
 }
 
 }  // namespace tamo

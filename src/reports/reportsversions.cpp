@@ -31,10 +31,6 @@ void ReportsForm::OfferToKeep() {
 
 void ReportsForm::LookAt(std::shared_ptr<const FormerBid> former) {
   bid_.LookAt(std::move(former));
-  ShowMark();
-}
-
-void ReportsForm::ShowMark() {
   VersionLabel.SetCaption(bid_.Mark());
   VersionLabel.SetShown(bid_.Former());
   BackToNow.SetShown(bid_.Former());

@@ -72,55 +72,53 @@ class Sheets {
   std::vector<QStringView> areas_;
 };
 
-// Walks through the sheets while the files of the next ones are read.
-class Walk {
- public:
-  Walk(const ReportSource& source, TakeoffVisitor& visitor, const Sheets& sheets)
-      : source_(source),
-        visitor_(visitor),
-        sheets_(sheets),
-        texts_(source.files, sheets.Count(), [&sheets](size_t at) { return sheets.PathOf(at); }),
-        all_(static_cast<int>(sheets.Count())) {}
-
-  void Sheet(size_t at) {
-    const SheetKind kind = sheets_.KindOf(at);
-    visitor_.BeginSheet(kind, sheets_.NameOf(at));
-    QString text;
-    const int error = texts_.Next(text);
-    if (error != kNoError && source_.uncounted != nullptr)
-      source_.uncounted->File(sheets_.Called(at), sheets_.PathOf(at), error);
-    const bool room = kind == SheetKind::Room;
-    const ColumnRange quantity = room ? kRoomQuantityMerged : kAreaQuantityMerged;
-    LineScanner scanner = room ? ScanRoom(text).lines : ScanArea(text);
-    QStringView line;
-    int unread = 0;
-    while (scanner.Next(line)) {
-      if (LacksQuantity(line, ColumnsOf(line, quantity))) ++unread;
-      visitor_.Line(kind, line);
-      if (++lines_ % kLinesBetweenTellings == 0) TellProgress(source_, done_, all_);
-    }
-    visitor_.EndSheet(kind);
-    if (unread > 0 && source_.uncounted != nullptr)
-      source_.uncounted->Lines(sheets_.Called(at), sheets_.PathOf(at), unread);
-    TellProgress(source_, ++done_, all_);
-  }
-
- private:
-  const ReportSource& source_;
-  TakeoffVisitor& visitor_;
-  const Sheets& sheets_;
-  TextsAhead texts_;
-  int done_ = 0;
-  int all_;
-  int lines_ = 0;
-};
-
 }  // namespace
 
-void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor) {
+LineScanner LinesOf(const TakeoffSheet& sheet) {
+  return sheet.kind == SheetKind::Room ? ScanRoom(sheet.text).lines : ScanArea(sheet.text);
+}
+
+// The files of the next sheets are read meanwhile.
+void WalkSheets(const ReportSource& source, const std::function<int(const TakeoffSheet&)>& each) {
   const Sheets sheets(source);
-  Walk walk(source, visitor, sheets);
-  for (size_t at = 0; at < sheets.Count(); ++at) walk.Sheet(at);
+  const size_t all = sheets.Count();
+  TextsAhead texts(source.files, all, [&sheets](size_t at) { return sheets.PathOf(at); });
+  for (size_t at = 0; at < all; ++at) {
+    TakeoffSheet sheet{sheets.KindOf(at), at, all, sheets.NameOf(at), {}};
+    const int error = texts.Next(sheet.text);
+    if (error != kNoError && source.uncounted != nullptr)
+      source.uncounted->File(sheets.Called(at), sheets.PathOf(at), error);
+    const int unread = each(sheet);
+    if (unread > 0 && source.uncounted != nullptr)
+      source.uncounted->Lines(sheets.Called(at), sheets.PathOf(at), unread);
+    TellProgress(source, static_cast<int>(at) + 1, static_cast<int>(all));
+  }
+}
+
+int WalkLines(const ReportSource& source, const TakeoffSheet& sheet,
+              const std::function<void(QStringView)>& each) {
+  const ColumnRange quantity =
+      sheet.kind == SheetKind::Room ? kRoomQuantityMerged : kAreaQuantityMerged;
+  LineScanner lines = LinesOf(sheet);
+  QStringView line;
+  int unread = 0;
+  for (int count = 1; lines.Next(line); ++count) {
+    if (LacksQuantity(line, ColumnsOf(line, quantity))) ++unread;
+    each(line);
+    if (count % kLinesBetweenTellings == 0)
+      TellProgress(source, static_cast<int>(sheet.number), static_cast<int>(sheet.all));
+  }
+  return unread;
+}
+
+void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor) {
+  WalkSheets(source, [&](const TakeoffSheet& sheet) {
+    visitor.BeginSheet(sheet.kind, sheet.name);
+    const int unread =
+        WalkLines(source, sheet, [&](QStringView line) { visitor.Line(sheet.kind, line); });
+    visitor.EndSheet(sheet.kind);
+    return unread;
+  });
 }
 
 }  // namespace tamo

@@ -2,8 +2,10 @@
 
 #include <QString>
 #include <QStringView>
+#include <functional>
 
 #include "records/linecolumns.h"
+#include "records/linescanner.h"
 #include "reports/reportsource.h"
 
 namespace tamo {
@@ -22,5 +24,23 @@ class TakeoffVisitor {
 // Every line of every room, then of every area, in their order. No rooms are visited when the list
 // of rooms can't be read. Tells its progress, also within a long sheet.
 void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor);
+
+// A sheet as its file holds it.
+struct TakeoffSheet {
+  SheetKind kind = SheetKind::Room;
+  size_t number = 0;  // in the order of the walk, from 0
+  size_t all = 0;     // sheets
+  QString name;
+  QString text;  // empty when it can't be read, which the source is told
+};
+LineScanner LinesOf(const TakeoffSheet& sheet);
+
+// The same by whole sheets. `each` returns how many lines of its sheet lack a quantity, and tells
+// its progress within a long one.
+void WalkSheets(const ReportSource& source, const std::function<int(const TakeoffSheet&)>& each);
+
+// `each` for every line of a sheet; returns how many of them lack a quantity.
+int WalkLines(const ReportSource& source, const TakeoffSheet& sheet,
+              const std::function<void(QStringView)>& each);
 
 }  // namespace tamo

@@ -41,7 +41,8 @@ QStringList Uncounted::Sentences() const {
 
 bool LacksQuantity(QStringView line, QStringView quantity) {
   if (line.isEmpty()) return false;
-  return std::none_of(quantity.begin(), quantity.end(), [](QChar c) { return c.isDigit(); });
+  // From the right, where the figures stand.
+  return std::none_of(quantity.rbegin(), quantity.rend(), [](QChar c) { return c.isDigit(); });
 }
 
 }  // namespace tamo

@@ -76,13 +76,13 @@ void EstimateForm::EnterArea() {
 bool EstimateForm::FollowAreaName() {
   if (!lines_.OfOpenProject() || NameStands()) return true;
   bool loaded = false;
-  following_ = true;
+  now_.following = true;
   GetDesk().Dispatch([&] {
     EnterArea();
     LoadArea();
     loaded = true;
   });
-  following_ = false;
+  now_.following = false;
   if (!loaded) GetDesk().Focus(Area);
   return loaded;
 }
@@ -142,7 +142,7 @@ void EstimateForm::UnknownSystem() {
   kit_.desk.GetMessages().Tell(name + QStringLiteral(" Not Found"));
   // No height or length that is measured meanwhile meets the line before.
   kit_.shared.IAmHere.clear();
-  unknown_ = true;
+  now_.unknown = true;
   pricing_.ShowWithName(name);
   DescriptionsList.Insert(0, name);
 }

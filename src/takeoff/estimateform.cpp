@@ -58,8 +58,8 @@ void EstimateForm::Init() {
   ShowScale();
   GetDesk().Focus(Area);
   // Back from pricing a new system: the chain goes on with its name.
-  if (unknown_ && NameStands()) GetDesk().Focus(eDescription);
-  unknown_ = false;
+  if (now_.unknown && NameStands()) GetDesk().Focus(eDescription);
+  now_.unknown = false;
 }
 
 // When another project is open than the one whose area stands here, nothing of it may be stored
@@ -68,7 +68,7 @@ void EstimateForm::FollowProject() {
   if (lines_.OfOpenProject()) return;
   for (TextField* field : {&Area, &eDescription, &Units, &Hite, &eLength}) field->Clear();
   Lengths.Clear();
-  unknown_ = false;
+  now_.unknown = false;
   measured.Forget();
   ForgetLines();
   lines_.FollowProject();
@@ -78,13 +78,13 @@ void EstimateForm::LeaveForm() {
   for (TextField* field : {&Area, &Hite, &eLength}) field->Clear();
   measured.Forget();
   ForgetLines();
-  unknown_ = false;
+  now_.unknown = false;
   Hide();
 }
 
 void EstimateForm::ForgetLines() {
   AreaList.Clear();
-  unread_ = false;
+  now_.unread = false;
   lines_.Forget();
 }
 
@@ -115,9 +115,9 @@ void EstimateForm::LoadArea() {
   lines_.Begin(Area.Text());
   // Of a file that can't be read now come the lines that it had when it could.
   const bool missing = IsMissing(failure);
-  unread_ = error_ != kNoError && (missing || failure == kNoError);
+  now_.unread = error_ != kNoError && (missing || failure == kNoError);
   if (missing) error_ = failure;
-  if (!unread_) AreaList.AddAll(lines);
+  if (!now_.unread) AreaList.AddAll(lines);
   UpdateStatus();
   if (kept >= 0 && kept < AreaList.Count()) AreaList.SetIndex(kept);
 }
@@ -126,10 +126,10 @@ void EstimateForm::LoadArea() {
 // they come up before those that were entered meanwhile.
 void EstimateForm::PrepareSave() {
   lines_.RequireStorable(Area.Text());
-  if (!unread_) return;
+  if (!now_.unread) return;
   QStringList lines;
   ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), lines);
-  unread_ = false;
+  now_.unread = false;
   for (qsizetype i = 0; i < lines.size(); ++i) AreaList.Insert(static_cast<int>(i), lines[i]);
 }
 
@@ -150,7 +150,7 @@ void EstimateForm::ReadAgain() {
     AreasList.Refill(rows);
     areaIndex_ = AreasList.RowAfter(before, areaIndex_);
   }
-  if (!Area.Empty() && NameStands() && !unread_ &&
+  if (!Area.Empty() && NameStands() && !now_.unread &&
       kit_.files.IsBehind(project.AreaFile(Area.Text())) &&
       ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), rows) == kNoError)
     AreaList.Refill(rows);

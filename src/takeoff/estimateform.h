@@ -103,8 +103,7 @@ class EstimateForm : public TakeoffForm {
   void PasteLines();
 
   // estimatestate.cpp: what taking back shows, and what it calls an entry
-  QString InArea() const;  // " in "Yard""
-  void BeginQuantity();    // a length or a count is entered
+  void BeginQuantity();  // a length or a count is entered
   void LeaveArea();
 
   AutoRoomSwitch autoRoom_{AutoRoom};
@@ -117,10 +116,12 @@ class EstimateForm : public TakeoffForm {
   // lines until a system is loaded (held by a test).
   int error_ = 0;
   LinesInWork lines_{kit_.shared, "area"};
-  bool unread_ = false;     // the file of the area was not read: AreaList lacks its lines
-  bool following_ = false;  // a name is followed: the focus goes where the estimator sends it
-  bool quiet_ = false;      // a line is selected without being begun
-  bool unknown_ = false;    // a system that is not there yet led to Pricing
+  struct {
+    bool unread = false;     // the file of the area was not read: AreaList lacks its lines
+    bool following = false;  // a name is followed: the focus goes where the estimator sends it
+    bool quiet = false;      // a line is selected without being begun
+    bool unknown = false;    // a system that is not there yet led to Pricing
+  } now_;
 };
 
 }  // namespace tamo

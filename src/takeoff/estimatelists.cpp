@@ -26,7 +26,7 @@ void EstimateForm::AreaSelected() {
 
 void EstimateForm::LineSelected() {
   UpdateStatus();
-  if (quiet_) return;
+  if (now_.quiet) return;
   const AreaLine line(AreaList.Selected());
   if (line.Text().isEmpty() || !NameStands()) return;
   eDescription.SetText(line.System());
@@ -39,7 +39,7 @@ void EstimateForm::LineSelected() {
   LengthLabel.SetCaption(surface ? QStringLiteral("Length:")
                          : count ? QStringLiteral("How Many")
                                  : QStringLiteral("Length"));
-  if (!following_) GetDesk().Focus(surface ? Hite : eLength);
+  if (!now_.following) GetDesk().Focus(surface ? Hite : eLength);
 }
 
 // The system goes to the top of the list; Enter in the field goes on with it.
@@ -82,8 +82,9 @@ bool EstimateForm::LineIsSelected() {
 void EstimateForm::DeleteLine() {
   if (!LineIsSelected()) return;
   const QString system = AreaLine(AreaList.Selected()).System();
-  steps_.Begin(system.isEmpty() ? QStringLiteral("the deletion of an empty line") + InArea()
-                                : QStringLiteral("the deletion of ") + system + InArea(),
+  steps_.Begin(system.isEmpty()
+                   ? QStringLiteral("the deletion of an empty line") + InSheet(Area.Text())
+                   : QStringLiteral("the deletion of ") + system + InSheet(Area.Text()),
                *this);
   AreaList.Remove(AreaList.Index());
   SaveArea();
@@ -96,7 +97,7 @@ void EstimateForm::DeleteLine() {
 // The empty slot is stored, unlike that of a room.
 void EstimateForm::InsertLine() {
   if (!LineIsSelected()) return;
-  steps_.Begin(QStringLiteral("the empty line") + InArea(), *this);
+  steps_.Begin(QStringLiteral("the empty line") + InSheet(Area.Text()), *this);
   AreaList.Insert(AreaList.Index(), QString());
   SaveArea();
   UpdateStatus();
@@ -111,7 +112,7 @@ void EstimateForm::CopyLines() {
 void EstimateForm::PasteLines() {
   if (CopyAreaList.Empty() || !FollowAreaName()) return;
   lines_.RequireStorable(Area.Text());
-  steps_.Begin(QStringLiteral("the lines pasted") + InArea(), *this);
+  steps_.Begin(QStringLiteral("the lines pasted") + InSheet(Area.Text()), *this);
   AreaList.Clear();
   AreaList.AddAll(CopyAreaList.Rows());
   Hite.SetText(copyHite_);

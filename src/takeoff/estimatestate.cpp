@@ -10,17 +10,13 @@
 
 namespace tamo {
 
-QString EstimateForm::InArea() const {
-  return QStringLiteral(" in \"%1\"").arg(Area.Text());
-}
-
 void EstimateForm::BeginQuantity() {
   const bool surface = !IsLinearOrCount(Units.Text());
   const AreaLine line(AreaList.Selected());
   const QString system = line.Text().isEmpty() ? eDescription.Text() : line.System();
   const QString entry =
       surface ? Hite.Text() + QStringLiteral(" X ") + eLength.Text() : eLength.Text();
-  steps_.Begin(entry + QStringLiteral(" of ") + system + InArea(), *this);
+  steps_.Begin(entry + QStringLiteral(" of ") + system + InSheet(Area.Text()), *this);
   if (surface) {
     steps_.Measured({{"EL", eLength.Text()}, {"EH", Hite.Text()}});
   } else {
@@ -47,9 +43,9 @@ SheetState EstimateForm::State() const {
 
 void EstimateForm::ShowState(const SheetState& state) {
   ChangeRows(AreaList, state.lines.List());
-  quiet_ = true;
+  now_.quiet = true;
   if (state.line != SheetState::kAsItIs) AreaList.SetIndex(state.line);
-  quiet_ = false;
+  now_.quiet = false;
   Hite.SetText(state.texts.value(0));
   Lengths.SetRows(state.texts.value(1).split(QLatin1Char('\n'), Qt::SkipEmptyParts));
   UpdateStatus();
@@ -71,7 +67,7 @@ void EstimateForm::FollowFiles(const QStringList& paths) {
       return;
     }
   }
-  if (inWork && !unread_ && paths.contains(project.AreaFile(Area.Text()))) {
+  if (inWork && !now_.unread && paths.contains(project.AreaFile(Area.Text()))) {
     const int error = ReadAreaDelimited(kit_.files, kit_.shared, Area.Text(), rows);
     if (error == kNoError || IsMissing(error)) ChangeRows(AreaList, rows);
   }

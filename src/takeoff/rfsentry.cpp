@@ -132,7 +132,7 @@ void RFSForm::AddLine(int at) {
 // How in "Enter" mode: the room is finished.
 void RFSForm::FinishRoom() {
   record_.RequireStorable();
-  steps_.Begin(QStringLiteral("the height") + InRoom(), *this);
+  steps_.Begin(QStringLiteral("the height") + InSheet(Room.Text()), *this);
   if (How.Empty()) How.SetText(CopyHeight);
   CopyHeight = How.Text();
   record_.SaveRoom();

@@ -72,7 +72,6 @@ class RFSForm : public RFSScreen {
   void FinishSchedule();
 
   // rfsstate.cpp: what taking back shows, and what it calls an entry
-  QString InRoom() const;   // " in "101""
   QString TheLine() const;  // the system and the finish area in the fields
   void BeginLine();         // a line is entered
   void BeginQuantity();     // a length or a count is entered

@@ -7,24 +7,20 @@
 
 namespace tamo {
 
-QString RFSForm::InRoom() const {
-  return QStringLiteral(" in \"%1\"").arg(Room.Text());
-}
-
 QString RFSForm::TheLine() const {
   return Area.Empty() ? Description.Text()
                       : Description.Text() + QStringLiteral(", ") + Area.Text();
 }
 
 void RFSForm::BeginLine() {
-  steps_.Begin(QStringLiteral("the line ") + TheLine() + InRoom(), *this);
+  steps_.Begin(QStringLiteral("the line ") + TheLine() + InSheet(Room.Text()), *this);
 }
 
 void RFSForm::BeginQuantity() {
   const bool surface = !IsLinearOrCount(Units.Text());
   const QString entry =
       surface ? How.Text() + QStringLiteral(" X ") + Length.Text() : Length.Text();
-  steps_.Begin(entry + QStringLiteral(" of ") + TheLine() + InRoom(), *this);
+  steps_.Begin(entry + QStringLiteral(" of ") + TheLine() + InSheet(Room.Text()), *this);
   if (surface) {
     steps_.Measured({{"RL", Length.Text()}, {"RH", How.Text()}});
   } else {

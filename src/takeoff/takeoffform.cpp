@@ -106,6 +106,10 @@ QString WithKind(const QString& kind, const QString& name) {
   return name.startsWith(kind, Qt::CaseInsensitive) ? name : kind + QLatin1Char(' ') + name;
 }
 
+QString InSheet(const QString& name) {
+  return QStringLiteral(" in \"%1\"").arg(name);
+}
+
 void PickToTop(OrderedList& list, TextField& field) {
   const QString name = list.Selected();
   field.SetText(name);

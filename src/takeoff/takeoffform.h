@@ -75,6 +75,9 @@ class TakeoffForm : public Form, public SheetScreen {
 // "Room 101", and "Room 101" of a room that is called so itself.
 QString WithKind(const QString& kind, const QString& name);
 
+// Where an entry was made, as it is said of one that is taken back: " in "101"".
+QString InSheet(const QString& name);
+
 // A row picked from a list that keeps the most recent first: it goes into the field and to the top.
 void PickToTop(OrderedList& list, TextField& field);
 

@@ -6,6 +6,7 @@
 #include "common/failure.h"
 #include "common/paths.h"
 #include "common/textlines.h"
+#include "records/datafolder.h"
 #include "takeoff/listchange.h"
 
 namespace tamo {
@@ -126,11 +127,25 @@ QString TakingBack::BringBack() {
   return Move(undone_, done_, false);
 }
 
+const TakeoffStep* TakingBack::Last() const {
+  const auto last = std::find_if(done_.rbegin(), done_.rend(), [&](const Step& step) {
+    return step.project == kit_.shared.JobID;
+  });
+  return last == done_.rend() ? nullptr : &*last;
+}
+
 QString TakingBack::LastEntry() const {
-  for (auto step = done_.rbegin(); step != done_.rend(); ++step) {
-    if (step->project == kit_.shared.JobID) return step->what;
-  }
-  return {};
+  const Step* last = Last();
+  return last == nullptr ? QString() : last->what;
+}
+
+bool TakingBack::LastWasInArea() const {
+  const Step* last = Last();
+  if (last == nullptr) return false;
+  return std::any_of(last->files.begin(), last->files.end(), [&](const StepFile& file) {
+    return file.path.endsWith(QLatin1String(".ato")) ||
+           file.path == ProjectFolder(kit_.shared).AreaNames();
+  });
 }
 
 QString TakingBack::Refusal() const {

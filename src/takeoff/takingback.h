@@ -62,6 +62,7 @@ class TakingBack {
 
   // The last entry in the open project that stands, in words; "" for none.
   QString LastEntry() const;
+  bool LastWasInArea() const;  // and not in a room
 
   static constexpr size_t kMostSteps = 100;
   static constexpr qsizetype kMostBytes = 64'000'000;  // of all files that are kept
@@ -71,6 +72,7 @@ class TakingBack {
   using StepFile = TakeoffStep::File;
   using Steps = std::deque<Step>;
 
+  const Step* Last() const;
   QString Move(Steps& from, Steps& to, bool back);
   QString Refusal() const;
   QString StoreAll(const Step& step, bool back);

@@ -2,6 +2,7 @@
 
 #include "program/program.h"
 #include "windows/fieldbinding.h"
+#include "windows/figurelabel.h"
 #include "windows/plainbindings.h"
 
 namespace tamo {
@@ -169,6 +170,10 @@ QLabel* Builder::Prompt(const char* name) {
 
 QLabel* Builder::Text(const char* name) {
   return LabelFor(name);
+}
+
+QLabel* Builder::Figure(const char* name) {
+  return Bound<Label, LabelBinding>(*this, Named<FigureLabel>(name));
 }
 
 QLabel* FixedCaption(const QString& text) {

@@ -57,6 +57,7 @@ class Builder {
   QLabel* Caption(const char* name);  // before a field
   QLabel* Prompt(const char* name);   // under a field
   QLabel* Text(const char* name);
+  QLabel* Figure(const char* name);  // money of two decimals, whole on hover
 
   Control* Find(const char* name);
   // A control that is bound by hand.

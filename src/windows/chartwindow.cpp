@@ -1,7 +1,7 @@
 #include "windows/chartwindow.h"
 
 #include <QBuffer>
-#include <QChartView>
+#include <QGraphicsView>
 #include <QHBoxLayout>
 #include <QMessageBox>
 #include <QPainter>
@@ -15,7 +15,7 @@
 #include "common/failure.h"
 #include "export/pages.h"
 #include "export/safefile.h"
-#include "windows/chartview.h"
+#include "windows/chartmodule.h"
 #include "windows/look.h"
 
 namespace tamo {
@@ -26,7 +26,7 @@ constexpr QSize kPaperView(1100, 800);  // the pixels that a sheet's width and h
 }  // namespace
 
 void PaintChart(const ChartData& data, QPagedPaintDevice& device) {
-  const std::unique_ptr<QChartView> view(NewChartView(data, ChartColours::OfPaper()));
+  const std::unique_ptr<QWidget> view(NewChartView(data, ChartColoursOfPaper()));
   view->resize(kPaperView);
   // Laid out without being shown.
   view->setAttribute(Qt::WA_DontShowOnScreen);
@@ -34,7 +34,8 @@ void PaintChart(const ChartData& data, QPagedPaintDevice& device) {
   QPainter painter;
   if (!painter.begin(&device)) return;
   const QRectF paper(QPointF(0, 0), QSizeF(painter.device()->width(), painter.device()->height()));
-  view->render(&painter, paper);
+  if (auto* chart = qobject_cast<QGraphicsView*>(view.get())) return chart->render(&painter, paper);
+  painter.drawText(paper, data.Lines().join(QLatin1Char('\n')));
 }
 
 ChartWindow::ChartWindow(ChartData data, Disk& disk, FileChooser choose, QWidget* parent)
@@ -43,7 +44,7 @@ ChartWindow::ChartWindow(ChartData data, Disk& disk, FileChooser choose, QWidget
   setWindowTitle(QStringLiteral("Chart: ") + data_.title);
   resize(900, 640);
   auto* column = new QVBoxLayout(this);
-  column->addWidget(NewChartView(data_, ChartColours::OfScreen()), 1);
+  column->addWidget(NewChartView(data_, ChartColoursOfScreen()), 1);
   auto* buttons = new QHBoxLayout;
   buttons->addStretch(1);
   auto* print = new QPushButton(QStringLiteral("&Print ..."));

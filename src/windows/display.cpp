@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "windows/bodyarea.h"
 #include "windows/listbinding.h"
 #include "windows/look.h"
 
@@ -156,6 +157,7 @@ void Display::SyncFocus() {
   QWidget* target = binding == nullptr ? window : &binding->Widget();
   if (now != target || (window->isActiveWindow() && !target->hasFocus()))
     target->setFocus(Qt::OtherFocusReason);
+  if (moved && target != window) BringIntoSight(*target);
 }
 
 void Display::RefocusLater() {
@@ -187,11 +189,22 @@ bool IsTakingBack(const Key& key) {
   return key.Is(Key::Name::TakeBack) || key.Is(Key::Name::BringBack);
 }
 
+// Ctrl+Z; Ctrl+Y, or Ctrl+Shift+Z.
+std::optional<Key> TakingBackKey(const QKeyEvent& event) {
+  const bool z = event.key() == Qt::Key_Z;
+  if (!z && event.key() != Qt::Key_Y) return std::nullopt;
+  const bool shift = (event.modifiers() & Qt::ShiftModifier) != 0;
+  return Key::Named(z && !shift ? Key::Name::TakeBack : Key::Name::BringBack);
+}
+
 }  // namespace
 
 std::optional<Key> KeyOf(const QKeyEvent& event) {
   const Qt::KeyboardModifiers held =
       event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  if (held == Qt::ControlModifier) {
+    if (const auto key = TakingBackKey(event)) return key;
+  }
   switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -219,13 +232,6 @@ std::optional<Key> KeyOf(const QKeyEvent& event) {
       return Key::Named(Key::Name::Left);
     case Qt::Key_Right:
       return Key::Named(Key::Name::Right);
-    case Qt::Key_Z:
-      if (held != Qt::ControlModifier) break;
-      return Key::Named((event.modifiers() & Qt::ShiftModifier) != 0 ? Key::Name::BringBack
-                                                                     : Key::Name::TakeBack);
-    case Qt::Key_Y:
-      if (held != Qt::ControlModifier) break;
-      return Key::Named(Key::Name::BringBack);
     default:
       break;
   }
@@ -237,9 +243,25 @@ std::optional<Key> KeyOf(const QKeyEvent& event) {
   return Key::Typed(text[0]);
 }
 
+namespace {
+
+// Keys that a field's widget keeps for itself, unless something lies over the field.
+std::optional<Key> WalkKeyOf(const QKeyEvent& event) {
+  if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return std::nullopt;
+  if (event.key() == Qt::Key_Down) return Key::Named(Key::Name::Down);
+  if (event.key() == Qt::Key_Up) return Key::Named(Key::Name::Up);
+  if (event.key() == Qt::Key_End) return Key::Named(Key::Name::End);
+  return std::nullopt;
+}
+
+}  // namespace
+
 bool Display::TakeKey(Binding& binding, QKeyEvent& event) {
   Control& control = binding.GetControl();
   auto* field = dynamic_cast<TextField*>(&control);
+  if (const std::optional<Key> walk = field == nullptr ? std::nullopt : WalkKeyOf(event)) {
+    if (desk_.TakenFirst(control, *walk)) return true;
+  }
   const bool list = dynamic_cast<OrderedList*>(&control) != nullptr;
   if (!list && TakeListKey(control.Owner(), field, event)) return true;
   const std::optional<Key> key = KeyOf(event);

@@ -1,4 +1,6 @@
+#include "windows/findbar.h"
 #include "windows/formlayouts.h"
+#include "windows/topictext.h"
 
 // The help: topics on the left, the text on the right.
 
@@ -9,6 +11,7 @@ void LayOutDocs(Builder& b) {
   auto* left = new QVBoxLayout;
   left->addWidget(Section(QStringLiteral("Topics")));
   RowsView* topics = b.List("MenuList", QStringLiteral("Topics"), 34, 24);
+  topics->contents = true;
   topics->setFixedWidth(topics->sizeHint().width());
   left->addWidget(topics, 1);
   row->addLayout(left);
@@ -24,11 +27,16 @@ void LayOutDocs(Builder& b) {
   line->addWidget(b.PushButton("Command1"));
   right->addLayout(line);
   QPlainTextEdit* text = b.LongField("DocText", QStringLiteral("Text of the topic"));
-  text->setFont(FixedFont());
-  text->setMinimumWidth(QFontMetrics(text->font()).horizontalAdvance(QLatin1Char('0')) * 84 +
+  new TopicText(text->document());
+  text->setMinimumWidth(QFontMetrics(FixedFont()).horizontalAdvance(QLatin1Char('0')) * 84 +
                         4 * kGrid);
   text->setPlaceholderText(QStringLiteral("Choose a topic on the left."));
   right->addWidget(text, 1);
+  std::vector<std::unique_ptr<FindPlace>> places;
+  places.push_back(std::make_unique<FindInText>(*text));
+  auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the manual"));
+  find->OpenByKey(b.Window());
+  right->addWidget(find);
   row->addLayout(right, 1);
   b.Window().Body().addLayout(row, 1);
   b.Window().firstSize = {1120, 680};

@@ -1,6 +1,8 @@
 #include "windows/fieldbinding.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -8,6 +10,8 @@
 #include <QTextCursor>
 #include <algorithm>
 
+#include "windows/fieldmenu.h"
+#include "windows/formwindow.h"
 #include "windows/look.h"
 
 namespace tamo {
@@ -112,6 +116,18 @@ bool AnyFieldBinding::TakeInputMethod(QEvent* event, QObject* object) {
   return true;
 }
 
+// A field with a pop-up of its own has this one with Shift.
+bool AnyFieldBinding::TakeContextMenu(QContextMenuEvent& event) {
+  if (field_.onRightClick && !event.modifiers().testFlag(Qt::ShiftModifier))
+    return TakeCommon(&event);
+  if (field_.takesFocus && !field_.HasFocus()) GetDesk().UserFocus(field_);
+  const bool keys = event.reason() == QContextMenuEvent::Keyboard;
+  ShowFieldMenu(Widget(),
+                keys ? Widget().mapToGlobal(QPoint(kGrid, Widget().height())) : event.globalPos(),
+                [this] { Paste(); });
+  return true;
+}
+
 bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
@@ -123,6 +139,9 @@ bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
     case QEvent::MouseButtonDblClick:
       if (object != &ClickTarget()) return false;
       if (TakeMouse(event)) return true;
+      if (static_cast<QMouseEvent*>(event)->button() == Qt::RightButton &&
+          static_cast<QMouseEvent*>(event)->modifiers().testFlag(Qt::ShiftModifier))
+        return true;
       return event->type() == QEvent::MouseButtonPress && TakeCommon(event);
     case QEvent::InputMethod:
       return object == &Widget() && TakeInputMethod(event, object);
@@ -147,8 +166,14 @@ bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
       pressedIn_ = false;
       return true;
     }
+    case QEvent::ContextMenu:
+      return TakeContextMenu(*static_cast<QContextMenuEvent*>(event));
+    case QEvent::DragEnter:
+      // A plan is for the window, not for the field's text.
+      event->ignore();
+      return !DroppedPlan(static_cast<const QDropEvent*>(event)->mimeData()).isEmpty();
     default:
-      return (object == &Widget() || event->type() == QEvent::ContextMenu) && TakeCommon(event);
+      return object == &Widget() && TakeCommon(event);
   }
 }
 
@@ -245,6 +270,12 @@ TextBinding::TextBinding(Display& display, TextField& field, QPlainTextEdit& edi
   };
   connect(&edit, &QPlainTextEdit::selectionChanged, this, selected);
   connect(&edit, &QPlainTextEdit::cursorPositionChanged, this, selected);
+}
+
+bool TextBinding::Paste() {
+  if (edit_.isReadOnly()) return false;
+  edit_.paste();
+  return true;
 }
 
 void TextBinding::ShowText() {

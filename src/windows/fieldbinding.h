@@ -7,6 +7,8 @@
 
 #include "windows/display.h"
 
+class QContextMenuEvent;
+
 namespace tamo {
 
 // What a field of one line and a field of several lines have in common: the click, the keys, and
@@ -24,8 +26,8 @@ class AnyFieldBinding : public Binding {
   virtual void ShowSelection() = 0;
   virtual void ShowNoSelection() = 0;
   virtual bool HasSelection() const = 0;
-  // Pastes in its own way; false leaves it to the widget.
-  virtual bool Paste() { return false; }
+  // Pastes in its own way; false when nothing may be pasted here.
+  virtual bool Paste() = 0;
 
   // The widget's own editing changed the text, or moved the caret.
   void Edited(QString text, int caret);
@@ -36,6 +38,7 @@ class AnyFieldBinding : public Binding {
 
  private:
   bool TakeMouse(QEvent* event);
+  bool TakeContextMenu(QContextMenuEvent& event);
   bool TakeInputMethod(QEvent* event, QObject* object);
 
   TextField& field_;
@@ -71,6 +74,7 @@ class TextBinding : public AnyFieldBinding {
   void ShowSelection() override;
   void ShowNoSelection() override;
   bool HasSelection() const override { return edit_.textCursor().hasSelection(); }
+  bool Paste() override;
 
  private:
   QPlainTextEdit& edit_;

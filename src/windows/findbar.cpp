@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScrollBar>
+#include <QShortcut>
 #include <utility>
 
 #include "windows/look.h"
@@ -17,44 +17,60 @@ constexpr int kRowsBetweenLooks = 256;  // at the clock
 
 }  // namespace
 
-FindBar::FindBar(std::vector<RowsView*> lists, Display& display)
-    : lists_(std::move(lists)), display_(display), edit_(new QLineEdit), result_(new QLabel) {
+FindBar::FindBar(std::vector<std::unique_ptr<FindPlace>> places, Display& display,
+                 const QString& what)
+    : places_(std::move(places)), display_(display), edit_(new QLineEdit), result_(new QLabel) {
+  setFocusPolicy(Qt::TabFocus);
+  setProperty(kOwnFocus, true);
+  setAccessibleName(QStringLiteral("Places that were found"));
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(0, 0, 0, 0);
   line->setSpacing(kGrid);
   auto* caption = new QLabel(QStringLiteral("Find:"));
   caption->setBuddy(edit_);
   edit_->setProperty(kOwnFocus, true);
-  edit_->setAccessibleName(QStringLiteral("Find in the report"));
+  edit_->setAccessibleName(QStringLiteral("Find in ") + what);
   edit_->setMaximumWidth(40 * kGrid);
   edit_->installEventFilter(this);
+  result_->setObjectName(QStringLiteral("FindResult"));
   result_->setFont(PromptFont());
   result_->setProperty("role", QStringLiteral("prompt"));
   line->addWidget(caption);
   line->addWidget(edit_);
   line->addWidget(result_, 1);
-  const std::pair<const char*, int> steps[] = {{"Previous", -1}, {"Next", 1}};
-  for (const auto& [text, step] : steps) {
-    auto* button = new QPushButton(QLatin1String(text));
-    button->setFocusPolicy(Qt::NoFocus);
-    connect(button, &QPushButton::clicked, this, [this, step = step] { Go(step); });
-    line->addWidget(button);
-  }
+  MakeButtons();
   connect(edit_, &QLineEdit::textEdited, this, [this] { TextChanged(); });
   slices_.setSingleShot(true);
   connect(&slices_, &QTimer::timeout, this, [this] { LookOn(); });
   hide();
 }
 
-RowsView* FindBar::List() const {
-  for (RowsView* list : lists_) {
-    if (list->isVisible()) return list;
+void FindBar::MakeButtons() {
+  const std::pair<const char*, int> steps[] = {{"Previous", -1}, {"Next", 1}};
+  for (const auto& [text, step] : steps) {
+    auto* button = new QPushButton(QLatin1String(text));
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &QPushButton::clicked, this, [this, step = step] { Go(step); });
+    layout()->addWidget(button);
+  }
+}
+
+FindPlace* FindBar::Place() const {
+  for (const auto& place : places_) {
+    if (place->Visible()) return place.get();
   }
   return nullptr;
 }
 
+void FindBar::OpenByKey(QWidget& window) {
+  auto* keys = new QShortcut(QKeySequence(QKeySequence::Find), &window);
+  connect(keys, &QShortcut::activated, this, [this] { Open(); });
+}
+
 void FindBar::Open() {
-  if (List() == nullptr) return;
+  if (beforeOpen) beforeOpen();
+  place_ = Place();
+  if (place_ == nullptr) return;
   row_ = -1;
   show();
   edit_->setFocus(Qt::ShortcutFocusReason);
@@ -65,30 +81,41 @@ void FindBar::Open() {
 void FindBar::Close() {
   slices_.stop();
   search_ = {};
-  for (RowsView* list : lists_) {
-    list->SetFound(QString());
-    list->SetWalked(-1);
+  for (const auto& place : places_) {
+    place->Mark(QString());
+    place->GoTo(-1);
   }
   hide();
   display_.RefocusLater();
 }
 
+// What was found is taken, and the bar has done its work.
+void FindBar::Choose() {
+  FindPlace* place = Place();
+  const int row = row_;
+  if (place == nullptr || row < 0) return;
+  Close();
+  place->Choose(row);
+}
+
 void FindBar::TextChanged() {
   row_ = -1;
-  for (RowsView* list : lists_) list->SetFound(edit_->text());
+  for (const auto& place : places_) place->Mark(edit_->text());
   Go(1);
 }
 
 void FindBar::Go(int step) {
   slices_.stop();
   search_ = {};
-  RowsView* list = List();
+  FindPlace* place = Place();
+  if (place != place_) row_ = -1;
+  place_ = place;
   const QString text = edit_->text();
-  if (list == nullptr || text.isEmpty()) {
+  if (place == nullptr || text.isEmpty()) {
     result_->clear();
     return;
   }
-  search_.rows = list->Model().Rows();
+  search_.rows = place->Rows();
   search_.text = text;
   search_.step = step;
   search_.left = search_.rows.Count();
@@ -122,37 +149,72 @@ void FindBar::LookOn() {
 }
 
 void FindBar::TellResult() {
-  RowsView* list = List();
-  if (list == nullptr) return;
+  if (place_ == nullptr) return;
   if (search_.hit && !std::exchange(search_.shown, true)) {
     row_ = search_.at;
-    list->SetWalked(row_);
+    place_->GoTo(row_);
   }
   if (search_.Looking()) {
     result_->setText(QStringLiteral("Looking ..."));
   } else if (!search_.hit) {
-    result_->setText(QStringLiteral("Not in this report."));
-    list->SetWalked(-1);
+    result_->setText(QStringLiteral("Found nowhere."));
+    place_->GoTo(-1);
   } else if (!search_.Done()) {
     result_->setText(QStringLiteral("Line %1; counting ...").arg(row_ + 1));
   } else {
-    result_->setText(
-        QStringLiteral("Line %1; %2 lines hold it.").arg(row_ + 1).arg(search_.holding));
+    result_->setText(QStringLiteral("Line %1; %2. N: next, Shift+N: before, Esc: close.")
+                         .arg(row_ + 1)
+                         .arg(search_.holding == 1
+                                  ? QStringLiteral("no other line has it")
+                                  : QStringLiteral("%1 lines have it").arg(search_.holding)));
   }
 }
 
 bool FindBar::eventFilter(QObject*, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return false;
   const auto* key = static_cast<const QKeyEvent*>(event);
-  if (key->key() == Qt::Key_Escape) {
-    Close();
-    return true;
+  const bool back = key->modifiers().testFlag(Qt::ShiftModifier);
+  switch (key->key()) {
+    case Qt::Key_Escape:
+      Close();
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (!edit_->text().isEmpty()) setFocus(Qt::ShortcutFocusReason);
+      Go(back ? -1 : 1);
+      return true;
+    case Qt::Key_Down:
+    case Qt::Key_Up:
+      Go(key->key() == Qt::Key_Up ? -1 : 1);
+      return true;
+    default:
+      return false;
   }
-  if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-    Go(key->modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
-    return true;
+}
+
+// The places are walked through; any other letter goes on with the text.
+void FindBar::keyPressEvent(QKeyEvent* event) {
+  const bool back = event->modifiers().testFlag(Qt::ShiftModifier);
+  switch (event->key()) {
+    case Qt::Key_N:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return Go(back ? -1 : 1);
+    case Qt::Key_Down:
+      return Go(1);
+    case Qt::Key_Up:
+      return Go(-1);
+    case Qt::Key_Space:
+      return Choose();
+    case Qt::Key_Escape:
+      return Close();
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Backspace:
+      return edit_->setFocus(Qt::ShortcutFocusReason);
+    default:
+      event->ignore();
   }
-  return false;
 }
 
 }  // namespace tamo

@@ -3,27 +3,36 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTimer>
+#include <memory>
 #include <vector>
 
-#include "windows/display.h"
-#include "windows/rowsview.h"
+#include "windows/findplace.h"
 
 namespace tamo {
 
-// Finds a text in the rows of the list that is shown: all places are marked, Enter goes to the next
-// row, Shift+Enter to the one before, Escape puts the bar away. The rows stay as they are. Millions
-// of rows are looked through in slices, so that the window answers meanwhile.
+// Finds a text in what its window shows: all places are marked, Enter goes to the next line that
+// holds it and leaves the field, from where N and Shift+N go on, round the end; Space takes the
+// row, as a click would; Escape puts the bar away. The rows stay as they are. Millions of rows are
+// looked through in slices, so that the window answers meanwhile.
 class FindBar : public QWidget {
  public:
-  FindBar(std::vector<RowsView*> lists, Display& display);
+  // `what` names the place for a reader of screens: "the report".
+  FindBar(std::vector<std::unique_ptr<FindPlace>> places, Display& display, const QString& what);
   void Open();
+  // Ctrl+F in the window opens it.
+  void OpenByKey(QWidget& window);
+  // Called before the bar looks where to find; it may bring up a list.
+  std::function<void()> beforeOpen;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  RowsView* List() const;
+  FindPlace* Place() const;
+  void MakeButtons();
   void Close();
+  void Choose();
   void TextChanged();
   void Go(int step);
   void LookOn();
@@ -47,10 +56,11 @@ class FindBar : public QWidget {
     bool Done() const { return !Looking() && (!hit || counted == rows.Count()); }
   };
 
-  std::vector<RowsView*> lists_;
+  std::vector<std::unique_ptr<FindPlace>> places_;
   Display& display_;
   QLineEdit* edit_;
   QLabel* result_;
+  FindPlace* place_ = nullptr;  // that is looked through
   int row_ = -1;
   Search search_;
   QTimer slices_;

@@ -2,12 +2,17 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScreen>
+#include <QScrollBar>
+#include <QStyle>
+#include <QUrl>
 #include <algorithm>
 
+#include "windows/bodyarea.h"
 #include "windows/look.h"
+#include "windows/windowplaces.h"
 
 namespace tamo {
 namespace {
@@ -30,7 +35,29 @@ class LockSign : public QWidget {
   }
 };
 
+// A line of the foot: where the window is narrow its end is left out, and shown on hover.
+class FootLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+  QSize minimumSizeHint() const override { return {4 * kGrid, QLabel::minimumSizeHint().height()}; }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const QString cut = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    setToolTip(cut == text() ? QString() : text());
+    QPainter painter(this);
+    style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
+                          isEnabled(), cut, foregroundRole());
+  }
+};
+
 }  // namespace
+
+QLabel* NewFootLabel(const QString& text) {
+  auto* label = new FootLabel(text);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
 
 NoticeStrip::NoticeStrip(QWidget* parent) : QFrame(parent), text_(new QLabel) {
   setProperty("role", QStringLiteral("notice"));
@@ -65,7 +92,7 @@ FormWindow::FormWindow(Form& form, Display& display)
     : form_(form),
       display_(display),
       menus_(display, form, *this),
-      body_(new QVBoxLayout),
+      body_(nullptr),
       whole_(new QVBoxLayout(this)),
       notice_(new NoticeStrip(this)) {
   setObjectName(form.Name());
@@ -74,16 +101,23 @@ FormWindow::FormWindow(Form& form, Display& display)
   if (menus_.Bar() != nullptr) whole_->setMenuBar(menus_.Bar());
   menuWidth_ = new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
   whole_->addItem(menuWidth_);
+  auto* page = new BodyPage;
+  body_ = new QVBoxLayout(page);
   body_->setContentsMargins(2 * kGrid, 2 * kGrid, 2 * kGrid, 2 * kGrid);
   body_->setSpacing(kGrid);
-  whole_->addLayout(body_, 1);
+  auto* area = new BodyArea(page);
+  whole_->addWidget(area, 1);
+  // What lies over the window goes with its field.
+  for (const QScrollBar* bar : {area->horizontalScrollBar(), area->verticalScrollBar()})
+    connect(bar, &QScrollBar::valueChanged, this, [this] { display_.MarkFormDirty(form_); });
+  setAcceptDrops(true);
   notice_->hide();
   whole_->addWidget(notice_);
 }
 
 void FormWindow::KeepMenusInSight() {
   if (menus_.Bar() == nullptr) return;
-  const int wanted = std::min(menus_.Bar()->sizeHint().width(), screen()->availableSize().width());
+  const int wanted = std::min(menus_.Bar()->sizeHint().width(), RoomFor(*this).width());
   if (menuWidth_->sizeHint().width() == wanted) return;
   menuWidth_->changeSize(wanted, 0, QSizePolicy::Minimum, QSizePolicy::Fixed);
   whole_->invalidate();
@@ -108,8 +142,7 @@ QHBoxLayout& FormWindow::StatusLine() {
 void FormWindow::SetStatus(const QString& project, bool locked, const QString& folder) {
   if (projectLabel_ == nullptr) {
     QHBoxLayout& line = StatusLine();
-    projectLabel_ = new QLabel;
-    projectLabel_->setTextFormat(Qt::PlainText);
+    projectLabel_ = NewFootLabel();
     lockLabel_ = new QLabel(QStringLiteral("Locked"));
     lockLabel_->setFont(SectionFont());
     auto* sign = new LockSign;
@@ -119,8 +152,7 @@ void FormWindow::SetStatus(const QString& project, bool locked, const QString& f
     lockLine->setSpacing(kGrid / 2);
     lockLine->addWidget(sign);
     lockLine->addWidget(lockLabel_);
-    folderLabel_ = new QLabel;
-    folderLabel_->setTextFormat(Qt::PlainText);
+    folderLabel_ = NewFootLabel();
     folderLabel_->setProperty("role", QStringLiteral("quiet"));
     line.insertWidget(0, projectLabel_);
     line.insertWidget(1, lock);
@@ -148,13 +180,33 @@ void FormWindow::SetNotice(const QString& text) {
   // A large window has room for it; a small one would be cut.
   constexpr int kRoomy = 700;
   const int strip = std::max(notice_->heightForWidth(width()), notice_->sizeHint().height());
-  const int wanted = heightWithoutNotice_ + strip;
+  const int wanted = std::min(heightWithoutNotice_ + strip, RoomFor(*this).height());
   resize(width(), std::min(wanted, std::max(heightWithoutNotice_, kRoomy)));
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   display_.GetDesk().CloseBox(form_);
+}
+
+QString DroppedPlan(const QMimeData* data) {
+  if (data == nullptr) return {};
+  for (const QUrl& url : data->urls()) {
+    const QString path = url.toLocalFile();
+    if (path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) return path;
+  }
+  return {};
+}
+
+void FormWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (onPlanDropped && !DroppedPlan(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void FormWindow::dropEvent(QDropEvent* event) {
+  const QString plan = DroppedPlan(event->mimeData());
+  if (plan.isEmpty() || !onPlanDropped) return;
+  event->acceptProposedAction();
+  onPlanDropped(plan);
 }
 
 bool FormWindow::focusNextPrevChild(bool next) {

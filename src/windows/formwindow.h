@@ -13,7 +13,14 @@
 #include "windows/display.h"
 #include "windows/menubinder.h"
 
+class QDragEnterEvent;
+class QDropEvent;
+class QMimeData;
+
 namespace tamo {
+
+// The first PDF file among what is being dragged, "" for none.
+QString DroppedPlan(const QMimeData* data);
 
 // The strip across the foot of every window while something is not on the disk yet: what, why, and
 // that a click tries again.
@@ -30,6 +37,9 @@ class NoticeStrip : public QFrame {
  private:
   QLabel* text_;
 };
+
+// A text in the foot of a window, shortened where there is little room.
+QLabel* NewFootLabel(const QString& text = {});
 
 // The window of one form: its menu bar, what the form's own file lays out in Body(), the strip of
 // saves that are not on the disk, and the status line.
@@ -59,12 +69,17 @@ class FormWindow : public QWidget {
   // Called after each sync while the window is shown, for what no control tells.
   std::vector<std::function<void()>> onSynced;
 
+  // A PDF file was dropped on the window.
+  std::function<void(const QString& path)> onPlanDropped;
+
   // Names of controls that the layout asked for and the form does not have.
   QStringList missing;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   // Tab walks as the form says, from wherever it is pressed.
   bool focusNextPrevChild(bool next) override;
 

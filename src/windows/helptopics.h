@@ -6,7 +6,7 @@ namespace tamo {
 
 class Program;
 
-// F1: brings up the documentation at the topic of the form in front.
+// F1: brings up the documentation at the page of the field in focus, of the report, of the mode.
 void ShowHelp(Program& program, Form& front);
 
 }  // namespace tamo

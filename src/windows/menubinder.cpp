@@ -65,6 +65,9 @@ void MenuBinder::Apply() {
     const bool shown = entry->Shown();
     const QString caption = shown ? entry->Caption() : WithoutMnemonic(entry->Caption());
     if (action->text() != caption) action->setText(caption);
+    // An entry of blanks only keeps its neighbours apart: nobody goes to it, nothing is read out.
+    const bool spacer = entry->Children().empty() && caption.trimmed().isEmpty();
+    if (action->isSeparator() != spacer) action->setSeparator(spacer);
     if (action->isVisible() != shown) action->setVisible(shown);
     if (action->isEnabled() != entry->Enabled()) action->setEnabled(entry->Enabled());
   }

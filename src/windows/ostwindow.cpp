@@ -1,12 +1,13 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <QMenu>
+#include <QLineEdit>
 #include <QProgressDialog>
-#include <QToolButton>
 
 #include "program/program.h"
 #include "windows/formlayouts.h"
 #include "windows/plancanvas.h"
+#include "windows/plancolumn.h"
+#include "windows/plantoolbar.h"
 
 // The plan: thumbnails on the left, the plan in the middle with its tools over it, a narrow column
 // of what is looked at all the time on the right.
@@ -14,121 +15,7 @@
 namespace tamo {
 namespace {
 
-constexpr int kColumnWidth = 34 * kGrid;
 constexpr int kQuietSave = 300;  // milliseconds before a save shows its bar
-
-QToolButton* Tool(const QString& text, const QString& hover) {
-  auto* tool = new QToolButton;
-  tool->setText(text);
-  tool->setToolTip(hover);
-  tool->setFocusPolicy(Qt::NoFocus);
-  tool->setMinimumHeight(kFieldHeight);
-  return tool;
-}
-
-struct ToolRow {
-  PlanTool tool;
-  const char* text;
-  const char* hover;
-};
-constexpr ToolRow kTools[] = {
-    {PlanTool::None, "Move", "Pull the sheet with the mouse (V)"},
-    {PlanTool::Measuring, "Measure", "Draw a line; Shift keeps it to steps of 45 degrees (M)"},
-    {PlanTool::Counting, "Count", "Each press counts one (C)"}};
-constexpr ToolRow kOutlineTools[] = {
-    {PlanTool::Polyline, "Polyline", "A length along several points; Enter ends it (L)"},
-    {PlanTool::Area, "Area", "Square feet inside an outline; Enter closes it (A)"},
-    {PlanTool::Rectangle, "Rectangle", "Square feet between two corners (R)"},
-    {PlanTool::CutOut, "Cut-out", "Takes a shaft or column off an area (K)"},
-    {PlanTool::Perimeter, "Perimeter", "The length around an outline (E)"}};
-
-std::vector<QToolButton*> ToolButtons(PdfDraw& viewer, Desk& desk) {
-  std::vector<QToolButton*> tools;
-  for (const ToolRow& row : kTools) {
-    QToolButton* button = Tool(QLatin1String(row.text), QLatin1String(row.hover));
-    button->setCheckable(true);
-    QObject::connect(button, &QToolButton::clicked, button, [&viewer, &desk, tool = row.tool] {
-      desk.Dispatch([&] { viewer.PickTool(tool); });
-    });
-    tools.push_back(button);
-  }
-  return tools;
-}
-
-// The tools that draw point by point, in a list that drops from one button. It keeps the name of
-// the one used last, and a click on it takes that one again.
-QToolButton* DrawButton(PdfDraw& viewer, Desk& desk) {
-  QToolButton* button = Tool(QStringLiteral("Area"), QStringLiteral("Areas and long ways"));
-  button->setCheckable(true);
-  button->setPopupMode(QToolButton::MenuButtonPopup);
-  auto* menu = new QMenu(button);
-  for (const ToolRow& row : kOutlineTools) {
-    QAction* action = menu->addAction(QLatin1String(row.text));
-    action->setToolTip(QLatin1String(row.hover));
-    QObject::connect(action, &QAction::triggered, button, [&viewer, &desk, tool = row.tool] {
-      desk.Dispatch([&] { viewer.PickTool(tool); });
-    });
-  }
-  menu->setToolTipsVisible(true);
-  button->setMenu(menu);
-  QObject::connect(button, &QToolButton::clicked, button, [&viewer, &desk, button] {
-    for (const ToolRow& row : kOutlineTools) {
-      if (button->text() != QLatin1String(row.text)) continue;
-      desk.Dispatch([&] { viewer.PickTool(row.tool); });
-    }
-  });
-  return button;
-}
-
-std::vector<QToolButton*> PageButtons(PdfDraw& viewer, Desk& desk, PlanCanvas& canvas) {
-  QToolButton* before = Tool(QStringLiteral("◀"), QStringLiteral("Page before (Page Up)"));
-  QToolButton* after = Tool(QStringLiteral("▶"), QStringLiteral("Next page (Page Down)"));
-  QToolButton* rotate =
-      Tool(QStringLiteral("Turn"), QStringLiteral("Turn the sheet to the right (T)"));
-  before->setAccessibleName(QStringLiteral("Page before"));
-  after->setAccessibleName(QStringLiteral("Next page"));
-  QToolButton* page =
-      Tool(QStringLiteral("Fit page"), QStringLiteral("The whole sheet in sight (F)"));
-  QToolButton* width =
-      Tool(QStringLiteral("Fit width"), QStringLiteral("The sheet's whole width in sight (W)"));
-  const auto turn = [&viewer, &desk](int by) {
-    desk.Dispatch([&] { viewer.TurnPage(viewer.Page() + by); });
-  };
-  QObject::connect(before, &QToolButton::clicked, before, [turn] { turn(-1); });
-  QObject::connect(after, &QToolButton::clicked, after, [turn] { turn(1); });
-  QObject::connect(rotate, &QToolButton::clicked, rotate, [&canvas] { canvas.TurnView(); });
-  QObject::connect(page, &QToolButton::clicked, page, [&canvas] { canvas.FitPage(); });
-  QObject::connect(width, &QToolButton::clicked, width, [&canvas] { canvas.FitWidth(); });
-  return {before, after, rotate, page, width};
-}
-
-// The viewer's own tool bar: which tool is in hand is shown by the pressed button and by Mode.
-QWidget* ToolBar(Builder& b, PlanCanvas& canvas) {
-  PdfDraw& viewer = b.GetProgram().Viewer();
-  Desk& desk = b.GetProgram().GetDesk();
-  auto* bar = new QWidget;
-  auto* line = new QHBoxLayout(bar);
-  line->setContentsMargins(kGrid / 2, kGrid / 2, kGrid / 2, kGrid / 2);
-  line->setSpacing(kGrid / 2);
-  const std::vector<QToolButton*> tools = ToolButtons(viewer, desk);
-  for (QToolButton* tool : tools) line->addWidget(tool);
-  line->addSpacing(kGrid / 2);
-  for (QToolButton* button : PageButtons(viewer, desk, canvas)) line->addWidget(button);
-  line->addSpacing(kGrid / 2);
-  QToolButton* draw = DrawButton(viewer, desk);
-  line->addWidget(draw);
-  line->addStretch(1);
-  // Mode changes with every tool; its field tells when to look.
-  if (b.Find<TextField>("Mode") == nullptr) return bar;
-  b.Window().onSynced.push_back([&viewer, tools, draw] {
-    for (size_t i = 0; i < tools.size(); ++i) tools[i]->setChecked(viewer.Tool() == kTools[i].tool);
-    draw->setChecked(PdfDraw::DrawsOutlines(viewer.Tool()));
-    for (const ToolRow& row : kOutlineTools) {
-      if (row.tool == viewer.Tool()) draw->setText(QLatin1String(row.text));
-    }
-  });
-  return bar;
-}
 
 // Over the sheet, where the eye is: which line the next length or count belongs to.
 QWidget* GoesTo(Builder& b) {
@@ -140,14 +27,21 @@ QWidget* GoesTo(Builder& b) {
   return goes;
 }
 
-// A line that is always there, so that the plan stays where it is when words come and go.
-QWidget* ToolHint(Builder& b) {
-  QLabel* hint = b.Text("ToolHint");
-  hint->setFont(PromptFont());
-  hint->setWordWrap(true);
-  hint->setContentsMargins(kGrid, 0, kGrid, kGrid / 2);
-  hint->setMinimumHeight(hint->fontMetrics().height() + kGrid / 2);
-  return hint;
+// Words above the plan: of the tool in hand, and what speaks against the scale. The line is always
+// there, so that the plan stays where it is when words come and go.
+QWidget* Words(Builder& b) {
+  auto* words = new QWidget;
+  auto* line = new QHBoxLayout(words);
+  line->setContentsMargins(kGrid, 0, kGrid, kGrid / 2);
+  line->setSpacing(2 * kGrid);
+  for (const char* name : {"ToolHint", "ScaleNote"}) {
+    QLabel* label = b.Text(name);
+    label->setFont(PromptFont());
+    label->setWordWrap(true);
+    label->setMinimumHeight(label->fontMetrics().height());
+    line->addWidget(label, 1);
+  }
+  return words;
 }
 
 QWidget* Browser(Builder& b) {
@@ -179,63 +73,6 @@ QWidget* Colours(Builder& b) {
   return frame;
 }
 
-void Stack(QVBoxLayout& column, const QString& caption, QWidget* field) {
-  auto* label = new QLabel(caption);
-  label->setFont(PromptFont());
-  label->setProperty("role", QStringLiteral("prompt"));
-  label->setBuddy(field);
-  column.addWidget(label);
-  column.addWidget(field);
-}
-
-QHBoxLayout* Line(std::initializer_list<QWidget*> widgets) {
-  auto* line = new QHBoxLayout;
-  line->setSpacing(kGrid);
-  for (QWidget* widget : widgets) line->addWidget(widget);
-  return line;
-}
-
-void Scales(Builder& b, QVBoxLayout& column) {
-  QLabel* scale = b.Text("ScaleInForce");
-  scale->setWordWrap(true);
-  column.addWidget(scale);
-  column.addWidget(b.PushButton("SetInches"));
-  auto* line = Line({b.Field("Scale1", 6, QStringLiteral("Scale on the plan")),
-                     b.Field("Text5", 0, QStringLiteral("Unit of the scale")),
-                     b.Field("Scale2", 5, QStringLiteral("Scale in feet"))});
-  line->setSpacing(kGrid / 2);
-  column.addLayout(line);
-}
-
-// The step says little to whoever zooms by wheel.
-void ShowPerCent(Builder& b, QLabel& label) {
-  label.setObjectName(QStringLiteral("ZoomPerCent"));
-  const QString caption = label.text();
-  b.Window().onSynced.push_back([&label, caption, &viewer = b.GetProgram().Viewer()] {
-    label.setText(QStringLiteral("%1 %2%").arg(caption).arg(viewer.Zoom()));
-  });
-}
-
-void Sheet(Builder& b, QVBoxLayout& column) {
-  Stack(column, QStringLiteral("Job Name"), b.Field("ProjectName"));
-  Stack(column, QStringLiteral("Plan"), b.Field("PlanLocation"));
-  auto* grid = new QGridLayout;
-  grid->setSpacing(kGrid / 2);
-  const std::tuple<const char*, const char*, int> fields[] = {
-      {"Page", "PageText", 6}, {"Zoom", "ZoomLevel", 3}, {"Mode", "Mode", 0}};
-  int at = 0;
-  for (const auto& [caption, name, columns] : fields) {
-    QLabel* label = FixedPrompt(QLatin1String(caption));
-    if (at == 1) ShowPerCent(b, *label);
-    QLineEdit* field = b.Field(name, columns);
-    label->setBuddy(field);
-    grid->addWidget(label, 0, at);
-    grid->addWidget(field, 1, at++);
-  }
-  grid->setColumnStretch(2, 1);
-  column.addLayout(grid);
-}
-
 // Shown over the sheet while the plan asked for is locked.
 QWidget* Password(Builder& b) {
   QFrame* frame = b.Panel("LockedPlan");
@@ -251,54 +88,6 @@ QWidget* Password(Builder& b) {
   line->addWidget(b.PushButton("UnlockPlan"));
   line->addStretch(1);
   return frame;
-}
-
-void Distance(Builder& b, QVBoxLayout& column) {
-  QLineEdit* distance = b.Field("DistanceText", 0, QStringLiteral("Last distance or count"));
-  distance->setFont(FigureFont());
-  distance->setProperty("role", QStringLiteral("figure"));
-  distance->setAlignment(Qt::AlignRight);
-  column.addWidget(distance);
-}
-
-void KnownDimension(Builder& b, QVBoxLayout& column) {
-  QLabel* known = FixedPrompt(QStringLiteral("Known dimension, feet"));
-  QLineEdit* dimension = b.Field("KnownDimension", 8);
-  known->setBuddy(dimension);
-  column.addLayout(Line({known, dimension}));
-  column.addWidget(b.PushButton("CheckDimension"));
-  column.addWidget(b.Prompt("DimensionResult"));
-}
-
-void Notes(Builder& b, QVBoxLayout& column) {
-  column.addWidget(b.PushButton("Command3"));
-  QPlainTextEdit* notes = b.LongField("PlanNotes", QStringLiteral("Plan notes"));
-  notes->setMinimumHeight(8 * kGrid);
-  column.addWidget(notes, 1);
-  QLabel* problem = b.Text("PlanProblem");
-  problem->setWordWrap(true);
-  column.addWidget(problem);
-}
-
-QWidget* Column(Builder& b) {
-  auto* side = new QWidget;
-  side->setFixedWidth(kColumnWidth);
-  auto* column = new QVBoxLayout(side);
-  column->setContentsMargins(kGrid, kGrid, kGrid, kGrid);
-  column->setSpacing(kGrid / 2);
-  Sheet(b, *column);
-  column->addWidget(Rule());
-  Scales(b, *column);
-  Distance(b, *column);
-  column->addWidget(Rule());
-  column->addWidget(b.Check("Check1"));
-  column->addWidget(KeepPlaceWhenHidden(b.SampleLine("Line1")));
-  column->addWidget(b.PushButton("Command2"));
-  column->addWidget(Rule());
-  KnownDimension(b, *column);
-  Notes(b, *column);
-  column->addStretch(0);
-  return side;
 }
 
 // The first marked copy of a large plan takes a while; the bar says so and can't be stopped. The
@@ -366,20 +155,21 @@ void LayOutOST(Builder& b) {
   row->addWidget(Browser(b));
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
-  middle->addWidget(ToolBar(b, *canvas));
+  middle->addWidget(PlanToolBar(b, *canvas));
   middle->addWidget(GoesTo(b));
   middle->addWidget(Colours(b));
   middle->addWidget(Password(b));
-  middle->addWidget(ToolHint(b));
+  middle->addWidget(Words(b));
   middle->addWidget(canvas, 1);
   row->addLayout(middle, 1);
-  row->addWidget(Column(b));
+  row->addWidget(PlanColumn(b));
   FormWindow& window = b.Window();
   window.Body().addLayout(row, 1);
-  QLabel* keys =
-      FixedPrompt(QStringLiteral("On the plan: arrows move the cross hair, Space sets a point, "
-                                 "Enter goes back to the field."));
-  keys->setWordWrap(false);
+  QLabel* keys = NewFootLabel(
+      QStringLiteral("On the plan: arrows move the cross hair, Space sets a point, Enter goes back "
+                     "to the field."));
+  keys->setFont(PromptFont());
+  keys->setProperty("role", QStringLiteral("prompt"));
   window.StatusLine().addWidget(keys);
   window.firstSize = {1340, 700};
 }

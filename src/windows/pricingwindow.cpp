@@ -1,3 +1,5 @@
+#include "pricing/materialfigures.h"
+#include "windows/findbar.h"
 #include "windows/formlayouts.h"
 
 // The price library: the system above, its materials below with the list of them beside the fields,
@@ -65,6 +67,29 @@ QWidget* MaterialFields(Builder& b) {
   return fields;
 }
 
+// Beside each name what one takeoff unit takes of it, in a quieter tone.
+QWidget* Materials(Builder& b) {
+  auto* box = new QWidget;
+  auto* column = ColumnIn(box, kGrid / 4);
+  RowsView* list = b.List("MaterialList", QStringLiteral("Materials of this system"), 18, 10);
+  list->setMinimumWidth(20 * kGrid);
+  list->besideWidths = {11, 6, 6};
+  if (const auto* system = b.Find<OrderedList>("System")) {
+    list->besides = [system](int row) {
+      const MaterialFigures figures = FiguresOf(system->Rows(), row);
+      return QStringList{figures.quantity, figures.cost, figures.labor};
+    };
+  }
+  QLabel* heads = FixedPrompt(QStringLiteral("Of one takeoff unit: quantity, cost, labor"));
+  heads->setWordWrap(false);
+  heads->setAlignment(Qt::AlignRight);
+  heads->setMinimumWidth(1);
+  b.Window().onSynced.push_back([heads, list] { heads->setVisible(list->BesideWidth() > 0); });
+  column->addWidget(heads);
+  column->addWidget(list, 1);
+  return box;
+}
+
 QWidget* Labor(Builder& b) {
   QWidget* frame = b.Group("LandMFrame");
   auto* column = ColumnIn(frame);
@@ -75,9 +100,7 @@ QWidget* Labor(Builder& b) {
   left->addWidget(MaterialFields(b), 1);
   auto* right = new QVBoxLayout;
   right->addWidget(Section(QStringLiteral("Materials of this system")));
-  RowsView* materials = b.List("MaterialList", QStringLiteral("Materials of this system"), 18, 10);
-  materials->setMinimumWidth(20 * kGrid);
-  right->addWidget(materials, 1);
+  right->addWidget(Materials(b), 1);
   row->addLayout(left);
   row->addLayout(right, 1);
   column->addLayout(row, 1);
@@ -87,10 +110,9 @@ QWidget* Labor(Builder& b) {
 QWidget* Price(Builder& b) {
   auto* line = new QWidget;
   auto* row = RowIn(line, 2 * kGrid);
-  QLabel* price = b.Text("EUP");
+  QLabel* price = b.Figure("EUP");
   price->setFont(FigureFont());
   price->setAccessibleName(QStringLiteral("Estimated unit price"));
-  price->setTextInteractionFlags(Qt::TextSelectableByMouse);
   row->addStretch(1);
   row->addWidget(b.Text("Label9"));
   row->addWidget(b.Text("Label19"));
@@ -179,6 +201,28 @@ QWidget* Side(Builder& b) {
   return side;
 }
 
+// In the list that is open under a field, else in the list of the field in focus, which then opens;
+// without one in the materials of the system.
+FindBar* FindInLists(Builder& b) {
+  std::vector<std::unique_ptr<FindPlace>> places;
+  for (const char* name : {"DescriptionsList", "UnitsList", "MaterialsList", "oUnitsList",
+                           "WagesList", "MaterialList"}) {
+    auto* list = b.Find<OrderedList>(name);
+    auto& view = static_cast<ListBinding*>(b.GetDisplay().Of(*list))->View();
+    places.push_back(std::make_unique<FindInRows>(view, b.GetDisplay(), list));
+  }
+  auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the library"));
+  find->beforeOpen = [&form = b.GetForm()] {
+    for (Control* control : form.Controls()) {
+      auto* list = dynamic_cast<OrderedList*>(control);
+      if (list == nullptr || list->dropsFrom == nullptr || !list->dropsFrom->HasFocus()) continue;
+      form.GetDesk().Dispatch([list] { list->Show(); });
+    }
+  };
+  find->OpenByKey(b.Window());
+  return find;
+}
+
 }  // namespace
 
 void LayOutPricing(Builder& b) {
@@ -202,6 +246,7 @@ void LayOutPricing(Builder& b) {
   b.DropList("MaterialsList", "Material");
   b.DropList("oUnitsList", "OrderUnits");
   b.DropList("WagesList", "WageRate");
+  b.Window().Body().addWidget(FindInLists(b));
   b.Window().firstSize = {1128, 680};
 }
 

@@ -20,6 +20,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "reports/lineweight.h"
 #include "windows/look.h"
 
 namespace tamo {
@@ -104,6 +105,14 @@ void PaintJobs(const PageComposer& pages, QPrinter& printer, const PageFrame& fr
 PageFrame ReportPrinter::Frame() const {
   return {company ? company().trimmed() : QString(), title_,
           QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat)};
+}
+
+// Lines of a report stand behind twenty blanks; the title of the print names it.
+void ReportPrinter::PrintLine(const QString& line) {
+  constexpr qsizetype kMargin = 20;
+  const QString report = title_.section(QStringLiteral(" - "), 0, 0);
+  const bool ofReport = line.startsWith(QString(kMargin, u' '));
+  pages_.Add(line, ofReport && IsHeavyLine(report, QStringView(line).mid(kMargin)));
 }
 
 bool ReportPrinter::BeginPrint(const QString& title) {

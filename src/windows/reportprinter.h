@@ -18,7 +18,7 @@ namespace tamo {
 class ReportPrinter : public Printer {
  public:
   void SetFont(const QString& name, int points) override { pages_.SetFont(name, points); }
-  void PrintLine(const QString& line) override { pages_.Add(line); }
+  void PrintLine(const QString& line) override;
   void EndPage() override { pages_.EndPage(); }
   bool BeginPrint(const QString& title) override;
   void EndPrint() override;

@@ -1,6 +1,7 @@
 #include <QPointer>
 #include <QShortcut>
 
+#include "reports/lineweight.h"
 #include "reports/reportsform.h"
 #include "windows/findbar.h"
 #include "windows/formlayouts.h"
@@ -68,6 +69,16 @@ void LetTypeGrow(QWidget& window, const std::vector<RowsView*>& lists) {
   }
 }
 
+// A tick of the Office Copy is no place to go to: nothing is chosen here.
+FindBar* Find(Builder& b, std::initializer_list<RowsView*> lists) {
+  std::vector<std::unique_ptr<FindPlace>> places;
+  for (RowsView* list : lists)
+    places.push_back(std::make_unique<FindInRows>(*list, b.GetDisplay(), nullptr));
+  auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the report"));
+  find->OpenByKey(b.Window());
+  return find;
+}
+
 void SaveByKey(Builder& b) {
   MenuEntry* entry = b.GetForm().FindMenu(QStringLiteral("SaveReport"));
   Display& display = b.GetDisplay();
@@ -91,6 +102,10 @@ void LayOutReports(Builder& b) {
   auto* lists = new QVBoxLayout;
   for (RowsView* list : {reporter, copy}) {
     list->UseFixedColumns();
+    list->isHeavy = [list](int row) {
+      const ListRows& rows = list->Model().Rows();
+      return row == 0 || IsHeavyLine(rows.At(0), rows.At(row));
+    };
     lists->addWidget(list, 1);
   }
   auto* empty = FixedPrompt(QStringLiteral(
@@ -103,8 +118,7 @@ void LayOutReports(Builder& b) {
   row->addLayout(lists, 1);
   row->addWidget(Figures(b));
   body.addLayout(row, 1);
-  auto* find = new FindBar({reporter, copy}, b.GetDisplay());
-  body.addWidget(find);
+  body.addWidget(Find(b, {reporter, copy}));
   auto* strip = new QHBoxLayout;
   RowsView* notes = b.List("NotesList", QStringLiteral("Notes to the report"), 60, 2);
   notes->linesOfRow = 2;
@@ -118,8 +132,6 @@ void LayOutReports(Builder& b) {
   strip->addWidget(notes, 1);
   strip->addWidget(b.Check("WholeQuantities"), 0, Qt::AlignTop);
   body.addLayout(strip);
-  auto* search = new QShortcut(QKeySequence(QKeySequence::Find), &window);
-  QObject::connect(search, &QShortcut::activated, &window, [find] { find->Open(); });
   SaveByKey(b);
   LetTypeGrow(window, {reporter, copy});
   window.firstSize = {1080, 700};

@@ -28,7 +28,7 @@ void RowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
     PaintTickBox(*painter, box, ticked.toInt() == Qt::Checked, look);
     text.setLeft(box.right() + kGrid);
   }
-  PaintText(*painter, text, index.data().toString());
+  PaintText(*painter, text, index.data().toString(), index.row());
   if (index.row() == view_.Walked()) {
     painter->setPen(QPen(look.accent, 2));
     painter->drawRect(row.adjusted(1, 1, -1, -1));
@@ -74,13 +74,81 @@ void RowPainter::PaintCells(QPainter& painter, const QRect& place, const QString
   }
 }
 
-void RowPainter::PaintText(QPainter& painter, const QRect& place, QString text) const {
+// The texts at the right end; `place` keeps what is left of it.
+void RowPainter::PaintBesides(QPainter& painter, QRect& place, int row) const {
+  const int wide = view_.BesideWidth();
+  if (!view_.besides || wide == 0) return;
+  const QStringList texts = view_.besides(row);
+  painter.save();
+  painter.setFont(PromptFont());
+  painter.setPen(CurrentLook().quiet);
+  int left = view_.viewport()->width() - wide;
+  place.setRight(left - kGrid);
+  for (qsizetype i = 0; i < texts.size() && i < qsizetype(view_.besideWidths.size()); ++i) {
+    const int width = view_.WidthOfColumns(view_.besideWidths[size_t(i)]);
+    const QRect own(left, place.top(), width - kGrid, place.height());
+    painter.drawText(own, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, texts[i]);
+    left += width;
+  }
+  painter.restore();
+}
+
+// A bold face of the same widths where there is one; else the text twice, hardly apart.
+void RowPainter::PaintHeavy(QPainter& painter, const QRect& place, const QString& text) const {
+  constexpr int kFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine;
+  QFont heavy = view_.font();
+  heavy.setWeight(QFont::DemiBold);
+  const auto width = [](const QFont& font) {
+    return QFontMetricsF(font).horizontalAdvance(QStringLiteral("0123456789"));
+  };
+  if (width(heavy) == width(view_.font())) {
+    painter.setFont(heavy);
+  } else {
+    painter.drawText(QRectF(place).translated(0.6, 0), kFlags, text);
+  }
+  painter.drawText(place, kFlags, text);
+}
+
+// Chapters in semibold, what belongs to them set in, a thin line beside it.
+void RowPainter::PaintContents(QPainter& painter, const QRect& place, const QString& text,
+                               int row) const {
+  constexpr int kBlanks = 5;
+  const auto levelOf = [this](int at) {
+    const ListRows& rows = view_.Model().Rows();
+    if (at >= rows.Count()) return 0;
+    const QString own = rows.At(at);
+    int blanks = 0;
+    while (blanks < own.size() && own[blanks] == u' ') ++blanks;
+    return blanks / kBlanks;
+  };
+  const int level = levelOf(row);
+  painter.save();
+  painter.setPen(CurrentLook().line);
+  for (int i = 0; i < level; ++i) {
+    const int x = place.left() + (2 * i + 1) * kGrid;
+    const bool last = i == level - 1 && levelOf(row + 1) < level;
+    painter.drawLine(x, place.top(), x, last ? place.center().y() : place.bottom());
+    if (i == level - 1) painter.drawLine(x, place.center().y(), x + kGrid, place.center().y());
+  }
+  painter.restore();
+  painter.setFont(level == 0 ? SectionFont() : view_.font());
+  painter.drawText(place.adjusted(level * 2 * kGrid + (level > 0 ? kGrid / 2 : 0), 0, 0, 0),
+                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text.trimmed());
+}
+
+void RowPainter::PaintText(QPainter& painter, QRect place, QString text, int row) const {
   if (text.size() > kMostPainted) text.truncate(kMostPainted);
   painter.setFont(view_.font());
   PaintFound(painter, place, text);
   const Look& look = CurrentLook();
   painter.setPen(view_.isEnabled() ? look.text : look.quiet);
   if (!view_.cellWidths.empty()) return PaintCells(painter, place, text);
+  if (view_.contents) return PaintContents(painter, place, text, row);
+  if (view_.isHeavy && view_.isHeavy(row)) return PaintHeavy(painter, place, text);
+  const int whole = place.width();
+  PaintBesides(painter, place, row);
+  if (place.width() < whole)
+    text = QFontMetrics(view_.font()).elidedText(text, Qt::ElideRight, place.width());
   const int flags = view_.linesOfRow > 1 ? Qt::AlignVCenter | Qt::TextWordWrap
                                          : Qt::AlignVCenter | Qt::TextSingleLine;
   painter.drawText(place, Qt::AlignLeft | flags, text);

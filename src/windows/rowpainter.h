@@ -20,7 +20,10 @@ class RowPainter : public QStyledItemDelegate {
  private:
   void PaintGround(QPainter& painter, const QStyleOptionViewItem& option, int row) const;
   void PaintFound(QPainter& painter, const QRect& place, const QString& text) const;
-  void PaintText(QPainter& painter, const QRect& place, QString text) const;
+  void PaintText(QPainter& painter, QRect place, QString text, int row) const;
+  void PaintContents(QPainter& painter, const QRect& place, const QString& text, int row) const;
+  void PaintBesides(QPainter& painter, QRect& place, int row) const;
+  void PaintHeavy(QPainter& painter, const QRect& place, const QString& text) const;
   void PaintCells(QPainter& painter, const QRect& place, const QString& text) const;
 
   RowsView& view_;

@@ -93,9 +93,16 @@ int RowsView::WholeRows() const {
   return std::max(1, viewport()->height() / rowHeight_);
 }
 
+int RowsView::BesideWidth() const {
+  constexpr int kLeastForText = 14;  // characters
+  int wide = 0;
+  for (const int characters : besideWidths) wide += WidthOfColumns(characters);
+  return wide + WidthOfColumns(kLeastForText) <= viewport()->width() ? wide : 0;
+}
+
 int RowsView::ContentsWidth() const {
   const int wide =
-      linesOfRow > 1 ? 0 : WidthOfColumns(std::min(model_->LongestRow(), kMostPainted));
+      linesOfRow > 1 || besides ? 0 : WidthOfColumns(std::min(model_->LongestRow(), kMostPainted));
   return std::max(wide, viewport()->width());
 }
 

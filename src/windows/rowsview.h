@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QListView>
+#include <functional>
 #include <vector>
 
 #include "windows/rowsmodel.h"
@@ -40,6 +41,15 @@ class RowsView : public QListView {
   // Rows whose texts have tabs stand in columns so many characters wide; the last takes the rest.
   std::vector<int> cellWidths;
   int CellLeft(size_t cell) const;  // in the viewport, before scrolling
+  // Quiet texts at the right end of a row, each in a column so many characters wide. They give way
+  // where the rows have little room.
+  std::function<QStringList(int row)> besides;
+  std::vector<int> besideWidths;
+  int BesideWidth() const;  // pixels of all of them; 0 where there is no room for them
+  // Rows that the eye looks for: painted with weight, their columns where they are.
+  std::function<bool(int row)> isHeavy;
+  // Rows are the contents of a book: five blanks in front for each level.
+  bool contents = false;
   int wantedRows = 8;
   int wantedColumns = 24;
 

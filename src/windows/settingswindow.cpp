@@ -25,13 +25,12 @@ QWidget* Palette(Builder& b) {
   return palette;
 }
 
-QWidget* Pair(QWidget* one, QWidget* other) {
-  auto* pair = new QWidget;
-  auto* line = RowIn(pair, 3 * kGrid);
-  line->addWidget(one);
-  line->addWidget(other);
+QWidget* Row(std::initializer_list<QWidget*> widgets) {
+  auto* row = new QWidget;
+  auto* line = RowIn(row, 3 * kGrid);
+  for (QWidget* widget : widgets) line->addWidget(widget);
   line->addStretch(1);
-  return pair;
+  return row;
 }
 
 }  // namespace
@@ -62,8 +61,10 @@ void LayOutSettings(Builder& b) {
   FieldColumn ways(body);
   ways.captionWidth = kCaptions;
   ways.Add(FixedCaption(QStringLiteral("User Interface:")),
-           Pair(b.Choice("Option1"), b.Choice("Option2")));
-  ways.Add(FixedCaption(QStringLiteral("Scale:")), Pair(b.Choice("Option3"), b.Choice("Option4")));
+           Row({b.Choice("Option1"), b.Choice("Option2")}));
+  ways.Add(FixedCaption(QStringLiteral("Scale:")), Row({b.Choice("Option3"), b.Choice("Option4")}));
+  ways.Add(FixedCaption(QStringLiteral("Look:")),
+           Row({b.Choice("LookSystem"), b.Choice("LookLight"), b.Choice("LookDark")}));
   ways.Add(FixedCaption(QStringLiteral("Reports:")), b.Check("AutoCheck"));
   QLabel* guard = b.Text("PlanGuard");
   guard->setWordWrap(true);

@@ -20,6 +20,12 @@ QPlainTextEdit:focus { border: 2px solid @accent; padding: 3px; background: @gro
 QListView { padding: 1px; }
 QListView:focus { border: 2px solid @accent; padding: 0px; }
 QListView[role="drop"] { border: 1px solid @accent; }
+QFrame[role="offer"] { background: @base; border: 1px solid @accent; border-radius: 3px; }
+QFrame[role="offer"] QListView { border: none; border-radius: 0px; }
+QFrame[role="offer"] QListView::item { padding: 2px 6px; color: @text; }
+QFrame[role="offer"] QListView::item:hover { background: @ground; }
+QFrame[role="offer"] QListView::item:selected { background: @accent; color: @onAccent; }
+QFrame[role="offer"] QLabel { border-top: 1px solid @faint; }
 QPushButton {
   min-height: 22px; padding: 3px 14px; border: 1px solid @line; border-radius: 3px;
   background: @button; color: @text;
@@ -52,6 +58,8 @@ QFrame[role="notice"] { background: @notice; border: none; border-top: 2px solid
 QFrame[role="notice"] QLabel { color: @text; background: transparent; }
 QMenuBar { background: @window; color: @text; padding: 2px 8px; }
 QMenuBar::item { padding: 5px 5px; margin-right: 1px; border-radius: 3px; background: transparent; }
+QToolButton#qt_menubar_ext_button { border: none; padding: 0px; background: @window; }
+QToolButton#qt_menubar_ext_button:hover { background: @ground; }
 QMenuBar::item:selected { background: @ground; border: 1px solid @accent; padding: 4px 4px; }
 QMenu { background: @base; color: @text; border: 1px solid @line; padding: 4px; }
 QMenu::item { padding: 6px 28px 6px 20px; border-radius: 3px; }

@@ -75,12 +75,41 @@ void TamoStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
   }
 }
 
+// A sign of a message: a letter in a round, in the accent of the program.
+QIcon MessageIcon(const QString& letter) {
+  constexpr int kSide = 96;
+  QPixmap picture(kSide, kSide);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const Look& look = CurrentLook();
+  painter.setPen(QPen(look.accent, 6));
+  painter.setBrush(look.accentGround);
+  painter.drawEllipse(QRectF(6, 6, kSide - 12, kSide - 12));
+  QFont font = SectionFont();
+  font.setPixelSize(58);
+  font.setWeight(QFont::Bold);
+  painter.setFont(font);
+  painter.drawText(QRectF(0, 0, kSide, kSide), Qt::AlignCenter, letter);
+  return picture;
+}
+
 // Every menu bar asks for this one at once; the style's own is a picture file, for which all
 // readers of pictures would be loaded at the start.
 QIcon TamoStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
                               const QWidget* widget) const {
   if (icon == SP_ToolBarHorizontalExtensionButton) return FurtherIcon();
+  if (icon == SP_MessageBoxInformation) return MessageIcon(QStringLiteral("i"));
+  if (icon == SP_MessageBoxQuestion) return MessageIcon(QStringLiteral("?"));
+  if (icon == SP_MessageBoxWarning || icon == SP_MessageBoxCritical)
+    return MessageIcon(QStringLiteral("!"));
   return QProxyStyle::standardIcon(icon, option, widget);
+}
+
+int TamoStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* more) const {
+  if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+  return QProxyStyle::styleHint(hint, option, widget, more);
 }
 
 }  // namespace tamo

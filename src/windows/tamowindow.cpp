@@ -1,4 +1,6 @@
+#include "windows/findbar.h"
 #include "windows/formlayouts.h"
+#include "windows/homelayout.h"
 
 // The main form: the project list on the left, the project panel on the right.
 
@@ -30,6 +32,11 @@ QWidget* ProjectList(Builder& b) {
             : QStringLiteral("Project, Open Project shows the projects of this data "
                              "folder.\nProject, Create Project begins a new one."));
   };
+  // Without list and panel the home page has the whole window.
+  b.Window().onSynced.push_back([side, jobs, panel] {
+    const bool wanted = jobs->Shown() || panel->Shown();
+    if (side->isHidden() == wanted) side->setVisible(wanted);
+  });
   return side;
 }
 
@@ -64,16 +71,28 @@ QWidget* ProjectPanel(Builder& b) {
   return panel;
 }
 
+FindBar* FindProject(Builder& b) {
+  auto* jobs = b.Find<OrderedList>("JobsList");
+  auto& view = static_cast<ListBinding*>(b.GetDisplay().Of(*jobs))->View();
+  std::vector<std::unique_ptr<FindPlace>> places;
+  places.push_back(std::make_unique<FindInRows>(view, b.GetDisplay(), jobs));
+  auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the projects"));
+  find->OpenByKey(b.Window());
+  return find;
+}
+
 }  // namespace
 
 void LayOutTamo(Builder& b) {
   auto* row = NewRow(2 * kGrid);
   row->addWidget(ProjectList(b), 2);
   auto* right = new QVBoxLayout;
-  right->addWidget(KeepPlaceWhenHidden(ProjectPanel(b)));
+  right->addWidget(ProjectPanel(b));
   right->addStretch(0);
+  right->addWidget(HomePageOf(b), 1);
   row->addLayout(right, 3);
   b.Window().Body().addLayout(row, 1);
+  b.Window().Body().addWidget(FindProject(b));
   b.Window().firstSize = {1000, 600};
 }
 

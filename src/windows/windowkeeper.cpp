@@ -1,18 +1,21 @@
 #include "windows/windowkeeper.h"
 
-#include <QShortcut>
+#include <QGuiApplication>
 #include <QWindow>
 #include <map>
 
+#include "common/paths.h"
 #include "program/program.h"
 #include "reports/reportsform.h"
 #include "schedule/scheduleform.h"
 #include "windows/accessible.h"
 #include "windows/builder.h"
 #include "windows/formlayouts.h"
-#include "windows/helptopics.h"
 #include "windows/reportprogress.h"
+#include "windows/sidebyside.h"
+#include "windows/suggestionview.h"
 #include "windows/windowactivation.h"
+#include "windows/windowkeys.h"
 #include "windows/windowplaces.h"
 
 namespace tamo {
@@ -22,11 +25,13 @@ struct WindowKeeper::Parts {
   Program& program;
   PlanPictures* pictures;
   WindowPlaces places;
+  SideBySide side;
   std::map<const Form*, std::unique_ptr<FormWindow>> windows{};
   std::unique_ptr<Display> display = std::make_unique<Display>(program.GetDesk());
   ReportProgress progress{QStringLiteral("The report is being made."), 50};
   ReportProgress schedule{QStringLiteral("The schedule is being worked on."), 500};
   WindowActivation activation{program.GetDesk()};
+  QPointer<SuggestionView> offer{};
 
   FormWindow* Existing(const Form* form) {
     const auto found = windows.find(form);
@@ -35,13 +40,18 @@ struct WindowKeeper::Parts {
 };
 
 WindowKeeper::WindowKeeper(Program& program, PlanPictures* pictures, const QString& placesFile)
-    : parts_(
-          new Parts{.program = program, .pictures = pictures, .places = WindowPlaces(placesFile)}) {
+    : parts_(new Parts{.program = program,
+                       .pictures = pictures,
+                       .places = WindowPlaces(placesFile),
+                       .side = SideBySide(placesFile)}) {
   InstallAccessibility();
   Display& display = *parts_->display;
   display.windowOf = [this](Form& form) -> QWidget* { return parts_->Existing(&form); };
   display.syncWindows = [this] { SyncWindows(); };
-  display.afterSync = [this] { ShowPopups(); };
+  display.afterSync = [this] {
+    ShowPopups();
+    ShowSuggestions(parts_->program, *parts_->display, parts_->offer);
+  };
   for (Form* form : program.GetDesk().Forms()) {
     form->observer = [this] { parts_->display->MarkDirty(); };
     if (auto* reports = dynamic_cast<ReportsForm*>(form)) {
@@ -84,6 +94,10 @@ Program& WindowKeeper::GetProgram() {
   return parts_->program;
 }
 
+SuggestionView* WindowKeeper::Offer() const {
+  return parts_->offer;
+}
+
 FormWindow& WindowKeeper::WindowOf(const Form& form) {
   std::unique_ptr<FormWindow>& window = parts_->windows[&form];
   if (window == nullptr) {
@@ -98,21 +112,6 @@ FormWindow& WindowKeeper::WindowOf(const Form& form) {
   return *window;
 }
 
-namespace {
-
-// The entry of the shell that carries the menus.
-void ChooseWhatChanged(Program& program) {
-  for (const char* shell : {"Tamo", "OST"}) {
-    Form* form = program.FindForm(QLatin1String(shell));
-    MenuEntry* entry = form == nullptr ? nullptr : form->FindMenu(QStringLiteral("WhatChanged"));
-    if (entry == nullptr || !entry->Choosable()) continue;
-    program.GetDesk().ChooseMenu(*entry);
-    return;
-  }
-}
-
-}  // namespace
-
 std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
   auto window = std::make_unique<FormWindow>(form, *parts_->display);
   if (!form.Controls().empty()) {
@@ -120,10 +119,7 @@ std::unique_ptr<FormWindow> WindowKeeper::MakeWindow(Form& form) {
     LayOut(builder);
   }
   window->Notice().onClick = [this] { parts_->program.TrySavesAgain(); };
-  auto* help = new QShortcut(QKeySequence(Qt::Key_F1), window.get());
-  connect(help, &QShortcut::activated, this, [this, &form] { ShowHelp(parts_->program, form); });
-  auto* changed = new QShortcut(QKeySequence(Qt::Key_F8), window.get());
-  connect(changed, &QShortcut::activated, this, [this] { ChooseWhatChanged(parts_->program); });
+  GiveWindowKeys(*window, parts_->program, askForPlan);
   return window;
 }
 
@@ -150,9 +146,24 @@ bool IsShell(const Form& form) {
   return form.Name() == QLatin1String("Tamo") || form.Name() == QLatin1String("OST");
 }
 
+// The form's caption, and what it is about: windows are told apart in a task bar, too.
+QString TitleOf(const Form& form, const SharedFields& shared) {
+  QStringList title = {form.Caption()};
+  const auto is = [&](const char* name) { return form.Name() == QLatin1String(name); };
+  const bool ofProject = !is("Settings") && !is("Docs");
+  if (ofProject && !shared.JobID.isEmpty())
+    title += (shared.JobID + QLatin1Char(' ') + shared.JobName).trimmed();
+  if (is("OST")) {
+    const auto* plan = dynamic_cast<const TextField*>(form.Find(QStringLiteral("PlanLocation")));
+    if (plan != nullptr && !plan->Empty()) title += FileNameOf(plan->Text());
+  }
+  return title.join(QStringLiteral(" - "));
+}
+
 void ShowFacts(FormWindow& window, const SharedFields& shared, const QString& notice) {
   const Form& form = window.GetForm();
-  if (window.windowTitle() != form.Caption()) window.setWindowTitle(form.Caption());
+  const QString title = TitleOf(form, shared);
+  if (window.windowTitle() != title) window.setWindowTitle(title);
   window.Menus().Apply();
   window.KeepMenusInSight();
   window.SetNotice(notice);
@@ -203,9 +214,32 @@ bool WindowKeeper::ShowWindow(FormWindow& window) {
   // An owner that was never shown has no window to stand over.
   SetOwner(window, parts_->Existing(form.OwnerForm()));
   parts_->places.Place(form.Name(), window);
+  PlaceBesidePlan(window);
   window.setAttribute(Qt::WA_ShowWithoutActivating, &form != parts_->program.GetDesk().Active());
   window.show();
   return true;
+}
+
+namespace {
+
+bool IsTakeoff(const Form& form) {
+  return form.Name() == QLatin1String("RFSForm") || form.Name() == QLatin1String("EstimateForm");
+}
+
+}  // namespace
+
+// Plan and takeoff don't lie over each other. Where nobody looks the screen is a name only.
+void WindowKeeper::PlaceBesidePlan(FormWindow& shown) {
+  if (QGuiApplication::platformName() == QLatin1String("offscreen")) return;
+  const Desk& desk = parts_->program.GetDesk();
+  FormWindow* plan = parts_->Existing(desk.Find(QStringLiteral("OST")));
+  if (plan == nullptr || plan->isMinimized()) return;
+  for (const char* name : {"RFSForm", "EstimateForm"}) {
+    FormWindow* takeoff = parts_->Existing(desk.Find(QLatin1String(name)));
+    if (takeoff == nullptr || (&shown != plan && &shown != takeoff)) continue;
+    const bool both = &shown == plan ? takeoff->isVisible() : plan->isVisible();
+    if (both) parts_->side.Arrange(QLatin1String(name), *takeoff, *plan);
+  }
 }
 
 // Those of forms that are hidden; with `all` the others, too.
@@ -213,6 +247,7 @@ void WindowKeeper::HideWindows(bool all) {
   for (const auto& [form, window] : parts_->windows) {
     if (!window->isVisible() || (form->Visible() && !all)) continue;
     parts_->places.Keep(form->Name(), *window);
+    if (IsTakeoff(*form)) parts_->side.Leave(form->Name(), *window);
     window->hide();
   }
 }

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 #include <memory>
 
 #include "common/form.h"
@@ -12,6 +13,7 @@ class Display;
 class FormWindow;
 class PlanPictures;
 class Program;
+class SuggestionView;
 
 // A window for each form: made when the form is first shown (or first asked for), then shown,
 // hidden, raised and activated as the Desk says, never destroyed before the keeper. Windows
@@ -28,12 +30,17 @@ class WindowKeeper : public QObject {
                         const QString& placesFile = {});
   ~WindowKeeper() override;
 
+  // Asks the estimator for a plan, "" for none; as it stands, by the system's own dialog.
+  std::function<QString(QWidget* over)> askForPlan;
+
   // Brings every widget and window to the state of its control and form, at once. It is done by
   // itself after each event of the Desk; after this call nothing is left to do, and what the window
   // system reported about activation has been taken in.
   void SyncNow();
 
  protected:
+  // What is offered under the field that is being typed in; nullptr when nothing ever was.
+  SuggestionView* Offer() const;
   // The window of a form, made when it was never asked for.
   FormWindow& WindowOf(const Form& form);
   Display& GetDisplay();
@@ -44,6 +51,7 @@ class WindowKeeper : public QObject {
   std::unique_ptr<FormWindow> MakeWindow(Form& form);
   void SyncWindows();
   bool ShowWindow(FormWindow& window);
+  void PlaceBesidePlan(FormWindow& shown);
   void HideWindows(bool all);
   void RaiseOwned(const Form& owner);
   void ShowPopups();

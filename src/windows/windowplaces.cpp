@@ -23,12 +23,25 @@ QRect ScreenOf(const QRect& window) {
   return best;
 }
 
+// Where nobody looks and no screen was described, windows have the size they want.
+bool IsSeen(const QScreen* screen) {
+  return screen != nullptr && (QGuiApplication::platformName() != QLatin1String("offscreen") ||
+                               !screen->name().isEmpty());
+}
+
+// A window that was never shown has no frame yet; this much is left for it.
+constexpr QSize kUsualFrame(4, 40);
+
+QSize FrameOf(const QWidget& window) {
+  const QSize frame = window.frameGeometry().size() - window.size();
+  const bool known = window.isVisible() || !frame.isNull();
+  return known ? frame : kUsualFrame;
+}
+
 void Fit(QWidget& window) {
   const QRect screen = ScreenOf(window.frameGeometry());
-  const QSize frame = window.frameGeometry().size() - window.size();
-  // Where nobody looks the screen is a name only, and pictures are taken in full size.
-  if (QGuiApplication::platformName() != QLatin1String("offscreen"))
-    window.resize(window.size().boundedTo(screen.size() - frame));
+  if (IsSeen(window.screen()))
+    window.resize(window.size().boundedTo(screen.size() - FrameOf(window)));
   const QRect now = window.frameGeometry();
   const QPoint corner(
       std::clamp(now.x(), screen.left(), std::max(screen.left(), screen.right() + 1 - now.width())),
@@ -38,6 +51,11 @@ void Fit(QWidget& window) {
 }
 
 }  // namespace
+
+QSize RoomFor(const QWidget& window) {
+  if (!IsSeen(window.screen())) return {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+  return window.screen()->availableSize() - FrameOf(window);
+}
 
 void WindowPlaces::Keep(const QString& form, const QWidget& window) {
   if (!window.isMinimized()) corners_[form] = window.pos();

@@ -7,6 +7,10 @@
 
 namespace tamo {
 
+// What a window's own contents may measure at most on its screen, the frame of the window system
+// left out.
+QSize RoomFor(const QWidget& window);
+
 // Where each window last was and how large: all that windows remember. A window always lies whole
 // on a screen, as far as the screen is large enough.
 class WindowPlaces {

@@ -59,6 +59,9 @@ void SettingsForm::BindChoices() {
   AutoCheck.onChange = [this] { kit_.shared.AutoCheck = AutoCheck.Value(); };
   Option1.onClick = [this] { windows_.EnterMode(1); };
   Option2.onClick = [this] { windows_.EnterMode(2); };
+  for (Option* option : {&LookSystem, &LookLight, &LookDark})
+    option->onClick = [this] { TellLook(); };
+  LookSystem.SetSelected(true);
   Command1.onClick = [this] {
     FixDataPath();
     Hide();
@@ -101,6 +104,7 @@ SettingsRecord SettingsForm::RecordOfFields() const {
   record.autoCheck = AutoCheck.Value();
   if (Option3.Selected()) record.scales = QStringLiteral("3");
   if (Option4.Selected()) record.scales = QStringLiteral("4");
+  record.look = Look();
   record.wholeQuantities = wholeQuantities_;
   return record;
 }
@@ -114,6 +118,7 @@ void SettingsForm::LoadSettings() {
 
 void SettingsForm::TakeRecord(const SettingsRecord& record) {
   wholeQuantities_ = record.wholeQuantities;
+  SetLook(record.look);
   EstimatorNumber.SetText(record.estimatorNumber);
   EstimatorName.SetText(record.estimatorName);
   CompanyName.SetText(record.companyName);
@@ -154,7 +159,8 @@ SettingsForm::Values SettingsForm::Fields() const {
   values += {QStringLiteral("LineColor"), lineColor_};
   values += {HScroll1.Name(), QString::number(Line1.Width())};
   values += {AutoCheck.Name(), QString::number(AutoCheck.Value())};
-  for (const Option* option : {&Option1, &Option2, &Option3, &Option4})
+  for (const Option* option :
+       {&Option1, &Option2, &Option3, &Option4, &LookSystem, &LookLight, &LookDark})
     values += {option->Name(), QString::number(option->Selected() ? 1 : 0)};
   return values;
 }
@@ -168,6 +174,23 @@ void SettingsForm::PutBack(const Values& values) {
     if (control == &HScroll1) HScroll1.SetValue(text.toInt());
     if (control == &AutoCheck) AutoCheck.SetValue(text.toInt());
   }
+  TellLook();
+}
+
+QString SettingsForm::Look() const {
+  if (LookLight.Selected()) return QStringLiteral("Light");
+  return LookDark.Selected() ? QStringLiteral("Dark") : QString();
+}
+
+void SettingsForm::SetLook(const QString& look) {
+  LookLight.SetSelected(look == QLatin1String("Light"));
+  LookDark.SetSelected(look == QLatin1String("Dark"));
+  LookSystem.SetSelected(Look().isEmpty());
+  TellLook();
+}
+
+void SettingsForm::TellLook() {
+  if (onLook) onLook();
 }
 
 void SettingsForm::SetWholeQuantities(bool on) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -40,6 +41,10 @@ class SettingsForm : public Form {
   bool WholeQuantities() const { return wholeQuantities_; }
   void SetWholeQuantities(bool on);
 
+  // "Light", "Dark", or "" for as the desktop is.
+  QString Look() const;
+  std::function<void()> onLook;  // it was chosen, or read, for whoever shows windows
+
   TextField EstimatorNumber{*this, "EstimatorNumber"};
   TextField EstimatorName{*this, "EstimatorName"};
   TextField CompanyName{*this, "CompanyName"};
@@ -53,6 +58,10 @@ class SettingsForm : public Form {
   Option Option2{*this, "Option2", "Online Plans", 1};
   Option Option3{*this, "Option3", "U.S. Scale", 2};
   Option Option4{*this, "Option4", "Metric Scale", 2};
+  // The colours of the windows; they change at once.
+  Option LookSystem{*this, "LookSystem", "As the Desktop", 3};
+  Option LookLight{*this, "LookLight", "Light", 3};
+  Option LookDark{*this, "LookDark", "Dark", 3};
   CheckBox AutoCheck{*this, "AutoCheck", "AutoUpdate Reports"};
   Label PlanGuard{*this, "PlanGuard"};  // what the system lacks to shut in the reader of plans
   Button Command1{*this, "Command1", "Exit Settings"};
@@ -61,6 +70,8 @@ class SettingsForm : public Form {
   void BindChain();
   void BindDataPath();
   void BindChoices();
+  void SetLook(const QString& look);
+  void TellLook();
   std::vector<std::unique_ptr<Swatch>> MakeSwatches();
   SettingsRecord RecordOfFields() const;
   void TakeRecord(const SettingsRecord& record);

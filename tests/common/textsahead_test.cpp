@@ -112,16 +112,33 @@ TEST_F(TextsAheadTest, ItMayEndAtAnyPlace) {
 
 TEST_F(TextsAheadTest, AThreadReadsSomeFilesAheadAndNoMore) {
   const QStringList paths = Written(500);
-  TextsAhead texts(files, static_cast<size_t>(paths.size()), PathOf(paths));
+  ReadingPace pace;
+  pace.ahead = 64;
+  TextsAhead texts(files, static_cast<size_t>(paths.size()), PathOf(paths), pace);
   QString text;
   ASSERT_EQ(texts.Next(text), kNoError);
   disk.Rest(11);
   EXPECT_GE(disk.elsewhere, 10);
-  EXPECT_LE(disk.reads, static_cast<int>(ReadingPace().ahead) + 1);
+  EXPECT_LE(disk.reads, static_cast<int>(pace.ahead) + 1);
   for (int i = 1; i < 400; ++i) ASSERT_EQ(texts.Next(text), kNoError);
   disk.Rest(401);
-  EXPECT_LE(disk.reads, 400 + static_cast<int>(ReadingPace().ahead));
+  EXPECT_LE(disk.reads, 400 + static_cast<int>(pace.ahead));
   EXPECT_GT(disk.reads, 400);
+}
+
+TEST_F(TextsAheadTest, FewLargeTextsWait) {
+  const QStringList paths = Written(300);
+  ReadingPace pace;
+  pace.most = 40;  // five or six of these texts
+  TextsAhead texts(files, static_cast<size_t>(paths.size()), PathOf(paths), pace);
+  QString text;
+  ASSERT_EQ(texts.Next(text), kNoError);
+  disk.Rest(2);
+  EXPECT_LE(disk.reads, 8);
+  for (int i = 1; i < 300; ++i) {
+    ASSERT_EQ(texts.Next(text), kNoError);
+    EXPECT_EQ(text, QStringLiteral("text %1\r\n").arg(i));
+  }
 }
 
 TEST_F(TextsAheadTest, FewFilesAreReadWhenTheyAreAskedFor) {

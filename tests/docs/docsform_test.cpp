@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFile>
 
 #include "common/failure.h"
 #include "docs/topics.h"
@@ -179,13 +180,38 @@ TEST_F(Docs, LeavingHidesItAndShowsTheShell) {
   EXPECT_EQ(returned, 1);
 }
 
-TEST_F(Docs, HelpOpensAtTheTopicOfAForm) {
-  Put("program/Docs/RFSDocs.tamo", "rooms\r\n");
-  docs.ShowTopicOf("RFSForm");
-  EXPECT_EQ(docs.MenuList.Selected(), "     Room Finish Schedule");
-  EXPECT_EQ(Text(), "rooms\r\n");
-  docs.ShowTopicOf("Nothing");
+TEST_F(Docs, HelpOpensAtTheTopicOfAFieldOrOfItsForm) {
+  Put("program/Docs/MarkupsDocs.tamo", "markups\r\n");
+  docs.ShowTopic(FileOfField("Pricing", "LTX"));
+  EXPECT_EQ(docs.MenuList.Selected(), "     Markups");
+  EXPECT_EQ(Text(), "markups\r\n");
+  docs.ShowTopic(FileOfField("Pricing", "Description"));
+  EXPECT_EQ(docs.MenuList.Selected(), "Pricing");
+  docs.ShowTopic(FileOfField("Nothing", ""));
   EXPECT_EQ(docs.MenuList.Selected(), "Documentation");
+}
+
+TEST_F(Docs, EveryTopicOfAFieldOrAReportIsShipped) {
+  for (const char* form : {"Tamo", "Settings", "Pricing", "RFSForm", "EstimateForm", "BottomLine",
+                           "AdjustmentForm", "OST", "Reports", "Docs", "Versions", "Schedule"}) {
+    for (const char* field : {"", "JobsList", "Notes", "MOH", "File1", "Price", "Scale1"}) {
+      const QString file = FileOfField(form, field);
+      EXPECT_TRUE(QFile::exists(QStringLiteral(TAMO_SOURCE_DIR "/data/Docs/") + file))
+          << file.toStdString();
+    }
+  }
+  for (const char* title : {"Recap Sheet", "Quantities", "Bill Of Materials", "BreakDown"})
+    EXPECT_TRUE(QFile::exists(QStringLiteral(TAMO_SOURCE_DIR "/data/Docs/") + FileOfReport(title)));
+}
+
+// A topic beside the list is shown, too; no row is selected then.
+TEST_F(Docs, HelpOpensATopicThatHasNoRow) {
+  Put("program/Docs/VersionsDocs.tamo", "versions\r\n");
+  docs.ShowTopic(FileOfField("Pricing", ""));
+  docs.ShowTopic(FileOfField("Versions", ""));
+  EXPECT_EQ(docs.MenuList.Index(), -1);
+  EXPECT_EQ(Text(), "versions\r\n");
+  EXPECT_EQ(docs.Text1.Text(), "versionsdocs");
 }
 
 }  // namespace

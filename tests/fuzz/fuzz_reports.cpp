@@ -25,6 +25,9 @@ class WildDisk : public RealDisk {
     parts_ =
         QByteArray(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)).split('\xff');
   }
+  int ReadStamped(const QString& path, QByteArray& bytes, FileStamp& stamp) override {
+    return Disk::ReadStamped(path, bytes, stamp);
+  }
   int Read(const QString& path, QByteArray& bytes) override {
     if (path.endsWith(QLatin1String("Rooms.tamo"))) {
       bytes = "A\r\nTrue\r\n";

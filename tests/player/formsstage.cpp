@@ -133,6 +133,10 @@ void FormsStage::ScrollTo(OrderedList& list, int row) {
   GetDesk().ScrollTo(list, row);
 }
 
+void FormsStage::ClickSuggestion(int row) {
+  played_->TakeSuggestion(row);
+}
+
 void FormsStage::Pick(FileBrowser& browser, const QString& path, bool twice) {
   GoTo(browser);
   GetDesk().Pick(browser, path, twice);

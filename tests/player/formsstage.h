@@ -25,6 +25,7 @@ class FormsStage : public Stage {
   void DoubleSelectRow(OrderedList& list, int row) override;
   void TickRow(CheckList& list, int row) override;
   void ScrollTo(OrderedList& list, int row) override;
+  void ClickSuggestion(int row) override;
   void Pick(FileBrowser& browser, const QString& path, bool twice) override;
   void CloseBox(Form& form) override;
 

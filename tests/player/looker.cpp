@@ -10,6 +10,8 @@
 namespace tamo::player {
 namespace {
 
+constexpr int kPatience = 20000;  // milliseconds for a sheet to be read
+
 QStringList AllShown(const QStringList& texts) {
   QStringList lines;
   for (const QString& text : texts) lines += Shown(text);
@@ -31,10 +33,14 @@ Played& Looker::Program() {
 }
 
 QStringList Looker::Look(const QString& what) {
+  if (what.contains(QLatin1String("Tamo.Home"))) Program().RefreshHomePage();
   QString rest = what;
   const QString word = TakeWord(rest);
   QStringList lines;
   if (LookAtMachine(word, rest, lines)) return lines;
+  // What a sheet says comes from a thread of its own; a person looks when it is there.
+  if (what.contains(QLatin1String("OST.")) && played_ != nullptr)
+    played_->GetDesk().Dispatch([this] { played_->Viewer().Snap().TellOfSheet(kPatience); });
   QString text;
   if (rest.isEmpty() ? LookAtPlan(word, text) || LookAtProgram(word, text)
                      : LookAtState(word, rest, text))
@@ -115,6 +121,10 @@ bool Looker::LookAtProgram(const QString& word, QString& text) {
     text = TrueOrFalse(played_ != nullptr && played_->Running());
   } else if (word == QStringLiteral("notice")) {
     text = Program().Notice();
+  } else if (word == QStringLiteral("suggestions")) {
+    text = Program().SuggestedNames().join(QStringLiteral("\r\n"));
+  } else if (word == QStringLiteral("suggestion")) {
+    text = Program().SuggestedNames().value(Program().WalkedSuggestion());
   } else if (word == QStringLiteral("chart")) {
     text = Program().Chart().join(QStringLiteral("\r\n"));
   } else if (word == QStringLiteral("focus")) {
@@ -167,7 +177,6 @@ QString Looker::SnapAt(const QString& rest) {
   const double x = TakeWord(second).toDouble(&good);
   const double y = second.toDouble(&both);
   if (!good || !both) NotUnderstood(QStringLiteral("snap X Y is expected"));
-  constexpr int kPatience = 20000;  // milliseconds for the lines of the sheet
   const std::vector<SnapHit> hits = Program().Viewer().Snap().AllNear({x, y}, kPatience);
   if (hits.empty()) return QStringLiteral("none");
   return SnapInWords(hits[0].kind) + QLatin1Char(' ') + ShortNumber(hits[0].at.x) +

@@ -53,6 +53,7 @@ constexpr Verb kVerbs[] = {
     {"doubleselect", Act::DoubleSelect, Shape::ControlAndRow},
     {"tick", Act::Tick, Shape::ControlAndRow},
     {"scrollto", Act::ScrollTo, Shape::ControlAndRow},
+    {"suggestion", Act::Suggestion, Shape::Seconds},
     {"pick", Act::Pick, Shape::ControlAndPath},
     {"doublepick", Act::DoublePick, Shape::ControlAndPath},
     {"close", Act::Close, Shape::Form},
@@ -273,6 +274,7 @@ bool KeyFromName(const QString& name, Key& key) {
                                                             {"Down", Key::Name::Down},
                                                             {"Left", Key::Name::Left},
                                                             {"Right", Key::Name::Right},
+                                                            {"End", Key::Name::End},
                                                             {"Ctrl+Z", Key::Name::TakeBack},
                                                             {"Ctrl+Y", Key::Name::BringBack}};
   for (const auto& [text, value] : names) {

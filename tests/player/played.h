@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <functional>
 #include <memory>
 
@@ -23,8 +24,15 @@ class Played {
   virtual PdfDraw& Viewer() = 0;
   virtual QString Notice() = 0;  // of unsaved files
   virtual void TrySavesAgain() = 0;
+  // What is offered under the field that is being typed in, and the row that the keys have walked
+  // to, -1 for none.
+  virtual QStringList SuggestedNames() { return {}; }
+  virtual int WalkedSuggestion() { return -1; }
+  virtual void TakeSuggestion(int /*row*/) {}
   virtual void Tick() = 0;  // as time goes by, between two events
   virtual bool Running() = 0;
+  // The figures of the home page are read now: somebody looks at them.
+  virtual void RefreshHomePage() {}
   // What is chosen in the next dialog for a file.
   virtual void ChooseNext(const QString& path) { (void)path; }
   // What the chart says that was last drawn.

@@ -1,5 +1,7 @@
 #include "player/programplayed.h"
 
+#include "program/suggestions.h"
+
 namespace tamo::player {
 
 ProgramPlayed::ProgramPlayed(const Platform& platform)
@@ -43,6 +45,15 @@ QString ProgramPlayed::Notice() {
 }
 void ProgramPlayed::TrySavesAgain() {
   program_->TrySavesAgain();
+}
+QStringList ProgramPlayed::SuggestedNames() {
+  return program_->GetSuggestions().Rows();
+}
+int ProgramPlayed::WalkedSuggestion() {
+  return program_->GetSuggestions().Walked();
+}
+void ProgramPlayed::TakeSuggestion(int row) {
+  program_->GetSuggestions().Take(row);
 }
 void ProgramPlayed::Tick() {
   program_->Tick();

@@ -30,8 +30,12 @@ class ProgramPlayed : public Played {
   PdfDraw& Viewer() override;
   QString Notice() override;
   void TrySavesAgain() override;
+  QStringList SuggestedNames() override;
+  int WalkedSuggestion() override;
+  void TakeSuggestion(int row) override;
   void Tick() override;
   bool Running() override;
+  void RefreshHomePage() override { program_->RefreshHomePage(); }
   Form* Shell() override;
   void ChooseNext(const QString& path) override { choices_ += path; }
   QStringList Chart() const override { return chart_; }

@@ -165,7 +165,9 @@ QString CheckForm(test::WindowProbe& keeper, const Form& form) {
   QString wrong = Differs(form.Name(), "visible", TrueOrFalse(form.Visible()),
                           TrueOrFalse(window->isVisible()));
   if (!wrong.isEmpty() || !form.Visible()) return wrong;
-  wrong = Differs(form.Name(), "its caption", form.Caption(), window->windowTitle());
+  // What the form is about stands behind its caption.
+  if (!window->windowTitle().startsWith(form.Caption() + QStringLiteral(" - ")))
+    wrong = Differs(form.Name(), "its caption", form.Caption(), window->windowTitle());
   for (const Control* control : form.Controls()) {
     if (!wrong.isEmpty()) return wrong;
     if (QWidget* widget = keeper.WidgetOf(*control))

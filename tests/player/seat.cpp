@@ -117,6 +117,10 @@ void Seat::Do(const Step& step) {
     case Act::Paste:
       Program();
       return stage_->Paste(Text(step));
+    case Act::Suggestion:
+      if (step.row < 0 || step.row >= Program().SuggestedNames().size())
+        Fail(QStringLiteral("there is no suggestion %1").arg(step.row));
+      return stage_->ClickSuggestion(step.row);
     case Act::PlanMode:
     case Act::PlanLine:
     case Act::PlanCircle:

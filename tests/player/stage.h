@@ -35,6 +35,7 @@ class Stage {
   virtual void DoubleSelectRow(OrderedList& list, int row) = 0;
   virtual void TickRow(CheckList& list, int row) = 0;
   virtual void ScrollTo(OrderedList& list, int row) = 0;
+  virtual void ClickSuggestion(int row) = 0;  // there is one
   virtual void Pick(FileBrowser& browser, const QString& path, bool twice) = 0;
   virtual void CloseBox(Form& form) = 0;
 

@@ -29,6 +29,7 @@ enum class Act {
   DoubleSelect,
   Tick,
   ScrollTo,
+  Suggestion,
   Pick,
   DoublePick,
   Close,

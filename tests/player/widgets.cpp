@@ -35,6 +35,7 @@ constexpr KeyCode kKeyCodes[] = {
     {Key::Name::Down, Qt::Key_Down, Qt::NoModifier, ""},
     {Key::Name::Left, Qt::Key_Left, Qt::NoModifier, ""},
     {Key::Name::Right, Qt::Key_Right, Qt::NoModifier, ""},
+    {Key::Name::End, Qt::Key_End, Qt::NoModifier, ""},
     {Key::Name::TakeBack, Qt::Key_Z, Qt::ControlModifier, "\x1a"},
     {Key::Name::BringBack, Qt::Key_Y, Qt::ControlModifier, "\x19"},
 };

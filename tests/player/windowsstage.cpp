@@ -19,6 +19,7 @@
 #include "player/widgets.h"
 #include "windows/look.h"
 #include "windows/plancanvas.h"
+#include "windows/suggestionview.h"
 #include "windows/windowprobe.h"
 
 namespace tamo::player {
@@ -82,6 +83,7 @@ class WindowsStage : public Stage {
   void DoubleSelectRow(OrderedList& list, int row) override;
   void TickRow(CheckList& list, int row) override;
   void ScrollTo(OrderedList& list, int row) override;
+  void ClickSuggestion(int row) override;
   void Pick(FileBrowser& browser, const QString& path, bool twice) override;
   void CloseBox(Form& form) override;
 
@@ -112,6 +114,7 @@ class WindowsStage : public Stage {
   void TakeTool(int mode);
   void AnswerNoPrinter();
   void GiveBackActivation();
+  QString OfferDifference() const;
 
   std::shared_ptr<Screen> screen_ = Screen::Shared();
   ProgramPlayed* played_ = nullptr;
@@ -316,6 +319,14 @@ void WindowsStage::ScrollTo(OrderedList& list, int row) {
   keeper_->DragTo(list, row);
 }
 
+void WindowsStage::ClickSuggestion(int row) {
+  keeper_->SyncNow();
+  QListWidget& names = keeper_->Offer()->Names();
+  const QRect place = names.visualItemRect(names.item(row));
+  SendClick(*names.viewport(), OpenPlace(*names.viewport(), place, names.item(row)->text()),
+            Qt::LeftButton);
+}
+
 void WindowsStage::Pick(FileBrowser& browser, const QString& path, bool twice) {
   GoTo(browser.Owner());
   keeper_->PickPath(browser, path, twice);
@@ -452,14 +463,28 @@ void WindowsStage::GiveBackActivation() {
 
 // The windows follow the forms by themselves; only what the window system reports late gets a
 // second look.
+// The offer under a field, as it stands on the screen.
+QString WindowsStage::OfferDifference() const {
+  QStringList shown;
+  if (const SuggestionView* offer = keeper_->Offer(); offer != nullptr && offer->isVisible()) {
+    for (int row = 0; row < offer->Names().count(); ++row)
+      shown += offer->Names().item(row)->text();
+  }
+  if (shown == played_->SuggestedNames()) return {};
+  return QStringLiteral("the suggestions differ on the screen: %1")
+      .arg(shown.join(QStringLiteral("; ")));
+}
+
 QString WindowsStage::Difference(bool front) {
   Settle();
-  if (front) GiveBackActivation();
-  QString found = FirstDifference(*keeper_, GetDesk(), played_->Notice(), front);
-  if (found.isEmpty()) return found;
+  const auto difference = [&] {
+    if (front) GiveBackActivation();
+    const QString found = FirstDifference(*keeper_, GetDesk(), played_->Notice(), front);
+    return found.isEmpty() ? OfferDifference() : found;
+  };
+  if (difference().isEmpty()) return {};
   QTest::qWait(kLateReport);
-  if (front) GiveBackActivation();
-  return FirstDifference(*keeper_, GetDesk(), played_->Notice(), front);
+  return difference();
 }
 
 bool WindowsStage::SavePicture(Form& form, const QString& path) {

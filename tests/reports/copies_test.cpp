@@ -32,7 +32,7 @@ TEST(Copies, TheFieldCopyHasARuleBeforeEveryDetailLineAndNoDollars) {
   const TakeoffCopy copy = FieldCopy(project.Source());
   int details = 0;
   for (qsizetype i = 0; i < copy.lines.size(); ++i) {
-    const bool detail = copy.detail[static_cast<size_t>(i)];
+    const bool detail = copy.rows->IsDetail(i);
     EXPECT_EQ(detail, copy.lines[i].startsWith(S("___  ")));
     details += detail ? 1 : 0;
     if (detail) {

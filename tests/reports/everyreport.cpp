@@ -6,6 +6,7 @@
 #include "reports/bill.h"
 #include "reports/breakdown.h"
 #include "reports/copies.h"
+#include "reports/notebook.h"
 #include "reports/quantities.h"
 #include "reports/recap.h"
 
@@ -52,14 +53,23 @@ Report Make(int report, const ReportSource& source, const Markups& markups) {
 
 Outcome Play(int report, const ReportSource& source, const Markups& markups) {
   try {
-    const Report made = Make(report, source, markups);
+    Uncounted uncounted;
+    ReportSource told = source;
+    if (told.uncounted == nullptr) told.uncounted = &uncounted;
+    const Report made = Make(report, told, markups);
+    // Whether a file is missing or gone depends on what was read before, and no figure on that.
+    QStringList notes;
+    for (const QString& sentence : told.uncounted->Sentences()) {
+      if (!sentence.contains(ReadReasonText(kGone))) notes += sentence;
+    }
     for (const ReportNote& note : made.notes) {
       for (const int row : note.rows) EXPECT_LT(row, made.lines.size());
+      notes += NoteLine(note);
     }
-    return {made.lines.ToList(), {}};
+    return {made.lines.ToList(), notes, {}};
   } catch (const RunTimeFailure& failure) {
     EXPECT_FALSE(failure.text.isEmpty());
-    return {{}, failure.text};
+    return {{}, {}, failure.text};
   }
 }
 

@@ -8,9 +8,11 @@
 
 namespace tamo::test {
 
-// What came of a report: its lines, or the message that it stopped with.
+// What came of a report: its lines with its notes and what it could not count, or the message that
+// it stopped with.
 struct Outcome {
   QStringList lines;
+  QStringList notes;
   QString message;
   bool operator==(const Outcome&) const = default;
 };

@@ -428,6 +428,49 @@ TEST(Progress, TheEndIsToldHoweverAReportEnds) {
   EXPECT_EQ(told, (QStringList{S("whole"), S("stopped"), S("stopped")}));
 }
 
+// A wall with its two detail lines, a hundred times in each of three rooms.
+void FillRooms(Wall& w) {
+  for (const char* room : {"A", "B", "C"}) {
+    QStringList lines;
+    for (int i = 1; i <= 100; ++i) lines += RoomLine(S("Wall"), QString::number(i));
+    w.project.Room(QString::fromLatin1(room), lines);
+  }
+}
+
+TEST(Progress, TheFirstPageOfACopyStandsWhileTheRestIsMade) {
+  Wall w;
+  FillRooms(w);
+  for (const QString& flag : {S("True"), S("False")}) {
+    OrderedList& list =
+        flag == S("True") ? static_cast<OrderedList&>(w.form.Reporter1) : w.form.Reporter;
+    QStringList page;
+    w.form.onProgress = [&](int done, int) {
+      if (done == 2) {
+        EXPECT_TRUE(list.Shown());
+        EXPECT_FALSE(w.form.Frame1.Shown());
+        page = list.Rows();
+      }
+      return true;
+    };
+    w.form.Flag = flag;
+    w.bench.Run(&ReportsForm::AreaRoomWP);
+    EXPECT_GE(page.size(), 60);
+    EXPECT_GT(list.Count(), 900);
+    EXPECT_EQ(list.Rows().mid(0, page.size()), page);
+  }
+}
+
+TEST(Progress, ACopyThatIsStoppedTakesItsFirstPageAway) {
+  Wall w;
+  FillRooms(w);
+  w.form.onProgress = [&](int done, int) { return done < 3; };
+  w.form.Flag = S("True");
+  w.bench.Run(&ReportsForm::AreaRoomWP);
+  EXPECT_FALSE(w.form.Reporter1.Shown());
+  EXPECT_TRUE(w.form.Reporter1.Empty());
+  EXPECT_TRUE(w.form.NotesList.Row(0).contains(S("was stopped")));
+}
+
 TEST(Progress, WhileAReportIsMadeNoOtherBegins) {
   Wall w;
   w.form.onProgress = [&](int, int) {

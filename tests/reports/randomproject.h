@@ -15,6 +15,9 @@ class MemoryDisk : public RealDisk {
   QHash<QString, QByteArray> contents;
 
   int Read(const QString& path, QByteArray& bytes) override;
+  int ReadStamped(const QString& path, QByteArray& bytes, FileStamp& stamp) override {
+    return Disk::ReadStamped(path, bytes, stamp);
+  }
   bool Exists(const QString& path) override { return contents.contains(path); }
   QStringList Names(const QString&) override { return {}; }
 };

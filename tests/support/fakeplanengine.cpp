@@ -74,10 +74,19 @@ class FakePlan : public EnginePlan {
                 0xffffffffU);
     return true;
   }
-  PageContent ReadContent(int /*page*/, CancelFlag& /*cancel*/) override {
+  PageContent ReadContent(int page, CancelFlag& /*cancel*/) override {
     PageContent content;
     content.size = engine_.size;
     content.whole = true;
+    const auto index = static_cast<size_t>(page - 1);
+    if (index < engine_.words.size() && !engine_.words[index].isEmpty()) {
+      TextPiece piece;
+      piece.text = engine_.words[index];
+      piece.size = 10;
+      piece.box = {100, 90, 200, 100};
+      piece.places = {{{100, 100}, {200, 100}, piece.box}};
+      content.texts = {piece};
+    }
     return content;
   }
 

@@ -16,8 +16,9 @@ class FakePlanEngine : public PlanEngine {
   // What a test wants of the next plans and saves.
   int pages = 1;
   PageSize size;
-  int openError = 0;    // not 0: plans fail to open with it
-  int updateError = 0;  // not 0: the saving of marks fails with it
+  std::vector<QString> words;  // of each page: a line that stands on it
+  int openError = 0;           // not 0: plans fail to open with it
+  int updateError = 0;         // not 0: the saving of marks fails with it
 
   QStringList calls;  // "open" and "update", in order; written by the plan's thread in a call
 };

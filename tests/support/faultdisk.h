@@ -36,6 +36,9 @@ class FaultDisk : public RealDisk {
 
   int Read(const QString& path, QByteArray& bytes) override;
   FileStamp Stamp(const QString& path) override;
+  int ReadStamped(const QString& path, QByteArray& bytes, FileStamp& stamp) override {
+    return Disk::ReadStamped(path, bytes, stamp);
+  }
   int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override;
   int OpenNew(const QString& path, int& handle) override;
   int OpenExclusive(const QString& path, int& handle) override;

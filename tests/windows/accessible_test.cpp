@@ -23,6 +23,9 @@ void Walk(QAccessibleInterface& thing, const QString& path) {
   const QAccessible::State state = thing.state();
   if (state.invisible) return;
   const QString here = path + QLatin1Char('/') + Name(thing);
+  if (thing.role() == QAccessible::MenuItem) {
+    EXPECT_FALSE(Name(thing).trimmed().isEmpty()) << path.toStdString();
+  }
   if (state.focusable) {
     EXPECT_FALSE(Name(thing).isEmpty()) << here.toStdString() << " role " << thing.role();
     EXPECT_NE(thing.role(), QAccessible::NoRole) << here.toStdString();
@@ -43,6 +46,46 @@ TEST_F(AccessibleTest, EveryWindowCanBeWalked) {
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->role(), QAccessible::Window) << form->Name().toStdString();
     Walk(*window, form->Name());
+  }
+}
+
+QAccessible::Role RoleOf(const Control& control) {
+  if (dynamic_cast<const TextField*>(&control) != nullptr) return QAccessible::EditableText;
+  if (dynamic_cast<const Button*>(&control) != nullptr) return QAccessible::Button;
+  if (dynamic_cast<const CheckBox*>(&control) != nullptr) return QAccessible::CheckBox;
+  if (dynamic_cast<const Option*>(&control) != nullptr) return QAccessible::RadioButton;
+  if (dynamic_cast<const OrderedList*>(&control) != nullptr) return QAccessible::List;
+  if (dynamic_cast<const ScrollBar*>(&control) != nullptr) return QAccessible::Slider;
+  if (dynamic_cast<const Label*>(&control) != nullptr) return QAccessible::StaticText;
+  return QAccessible::NoRole;
+}
+
+// What a control is, whether it is there, and whether it can be used is what its widget says.
+TEST_F(AccessibleTest, EveryControlHasItsRoleItsNameAndItsState) {
+  for (Form* form : desk.Forms()) {
+    desk.Dispatch([&] { desk.Show(*form); });
+    test::Settle();
+    if (!form->Visible()) continue;
+    for (const Control* control : form->Controls()) {
+      QWidget* widget = windows.WidgetOf(*control);
+      if (widget == nullptr) continue;
+      const std::string name = control->FullName().toStdString();
+      QAccessibleInterface* thing = QAccessible::queryAccessibleInterface(widget);
+      ASSERT_NE(thing, nullptr) << name;
+      const QAccessible::Role role = RoleOf(*control);
+      if (role != QAccessible::NoRole) EXPECT_EQ(thing->role(), role) << name;
+      if (thing->state().focusable) EXPECT_FALSE(Name(*thing).isEmpty()) << name;
+      EXPECT_EQ(bool(thing->state().invisible), !widget->isVisible()) << name;
+      EXPECT_EQ(bool(thing->state().disabled), !widget->isEnabled()) << name;
+    }
+  }
+}
+
+TEST_F(AccessibleTest, SpacersOfTheMenuAreSeparators) {
+  Menu("Tamo", "OST1");
+  for (const MenuEntry* entry : FormOf("OST").Menus()) {
+    if (!entry->Name().startsWith(QStringLiteral("Spacer")) || !entry->Shown()) continue;
+    EXPECT_TRUE(windows.ActionOf(*entry)->isSeparator()) << entry->Name().toStdString();
   }
 }
 

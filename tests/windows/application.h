@@ -11,7 +11,8 @@ inline QApplication& Application() {
   static char name[] = "test_windows";
   static char* arguments[] = {name, nullptr};
   static QApplication* application = [] {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qgetenv("QT_QPA_PLATFORM").startsWith("offscreen:"))
+      qputenv("QT_QPA_PLATFORM", "offscreen");
     auto* made = new QApplication(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);
     return made;

@@ -17,6 +17,7 @@ namespace tamo::test {
 // rows are.
 class WindowProbe : public WindowKeeper {
  public:
+  using WindowKeeper::Offer;
   using WindowKeeper::WindowKeeper;
 
   // The widget of a control: QLineEdit or QPlainTextEdit for a field, RowsView (a QListView) for a

@@ -17,8 +17,10 @@
 #include "windows/reportprinter.h"
 #include "windows/windowprobe.h"
 
-// Opens every window on the sample bid and saves a picture of each, light and dark, at 100 and 200
-// per cent:  tamo_pictures FOLDER
+// Opens every window on the sample bid and saves a picture of each. tamo_pictures FOLDER takes them
+// in full size, light and dark, at 100 and 200 per cent; tamo_pictures FOLDER WIDTHxHEIGHT-LOOK-
+// PERCENT on a screen of that size, as far as the windows fit (800x600-dark-100, 1366x768-light-150
+// with larger letters, 3840x2160-light-200 with two pixels for one).
 
 namespace tamo {
 namespace {
@@ -103,6 +105,10 @@ void Workspace(Pictures& p) {
   p.Take("Settings", "form");
   p.FormOf("Settings").Hide();
   p.Pick("Tamo", "JobsList", 0);
+  p.program.RefreshHomePage();
+  p.Take("Tamo", "home");
+  p.Wait(800);
+  p.Take("Tamo", "home");
   p.Menu("Tamo", "LockProject");
   p.Menu("Tamo", "ProjectInformation");
   p.Take("Tamo", "panel");
@@ -167,6 +173,10 @@ void Pricing(Pictures& p) {
   p.Take("Pricing", "empty");
   p.desk.ClickInto(p.At("Pricing", "Description"));
   p.Take("Pricing", "names");
+  p.Type("wal");
+  p.Take("Pricing", "suggestions");
+  p.desk.Dispatch([&] { dynamic_cast<TextField&>(p.At("Pricing", "Description")).Clear(); });
+  p.desk.ClickInto(p.At("Pricing", "Description"));
   p.Pick("Pricing", "DescriptionsList", 2);
   p.Take("Pricing", "materials");
   p.Menu("Pricing", "Markups");
@@ -220,6 +230,11 @@ int TakeAll(const QString& out, const QString& variant) {
   QTemporaryDir home;
   CopyFolder(QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/data/Sample/Tamo"),
              home.path() + QStringLiteral("/Tamo"));
+  if (variant.endsWith(QLatin1String("-150"))) {
+    QFont font = QApplication::font();
+    font.setPointSizeF(10.5 * 1.5);
+    QApplication::setFont(font);
+  }
   ApplyLook(variant.contains(QLatin1String("dark")) ? Look::Dark() : Look::Light());
   Pictures pictures(home.path(), out, QLatin1Char('-') + variant);
   Workspace(pictures);
@@ -230,6 +245,22 @@ int TakeAll(const QString& out, const QString& variant) {
   Help(pictures);
   Shell(pictures);
   return 0;
+}
+
+// A screen of its own for the process, described in a file; two hundred per cent are two pixels for
+// each one that the program counts.
+QByteArray DescribedScreen(const QString& size, bool doubled, const QTemporaryDir& folder) {
+  const QStringList sides = size.split(u'x');
+  const int pixels = doubled ? 2 : 1;
+  QFile file(folder.filePath(QStringLiteral("screen.json")));
+  if (!file.open(QIODevice::WriteOnly)) return "offscreen";
+  file.write(QStringLiteral(R"({"screens":[{"name":"screen","x":0,"y":0,"width":%1,"height":%2,)"
+                            R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":%3}]})")
+                 .arg(sides.value(0).toInt() / pixels)
+                 .arg(sides.value(1).toInt() / pixels)
+                 .arg(pixels)
+                 .toUtf8());
+  return "offscreen:configfile=" + QFile::encodeName(file.fileName());
 }
 
 int Variants(const QString& program, const QString& out) {
@@ -251,6 +282,12 @@ int Variants(const QString& program, const QString& out) {
 }  // namespace tamo
 
 int main(int argc, char** argv) {
+  const QTemporaryDir folder;
+  const QStringList words = QString::fromLocal8Bit(argc > 2 ? argv[2] : "").split(u'-');
+  if (words.size() == 3) {
+    qputenv("QT_QPA_PLATFORM",
+            tamo::DescribedScreen(words[0], words[2] == QLatin1String("200"), folder));
+  }
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   const QStringList arguments = QApplication::arguments();

@@ -1,5 +1,6 @@
-#include "windows/chartview.h"
+#include "windows/charts/chartview.h"
 
+#include <QApplication>
 #include <QBarCategoryAxis>
 #include <QBarSet>
 #include <QChart>
@@ -9,8 +10,6 @@
 #include <QToolTip>
 #include <QValueAxis>
 #include <algorithm>
-
-#include "windows/look.h"
 
 namespace tamo {
 namespace {
@@ -73,26 +72,13 @@ void AddAxes(QChart& chart, QAbstractSeries& series, const QStringList& names,
   dollars->applyNiceNumbers();
 }
 
-}  // namespace
-
-ChartColours ChartColours::OfScreen() {
-  const QPalette palette = QApplication::palette();
-  const QColor text = palette.color(QPalette::Text);
-  QColor lines = text;
-  lines.setAlphaF(0.25F);
-  return {palette.color(QPalette::Base), text, lines};
-}
-
-ChartColours ChartColours::OfPaper() {
-  return {Qt::white, Qt::black, QColor(0xc0, 0xc0, 0xc0)};
-}
-
-QChartView* NewChartView(const ChartData& data, const ChartColours& colours) {
+QChartView* NewView(const ChartData& data, const ChartColours& colours) {
   auto* chart = new QChart;
   chart->setAnimationOptions(QChart::NoAnimation);
   chart->setBackgroundBrush(colours.ground);
   chart->setBackgroundRoundness(0);
-  QFont heavy = SectionFont();
+  QFont heavy = QApplication::font();
+  heavy.setWeight(QFont::DemiBold);
   chart->setTitleFont(heavy);
   chart->setTitle(data.title.toHtmlEscaped() + QStringLiteral("<br>") +
                   data.subtitle.toHtmlEscaped());
@@ -113,10 +99,14 @@ QChartView* NewChartView(const ChartData& data, const ChartColours& colours) {
   auto* view = new QChartView(chart);
   view->setRenderHint(QPainter::Antialiasing);
   view->setFrameShape(QFrame::NoFrame);
-  view->setAccessibleName(data.title);
-  view->setAccessibleDescription(data.Lines().join(QLatin1Char('\n')));
   TellOnHover(*bars, data.bars, view);
   return view;
 }
 
+}  // namespace
 }  // namespace tamo
+
+extern "C" Q_DECL_EXPORT QWidget* TamoNewChartView(const tamo::ChartData* data,
+                                                   const tamo::ChartColours* colours) {
+  return tamo::NewView(*data, *colours);
+}

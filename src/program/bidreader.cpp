@@ -1,0 +1,83 @@
+#include "program/bidreader.h"
+
+#include <utility>
+
+#include "reports/reportsource.h"
+
+#ifdef __linux__
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#endif
+
+namespace tamo {
+namespace {
+
+// Who types comes first.
+void StepBehindTheWindow() {
+#ifdef __linux__
+  constexpr int kNice = 5;
+  setpriority(PRIO_PROCESS, static_cast<id_t>(syscall(SYS_gettid)), kNice);
+#endif
+}
+
+}  // namespace
+
+BidReader::BidReader(Disk& disk, std::function<void()> onAnswer)
+    : files_(disk), onAnswer_(std::move(onAnswer)) {}
+
+BidReader::~BidReader() {
+  {
+    const std::lock_guard<std::mutex> guard(mutex_);
+    stop_ = true;
+  }
+  wake_.notify_one();
+  if (thread_.joinable()) thread_.join();
+}
+
+void BidReader::Ask(const Question& question) {
+  {
+    const std::lock_guard<std::mutex> guard(mutex_);
+    question_ = question;
+  }
+  if (!thread_.joinable()) thread_ = std::thread([this] { Run(); });
+  wake_.notify_one();
+}
+
+std::optional<BidReader::Answer> BidReader::Take() {
+  const std::lock_guard<std::mutex> guard(mutex_);
+  return std::exchange(answer_, std::nullopt);
+}
+
+bool BidReader::Idle() {
+  const std::lock_guard<std::mutex> guard(mutex_);
+  return !question_ && !reading_ && !answer_;
+}
+
+BidOverview BidReader::Read(Files& files, const Question& question,
+                            const std::function<bool(int done, int all)>& progress) {
+  Markups markups = question.markups;
+  LoadMarkups(files, question.shared, markups);
+  ReportSource source{files, ProjectFolder(question.shared), progress};
+  return OverviewOfBid(source, markups);
+}
+
+void BidReader::Run() {
+  StepBehindTheWindow();
+  std::unique_lock<std::mutex> lock(mutex_);
+  for (;;) {
+    wake_.wait(lock, [this] { return stop_ || question_; });
+    if (stop_) return;
+    const Question question = *std::exchange(question_, std::nullopt);
+    reading_ = true;
+    lock.unlock();
+    BidOverview state = Read(files_, question, [this](int, int) { return !stop_; });
+    lock.lock();
+    reading_ = false;
+    if (stop_) return;
+    answer_ = Answer{std::move(state), question.shared.JobID};
+    onAnswer_();
+  }
+}
+
+}  // namespace tamo

@@ -1,0 +1,82 @@
+#include <QPainter>
+#include <QTimer>
+
+#include "windows/look.h"
+#include "windows/plancanvas.h"
+#include "windows/planpaint.h"
+
+// What the plan's window shows: the pictures of the sheet, the marks, what is in work, the cross
+// hair.
+
+namespace tamo {
+
+void PlanCanvas::paintEvent(QPaintEvent*) {
+  QPainter painter(viewport());
+  const Look& look = CurrentLook();
+  painter.fillRect(viewport()->rect(), look.dark ? look.base : look.faintLine);
+  const QPointF origin = Origin();
+  const QSizeF page = TurnedPage() * Scale();
+  painter.fillRect(QRectF(origin, page), Qt::white);
+  if (pictures_ != nullptr) {
+    const PlanView view = View();
+    const double ratio = devicePixelRatioF();
+    // The window has come to a finer or coarser screen.
+    if (ratio != lookedRatio_) QTimer::singleShot(0, this, [this] { ViewChanged(); });
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (const PlacedPicture& placed : pictures_->PicturesFor(view)) {
+      const QRectF target(origin.x() + placed.left / ratio, origin.y() + placed.top / ratio,
+                          placed.width / ratio, placed.height / ratio);
+      painter.drawImage(target, ImageOf(*placed.picture));
+    }
+  }
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setTransform(PageTransform(viewer_.SizeOfPage(viewer_.Page()), Turn(), Scale()) *
+                           QTransform::fromTranslate(origin.x(), origin.y()),
+                       true);
+  PaintMarks(painter);
+  PaintWork(painter);
+  painter.restore();
+  if (hasFocus()) {
+    painter.setPen(QPen(look.accent, 2));
+    painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+  }
+}
+
+void PlanCanvas::PaintMarks(QPainter& painter) const {
+  for (const Mark& mark : viewer_.MarksAsDrawn()) {
+    if (mark.page == viewer_.Page()) PaintMark(painter, mark, viewer_.MarkerSize());
+  }
+}
+
+void PlanCanvas::PaintWork(QPainter& painter) const {
+  const LineInWork& line = viewer_.LineWork();
+  if (line.active && line.page == viewer_.Page()) {
+    Mark mark;
+    mark.points = {line.from, line.to};
+    mark.page = line.page;
+    mark.colour = viewer_.MarkColour();
+    mark.width = viewer_.MarkWidth();
+    mark.label = line.text;
+    PaintMark(painter, mark, viewer_.MarkerSize());
+  }
+  if (const std::optional<Mark> outline = viewer_.OutlineInWork())
+    PaintMark(painter, *outline, viewer_.MarkerSize());
+  const std::optional<DrawnBox>& box = viewer_.Box();
+  if (box.has_value() && box->page == viewer_.Page()) {
+    painter.setPen(QPen(CurrentLook().accent.darker(110), 2 / Scale(), Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(QPointF(box->topLeft.x, box->topLeft.y),
+                            QPointF(box->bottomRight.x, box->bottomRight.y)));
+  }
+  if (viewer_.Tool() == PlanTool::None || !hasFocus()) return;
+  const PagePoint hair = viewer_.CrossHair();
+  if (const std::optional<SnapHit> sign = viewer_.Snap().Sign())
+    PaintSnapSign(painter, *sign, Scale());
+  const double arm = 9 / Scale();
+  painter.setPen(QPen(CurrentLook().accent.darker(110), 1.4 / Scale()));
+  painter.drawLine(QPointF(hair.x - arm, hair.y), QPointF(hair.x + arm, hair.y));
+  painter.drawLine(QPointF(hair.x, hair.y - arm), QPointF(hair.x, hair.y + arm));
+}
+
+}  // namespace tamo
