@@ -110,7 +110,7 @@ int main(int argc, char** argv) {
   }
   QTemporaryDir home;
   tamo::bench::StartedProgram started(QString::fromLocal8Bit(argv[1]), home.path());
-  started.GetProgram().Viewer().SetPatience(10);
+  started.GetProgram().Viewer().SetPatience(6);
   Watch watch;
   double longest = 0;
   int count = 0;

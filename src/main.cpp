@@ -29,7 +29,7 @@
 namespace {
 
 // How long the window waits for a plan before it shows a blank sheet and goes on.
-constexpr int kPatience = 10;
+constexpr int kPatience = 6;
 // How often it is looked whether a project that another program has open is free; milliseconds.
 constexpr int kTick = 3000;
 

@@ -76,7 +76,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   SnapPointer& Snap() { return snap_; }
 
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
-  // background; 10 seconds when not set. A window wants 10 milliseconds.
+  // background; 10 seconds when not set. A window wants 6 milliseconds.
   void SetPatience(int milliseconds) { patience_ = milliseconds; }
   // How long a plan may take to open at all; 30 seconds when not set.
   void SetLongestOpening(int milliseconds) { longestOpening_ = milliseconds; }

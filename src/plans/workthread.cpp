@@ -8,7 +8,7 @@
 namespace tamo {
 namespace {
 
-constexpr auto kMeanwhile = std::chrono::milliseconds(8);
+constexpr auto kMeanwhile = std::chrono::milliseconds(4);
 
 }  // namespace
 

@@ -67,7 +67,7 @@ void HomePage::BindStart() {
   LeadTo(page_.HomeOpen, forms_.main.menu.OpenProject);
   page_.HomeSample.onClick = [this] { OpenSample(); };
   page_.HomeGuide.onClick = [this] {
-    forms_.docs.ShowTopicOf(QStringLiteral("HomePage"));
+    forms_.docs.ShowTopic(QStringLiteral("StartDocs.tamo"));
     forms_.docs.Show(&forms_.main);
   };
   const auto projects = page_.Projects();
