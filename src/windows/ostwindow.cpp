@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProgressDialog>
+#include <QPushButton>
 
 #include "program/program.h"
 #include "windows/formlayouts.h"
@@ -157,7 +158,14 @@ void KnownDimension(Builder& b, QVBoxLayout& column) {
   QLineEdit* dimension = b.Field("KnownDimension", 8);
   known->setBuddy(dimension);
   column.addLayout(Line({known, dimension}));
-  column.addLayout(Line({b.PushButton("CheckDimension"), b.PushButton("Calibrate")}));
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(kGrid / 2);
+  for (const char* name : {"CheckDimension", "Calibrate"}) {
+    QPushButton* button = b.PushButton(name);
+    button->setFont(PromptFont());  // both fit beside each other, uncut
+    buttons->addWidget(button);
+  }
+  column.addLayout(buttons);
   column.addWidget(b.Prompt("DimensionResult"));
 }
 
