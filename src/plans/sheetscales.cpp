@@ -90,7 +90,7 @@ void SheetScales::ScaleChanged() {
   const bool changed =
       now.scale1 != seen_.scale1 || now.scale2 != seen_.scale2 || now.text5 != seen_.text5;
   seen_ = now;
-  if (changed && !record_.Loading() && FeetPerInch(now) > 0) known_[InFront()] = now;
+  if (changed && !record_.Loading() && FeetPerInch(now) > 0) known_[InFront()] = {now, false};
   Refresh();
 }
 
@@ -121,7 +121,8 @@ void SheetScales::Follow() {
   if (form_.FollowSheet.Value() != 1 || viewer_.ShownFile().isEmpty()) return;
   const auto known = known_.find(InFront());
   if (known != known_.end()) {
-    if (!Alike(FeetPerInch(known->second), FeetPerInch(InForce()))) scale_.Take(known->second);
+    if (!Alike(FeetPerInch(known->second.texts), FeetPerInch(InForce())))
+      scale_.Take(ScaleTexts(known->second.texts));
     return;
   }
   const PrintedScale* printed = Printed();
@@ -131,7 +132,7 @@ void SheetScales::Follow() {
   });
   if (!one) return;
   if (Alike(printed->feetPerInch, FeetPerInch(InForce()))) {
-    known_[InFront()] = InForce();
+    known_[InFront()] = {InForce(), false};
   } else {
     scale_.Take(TextsOf(*printed));
   }
@@ -141,12 +142,12 @@ void SheetScales::TakeOffered() {
   if (!offer_.has_value()) return;
   const ScaleTexts texts = offer_->texts;
   scale_.Take(texts);
-  known_[InFront()] = texts;
+  known_[InFront()] = {texts, false};
   Refresh();
 }
 
 void SheetScales::WasChecked() {
-  known_[InFront()] = InForce();
+  known_[InFront()] = {InForce(), true};
   Refresh();
 }
 
@@ -181,7 +182,7 @@ bool SheetScales::TakeDimension(double paperLength) {
   }
   const ScaleTexts texts = ScaleFor(*feet / inches);
   scale_.Take(texts);
-  known_[InFront()] = texts;
+  known_[InFront()] = {texts, true};
   const QString drawn = LengthText(inches * FeetPerInch(texts));
   form_.DimensionResult.SetCaption(
       IsUsual(texts)
@@ -222,8 +223,9 @@ std::optional<SheetScales::Offer> SheetScales::WhatToOffer() const {
   const double inForce = FeetPerInch(InForce());
   const auto known = known_.find(InFront());
   if (known != known_.end()) {
-    if (Alike(FeetPerInch(known->second), inForce)) return std::nullopt;
-    return Offer{known->second, InWords(known->second)};
+    const Known& here = known->second;
+    if (!Alike(FeetPerInch(here.texts), inForce)) return Offer{here.texts, InWords(here.texts)};
+    if (here.checked) return std::nullopt;
   }
   const PrintedScale* printed = Printed();
   if (printed == nullptr || IsPrinted(inForce)) return std::nullopt;
@@ -232,10 +234,13 @@ std::optional<SheetScales::Offer> SheetScales::WhatToOffer() const {
 
 QString SheetScales::Note() const {
   const double inForce = FeetPerInch(InForce());
-  const bool known = known_.count(InFront()) != 0;
+  const auto here = known_.find(InFront());
+  const bool known = here != known_.end();
   const QString now = InWords(InForce());
-  if (known && offer_.has_value() && inForce > 0)
+  if (known && !Alike(FeetPerInch(here->second.texts), inForce) && inForce > 0)
     return QStringLiteral("On this sheet %1 was used; in force is %2.").arg(offer_->words, now);
+  if (known && offer_.has_value())
+    return QStringLiteral("In force is %1, but this sheet prints %2.").arg(now, offer_->words);
   if (known) return {};
   if (SaysNotToScale() && Printed() == nullptr)
     return QStringLiteral("This sheet says NOT TO SCALE: check a dimension before you measure.");

@@ -52,7 +52,11 @@ class SheetScales {
   PdfDraw& viewer_;
   PlanScale& scale_;
   PlanRecord& record_;
-  std::map<Sheet, ScaleTexts> known_;  // set or checked on the sheet, in this run
+  struct Known {
+    ScaleTexts texts;
+    bool checked = false;  // against a dimension of the sheet: that goes before what is printed
+  };
+  std::map<Sheet, Known> known_;       // set or checked on the sheet, in this run
   std::vector<PrintedScale> printed_;  // of the sheet in front
   ScaleTexts seen_;                    // the fields when they were last looked at
   std::optional<Offer> offer_;

@@ -1,5 +1,7 @@
 #include "windows/plancolumn.h"
 
+#include <QPushButton>
+
 #include "program/program.h"
 #include "windows/scrolled.h"
 
@@ -80,7 +82,14 @@ void KnownDimension(Builder& b, QVBoxLayout& column) {
   QLineEdit* dimension = b.Field("KnownDimension", 8);
   known->setBuddy(dimension);
   column.addLayout(Line({known, dimension}));
-  column.addLayout(Line({b.PushButton("CheckDimension"), b.PushButton("Calibrate")}));
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(kGrid / 2);
+  for (const char* name : {"CheckDimension", "Calibrate"}) {
+    QPushButton* button = b.PushButton(name);
+    button->setFont(PromptFont());  // both fit beside each other, uncut
+    buttons->addWidget(button);
+  }
+  column.addLayout(buttons);
   column.addWidget(b.Prompt("DimensionResult"));
 }
 

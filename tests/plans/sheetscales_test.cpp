@@ -58,6 +58,15 @@ TEST_F(SheetScalesTest, AnotherScaleThanThePrintedOneIsSaid) {
   EXPECT_EQ(Scale(), "1/4\" = 1'") << "nothing is changed by itself";
 }
 
+TEST_F(SheetScalesTest, AScaleSetAgainstThePrintedOneIsSaidUntilADimensionProvesIt) {
+  Choose("Eighth");
+  Measure();
+  EXPECT_EQ(Note(), "In force is 1/8\" = 1', but this sheet prints 1/4\" = 1'.");
+  Enter(ost.KnownDimension, "20");
+  Draw(180);
+  EXPECT_EQ(Note(), "") << "the plan was printed at half its size";
+}
+
 TEST_F(SheetScalesTest, ADimensionThatIsRightCountsAsChecked) {
   Choose("Quarter");
   Turn(4);
@@ -103,7 +112,7 @@ TEST_F(SheetScalesTest, AMetricScaleGoesToInchesWithThePrintedOne) {
   Choose("OneFifty");
   EXPECT_EQ(viewer.Unit(), PaperUnit::Millimetres);
   Measure();
-  EXPECT_EQ(Note(), "");
+  EXPECT_EQ(Note(), "In force is 1 mm = 50 ft, but this sheet prints 1/4\" = 1'.");
   Turn(2);
   Click(ost.TakeScale);
   EXPECT_EQ(viewer.Unit(), PaperUnit::Inches);
