@@ -34,7 +34,7 @@ class Planner {
     room.row = index;
     room.name = NameFor(whole);
     if (room.name.isEmpty()) return;
-    room.height = FeetOf(row.height);
+    room.height = HeightInFeet(row.height);
     TakeFinishes(room, row, kFloor, areas_.floor);
     TakeFinishes(room, row, kBase, areas_.base);
     TakeWalls(room, row);
@@ -130,7 +130,7 @@ RoomPlan PlanRooms(const std::vector<FinishRow>& rows, const FinishKey& key,
   return planner.Plan();
 }
 
-QString FeetOf(const QString& height) {
+QString HeightInFeet(const QString& height) {
   static const QRegularExpression form(QStringLiteral(
       R"(^(\d+)\s*['\x{2019}\x{2032}]\s*-?\s*(?:(\d+)(?:\s+(\d+)/(\d+))?\s*(?:["\x{201d}\x{2033}]|''))?)"));
   const QRegularExpressionMatch match = form.match(height.trimmed());

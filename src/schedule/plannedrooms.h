@@ -44,6 +44,6 @@ RoomPlan PlanRooms(const std::vector<FinishRow>& rows, const FinishKey& key,
                    const FinishAreas& areas = {});
 
 // "9'-0"" is 9, "8'-6 1/2"" is 8.5416...; empty for a text that is no height.
-QString FeetOf(const QString& height);
+QString HeightInFeet(const QString& height);
 
 }  // namespace tamo

@@ -72,12 +72,12 @@ TEST(PlannedRooms, CodesWithoutASystemAreTold) {
 }
 
 TEST(PlannedRooms, HeightsAreFeet) {
-  EXPECT_EQ(FeetOf("9'-0\""), "9");
-  EXPECT_EQ(FeetOf("8'-6\""), "8.5");
-  EXPECT_EQ(FeetOf("10'"), "10");
-  EXPECT_EQ(FeetOf("8'-4 1/2\""), "8.375");
-  EXPECT_EQ(FeetOf("VARIES"), "");
-  EXPECT_EQ(FeetOf("-"), "");
+  EXPECT_EQ(HeightInFeet("9'-0\""), "9");
+  EXPECT_EQ(HeightInFeet("8'-6\""), "8.5");
+  EXPECT_EQ(HeightInFeet("10'"), "10");
+  EXPECT_EQ(HeightInFeet("8'-4 1/2\""), "8.375");
+  EXPECT_EQ(HeightInFeet("VARIES"), "");
+  EXPECT_EQ(HeightInFeet("-"), "");
 }
 
 }  // namespace
