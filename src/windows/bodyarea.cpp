@@ -76,16 +76,17 @@ void BodyArea::keyPressEvent(QKeyEvent* event) {
   event->ignore();
 }
 
+// In every area that scrolls, from the innermost out: all of it, or its beginning where it is
+// larger than the area.
 void BringIntoSight(QWidget& widget) {
   for (QWidget* at = widget.parentWidget(); at != nullptr; at = at->parentWidget()) {
-    auto* area = dynamic_cast<BodyArea*>(at);
-    if (area == nullptr) continue;
-    // All of it; where it is larger than the window, its beginning.
+    auto* area = qobject_cast<QScrollArea*>(at);
+    if (area == nullptr || area->widget() == nullptr || !area->widget()->isAncestorOf(&widget))
+      continue;
     const QPoint corner = widget.mapTo(area->widget(), QPoint());
     const QPoint end = corner + QPoint(widget.width(), widget.height());
     area->ensureVisible(end.x(), end.y(), kGrid, kGrid);
     area->ensureVisible(corner.x(), corner.y(), kGrid, kGrid);
-    return;
   }
 }
 

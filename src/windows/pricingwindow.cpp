@@ -51,6 +51,19 @@ QWidget* SystemFields(Builder& b) {
   return frame;
 }
 
+// The caption reads as the units are; as long as there is none, a reader of screens has these
+// words.
+void AddRatio(Builder& b, FieldColumn& column, const char* caption, const char* name,
+              const char* prompt) {
+  QLabel* label = Steady(b.Caption(caption));
+  QLineEdit* field = b.Field(name, 14);
+  column.Add(label, field, b.Prompt(prompt));
+  b.Window().onSynced.push_back([label, field] {
+    const QString words = label->text().isEmpty() ? QStringLiteral("Conversion number") : QString();
+    if (field->accessibleName() != words) field->setAccessibleName(words);
+  });
+}
+
 QWidget* MaterialFields(Builder& b) {
   auto* fields = new QWidget;
   FieldColumn column(*fields);
@@ -58,8 +71,8 @@ QWidget* MaterialFields(Builder& b) {
   column.Add(Steady(b.Caption("LabelMaterial")), b.Field("Material", 34), b.Prompt("Label18"));
   column.Add(Steady(b.Caption("LabelOrderUnits")), b.Field("OrderUnits", 14));
   column.Add(Steady(b.Caption("LabelPrice")), b.Field("Price", 14));
-  column.Add(Steady(b.Caption("LabelUPO")), b.Field("UPO", 14), b.Prompt("Label5"));
-  column.Add(Steady(b.Caption("LabelMnhr")), b.Field("MnhrPO", 14), b.Prompt("Label8"));
+  AddRatio(b, column, "LabelUPO", "UPO", "Label5");
+  AddRatio(b, column, "LabelMnhr", "MnhrPO", "Label8");
   column.Add(Steady(b.Caption("Label4")), b.Field("Waste", 14));
   column.Add(Steady(b.Caption("Label7")), b.Field("WageRate", 14));
   column.Grid().setColumnMinimumWidth(1, kPrompts);

@@ -135,10 +135,10 @@ TEST_F(KeeperTest, F8ComparesTheBidFromEveryWindow) {
 
 TEST_F(KeeperTest, ThePlaceOfAWindowIsRemembered) {
   Menu("Tamo", "Settings1");
-  Window("Settings").setGeometry(40, 60, 900, 650);
+  Window("Settings").setGeometry(40, 60, 900, 700);
   Menu("Tamo", "Settings1");
   test::WindowProbe again(program, nullptr, Path("windows.ini"));
-  EXPECT_EQ(again.WindowOf(FormOf("Settings"))->size(), QSize(900, 650));
+  EXPECT_EQ(again.WindowOf(FormOf("Settings"))->size(), QSize(900, 700));
 }
 
 TEST_F(KeeperTest, APlaceOnThePlanIsFoundAgainAtEveryTurnAndZoom) {
