@@ -68,7 +68,8 @@ TEST_F(ScreensTest, EveryButtonAndFieldOfEveryWindowCanBeReached) {
     EXPECT_TRUE(screen.contains(window.geometry()));
     for (Control* control : form.Controls()) {
       QWidget* widget = windows.WidgetOf(*control);
-      if (widget == nullptr || !widget->isVisible()) continue;
+      if (widget == nullptr || !widget->isVisible() || dynamic_cast<Frame*>(control) != nullptr)
+        continue;
       EXPECT_TRUE(CanBeSeen(*widget, window))
           << widget->mapTo(&window, QPoint()).x() << ' ' << widget->mapTo(&window, QPoint()).y()
           << ' ' << widget->width() << 'x' << widget->height() << ' '
