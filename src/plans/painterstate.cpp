@@ -331,9 +331,8 @@ void PlanPainter::State::StopStale() {
 }
 
 void PlanPainter::State::StopOverdue() {
-  const auto now = std::chrono::steady_clock::now();
   for (PaintJob* job : working) {
-    if (now - job->began >= kLongestRead) job->cancel->Cancel();
+    if (std::chrono::steady_clock::now() - job->began >= kLongestRead) job->cancel->Cancel();
   }
 }
 
