@@ -25,7 +25,6 @@ int main(int argc, char** argv) {
     return ready.open(QIODevice::WriteOnly) ? QApplication::exec() : 2;
   }
   const bool theirs = !program.Shared().ReadOnly.isEmpty();
-  const tamo::bench::FirstFrame end;
-  const int status = QApplication::exec();
-  return theirs ? 3 : status;
+  const tamo::bench::FirstFrame end(theirs ? 3 : 0);
+  return QApplication::exec();
 }

@@ -15,6 +15,7 @@ import hashlib
 import json
 import os
 import pathlib
+import re
 import shlex
 import subprocess
 import sys
@@ -42,6 +43,11 @@ def cache_folder():
     return folder
 
 
+def qt_version(build):
+    folder = re.search(r"^Qt6_DIR:[^=]*=(.*)$", (build / "CMakeCache.txt").read_text(), re.M)[1]
+    return (pathlib.Path(folder) / "Qt6ConfigVersionImpl.cmake").read_bytes()
+
+
 def included(build):
     """The headers of each object file, as the last build found them."""
     headers, current = {}, None
@@ -64,7 +70,11 @@ class File:
         self.command = self.command[:at] + self.command[at + 2 :]
         while not self.command[0].endswith(("c++", "g++", "clang++")):
             self.command.pop(0)
-        self.flags = [part for part in self.command if part not in ("-c", entry["file"])]
+        # The headers are read as they stand: another compiler has precompiled them.
+        while "-include" in self.command:
+            at = self.command.index("-include")
+            del self.command[at : at + 2]
+        self.flags = [part for part in self.command if part not in ("-c", "-Winvalid-pch", entry["file"])]
         self.headers = headers.get(self.object)
         self.build = build
 
@@ -74,7 +84,7 @@ class File:
             return None
         whole = hashlib.sha256(salt)
         whole.update(" ".join(self.flags).replace(str(root), "").encode())
-        for name in [str(self.path)] + self.headers:
+        for name in [str(self.path)] + [header for header in self.headers if "cmake_pch" not in header]:
             path = os.path.realpath(self.build / name)
             if path not in texts:
                 try:
@@ -134,6 +144,8 @@ cache = cache_folder()
 
 def main(build):
     salt = (root / ".clang-tidy").read_bytes() + output("clang-tidy", "--version").encode()
+    # Of headers that were precompiled only the library's version tells a change.
+    salt += qt_version(build)
     sources = {str(root / name) for name in output("git", "ls-files", "src/*.cpp").split("\n") if name}
     headers, texts = included(build), {}
     entries = json.loads((build / "compile_commands.json").read_text())
