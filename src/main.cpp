@@ -99,6 +99,18 @@ void JoinFilesAndCharts(tamo::Program& program, const tamo::Platform& platform,
   });
 }
 
+// Not quit: no window is asked, nothing may wait for an answer.
+void SaveAndExit(tamo::Program& program) {
+  program.SaveAll();
+  QCoreApplication::exit();
+}
+
+void Begin(tamo::Program& program) {
+  program.Start();
+  program.BeginHomePage();
+  OpenNamedPlan(QApplication::arguments(), program);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -137,16 +149,10 @@ int main(int argc, char** argv) {
   JoinFilesAndCharts(program, platform, messages.beforeBox);
   program.onEnded = [] { QTimer::singleShot(0, [] { QApplication::quit(); }); };
   SaveBeforeTheSystemEnds(application, program);
-  const tamo::EndSignals signals([&program] {
-    program.SaveAll();
-    // Not quit: no window is asked, nothing may wait for an answer.
-    QCoreApplication::exit();
-  });
+  const tamo::EndSignals signals([&program] { SaveAndExit(program); });
   QTimer keeping;
   KeepWhatIsTyped(keeping, program);
-  program.Start();
-  program.BeginHomePage();
-  OpenNamedPlan(QApplication::arguments(), program);
+  Begin(program);
   QTimer ticks;
   LookAbout(ticks, program);
   QTimer::singleShot(0, &look, [&look] { look.FollowDesktop(); });

@@ -128,6 +128,13 @@ bool AnyFieldBinding::TakeContextMenu(QContextMenuEvent& event) {
   return true;
 }
 
+// To the widget, which changes nothing of the field by it.
+void AnyFieldBinding::HandOn(QObject& object, QEvent& event) {
+  ++quiet_;
+  object.event(&event);
+  --quiet_;
+}
+
 bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
   switch (event->type()) {
     case QEvent::KeyPress:
@@ -150,9 +157,7 @@ bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
       if (static_cast<QFocusEvent*>(event)->reason() != Qt::ShortcutFocusReason)
         return TakeCommon(event);
       // A mnemonic selects a field's whole text; here the form says what is selected.
-      ++quiet_;
-      object->event(event);
-      --quiet_;
+      HandOn(*object, *event);
       GetDisplay().MarkDirty(*this);
       TakeCommon(event);
       return true;
@@ -160,9 +165,7 @@ bool AnyFieldBinding::eventFilter(QObject* object, QEvent* event) {
     case QEvent::FocusOut: {
       // Losing the keyboard to a menu or to another program takes nothing from the field.
       if (object != &Widget()) return false;
-      ++quiet_;
-      object->event(event);
-      --quiet_;
+      HandOn(*object, *event);
       pressedIn_ = false;
       return true;
     }

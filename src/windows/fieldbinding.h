@@ -39,6 +39,7 @@ class AnyFieldBinding : public Binding {
  private:
   bool TakeMouse(QEvent* event);
   bool TakeContextMenu(QContextMenuEvent& event);
+  void HandOn(QObject& object, QEvent& event);
   bool TakeInputMethod(QEvent* event, QObject* object);
 
   TextField& field_;
