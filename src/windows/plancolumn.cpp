@@ -1,6 +1,7 @@
 #include "windows/plancolumn.h"
 
 #include <QPushButton>
+#include <QStyle>
 
 #include "program/program.h"
 #include "windows/scrolled.h"
@@ -128,7 +129,8 @@ QWidget* Column(Builder& b) {
 
 QWidget* PlanColumn(Builder& b) {
   QWidget* side = Scrolled(Column(b), 20 * kGrid);
-  side->setFixedWidth(kColumnWidth);
+  // Nothing is cut where the column has to scroll.
+  side->setFixedWidth(kColumnWidth + side->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
   return side;
 }
 
