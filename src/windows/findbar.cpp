@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kSlice = 5;               // milliseconds
 constexpr int kRowsBetweenLooks = 256;  // at the clock
+constexpr int kPause = 200;             // milliseconds between two counts of rows that come in
 
 }  // namespace
 
@@ -42,6 +43,7 @@ FindBar::FindBar(std::vector<std::unique_ptr<FindPlace>> places, Display& displa
   connect(edit_, &QLineEdit::textEdited, this, [this] { TextChanged(); });
   slices_.setSingleShot(true);
   connect(&slices_, &QTimer::timeout, this, [this] { LookOn(); });
+  for (const auto& place : places_) place->onMore = [this] { LookAtMore(); };
   hide();
 }
 
@@ -123,6 +125,21 @@ void FindBar::Go(int step) {
   LookOn();
 }
 
+// The place that was found stays; the rows that came hold more of them, or the first.
+void FindBar::LookAtMore() {
+  if (isHidden() || edit_->text().isEmpty()) return;
+  more_ = search_.Looking();
+  if (more_) return;
+  if (row_ < 0) return Go(1);
+  const QString text = edit_->text();
+  search_ = {};
+  search_.rows = place_->Rows();
+  search_.text = text;
+  search_.at = row_;
+  search_.hit = search_.shown = true;
+  if (!slices_.isActive()) slices_.start(kPause);
+}
+
 void FindBar::LookAtNextRow() {
   if (!search_.Looking()) {
     search_.holding += search_.Holds(search_.counted++) ? 1 : 0;
@@ -143,8 +160,9 @@ void FindBar::LookOn() {
   TellResult();
   if (search_.Done()) {
     search_ = {};  // the rows may be a large report
+    if (std::exchange(more_, false)) LookAtMore();
   } else {
-    slices_.start();
+    slices_.start(0);
   }
 }
 
@@ -154,20 +172,20 @@ void FindBar::TellResult() {
     row_ = search_.at;
     place_->GoTo(row_);
   }
+  QString words;
   if (search_.Looking()) {
-    result_->setText(QStringLiteral("Looking ..."));
+    words = QStringLiteral("Looking ...");
   } else if (!search_.hit) {
-    result_->setText(QStringLiteral("Found nowhere."));
+    words = QStringLiteral("Found nowhere.");
     place_->GoTo(-1);
   } else if (!search_.Done()) {
-    result_->setText(QStringLiteral("Line %1; counting ...").arg(row_ + 1));
+    words = QStringLiteral("%1; counting ...").arg(place_->Where(row_));
   } else {
-    result_->setText(QStringLiteral("Line %1; %2. N: next, Shift+N: before, Esc: close.")
-                         .arg(row_ + 1)
-                         .arg(search_.holding == 1
-                                  ? QStringLiteral("no other line has it")
-                                  : QStringLiteral("%1 lines have it").arg(search_.holding)));
+    words = QStringLiteral("%1; %2. N: next, Shift+N: before, Esc: close.")
+                .arg(place_->Where(row_), place_->Holding(search_.holding));
   }
+  const QString rest = place_->Rest();
+  result_->setText(rest.isEmpty() ? words : words + QLatin1Char(' ') + rest);
 }
 
 bool FindBar::eventFilter(QObject*, QEvent* event) {

@@ -35,6 +35,7 @@ class FindBar : public QWidget {
   void Choose();
   void TextChanged();
   void Go(int step);
+  void LookAtMore();
   void LookOn();
   void LookAtNextRow();
   void TellResult();
@@ -63,6 +64,7 @@ class FindBar : public QWidget {
   FindPlace* place_ = nullptr;  // that is looked through
   int row_ = -1;
   Search search_;
+  bool more_ = false;  // rows came while the first was looked for
   QTimer slices_;
 };
 

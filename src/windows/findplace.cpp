@@ -7,6 +7,11 @@
 
 namespace tamo {
 
+QString FindPlace::Holding(int rows) const {
+  return rows == 1 ? QStringLiteral("no other line has it")
+                   : QStringLiteral("%1 lines have it").arg(rows);
+}
+
 bool FindInRows::Choose(int row) {
   if (list_ == nullptr || row < 0 || row >= list_->Count() || !(list_->onSelect || list_->onClick))
     return false;

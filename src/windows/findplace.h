@@ -2,6 +2,7 @@
 
 #include <QPlainTextEdit>
 #include <QString>
+#include <functional>
 
 #include "common/textrows.h"
 #include "windows/listbinding.h"
@@ -19,6 +20,11 @@ class FindPlace {
   virtual bool Choose(int /*row*/) {
     return false;
   }  // as a click on it; false where that means nothing
+  // In words: which row it is, how many hold the text, and what is not looked through yet.
+  virtual QString Where(int row) const { return QStringLiteral("Line %1").arg(row + 1); }
+  virtual QString Holding(int rows) const;
+  virtual QString Rest() const { return {}; }
+  std::function<void()> onMore;  // rows were added behind the others
 };
 
 class FindInRows : public FindPlace {

@@ -47,6 +47,7 @@ constexpr Row kRows[] = {
     {"OST", "Alt", "Held: no snapping"},
     {"OST", "+, -, F, W", "Zoom in, zoom out, the whole sheet, its whole width"},
     {"OST", "T", "Turn the sheet"},
+    {"OST", "Ctrl+F", "Find text on all sheets; N the next, Shift+N the one before"},
     {"OST", "Page Up, Page Down", "The sheet before, the next one"},
     {"OST", "Ctrl+Z, Ctrl+Y", "Take back a mark, bring it back"},
     {"", "Down, Up", "Walk through the list under a field; Enter takes a row"},

@@ -4,6 +4,8 @@
 #include <QProgressDialog>
 
 #include "program/program.h"
+#include "windows/findbar.h"
+#include "windows/findonplan.h"
 #include "windows/formlayouts.h"
 #include "windows/plancanvas.h"
 #include "windows/plancolumn.h"
@@ -144,6 +146,14 @@ PlanCanvas* Canvas(Builder& b) {
   return canvas;
 }
 
+FindBar* FindText(Builder& b, PlanCanvas& canvas) {
+  std::vector<std::unique_ptr<FindPlace>> places;
+  places.push_back(std::make_unique<FindOnPlan>(b.GetProgram().Viewer(), canvas, b.GetDisplay()));
+  auto* find = new FindBar(std::move(places), b.GetDisplay(), QStringLiteral("the plan"));
+  find->OpenByKey(b.Window());
+  return find;
+}
+
 }  // namespace
 
 void LayOutOST(Builder& b) {
@@ -161,6 +171,7 @@ void LayOutOST(Builder& b) {
   middle->addWidget(Password(b));
   middle->addWidget(Words(b));
   middle->addWidget(canvas, 1);
+  middle->addWidget(FindText(b, *canvas));
   row->addLayout(middle, 1);
   row->addWidget(PlanColumn(b));
   FormWindow& window = b.Window();

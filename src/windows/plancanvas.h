@@ -15,6 +15,12 @@ class QPrinter;
 
 namespace tamo {
 
+// A text that was found on a sheet.
+struct FoundBox {
+  PageBox box;          // points of the page
+  bool walked = false;  // the one that is looked at
+};
+
 // The plan: its pictures, the marks of this program on top, the line in work with its running
 // length, and the cross hair. What the mouse and the keys do goes to the viewer inside an event of
 // the Desk.
@@ -42,7 +48,8 @@ class PlanCanvas : public QAbstractScrollArea {
   // The whole sheet, or its whole width, in sight.
   void FitPage();
   void FitWidth();
-  std::function<void()> onPictures;  // more pictures are there
+  std::function<void()> onPictures;                        // more pictures are there
+  std::function<std::vector<FoundBox>(int page)> foundOn;  // what is framed on a page; may be empty
   // The user's scrolling that the viewer has not been told of yet. It is told once the sheet rests,
   // since the project's record is saved each time.
   void FinishScroll();
@@ -69,6 +76,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void ViewChanged();
   void PaintMarks(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
+  void PaintFound(QPainter& painter) const;
   void Pan(const QPointF& points);
   void ZoomAbout(const QPointF& place, const std::function<void()>& zoom);
   void ZoomByWheel(const QPointF& place, double notches);

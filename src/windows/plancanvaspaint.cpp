@@ -35,11 +35,25 @@ void PlanCanvas::paintEvent(QPaintEvent*) {
                            QTransform::fromTranslate(origin.x(), origin.y()),
                        true);
   PaintMarks(painter);
+  if (foundOn) PaintFound(painter);
   PaintWork(painter);
   painter.restore();
   if (hasFocus()) {
     painter.setPen(QPen(look.accent, 2));
     painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+  }
+}
+
+// Frames that leave the text readable; the one in hand is thick and has a ground.
+void PlanCanvas::PaintFound(QPainter& painter) const {
+  const double pixel = 1 / Scale();
+  for (const FoundBox& found : foundOn(viewer_.Page())) {
+    const QRectF box(QPointF(found.box.left, found.box.top),
+                     QPointF(found.box.right, found.box.bottom));
+    const QColor colour = found.walked ? QColor(0xd0, 0x30, 0x00) : QColor(0xb0, 0x70, 0x00);
+    painter.setPen(QPen(colour, (found.walked ? 3 : 1.5) * pixel));
+    painter.setBrush(found.walked ? QColor(255, 200, 0, 70) : QColor(255, 220, 80, 40));
+    painter.drawRect(box.adjusted(-2 * pixel, -2 * pixel, 2 * pixel, 2 * pixel));
   }
 }
 

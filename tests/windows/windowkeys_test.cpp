@@ -14,6 +14,7 @@
 #include "windows/findbar.h"
 #include "windows/keeperroom.h"
 #include "windows/keys.h"
+#include "windows/plancanvas.h"
 
 // The keys that every window has, pressed as a person presses them.
 
@@ -186,6 +187,51 @@ TEST_F(WindowKeysTest, TheManualIsSearched) {
   EXPECT_EQ(bar->text(), QStringLiteral("Found nowhere."));
   Key(Qt::Key_Escape, Qt::NoModifier);
   EXPECT_FALSE(bar->isVisible());
+}
+
+TEST_F(WindowKeysTest, AllSheetsOfThePlanAreSearched) {
+  engine.pages = 3;
+  engine.words = {QStringLiteral("FIRST FLOOR"), QStringLiteral("WALL TYPES"),
+                  QStringLiteral("DOOR AND WALL")};
+  Menu("Tamo", "OST1");
+  PutLines(Path("set.pdf"), {QStringLiteral("%PDF-1.4")});
+  desk.Dispatch([&] { ASSERT_EQ(viewer.OpenFile(Path("set.pdf"), QString()), 0); });
+  test::Settle();
+  const auto* said = Window("OST").findChild<QLabel*>(QStringLiteral("FindResult"));
+  ASSERT_NE(said, nullptr);
+  Key(Qt::Key_F);
+  test::Type(Focused(), QStringLiteral("wall"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return said->text().contains("2 places have it"); }))
+      << said->text().toStdString();
+  EXPECT_EQ(viewer.Page(), 2);
+  EXPECT_TRUE(said->text().startsWith("Sheet 2;")) << said->text().toStdString();
+  const auto* canvas = dynamic_cast<const PlanCanvas*>(windows.Plan());
+  ASSERT_NE(canvas, nullptr);
+  ASSERT_EQ(canvas->foundOn(2).size(), 1U);
+  EXPECT_TRUE(canvas->foundOn(2)[0].walked);
+  EXPECT_TRUE(canvas->foundOn(1).empty());
+  Key(Qt::Key_Return, Qt::NoModifier);
+  EXPECT_EQ(viewer.Page(), 3);
+  Key(Qt::Key_N, Qt::NoModifier);
+  EXPECT_EQ(viewer.Page(), 2) << "round the end";
+  Key(Qt::Key_N, Qt::ShiftModifier);
+  EXPECT_EQ(viewer.Page(), 3);
+  Key(Qt::Key_Escape, Qt::NoModifier);
+  EXPECT_FALSE(said->isVisible());
+  EXPECT_TRUE(canvas->foundOn(3).empty());
+}
+
+TEST_F(WindowKeysTest, APlanWithoutTextSaysSo) {
+  engine.pages = 2;
+  Menu("Tamo", "OST1");
+  PutLines(Path("scan.pdf"), {QStringLiteral("%PDF-1.4")});
+  desk.Dispatch([&] { ASSERT_EQ(viewer.OpenFile(Path("scan.pdf"), QString()), 0); });
+  test::Settle();
+  const auto* said = Window("OST").findChild<QLabel*>(QStringLiteral("FindResult"));
+  Key(Qt::Key_F);
+  test::Type(Focused(), QStringLiteral("wall"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return said->text().contains("hold no text"); }))
+      << said->text().toStdString();
 }
 
 TEST_F(WindowKeysTest, TheLibraryIsSearchedInTheListOfTheField) {

@@ -1,0 +1,64 @@
+#include "plans/sheettexts.h"
+
+#include <iterator>
+#include <mutex>
+#include <utility>
+
+namespace tamo {
+
+struct SheetTexts::Reading {
+  CancelFlag cancel;
+  std::mutex mutex;
+  std::vector<Line> lines;  // not taken yet
+  int read = 0;
+  int failed = 0;
+};
+
+void SheetTexts::Read(const std::shared_ptr<EnginePlan>& plan, int pages, int first,
+                      const std::shared_ptr<Reading>& reading) {
+  for (int i = 0; i < pages && !reading->cancel.Cancelled(); ++i) {
+    const int page = (first - 1 + i) % pages + 1;
+    const PageContent content = plan->ReadContent(page, reading->cancel);
+    if (reading->cancel.Cancelled()) return;
+    std::vector<Line> lines;
+    for (PageTextLine& line : TextLinesOf(content)) {
+      lines.push_back({page, std::move(line.text), line.box});
+    }
+    const std::lock_guard<std::mutex> guard(reading->mutex);
+    std::move(lines.begin(), lines.end(), std::back_inserter(reading->lines));
+    ++reading->read;
+    if (!content.whole) ++reading->failed;
+  }
+}
+
+void SheetTexts::Want(const std::shared_ptr<EnginePlan>& plan, int pages, int first) {
+  if (reading_ != nullptr && plan != nullptr && plan_.lock() == plan) return;
+  Drop();
+  if (plan == nullptr) return;
+  plan_ = plan;
+  pages_ = pages;
+  reading_ = std::make_shared<Reading>();
+  if (thread_ == nullptr) thread_ = std::make_unique<WorkThread>();
+  thread_->Post([plan, pages, first, reading = reading_] { Read(plan, pages, first, reading); });
+}
+
+void SheetTexts::Drop() {
+  if (reading_ != nullptr) reading_->cancel.Cancel();
+  reading_.reset();
+  plan_.reset();
+  lines_.clear();
+  pages_ = sheetsRead_ = sheetsFailed_ = 0;
+}
+
+bool SheetTexts::Take() {
+  if (reading_ == nullptr) return false;
+  const std::lock_guard<std::mutex> guard(reading_->mutex);
+  if (sheetsRead_ == reading_->read) return false;
+  std::move(reading_->lines.begin(), reading_->lines.end(), std::back_inserter(lines_));
+  reading_->lines.clear();
+  sheetsRead_ = reading_->read;
+  sheetsFailed_ = reading_->failed;
+  return true;
+}
+
+}  // namespace tamo
