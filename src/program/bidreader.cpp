@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "common/paths.h"
+#include "records/datafolder.h"
 #include "reports/reportsource.h"
 
 #ifdef __linux__
@@ -35,10 +37,14 @@ BidReader::~BidReader() {
   if (thread_.joinable()) thread_.join();
 }
 
-void BidReader::Ask(const Question& question) {
+void BidReader::Ask(Question question) {
   {
     const std::lock_guard<std::mutex> guard(mutex_);
-    question_ = question;
+    if (question_) {
+      question.opened |= question_->opened;
+      question.changed += question_->changed;
+    }
+    question_ = std::move(question);
   }
   if (!thread_.joinable()) thread_ = std::thread([this] { Run(); });
   wake_.notify_one();
@@ -62,6 +68,11 @@ BidOverview BidReader::Read(Files& files, const Question& question,
   return OverviewOfBid(source, markups);
 }
 
+void BidReader::Forget(const Question& question) {
+  if (question.opened) files_.ForgetFolder(BareFolder(ProjectFolder(question.shared).Path()));
+  for (const QString& path : question.changed) files_.Forget(path);
+}
+
 void BidReader::Run() {
   StepBehindTheWindow();
   std::unique_lock<std::mutex> lock(mutex_);
@@ -71,6 +82,7 @@ void BidReader::Run() {
     const Question question = *std::exchange(question_, std::nullopt);
     reading_ = true;
     lock.unlock();
+    Forget(question);
     BidOverview state = Read(files_, question, [this](int, int) { return !stop_; });
     lock.lock();
     reading_ = false;
