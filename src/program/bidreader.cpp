@@ -1,5 +1,7 @@
 #include "program/bidreader.h"
 
+#include <new>
+#include <system_error>
 #include <utility>
 
 #include "common/paths.h"
@@ -46,7 +48,13 @@ void BidReader::Ask(Question question) {
     }
     question_ = std::move(question);
   }
-  if (!thread_.joinable()) thread_ = std::thread([this] { Run(); });
+  try {
+    if (!thread_.joinable()) thread_ = std::thread([this] { Run(); });
+  } catch (const std::system_error&) {
+    // No thread to be had: the next question tries again.
+    const std::lock_guard<std::mutex> guard(mutex_);
+    question_.reset();
+  }
   wake_.notify_one();
 }
 
@@ -82,8 +90,14 @@ void BidReader::Run() {
     const Question question = *std::exchange(question_, std::nullopt);
     reading_ = true;
     lock.unlock();
-    Forget(question);
-    BidOverview state = Read(files_, question, [this](int, int) { return !stop_; });
+    BidOverview state;
+    try {
+      Forget(question);
+      state = Read(files_, question, [this](int, int) { return !stop_; });
+    } catch (const std::bad_alloc&) {
+      state = {};
+      state.failure = QStringLiteral("There is not enough memory for the figures of this bid.");
+    }
     lock.lock();
     reading_ = false;
     if (stop_) return;
