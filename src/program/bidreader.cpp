@@ -1,7 +1,11 @@
 #include "program/bidreader.h"
 
+#include <new>
+#include <system_error>
 #include <utility>
 
+#include "common/paths.h"
+#include "records/datafolder.h"
 #include "reports/reportsource.h"
 
 #ifdef __linux__
@@ -35,12 +39,22 @@ BidReader::~BidReader() {
   if (thread_.joinable()) thread_.join();
 }
 
-void BidReader::Ask(const Question& question) {
+void BidReader::Ask(Question question) {
   {
     const std::lock_guard<std::mutex> guard(mutex_);
-    question_ = question;
+    if (question_) {
+      question.opened |= question_->opened;
+      question.changed += question_->changed;
+    }
+    question_ = std::move(question);
   }
-  if (!thread_.joinable()) thread_ = std::thread([this] { Run(); });
+  try {
+    if (!thread_.joinable()) thread_ = std::thread([this] { Run(); });
+  } catch (const std::system_error&) {
+    // No thread to be had: the next question tries again.
+    const std::lock_guard<std::mutex> guard(mutex_);
+    question_.reset();
+  }
   wake_.notify_one();
 }
 
@@ -62,6 +76,11 @@ BidOverview BidReader::Read(Files& files, const Question& question,
   return OverviewOfBid(source, markups);
 }
 
+void BidReader::Forget(const Question& question) {
+  if (question.opened) files_.ForgetFolder(BareFolder(ProjectFolder(question.shared).Path()));
+  for (const QString& path : question.changed) files_.Forget(path);
+}
+
 void BidReader::Run() {
   StepBehindTheWindow();
   std::unique_lock<std::mutex> lock(mutex_);
@@ -71,7 +90,14 @@ void BidReader::Run() {
     const Question question = *std::exchange(question_, std::nullopt);
     reading_ = true;
     lock.unlock();
-    BidOverview state = Read(files_, question, [this](int, int) { return !stop_; });
+    BidOverview state;
+    try {
+      Forget(question);
+      state = Read(files_, question, [this](int, int) { return !stop_; });
+    } catch (const std::bad_alloc&) {
+      state = {};
+      state.failure = QStringLiteral("There is not enough memory for the figures of this bid.");
+    }
     lock.lock();
     reading_ = false;
     if (stop_) return;

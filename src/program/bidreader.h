@@ -22,6 +22,10 @@ class BidReader {
   struct Question {
     SharedFields shared;  // which project
     Markups markups;      // that stand where the file gives none
+    // What the program itself made of its files since the last question: one that it removed is not
+    // gone.
+    bool opened = false;  // the project was opened
+    QStringList changed;  // files that were stored or removed
   };
 
   // The disk outlives this. `onAnswer` is called on the thread of the reader.
@@ -31,7 +35,7 @@ class BidReader {
   BidReader& operator=(const BidReader&) = delete;
 
   // The newest question takes the place of one that was not begun yet.
-  void Ask(const Question& question);
+  void Ask(Question question);
   struct Answer {
     BidOverview state;
     QString project;  // its id
@@ -47,6 +51,7 @@ class BidReader {
 
  private:
   void Run();
+  void Forget(const Question& question);
 
   Files files_;
   std::function<void()> onAnswer_;

@@ -1,6 +1,8 @@
 #include "program/homepage.h"
 
 #include <QMetaObject>
+#include <QSet>
+#include <utility>
 
 #include "common/paths.h"
 #include "docs/docsform.h"
@@ -21,15 +23,19 @@ class HomePage::Saves : public FileWitness {
 
   void Replaced(const QString& path, std::shared_ptr<FileReader> former) override {
     any = true;
+    changed_.insert(path);
     if (next_ != nullptr) next_->Replaced(path, std::move(former));
   }
   bool MakeRoom() override { return next_ != nullptr && next_->MakeRoom(); }
+  // Since the last call.
+  QStringList TakeChanged() { return std::exchange(changed_, {}).values(); }
 
   bool any = true;
 
  private:
   Files& files_;
   FileWitness* const next_;
+  QSet<QString> changed_;  // files
 };
 
 HomePage::HomePage(const Kit& kit, const Forms& forms)
@@ -38,7 +44,8 @@ HomePage::HomePage(const Kit& kit, const Forms& forms)
             &here_,
             [this] {
               const auto answer = reader_.Take();
-              if (!answer || answer->project != job_) return;
+              // What could not be stored is only here, and not among what was read.
+              if (!answer || answer->project != job_ || !kit_.files.PendingSaves().empty()) return;
               ShowFacts();
               ShowFigures(answer->state);
             },
@@ -150,19 +157,32 @@ void HomePage::ShowParts() {
 }
 
 BidReader::Question HomePage::TheQuestion() const {
-  return {kit_.shared, forms_.pricing.MarkupTexts()};
+  return {kit_.shared, forms_.pricing.MarkupTexts(), false, {}};
+}
+
+QStringList HomePage::Unsaved() const {
+  QStringList texts;
+  for (const Files::Pending& save : kit_.files.PendingSaves()) texts << save.path << save.text;
+  return texts;
 }
 
 void HomePage::Follow() {
   ShowParts();
   if (!begun_) return;
   saves_->any = NoteOpened() || saves_->any;
+  if (open_ != kit_.shared.JobID) {
+    open_ = kit_.shared.JobID;
+    opened_ = true;
+  }
   if (!InSight()) return;
   const bool another = job_ != kit_.shared.JobID;
-  // What could not be stored is only here.
-  const bool pending = !kit_.files.PendingSaves().empty();
-  if (!another && !pending && !saves_->any) return;
+  // What could not be stored is only here. It is looked through when it changed, and not by every
+  // key.
+  const QStringList unsaved = Unsaved();
+  const bool pending = !unsaved.isEmpty();
+  if (!another && unsaved == unsaved_ && !saves_->any) return;
   saves_->any = false;
+  unsaved_ = unsaved;
   job_ = kit_.shared.JobID;
   if (job_.isEmpty()) {
     ShowRecent();
@@ -185,7 +205,10 @@ void HomePage::AskLater() {
       &here_,
       [this] {
         asking_ = false;
-        reader_.Ask(TheQuestion());
+        BidReader::Question question = TheQuestion();
+        question.opened = std::exchange(opened_, false);
+        question.changed = saves_->TakeChanged();
+        reader_.Ask(std::move(question));
       },
       Qt::QueuedConnection);
 }

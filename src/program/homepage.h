@@ -61,6 +61,7 @@ class HomePage {
   void ShowFigures(const BidOverview& state);
   bool NoteOpened();  // true when another plan came up
   bool InSight() const;
+  QStringList Unsaved() const;
   BidReader::Question TheQuestion() const;
 
   const Kit kit_;
@@ -69,8 +70,11 @@ class HomePage {
   RecentThings recent_;
   bool begun_ = false;
   bool asking_ = false;
-  QString job_;   // whose figures stand here
-  QString plan_;  // the plan that was last noted
+  QString job_;          // whose figures stand here
+  QString open_;         // the project that is open
+  bool opened_ = false;  // since the reader was asked last
+  QStringList unsaved_;  // what could not be stored, when figures were last asked for
+  QString plan_;         // the plan that was last noted
   std::unique_ptr<Saves> saves_;
   QObject here_;  // to which answers come
   BidReader reader_;

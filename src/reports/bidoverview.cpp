@@ -61,6 +61,7 @@ void AddRest(const ReportSource& source, const QStringList& systems, BidOverview
   ReadCountedAdjustment(source, adjustment);
   state.adjustment = Value(adjustment);
   for (const QString& system : systems) {
+    TellProgress(source, 0, 1);  // nobody waits for the rest of one that is stopped
     if (IsUnpriced(source, system)) state.unpriced += system;
   }
 }

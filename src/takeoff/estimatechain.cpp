@@ -233,6 +233,7 @@ void EstimateForm::AddEntry() {
     Lengths.Add(GrownLeft(eLength.Text(), 10));
   } else {
     StoreQuantity(Rounded(line.SurfaceQuantity() + GroupedValue(Hite.Text()) * entered));
+    measured.Entered(Hite);
     plan_.SetToolMode(0);
     Lengths.Add(Hite.Text() + QStringLiteral(" X ") + eLength.Text());
   }

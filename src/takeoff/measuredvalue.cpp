@@ -1,5 +1,7 @@
 #include "takeoff/measuredvalue.h"
 
+#include <utility>
+
 #include "common/desk.h"
 #include "common/numbers.h"
 
@@ -20,30 +22,35 @@ MeasuredValue::MeasuredValue(Form& form)
 
 void MeasuredValue::Into(TextField& field, const QString& text, const QString& lineInWork) {
   field.SetText(text);
-  inField_ = {&field, field.Text(), lineInWork, true};
+  Entered(field);
+  inFields_ += {&field, field.Text(), lineInWork, true};
 }
 
 void MeasuredValue::Entered(const TextField& field) {
-  if (inField_.field == &field) inField_ = {};
+  inFields_.removeIf([&](const Measure& measure) { return measure.field == &field; });
 }
 
 void MeasuredValue::Follow() {
-  if (inField_.field == nullptr || !form_.Visible()) return;
-  TextField& field = *inField_.field;
-  const bool stands = !field.Empty() && GroupedValue(field.Text()) == GroupedValue(inField_.text);
-  if (!stands && !inField_.fresh) {
-    inField_ = {};
-  } else if (!stands || target(field) != inField_.target) {
+  if (inFields_.isEmpty() || !form_.Visible()) return;
+  const QList<Measure> inFields = std::exchange(inFields_, {});
+  for (Measure measure : inFields) Follow(measure);
+}
+
+void MeasuredValue::Follow(Measure& measure) {
+  TextField& field = *measure.field;
+  const bool stands = !field.Empty() && GroupedValue(field.Text()) == GroupedValue(measure.text);
+  if (stands && target(field) == measure.target) {
+    measure.fresh = false;
+    inFields_ += measure;
+  } else if (stands || measure.fresh) {
     if (stands) field.Clear();
-    waiting_ += inField_;
-    inField_ = {};
+    waiting_ += measure;
     Show();
   }
-  inField_.fresh = false;
 }
 
 void MeasuredValue::Forget() {
-  inField_ = {};
+  inFields_.clear();
   waiting_.clear();
   Show();
 }

@@ -40,11 +40,12 @@ class MeasuredValue {
     QString target;
     bool fresh = false;  // put in by the event in work
   };
+  void Follow(Measure& measure);
   void Take();
   void Show();
 
   Form& form_;
-  Measure inField_;
+  QList<Measure> inFields_;  // one for each field at most
   QList<Measure> waiting_;
 };
 

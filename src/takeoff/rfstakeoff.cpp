@@ -102,6 +102,7 @@ void RFSForm::AddEntry() {
   plan_.SetToolMode(0);
   LoadSystem();
   StoreQuantity(total);
+  measured.Entered(How);
   Lengths.Add(How.Text() + QStringLiteral(" X ") + Length.Text());
   Length.Clear();
   record_.SaveRoom();

@@ -52,14 +52,20 @@ void TakingBack::Stores(const QString& path, bool shared) {
     if (file.path == path) return;
   }
   int error = kNoError;
-  open_->files.push_back({path, Bytes(path, error), {}, shared});
+  const QByteArray before = Bytes(path, error);
+  open_->files.push_back({path, before, {}, shared, error != kNoError});
 }
 
-// Files that came out as they were are none of the entry's.
+// Files that came out as they were are none of the entry's. One that could not be read holds lines
+// that nobody knows: such an entry can't be taken back, for it would take them with it.
 void TakingBack::EndEvent() {
   if (!open_) return;
   Step step = std::move(*std::exchange(open_, std::nullopt));
+  for (const StepFile& file : step.files) {
+    if (file.unread && !file.shared) return;
+  }
   std::erase_if(step.files, [this](StepFile& file) {
+    if (file.unread) return true;
     int error = kNoError;
     file.after = Bytes(file.path, error);
     return file.after == file.before && file.after.isNull() == file.before.isNull();
@@ -178,6 +184,7 @@ QString TakingBack::Move(Steps& from, Steps& to, bool back) {
   const QString problem = StoreAll(step, back);
   if (!problem.isEmpty()) return said + step.what + QStringLiteral(". ") + problem;
   to.push_back(step);
+  if (to.size() > kMostSteps) to.pop_front();  // of another project
   from.erase(std::next(found).base());
   marks_.PutOn(step.marks, !back);
   FollowOnScreens(step, back);

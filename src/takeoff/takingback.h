@@ -21,6 +21,7 @@ struct TakeoffStep {
     QByteArray before;  // null: there was no such file
     QByteArray after;
     bool shared = false;  // by all projects
+    bool unread = false;  // what stood there before is not known
   };
   QString project;
   QString what;

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 #include <QTimer>
+#include <algorithm>
+#include <utility>
 
 #include "plans/planpictures.h"
 #include "program/program.h"
@@ -13,7 +15,8 @@ namespace tamo {
 namespace {
 
 constexpr int kLongSide = 480;        // pixels of the plan's small picture
-constexpr int kUntilItIsThere = 150;  // milliseconds between two looks for it
+constexpr int kUntilItIsThere = 150;  // milliseconds between two looks for it, at first
+constexpr int kSeldom = 10'000;       // for a sheet that can't be painted
 
 // The plan's sheet in small, under its name.
 class PlanCell : public HomeCell {
@@ -21,7 +24,6 @@ class PlanCell : public HomeCell {
   PlanCell(PdfDraw& viewer, PlanPictures* pictures) : viewer_(viewer), pictures_(pictures) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     again_.setSingleShot(true);
-    again_.setInterval(kUntilItIsThere);
     connect(&again_, &QTimer::timeout, this, [this] { update(); });
   }
   QSize minimumSizeHint() const override { return {18 * kGrid, TextHeight() + 8 * kGrid}; }
@@ -29,9 +31,12 @@ class PlanCell : public HomeCell {
  protected:
   void PaintMore(QPainter& painter, const QRect& place) override {
     if (pictures_ == nullptr || viewer_.ShownFile().isEmpty() || place.height() < kGrid) return;
+    const QString sheet = viewer_.ShownFile() + QString::number(viewer_.Page());
+    if (std::exchange(sheet_, sheet) != sheet) wait_ = kUntilItIsThere;
     const std::shared_ptr<const Picture> picture = pictures_->Thumbnail(viewer_.Page(), kLongSide);
     if (picture == nullptr) {
-      again_.start();
+      again_.start(wait_);
+      wait_ = std::min(2 * wait_, kSeldom);
       return;
     }
     const QImage image(reinterpret_cast<const uchar*>(picture->pixels.data()), picture->width,
@@ -45,6 +50,8 @@ class PlanCell : public HomeCell {
   PdfDraw& viewer_;
   PlanPictures* pictures_;
   QTimer again_;
+  QString sheet_;  // that is waited for
+  int wait_ = kUntilItIsThere;
 };
 
 // A way to begin, with a sentence on what it is.

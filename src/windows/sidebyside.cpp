@@ -86,7 +86,9 @@ void SideBySide::Arrange(const QString& name, QWidget& takeoff, QWidget& plan) {
     plan_ = &plan;
     planMaximized_ = plan.isMaximized();
     planBefore_ = plan.geometry();
+    beside_.clear();
   }
+  if (!beside_.contains(name)) beside_ += name;
   if (plan.isMaximized() || plan.isFullScreen()) plan.showNormal();
   PutAt(plan, Within(screen, places.plan), frame);
   PutAt(takeoff, Within(screen, places.takeoff), frame);
@@ -94,7 +96,7 @@ void SideBySide::Arrange(const QString& name, QWidget& takeoff, QWidget& plan) {
 }
 
 void SideBySide::Leave(const QString& name, QWidget& takeoff) {
-  if (plan_ == nullptr) return;
+  if (plan_ == nullptr || beside_.removeAll(name) == 0) return;
   const SidePlaces places{plan_->frameGeometry(), takeoff.frameGeometry()};
   const QString key = KeyOf(name, *plan_);
   kept_[key] = places;
@@ -103,10 +105,11 @@ void SideBySide::Leave(const QString& name, QWidget& takeoff) {
     settings.setValue(key + QStringLiteral("/plan"), places.plan);
     settings.setValue(key + QStringLiteral("/takeoff"), places.takeoff);
   }
-  // A plan that he moved himself stays where he has it.
+  if (!beside_.isEmpty()) return;
+  // A plan that he moved himself stays where he has it; one that was put away stays away.
   if (plan_->geometry() == planArranged_) {
     plan_->setGeometry(planBefore_);
-    if (planMaximized_) plan_->showMaximized();
+    if (planMaximized_) plan_->setWindowState(plan_->windowState() | Qt::WindowMaximized);
   }
   plan_ = nullptr;
 }

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 
 namespace tamo {
@@ -29,7 +30,7 @@ class SideBySide {
 
   // Both are about to be on the screen, `takeoff` is that of the form `name`.
   void Arrange(const QString& name, QWidget& takeoff, QWidget& plan);
-  // The takeoff is put away.
+  // The takeoff is put away. The plan gets its place back when it was the last one beside it.
   void Leave(const QString& name, QWidget& takeoff);
 
  private:
@@ -39,6 +40,7 @@ class SideBySide {
   QString file_;
   QHash<QString, SidePlaces> kept_;
   QPointer<QWidget> plan_;  // that was moved aside
+  QStringList beside_;      // for these forms
   QRect planBefore_;
   QRect planArranged_;
   bool planMaximized_ = false;

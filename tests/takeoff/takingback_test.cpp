@@ -219,6 +219,18 @@ TEST_F(TakingBackTest, AFullDiskKeepsWhatIsTakenBack) {
   EXPECT_EQ(All(), before);
 }
 
+// Its entry waits for the file; what the file holds meanwhile is not known, and not removed.
+TEST_F(TakingBackTest, ARoomThatCantBeReadIsNeverRemoved) {
+  TakeOffOneRoom();
+  Enter(rfs.How, S("8"));
+  const QString file = ProjectFolder(shared).RoomFile(S("101"));
+  disk.DenyReading(file);
+  Enter(S("10"));
+  EXPECT_TRUE(Back().startsWith(S("Not taken back: ")));
+  disk.AllowReading(file);
+  EXPECT_TRUE(disk.Exists(file));
+}
+
 TEST_F(TakingBackTest, BytesOfOlderMachinesComeBackAsTheyWere) {
   const QString file = ProjectFolder(shared).RoomFile(S("101"));
   const QByteArray old = "9\nCaf\xe9                 WALLS                   0 SF\n";

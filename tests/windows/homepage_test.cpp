@@ -2,6 +2,7 @@
 
 #include <QElapsedTimer>
 
+#include "records/datafolder.h"
 #include "windows/keeperroom.h"
 #include "windows/keys.h"
 
@@ -63,7 +64,29 @@ TEST_F(HomePageTest, FollowsEveryEntryByItself) {
   disk.SetFull(true);
   Enter("3");
   EXPECT_EQ(Caption("HomeTotal"), QStringLiteral("Recap total: $ 1,500"));
+  program.Tick();
+  WaitForFigures();
+  EXPECT_EQ(Caption("HomeTotal"), QStringLiteral("Recap total: $ 1,500"));
   disk.SetFull(false);
+}
+
+// What the program removed itself is not gone: the system only has no price any more.
+TEST_F(HomePageTest, ASystemThatIsDeletedIsUnpriced) {
+  Menu("Tamo", "OpenProject");
+  auto& jobs = dynamic_cast<OrderedList&>(*FormOf("Tamo").Find(QStringLiteral("JobsList")));
+  desk.ClickRow(jobs, 0);
+  Menu("Tamo", "NonFinishScheduleItems");
+  Enter("Yard");
+  Enter("Door");
+  Enter("2");
+  WaitForFigures();
+  EXPECT_EQ(Caption("HomeUnpriced"), QStringLiteral("Systems without a price: none"));
+  desk.Dispatch([this] {
+    Files& files = program.GetFiles();
+    EXPECT_EQ(files.Remove(ProjectFolder(program.Shared()).SystemFile(QStringLiteral("Door"))), 0);
+  });
+  WaitForFigures();
+  EXPECT_EQ(Caption("HomeUnpriced"), QStringLiteral("Systems without a price: 1 (Door)"));
 }
 
 TEST_F(HomePageTest, TabWalksThroughItAndTheFocusNeverComesByItself) {

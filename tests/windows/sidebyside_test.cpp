@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "windows/application.h"
+
 namespace tamo {
 namespace {
 
@@ -38,6 +40,24 @@ TEST(SideBySide, ASmallScreenHasBothWhole) {
   EXPECT_EQ(places.takeoff.bottom(), screen.bottom());
   EXPECT_EQ(places.takeoff.height(), kTakeoff.height());
   EXPECT_GE(places.plan.height(), kPlan.height());
+}
+
+// The plan gets its place back with the last takeoff form, and never comes up by itself.
+TEST(SideBySide, ThePlanStaysAsideUntilTheLastTakeoffIsPutAway) {
+  test::Application();
+  QWidget plan, rooms, areas;
+  const QRect before(10, 10, 500, 400);
+  plan.setGeometry(before);
+  SideBySide side{QString()};
+  side.Arrange(QStringLiteral("RFSForm"), rooms, plan);
+  const QRect aside = plan.geometry();
+  ASSERT_NE(aside, before);
+  side.Arrange(QStringLiteral("EstimateForm"), areas, plan);
+  side.Leave(QStringLiteral("RFSForm"), rooms);
+  EXPECT_EQ(plan.geometry(), aside);
+  side.Leave(QStringLiteral("EstimateForm"), areas);
+  EXPECT_EQ(plan.geometry(), before);
+  EXPECT_FALSE(plan.isVisible());
 }
 
 }  // namespace
