@@ -20,7 +20,7 @@ constexpr int kLargestSide = 16384;
 class Cookie {
  public:
   explicit Cookie(CancelFlag& cancel) : cancel_(cancel) {
-    cancel_.WhenCancelled([this] { cookie_.abort = 1; });
+    cancel_.WhenCancelled([this] { Stop(cookie_); });
   }
   ~Cookie() { cancel_.WhenCancelled(nullptr); }
   Cookie(const Cookie&) = delete;
@@ -92,7 +92,7 @@ bool RecordPage(fz_context* context, pdf_document* document, int index, fz_cooki
     fz_drop_page(context, page == nullptr ? nullptr : &page->super);
   }
   fz_catch(context) good = false;
-  if (good && !cookie->abort) {
+  if (good && !IsStopped(*cookie)) {
     made->list = list;
     return true;
   }

@@ -8,7 +8,7 @@ void RunPage(fz_context* context, pdf_page* page, fz_device* device, fz_cookie* 
   pdf_run_page_contents(context, page, device, fz_identity, cookie);
   for (pdf_annot* annotation = pdf_first_annot(context, page); annotation != nullptr;
        annotation = pdf_next_annot(context, annotation)) {
-    if (cookie->abort) return;
+    if (IsStopped(*cookie)) return;
     if (IsOwnMark(context, pdf_annot_obj(context, annotation))) continue;
     pdf_run_annot(context, annotation, device, fz_identity, cookie);
   }
