@@ -19,7 +19,11 @@ constexpr qsizetype kLongestSystem = 20;
 constexpr qsizetype kLongestUnit = 5;
 constexpr int kMostProblems = 30;
 
+// No figure has more digits than this; far longer ones no number can hold.
+constexpr qsizetype kLongestNumber = 300;
+
 bool IsNumber(const QString& text) {
+  if (text.size() > kLongestNumber) return false;
   bool digit = false;
   bool point = false;
   for (qsizetype i = text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0; i < text.size(); ++i) {
