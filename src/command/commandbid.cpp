@@ -73,8 +73,10 @@ QString CommandData::OpenProject(const QString& id) {
 }
 
 bool CommandData::Holds(const QString& path) const {
-  const auto clean = [](const QString& file) {
-    const QString whole = QDir::cleanPath(QDir::current().absoluteFilePath(file));
+  // A link is written through, so what it points to counts.
+  const auto clean = [this](const QString& file) {
+    const QString whole =
+        QDir::cleanPath(platform_.disk.FollowLink(QDir::current().absoluteFilePath(file)));
     const QString folder = QFileInfo(FolderOf(whole)).canonicalFilePath();
     return folder.isEmpty() ? whole : InFolder(folder, FileNameOf(whole));
   };

@@ -61,6 +61,8 @@ class CsvReader {
 
   void EndCell() {
     if (cells_.size() >= kMostSheetColumns) return Refuse(QStringLiteral("it has too many cells"));
+    if (++taken_ > kMostSheetCells)
+      return Refuse(QStringLiteral("there are more than %1 cells").arg(kMostSheetCells));
     cells_ += UnguardedCell(cell_);
     cell_.clear();
     closed_ = false;
@@ -70,7 +72,7 @@ class CsvReader {
     EndCell();
     const bool empty = std::all_of(cells_.begin(), cells_.end(),
                                    [](const QString& cell) { return cell.isEmpty(); });
-    if (read_.rows.size() >= kMostSheetRows)
+    if (!empty && read_.rows.size() >= kMostSheetRows)
       Refuse(QStringLiteral("there are more than %1 rows").arg(kMostSheetRows));
     if (!empty) read_.rows.push_back({begin_, cells_});
     cells_.clear();
@@ -83,6 +85,7 @@ class CsvReader {
   QStringList cells_;
   QString cell_;
   qsizetype at_ = 0;
+  qint64 taken_ = 0;  // cells
   int line_ = 1;
   int begin_ = 1;  // of the row
   bool quoted_ = false;

@@ -23,6 +23,9 @@ struct SheetRows {
 inline constexpr qint64 kMostSheetBytes = 64 << 20;
 inline constexpr size_t kMostSheetRows = 100000;
 inline constexpr qsizetype kMostSheetColumns = 1000;
+// Over all rows, blank cells in front of others included; a repeated text counts each time.
+inline constexpr qint64 kMostSheetCells = 4'000'000;
+inline constexpr qint64 kMostSheetLetters = 64 << 20;
 
 // Comma separated values by RFC 4180; line ends of any kind, a byte-order mark or none, semicolons
 // where the first line has no comma. Cells come back as GuardedCell was given them.

@@ -64,7 +64,10 @@ void StoreSystemSheet(const SystemSheet& sheet, Files& files, const DataFolder& 
   const int error = ReadNames(files, data, NameList::Systems, names);
   if (error != kNoError && !IsMissing(error)) return;
   const QStringList before = names;
-  names += sheet.newNames;
+  // One whose file was lost is new, and yet in the list.
+  for (const QString& name : sheet.newNames) {
+    if (!names.contains(name, Qt::CaseInsensitive)) names += name;
+  }
   WriteNames(files, data, NameList::Systems, names, before);
 }
 

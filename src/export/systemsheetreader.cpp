@@ -1,3 +1,4 @@
+#include <QHash>
 #include <algorithm>
 #include <array>
 
@@ -18,7 +19,11 @@ constexpr qsizetype kLongestSystem = 20;
 constexpr qsizetype kLongestUnit = 5;
 constexpr int kMostProblems = 30;
 
+// No figure has more digits than this; far longer ones no number can hold.
+constexpr qsizetype kLongestNumber = 300;
+
 bool IsNumber(const QString& text) {
+  if (text.size() > kLongestNumber) return false;
   bool digit = false;
   bool point = false;
   for (qsizetype i = text.startsWith(u'-') || text.startsWith(u'+') ? 1 : 0; i < text.size(); ++i) {
@@ -164,10 +169,8 @@ class Checker {
 
   // What a system has but once: a later row repeats it, or leaves it blank.
   void Head(const QString& name) {
-    const auto found = std::find_if(systems_.begin(), systems_.end(), [&](const SystemFile& one) {
-      return one.description.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    const bool first = found == systems_.end();
+    const auto known = byName_.constFind(name.toCaseFolded());
+    const bool first = known == byName_.constEnd();
     SystemFile head;
     head.description = name;
     head.units = Cell(SystemColumn::Unit);
@@ -178,17 +181,19 @@ class Checker {
       if (head.unitPrice.isEmpty()) head.unitPrice = QStringLiteral("0.00");
       systems_.push_back(head);
       open_ = systems_.size() - 1;
+      byName_.insert(name.toCaseFolded(), open_);
       return;
     }
-    open_ = static_cast<size_t>(found - systems_.begin());
+    open_ = *known;
+    const SystemFile& above = systems_[open_];
     const auto differs = [&](const QString& own, const QString& firstOne, SystemColumn column) {
       if (!own.isEmpty() && own != firstOne)
         Refuse(QStringLiteral("%1 is %2 here and %3 above, for the same system \"%4\".")
                    .arg(NameOf(column), own, firstOne, name));
     };
-    differs(head.units, found->units, SystemColumn::Unit);
-    differs(head.unitPrice, found->unitPrice, SystemColumn::UnitPrice);
-    differs(head.lineColor, found->lineColor, SystemColumn::Colour);
+    differs(head.units, above.units, SystemColumn::Unit);
+    differs(head.unitPrice, above.unitPrice, SystemColumn::UnitPrice);
+    differs(head.lineColor, above.lineColor, SystemColumn::Colour);
   }
 
   void CheckHead(const SystemFile& head, bool first) {
@@ -235,6 +240,13 @@ class Checker {
   }
 
   void Compare() {
+    QStringList names;
+    const int listed = ReadNames(files_, data_, NameList::Systems, names);
+    if (listed != kNoError && !IsMissing(listed)) {
+      sheet_.problems +=
+          QStringLiteral("The list of systems can't be read: %1.").arg(ReadReasonText(listed));
+      return;
+    }
     for (SystemFile& system : systems_) {
       SystemFile then;
       const QString path = files_.Resolved(data_.SystemFile(system.description));
@@ -280,7 +292,8 @@ class Checker {
   const QStringList* cells_ = nullptr;
   int line_ = 0;
   std::vector<SystemFile> systems_;
-  size_t open_ = 0;  // the system of the row
+  QHash<QString, size_t> byName_;  // where a system stands, by its name in small letters
+  size_t open_ = 0;                // the system of the row
 };
 
 }  // namespace

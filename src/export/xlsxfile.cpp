@@ -142,7 +142,8 @@ void XlsxFile::Row(std::span<const TableCell> cells, RowWeight weight) {
 void XlsxFile::Remark(const QString& text) {
   if (error_ != kNoError || sheet_ == nullptr) return;
   EndTable();
-  WriteText(NextRow(), 0, text, formats_.total[At(ColumnKind::Text)]);
+  const unsigned row = NextRow();
+  if (error_ == kNoError) WriteText(row, 0, text, formats_.total[At(ColumnKind::Text)]);
 }
 
 // No text is ever a formula. What no XML can hold becomes the sign for what can't be shown.

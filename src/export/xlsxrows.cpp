@@ -1,5 +1,6 @@
 #include <QHash>
 #include <QXmlStreamReader>
+#include <algorithm>
 
 #include "common/numbers.h"
 #include "export/packedfile.h"
@@ -7,6 +8,8 @@
 
 namespace tamo {
 namespace {
+
+constexpr int kLastRow = 1048576;  // that a sheet can have
 
 SheetRows Refused(const char* why) {
   return {{}, QLatin1String(why)};
@@ -41,13 +44,19 @@ QString Unescaped(const QString& text) {
   return plain;
 }
 
-// The texts that the sheets share, and the pieces of a text that is set in several faces.
-QStringList SharedTexts(const QByteArray& xml) {
-  QStringList texts;
+// No workbook declares entities; a few bytes of them grow to any size.
+void RefuseDeclarations(QXmlStreamReader& reader) {
+  if (reader.isDTD()) reader.raiseError(QStringLiteral("declarations"));
+}
+
+// The texts that the sheets share, and the pieces of a text that is set in several faces. False
+// when they are damaged.
+bool SharedTexts(const QByteArray& xml, QStringList& texts) {
   QXmlStreamReader reader(xml);
   bool phonetic = false;
   while (!reader.atEnd()) {
     reader.readNext();
+    RefuseDeclarations(reader);
     if (reader.name() == QLatin1String("rPh")) phonetic = reader.isStartElement();
     if (!reader.isStartElement()) continue;
     if (reader.name() == QLatin1String("si")) texts += QString();
@@ -55,7 +64,7 @@ QStringList SharedTexts(const QByteArray& xml) {
       texts.last() += reader.readElementText();
   }
   for (QString& text : texts) text = Unescaped(text);
-  return texts;
+  return !reader.hasError();
 }
 
 class SheetReader {
@@ -65,6 +74,7 @@ class SheetReader {
   SheetRows Read() {
     while (!reader_.atEnd() && read_.problem.isEmpty()) {
       reader_.readNext();
+      RefuseDeclarations(reader_);
       if (reader_.isStartElement() && reader_.name() == QLatin1String("row")) BeginRow();
       if (reader_.isEndElement() && reader_.name() == QLatin1String("row")) EndRow();
       if (reader_.isStartElement() && reader_.name() == QLatin1String("c")) Cell();
@@ -76,11 +86,13 @@ class SheetReader {
  private:
   void BeginRow() {
     const int number = reader_.attributes().value(QLatin1String("r")).toInt();
-    row_ = {number > 0 ? number : row_.line + 1, {}};
+    row_ = {number > 0 && number <= kLastRow ? number : row_.line + 1, {}};
   }
 
   void EndRow() {
-    if (!row_.cells.join(QString()).isEmpty()) read_.rows.push_back(row_);
+    const bool empty = std::all_of(row_.cells.begin(), row_.cells.end(),
+                                   [](const QString& cell) { return cell.isEmpty(); });
+    if (!empty) read_.rows.push_back(row_);
     if (read_.rows.size() > kMostSheetRows)
       read_.problem = QStringLiteral("there are more than %1 rows").arg(kMostSheetRows);
   }
@@ -101,12 +113,28 @@ class SheetReader {
       if (reader_.name() == QLatin1String("v") || reader_.name() == QLatin1String("t"))
         text += reader_.readElementText();
     }
+    const QString meant = Meant(type, text);
+    cells_ += std::max<qint64>(0, column + 1 - row_.cells.size());
+    letters_ += meant.size();
+    if (cells_ > kMostSheetCells || letters_ > kMostSheetLetters) {
+      read_.problem = QStringLiteral("its first sheet holds too much");
+      return;
+    }
     while (row_.cells.size() <= column) row_.cells += QString();
-    row_.cells[column] = Meant(type, text);
+    row_.cells[column] = meant;
   }
 
-  QString Meant(const QString& type, const QString& text) const {
-    if (type == QLatin1String("s")) return shared_.value(text.toInt());
+  QString SharedText(const QString& text) {
+    bool is = false;
+    const int number = text.toInt(&is);
+    if (is && number >= 0 && number < shared_.size()) return shared_[number];
+    if (!text.isEmpty())
+      read_.problem = QStringLiteral("row %1 has a text that is missing").arg(row_.line);
+    return {};
+  }
+
+  QString Meant(const QString& type, const QString& text) {
+    if (type == QLatin1String("s")) return SharedText(text);
     if (!type.isEmpty() && type != QLatin1String("n")) return Unescaped(text);
     bool is = false;
     const double number = text.toDouble(&is);
@@ -117,6 +145,8 @@ class SheetReader {
   const QStringList& shared_;
   SheetRows read_;
   SheetRow row_;
+  qint64 cells_ = 0;  // taken so far
+  qint64 letters_ = 0;
 };
 
 // The part of the package that holds the first sheet, in the order of the book.
@@ -130,6 +160,7 @@ QByteArray FirstSheet(const PackedFile& file) {
   QXmlStreamReader sheets(book);
   while (!sheets.atEnd() && id.isEmpty()) {
     sheets.readNext();
+    RefuseDeclarations(sheets);
     if (!sheets.isStartElement() || sheets.name() != QLatin1String("sheet")) continue;
     for (const QXmlStreamAttribute& one : sheets.attributes()) {
       if (one.name() == QLatin1String("id")) id = one.value().toString();
@@ -138,6 +169,7 @@ QByteArray FirstSheet(const PackedFile& file) {
   QXmlStreamReader targets(relations);
   while (!targets.atEnd()) {
     targets.readNext();
+    RefuseDeclarations(targets);
     if (!targets.isStartElement()) continue;
     if (targets.attributes().value(QLatin1String("Id")) != id) continue;
     const QString target = targets.attributes().value(QLatin1String("Target")).toString();
@@ -159,7 +191,8 @@ SheetRows ReadXlsxRows(const QByteArray& bytes) {
   const QByteArray shared = "xl/sharedStrings.xml";
   if (file.Has(shared) && !file.Read(shared, kMostSheetBytes, texts))
     return Refused("its texts are damaged");
-  const QStringList sharedTexts = SharedTexts(texts);
+  QStringList sharedTexts;
+  if (!texts.isEmpty() && !SharedTexts(texts, sharedTexts)) return Refused("its texts are damaged");
   return SheetReader(xml, sharedTexts).Read();
 }
 

@@ -184,6 +184,11 @@ TEST_F(Command, WritesNothingIntoTheDataFolder) {
       Play({QStringLiteral("list"), QStringLiteral("-o"), Project("Systems/list.txt")});
   EXPECT_EQ(into.status, ExitStatus::Usage);
   EXPECT_EQ(Snapshot(Home()), before);
+  const QTemporaryDir elsewhere;
+  const QString link = elsewhere.filePath(QStringLiteral("list.txt"));
+  ASSERT_TRUE(QFile::link(Project("Systems/list.txt"), link));
+  EXPECT_EQ(Play({QStringLiteral("list"), QStringLiteral("-o"), link}).status, ExitStatus::Usage);
+  EXPECT_EQ(Snapshot(Home()), before);
 }
 
 TEST_F(Command, CheckTellsWhatIsWrongInEachProject) {

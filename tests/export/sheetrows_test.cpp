@@ -53,6 +53,18 @@ TEST(SheetRows, CsvSaysWhatIsWrongWithIt) {
   EXPECT_TRUE(ReadCsvRows({}).rows.empty());
 }
 
+TEST(SheetRows, CsvTakesAsManyRowsAsItSays) {
+  const QByteArray most = QByteArray("a\n").repeated(static_cast<qsizetype>(kMostSheetRows));
+  EXPECT_EQ(ReadCsvRows(most).problem, QString());
+  EXPECT_EQ(ReadCsvRows(most).rows.size(), kMostSheetRows);
+  EXPECT_FALSE(ReadCsvRows(most + "a\n").problem.isEmpty());
+}
+
+TEST(SheetRows, CsvOfTooManyCellsIsRefused) {
+  const QByteArray row = QByteArray(900, ',') + "a\n";
+  EXPECT_FALSE(ReadCsvRows(row.repeated(5000)).problem.isEmpty());
+}
+
 TEST(SheetRows, ABookComesBackAsItWasWritten) {
   std::vector<QStringList> rows = {{QStringLiteral("Name"), QStringLiteral("Other")}};
   for (const QString& name : kStrangeNames) rows.push_back({name, QStringLiteral("x")});
