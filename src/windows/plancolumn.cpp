@@ -1,7 +1,6 @@
 #include "windows/plancolumn.h"
 
 #include <QPushButton>
-#include <QStyle>
 
 #include "program/program.h"
 #include "windows/scrolled.h"
@@ -129,8 +128,7 @@ QWidget* Column(Builder& b) {
 
 QWidget* PlanColumn(Builder& b) {
   QWidget* side = Scrolled(Column(b), 20 * kGrid);
-  // Nothing is cut where the column has to scroll.
-  side->setFixedWidth(kColumnWidth + side->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+  side->setFixedWidth(kColumnWidth);
   return side;
 }
 
