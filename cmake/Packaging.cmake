@@ -51,6 +51,6 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The library for workbooks is loaded when one is written; nothing else names it.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, libxlsxwriter4")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, libxlsxwriter4, qt6-qpa-plugins")
 set(CPACK_STRIP_FILES ON)
 include(CPack)

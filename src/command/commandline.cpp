@@ -145,8 +145,10 @@ class Reader {
 bool IsCommand(const QStringList& arguments) {
   if (arguments.isEmpty()) return false;
   const QString& first = arguments.first();
-  return FindVerb(first) != nullptr || first == QLatin1String("--data") ||
-         first.startsWith(QLatin1String("--data="));
+  for (const char* option : {"--data", "--text", "--csv", "--xlsx", "--pdf", "--json", "-o"}) {
+    if (first == QLatin1String(option)) return true;
+  }
+  return FindVerb(first) != nullptr || first.startsWith(QLatin1String("--data="));
 }
 
 QString ReadCommandLine(const QStringList& arguments, CommandLine& line) {

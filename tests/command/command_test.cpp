@@ -81,7 +81,7 @@ TEST_F(Command, TellsWhichFolderOrProjectIsMissing) {
 
 TEST_F(Command, KnowsWhatIsACommandAndWhatIsAPlan) {
   for (const char* line : {"report recap x", "list", "check", "--help", "-h", "--version",
-                           "--data /x list", "--data=/x list", "help"})
+                           "--csv list", "-o x list", "--data /x list", "--data=/x list", "help"})
     EXPECT_TRUE(IsCommand(Words(line))) << line;
   for (const char* line : {"", "plan.pdf", "./report", "-platform offscreen", "-style fusion"})
     EXPECT_FALSE(IsCommand(Words(line))) << line;
