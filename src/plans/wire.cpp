@@ -54,7 +54,7 @@ QByteArray WireReader::Bytes() {
     good_ = false;
     return {};
   }
-  const QByteArray value = bytes_.mid(at_, static_cast<qsizetype>(length));
+  QByteArray value = bytes_.mid(at_, static_cast<qsizetype>(length));
   at_ += static_cast<qsizetype>(length);
   return value;
 }

@@ -105,7 +105,7 @@ WorkerPlan::Link WorkerPlan::OpenLink() {
   if (++starts_ > kMostStarts) return nullptr;
   auto process = workers_->Take(*source_->Reader(), source_->Size());
   if (process == nullptr) return nullptr;
-  const Link link = WorkerLink::To(std::move(process));
+  Link link = WorkerLink::To(std::move(process));
   if (starts_ > 1 && (!OpenIn(link).there || !Repeat(link))) return nullptr;
   if (abandoned_) return nullptr;
   link_ = link;

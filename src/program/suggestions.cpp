@@ -4,7 +4,7 @@
 
 namespace tamo {
 
-Suggestions::Suggestions(const Kit& kit, std::vector<Source> sources) : kit_(kit) {
+Suggestions::Suggestions(const Kit& kit, const std::vector<Source>& sources) : kit_(kit) {
   for (const Source& source : sources) sources_.push_back({source, {}});
 }
 

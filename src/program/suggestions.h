@@ -19,7 +19,7 @@ class Suggestions {
     NameKind kind;
   };
   // The fields and lists outlive it.
-  Suggestions(const Kit& kit, std::vector<Source> sources);
+  Suggestions(const Kit& kit, const std::vector<Source>& sources);
 
   // The field under which the offer stands, nullptr when there is none.
   TextField* Field() const { return source_ == nullptr ? nullptr : &source_->field; }

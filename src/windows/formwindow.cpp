@@ -192,7 +192,7 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 QString DroppedPlan(const QMimeData* data) {
   if (data == nullptr) return {};
   for (const QUrl& url : data->urls()) {
-    const QString path = url.toLocalFile();
+    QString path = url.toLocalFile();
     if (path.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) return path;
   }
   return {};
