@@ -6,11 +6,16 @@
 #include <mupdf/fitz.h>
 #include <mupdf/pdf.h>
 
+#include <map>
+
 #include "engine/mupdffile.h"
 #include "plans/markpdf.h"
 #include "plans/pdfappend.h"
+#include "plans/planguide.h"
 
 namespace tamo {
+
+struct RawTarget;
 
 // A mark of ours that stands in the file.
 struct FileMark {
@@ -41,6 +46,7 @@ struct MuPdfFile::Inner {
   PdfEnd end;
   PdfEnd endBefore;  // of the last addition, and the marks as they stood, to take it back
   std::vector<std::vector<FileMark>> ownBefore;
+  mutable std::map<int, int> pageOfObject;  // pages from 1 by their objects, once it is asked for
 
   bool OpenDocument(const QByteArray& password, PlanContents& contents);
   void ReadPages();
@@ -62,6 +68,12 @@ struct MuPdfFile::Inner {
   bool NeedsRewrite() const;
   void Remove(const QStringList& names, std::vector<bool>& touched);
   bool Add(const Mark& mark, double markerSize, int& next, std::vector<PdfObject>& objects);
+  // The way through the plan: mupdfguide.cpp, mupdflinks.cpp.
+  void ReadLabels(PlanGuide& guide);
+  void ReadBookmarks(PlanGuide& guide);
+  void ReadLayers(PlanGuide& guide);
+  int PageOf(const RawTarget& target) const;
+  PlanTarget TargetOf(const RawTarget& raw) const;
   // The new and changed objects of a save.
   bool Change(const MarkChanges& changes, std::vector<PdfObject>& objects);
 };

@@ -156,6 +156,7 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   crossHair_ = at;
   Raise(onMousePressed);
+  pressed_ = tool_ == PlanTool::None;
   if (boxNext_) {
     boxing_ = true;
     boxFrom_ = at;
@@ -189,7 +190,10 @@ void DrawingBoard::Release(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   if (boxing_) return DrawBox(boxFrom_, at);
   if (OutlineActive()) return ReleaseOutline(at);
-  if (line_ == LineState::None) return;
+  if (line_ == LineState::None) {
+    if (tool_ == PlanTool::None && std::exchange(pressed_, false)) Raise(onPlainClick, at);
+    return;
+  }
   work_.to = LineEnd(at, shift);
   if (line_ == LineState::Dragging && Distance(work_.from, work_.to) <= kClickReach) {
     line_ = LineState::Placed;

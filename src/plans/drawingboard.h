@@ -102,6 +102,7 @@ class DrawingBoard : public OutlineBoard {
   enum class LineState { None, Dragging, Placed, Closing };
   LineState line_ = LineState::None;
   LineInWork work_;
+  bool pressed_ = false;  // with no tool in hand
   bool boxNext_ = false;
   bool boxing_ = false;  // it is being drawn
   PagePoint boxFrom_;

@@ -29,7 +29,8 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       opener_(kit, *this, viewer, {record_, scale_, pages_, browser_, copy_}),
       measure_(kit, *this, viewer, scale_, takeoff),
       surfaces_(*this, scale_, measure_, takeoff),
-      sheetScales_(kit, *this, viewer, scale_, record_) {
+      sheetScales_(kit, *this, viewer, scale_, record_),
+      ways_(kit, *this, viewer, record_) {
   AddText(QStringLiteral("ViewerName"), &ViewerName);
   AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
   SetCaption(QStringLiteral("Digital Plan Takeoff"));
@@ -74,7 +75,10 @@ void OSTForm::BindMenus() {
   };
   on("ZoomIn", [this] { pages_.ZoomIn(); });
   on("ZoomOut", [this] { pages_.ZoomOut(); });
-  on("GetFiles", [this] { Toggle(Frame1); });
+  on("GetFiles", [this] {
+    for (Frame* other : {&GoToFrame, &BookmarkFrame, &LayerFrame}) other->Hide();
+    Toggle(Frame1);
+  });
   on("LinesColor", [this] { Toggle(ColorFrame); });
   on("Save", [this] { Save(); });
   on("Printit", [this] { viewer_.Print(); });
@@ -131,6 +135,7 @@ void OSTForm::BindViewer() {
   viewer_.onPageChanged = event([this] {
     pages_.ShowPage();
     viewer_.Snap().Follow();
+    ways_.PageShown();
     sheetScales_.SheetChanged();
   });
   viewer_.onScrolled = event([this] {

@@ -11,6 +11,7 @@
 #include "plans/planopener.h"
 #include "plans/planpen.h"
 #include "plans/plansurfaces.h"
+#include "plans/planwayfinding.h"
 #include "plans/sheetscales.h"
 
 namespace tamo {
@@ -57,6 +58,8 @@ class OSTForm : public OstControls {
   // does not go back to the field that waits.
   std::function<bool()> onEnterBox;
   std::function<void()> onPlanPressed;  // a press on the plan; the cross hair stands there
+  // What is known of the sheets, and the ways to them.
+  PlanWayfinding& Ways() { return ways_; }
 
   QString ViewerName;
 
@@ -84,6 +87,7 @@ class OSTForm : public OstControls {
   PlanMeasure measure_;
   PlanSurfaces surfaces_;
   SheetScales sheetScales_;
+  PlanWayfinding ways_;
 };
 
 }  // namespace tamo

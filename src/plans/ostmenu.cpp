@@ -80,6 +80,12 @@ constexpr Row kPlan[] = {
     {"DrawCutOut", "&Cut-out (K)", "DrawMenu"},
     {"DrawPerimeter", "P&erimeter (E)", "DrawMenu"},
     {"SnapToDrawing", "&Snap to the Drawing (S)", "DrawMenu"},
+    {"SheetsMenu", "&Go", ""},
+    {"GoToSheet", "&Sheet (Ctrl+G)", "SheetsMenu"},
+    {"ShowBookmarks", "&Bookmarks and Links (Ctrl+B)", "SheetsMenu"},
+    {"ShowLayers", "&Layers (Ctrl+L)", "SheetsMenu"},
+    {"JumpBack", "B&ack (Alt+Left)", "SheetsMenu"},
+    {"JumpForward", "&Forward (Alt+Right)", "SheetsMenu"},
 };
 
 class Bar {

@@ -63,6 +63,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void BringToFront() { Raise(onBringToFront); }
 
   void Look(const PlanView& view) override;
+  // The plan shows something else than before on the same pages: pictures and lines are made anew.
+  void ForgetPictures();
   std::vector<PlacedPicture> PicturesFor(const PlanView& view) override;
   std::shared_ptr<const Picture> Thumbnail(int page, int longSide) override;
   std::shared_ptr<const Picture> PrintPicture(const PlanView& part,
@@ -102,6 +104,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void Close();
   int ShowNothing(const QString& path, int error, const QString& reason);
   void PicturesChanged();
+  void TellOfPainting();
   void TellOfPages(PlanPainter& painter);
   void BeginPlan(const QString& path);
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);

@@ -300,10 +300,12 @@ void PdfDraw::TellOfPages(PlanPainter& painter) {
 void PdfDraw::PicturesChanged() {
   if (session_ != nullptr && session_->painter != nullptr) TellOfPages(*session_->painter);
   if (onPicturesChanged) onPicturesChanged();
+  TellOfPainting();
 }
 
 void PdfDraw::Look(const PlanView& view) {
   if (session_ != nullptr && session_->painter != nullptr) session_->painter->Look(view);
+  TellOfPainting();
 }
 
 std::vector<PlacedPicture> PdfDraw::PicturesFor(const PlanView& view) {

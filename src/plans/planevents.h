@@ -4,6 +4,8 @@
 #include <functional>
 #include <utility>
 
+#include "plans/mark.h"
+
 namespace tamo {
 
 enum class PlanTool {
@@ -46,6 +48,10 @@ struct PlanEvents {
   std::function<void()> onScrolled;  // by the user only
   std::function<void()> onMousePressed;
   std::function<void()> onEnterKey;
+  // A press and release in one place with no tool in hand.
+  std::function<void(PagePoint at)> onPlainClick;
+  // Whether something that is looked at is still to be painted.
+  std::function<void(bool painting)> onPainting;
   std::function<void()> onPrint;
   std::function<void()> onBringToFront;
   std::function<void()> onMarksChanged;  // marks, the line in work or the cross hair: paint again
