@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 #include <QWindow>
 
+#include "support/sourcefile.h"
 #include "windows/browserview.h"
 #include "windows/keeperroom.h"
 #include "windows/keys.h"
@@ -217,7 +218,7 @@ TEST_F(DeskWindowsTest, ThePlanZoomsAboutThePointerAndTheCrossHair) {
 
 // Of pictures that the toolkit reads by itself: no plug-in is needed.
 TEST_F(DeskWindowsTest, TheProgramHasAnIconInEverySize) {
-  const QIcon icon = ProgramIcon(QStringLiteral(TAMO_SOURCE_DIR "/data"));
+  const QIcon icon = ProgramIcon(test::SourceFile(QStringLiteral("data")));
   EXPECT_EQ(icon.availableSizes().size(), 8);
   for (const int size : {16, 32, 48, 256}) {
     const QImage picture = icon.pixmap(QSize(size, size), 1.0).toImage();
