@@ -44,6 +44,7 @@ printed hold hold $build/bench/longest_hold data
 printed refresh refresh $build/bench/live_refresh data 500
 printed items items $build/bench/bottom_line data 300
 printed day day $build/bench/day_of_work data
+printed likes likes $build/bench/find_same $((times > 3 ? 3 : 1))
 printed start start bench/bench_start.sh $build
 python3 -B scripts/performance_page.py "$out" >docs/performance.md
 sed -n '/^|/p' docs/performance.md

@@ -167,6 +167,18 @@ def bottom_line(folder):
             for what in ("name", "price") if what in found]
 
 
+def likes(folder):
+    lines = []
+    for what, there, found, asked, missed, wrong, others, doubted, count, seconds, longest in re.findall(
+            r"^([\w ]+): (\d+) there, (\d+) found, (\d+) asked, (\d+) missed, (\d+) wrong; (\d+) others, (\d+) of them asked; "
+            r"(\d+) lines, ([\d.]+) s, longest ([\d.]+) s", text_of(folder, "likes.txt"), re.M):
+        bad = int(missed) + int(wrong)
+        lines.append(row(f"Find Same, {what}: {found} of {there} found, {asked} asked about, {missed} missed, {wrong} wrong among "
+                         f"{others} others; up to {int(count):,} lines", f"{float(seconds):.2f} s",
+                         "longest", f"{float(longest):.2f} s", float(bad), 0))
+    return lines
+
+
 def start(folder):
     lines = []
     found = re.search(r"empty window (\d+) us, with one word (\d+) us", text_of(folder, "start.txt"))
@@ -196,7 +208,7 @@ def main():
     print(f"- The library that measures: {library}\n")
     print("| What | Takes | Beside | Takes | Ratio | Limit | Held |")
     print("| --- | --- | --- | --- | --- | --- | --- |")
-    for line in start(folder) + holds(folder) + refresh(folder) + waits(times, runs) + bottom_line(folder):
+    for line in start(folder) + holds(folder) + refresh(folder) + waits(times, runs) + bottom_line(folder) + likes(folder):
         print(line)
     missing = []
     for what, name, peer, words, limit in RATIOS:

@@ -125,8 +125,31 @@ bool PdfDraw::MayMark() {
 PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
     : files_(files), engine_(engine), forms_(std::make_shared<FormsThread>(this)) {
   snap_.Lines().onRead = [forms = forms_] {
-    FormsThread::Post(forms, [](PdfDraw& draw) { draw.snap_.TellOfSheet(); });
+    FormsThread::Post(forms, [](PdfDraw& draw) {
+      draw.snap_.TellOfSheet();
+      draw.TellOfSearch();
+    });
   };
+  same_.Search().onDone = [forms = forms_] {
+    FormsThread::Post(forms, [](PdfDraw& draw) { draw.TellOfSearch(); });
+  };
+}
+
+void PdfDraw::SymbolBoxed(const DrawnBox& box) {
+  same_.TakeBox({box.topLeft.x, box.topLeft.y, box.bottomRight.x, box.bottomRight.y});
+  TellOfSearch();
+}
+
+// While the search goes on it says every moment how far it is.
+void PdfDraw::TellOfSearch() {
+  constexpr int kMoment = 200;
+  same_.GoOn();
+  if (!same_.Busy() || searchTold_) return;
+  searchTold_ = true;
+  FormsThread::After(forms_, kMoment, [](PdfDraw& draw) {
+    draw.searchTold_ = false;
+    draw.TellOfSearch();
+  });
 }
 
 PdfDraw::~PdfDraw() {
