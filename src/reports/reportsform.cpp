@@ -12,6 +12,7 @@
 #include "reports/projectinformation.h"
 #include "reports/quantities.h"
 #include "reports/recap.h"
+#include "reports/reportrunning.h"
 #include "reports/schedulecheck.h"
 
 // The form and its reports. What is done with a report that stands: reportscommands.cpp.
@@ -80,18 +81,7 @@ void ReportsForm::ClearNotes() {
 
 void ReportsForm::Make(const std::function<void()>& report) {
   if (running_) return;
-  // However the report ends, it is told.
-  struct Running {
-    ReportsForm& form;
-    bool whole = false;
-    explicit Running(ReportsForm& f) : form(f) { form.running_ = true; }
-    ~Running() {
-      if (form.onMade) form.onMade(whole);
-      form.running_ = false;
-    }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-  } running(*this);
+  Running running(*this);
   Clear();
   try {
     report();

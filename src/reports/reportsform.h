@@ -144,6 +144,7 @@ class ReportsForm : public Form {
   ReportedBid bid_{kit_, joins_.history, joins_.record};
   std::shared_ptr<const FormerBid> compared_;  // of the last comparison
   ReportKind kind_ = ReportKind::Recap;        // of the report in the window
+  class Running;
   bool running_ = false;     // a report is being made: ticks do not count, no other begins
   bool refreshing_ = false;  // the window stays where it is
   std::vector<ReportNote> notes_;

@@ -1,5 +1,7 @@
 #include "reports/reportsform.h"
 
+#include "reports/reportrunning.h"
+
 // A report that leaves the window as a file or a chart.
 
 namespace tamo {
@@ -36,18 +38,7 @@ void ReportsForm::ShowChart() {
 }
 
 QStringList ReportsForm::WriteFigures(ReportKind kind, TableSink& table) {
-  // However it ends, it is told, and no report begins meanwhile.
-  struct Running {
-    ReportsForm& form;
-    bool whole = false;
-    explicit Running(ReportsForm& f) : form(f) { form.running_ = true; }
-    ~Running() {
-      if (form.onMade) form.onMade(whole);
-      form.running_ = false;
-    }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-  } running(*this);
+  Running running(*this);
   ReportSource source = Source();
   source.table = &table;
   if (kind == ReportKind::WhatChanged) {
