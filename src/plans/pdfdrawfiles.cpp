@@ -1,5 +1,6 @@
 #include "plans/pdfdraw.h"
 
+#include <QAbstractEventDispatcher>
 #include <QMetaObject>
 #include <QTimer>
 #include <utility>
@@ -144,7 +145,8 @@ void PdfDraw::SymbolBoxed(const DrawnBox& box) {
 void PdfDraw::TellOfSearch() {
   constexpr int kMoment = 200;
   same_.GoOn();
-  if (!same_.Busy() || searchTold_) return;
+  const bool waits = QAbstractEventDispatcher::instance() != nullptr;  // not in a plain thread
+  if (!same_.Busy() || searchTold_ || !waits) return;
   searchTold_ = true;
   FormsThread::After(forms_, kMoment, [](PdfDraw& draw) {
     draw.searchTold_ = false;
