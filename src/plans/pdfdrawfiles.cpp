@@ -1,6 +1,5 @@
 #include "plans/pdfdraw.h"
 
-#include <QAbstractEventDispatcher>
 #include <QMetaObject>
 #include <QTimer>
 #include <utility>
@@ -134,24 +133,6 @@ PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
   same_.Search().onDone = [forms = forms_] {
     FormsThread::Post(forms, [](PdfDraw& draw) { draw.TellOfSearch(); });
   };
-}
-
-void PdfDraw::SymbolBoxed(const DrawnBox& box) {
-  same_.TakeBox({box.topLeft.x, box.topLeft.y, box.bottomRight.x, box.bottomRight.y});
-  TellOfSearch();
-}
-
-// While the search goes on it says every moment how far it is.
-void PdfDraw::TellOfSearch() {
-  constexpr int kMoment = 200;
-  same_.GoOn();
-  const bool waits = QAbstractEventDispatcher::instance() != nullptr;  // not in a plain thread
-  if (!same_.Busy() || searchTold_ || !waits) return;
-  searchTold_ = true;
-  FormsThread::After(forms_, kMoment, [](PdfDraw& draw) {
-    draw.searchTold_ = false;
-    draw.TellOfSearch();
-  });
 }
 
 PdfDraw::~PdfDraw() {
