@@ -6,8 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "plans/likefinder.h"
 #include "figureline.h"
+#include "plans/likefinder.h"
 #include "support/likesheets.h"
 
 namespace {
