@@ -39,6 +39,7 @@ parts() {
   part hold 120 longest_hold $build/bench/longest_hold data
   part refresh 60 live_refresh $build/bench/live_refresh data 500
   part items 60 bottom_line $build/bench/bottom_line data 300
+  part likes 90 find_same $build/bench/find_same $((times > 3 ? 3 : 1))
   part day 240 day_of_work env TMPDIR=/dev/shm $build/bench/day_of_work data
 }
 measured() {

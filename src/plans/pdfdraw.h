@@ -8,6 +8,7 @@
 #include "plans/drawingboard.h"
 #include "plans/planengine.h"
 #include "plans/planpictures.h"
+#include "plans/samesymbols.h"
 #include "plans/snappointer.h"
 
 namespace tamo {
@@ -75,6 +76,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
 
   // Where the pointer takes hold of the drawing while something is measured.
   SnapPointer& Snap() { return snap_; }
+  // What finds the likes of a symbol on the sheet.
+  SameSymbols& Same() { return same_; }
 
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
   // background; 10 seconds when not set. A window wants 6 milliseconds; nobody waits for a plan
@@ -95,7 +98,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
 
  protected:
   bool MayMark() override;
-  bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
+  bool TakeSnapKey(PlanKey key) override { return same_.TakeKey(key) || snap_.TakeKey(key); }
+  void SymbolBoxed(const DrawnBox& box) override;
 
  private:
   struct Session;
@@ -108,6 +112,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void Close();
   int ShowNothing(const QString& path, int error, const QString& reason);
   void PicturesChanged();
+  void TellOfSearch();
   void TellOfPages(PlanPainter& painter);
   void BeginPlan(const QString& path);
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
@@ -157,7 +162,9 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
     QString caution;
   } notices_;
   bool saving_ = false;
+  bool searchTold_ = false;  // it says how far it is in a moment
   SnapPointer snap_{*this};
+  SameSymbols same_{*this};
   int patience_ = 10000;
   int patienceOutOfSight_ = 10000;
   bool inSight_ = true;

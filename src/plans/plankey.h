@@ -6,7 +6,8 @@ namespace tamo {
 // with Ctrl half a point) and scroll the page otherwise; Space places a point or a circle at the
 // cross hair; Escape drops the line in work; Backspace drops its last point; Enter gives the focus
 // back, and ends an outline in work; Arc makes its next two points those of an arc; Snap turns the
-// snap to the drawing on or off, NextSnap takes the cross hair to the next place near it.
+// snap to the drawing on or off, NextSnap takes the cross hair to the next place near it; Yes, No
+// and All answer for a symbol that was found.
 enum class PlanKey {
   Left,
   Right,
@@ -20,7 +21,10 @@ enum class PlanKey {
   Redo,
   Arc,
   Snap,
-  NextSnap
+  NextSnap,
+  Yes,
+  No,
+  All
 };
 
 struct PlanStroke {

@@ -36,6 +36,7 @@ void PlanCanvas::paintEvent(QPaintEvent*) {
                        true);
   PaintMarks(painter);
   if (foundOn) PaintFound(painter);
+  PaintLikes(painter);
   PaintWork(painter);
   painter.restore();
   if (hasFocus()) {
@@ -83,7 +84,8 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
     painter.drawRect(QRectF(QPointF(box->topLeft.x, box->topLeft.y),
                             QPointF(box->bottomRight.x, box->bottomRight.y)));
   }
-  if (viewer_.Tool() == PlanTool::None || !hasFocus()) return;
+  const bool pointing = viewer_.Tool() != PlanTool::None || viewer_.BoxNext();
+  if (!pointing || !hasFocus()) return;
   const PagePoint hair = viewer_.CrossHair();
   if (const std::optional<SnapHit> sign = viewer_.Snap().Sign())
     PaintSnapSign(painter, *sign, Scale());
