@@ -1,6 +1,7 @@
 #include "windows/fontsahead.h"
 
 #include <QFontDatabase>
+#include <QStringList>
 #include <system_error>
 
 #ifdef Q_OS_LINUX
