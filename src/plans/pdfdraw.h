@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <memory>
+#include <optional>
 
 #include "common/files.h"
 #include "plans/drawingboard.h"
@@ -81,8 +82,13 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   SameSymbols& Same() { return same_; }
 
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
-  // background; 10 seconds when not set. A window wants 6 milliseconds.
-  void SetPatience(int milliseconds) { patience_ = milliseconds; }
+  // background; 10 seconds when not set. A window wants 6 milliseconds; nobody waits for a plan
+  // that is not in sight.
+  void SetPatience(int milliseconds, std::optional<int> outOfSight = {}) {
+    patience_ = milliseconds;
+    patienceOutOfSight_ = outOfSight.value_or(milliseconds);
+  }
+  void SetInSight(bool inSight) { inSight_ = inSight; }
   // How long a plan may take to open at all; 30 seconds when not set.
   void SetLongestOpening(int milliseconds) { longestOpening_ = milliseconds; }
 
@@ -137,6 +143,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool ChangedOnDisk(const QString& path);
   int TakeFromDisk(const QString& path, const MarkChanges& changes);
   int BuildUpdate(Session& session, const MarkChanges& changes, QByteArray& bytes);
+  struct Appended;
+  static int WriteDown(Disk& disk, int handle, const QByteArray& bytes, Progress& progress);
   SavePart WriteBytes(int handle, const QByteArray& bytes) const;
   SavePart CopyBytes(int handle, const QByteArray& more) const;
   void CutTornTail(const QString& path, qint64 whole);
@@ -161,6 +169,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   SnapPointer snap_{*this};
   SameSymbols same_{*this};
   int patience_ = 10000;
+  int patienceOutOfSight_ = 10000;
+  bool inSight_ = true;
   int longestOpening_ = 30000;
 };
 

@@ -201,7 +201,8 @@ int PdfDraw::OpenFile(const QString& given, const QString& password) {
   session_ = NewSession(path, password, error);
   if (session_ == nullptr) return ShowNothing(path, error, OpenReason(error));
   BeginPlan(given);
-  if (FinishOpening(patience_)) return ShownPath().isEmpty() ? kFileOther : kNoError;
+  if (FinishOpening(inSight_ ? patience_ : patienceOutOfSight_))
+    return ShownPath().isEmpty() ? kFileOther : kNoError;
   // A slow plan: a blank sheet stands for it until it is there, or has taken too long.
   FillPlan({}, {});
   FormsThread::After(forms_, longestOpening_, [opening = opening_](PdfDraw& draw) {
