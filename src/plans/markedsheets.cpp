@@ -36,6 +36,7 @@ std::vector<Mark> MarkedSheets::Marks() const {
 
 void MarkedSheets::FillMarks(std::vector<Mark> marks) {
   marks_ = std::move(marks);
+  ++revision_;
   done_.clear();
   undone_.clear();
   lastNumber_ = 0;
@@ -54,15 +55,17 @@ Mark MarkedSheets::NewMark(Mark::Kind kind, std::vector<PagePoint> points) const
 
 void MarkedSheets::AddMark(Mark mark) {
   mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-  done_.push_back({true, marks_.size(), std::move(mark)});
-  undone_.clear();
-  Do(Step(done_.back()), true);
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, false});
 }
 
 void MarkedSheets::DeleteMark(int index) {
   if (index < 0 || static_cast<size_t>(index) >= marks_.size()) return;
   const size_t at = marks_.size() - 1 - static_cast<size_t>(index);
-  done_.push_back({false, at, marks_[at]});
+  TakeStep({Step::What::Deleted, at, marks_[at], {}, false});
+}
+
+void MarkedSheets::TakeStep(Step step) {
+  done_.push_back(std::move(step));
   undone_.clear();
   Do(Step(done_.back()), true);
 }
@@ -84,8 +87,9 @@ bool MarkedSheets::Redo() {
 }
 
 bool MarkedSheets::WasDrawnHere(const QString& name) const {
-  return std::any_of(done_.begin(), done_.end(),
-                     [&](const Step& step) { return step.added && step.mark.name == name; });
+  return std::any_of(done_.begin(), done_.end(), [&](const Step& step) {
+    return step.what == Step::What::Added && step.mark.name == name;
+  });
 }
 
 bool MarkedSheets::TakeOff(const QString& name, Mark& mark) {
@@ -101,22 +105,73 @@ bool MarkedSheets::PutBack(const Mark& mark) {
   if (std::any_of(marks_.begin(), marks_.end(),
                   [&](const Mark& other) { return other.name == mark.name; }))
     return false;
-  done_.push_back({true, marks_.size(), mark});
-  undone_.clear();
-  Do(Step(done_.back()), true);
+  TakeStep({Step::What::Added, marks_.size(), mark, {}, false});
   return true;
 }
 
+const Mark* MarkedSheets::FindMark(const QString& name) const {
+  const auto found = std::find_if(marks_.begin(), marks_.end(),
+                                  [&](const Mark& mark) { return mark.name == name; });
+  return found == marks_.end() ? nullptr : &*found;
+}
+
+void MarkedSheets::ChangeMark(const Mark& mark, bool joinLast) {
+  const Mark* found = FindMark(mark.name);
+  if (found == nullptr || *found == mark) return;
+  const auto at = static_cast<size_t>(found - marks_.data());
+  const bool joins = joinLast && !done_.empty() && done_.back().what == Step::What::Changed &&
+                     done_.back().mark.name == mark.name;
+  if (!joins) return TakeStep({Step::What::Changed, at, mark, *found, true});
+  done_.back().mark = mark;
+  undone_.clear();
+  Do(Step(done_.back()), true);
+}
+
+QString MarkedSheets::PlaceMark(Mark mark) {
+  mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
+  const QString name = mark.name;
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, true});
+  return name;
+}
+
+void MarkedSheets::RemoveMark(const QString& name) {
+  const Mark* found = FindMark(name);
+  if (found == nullptr) return;
+  const auto at = static_cast<size_t>(found - marks_.data());
+  TakeStep({Step::What::Deleted, at, *found, {}, true});
+}
+
+void MarkedSheets::KeepWith(const QString& name, const QString& kept) {
+  ++revision_;
+  const auto keep = [&](Mark& mark) {
+    if (mark.name == name) mark.kept = kept;
+  };
+  for (Mark& mark : marks_) keep(mark);
+  for (std::vector<Step>* steps : {&done_, &undone_}) {
+    for (Step& step : *steps) {
+      keep(step.mark);
+      keep(step.before);
+    }
+  }
+}
+
 void MarkedSheets::Do(const Step& step, bool forward) {
+  ++revision_;
+  if (step.what == Step::What::Changed) {
+    if (step.at < marks_.size()) marks_[step.at] = forward ? step.mark : step.before;
+    Repaint();
+    return Raise(onMarkEdited);
+  }
   const auto place = static_cast<std::ptrdiff_t>(std::min(step.at, marks_.size()));
   const bool circle = step.mark.kind == Mark::Kind::Circle;
-  if (step.added == forward) {
+  if ((step.what == Step::What::Added) == forward) {
     marks_.insert(marks_.begin() + place, step.mark);
   } else {
     marks_.erase(marks_.begin() + place);
   }
   Repaint();
   if (circle) Raise(onCircleCountChanged, CircleCount());
+  if (step.edits) Raise(onMarkEdited);
 }
 
 int MarkedSheets::CircleCount() const {

@@ -5,6 +5,7 @@
 
 #include "common/files.h"
 #include "plans/drawingboard.h"
+#include "plans/markhand.h"
 #include "plans/planengine.h"
 #include "plans/planpictures.h"
 #include "plans/snappointer.h"
@@ -74,6 +75,10 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
 
   // Where the pointer takes hold of the drawing while something is measured.
   SnapPointer& Snap() { return snap_; }
+  // The mark that is chosen, to be changed.
+  MarkHand& Hand() { return hand_; }
+  const MarkHand& Hand() const { return hand_; }
+  bool MayMark() override;
 
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
   // background; 10 seconds when not set. A window wants 6 milliseconds.
@@ -88,8 +93,12 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool FinishOpening(int milliseconds);
 
  protected:
-  bool MayMark() override;
   bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
+  bool TakeMarkKey(const PlanStroke& stroke) override { return hand_.TakeKey(stroke); }
+  void PressFree(PagePoint at) override { hand_.Press(at); }
+  void MoveFree(PagePoint at, bool shift) override { hand_.Move(at, shift); }
+  void ReleaseFree(PagePoint at, bool shift) override { hand_.Release(at, shift); }
+  void ToolComes() override { hand_.LetGo(); }
 
  private:
   struct Session;
@@ -150,6 +159,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   } notices_;
   bool saving_ = false;
   SnapPointer snap_{*this};
+  MarkHand hand_{*this};
   int patience_ = 10000;
   int longestOpening_ = 30000;
 };

@@ -7,6 +7,10 @@ namespace tamo {
 // cross hair; Escape drops the line in work; Backspace drops its last point; Enter gives the focus
 // back, and ends an outline in work; Arc makes its next two points those of an arc; Snap turns the
 // snap to the drawing on or off, NextSnap takes the cross hair to the next place near it.
+//
+// NextMark and MarkBefore choose a mark, one after the other, and put the tool away. Of the mark
+// that is chosen NextSnap takes a point, then the next; Left to Down move that point, Delete takes
+// the mark away, Escape lets go of it.
 enum class PlanKey {
   Left,
   Right,
@@ -20,7 +24,10 @@ enum class PlanKey {
   Redo,
   Arc,
   Snap,
-  NextSnap
+  NextSnap,
+  NextMark,
+  MarkBefore,
+  Delete
 };
 
 struct PlanStroke {

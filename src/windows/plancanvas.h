@@ -75,6 +75,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void SyncBars();
   void ViewChanged();
   void PaintMarks(QPainter& painter) const;
+  void PaintChosen(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
   void PaintFound(QPainter& painter) const;
   void Pan(const QPointF& points);
