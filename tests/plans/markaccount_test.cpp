@@ -180,7 +180,7 @@ TEST_F(Account, TenThousandMarksAreListedAtOnce) {
   RecordProperty("milliseconds", int(since.elapsed()));
   EXPECT_EQ(rows.size(), 10000);
   EXPECT_EQ(rows[9999].toStdString(),
-            "1     Line       10.0 feet                       Room 101, Paint: 8 X 10.0");
+            "  1     Line       10.0 feet      Room 101, Paint: 8 X 10.0");
 }
 
 TEST(MarkTotals, BySystemWithHeightsOnSheetAndPlan) {
