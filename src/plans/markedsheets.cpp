@@ -55,13 +55,13 @@ Mark MarkedSheets::NewMark(Mark::Kind kind, std::vector<PagePoint> points) const
 
 void MarkedSheets::AddMark(Mark mark) {
   mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, false});
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, false, false});
 }
 
 void MarkedSheets::DeleteMark(int index) {
   if (index < 0 || static_cast<size_t>(index) >= marks_.size()) return;
   const size_t at = marks_.size() - 1 - static_cast<size_t>(index);
-  TakeStep({Step::What::Deleted, at, marks_[at], {}, false});
+  TakeStep({Step::What::Deleted, at, marks_[at], {}, false, false});
 }
 
 void MarkedSheets::TakeStep(Step step) {
@@ -72,17 +72,33 @@ void MarkedSheets::TakeStep(Step step) {
 
 bool MarkedSheets::Undo() {
   if (done_.empty()) return false;
-  undone_.push_back(done_.back());
-  done_.pop_back();
-  Do(Step(undone_.back()), false);
+  bool circles = false;
+  bool edits = false;
+  bool more = true;
+  while (more && !done_.empty()) {
+    undone_.push_back(done_.back());
+    done_.pop_back();
+    Put(undone_.back(), false);
+    circles = circles || Counts(undone_.back());
+    edits = edits || undone_.back().edits;
+    more = undone_.back().joined;
+  }
+  Tell(circles, edits);
   return true;
 }
 
 bool MarkedSheets::Redo() {
   if (undone_.empty()) return false;
-  done_.push_back(undone_.back());
-  undone_.pop_back();
-  Do(Step(done_.back()), true);
+  bool circles = false;
+  bool edits = false;
+  do {
+    done_.push_back(undone_.back());
+    undone_.pop_back();
+    Put(done_.back(), true);
+    circles = circles || Counts(done_.back());
+    edits = edits || done_.back().edits;
+  } while (!undone_.empty() && undone_.back().joined);
+  Tell(circles, edits);
   return true;
 }
 
@@ -105,7 +121,7 @@ bool MarkedSheets::PutBack(const Mark& mark) {
   if (std::any_of(marks_.begin(), marks_.end(),
                   [&](const Mark& other) { return other.name == mark.name; }))
     return false;
-  TakeStep({Step::What::Added, marks_.size(), mark, {}, false});
+  TakeStep({Step::What::Added, marks_.size(), mark, {}, false, false});
   return true;
 }
 
@@ -121,7 +137,7 @@ void MarkedSheets::ChangeMark(const Mark& mark, bool joinLast) {
   const auto at = static_cast<size_t>(found - marks_.data());
   const bool joins = joinLast && !done_.empty() && done_.back().what == Step::What::Changed &&
                      done_.back().mark.name == mark.name;
-  if (!joins) return TakeStep({Step::What::Changed, at, mark, *found, true});
+  if (!joins) return TakeStep({Step::What::Changed, at, mark, *found, true, false});
   done_.back().mark = mark;
   undone_.clear();
   Do(Step(done_.back()), true);
@@ -130,7 +146,7 @@ void MarkedSheets::ChangeMark(const Mark& mark, bool joinLast) {
 QString MarkedSheets::PlaceMark(Mark mark) {
   mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
   const QString name = mark.name;
-  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, true});
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, true, false});
   return name;
 }
 
@@ -138,7 +154,7 @@ void MarkedSheets::RemoveMark(const QString& name) {
   const Mark* found = FindMark(name);
   if (found == nullptr) return;
   const auto at = static_cast<size_t>(found - marks_.data());
-  TakeStep({Step::What::Deleted, at, *found, {}, true});
+  TakeStep({Step::What::Deleted, at, *found, {}, true, false});
 }
 
 void MarkedSheets::KeepWith(const QString& name, const QString& kept) {
@@ -155,23 +171,48 @@ void MarkedSheets::KeepWith(const QString& name, const QString& kept) {
   }
 }
 
+void MarkedSheets::AddMarks(std::vector<Mark> marks) {
+  bool circles = false;
+  for (size_t i = 0; i < marks.size(); ++i) {
+    Mark& mark = marks[i];
+    mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
+    circles = circles || mark.kind == Mark::Kind::Circle;
+    done_.push_back({Step::What::Added, marks_.size(), std::move(mark), {}, false, i > 0});
+    Put(done_.back(), true);
+  }
+  if (marks.empty()) return;
+  undone_.clear();
+  Tell(circles, false);
+}
+
+// A circle that was changed is still one.
+bool MarkedSheets::Counts(const Step& step) {
+  return step.what != Step::What::Changed && step.mark.kind == Mark::Kind::Circle;
+}
+
 void MarkedSheets::Do(const Step& step, bool forward) {
+  Put(step, forward);
+  Tell(Counts(step), step.edits);
+}
+
+void MarkedSheets::Tell(bool circles, bool edits) {
+  Repaint();
+  if (circles) Raise(onCircleCountChanged, CircleCount());
+  if (edits) Raise(onMarkEdited);
+}
+
+void MarkedSheets::Put(const Step& step, bool forward) {
   ++revision_;
   if (step.what == Step::What::Changed) {
     if (step.at < marks_.size()) marks_[step.at] = forward ? step.mark : step.before;
-    Repaint();
-    return Raise(onMarkEdited);
+    return;
   }
   const auto place = static_cast<std::ptrdiff_t>(std::min(step.at, marks_.size()));
-  const bool circle = step.mark.kind == Mark::Kind::Circle;
   if ((step.what == Step::What::Added) == forward) {
     marks_.insert(marks_.begin() + place, step.mark);
   } else {
     marks_.erase(marks_.begin() + place);
   }
-  Repaint();
-  if (circle) Raise(onCircleCountChanged, CircleCount());
-  if (step.edits) Raise(onMarkEdited);
 }
 
 int MarkedSheets::CircleCount() const {

@@ -53,6 +53,7 @@ class MarkedSheets : public SheetView {
   // A mark of the pen on the current page, without label and name; AddMark gives it its name.
   Mark NewMark(Mark::Kind kind, std::vector<PagePoint> points) const;
   void AddMark(Mark mark);
+  void AddMarks(std::vector<Mark> marks);  // taken back and brought back together
   void Repaint() { Raise(onMarksChanged); }
 
  private:
@@ -61,11 +62,15 @@ class MarkedSheets : public SheetView {
     What what = What::Added;
     size_t at = 0;
     Mark mark;
-    Mark before;  // of one that was changed
-    bool edits = false;
+    Mark before;          // of one that was changed
+    bool edits = false;   // by hand, and not by a tool
+    bool joined = false;  // goes with the one before
   };
   void TakeStep(Step step);
   void Do(const Step& step, bool forward);
+  void Put(const Step& step, bool forward);
+  void Tell(bool circles, bool edits);
+  static bool Counts(const Step& step);
   int CircleCount() const;
 
   std::vector<Mark> marks_;

@@ -84,6 +84,10 @@ void OSTForm::BindMenus() {
   on("Save", [this] { Save(); });
   on("Printit", [this] { viewer_.Print(); });
   on("SnapToDrawing", [this] { viewer_.Key({PlanKey::Snap, false, false}); });
+  on("FindSame", [this] {
+    kit_.desk.Focus(picPdfDraw);
+    viewer_.Same().Start();
+  });
   static const std::pair<const char*, PlanTool> tools[] = {{"DrawPolyline", PlanTool::Polyline},
                                                            {"DrawArea", PlanTool::Area},
                                                            {"DrawRectangle", PlanTool::Rectangle},
@@ -122,7 +126,7 @@ void OSTForm::BindMarks() {
       viewer_.Key({key, false, false});
     };
   };
-  on(QStringLiteral("NextMark"), press(PlanKey::NextMark));
+  on(QStringLiteral("NextMark"), press(PlanKey::No));
   on(QStringLiteral("MarkBefore"), press(PlanKey::MarkBefore));
   on(QStringLiteral("NameMark"), [this] { marks_.AskTitle(); });
   on(QStringLiteral("DeleteMark"), press(PlanKey::Delete));
@@ -150,6 +154,7 @@ void OSTForm::BindViewer() {
     pen_.ModeChanged(tool);
     surfaces_.ToolPicked(tool);
     viewer_.Snap().Follow();
+    viewer_.Same().Leave();
     sheetScales_.ToolPicked(tool);
   });
   viewer_.onLineMeasured =
@@ -165,6 +170,7 @@ void OSTForm::BindViewer() {
   viewer_.onPageChanged = event([this] {
     pages_.ShowPage();
     viewer_.Snap().Follow();
+    viewer_.Same().Follow();
     sheetScales_.SheetChanged();
   });
   viewer_.onScrolled = event([this] {
@@ -172,7 +178,7 @@ void OSTForm::BindViewer() {
   });
   viewer_.onMousePressed = event([this] {
     kit_.desk.Focus(picPdfDraw);
-    if (!sheetScales_.Calibrating()) measure_.WarnOfMissingScale();
+    if (!sheetScales_.Calibrating() && !viewer_.Same().Boxing()) measure_.WarnOfMissingScale();
     if (onPlanPressed) onPlanPressed();
   });
   viewer_.onReservation = [this](const QString& reservation) {

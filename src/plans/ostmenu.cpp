@@ -81,6 +81,7 @@ constexpr Row kPlan[] = {
     {"DrawCutOut", "&Cut-out (K)", "DrawMenu"},
     {"DrawPerimeter", "P&erimeter (E)", "DrawMenu"},
     {"SnapToDrawing", "&Snap to the Drawing (S)", "DrawMenu"},
+    {"FindSame", "&Find Same (I)", "DrawMenu"},
     {"MarkMenu", "&Marks", "DrawMenu"},
     {"MarksOfPlan", "&List of the Marks (F6)", "MarkMenu"},
     {"NextMark", "Choose the &Next Mark (N)", "MarkMenu"},

@@ -8,6 +8,7 @@
 #include "plans/markhand.h"
 #include "plans/planengine.h"
 #include "plans/planpictures.h"
+#include "plans/samesymbols.h"
 #include "plans/snappointer.h"
 
 namespace tamo {
@@ -79,6 +80,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   MarkHand& Hand() { return hand_; }
   const MarkHand& Hand() const { return hand_; }
   bool MayMark() override;
+  // What finds the likes of a symbol on the sheet.
+  SameSymbols& Same() { return same_; }
 
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
   // background; 10 seconds when not set. A window wants 6 milliseconds.
@@ -94,11 +97,14 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
 
  protected:
   bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
-  bool TakeMarkKey(const PlanStroke& stroke) override { return hand_.TakeKey(stroke); }
+  bool TakeMarkKey(const PlanStroke& stroke) override {
+    return same_.TakeKey(stroke.key) || hand_.TakeKey(stroke);
+  }
   void PressFree(PagePoint at) override { hand_.Press(at); }
   void MoveFree(PagePoint at, bool shift) override { hand_.Move(at, shift); }
   void ReleaseFree(PagePoint at, bool shift) override { hand_.Release(at, shift); }
   void ToolComes() override { hand_.LetGo(); }
+  void SymbolBoxed(const DrawnBox& box) override;
 
  private:
   struct Session;
@@ -111,6 +117,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void Close();
   int ShowNothing(const QString& path, int error, const QString& reason);
   void PicturesChanged();
+  void TellOfSearch();
   void TellOfPages(PlanPainter& painter);
   void BeginPlan(const QString& path);
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
@@ -158,8 +165,10 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
     QString caution;
   } notices_;
   bool saving_ = false;
+  bool searchTold_ = false;  // it says how far it is in a moment
   SnapPointer snap_{*this};
   MarkHand hand_{*this};
+  SameSymbols same_{*this};
   int patience_ = 10000;
   int longestOpening_ = 30000;
 };

@@ -125,7 +125,13 @@ bool PdfDraw::MayMark() {
 PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
     : files_(files), engine_(engine), forms_(std::make_shared<FormsThread>(this)) {
   snap_.Lines().onRead = [forms = forms_] {
-    FormsThread::Post(forms, [](PdfDraw& draw) { draw.snap_.TellOfSheet(); });
+    FormsThread::Post(forms, [](PdfDraw& draw) {
+      draw.snap_.TellOfSheet();
+      draw.TellOfSearch();
+    });
+  };
+  same_.Search().onDone = [forms = forms_] {
+    FormsThread::Post(forms, [](PdfDraw& draw) { draw.TellOfSearch(); });
   };
 }
 

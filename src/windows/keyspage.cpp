@@ -52,6 +52,7 @@ constexpr Row kRows[] = {
     {"OST", "Delete, Escape", "Take the chosen mark away, let go of it"},
     {"OST", "F2, F6", "Name the chosen mark; the list of the marks"},
     {"OST", "F7", "To the line of the takeoff that the chosen mark was entered into"},
+    {"OST", "I", "Find Same: a box around a symbol; then Y yes, N no, A all"},
     {"OST", "+, -, F, W", "Zoom in, zoom out, the whole sheet, its whole width"},
     {"OST", "T", "Turn the sheet"},
     {"OST", "Ctrl+F", "Find text on all sheets; N the next, Shift+N the one before"},

@@ -27,8 +27,22 @@ std::optional<PlanKey> PlanKeyOf(int code) {
 
 }  // namespace
 
+// While symbols that were found are asked about, letters answer.
+bool PlanCanvas::TakeAnswer(int key) {
+  static constexpr std::pair<int, PlanKey> kAnswers[] = {
+      {Qt::Key_Y, PlanKey::Yes}, {Qt::Key_N, PlanKey::No}, {Qt::Key_A, PlanKey::All}};
+  if (!viewer_.Same().Asking()) return false;
+  for (const auto& [letter, answer] : kAnswers) {
+    if (letter != key) continue;
+    desk_.Dispatch([&, answer = answer] { viewer_.Key({answer, false, false}); });
+    return true;
+  }
+  return false;
+}
+
 // The tool bar by letters, while the keys go to the plan.
 bool PlanCanvas::TakeLetter(int key) {
+  if (TakeAnswer(key)) return true;
   static constexpr std::pair<int, PlanTool> kTools[] = {
       {Qt::Key_V, PlanTool::None},     {Qt::Key_M, PlanTool::Measuring},
       {Qt::Key_C, PlanTool::Counting}, {Qt::Key_L, PlanTool::Polyline},
@@ -49,11 +63,14 @@ bool PlanCanvas::TakeLetter(int key) {
     case Qt::Key_S:
       return press(PlanKey::Snap);
     case Qt::Key_N:
-      return press(PlanKey::NextMark);
+      return press(PlanKey::No);
     case Qt::Key_P:
       return press(PlanKey::MarkBefore);
     case Qt::Key_Tab:
       return TakeNextSnap();
+    case Qt::Key_I:
+      desk_.Dispatch([this] { viewer_.Same().Start(); });
+      return true;
     case Qt::Key_T:
       TurnView();
       return true;

@@ -33,6 +33,7 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
   connect(&rest_, &QTimer::timeout, this, [this] { FinishScroll(); });
   viewer_.onMarksChanged = [this] { viewport()->update(); };
   viewer_.onViewChanged = [this] { ViewChanged(); };
+  viewer_.onLookAt = [this](PagePoint at) { PlaceInView(at); };
   if (pictures_ != nullptr) {
     pictures_->onPicturesChanged = [this] {
       viewport()->update();
@@ -44,6 +45,7 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
 PlanCanvas::~PlanCanvas() {
   viewer_.onMarksChanged = nullptr;
   viewer_.onViewChanged = nullptr;
+  viewer_.onLookAt = nullptr;
   viewer_.onPrint = nullptr;
   viewer_.onBringToFront = nullptr;
   viewer_.onSaveProgress = nullptr;

@@ -78,6 +78,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void PaintChosen(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
   void PaintFound(QPainter& painter) const;
+  void PaintLikes(QPainter& painter) const;
   void Pan(const QPointF& points);
   void ZoomAbout(const QPointF& place, const std::function<void()>& zoom);
   void ZoomByWheel(const QPointF& place, double notches);
@@ -85,6 +86,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void FitTo(double pixelsPerPoint);
   bool TakeLetter(int key);
   bool TakeNextSnap();
+  bool TakeAnswer(int key);
   // Where on the page the mouse takes hold.
   PagePoint Pointed(const QMouseEvent& event);
 

@@ -37,6 +37,7 @@ void PlanCanvas::paintEvent(QPaintEvent*) {
   PaintMarks(painter);
   PaintChosen(painter);
   if (foundOn) PaintFound(painter);
+  PaintLikes(painter);
   PaintWork(painter);
   painter.restore();
   if (hasFocus()) {
@@ -97,8 +98,9 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
     painter.drawRect(QRectF(QPointF(box->topLeft.x, box->topLeft.y),
                             QPointF(box->bottomRight.x, box->bottomRight.y)));
   }
-  const bool measures = viewer_.Tool() != PlanTool::None || viewer_.Hand().Holds();
-  if (!measures || !hasFocus()) return;
+  const bool pointing =
+      viewer_.Tool() != PlanTool::None || viewer_.BoxNext() || viewer_.Hand().Holds();
+  if (!pointing || !hasFocus()) return;
   const PagePoint hair = viewer_.CrossHair();
   if (const std::optional<SnapHit> sign = viewer_.Snap().Sign())
     PaintSnapSign(painter, *sign, Scale());

@@ -96,6 +96,7 @@ class WindowsStage : public Stage {
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;
   void PlanBox(PagePoint from, PagePoint to) override;
+  void FinishSearch();
   void PlanOutline(PlanTool tool, const std::vector<PagePoint>& points) override;
 
   QString Difference(bool front) override;
@@ -415,7 +416,8 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
       {tamo::PlanKey::Escape, Qt::Key_Escape}, {tamo::PlanKey::Backspace, Qt::Key_Backspace},
       {tamo::PlanKey::Undo, Qt::Key_Z},        {tamo::PlanKey::Redo, Qt::Key_Y},
       {tamo::PlanKey::Arc, Qt::Key_B},         {tamo::PlanKey::Snap, Qt::Key_S},
-      {tamo::PlanKey::NextSnap, Qt::Key_Tab},  {tamo::PlanKey::NextMark, Qt::Key_N},
+      {tamo::PlanKey::NextSnap, Qt::Key_Tab},  {tamo::PlanKey::Yes, Qt::Key_Y},
+      {tamo::PlanKey::No, Qt::Key_N},          {tamo::PlanKey::All, Qt::Key_A},
       {tamo::PlanKey::MarkBefore, Qt::Key_P},  {tamo::PlanKey::Delete, Qt::Key_Delete}};
   QWidget& plan = Plan();
   plan.setFocus(Qt::ShortcutFocusReason);
@@ -427,6 +429,7 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
   for (const auto& [key, code] : keys) {
     if (key == stroke.key) QTest::keyClick(&plan, code, held);
   }
+  FinishSearch();
 }
 
 // The wheel and the mouse move whole pixels; a scenario means points.
@@ -444,6 +447,12 @@ void WindowsStage::PlanPage(int page) {
 void WindowsStage::PlanBox(PagePoint from, PagePoint to) {
   Plan();
   GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
+  FinishSearch();
+}
+
+// A symbol is looked for aside; a person goes on when it is found.
+void WindowsStage::FinishSearch() {
+  GetDesk().Dispatch([&] { played_->Viewer().Same().Finish(kSearchPatience); });
 }
 
 // Each point is clicked, Enter ends.

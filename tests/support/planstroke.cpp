@@ -12,7 +12,8 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
       {"Escape", PlanKey::Escape}, {"Backspace", PlanKey::Backspace},
       {"Undo", PlanKey::Undo},     {"Redo", PlanKey::Redo},
       {"Arc", PlanKey::Arc},       {"S", PlanKey::Snap},
-      {"Tab", PlanKey::NextSnap},  {"N", PlanKey::NextMark},
+      {"Tab", PlanKey::NextSnap},  {"Y", PlanKey::Yes},
+      {"N", PlanKey::No},          {"A", PlanKey::All},
       {"P", PlanKey::MarkBefore},  {"Delete", PlanKey::Delete}};
   PlanStroke read;
   QString rest = name.trimmed();
