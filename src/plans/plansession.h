@@ -2,8 +2,8 @@
 
 // The inside of PdfDraw, shared by its source files.
 
-#include <QObject>
 #include <QHash>
+#include <QObject>
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
@@ -34,7 +34,7 @@ struct PdfDraw::Session {
   std::unique_ptr<PlanPainter> painter;
   std::vector<PageSize> sizes;
   QHash<QString, Mark> saved;  // the marks as they stand in the file, by name
-  qint64 size = 0;           // bytes of the file as this program last knew it
+  qint64 size = 0;             // bytes of the file as this program last knew it
 
   ~Session() {
     painter.reset();

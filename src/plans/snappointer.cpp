@@ -29,7 +29,8 @@ void SnapPointer::Turn(bool on) {
 bool SnapPointer::Active() const {
   const PlanTool tool = viewer_.Tool();
   const std::optional<Mark>& held = viewer_.Hand().Held();
-  if (held.has_value()) return on_ && held->kind != Mark::Kind::Circle && held->kind != Mark::Kind::Legend;
+  if (held.has_value())
+    return on_ && held->kind != Mark::Kind::Circle && held->kind != Mark::Kind::Legend;
   return on_ && !viewer_.BoxNext() && (tool == PlanTool::Measuring || PdfDraw::DrawsOutlines(tool));
 }
 

@@ -14,9 +14,7 @@ class TakeoffLines {
  public:
   explicit TakeoffLines(const Kit& kit) : kit_(kit) {}
 
-  bool OfOpenProject(const TakeoffPlace& place) const {
-    return place.project == kit_.shared.JobID;
-  }
+  bool OfOpenProject(const TakeoffPlace& place) const { return place.project == kit_.shared.JobID; }
   // What stands in the line; nothing when there is none, or its room or area is off its list.
   std::optional<double> Quantity(const TakeoffPlace& place);
 

@@ -25,6 +25,17 @@ std::optional<PlanKey> PlanKeyOf(int code) {
   return std::nullopt;
 }
 
+std::optional<PlanKey> LetterOf(int code) {
+  static constexpr std::pair<int, PlanKey> kKeys[] = {{Qt::Key_B, PlanKey::Arc},
+                                                      {Qt::Key_S, PlanKey::Snap},
+                                                      {Qt::Key_N, PlanKey::No},
+                                                      {Qt::Key_P, PlanKey::MarkBefore}};
+  for (const auto& [known, key] : kKeys) {
+    if (known == code) return key;
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 // While symbols that were found are asked about, letters answer.
@@ -53,19 +64,11 @@ bool PlanCanvas::TakeLetter(int key) {
     desk_.Dispatch([&, tool = tool] { viewer_.PickTool(tool); });
     return true;
   }
-  const auto press = [this](PlanKey plan) {
-    desk_.Dispatch([&] { viewer_.Key({plan, false, false}); });
+  if (const std::optional<PlanKey> plan = LetterOf(key)) {
+    desk_.Dispatch([&] { viewer_.Key({*plan, false, false}); });
     return true;
-  };
+  }
   switch (key) {
-    case Qt::Key_B:
-      return press(PlanKey::Arc);
-    case Qt::Key_S:
-      return press(PlanKey::Snap);
-    case Qt::Key_N:
-      return press(PlanKey::No);
-    case Qt::Key_P:
-      return press(PlanKey::MarkBefore);
     case Qt::Key_Tab:
       return TakeNextSnap();
     case Qt::Key_I:
