@@ -69,12 +69,10 @@ void MarkHand::Show(const std::vector<QString>& names) {
 
 void MarkHand::TellChosen() {
   if (const Mark* mark = Chosen()) {
-    QString words = InWords() + QStringLiteral(". ");
-    if (point_ >= 0 && mark->points.size() > 1)
-      words += QStringLiteral("Point %1 of %2. ").arg(point_ + 1).arg(mark->points.size());
-    words += point_ < 0 ? QStringLiteral("Tab takes a point, F2 names it, Delete removes it.")
-                        : QStringLiteral("The arrows move it, with Ctrl in small steps.");
-    Tell(words);
+    const QString point =
+        QStringLiteral("Point %1 of %2: arrows move it.").arg(point_ + 1).arg(mark->points.size());
+    Tell(InWords() + QStringLiteral(". ") +
+         (point_ < 0 ? QStringLiteral("Tab: its points, F2: its name.") : point));
   }
   if (viewer_.onMarkChosen) viewer_.onMarkChosen();
   if (viewer_.onMarksChanged) viewer_.onMarksChanged();

@@ -63,6 +63,7 @@ void PlanSurfaces::ToolPicked(PlanTool tool) {
 
 void PlanSurfaces::Refused(const QString& why) {
   form_.ToolHint.SetCaption(why.isEmpty() ? hint_ : why);
+  form_.ToolHint.SetHover(form_.ToolHint.Caption());
 }
 
 }  // namespace tamo

@@ -258,6 +258,7 @@ void SheetScales::Refresh() {
   const bool blank = viewer_.ShownFile().isEmpty();
   offer_ = blank ? std::nullopt : WhatToOffer();
   form_.ScaleNote.SetCaption(blank ? QString() : Note());
+  form_.ScaleNote.SetHover(form_.ScaleNote.Caption());
   form_.TakeScale.SetShown(offer_.has_value());
   if (offer_.has_value()) form_.TakeScale.SetCaption(QStringLiteral("&Use ") + offer_->words);
 }

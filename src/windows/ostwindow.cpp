@@ -31,8 +31,9 @@ QWidget* GoesTo(Builder& b) {
   return goes;
 }
 
-// Words above the plan: of the tool in hand, and what speaks against the scale. The line is always
-// there, so that the plan stays where it is when words come and go.
+// Words above the plan: of the tool in hand, and what speaks against the scale. Two lines are
+// always there, so that the plan stays where it is when words come and go; what is longer is in the
+// tool tip.
 QWidget* Words(Builder& b) {
   auto* words = new QWidget;
   auto* line = new QHBoxLayout(words);
@@ -42,7 +43,8 @@ QWidget* Words(Builder& b) {
     QLabel* label = b.Text(name);
     label->setFont(PromptFont());
     label->setWordWrap(true);
-    label->setMinimumHeight(label->fontMetrics().height());
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    label->setFixedHeight(2 * label->fontMetrics().lineSpacing());
     line->addWidget(label, 1);
   }
   return words;
