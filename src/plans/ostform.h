@@ -69,6 +69,7 @@ class OSTForm : public OstControls {
   void BindViewer();
   void BindOutlines();
   void BindPlanKeys();
+  void BindSheets();
   void EnterOnPlan();
   void PlanLost(const QString& problem);
 
