@@ -6,6 +6,7 @@
 #include <mupdf/fitz.h>
 #include <mupdf/pdf.h>
 
+#include <QSet>
 #include <map>
 
 #include "engine/mupdffile.h"
@@ -21,6 +22,8 @@ struct RawTarget;
 struct FileMark {
   QString name;
   int object = 0;
+  int generation = 0;
+  int form = 0;  // the form that shows it, while it is being written
 };
 
 struct PageRecord {
@@ -50,7 +53,7 @@ struct MuPdfFile::Inner {
 
   bool OpenDocument(const QByteArray& password, PlanContents& contents);
   void ReadPages();
-  void ReadMarks(size_t index, std::vector<Mark>& marks);
+  void ReadMarks(size_t index, std::vector<Mark>& marks, QSet<QString>& names);
   bool ReadEnd();
   // What speaks against marking the plan, and what can't be saved of it.
   QString Reservation() const;
@@ -66,8 +69,11 @@ struct MuPdfFile::Inner {
   bool Encrypted(PdfObject& object);
   bool EncryptedStream(PdfObject& object, const QByteArray& entries, const QByteArray& content);
   bool NeedsRewrite() const;
-  void Remove(const QStringList& names, std::vector<bool>& touched);
-  bool Add(const Mark& mark, double markerSize, int& next, std::vector<PdfObject>& objects);
+  PageRecord* PageOf(const Mark& mark);
+  FileMark* Standing(const Mark& mark);
+  void Remove(const QSet<QString>& names, std::vector<bool>& touched);
+  bool Put(const Mark& mark, double markerSize, const FileMark& place,
+           std::vector<PdfObject>& objects);
   // The way through the plan: mupdfguide.cpp, mupdflinks.cpp.
   void ReadLabels(PlanGuide& guide);
   void ReadBookmarks(PlanGuide& guide);

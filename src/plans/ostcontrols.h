@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/form.h"
+#include "plans/mark.h"
 #include "plans/picturebox.h"
 
 namespace tamo {
@@ -67,6 +68,13 @@ struct OstControls : Form {
   Label LayerWords{*this, "LayerWords"};
   CheckList LayerList{*this, "LayerList"};
   Button ShowAllLayers{*this, "ShowAllLayers", "Show &All Layers"};
+  // The marks of the plan, below it.
+  Frame MarksFrame{*this, "MarksFrame"};
+  OrderedList MarksList{*this, "MarksList"};
+  TextField MarkTitle{*this, "MarkTitle", kLongestTitle};  // of the chosen mark
+  Button MarkToLine{*this, "MarkToLine", "To Its &Takeoff Line (F7)"};
+  Label MarksSummary{*this, "MarksSummary"};
+  OrderedList MarksTotals{*this, "MarksTotals"};  // by system, of the sheet and of the plan
 };
 
 }  // namespace tamo

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "common/kit.h"
+#include "plans/markspanel.h"
 #include "plans/ostcontrols.h"
 #include "plans/planmeasure.h"
 #include "plans/plannotespanel.h"
@@ -50,6 +51,11 @@ class OSTForm : public OstControls {
   void ClearXY() { Mode.SetText(QStringLiteral("Released")); }
   void ChooseScale(const ScaleEntry& scale) { scale_.Choose(scale); }
 
+  // --- The list of marks
+  // After each event; another number says that the takeoff may have become another one.
+  void FollowMarks(unsigned takeoff) { marks_.Follow(takeoff); }
+  MarksPanel& ListOfMarks() { return marks_; }
+
   // --- View
   void SetZoomByLevel(const QString& level) { pages_.SetZoomByLevel(level); }
   PdfDraw& Viewer() const { return viewer_; }
@@ -68,6 +74,7 @@ class OSTForm : public OstControls {
   void BindMenus();
   void BindViewer();
   void BindOutlines();
+  void BindMarks();
   void BindPlanKeys();
   void BindSheets();
   void EnterOnPlan();
@@ -89,6 +96,7 @@ class OSTForm : public OstControls {
   PlanSurfaces surfaces_;
   SheetScales sheetScales_;
   PlanWayfinding ways_;
+  MarksPanel marks_;
 };
 
 }  // namespace tamo

@@ -9,6 +9,7 @@
 #include "windows/formlayouts.h"
 #include "windows/plancanvas.h"
 #include "windows/plancolumn.h"
+#include "windows/planmarks.h"
 #include "windows/planpanels.h"
 #include "windows/plantoolbar.h"
 
@@ -175,6 +176,7 @@ void LayOutOST(Builder& b) {
   middle->addWidget(Words(b));
   middle->addWidget(canvas, 1);
   middle->addWidget(FindText(b, *canvas));
+  middle->addWidget(PlanMarks(b));
   row->addLayout(middle, 1);
   row->addWidget(PlanColumn(b));
   FormWindow& window = b.Window();

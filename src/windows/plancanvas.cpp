@@ -199,6 +199,10 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   const PagePoint at = Pointed(*event);
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
   desk_.Dispatch([&] { viewer_.Press(at, shift); });
+  // A point of the chosen mark is moved, not the sheet.
+  if (!viewer_.Hand().Holds()) return;
+  panning_ = false;
+  drawing_ = true;
 }
 
 void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
@@ -212,6 +216,7 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
     const QPointF moved = event->position() - pressedAt_;
     if (!pulled_ && moved.manhattanLength() < kStill) return;
     pulled_ = true;
+    viewer_.Hand().Pulled();
     viewport()->setCursor(Qt::ClosedHandCursor);
     Pan((panFrom_ - event->position()) / Scale());
     panFrom_ = event->position();
