@@ -44,6 +44,7 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
   BindOutlines();
   BindMarks();
   BindPlanKeys();
+  BindSheets();
 }
 
 void OSTForm::BindFields() {
@@ -117,6 +118,16 @@ void OSTForm::BindOutlines() {
   viewer_.onAreaRunning =
       event([this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
   viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
+}
+
+// What a sheet prints is known as soon as its texts are read, long before anything is measured.
+void OSTForm::BindSheets() {
+  sheetScales_.printedOn = [this](int page) -> std::optional<std::vector<PrintedScale>> {
+    const SheetBook::Sheet& sheet = ways_.Book().Of(page);
+    if (!sheet.read) return std::nullopt;
+    return sheet.scales;
+  };
+  ways_.onSheetKnown = [this] { sheetScales_.SheetRead(); };
 }
 
 // What the menus do to the chosen mark by keys, and what follows it.

@@ -76,6 +76,7 @@ class OSTForm : public OstControls {
   void BindOutlines();
   void BindMarks();
   void BindPlanKeys();
+  void BindSheets();
   void EnterOnPlan();
   void PlanLost(const QString& problem);
 

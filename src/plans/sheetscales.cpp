@@ -63,7 +63,7 @@ ScaleTexts ScaleFor(double feetPerInch) {
 
 SheetScales::SheetScales(const Kit& kit, OstControls& form, PdfDraw& viewer, PlanScale& scale,
                          PlanRecord& record)
-    : kit_(kit), form_(form), viewer_(viewer), scale_(scale), record_(record) {
+    : kit_(kit), form_(form), viewer_(viewer), scale_(scale), record_(record), known_(kit) {
   form_.TakeScale.Hide();
   for (Control* control :
        std::initializer_list<Control*>{&form_.TakeScale, &form_.Calibrate, &form_.FollowSheet})
@@ -74,8 +74,18 @@ SheetScales::SheetScales(const Kit& kit, OstControls& form, PdfDraw& viewer, Pla
   scale_.onShown = [this] { ScaleChanged(); };
 }
 
-SheetScales::Sheet SheetScales::InFront() const {
-  return {PlanNameOf(viewer_.ShownPath()), viewer_.Page()};
+std::optional<KnownScales::Scale> SheetScales::KnownHere() const {
+  if (viewer_.ShownFile().isEmpty()) return std::nullopt;
+  return known_.Of(viewer_.ShownPath(), viewer_.Page());
+}
+
+void SheetScales::NoteHere(const ScaleTexts& texts, bool checked) {
+  const auto known = KnownHere();
+  const bool same = known.has_value() && known->checked == checked &&
+                    known->texts.scale1 == texts.scale1 && known->texts.scale2 == texts.scale2 &&
+                    known->texts.text5 == texts.text5;
+  if (!same && !viewer_.ShownFile().isEmpty())
+    known_.Note(viewer_.ShownPath(), viewer_.Page(), {texts, checked});
 }
 
 ScaleTexts SheetScales::InForce() const {
@@ -90,15 +100,13 @@ void SheetScales::ScaleChanged() {
   const bool changed =
       now.scale1 != seen_.scale1 || now.scale2 != seen_.scale2 || now.text5 != seen_.text5;
   seen_ = now;
-  if (changed && !record_.Loading() && FeetPerInch(now) > 0) known_[InFront()] = {now, false};
+  if (changed && !record_.Loading() && FeetPerInch(now) > 0) NoteHere(now, false);
   Refresh();
 }
 
 void SheetScales::SheetChanged() {
   printed_.clear();
   ToolPicked(viewer_.Tool());
-  Follow();
-  Refresh();
 }
 
 // The sheet is read when something is measured on it, or when its scale is to be followed.
@@ -110,7 +118,9 @@ void SheetScales::ToolPicked(PlanTool tool) {
 }
 
 void SheetScales::SheetRead() {
-  printed_ = viewer_.Snap().Lines().Scales(viewer_.OpenedPlan(), viewer_.Page());
+  const auto read = printedOn ? printedOn(viewer_.Page()) : std::nullopt;
+  printed_ = read.has_value() ? *read
+                              : viewer_.Snap().Lines().Scales(viewer_.OpenedPlan(), viewer_.Page());
   Follow();
   Refresh();
 }
@@ -119,10 +129,8 @@ void SheetScales::SheetRead() {
 // taken without being asked for.
 void SheetScales::Follow() {
   if (form_.FollowSheet.Value() != 1 || viewer_.ShownFile().isEmpty()) return;
-  const auto known = known_.find(InFront());
-  if (known != known_.end()) {
-    if (!Alike(FeetPerInch(known->second.texts), FeetPerInch(InForce())))
-      scale_.Take(ScaleTexts(known->second.texts));
+  if (const auto known = KnownHere()) {
+    if (!Alike(FeetPerInch(known->texts), FeetPerInch(InForce()))) scale_.Take(known->texts);
     return;
   }
   const PrintedScale* printed = Printed();
@@ -132,7 +140,7 @@ void SheetScales::Follow() {
   });
   if (!one) return;
   if (Alike(printed->feetPerInch, FeetPerInch(InForce()))) {
-    known_[InFront()] = {InForce(), false};
+    NoteHere(InForce(), false);
   } else {
     scale_.Take(TextsOf(*printed));
   }
@@ -142,12 +150,12 @@ void SheetScales::TakeOffered() {
   if (!offer_.has_value()) return;
   const ScaleTexts texts = offer_->texts;
   scale_.Take(texts);
-  known_[InFront()] = {texts, false};
+  NoteHere(texts, false);
   Refresh();
 }
 
 void SheetScales::WasChecked() {
-  known_[InFront()] = {InForce(), true};
+  NoteHere(InForce(), true);
   Refresh();
 }
 
@@ -182,7 +190,7 @@ bool SheetScales::TakeDimension(double paperLength) {
   }
   const ScaleTexts texts = ScaleFor(*feet / inches);
   scale_.Take(texts);
-  known_[InFront()] = {texts, true};
+  NoteHere(texts, true);
   const QString drawn = LengthText(inches * FeetPerInch(texts));
   form_.DimensionResult.SetCaption(
       IsUsual(texts)
@@ -221,11 +229,9 @@ bool SheetScales::SaysNotToScale() const {
 
 std::optional<SheetScales::Offer> SheetScales::WhatToOffer() const {
   const double inForce = FeetPerInch(InForce());
-  const auto known = known_.find(InFront());
-  if (known != known_.end()) {
-    const Known& here = known->second;
-    if (!Alike(FeetPerInch(here.texts), inForce)) return Offer{here.texts, InWords(here.texts)};
-    if (here.checked) return std::nullopt;
+  if (const auto here = KnownHere()) {
+    if (!Alike(FeetPerInch(here->texts), inForce)) return Offer{here->texts, InWords(here->texts)};
+    if (here->checked) return std::nullopt;
   }
   const PrintedScale* printed = Printed();
   if (printed == nullptr || IsPrinted(inForce)) return std::nullopt;
@@ -234,10 +240,10 @@ std::optional<SheetScales::Offer> SheetScales::WhatToOffer() const {
 
 QString SheetScales::Note() const {
   const double inForce = FeetPerInch(InForce());
-  const auto here = known_.find(InFront());
-  const bool known = here != known_.end();
+  const auto here = KnownHere();
+  const bool known = here.has_value();
   const QString now = InWords(InForce());
-  if (known && !Alike(FeetPerInch(here->second.texts), inForce) && inForce > 0)
+  if (known && !Alike(FeetPerInch(here->texts), inForce) && inForce > 0)
     return QStringLiteral("On this sheet %1 was used; in force is %2.").arg(offer_->words, now);
   if (known && offer_.has_value())
     return QStringLiteral("In force is %1, but this sheet prints %2.").arg(now, offer_->words);

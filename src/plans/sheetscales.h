@@ -1,10 +1,11 @@
 #pragma once
 
-#include <map>
+#include <functional>
 #include <optional>
 #include <vector>
 
 #include "common/kit.h"
+#include "plans/knownscales.h"
 #include "plans/planscale.h"
 #include "plans/printedscale.h"
 
@@ -20,6 +21,8 @@ class SheetScales {
 
   void SheetChanged();  // another page or plan is in front
   void SheetRead();     // what it prints is known
+  // What a page prints, as far as somebody has read it already; may be left unset.
+  std::function<std::optional<std::vector<PrintedScale>>(int page)> printedOn;
   void ToolPicked(PlanTool tool);
   bool Calibrating() const { return calibrating_; }
   // A dimension was drawn, in the viewer's paper unit. True when the scale was to be set by it.
@@ -32,9 +35,9 @@ class SheetScales {
     ScaleTexts texts;
     QString words;  // as the scale is said
   };
-  using Sheet = std::pair<QString, int>;  // plan, page
 
-  Sheet InFront() const;
+  std::optional<KnownScales::Scale> KnownHere() const;
+  void NoteHere(const ScaleTexts& texts, bool checked);
   ScaleTexts InForce() const;
   void ScaleChanged();
   void Refresh();
@@ -52,11 +55,7 @@ class SheetScales {
   PdfDraw& viewer_;
   PlanScale& scale_;
   PlanRecord& record_;
-  struct Known {
-    ScaleTexts texts;
-    bool checked = false;  // against a dimension of the sheet: that goes before what is printed
-  };
-  std::map<Sheet, Known> known_;       // set or checked on the sheet, in this run
+  mutable KnownScales known_;          // reads its file when it is first asked
   std::vector<PrintedScale> printed_;  // of the sheet in front
   ScaleTexts seen_;                    // the fields when they were last looked at
   std::optional<Offer> offer_;

@@ -60,6 +60,7 @@ constexpr Row kRows[] = {
     {"OST", "Ctrl+B", "Bookmarks of the plan, links of the sheet"},
     {"OST", "Ctrl+L", "Layers of the plan"},
     {"OST", "Alt+Left, Alt+Right", "Back from a jump, forward again"},
+    {"OST", "O", "The loupe: what is under the pointer, larger"},
     {"OST", "Page Up, Page Down", "The sheet before, the next one"},
     {"OST", "Ctrl+Z, Ctrl+Y", "Take back a mark, bring it back"},
     {"", "Down, Up", "Walk through the list under a field; Enter takes a row"},

@@ -7,6 +7,7 @@
 #include "plans/ostform.h"
 #include "program/program.h"
 #include "windows/plancanvas.h"
+#include "windows/planloupe.h"
 #include "windows/rowsview.h"
 
 namespace tamo {
@@ -76,6 +77,7 @@ void BindPlanWays(Builder& b, PlanCanvas& canvas, PlanThumbnails& thumbnails) {
     const PageLink* link = ways.Bookmarks().LinkAt(at);
     return link == nullptr ? QString() : ways.Bookmarks().TargetInWords(link->target);
   };
+  new PlanLoupe(canvas, b.GetProgram().Viewer());
   thumbnails.titleOf = [&ways](int page) { return ways.Book().TitleOf(page); };
   ways.onBookNews = [&thumbnails] { thumbnails.viewport()->update(); };
   QObject::connect(&thumbnails, &QObject::destroyed, &thumbnails,
