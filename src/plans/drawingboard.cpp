@@ -155,6 +155,7 @@ void DrawingBoard::PickTool(PlanTool tool) {
 void DrawingBoard::Press(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   crossHair_ = at;
+  if (pointNext_) return Raise(onPointGiven, at);
   Raise(onMousePressed);
   if (boxNext_) {
     boxing_ = true;
@@ -180,7 +181,7 @@ void DrawingBoard::Move(PagePoint at, bool shift) {
   if (OutlineActive()) return MoveOutline(at, shift);
   if (line_ != LineState::None) {
     MoveLine(LineEnd(at, shift));
-  } else if (tool_ != PlanTool::None) {
+  } else if (tool_ != PlanTool::None || pointNext_) {
     Repaint();
   }
 }
@@ -230,6 +231,12 @@ void DrawingBoard::PlaceCircle(PagePoint at) {
   Release(at, false);
 }
 
+void DrawingBoard::SetPointNext(bool point) {
+  DropWork();
+  pointNext_ = point;
+  Repaint();
+}
+
 // --- The box around a table
 
 void DrawingBoard::StretchBox(PagePoint to) {
@@ -266,7 +273,7 @@ void DrawingBoard::MoveCrossHair(const PlanStroke& stroke) {
 
 void DrawingBoard::PressArrow(const PlanStroke& stroke) {
   const PagePoint way = Direction(stroke.key);
-  if (tool_ == PlanTool::None) {
+  if (tool_ == PlanTool::None && !pointNext_) {
     ScrollBy(way.x * kScrollStep, way.y * kScrollStep);
   } else {
     MoveCrossHair(stroke);
@@ -275,14 +282,14 @@ void DrawingBoard::PressArrow(const PlanStroke& stroke) {
 
 // Space is the mouse button of the keyboard: it places the first point, then the second.
 void DrawingBoard::PressSpace(bool shift) {
-  if (tool_ == PlanTool::None) return;
+  if (tool_ == PlanTool::None && !pointNext_) return;
   Press(crossHair_, shift);
   if (line_ == LineState::Dragging) line_ = LineState::Placed;
   if (line_ == LineState::Closing) EndLine();
 }
 
 void DrawingBoard::Key(const PlanStroke& stroke) {
-  if (TakeOutlineKey(stroke.key) || TakeSnapKey(stroke.key)) return;
+  if (TakeOverlayKey(stroke) || TakeOutlineKey(stroke.key) || TakeSnapKey(stroke.key)) return;
   switch (stroke.key) {
     case PlanKey::Left:
     case PlanKey::Right:

@@ -64,6 +64,10 @@ class DrawingBoard : public OutlineBoard {
   void DrawBox(PagePoint from, PagePoint to);
   const std::optional<DrawnBox>& Box() const { return box_; }
 
+  // The next presses, whatever tool is in hand, give points and draw nothing.
+  void SetPointNext(bool point);
+  bool PointNext() const { return pointNext_; }
+
   // What is painted of it; nothing is worked out here.
   const LineInWork& LineWork() const { return work_; }
   PagePoint CrossHair() const { return crossHair_; }
@@ -77,6 +81,8 @@ class DrawingBoard : public OutlineBoard {
   void ClearBoard();
   void CentreCrossHair();
   void LeavePage() override { DropWork(); }
+  // True when the key was one of a plan that is laid over this one.
+  virtual bool TakeOverlayKey(const PlanStroke& /*stroke*/) { return false; }
   // True when the key was one of snapping.
   virtual bool TakeSnapKey(PlanKey /*key*/) { return false; }
   // Whether this plan may be marked; asks the user where it has to be asked.
@@ -102,6 +108,7 @@ class DrawingBoard : public OutlineBoard {
   enum class LineState { None, Dragging, Placed, Closing };
   LineState line_ = LineState::None;
   LineInWork work_;
+  bool pointNext_ = false;
   bool boxNext_ = false;
   bool boxing_ = false;  // it is being drawn
   PagePoint boxFrom_;

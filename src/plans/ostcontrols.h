@@ -53,6 +53,11 @@ struct OstControls : Form {
   FileBrowser Dir1{*this, "Dir1", FileBrowser::Kind::Folder};
   FileBrowser File1{*this, "File1", FileBrowser::Kind::File, "*.pdf"};
   Frame ColorFrame{*this, "ColorFrame"};
+  // Shown while another plan is laid over this one: what is compared and how.
+  Frame ComparePanel{*this, "ComparePanel"};
+  Label CompareWords{*this, "CompareWords"};
+  TextField ComparePassword{*this, "ComparePassword"};  // while the other plan wants one
+  OrderedList ChangedPlaces{*this, "ChangedPlaces"};    // of the sheet in front
 };
 
 }  // namespace tamo

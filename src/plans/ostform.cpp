@@ -29,7 +29,8 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       opener_(kit, *this, viewer, {record_, scale_, pages_, browser_, copy_}),
       measure_(kit, *this, viewer, scale_, takeoff),
       surfaces_(*this, scale_, measure_, takeoff),
-      sheetScales_(kit, *this, viewer, scale_, record_) {
+      sheetScales_(kit, *this, viewer, scale_, record_),
+      compare_(kit, *this, viewer) {
   AddText(QStringLiteral("ViewerName"), &ViewerName);
   AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
   SetCaption(QStringLiteral("Digital Plan Takeoff"));
@@ -38,6 +39,10 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
   BindViewer();
   BindOutlines();
   BindPlanKeys();
+  compare_.onMarksCarried = [this] {
+    if (!TrimmedBlanks(kit_.shared.JobID).isEmpty()) SaveIt();
+  };
+  compare_.onChoosePlan = [this] { return onChoosePlan ? onChoosePlan() : QString(); };
 }
 
 void OSTForm::BindFields() {
@@ -132,6 +137,7 @@ void OSTForm::BindViewer() {
     pages_.ShowPage();
     viewer_.Snap().Follow();
     sheetScales_.SheetChanged();
+    compare_.SheetChanged();
   });
   viewer_.onScrolled = event([this] {
     if (Visible()) record_.SaveAfterScroll();

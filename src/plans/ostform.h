@@ -6,6 +6,7 @@
 
 #include "common/kit.h"
 #include "plans/ostcontrols.h"
+#include "plans/plancompare.h"
 #include "plans/planmeasure.h"
 #include "plans/plannotespanel.h"
 #include "plans/planopener.h"
@@ -57,6 +58,8 @@ class OSTForm : public OstControls {
   // does not go back to the field that waits.
   std::function<bool()> onEnterBox;
   std::function<void()> onPlanPressed;  // a press on the plan; the cross hair stands there
+  // Asks for the plan that is laid over this one; "" for none. Without it none is.
+  std::function<QString()> onChoosePlan;
 
   QString ViewerName;
 
@@ -84,6 +87,7 @@ class OSTForm : public OstControls {
   PlanMeasure measure_;
   PlanSurfaces surfaces_;
   SheetScales sheetScales_;
+  PlanCompare compare_;
 };
 
 }  // namespace tamo

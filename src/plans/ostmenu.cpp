@@ -80,6 +80,16 @@ constexpr Row kPlan[] = {
     {"DrawCutOut", "&Cut-out (K)", "DrawMenu"},
     {"DrawPerimeter", "P&erimeter (E)", "DrawMenu"},
     {"SnapToDrawing", "&Snap to the Drawing (S)", "DrawMenu"},
+    {"CompareMenu", "Re&vis.", ""},
+    {"CompareWith", "&Compare With ... (D)", "CompareMenu"},
+    {"CompareNext", "Ne&xt Changed Place (N)", "CompareMenu"},
+    {"ComparePoints", "Lay Over by &Two Points (2)", "CompareMenu"},
+    {"CompareLayer", "&Old, New or Both (O)", "CompareMenu"},
+    {"ComparePairNext", "&Next Sheet Over This One (Ctrl+Page Down)", "CompareMenu"},
+    {"ComparePairBefore", "Sheet &Before Over This One (Ctrl+Page Up)", "CompareMenu"},
+    {"CarryMarks", "Carry the Old &Marks Over", "CompareMenu"},
+    {"CompareSwap", "Other Plan Is Ne&wer (X)", "CompareMenu"},
+    {"CompareEnd", "&End Comparing (Escape)", "CompareMenu"},
 };
 
 class Bar {

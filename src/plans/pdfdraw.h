@@ -11,6 +11,7 @@
 
 namespace tamo {
 
+class Comparison;
 class PlanPainter;
 class Replacement;
 
@@ -72,6 +73,20 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   // Null when none is shown, or it is still opening.
   std::shared_ptr<EnginePlan> OpenedPlan() const;
 
+  // A plan for reading beside the one shown, not opened yet; nothing is written to it. Null when it
+  // is not there: `error` says why.
+  std::shared_ptr<EnginePlan> OpenBeside(const QString& path, int& error);
+  bool ShowsFile(const QString& path) const;
+  std::vector<PageSize> Sizes() const;
+  // Another plan laid over the one shown; it ends with it.
+  Comparison& Compared() { return *comparison_; }
+  const Comparison& Compared() const { return *comparison_; }
+  // Puts marks of another plan onto this one, each under its own name. False when the user does not
+  // want this plan to be marked.
+  bool PutMarks(const std::vector<Mark>& marks);
+  // What is in sight is to be painted anew.
+  void ShowAnew() { ViewChanged(); }
+
   // Where the pointer takes hold of the drawing while something is measured.
   SnapPointer& Snap() { return snap_; }
 
@@ -90,6 +105,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
  protected:
   bool MayMark() override;
   bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
+  bool TakeOverlayKey(const PlanStroke& stroke) override;
 
  private:
   struct Session;
@@ -150,6 +166,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   } notices_;
   bool saving_ = false;
   SnapPointer snap_{*this};
+  std::unique_ptr<Comparison> comparison_;
   int patience_ = 10000;
   int longestOpening_ = 30000;
 };

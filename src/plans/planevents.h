@@ -4,6 +4,8 @@
 #include <functional>
 #include <utility>
 
+#include "plans/mark.h"
+
 namespace tamo {
 
 enum class PlanTool {
@@ -46,6 +48,8 @@ struct PlanEvents {
   std::function<void()> onScrolled;  // by the user only
   std::function<void()> onMousePressed;
   std::function<void()> onEnterKey;
+  std::function<void()> onCompareKey;              // another plan is to be laid over this one
+  std::function<void(PagePoint at)> onPointGiven;  // see DrawingBoard::SetPointNext
   std::function<void()> onPrint;
   std::function<void()> onBringToFront;
   std::function<void()> onMarksChanged;  // marks, the line in work or the cross hair: paint again

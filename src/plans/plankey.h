@@ -6,7 +6,9 @@ namespace tamo {
 // with Ctrl half a point) and scroll the page otherwise; Space places a point or a circle at the
 // cross hair; Escape drops the line in work; Backspace drops its last point; Enter gives the focus
 // back, and ends an outline in work; Arc makes its next two points those of an arc; Snap turns the
-// snap to the drawing on or off, NextSnap takes the cross hair to the next place near it.
+// snap to the drawing on or off, NextSnap takes the cross hair to the next place near it. Layer
+// shows both sheets, the old or the new one alone; PairNext and PairBefore lay another sheet over;
+// TwoPoints lays the sheets over each other by hand.
 enum class PlanKey {
   Left,
   Right,
@@ -20,7 +22,15 @@ enum class PlanKey {
   Redo,
   Arc,
   Snap,
-  NextSnap
+  NextSnap,
+  // While another plan is laid over this one; Compare asks for it.
+  Compare,
+  NextPlace,  // of those that have changed; with Shift the one before
+  TwoPoints,
+  Layer,
+  SwapSides,
+  PairNext,
+  PairBefore
 };
 
 struct PlanStroke {

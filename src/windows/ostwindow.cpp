@@ -4,6 +4,7 @@
 #include <QProgressDialog>
 
 #include "program/program.h"
+#include "windows/comparepanel.h"
 #include "windows/findbar.h"
 #include "windows/findonplan.h"
 #include "windows/formlayouts.h"
@@ -173,6 +174,7 @@ void LayOutOST(Builder& b) {
   middle->addWidget(canvas, 1);
   middle->addWidget(FindText(b, *canvas));
   row->addLayout(middle, 1);
+  row->addWidget(ComparePanel(b));
   row->addWidget(PlanColumn(b));
   FormWindow& window = b.Window();
   window.Body().addLayout(row, 1);

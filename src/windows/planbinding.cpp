@@ -17,7 +17,8 @@ std::optional<PlanKey> PlanKeyOf(int code) {
                                                       {Qt::Key_Escape, PlanKey::Escape},
                                                       {Qt::Key_Backspace, PlanKey::Backspace},
                                                       {Qt::Key_Z, PlanKey::Undo},
-                                                      {Qt::Key_Y, PlanKey::Redo}};
+                                                      {Qt::Key_Y, PlanKey::Redo},
+                                                      {Qt::Key_N, PlanKey::NextPlace}};
   for (const auto& [known, key] : kKeys) {
     if (known == code) return key;
   }
@@ -49,6 +50,14 @@ bool PlanCanvas::TakeLetter(int key) {
       return press(PlanKey::Snap);
     case Qt::Key_Tab:
       return TakeNextSnap();
+    case Qt::Key_D:
+      return press(PlanKey::Compare);
+    case Qt::Key_2:
+      return press(PlanKey::TwoPoints);
+    case Qt::Key_O:
+      return press(PlanKey::Layer);
+    case Qt::Key_X:
+      return press(PlanKey::SwapSides);
     case Qt::Key_T:
       TurnView();
       return true;
@@ -76,6 +85,14 @@ bool PlanCanvas::TakeNextSnap() {
   return taken;
 }
 
+// Another sheet of the plan that is laid over this one.
+bool PlanCanvas::TakePairKey(bool next) {
+  desk_.Dispatch([&] {
+    viewer_.Key({next ? PlanKey::PairNext : PlanKey::PairBefore, false, true});
+  });
+  return true;
+}
+
 bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
@@ -83,12 +100,14 @@ bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   FinishScroll();
   if (!ctrl && TakeLetter(event.key())) return true;
   if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
+    if (ctrl) return TakePairKey(event.key() == Qt::Key_PageDown);
     const int page = viewer_.Page() + (event.key() == Qt::Key_PageDown ? 1 : -1);
     desk_.Dispatch([&] { viewer_.TurnPage(page); });
     return true;
   }
   const std::optional<PlanKey> key = PlanKeyOf(event.key());
   if (!key) return false;
+  if (*key == PlanKey::NextPlace && ctrl) return false;
   const bool needsCtrl = *key == PlanKey::Undo || *key == PlanKey::Redo;
   if (needsCtrl && !ctrl) return false;
   desk_.Dispatch([&] { viewer_.Key({*key, shift, ctrl}); });

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "plans/comparison.h"
 #include "windows/look.h"
 #include "windows/planpaint.h"
 
@@ -32,6 +33,9 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
   connect(&rest_, &QTimer::timeout, this, [this] { FinishScroll(); });
   viewer_.onMarksChanged = [this] { viewport()->update(); };
   viewer_.onViewChanged = [this] { ViewChanged(); };
+  viewer_.Compared().onShowPlace = [this](const PageBox& box) {
+    PlaceInView({(box.left + box.right) / 2, (box.top + box.bottom) / 2});
+  };
   if (pictures_ != nullptr) {
     pictures_->onPicturesChanged = [this] {
       viewport()->update();
@@ -43,6 +47,7 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
 PlanCanvas::~PlanCanvas() {
   viewer_.onMarksChanged = nullptr;
   viewer_.onViewChanged = nullptr;
+  viewer_.Compared().onShowPlace = nullptr;
   viewer_.onPrint = nullptr;
   viewer_.onBringToFront = nullptr;
   viewer_.onSaveProgress = nullptr;
@@ -179,7 +184,7 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   FinishScroll();
   panFrom_ = event->position();
   pressedAt_ = event->position();
-  const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext();
+  const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext() || viewer_.PointNext();
   panning_ = !left || !tool;
   if (!left) return;
   drawing_ = tool;
@@ -201,7 +206,8 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
     panFrom_ = event->position();
     return;
   }
-  if (!drawing_ && !viewer_.WorkFrom() && !viewer_.Snap().Active()) return;
+  const bool follows = drawing_ || viewer_.WorkFrom() || viewer_.Snap().Active();
+  if (!follows && !viewer_.PointNext()) return;
   const PagePoint at = Pointed(*event);
   desk_.Dispatch([&] { viewer_.Move(at, shift); });
 }

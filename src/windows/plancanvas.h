@@ -77,6 +77,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void PaintMarks(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
   void PaintFound(QPainter& painter) const;
+  void PaintChanged(QPainter& painter) const;
   void Pan(const QPointF& points);
   void ZoomAbout(const QPointF& place, const std::function<void()>& zoom);
   void ZoomByWheel(const QPointF& place, double notches);
@@ -84,6 +85,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void FitTo(double pixelsPerPoint);
   bool TakeLetter(int key);
   bool TakeNextSnap();
+  bool TakePairKey(bool next);
   // Where on the page the mouse takes hold.
   PagePoint Pointed(const QMouseEvent& event);
 

@@ -403,13 +403,26 @@ void WindowsStage::PlanPress(PagePoint at) {
 
 void WindowsStage::PlanKey(const PlanStroke& stroke) {
   static const std::pair<tamo::PlanKey, Qt::Key> keys[] = {
-      {tamo::PlanKey::Left, Qt::Key_Left},     {tamo::PlanKey::Right, Qt::Key_Right},
-      {tamo::PlanKey::Up, Qt::Key_Up},         {tamo::PlanKey::Down, Qt::Key_Down},
-      {tamo::PlanKey::Space, Qt::Key_Space},   {tamo::PlanKey::Enter, Qt::Key_Return},
-      {tamo::PlanKey::Escape, Qt::Key_Escape}, {tamo::PlanKey::Backspace, Qt::Key_Backspace},
-      {tamo::PlanKey::Undo, Qt::Key_Z},        {tamo::PlanKey::Redo, Qt::Key_Y},
-      {tamo::PlanKey::Arc, Qt::Key_B},         {tamo::PlanKey::Snap, Qt::Key_S},
-      {tamo::PlanKey::NextSnap, Qt::Key_Tab}};
+      {tamo::PlanKey::Left, Qt::Key_Left},
+      {tamo::PlanKey::Right, Qt::Key_Right},
+      {tamo::PlanKey::Up, Qt::Key_Up},
+      {tamo::PlanKey::Down, Qt::Key_Down},
+      {tamo::PlanKey::Space, Qt::Key_Space},
+      {tamo::PlanKey::Enter, Qt::Key_Return},
+      {tamo::PlanKey::Escape, Qt::Key_Escape},
+      {tamo::PlanKey::Backspace, Qt::Key_Backspace},
+      {tamo::PlanKey::Undo, Qt::Key_Z},
+      {tamo::PlanKey::Redo, Qt::Key_Y},
+      {tamo::PlanKey::Arc, Qt::Key_B},
+      {tamo::PlanKey::Snap, Qt::Key_S},
+      {tamo::PlanKey::NextSnap, Qt::Key_Tab},
+      {tamo::PlanKey::Compare, Qt::Key_D},
+      {tamo::PlanKey::NextPlace, Qt::Key_N},
+      {tamo::PlanKey::TwoPoints, Qt::Key_2},
+      {tamo::PlanKey::Layer, Qt::Key_O},
+      {tamo::PlanKey::SwapSides, Qt::Key_X},
+      {tamo::PlanKey::PairNext, Qt::Key_PageDown},
+      {tamo::PlanKey::PairBefore, Qt::Key_PageUp}};
   QWidget& plan = Plan();
   plan.setFocus(Qt::ShortcutFocusReason);
   Settle();

@@ -12,7 +12,9 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
       {"Escape", PlanKey::Escape}, {"Backspace", PlanKey::Backspace},
       {"Undo", PlanKey::Undo},     {"Redo", PlanKey::Redo},
       {"Arc", PlanKey::Arc},       {"S", PlanKey::Snap},
-      {"Tab", PlanKey::NextSnap}};
+      {"Tab", PlanKey::NextSnap},  {"D", PlanKey::Compare},
+      {"N", PlanKey::NextPlace},   {"2", PlanKey::TwoPoints},
+      {"O", PlanKey::Layer},       {"X", PlanKey::SwapSides}};
   PlanStroke read;
   QString rest = name.trimmed();
   for (;;) {
@@ -28,6 +30,12 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
   }
   if (read.ctrl && rest == QLatin1String("Z")) rest = QStringLiteral("Undo");
   if (read.ctrl && rest == QLatin1String("Y")) rest = QStringLiteral("Redo");
+  const bool pair = read.ctrl && rest.startsWith(QLatin1String("Page "));
+  if (pair) {
+    stroke = read;
+    stroke.key = rest == QLatin1String("Page Down") ? PlanKey::PairNext : PlanKey::PairBefore;
+    return true;
+  }
   for (const auto& [text, key] : keys) {
     if (rest == QLatin1String(text)) {
       read.key = key;

@@ -1,0 +1,122 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+
+#include "plans/carriedmarks.h"
+#include "plans/comparework.h"
+#include "plans/formsqueue.h"
+#include "plans/overlaypictures.h"
+#include "plans/plankey.h"
+#include "plans/workthread.h"
+
+namespace tamo {
+
+class PdfDraw;
+
+// Another plan laid over the one that is open: its former state, opened for reading alone, through
+// a worker of its own. The sheet in front is paired with one of it; what can be found out about the
+// two is found out on a thread of its own. All calls come from the viewer's thread.
+class Comparison {
+ public:
+  explicit Comparison(PdfDraw& viewer);
+  ~Comparison();
+
+  // What went before ends. Comes back at once; Words() says how it goes, also when it can't be.
+  void Begin(const QString& path, const QString& password);
+  void End();
+  bool On() const { return old_ != nullptr; }
+  bool WantsPassword() const { return wantsPassword_; }
+  QString Path() const { return path_; }
+  // Another page is in front, or the plan was saved and is read anew.
+  void Follow();
+
+  // Another sheet of the other plan belongs to the one in front: `by` sheets on.
+  void StepPair(int by);
+  // Both sheets, the old one alone, the new one alone, and again.
+  void NextLayer();
+  // The plan in front is the older one, or is not.
+  void Swap();
+  // The sheets are to be laid over each other by two points on each, given by presses: the first on
+  // the new and on the old sheet, then the second on both.
+  void AskPoints();
+  bool AsksPoints() const { return asked_ >= 0; }
+  // Walks through the changed places of the sheet in front, round the end.
+  void StepPlace(int by);
+  void GoToPlace(int place);
+  int Place() const { return place_; }  // -1 for none
+  bool TakeKey(const PlanStroke& stroke);
+
+  // The marks of the old sheet as they would come onto the new one. `why` says in words why none
+  // can; then there are none.
+  CarriedMarks Carried(QString& why) const;
+
+  // What is compared and how, in sentences.
+  QString Words() const;
+  // Of the sheet in front; null as long as nothing is known.
+  const SheetsCompared* Known() const;
+
+  // In the place of the viewer's own pictures; empty while there are none.
+  bool Shows(int page) const { return pictures_.Shows(page); }
+  OverlayPictures& Pictures() { return pictures_; }
+
+  std::function<void()> onChanged;                      // the words, the pairs, or what is known
+  std::function<void(const PageBox& box)> onShowPlace;  // it is to come into sight
+  // Until nothing is in work any more. For tests and players: false when it takes longer.
+  bool Settle(int milliseconds);
+
+ private:
+  struct Job {
+    CancelFlag cancel;
+  };
+  void Opened(const PlanContents& contents);
+  void Fail(const QString& words);
+  void Compare(bool anew);
+  void Took(const SheetsCompared& known, int searched);
+  void ShowPair(const SheetsCompared& known);
+  void PicturesCame();
+  void StopWork();
+  int Pages() const { return static_cast<int>(oldSizes_.size()); }
+  int FirstGuess() const;
+  bool TakeEscape();
+  void TakePoint(PagePoint at);
+  void EndPoints();
+  void ShowAskedSheet();
+  QString AskedInWords() const;
+  QString LieInWords(const SheetsCompared& known) const;
+  QString ChangesInWords(const SheetsCompared& known) const;
+  QString SheetInWords(const QString& number, int page, int pages) const;
+  QString PairInWords(const SheetsCompared& known) const;
+  void Tell() const {
+    if (onChanged) onChanged();
+  }
+  template <typename Work>
+  void Post(Work work);
+
+  PdfDraw& viewer_;
+  FormsQueue queue_;
+  std::shared_ptr<std::atomic<bool>> picturesTold_ = std::make_shared<std::atomic<bool>>(false);
+  OverlayPictures pictures_;
+  QString path_;
+  QString problem_;
+  bool wantsPassword_ = false;
+  bool swapped_ = false;
+  std::shared_ptr<EnginePlan> now_;
+  std::shared_ptr<EnginePlan> old_;
+  std::vector<PageSize> oldSizes_;  // empty while it is opened
+  std::vector<Mark> oldMarks_;
+  std::shared_ptr<SheetPairs> oldSheets_;
+  int page_ = 0;                         // that is compared
+  int searched_ = 0;                     // sheets, for the one that belongs to it
+  std::map<int, SheetsCompared> known_;  // by page of the plan in front
+  int place_ = -1;
+  int asked_ = -1;        // which of the four points; -1: none
+  PagePoint points_[4];   // new, old, new, old
+  QString pointProblem_;  // why the last ones were of no use
+  std::shared_ptr<Job> job_;
+  int busy_ = 0;  // pieces of work whose end was not told yet
+  std::unique_ptr<WorkThread> thread_;
+};
+
+}  // namespace tamo
