@@ -100,6 +100,35 @@ struct Program::Parts {
                            {schedule.WallsArea, rooms.AreaList, NameKind::FinishArea},
                            {schedule.CeilingArea, rooms.AreaList, NameKind::FinishArea}}};
 
+  // What one part tells the others.
+  void Bind() {
+    shell.beforeEnd = [this] {
+      bottomLine.SaveUnsaved();
+      ost.SaveMarks();
+    };
+    desk.onRest = [this] { AfterEvent(); };
+    desk.onKeyFirst = [this](const Control& control, const Key& key) {
+      return suggestions.TakeKey(control, key);
+    };
+    desk.onEdited = [this](TextField& field) { suggestions.Edited(field); };
+    schedule.onSystemMade =
+        systemSheets.onNewSystem = [this](const QString& name) { ListSystem(name); };
+    systemSheets.Bind();
+    files.keepMine = [this](const QString& path, const QString& mine, const QString& theirs) {
+      return desk.GetMessages().Ask(ChangedQuestion({path, mine, theirs}, pricing.MarkupTexts()));
+    };
+    main.onClose = [this] { return shell.CloseMain(); };
+    ost.onClose = [this] { return shell.CloseOst(); };
+  }
+
+  // Lists of systems that are loaded are written whole: they must know the new one.
+  void ListSystem(const QString& name) {
+    for (OrderedList* list :
+         {&pricing.DescriptionsList, &rooms.DescriptionsList, &areas.DescriptionsList}) {
+      if (!list->Empty() && list->FindAnyCase(name) < 0) list->Insert(0, name);
+    }
+  }
+
   void AfterEvent() {
     suggestions.Follow();
     takingBack.EndEvent();
@@ -112,39 +141,17 @@ struct Program::Parts {
 Program::Program(const Platform& platform, PdfDraw& viewer)
     : parts_(new Parts{.platform = platform, .viewer = viewer}) {
   Parts& parts = *parts_;
+  parts.Bind();
   parts.shell.onEnded = [this] {
     parts_->recovery.End();
     parts_->main.hold.End();
     if (onEnded) onEnded();
   };
-  parts.shell.beforeEnd = [&parts] {
-    parts.bottomLine.SaveUnsaved();
-    parts.ost.SaveMarks();
-  };
-  parts.desk.onRest = [&parts] { parts.AfterEvent(); };
   parts.home.openPlan = [this](const QString& path) { OpenPlan(path); };
-  parts.desk.onKeyFirst = [&parts](const Control& control, const Key& key) {
-    return parts.suggestions.TakeKey(control, key);
-  };
-  parts.desk.onEdited = [&parts](TextField& field) { parts.suggestions.Edited(field); };
-  // Lists of systems that are loaded are written whole: they must know the new one.
-  parts.schedule.onSystemMade = parts.systemSheets.onNewSystem = [&parts](const QString& name) {
-    for (OrderedList* list : {&parts.pricing.DescriptionsList, &parts.rooms.DescriptionsList,
-                              &parts.areas.DescriptionsList}) {
-      if (!list->Empty() && list->FindAnyCase(name) < 0) list->Insert(0, name);
-    }
-  };
-  parts.systemSheets.Bind();
-  parts.files.keepMine = [&parts](const QString& path, const QString& mine, const QString& theirs) {
-    return parts.desk.GetMessages().Ask(
-        ChangedQuestion({path, mine, theirs}, parts.pricing.MarkupTexts()));
-  };
   parts.settings.onLook = [this] {
     if (onLook) onLook();
   };
   parts.reportSaver.company = [this] { return CompanyName(); };
-  parts.main.onClose = [&parts] { return parts.shell.CloseMain(); };
-  parts.ost.onClose = [&parts] { return parts.shell.CloseOst(); };
 }
 
 Program::~Program() = default;

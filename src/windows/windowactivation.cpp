@@ -34,7 +34,13 @@ void WindowActivation::Activated(FormWindow& window, bool syncing) {
     if (asked_ == &window) asked_.clear();
     return;
   }
-  if (syncing || &window.GetForm() == desk_.Active()) return;
+  if (&window.GetForm() == desk_.Active()) {
+    // It is in front after all: another one that came before was only passing, as a window just shown is.
+    reported_ = nullptr;
+    reportTimer_.stop();
+    return;
+  }
+  if (syncing) return;
   reported_ = &window.GetForm();
   activeThen_ = desk_.Active();
   reportTimer_.start();

@@ -31,6 +31,22 @@ TEST_F(DeskWindowsTest, SettingsLieOverTheMainWindowWhenTheNumberIsMissing) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return Window("Tamo").isActiveWindow(); }));
 }
 
+// A window system may bring up a window that was only just shown, and the one in front again right
+// after it.
+TEST_F(DeskWindowsTest, AWindowThatPassesBeforeTheFrontOneIsNoMoveOfTheUser) {
+  Menu("Tamo", "NewProject");
+  ASSERT_TRUE(QTest::qWaitFor([this] { return Window("Tamo").isActiveWindow(); }));
+  QTest::qWait(50);
+  QEvent activated(QEvent::WindowActivate);
+  QApplication::sendEvent(&Window("Settings"), &activated);
+  QApplication::sendEvent(&Window("Tamo"), &activated);
+  QTest::qWait(50);
+  EXPECT_EQ(desk.Active(), &FormOf("Tamo"));
+  QApplication::sendEvent(&Window("Settings"), &activated);
+  QTest::qWait(50);
+  EXPECT_EQ(desk.Active(), &FormOf("Settings"));
+}
+
 TEST_F(DeskWindowsTest, EndAndPageDownReadOnInAReportThatWasJustOpened) {
   PutLines(Path("home/Tamo/Jobs.lst"), {QStringLiteral("00-2112001   One")});
   QStringList record{QStringLiteral("00-2112001"), QStringLiteral("One")};
