@@ -63,7 +63,7 @@ void Comparison::StopWork() {
 void Comparison::Begin(const QString& path, const QString& password) {
   End();
   problem_.clear();
-  path_ = path;
+  former_.path = path;
   now_ = viewer_.OpenedPlan();
   if (now_ == nullptr || viewer_.ShownFile().isEmpty())
     return Fail(QStringLiteral("Open a plan first: there is no sheet that could be compared."));
@@ -89,15 +89,15 @@ void Comparison::End() {
   if (old_ != nullptr) old_->Abandon();
   old_.reset();
   now_.reset();
-  oldSheets_.reset();
-  oldSizes_.clear();
-  oldMarks_.clear();
+  former_.sheets.reset();
+  former_.sizes.clear();
+  former_.marks.clear();
   known_.clear();
   page_ = 0;
   place_ = -1;
   swapped_ = wantsPassword_ = false;
-  if (!path_.isEmpty() || !problem_.isEmpty()) {
-    path_.clear();
+  if (!former_.path.isEmpty() || !problem_.isEmpty()) {
+    former_.path.clear();
     problem_.clear();
     Tell();
   }
@@ -105,11 +105,11 @@ void Comparison::End() {
 
 void Comparison::Fail(const QString& words) {
   const bool locked = wantsPassword_;
-  const QString path = path_;
+  const QString path = former_.path;
   End();
   problem_ = words;
   wantsPassword_ = locked;
-  if (locked) path_ = path;
+  if (locked) former_.path = path;
   Tell();
 }
 
@@ -117,17 +117,17 @@ void Comparison::Opened(const PlanContents& contents) {
   wantsPassword_ = contents.wantsPassword;
   if (contents.error != kNoError || contents.wantsPassword)
     return Fail(QStringLiteral("The plan %1 can't be compared: %2.")
-                    .arg(FileNameOf(path_), contents.problem));
+                    .arg(FileNameOf(former_.path), contents.problem));
   if (contents.sizes.empty())
-    return Fail(QStringLiteral("The plan %1 has no sheets.").arg(FileNameOf(path_)));
-  oldSizes_ = contents.sizes;
-  oldMarks_ = contents.marks;
-  oldSheets_ = std::make_shared<SheetPairs>(old_, Pages());
+    return Fail(QStringLiteral("The plan %1 has no sheets.").arg(FileNameOf(former_.path)));
+  former_.sizes = contents.sizes;
+  former_.marks = contents.marks;
+  former_.sheets = std::make_shared<SheetPairs>(old_, Pages());
   Follow();
 }
 
 void Comparison::Follow() {
-  if (old_ == nullptr || oldSizes_.empty()) return;
+  if (old_ == nullptr || former_.sizes.empty()) return;
   const std::shared_ptr<EnginePlan> now = viewer_.OpenedPlan();
   if (now == nullptr) return;
   const bool anew = now != std::exchange(now_, now);
@@ -157,15 +157,16 @@ void Comparison::Compare(bool anew) {
   } else {
     guess.page = page_;
     guess.oldPage = FirstGuess();
-    guess.alignment.fit = FitInto(oldSizes_[size_t(guess.oldPage) - 1], viewer_.SizeOfPage(page_));
+    guess.alignment.fit =
+        FitInto(former_.sizes[size_t(guess.oldPage) - 1], viewer_.SizeOfPage(page_));
   }
   ShowPair(guess);
   CompareTask task;
   task.now = now_;
   task.old = old_;
-  task.oldSheets = oldSheets_;
+  task.oldSheets = former_.sheets;
   task.nowSize = viewer_.SizeOfPage(page_);
-  task.oldSizes = oldSizes_;
+  task.oldSizes = former_.sizes;
   task.page = page_;
   task.oldPage = guess.oldPage;
   task.byUser = guess.byUser;
@@ -214,13 +215,14 @@ void Comparison::PicturesCame() {
 
 void Comparison::StepPair(int by) {
   const SheetsCompared* known = Known();
-  if (!On() || oldSizes_.empty()) return;
+  if (!On() || former_.sizes.empty()) return;
   const int from = known != nullptr && known->oldPage > 0 ? known->oldPage : FirstGuess();
   SheetsCompared chosen;
   chosen.page = page_;
   chosen.oldPage = std::clamp(from + by, 1, Pages());
   chosen.byUser = true;
-  chosen.alignment.fit = FitInto(oldSizes_[size_t(chosen.oldPage) - 1], viewer_.SizeOfPage(page_));
+  chosen.alignment.fit =
+      FitInto(former_.sizes[size_t(chosen.oldPage) - 1], viewer_.SizeOfPage(page_));
   known_[page_] = chosen;
   place_ = -1;
   Compare(true);
@@ -272,7 +274,7 @@ CarriedMarks Comparison::Carried(QString& why) const {
     why = QStringLiteral("Lay the two sheets over each other first: by two points (key 2).");
   } else {
     CarriedMarks carried =
-        CarryMarks(oldMarks_, *known, viewer_.SizeOfPage(page_), viewer_.MarksAsDrawn());
+        CarryMarks(former_.marks, *known, viewer_.SizeOfPage(page_), viewer_.MarksAsDrawn());
     if (!carried.marks.empty()) return carried;
     why = carried.there > 0 ? QStringLiteral("All marks of the old sheet are on this one.")
           : carried.outside > 0

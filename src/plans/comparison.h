@@ -28,7 +28,7 @@ class Comparison {
   void End();
   bool On() const { return old_ != nullptr; }
   bool WantsPassword() const { return wantsPassword_; }
-  QString Path() const { return path_; }
+  QString Path() const { return former_.path; }
   // Another page is in front, or the plan was saved and is read anew.
   void Follow();
 
@@ -41,7 +41,7 @@ class Comparison {
   // The sheets are to be laid over each other by two points on each, given by presses: the first on
   // the new and on the old sheet, then the second on both.
   void AskPoints();
-  bool AsksPoints() const { return asked_ >= 0; }
+  bool AsksPoints() const { return points_.asked >= 0; }
   // Walks through the changed places of the sheet in front, round the end.
   void StepPlace(int by);
   void GoToPlace(int place);
@@ -77,16 +77,13 @@ class Comparison {
   void ShowPair(const SheetsCompared& known);
   void PicturesCame();
   void StopWork();
-  int Pages() const { return static_cast<int>(oldSizes_.size()); }
+  int Pages() const { return static_cast<int>(former_.sizes.size()); }
   int FirstGuess() const;
   bool TakeEscape();
   void TakePoint(PagePoint at);
   void EndPoints();
   void ShowAskedSheet();
   QString AskedInWords() const;
-  QString LieInWords(const SheetsCompared& known) const;
-  QString ChangesInWords(const SheetsCompared& known) const;
-  QString SheetInWords(const QString& number, int page, int pages) const;
   QString PairInWords(const SheetsCompared& known) const;
   void Tell() const {
     if (onChanged) onChanged();
@@ -98,22 +95,26 @@ class Comparison {
   FormsQueue queue_;
   std::shared_ptr<std::atomic<bool>> picturesTold_ = std::make_shared<std::atomic<bool>>(false);
   OverlayPictures pictures_;
-  QString path_;
   QString problem_;
   bool wantsPassword_ = false;
   bool swapped_ = false;
   std::shared_ptr<EnginePlan> now_;
   std::shared_ptr<EnginePlan> old_;
-  std::vector<PageSize> oldSizes_;  // empty while it is opened
-  std::vector<Mark> oldMarks_;
-  std::shared_ptr<SheetPairs> oldSheets_;
+  struct {
+    QString path;
+    std::vector<PageSize> sizes;  // empty while it is opened
+    std::vector<Mark> marks;
+    std::shared_ptr<SheetPairs> sheets;
+  } former_;
   int page_ = 0;                         // that is compared
   int searched_ = 0;                     // sheets, for the one that belongs to it
   std::map<int, SheetsCompared> known_;  // by page of the plan in front
   int place_ = -1;
-  int asked_ = -1;        // which of the four points; -1: none
-  PagePoint points_[4];   // new, old, new, old
-  QString pointProblem_;  // why the last ones were of no use
+  struct {
+    int asked = -1;   // which of the four; -1: none
+    PagePoint at[4];  // new, old, new, old
+    QString problem;  // why the last ones were of no use
+  } points_;
   std::shared_ptr<Job> job_;
   int busy_ = 0;  // pieces of work whose end was not told yet
   std::unique_ptr<WorkThread> thread_;

@@ -10,16 +10,16 @@ namespace tamo {
 void Comparison::AskPoints() {
   const SheetsCompared* known = Known();
   if (!On() || known == nullptr || known->oldPage == 0) return;
-  asked_ = 0;
-  pointProblem_.clear();
+  points_.asked = 0;
+  points_.problem.clear();
   viewer_.onPointGiven = [this](PagePoint at) { TakePoint(at); };
   viewer_.SetPointNext(true);
   ShowAskedSheet();
 }
 
 void Comparison::EndPoints() {
-  if (asked_ < 0) return;
-  asked_ = -1;
+  if (points_.asked < 0) return;
+  points_.asked = -1;
   viewer_.SetPointNext(false);
   viewer_.onPointGiven = nullptr;
   pictures_.SetLayer(OverlayLayer::Both);
@@ -27,7 +27,7 @@ void Comparison::EndPoints() {
 }
 
 void Comparison::ShowAskedSheet() {
-  pictures_.SetLayer(asked_ % 2 == 0 ? OverlayLayer::Now : OverlayLayer::Old);
+  pictures_.SetLayer(points_.asked % 2 == 0 ? OverlayLayer::Now : OverlayLayer::Old);
   viewer_.ShowAnew();
   Tell();
 }
@@ -35,14 +35,14 @@ void Comparison::ShowAskedSheet() {
 // The old sheet stands as it was laid last, so a place on it is known from there.
 void Comparison::TakePoint(PagePoint at) {
   const SheetsCompared* known = Known();
-  if (asked_ < 0 || known == nullptr) return EndPoints();
-  const bool old = asked_ % 2 == 1;
-  points_[asked_] = old ? known->alignment.fit.Back(at) : at;
-  if (++asked_ < 4) return ShowAskedSheet();
-  const auto fit = FitByPoints(points_[1], points_[3], points_[0], points_[2]);
+  if (points_.asked < 0 || known == nullptr) return EndPoints();
+  const bool old = points_.asked % 2 == 1;
+  points_.at[points_.asked] = old ? known->alignment.fit.Back(at) : at;
+  if (++points_.asked < 4) return ShowAskedSheet();
+  const auto fit = FitByPoints(points_.at[1], points_.at[3], points_.at[0], points_.at[2]);
   if (!fit) {
-    pointProblem_ = QStringLiteral("Two of the points are the same place. ");
-    asked_ = 0;
+    points_.problem = QStringLiteral("Two of the points are the same place. ");
+    points_.asked = 0;
     return ShowAskedSheet();
   }
   EndPoints();
@@ -62,7 +62,7 @@ QString Comparison::AskedInWords() const {
       "Point 1 of 2: this is the old sheet; press the same place on it.",
       "Point 2 of 2: the new sheet again; press a second place, far from the first.",
       "Point 2 of 2: the old sheet; press that second place."};
-  return pointProblem_ + QLatin1String(asks[asked_]) +
+  return points_.problem + QLatin1String(asks[points_.asked]) +
          QStringLiteral(" Arrows move the cross hair, Space presses, Escape leaves it.");
 }
 

@@ -15,31 +15,14 @@ QString LayerInWords(OverlayLayer layer) {
   return {};
 }
 
-}  // namespace
-
 // "sheet A-101 (page 2 of 7)".
-QString Comparison::SheetInWords(const QString& number, int page, int pages) const {
+QString SheetInWords(const QString& number, int page, int pages) {
   const QString place = QStringLiteral("page %1 of %2").arg(page).arg(pages);
   return number.isEmpty() ? place : QStringLiteral("sheet %1 (%2)").arg(number, place);
 }
 
-QString Comparison::PairInWords(const SheetsCompared& known) const {
-  const QString now = SheetInWords(known.nowNumber, known.page, viewer_.PageCount());
-  const QString file = FileNameOf(path_);
-  if (known.oldPage == 0)
-    return QStringLiteral(
-               "No sheet of %1 has the number %2: Ctrl+Page Down lays its sheets over "
-               "this one by hand.")
-        .arg(file, known.nowNumber);
-  const QString old = SheetInWords(known.oldNumber, known.oldPage, Pages());
-  const QString by = known.byUser     ? QStringLiteral("chosen by hand")
-                     : known.byNumber ? QStringLiteral("paired by the sheet number")
-                                      : QStringLiteral("paired by their pages");
-  return QStringLiteral("%1 of this plan over %2 of %3, %4.").arg(now, old, file, by);
-}
-
 // How well the sheets lie, in what size and turn.
-QString Comparison::LieInWords(const SheetsCompared& known) const {
+QString LieInWords(const SheetsCompared& known) {
   const SheetAlignment& lie = known.alignment;
   const int agreed = static_cast<int>(std::lround(lie.agreed * 100));
   if (!lie.sure && !lie.byHand) {
@@ -61,7 +44,7 @@ QString Comparison::LieInWords(const SheetsCompared& known) const {
   return words + QLatin1Char('.');
 }
 
-QString Comparison::ChangesInWords(const SheetsCompared& known) const {
+QString ChangesInWords(const SheetsCompared& known) {
   if (!known.alignment.sure && !known.alignment.byHand) return {};
   if (!known.looked) return QStringLiteral("Changed places are being looked for.");
   const auto places = static_cast<int>(known.places.size());
@@ -70,9 +53,27 @@ QString Comparison::ChangesInWords(const SheetsCompared& known) const {
   return QStringLiteral("%1 changed places.").arg(places);
 }
 
+}  // namespace
+
+QString Comparison::PairInWords(const SheetsCompared& known) const {
+  const QString now = SheetInWords(known.nowNumber, known.page, viewer_.PageCount());
+  const QString file = FileNameOf(former_.path);
+  if (known.oldPage == 0)
+    return QStringLiteral(
+               "No sheet of %1 has the number %2: Ctrl+Page Down lays its sheets over "
+               "this one by hand.")
+        .arg(file, known.nowNumber);
+  const QString old = SheetInWords(known.oldNumber, known.oldPage, Pages());
+  const QString by = known.byUser     ? QStringLiteral("chosen by hand")
+                     : known.byNumber ? QStringLiteral("paired by the sheet number")
+                                      : QStringLiteral("paired by their pages");
+  return QStringLiteral("%1 of this plan over %2 of %3, %4.").arg(now, old, file, by);
+}
+
 QString Comparison::Words() const {
   if (!On()) return problem_;
-  if (oldSizes_.empty()) return QStringLiteral("%1 is being opened.").arg(FileNameOf(path_));
+  if (former_.sizes.empty())
+    return QStringLiteral("%1 is being opened.").arg(FileNameOf(former_.path));
   if (AsksPoints()) return AskedInWords();
   if (searched_ > 0)
     return QStringLiteral("The sheet that belongs to this one is looked for: %1 of %2 are read.")

@@ -58,6 +58,7 @@ struct OstControls : Form {
   Label CompareWords{*this, "CompareWords"};
   TextField ComparePassword{*this, "ComparePassword"};  // while the other plan wants one
   OrderedList ChangedPlaces{*this, "ChangedPlaces"};    // of the sheet in front
+  Label PlaceWords{*this, "PlaceWords"};                // all that is said of the one in hand
 };
 
 }  // namespace tamo

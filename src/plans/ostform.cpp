@@ -39,10 +39,7 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
   BindViewer();
   BindOutlines();
   BindPlanKeys();
-  compare_.onMarksCarried = [this] {
-    if (!TrimmedBlanks(kit_.shared.JobID).isEmpty()) SaveIt();
-  };
-  compare_.onChoosePlan = [this] { return onChoosePlan ? onChoosePlan() : QString(); };
+  BindCompare();
 }
 
 void OSTForm::BindFields() {
@@ -98,6 +95,13 @@ void OSTForm::BindMenus() {
   for (const auto scales : {InchScales(), MillimetreScales(), CentimetreScales()}) {
     for (const ScaleEntry& scale : scales) on(scale.name, [this, &scale] { ChooseScale(scale); });
   }
+}
+
+void OSTForm::BindCompare() {
+  compare_.onMarksCarried = [this] {
+    if (!TrimmedBlanks(kit_.shared.JobID).isEmpty()) SaveIt();
+  };
+  compare_.onChoosePlan = [this] { return onChoosePlan ? onChoosePlan() : QString(); };
 }
 
 void OSTForm::BindOutlines() {

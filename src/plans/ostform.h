@@ -68,6 +68,7 @@ class OSTForm : public OstControls {
   void BindMenus();
   void BindViewer();
   void BindOutlines();
+  void BindCompare();
   void BindPlanKeys();
   void EnterOnPlan();
   void PlanLost(const QString& problem);

@@ -79,7 +79,7 @@ Way WayTo(const Sheet& old, const Sheet& now, const SheetFit& fit, const PaintPa
 PaintPart PartUnder(const Way& way, const Sheet& old, const PaintPart& part) {
   double box[4] = {1e18, 1e18, -1e18, -1e18};
   for (int corner = 0; corner < 4; ++corner) {
-    const Pixel at = way.Of(corner % 2 * part.width, corner / 2 * part.height);
+    const Pixel at = way.Of(corner % 2 == 0 ? 0 : part.width, corner < 2 ? 0 : part.height);
     box[0] = std::min(box[0], at.x);
     box[1] = std::min(box[1], at.y);
     box[2] = std::max(box[2], at.x);

@@ -47,6 +47,7 @@ PlanCompare::PlanCompare(const Kit& kit, OstControls& form, PdfDraw& viewer)
   form_.ComparePassword.PutInto(form_.ComparePanel);
   form_.CompareWords.PutInto(form_.ComparePanel);
   form_.ChangedPlaces.PutInto(form_.ComparePanel);
+  form_.PlaceWords.PutInto(form_.ComparePanel);
   form_.ChangedPlaces.onSelect = [this] {
     if (form_.ChangedPlaces.Index() != comparison_.Place())
       comparison_.GoToPlace(form_.ChangedPlaces.Index());
@@ -116,6 +117,8 @@ void PlanCompare::ShowPlaces() {
   if (rows != form_.ChangedPlaces.Rows()) form_.ChangedPlaces.SetRows(rows);
   if (form_.ChangedPlaces.Index() != comparison_.Place())
     form_.ChangedPlaces.SetIndex(comparison_.Place());
+  const bool none = known == nullptr || comparison_.Place() < 0;
+  form_.PlaceWords.SetCaption(none ? QString() : known->places[size_t(comparison_.Place())].words);
 }
 
 // Why nothing is compared stands where all problems of plans do.

@@ -77,7 +77,6 @@ class Aligner {
  public:
   Aligner(const SheetLinework& old, const SheetLinework& now)
       : old_(old),
-        now_(now),
         oldGrid_(old.lines),
         nowGrid_(now.lines),
         oldSamples_(SamplesOf(oldGrid_.Lines(), kSamples)),
@@ -116,7 +115,6 @@ class Aligner {
   SheetFit Plain(const SheetFit& fit) const;
 
   const SheetLinework& old_;
-  const SheetLinework& now_;
   LineGrid oldGrid_;
   LineGrid nowGrid_;
   std::vector<LineSample> oldSamples_;

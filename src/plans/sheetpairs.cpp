@@ -47,7 +47,7 @@ QString PlainNumber(const QString& number) {
 QString SheetPairs::NumberOf(int page, CancelFlag& cancel) {
   const auto known = numbers_.constFind(page);
   if (known != numbers_.constEnd()) return *known;
-  const QString number = SheetNumberOf(plan_->ReadContent(page, cancel));
+  QString number = SheetNumberOf(plan_->ReadContent(page, cancel));
   if (!cancel.Cancelled()) numbers_.insert(page, number);
   return number;
 }

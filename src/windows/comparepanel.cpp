@@ -3,7 +3,7 @@
 namespace tamo {
 namespace {
 
-constexpr int kWidth = 32 * kGrid;
+constexpr int kWidth = 38 * kGrid;
 
 // The colours of the sheet, each word in its own.
 QLabel* Legend() {
@@ -33,7 +33,11 @@ QWidget* ComparePanel(Builder& b) {
   password->setEchoMode(QLineEdit::Password);
   password->setPlaceholderText(QStringLiteral("Its password, and Enter"));
   column->addWidget(password);
-  column->addWidget(b.List("ChangedPlaces", QStringLiteral("Changed places"), 0, 8), 1);
+  column->addWidget(b.List("ChangedPlaces", QStringLiteral("Changed places"), 0, 3), 1);
+  QLabel* place = b.Text("PlaceWords");
+  place->setWordWrap(true);
+  place->setTextFormat(Qt::PlainText);
+  column->addWidget(place);
   column->addWidget(FixedPrompt(
       QStringLiteral("N, Shift+N: next place, the one before. 2: by two points.\nO: old, new or "
                      "both. X: colours change sides.\nCtrl+Page Up, Ctrl+Page "

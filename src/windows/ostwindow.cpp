@@ -163,7 +163,11 @@ void LayOutOST(Builder& b) {
   auto* row = new QHBoxLayout;
   row->setSpacing(0);
   row->addWidget(Thumbnails(b, *canvas));
-  row->addWidget(Browser(b));
+  auto* beside = new QVBoxLayout;  // one of them at a time, as a rule
+  beside->setSpacing(0);
+  beside->addWidget(Browser(b));
+  beside->addWidget(ComparePanel(b));
+  row->addLayout(beside);
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(PlanToolBar(b, *canvas));
@@ -174,7 +178,6 @@ void LayOutOST(Builder& b) {
   middle->addWidget(canvas, 1);
   middle->addWidget(FindText(b, *canvas));
   row->addLayout(middle, 1);
-  row->addWidget(ComparePanel(b));
   row->addWidget(PlanColumn(b));
   FormWindow& window = b.Window();
   window.Body().addLayout(row, 1);

@@ -39,25 +39,18 @@ bool PlanCanvas::TakeLetter(int key) {
     desk_.Dispatch([&, tool = tool] { viewer_.PickTool(tool); });
     return true;
   }
-  const auto press = [this](PlanKey plan) {
-    desk_.Dispatch([&] { viewer_.Key({plan, false, false}); });
+  static constexpr std::pair<int, PlanKey> kLetters[] = {
+      {Qt::Key_B, PlanKey::Arc},     {Qt::Key_S, PlanKey::Snap},
+      {Qt::Key_D, PlanKey::Compare}, {Qt::Key_2, PlanKey::TwoPoints},
+      {Qt::Key_O, PlanKey::Layer},   {Qt::Key_X, PlanKey::SwapSides}};
+  for (const auto& [letter, plan] : kLetters) {
+    if (letter != key) continue;
+    desk_.Dispatch([&, plan = plan] { viewer_.Key({plan, false, false}); });
     return true;
-  };
+  }
   switch (key) {
-    case Qt::Key_B:
-      return press(PlanKey::Arc);
-    case Qt::Key_S:
-      return press(PlanKey::Snap);
     case Qt::Key_Tab:
       return TakeNextSnap();
-    case Qt::Key_D:
-      return press(PlanKey::Compare);
-    case Qt::Key_2:
-      return press(PlanKey::TwoPoints);
-    case Qt::Key_O:
-      return press(PlanKey::Layer);
-    case Qt::Key_X:
-      return press(PlanKey::SwapSides);
     case Qt::Key_T:
       TurnView();
       return true;
