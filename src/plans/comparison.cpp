@@ -16,7 +16,8 @@ namespace {
 constexpr int kFirstPicture = 1500;  // milliseconds that the first overlay has the engines alone
 constexpr int kSlice = 20;
 
-// What is found out waits for the coarse picture of the sheets, which is looked at meanwhile.
+// What is found out waits for the coarse picture of the sheets, which is looked
+// at meanwhile.
 void LetPaint(const std::shared_ptr<PlanPainter>& painter, const CancelFlag& cancel) {
   for (int waited = 0; painter != nullptr && waited < kFirstPicture; waited += kSlice) {
     if (cancel.Cancelled() || painter->WaitForCoarse(kSlice)) return;
@@ -27,7 +28,8 @@ void LetPaint(const std::shared_ptr<PlanPainter>& painter, const CancelFlag& can
 
 Comparison::Comparison(PdfDraw& viewer)
     : viewer_(viewer), pictures_([post = queue_.Poster(), told = picturesTold_, this] {
-        // Many pictures at once are one piece of news. The queue lives as long as this does.
+        // Many pictures at once are one piece of news. The queue lives as long
+        // as this does.
         if (told->exchange(true)) return;
         post([this] { PicturesCame(); });
       }) {}
@@ -37,14 +39,13 @@ Comparison::~Comparison() {
   End();
 }
 
-// `work` comes back with what is to be done on the viewer's thread.
-template <typename Work>
-void Comparison::Post(Work work) {
+void Comparison::Post(Work work, bool lasting) {
   if (thread_ == nullptr) thread_ = std::make_unique<WorkThread>();
-  job_ = std::make_shared<Job>();
+  std::shared_ptr<Job>& job = lasting ? lasting_ : job_;
+  if (job == nullptr) job = std::make_shared<Job>();
   ++busy_;
-  thread_->Post([this, work = std::move(work), job = job_, post = queue_.Poster()] {
-    const auto tell = [&](std::function<void()> news) {
+  thread_->Post([this, work = std::move(work), job, post = queue_.Poster()] {
+    const TellNews tell = [&](std::function<void()> news) {
       post([job, news = std::move(news)] {
         if (!job->cancel.Cancelled()) news();
       });
@@ -75,7 +76,7 @@ void Comparison::Begin(const QString& path, const QString& password) {
   if (old_ == nullptr)
     return Fail(QStringLiteral("The plan %1 can't be compared, because %2.")
                     .arg(FileNameOf(path), ReasonText(error)));
-  Post([this, plan = old_, password](CancelFlag&, const auto& tell) {
+  Post([this, plan = old_, password](CancelFlag&, const TellNews& tell) {
     auto contents = std::make_shared<PlanContents>(plan->Open(password));
     tell([this, contents] { Opened(*contents); });
   });
@@ -84,6 +85,8 @@ void Comparison::Begin(const QString& path, const QString& password) {
 
 void Comparison::End() {
   StopWork();
+  if (lasting_ != nullptr) lasting_->cancel.Cancel();
+  lasting_.reset();
   EndPoints();
   pictures_.Drop();
   if (old_ != nullptr) old_->Abandon();
@@ -138,9 +141,13 @@ void Comparison::Follow() {
   Compare(anew);
 }
 
-// The sheet that is laid over before anything is known.
-int Comparison::FirstGuess() const {
-  return std::clamp(page_, 1, Pages());
+CompareTask Comparison::Task() const {
+  CompareTask task;
+  task.now = now_;
+  task.old = old_;
+  task.oldSheets = former_.sheets;
+  task.oldSizes = former_.sizes;
+  return task;
 }
 
 void Comparison::Compare(bool anew) {
@@ -156,24 +163,20 @@ void Comparison::Compare(bool anew) {
     guess = there->second;
   } else {
     guess.page = page_;
-    guess.oldPage = FirstGuess();
+    guess.oldPage = std::clamp(page_, 1, Pages());
     guess.alignment.fit =
         FitInto(former_.sizes[size_t(guess.oldPage) - 1], viewer_.SizeOfPage(page_));
   }
   ShowPair(guess);
-  CompareTask task;
-  task.now = now_;
-  task.old = old_;
-  task.oldSheets = former_.sheets;
+  CompareTask task = Task();
   task.nowSize = viewer_.SizeOfPage(page_);
-  task.oldSizes = former_.sizes;
   task.page = page_;
   task.oldPage = guess.oldPage;
   task.byUser = guess.byUser;
   task.keepPair = guess.byUser || guess.alignment.byHand;
   if (guess.alignment.byHand) task.byPoints = guess.alignment.fit;
   const auto painter = pictures_.Looked() ? pictures_.Painter() : nullptr;
-  Post([this, task, painter](CancelFlag& cancel, const auto& tell) {
+  Post([this, task, painter](CancelFlag& cancel, const TellNews& tell) {
     LetPaint(painter, cancel);
     CompareSheets(task, cancel, [&](const SheetsCompared& known, int searched) {
       tell([this, known, searched] { Took(known, searched); });
@@ -216,7 +219,8 @@ void Comparison::PicturesCame() {
 void Comparison::StepPair(int by) {
   const SheetsCompared* known = Known();
   if (!On() || former_.sizes.empty()) return;
-  const int from = known != nullptr && known->oldPage > 0 ? known->oldPage : FirstGuess();
+  const int from =
+      known != nullptr && known->oldPage > 0 ? known->oldPage : std::clamp(page_, 1, Pages());
   SheetsCompared chosen;
   chosen.page = page_;
   chosen.oldPage = std::clamp(from + by, 1, Pages());
@@ -264,24 +268,6 @@ void Comparison::GoToPlace(int place) {
 const SheetsCompared* Comparison::Known() const {
   const auto there = known_.find(page_);
   return there == known_.end() ? nullptr : &there->second;
-}
-
-CarriedMarks Comparison::Carried(QString& why) const {
-  const SheetsCompared* known = On() ? Known() : nullptr;
-  if (known == nullptr || !known->looked) {
-    why = QStringLiteral("The two sheets are still being compared.");
-  } else if (known->oldPage == 0 || (!known->alignment.sure && !known->alignment.byHand)) {
-    why = QStringLiteral("Lay the two sheets over each other first: by two points (key 2).");
-  } else {
-    CarriedMarks carried =
-        CarryMarks(former_.marks, *known, viewer_.SizeOfPage(page_), viewer_.MarksAsDrawn());
-    if (!carried.marks.empty()) return carried;
-    why = carried.there > 0 ? QStringLiteral("All marks of the old sheet are on this one.")
-          : carried.outside > 0
-              ? QStringLiteral("The marks of the old sheet all lie off this one.")
-              : QStringLiteral("The old sheet holds no marks: compare with its marked copy.");
-  }
-  return {};
 }
 
 bool Comparison::Settle(int milliseconds) {

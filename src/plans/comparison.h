@@ -4,7 +4,6 @@
 #include <memory>
 #include <optional>
 
-#include "plans/carriedmarks.h"
 #include "plans/comparework.h"
 #include "plans/formsqueue.h"
 #include "plans/overlaypictures.h"
@@ -15,15 +14,17 @@ namespace tamo {
 
 class PdfDraw;
 
-// Another plan laid over the one that is open: its former state, opened for reading alone, through
-// a worker of its own. The sheet in front is paired with one of it; what can be found out about the
-// two is found out on a thread of its own. All calls come from the viewer's thread.
+// Another plan laid over the one that is open: its former state, opened for
+// reading alone, through a worker of its own. The sheet in front is paired with
+// one of it; what can be found out about the two is found out on a thread of
+// its own. All calls come from the viewer's thread.
 class Comparison {
  public:
   explicit Comparison(PdfDraw& viewer);
   ~Comparison();
 
-  // What went before ends. Comes back at once; Words() says how it goes, also when it can't be.
+  // What went before ends. Comes back at once; Words() says how it goes, also
+  // when it can't be.
   void Begin(const QString& path, const QString& password);
   void End();
   bool On() const { return old_ != nullptr; }
@@ -32,14 +33,16 @@ class Comparison {
   // Another page is in front, or the plan was saved and is read anew.
   void Follow();
 
-  // Another sheet of the other plan belongs to the one in front: `by` sheets on.
+  // Another sheet of the other plan belongs to the one in front: `by` sheets
+  // on.
   void StepPair(int by);
   // Both sheets, the old one alone, the new one alone, and again.
   void NextLayer();
   // The plan in front is the older one, or is not.
   void Swap();
-  // The sheets are to be laid over each other by two points on each, given by presses: the first on
-  // the new and on the old sheet, then the second on both.
+  // The sheets are to be laid over each other by two points on each, given by
+  // presses: the first on the new and on the old sheet, then the second on
+  // both.
   void AskPoints();
   bool AsksPoints() const { return points_.asked >= 0; }
   // Walks through the changed places of the sheet in front, round the end.
@@ -48,9 +51,15 @@ class Comparison {
   int Place() const { return place_; }  // -1 for none
   bool TakeKey(const PlanStroke& stroke);
 
-  // The marks of the old sheet as they would come onto the new one. `why` says in words why none
-  // can; then there are none.
-  CarriedMarks Carried(QString& why) const;
+  const std::vector<Mark>& OldMarks() const { return former_.marks; }
+  // Work on the thread of the comparison, and its news on the viewer's. It is
+  // stopped when another page is in front or, when it is `lasting`, when the
+  // comparison ends.
+  using TellNews = std::function<void(std::function<void()> news)>;
+  using Work = std::function<void(CancelFlag& cancel, const TellNews& tell)>;
+  void Post(Work work, bool lasting = false);
+  // The two plans as they are compared; the pages are to be set.
+  CompareTask Task() const;
 
   // What is compared and how, in sentences.
   QString Words() const;
@@ -63,7 +72,8 @@ class Comparison {
 
   std::function<void()> onChanged;                      // the words, the pairs, or what is known
   std::function<void(const PageBox& box)> onShowPlace;  // it is to come into sight
-  // Until nothing is in work any more. For tests and players: false when it takes longer.
+  // Until nothing is in work any more. For tests and players: false when it
+  // takes longer.
   bool Settle(int milliseconds);
 
  private:
@@ -78,7 +88,6 @@ class Comparison {
   void PicturesCame();
   void StopWork();
   int Pages() const { return static_cast<int>(former_.sizes.size()); }
-  int FirstGuess() const;
   bool TakeEscape();
   void TakePoint(PagePoint at);
   void EndPoints();
@@ -88,8 +97,6 @@ class Comparison {
   void Tell() const {
     if (onChanged) onChanged();
   }
-  template <typename Work>
-  void Post(Work work);
 
   PdfDraw& viewer_;
   FormsQueue queue_;
@@ -115,8 +122,9 @@ class Comparison {
     PagePoint at[4];  // new, old, new, old
     QString problem;  // why the last ones were of no use
   } points_;
-  std::shared_ptr<Job> job_;
-  int busy_ = 0;  // pieces of work whose end was not told yet
+  std::shared_ptr<Job> job_;      // of the page in front
+  std::shared_ptr<Job> lasting_;  // of the whole comparison
+  int busy_ = 0;                  // pieces of work whose end was not told yet
   std::unique_ptr<WorkThread> thread_;
 };
 

@@ -47,7 +47,8 @@ void OSTForm::BindFields() {
     field->readOnly = true;
     field->inTabOrder = false;
   }
-  // The focus stays on the plan, so that Remove Last Mark knows that the plan was worked on.
+  // The focus stays on the plan, so that Remove Last Mark knows that the plan
+  // was worked on.
   for (Control* button : std::initializer_list<Control*>{&SetInches, &CheckDimension, &Check1,
                                                          &Command2, &Command3}) {
     button->takesFocus = false;
@@ -98,7 +99,7 @@ void OSTForm::BindMenus() {
 }
 
 void OSTForm::BindCompare() {
-  compare_.onMarksCarried = [this] {
+  compare_.Carry().onCarried = [this] {
     if (!TrimmedBlanks(kit_.shared.JobID).isEmpty()) SaveIt();
   };
   compare_.onChoosePlan = [this] { return onChoosePlan ? onChoosePlan() : QString(); };

@@ -88,6 +88,7 @@ constexpr Row kPlan[] = {
     {"ComparePairNext", "&Next Sheet Over This One (Ctrl+Page Down)", "CompareMenu"},
     {"ComparePairBefore", "Sheet &Before Over This One (Ctrl+Page Up)", "CompareMenu"},
     {"CarryMarks", "Carry the Old &Marks Over", "CompareMenu"},
+    {"CarryAllMarks", "Carry the Old Marks of &All Sheets Over", "CompareMenu"},
     {"CompareSwap", "Other Plan Is Ne&wer (X)", "CompareMenu"},
     {"CompareEnd", "&End Comparing (Escape)", "CompareMenu"},
 };

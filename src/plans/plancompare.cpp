@@ -12,38 +12,16 @@ namespace {
 // Entries that wait for a plan to be laid over.
 constexpr const char* kWhileComparing[] = {"CompareNext",     "ComparePoints",     "CompareLayer",
                                            "ComparePairNext", "ComparePairBefore", "CompareSwap",
-                                           "CarryMarks",      "CompareEnd"};
-
-QString Counted(qsizetype count, const char* one, const char* many) {
-  return count == 1 ? QStringLiteral("1 ") + QLatin1String(one)
-                    : QStringLiteral("%1 ").arg(count) + QLatin1String(many);
-}
-
-QString Question(const CarriedMarks& carried) {
-  constexpr qsizetype kMostNamed = 10;
-  QString words = Counted(qsizetype(carried.marks.size()), "mark of the old sheet comes",
-                          "marks of the old sheet come") +
-                  QStringLiteral(" onto this one.");
-  const qsizetype changed = carried.changed.size();
-  if (changed > 0) {
-    words += QLatin1Char(' ') + Counted(changed, "of them stands", "of them stand") +
-             QStringLiteral(" where the drawing has changed, and will say so: ") +
-             carried.changed.mid(0, kMostNamed).join(QStringLiteral("; "));
-    if (changed > kMostNamed) words += QStringLiteral("; and %1 more").arg(changed - kMostNamed);
-    words += QLatin1Char('.');
-  }
-  if (carried.there > 0)
-    words += QLatin1Char(' ') + Counted(carried.there, "is here already.", "are here already.");
-  if (carried.outside > 0)
-    words += QLatin1Char(' ') + Counted(carried.outside, "lies off this sheet and stays behind.",
-                                        "lie off this sheet and stay behind.");
-  return words + QStringLiteral(" Carry them over?");
-}
+                                           "CarryMarks",      "CarryAllMarks",     "CompareEnd"};
 
 }  // namespace
 
 PlanCompare::PlanCompare(const Kit& kit, OstControls& form, PdfDraw& viewer)
-    : kit_(kit), form_(form), viewer_(viewer), comparison_(viewer.Compared()) {
+    : kit_(kit),
+      form_(form),
+      viewer_(viewer),
+      comparison_(viewer.Compared()),
+      carry_(kit, form, viewer) {
   form_.ComparePassword.PutInto(form_.ComparePanel);
   form_.CompareWords.PutInto(form_.ComparePanel);
   form_.ChangedPlaces.PutInto(form_.ComparePanel);
@@ -72,7 +50,8 @@ void PlanCompare::BindMenu() {
   on("CompareLayer", [this] { comparison_.NextLayer(); });
   on("ComparePairNext", [this] { comparison_.StepPair(1); });
   on("ComparePairBefore", [this] { comparison_.StepPair(-1); });
-  on("CarryMarks", [this] { CarryMarks(); });
+  on("CarryMarks", [this] { carry_.CarrySheet(); });
+  on("CarryAllMarks", [this] { carry_.CarryAll(); });
   on("CompareSwap", [this] { comparison_.Swap(); });
   on("CompareEnd", [this] { comparison_.End(); });
 }
@@ -91,17 +70,6 @@ void PlanCompare::Unlock() {
   password_ = form_.ComparePassword.Text();
   if (!locked_.isEmpty()) comparison_.Begin(std::exchange(locked_, QString()), password_);
   kit_.desk.Focus(form_.picPdfDraw);
-}
-
-// Nothing comes onto the sheet, and nothing is saved, before the question is answered.
-void PlanCompare::CarryMarks() {
-  QString why;
-  const CarriedMarks carried = comparison_.Carried(why);
-  if (carried.marks.empty()) return form_.PlanProblem.SetCaption(why);
-  if (!kit_.shared.ReadOnly.isEmpty()) return form_.PlanProblem.SetCaption(kit_.shared.ReadOnly);
-  if (!kit_.platform.messages.Ask(Question(carried)) || !viewer_.PutMarks(carried.marks)) return;
-  form_.PlanProblem.SetCaption(QString());
-  if (onMarksCarried) onMarksCarried();
 }
 
 void PlanCompare::SheetChanged() {

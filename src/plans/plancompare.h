@@ -5,25 +5,26 @@
 #include "common/kit.h"
 #include "plans/comparison.h"
 #include "plans/ostcontrols.h"
+#include "plans/plancarry.h"
 
 namespace tamo {
 
 class PdfDraw;
 
-// The panel beside the plan while another one is laid over it, and its entries in the menu.
+// The panel beside the plan while another one is laid over it, and its entries
+// in the menu.
 class PlanCompare {
  public:
   PlanCompare(const Kit& kit, OstControls& form, PdfDraw& viewer);
 
   std::function<QString()> onChoosePlan;  // the plan to lay over this one, "" for none
-  std::function<void()> onMarksCarried;   // they are to be saved with the plan
   void SheetChanged();                    // another page is in front
+  PlanCarry& Carry() { return carry_; }
 
  private:
   void BindMenu();
   void Choose();
   void Unlock();
-  void CarryMarks();
   void Refresh();
   void ShowPlaces();
 
@@ -31,6 +32,7 @@ class PlanCompare {
   OstControls& form_;
   PdfDraw& viewer_;
   Comparison& comparison_;
+  PlanCarry carry_;
   QString locked_;    // the plan that waits for a password
   QString password_;  // the last one typed: both revisions mostly share it
   QString said_;      // of what went wrong, in the line for problems
