@@ -6,6 +6,7 @@
 #include "plans/picturelines.h"
 #include "plans/sheetalign.h"
 #include "plans/sheetchanges.h"
+#include "plans/sheetnumber.h"
 #include "plans/textchanges.h"
 #include "plans/twoatonce.h"
 
@@ -81,7 +82,7 @@ void Work::Pair() {
   }
   if (known_.oldPage > 0) known_.oldNumber = task_.oldSheets->NumberOf(known_.oldPage, cancel_);
   known_.byNumber = !task_.byUser && !known_.nowNumber.isEmpty() &&
-                    PlainNumber(known_.nowNumber) == PlainNumber(known_.oldNumber);
+                    PlainSheetNumber(known_.nowNumber) == PlainSheetNumber(known_.oldNumber);
   if (known_.oldPage > 0 && known_.oldPage != task_.oldPage)
     old_ = task_.old->ReadContent(known_.oldPage, cancel_);
 }

@@ -100,7 +100,8 @@ bool Comparison::TakeKey(const PlanStroke& stroke) {
   if (!On()) return false;
   const int by = stroke.shift || stroke.key == PlanKey::PairBefore ? -1 : 1;
   switch (stroke.key) {
-    case PlanKey::NextPlace:
+    case PlanKey::No:
+      if (viewer_.Same().Asking()) return false;
       StepPlace(by);
       return true;
     case PlanKey::TwoPoints:
@@ -125,7 +126,9 @@ bool Comparison::TakeKey(const PlanStroke& stroke) {
 
 // What is in work goes first, then the points that were asked for, then the other plan.
 bool Comparison::TakeEscape() {
-  if (viewer_.WorkFrom() || viewer_.CheckNext() || viewer_.BoxNext() || viewer_.Box()) return false;
+  if (viewer_.WorkFrom() || viewer_.CheckNext() || viewer_.BoxNext() || viewer_.Box() ||
+      viewer_.Same().Asking())
+    return false;
   if (AsksPoints()) {
     EndPoints();
     Tell();

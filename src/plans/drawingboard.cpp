@@ -237,7 +237,30 @@ void DrawingBoard::SetPointNext(bool point) {
   Repaint();
 }
 
-// --- The box around a table
+// The tool that is in hand counts, or the counting tool is taken.
+bool DrawingBoard::PlaceCircles(const std::vector<PagePoint>& places) {
+  if (tool_ != PlanTool::Counting) PickTool(PlanTool::Counting);
+  if (tool_ != PlanTool::Counting || !MayMark()) return false;
+  std::vector<Mark> marks;
+  for (const PagePoint at : places) {
+    if (Sane(at)) marks.push_back(NewMark(Mark::Kind::Circle, {at}));
+  }
+  AddMarks(std::move(marks));
+  return true;
+}
+
+bool DrawingBoard::CountsAlike(const Mark& mark) const {
+  return mark.kind == Mark::Kind::Circle;
+}
+
+// --- The box around a table or a symbol
+
+void DrawingBoard::SetBoxNext(bool box, BoxUse use) {
+  boxNext_ = box;
+  boxUse_ = use;
+  boxing_ = false;
+  Repaint();
+}
 
 void DrawingBoard::StretchBox(PagePoint to) {
   box_ = DrawnBox{Page(),
@@ -248,10 +271,15 @@ void DrawingBoard::StretchBox(PagePoint to) {
 
 void DrawingBoard::DrawBox(PagePoint from, PagePoint to) {
   if (!Sane(from) || !Sane(to)) return;
+  const bool symbol = boxNext_ && boxUse_ == BoxUse::Symbol;
   boxNext_ = false;
   boxing_ = false;
   boxFrom_ = from;
   StretchBox(to);
+  if (!symbol) return;
+  const DrawnBox box = *box_;
+  DropBox();
+  SymbolBoxed(box);
 }
 
 void DrawingBoard::DropBox() {
@@ -273,7 +301,7 @@ void DrawingBoard::MoveCrossHair(const PlanStroke& stroke) {
 
 void DrawingBoard::PressArrow(const PlanStroke& stroke) {
   const PagePoint way = Direction(stroke.key);
-  if (tool_ == PlanTool::None && !pointNext_) {
+  if (tool_ == PlanTool::None && !boxNext_ && !pointNext_) {
     ScrollBy(way.x * kScrollStep, way.y * kScrollStep);
   } else {
     MoveCrossHair(stroke);
@@ -282,7 +310,8 @@ void DrawingBoard::PressArrow(const PlanStroke& stroke) {
 
 // Space is the mouse button of the keyboard: it places the first point, then the second.
 void DrawingBoard::PressSpace(bool shift) {
-  if (tool_ == PlanTool::None && !pointNext_) return;
+  if (boxing_) return DrawBox(boxFrom_, crossHair_);
+  if (tool_ == PlanTool::None && !boxNext_ && !pointNext_) return;
   Press(crossHair_, shift);
   if (line_ == LineState::Dragging) line_ = LineState::Placed;
   if (line_ == LineState::Closing) EndLine();

@@ -18,12 +18,15 @@ struct LineInWork {
   QString text;  // its running length, as the label of the mark would say it
 };
 
-// A box that was drawn around a table of the plan. It is no mark.
+// A box that was drawn around a table or a symbol of the plan. It is no mark.
 struct DrawnBox {
   int page = 1;
   PagePoint topLeft;
   PagePoint bottomRight;
 };
+
+// What a box is drawn around.
+enum class BoxUse { Table, Symbol };
 
 // The tools: what the mouse and the keys draw and measure on the sheets. Places in points on the
 // current page.
@@ -54,12 +57,15 @@ class DrawingBoard : public OutlineBoard {
   void Key(const PlanStroke& stroke);
   void DrawLine(PagePoint from, PagePoint to);  // the whole line; takes the tool first
   void PlaceCircle(PagePoint at);               // takes the tool first
+  // All at once, taken back as one; false when this plan may not be marked.
+  bool PlaceCircles(const std::vector<PagePoint>& places);
+  bool CountsAlike(const Mark& mark) const;  // a circle that counts with the next one
   // The whole outline, with one of the tools that draw them; takes the tool first.
   void DrawOutline(PlanTool tool, const std::vector<PagePoint>& points);
 
-  // A box around a table: the next drag draws it, whatever tool is in hand. It stays until the next
-  // box, another plan or Escape.
-  void SetBoxNext(bool box) { boxNext_ = box; }
+  // A box around a table: the next drag draws it, or Space at two corners, whatever tool is in
+  // hand. It stays until the next box, another plan or Escape. One around a symbol is handed on.
+  void SetBoxNext(bool box, BoxUse use = BoxUse::Table);
   bool BoxNext() const { return boxNext_; }
   void DrawBox(PagePoint from, PagePoint to);
   const std::optional<DrawnBox>& Box() const { return box_; }
@@ -85,6 +91,8 @@ class DrawingBoard : public OutlineBoard {
   virtual bool TakeOverlayKey(const PlanStroke& /*stroke*/) { return false; }
   // True when the key was one of snapping.
   virtual bool TakeSnapKey(PlanKey /*key*/) { return false; }
+  // A box was drawn around a symbol; it is gone from the board.
+  virtual void SymbolBoxed(const DrawnBox& /*box*/) {}
   // Whether this plan may be marked; asks the user where it has to be asked.
   virtual bool MayMark() { return true; }
 
@@ -110,6 +118,7 @@ class DrawingBoard : public OutlineBoard {
   LineInWork work_;
   bool pointNext_ = false;
   bool boxNext_ = false;
+  BoxUse boxUse_ = BoxUse::Table;
   bool boxing_ = false;  // it is being drawn
   PagePoint boxFrom_;
   std::optional<DrawnBox> box_;

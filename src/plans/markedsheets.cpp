@@ -69,17 +69,29 @@ void MarkedSheets::DeleteMark(int index) {
 
 bool MarkedSheets::Undo() {
   if (done_.empty()) return false;
-  undone_.push_back(done_.back());
-  done_.pop_back();
-  Do(Step(undone_.back()), false);
+  bool circles = false;
+  bool more = true;
+  while (more && !done_.empty()) {
+    undone_.push_back(done_.back());
+    done_.pop_back();
+    Put(undone_.back(), false);
+    circles = circles || undone_.back().mark.kind == Mark::Kind::Circle;
+    more = undone_.back().joined;
+  }
+  Tell(circles);
   return true;
 }
 
 bool MarkedSheets::Redo() {
   if (undone_.empty()) return false;
-  done_.push_back(undone_.back());
-  undone_.pop_back();
-  Do(Step(done_.back()), true);
+  bool circles = false;
+  do {
+    done_.push_back(undone_.back());
+    undone_.pop_back();
+    Put(done_.back(), true);
+    circles = circles || done_.back().mark.kind == Mark::Kind::Circle;
+  } while (!undone_.empty() && undone_.back().joined);
+  Tell(circles);
   return true;
 }
 
@@ -107,16 +119,37 @@ bool MarkedSheets::PutBack(const Mark& mark) {
   return true;
 }
 
+void MarkedSheets::AddMarks(std::vector<Mark> marks) {
+  bool circles = false;
+  for (size_t i = 0; i < marks.size(); ++i) {
+    Mark& mark = marks[i];
+    mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
+    circles = circles || mark.kind == Mark::Kind::Circle;
+    done_.push_back({true, marks_.size(), std::move(mark), i > 0});
+    Put(done_.back(), true);
+  }
+  if (marks.empty()) return;
+  undone_.clear();
+  Tell(circles);
+}
+
 void MarkedSheets::Do(const Step& step, bool forward) {
+  Put(step, forward);
+  Tell(step.mark.kind == Mark::Kind::Circle);
+}
+
+void MarkedSheets::Tell(bool circles) {
+  Repaint();
+  if (circles) Raise(onCircleCountChanged, CircleCount());
+}
+
+void MarkedSheets::Put(const Step& step, bool forward) {
   const auto place = static_cast<std::ptrdiff_t>(std::min(step.at, marks_.size()));
-  const bool circle = step.mark.kind == Mark::Kind::Circle;
   if (step.added == forward) {
     marks_.insert(marks_.begin() + place, step.mark);
   } else {
     marks_.erase(marks_.begin() + place);
   }
-  Repaint();
-  if (circle) Raise(onCircleCountChanged, CircleCount());
 }
 
 int MarkedSheets::CircleCount() const {

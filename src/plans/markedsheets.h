@@ -38,6 +38,7 @@ class MarkedSheets : public SheetView {
   // A mark of the pen on the current page, without label and name; AddMark gives it its name.
   Mark NewMark(Mark::Kind kind, std::vector<PagePoint> points) const;
   void AddMark(Mark mark);
+  void AddMarks(std::vector<Mark> marks);  // taken back and brought back together
   void Repaint() { Raise(onMarksChanged); }
 
  private:
@@ -45,8 +46,11 @@ class MarkedSheets : public SheetView {
     bool added = true;  // or deleted
     size_t at = 0;
     Mark mark;
+    bool joined = false;  // goes with the one before
   };
   void Do(const Step& step, bool forward);
+  void Put(const Step& step, bool forward);
+  void Tell(bool circles);
   int CircleCount() const;
 
   std::vector<Mark> marks_;

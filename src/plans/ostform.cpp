@@ -82,6 +82,10 @@ void OSTForm::BindMenus() {
   on("Save", [this] { Save(); });
   on("Printit", [this] { viewer_.Print(); });
   on("SnapToDrawing", [this] { viewer_.Key({PlanKey::Snap, false, false}); });
+  on("FindSame", [this] {
+    kit_.desk.Focus(picPdfDraw);
+    viewer_.Same().Start();
+  });
   static const std::pair<const char*, PlanTool> tools[] = {{"DrawPolyline", PlanTool::Polyline},
                                                            {"DrawArea", PlanTool::Area},
                                                            {"DrawRectangle", PlanTool::Rectangle},
@@ -126,6 +130,7 @@ void OSTForm::BindViewer() {
     pen_.ModeChanged(tool);
     surfaces_.ToolPicked(tool);
     viewer_.Snap().Follow();
+    viewer_.Same().Leave();
     sheetScales_.ToolPicked(tool);
   });
   viewer_.onLineMeasured =
@@ -141,6 +146,7 @@ void OSTForm::BindViewer() {
   viewer_.onPageChanged = event([this] {
     pages_.ShowPage();
     viewer_.Snap().Follow();
+    viewer_.Same().Follow();
     sheetScales_.SheetChanged();
     compare_.SheetChanged();
   });
@@ -149,7 +155,7 @@ void OSTForm::BindViewer() {
   });
   viewer_.onMousePressed = event([this] {
     kit_.desk.Focus(picPdfDraw);
-    if (!sheetScales_.Calibrating()) measure_.WarnOfMissingScale();
+    if (!sheetScales_.Calibrating() && !viewer_.Same().Boxing()) measure_.WarnOfMissingScale();
     if (onPlanPressed) onPlanPressed();
   });
   viewer_.onReservation = [this](const QString& reservation) {

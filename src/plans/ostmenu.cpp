@@ -80,6 +80,7 @@ constexpr Row kPlan[] = {
     {"DrawCutOut", "&Cut-out (K)", "DrawMenu"},
     {"DrawPerimeter", "P&erimeter (E)", "DrawMenu"},
     {"SnapToDrawing", "&Snap to the Drawing (S)", "DrawMenu"},
+    {"FindSame", "&Find Same (I)", "DrawMenu"},
     {"CompareMenu", "Re&vis.", ""},
     {"CompareWith", "&Compare With ... (D)", "CompareMenu"},
     {"CompareNext", "Ne&xt Changed Place (N)", "CompareMenu"},

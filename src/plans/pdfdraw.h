@@ -7,6 +7,7 @@
 #include "plans/drawingboard.h"
 #include "plans/planengine.h"
 #include "plans/planpictures.h"
+#include "plans/samesymbols.h"
 #include "plans/snappointer.h"
 
 namespace tamo {
@@ -89,6 +90,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
 
   // Where the pointer takes hold of the drawing while something is measured.
   SnapPointer& Snap() { return snap_; }
+  // What finds the likes of a symbol on the sheet.
+  SameSymbols& Same() { return same_; }
 
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
   // background; 10 seconds when not set. A window wants 6 milliseconds.
@@ -104,7 +107,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
 
  protected:
   bool MayMark() override;
-  bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
+  bool TakeSnapKey(PlanKey key) override { return same_.TakeKey(key) || snap_.TakeKey(key); }
+  void SymbolBoxed(const DrawnBox& box) override;
   bool TakeOverlayKey(const PlanStroke& stroke) override;
 
  private:
@@ -118,6 +122,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void Close();
   int ShowNothing(const QString& path, int error, const QString& reason);
   void PicturesChanged();
+  void TellOfSearch();
   void TellOfPages(PlanPainter& painter);
   void BeginPlan(const QString& path);
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
@@ -165,7 +170,9 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
     QString caution;
   } notices_;
   bool saving_ = false;
+  bool searchTold_ = false;  // it says how far it is in a moment
   SnapPointer snap_{*this};
+  SameSymbols same_{*this};
   std::unique_ptr<Comparison> comparison_;
   int patience_ = 10000;
   int longestOpening_ = 30000;

@@ -117,7 +117,13 @@ PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
       forms_(std::make_shared<FormsThread>(this)),
       comparison_(std::make_unique<Comparison>(*this)) {
   snap_.Lines().onRead = [forms = forms_] {
-    FormsThread::Post(forms, [](PdfDraw& draw) { draw.snap_.TellOfSheet(); });
+    FormsThread::Post(forms, [](PdfDraw& draw) {
+      draw.snap_.TellOfSheet();
+      draw.TellOfSearch();
+    });
+  };
+  same_.Search().onDone = [forms = forms_] {
+    FormsThread::Post(forms, [](PdfDraw& draw) { draw.TellOfSearch(); });
   };
 }
 

@@ -20,8 +20,8 @@ enum class PlanTool {
 };
 
 // What the viewer tells, synchronously inside the call that causes it, on the thread of the forms.
-// The window has onMarksChanged, onViewChanged, onPrint, onBringToFront and onSaveProgress; all
-// others belong to the plan form.
+// The window has onMarksChanged, onViewChanged, onLookAt, onPrint, onBringToFront and
+// onSaveProgress; all others belong to the plan form.
 struct PlanEvents {
   std::function<void()> onBeforeModeChange;
   std::function<void(PlanTool tool)> onModeChanged;
@@ -37,6 +37,8 @@ struct PlanEvents {
   std::function<void(double& area, QString& label)> onAreaRunning;
   // What is drawn can't be what the tool is for: why, and what to do. "" when it can again.
   std::function<void(const QString& why)> onToolRefused;
+  // A place of the page in front is to be in sight.
+  std::function<void(PagePoint at)> onLookAt;
   // The lines and the printed scales of the sheet in front are known.
   std::function<void()> onSheetRead;
   std::function<void(int count)> onCircleCountChanged;  // the circles of all pages

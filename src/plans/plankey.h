@@ -6,9 +6,10 @@ namespace tamo {
 // with Ctrl half a point) and scroll the page otherwise; Space places a point or a circle at the
 // cross hair; Escape drops the line in work; Backspace drops its last point; Enter gives the focus
 // back, and ends an outline in work; Arc makes its next two points those of an arc; Snap turns the
-// snap to the drawing on or off, NextSnap takes the cross hair to the next place near it. Layer
-// shows both sheets, the old or the new one alone; PairNext and PairBefore lay another sheet over;
-// TwoPoints lays the sheets over each other by hand.
+// snap to the drawing on or off, NextSnap takes the cross hair to the next place near it; Yes, No
+// and All answer for a symbol that was found. Layer shows both sheets, the old or the new one
+// alone; PairNext and PairBefore lay another sheet over; TwoPoints lays the sheets over each other
+// by hand.
 enum class PlanKey {
   Left,
   Right,
@@ -23,9 +24,12 @@ enum class PlanKey {
   Arc,
   Snap,
   NextSnap,
+  Yes,
+  No,  // while another plan is laid over this one: the next changed place; with Shift the one
+       // before
+  All,
   // While another plan is laid over this one; Compare asks for it.
   Compare,
-  NextPlace,  // of those that have changed; with Shift the one before
   TwoPoints,
   Layer,
   SwapSides,

@@ -5,6 +5,7 @@
 #include <mutex>
 #include <vector>
 
+#include "plans/likesheet.h"
 #include "plans/planengine.h"
 #include "plans/printedscale.h"
 #include "plans/snapindex.h"
@@ -25,6 +26,7 @@ class SheetLines {
   void KeepOnly(const std::shared_ptr<EnginePlan>& plan, int page);
   // Null while they are read, and when they could not be.
   std::shared_ptr<const SnapIndex> Index() const;
+  std::shared_ptr<const std::vector<LikeLetter>> Letters() const;  // with the lines
   bool Reading() const;
   // What the page prints, as far as it is the one read and that is done.
   std::vector<PrintedScale> Scales(const std::shared_ptr<EnginePlan>& plan, int page) const;
@@ -34,6 +36,7 @@ class SheetLines {
   // Why there is little or nothing to snap to, as a sentence; "" while they are read, and when all
   // is well.
   QString Problem() const;
+  QString SymbolsProblem() const;  // the same for finding symbols by them
   // For tests and players: false when they are still on their way then.
   bool Wait(int milliseconds);
 
@@ -43,7 +46,9 @@ class SheetLines {
     mutable std::mutex mutex;
     bool done = false;
     std::shared_ptr<const SnapIndex> index;
+    std::shared_ptr<const std::vector<LikeLetter>> letters;
     QString problem;
+    QString symbolsProblem;
     std::vector<PrintedScale> scales;
     bool told = false;
   };

@@ -10,8 +10,6 @@ namespace tamo {
 
 // The number of a sheet as its title block states it ("A-601"), "" when it states none for sure.
 QString SheetNumberOf(const PageContent& content);
-// The same for all ways to write it.
-QString PlainNumber(const QString& number);
 
 // Which sheet of a plan has a number. What was read once is known. For one thread.
 class SheetPairs {

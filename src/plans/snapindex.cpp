@@ -205,6 +205,14 @@ void SnapIndex::VisitAround(PagePoint at, double reach, Visit visit) const {
   }
 }
 
+void SnapIndex::LinesAround(PagePoint at, double reach, std::vector<uint32_t>& numbers) const {
+  VisitAround(at, reach, [&](size_t cell) {
+    numbers.insert(numbers.end(), items_.begin() + begins_[cell],
+                   items_.begin() + begins_[cell + 1]);
+    return true;
+  });
+}
+
 std::vector<SnapHit> SnapIndex::Near(PagePoint at, double reach,
                                      const std::optional<PagePoint>& from,
                                      std::span<const SnapLine> more) const {

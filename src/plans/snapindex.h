@@ -43,6 +43,10 @@ class SnapIndex {
   std::vector<SnapHit> Near(PagePoint at, double reach, const std::optional<PagePoint>& from,
                             std::span<const SnapLine> more = {}) const;
   size_t Lines() const { return lines_.size(); }
+  const std::vector<SnapLine>& All() const { return lines_; }
+  // Adds the numbers of all lines that may come within `reach` points of a place, some of them
+  // more than once.
+  void LinesAround(PagePoint at, double reach, std::vector<uint32_t>& numbers) const;
 
  private:
   template <typename Visit>

@@ -18,7 +18,7 @@ std::optional<PlanKey> PlanKeyOf(int code) {
                                                       {Qt::Key_Backspace, PlanKey::Backspace},
                                                       {Qt::Key_Z, PlanKey::Undo},
                                                       {Qt::Key_Y, PlanKey::Redo},
-                                                      {Qt::Key_N, PlanKey::NextPlace}};
+                                                      {Qt::Key_N, PlanKey::No}};
   for (const auto& [known, key] : kKeys) {
     if (known == code) return key;
   }
@@ -27,8 +27,22 @@ std::optional<PlanKey> PlanKeyOf(int code) {
 
 }  // namespace
 
+// While symbols that were found are asked about, letters answer.
+bool PlanCanvas::TakeAnswer(int key) {
+  static constexpr std::pair<int, PlanKey> kAnswers[] = {
+      {Qt::Key_Y, PlanKey::Yes}, {Qt::Key_N, PlanKey::No}, {Qt::Key_A, PlanKey::All}};
+  if (!viewer_.Same().Asking()) return false;
+  for (const auto& [letter, answer] : kAnswers) {
+    if (letter != key) continue;
+    desk_.Dispatch([&, answer = answer] { viewer_.Key({answer, false, false}); });
+    return true;
+  }
+  return false;
+}
+
 // The tool bar by letters, while the keys go to the plan.
 bool PlanCanvas::TakeLetter(int key) {
+  if (TakeAnswer(key)) return true;
   static constexpr std::pair<int, PlanTool> kTools[] = {
       {Qt::Key_V, PlanTool::None},     {Qt::Key_M, PlanTool::Measuring},
       {Qt::Key_C, PlanTool::Counting}, {Qt::Key_L, PlanTool::Polyline},
@@ -51,6 +65,9 @@ bool PlanCanvas::TakeLetter(int key) {
   switch (key) {
     case Qt::Key_Tab:
       return TakeNextSnap();
+    case Qt::Key_I:
+      desk_.Dispatch([this] { viewer_.Same().Start(); });
+      return true;
     case Qt::Key_T:
       TurnView();
       return true;
@@ -100,7 +117,7 @@ bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   }
   const std::optional<PlanKey> key = PlanKeyOf(event.key());
   if (!key) return false;
-  if (*key == PlanKey::NextPlace && ctrl) return false;
+  if (*key == PlanKey::No && ctrl) return false;
   const bool needsCtrl = *key == PlanKey::Undo || *key == PlanKey::Redo;
   if (needsCtrl && !ctrl) return false;
   desk_.Dispatch([&] { viewer_.Key({*key, shift, ctrl}); });

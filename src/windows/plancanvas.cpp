@@ -36,6 +36,7 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
   viewer_.Compared().onShowPlace = [this](const PageBox& box) {
     PlaceInView({(box.left + box.right) / 2, (box.top + box.bottom) / 2});
   };
+  viewer_.onLookAt = [this](PagePoint at) { PlaceInView(at); };
   if (pictures_ != nullptr) {
     pictures_->onPicturesChanged = [this] {
       viewport()->update();
@@ -48,6 +49,7 @@ PlanCanvas::~PlanCanvas() {
   viewer_.onMarksChanged = nullptr;
   viewer_.onViewChanged = nullptr;
   viewer_.Compared().onShowPlace = nullptr;
+  viewer_.onLookAt = nullptr;
   viewer_.onPrint = nullptr;
   viewer_.onBringToFront = nullptr;
   viewer_.onSaveProgress = nullptr;

@@ -78,6 +78,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void PaintWork(QPainter& painter) const;
   void PaintFound(QPainter& painter) const;
   void PaintChanged(QPainter& painter) const;
+  void PaintLikes(QPainter& painter) const;
   void Pan(const QPointF& points);
   void ZoomAbout(const QPointF& place, const std::function<void()>& zoom);
   void ZoomByWheel(const QPointF& place, double notches);
@@ -86,6 +87,7 @@ class PlanCanvas : public QAbstractScrollArea {
   bool TakeLetter(int key);
   bool TakeNextSnap();
   bool TakePairKey(bool next);
+  bool TakeAnswer(int key);
   // Where on the page the mouse takes hold.
   PagePoint Pointed(const QMouseEvent& event);
 

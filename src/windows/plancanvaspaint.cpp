@@ -38,6 +38,7 @@ void PlanCanvas::paintEvent(QPaintEvent*) {
   PaintMarks(painter);
   if (foundOn) PaintFound(painter);
   PaintChanged(painter);
+  PaintLikes(painter);
   PaintWork(painter);
   painter.restore();
   if (hasFocus()) {
@@ -102,7 +103,8 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
     painter.drawRect(QRectF(QPointF(box->topLeft.x, box->topLeft.y),
                             QPointF(box->bottomRight.x, box->bottomRight.y)));
   }
-  const bool pointing = viewer_.Tool() != PlanTool::None || viewer_.PointNext();
+  const bool pointing =
+      viewer_.Tool() != PlanTool::None || viewer_.BoxNext() || viewer_.PointNext();
   if (!pointing || !hasFocus()) return;
   const PagePoint hair = viewer_.CrossHair();
   if (const std::optional<SnapHit> sign = viewer_.Snap().Sign())

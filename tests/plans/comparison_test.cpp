@@ -161,15 +161,15 @@ TEST_F(Comparing, ChangedTextsAndLinesAreListedAndWalkedThrough) {
   EXPECT_NE(Words().find("2 changed places."), std::string::npos) << Words();
   PageBox shown;
   draw->Compared().onShowPlace = [&](const PageBox& box) { shown = box; };
-  draw->Key({PlanKey::NextPlace, false, false});
+  draw->Key({PlanKey::No, false, false});
   EXPECT_NEAR(shown.left, 50, 1);
   EXPECT_NEAR(shown.right, 80, 1);
   EXPECT_NEAR(shown.top, 612 - 500, 2);
-  draw->Key({PlanKey::NextPlace, false, false});
+  draw->Key({PlanKey::No, false, false});
   EXPECT_EQ(draw->Compared().Place(), 1);
-  draw->Key({PlanKey::NextPlace, false, false});
+  draw->Key({PlanKey::No, false, false});
   EXPECT_EQ(draw->Compared().Place(), 0) << "round the end";
-  draw->Key({PlanKey::NextPlace, true, false});
+  draw->Key({PlanKey::No, true, false});
   EXPECT_EQ(draw->Compared().Place(), 1);
   draw->Compared().onShowPlace = nullptr;
 }

@@ -180,7 +180,10 @@ void FormsStage::PlanKey(const PlanStroke& stroke) {
   GoToPlan();
   Control* plan = GetDesk().Find(QStringLiteral("OST"))->Find(QStringLiteral("picPdfDraw"));
   if (plan != nullptr) GetDesk().UserFocus(*plan);
-  GetDesk().Dispatch([&] { played_->Viewer().Key(stroke); });
+  GetDesk().Dispatch([&] {
+    played_->Viewer().Key(stroke);
+    played_->Viewer().Same().Finish(kSearchPatience);
+  });
 }
 
 void FormsStage::PlanScroll(double dx, double dy) {
@@ -195,7 +198,10 @@ void FormsStage::PlanPage(int page) {
 
 void FormsStage::PlanBox(PagePoint from, PagePoint to) {
   GoToPlan();
-  GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
+  GetDesk().Dispatch([&] {
+    played_->Viewer().DrawBox(from, to);
+    played_->Viewer().Same().Finish(kSearchPatience);
+  });
 }
 
 void FormsStage::PlanOutline(PlanTool tool, const std::vector<PagePoint>& points) {

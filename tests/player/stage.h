@@ -9,6 +9,9 @@
 
 namespace tamo::player {
 
+// How long a search on the plan may take, in milliseconds.
+inline constexpr int kSearchPatience = 20000;
+
 // How a step of a person becomes events of the program. The runner has made sure that the person
 // can reach what the step names; what only the stage can see (a widget that is covered, no field
 // with the focus) it reports by Fail.

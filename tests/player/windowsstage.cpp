@@ -95,6 +95,7 @@ class WindowsStage : public Stage {
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;
   void PlanBox(PagePoint from, PagePoint to) override;
+  void FinishSearch();
   void PlanOutline(PlanTool tool, const std::vector<PagePoint>& points) override;
 
   QString Difference(bool front) override;
@@ -416,8 +417,10 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
       {tamo::PlanKey::Arc, Qt::Key_B},
       {tamo::PlanKey::Snap, Qt::Key_S},
       {tamo::PlanKey::NextSnap, Qt::Key_Tab},
+      {tamo::PlanKey::Yes, Qt::Key_Y},
+      {tamo::PlanKey::No, Qt::Key_N},
+      {tamo::PlanKey::All, Qt::Key_A},
       {tamo::PlanKey::Compare, Qt::Key_D},
-      {tamo::PlanKey::NextPlace, Qt::Key_N},
       {tamo::PlanKey::TwoPoints, Qt::Key_2},
       {tamo::PlanKey::Layer, Qt::Key_O},
       {tamo::PlanKey::SwapSides, Qt::Key_X},
@@ -433,6 +436,7 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
   for (const auto& [key, code] : keys) {
     if (key == stroke.key) QTest::keyClick(&plan, code, held);
   }
+  FinishSearch();
 }
 
 // The wheel and the mouse move whole pixels; a scenario means points.
@@ -450,6 +454,12 @@ void WindowsStage::PlanPage(int page) {
 void WindowsStage::PlanBox(PagePoint from, PagePoint to) {
   Plan();
   GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
+  FinishSearch();
+}
+
+// A symbol is looked for aside; a person goes on when it is found.
+void WindowsStage::FinishSearch() {
+  GetDesk().Dispatch([&] { played_->Viewer().Same().Finish(kSearchPatience); });
 }
 
 // Each point is clicked, Enter ends.

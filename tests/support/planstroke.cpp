@@ -12,8 +12,9 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
       {"Escape", PlanKey::Escape}, {"Backspace", PlanKey::Backspace},
       {"Undo", PlanKey::Undo},     {"Redo", PlanKey::Redo},
       {"Arc", PlanKey::Arc},       {"S", PlanKey::Snap},
-      {"Tab", PlanKey::NextSnap},  {"D", PlanKey::Compare},
-      {"N", PlanKey::NextPlace},   {"2", PlanKey::TwoPoints},
+      {"Tab", PlanKey::NextSnap},  {"Y", PlanKey::Yes},
+      {"N", PlanKey::No},          {"A", PlanKey::All},
+      {"D", PlanKey::Compare},     {"2", PlanKey::TwoPoints},
       {"O", PlanKey::Layer},       {"X", PlanKey::SwapSides}};
   PlanStroke read;
   QString rest = name.trimmed();

@@ -1,0 +1,23 @@
+#include "plans/likesheet.h"
+
+#include <algorithm>
+
+namespace tamo {
+
+std::vector<LikeLetter> LettersOf(const PageContent& content) {
+  std::vector<LikeLetter> letters;
+  for (const TextPiece& piece : content.texts) {
+    if (piece.hidden || piece.clipped) continue;
+    for (qsizetype i = 0; i < piece.text.size(); ++i) {
+      const PageBox& box = piece.places[static_cast<size_t>(i)].box;
+      if (piece.text[i].isSpace()) continue;
+      letters.push_back(
+          {{(box.left + box.right) / 2, (box.top + box.bottom) / 2}, piece.text[i].unicode()});
+    }
+  }
+  std::stable_sort(letters.begin(), letters.end(),
+                   [](const LikeLetter& a, const LikeLetter& b) { return a.at.x < b.at.x; });
+  return letters;
+}
+
+}  // namespace tamo
