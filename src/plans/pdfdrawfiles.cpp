@@ -193,7 +193,8 @@ int PdfDraw::OpenFile(const QString& given, const QString& password) {
   session_ = NewSession(path, password, error);
   if (session_ == nullptr) return ShowNothing(path, error, OpenReason(error));
   BeginPlan(given);
-  if (FinishOpening(patience_)) return ShownPath().isEmpty() ? kFileOther : kNoError;
+  if (FinishOpening(inSight_ ? patience_ : patienceOutOfSight_))
+    return ShownPath().isEmpty() ? kFileOther : kNoError;
   // A slow plan: a blank sheet stands for it until it is there, or has taken too long.
   FillPlan({}, {});
   FormsThread::After(forms_, longestOpening_, [opening = opening_](PdfDraw& draw) {
@@ -232,7 +233,7 @@ void PdfDraw::TakeOpened() {
   notices_.reservation = contents.reservation;
   notices_.caution = contents.caution;
   session_->sizes = contents.sizes;
-  for (const Mark& mark : contents.marks) session_->savedNames.insert(mark.name);
+  for (const Mark& mark : contents.marks) session_->saved.insert(mark.name, mark);
   StartPainting();
   // What was drawn on the blank sheet meanwhile is kept.
   contents.marks.insert(contents.marks.end(), MarksAsDrawn().begin(), MarksAsDrawn().end());

@@ -45,12 +45,14 @@ void PdfDraw::TellOfPages(PlanPainter& painter) {
 void PdfDraw::PicturesChanged() {
   if (session_ != nullptr && session_->painter != nullptr) TellOfPages(*session_->painter);
   if (onPicturesChanged) onPicturesChanged();
+  TellOfPainting();
 }
 
 void PdfDraw::Look(const PlanView& view) {
   comparison_->Pictures().Look(view);
-  if (comparison_->Shows(view.page)) return;
-  if (session_ != nullptr && session_->painter != nullptr) session_->painter->Look(view);
+  const bool plain = session_ != nullptr && session_->painter != nullptr;
+  if (plain && !comparison_->Shows(view.page)) session_->painter->Look(view);
+  TellOfPainting();
 }
 
 std::vector<PlacedPicture> PdfDraw::PicturesFor(const PlanView& view) {

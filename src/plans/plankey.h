@@ -7,9 +7,15 @@ namespace tamo {
 // cross hair; Escape drops the line in work; Backspace drops its last point; Enter gives the focus
 // back, and ends an outline in work; Arc makes its next two points those of an arc; Snap turns the
 // snap to the drawing on or off, NextSnap takes the cross hair to the next place near it; Yes, No
-// and All answer for a symbol that was found. Layer shows both sheets, the old or the new one
-// alone; PairNext and PairBefore lay another sheet over; TwoPoints lays the sheets over each other
-// by hand.
+// and All answer for a symbol that was found.
+//
+// No while nothing is asked, and MarkBefore choose a mark, one after the other, and put the tool
+// away. Of the mark that is chosen NextSnap takes a point, then the next; Left to Down move that
+// point, Delete takes the mark away, Escape lets go of it.
+//
+// While another plan is laid over this one, No goes to the next changed place, with Shift to the
+// one before; Layer shows both sheets, the old or the new one alone; PairNext and PairBefore lay
+// another sheet over; TwoPoints lays the sheets over each other by hand.
 enum class PlanKey {
   Left,
   Right,
@@ -25,16 +31,14 @@ enum class PlanKey {
   Snap,
   NextSnap,
   Yes,
-  No,  // while another plan is laid over this one: the next changed place; with Shift the one
-       // before
+  No,
   All,
-  // While another plan is laid over this one; Compare asks for it.
-  Compare,
-  TwoPoints,
-  Layer,
-  SwapSides,
-  PairNext,
-  PairBefore
+  MarkBefore,
+  Delete
+  //
+  // While another plan is laid over this one, No goes to the next changed place, with Shift to the
+  // one before; Layer shows both sheets, the old or the new one alone; PairNext and PairBefore lay
+  // another sheet over; TwoPoints lays the sheets over each other by hand.
 };
 
 struct PlanStroke {

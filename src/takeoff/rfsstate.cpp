@@ -1,5 +1,7 @@
 // What taking back shows of a room, and what it calls an entry.
 
+#include "common/columns.h"
+#include "common/numbers.h"
 #include "records/roomline.h"
 #include "takeoff/listchange.h"
 #include "takeoff/rfsform.h"
@@ -16,15 +18,20 @@ void RFSForm::BeginLine() {
   steps_.Begin(QStringLiteral("the line ") + TheLine() + InSheet(Room.Text()), *this);
 }
 
-void RFSForm::BeginQuantity() {
+void RFSForm::BeginQuantity(double total) {
   const bool surface = !IsLinearOrCount(Units.Text());
   const QString entry =
       surface ? How.Text() + QStringLiteral(" X ") + Length.Text() : Length.Text();
+  const RoomLine line(RoomList.Selected());
+  const EnteredLine into{false,           Room.Text(),
+                         line.System(),   TrimmedBlanks(Units.Text()),
+                         entry,           surface ? GroupedValue(How.Text()) : 1,
+                         line.Quantity(), total};
   steps_.Begin(entry + QStringLiteral(" of ") + TheLine() + InSheet(Room.Text()), *this);
   if (surface) {
-    steps_.Measured({{"RL", Length.Text()}, {"RH", How.Text()}});
+    steps_.Measured({{"RL", Length.Text()}, {"RH", How.Text()}}, into);
   } else {
-    steps_.Measured({{"RL", Length.Text()}});
+    steps_.Measured({{"RL", Length.Text()}}, into);
   }
 }
 
@@ -41,9 +48,11 @@ QString RFSForm::TargetOf(const TextField& field) const {
 }
 
 SheetState RFSForm::State() const {
-  SheetState state{record_.SheetFile(), RoomList.SharedRows(), RoomList.Index(), {}};
-  state.texts << How.Text() << CopyHeight << Lengths.Rows().join(QLatin1Char('\n'));
-  return state;
+  return {record_.SheetFile(),
+          RoomList.SharedRows(),
+          RoomList.Index(),
+          {How.Text(), CopyHeight},
+          Lengths.Rows()};
 }
 
 void RFSForm::ShowState(const SheetState& state) {
@@ -51,7 +60,7 @@ void RFSForm::ShowState(const SheetState& state) {
   SelectLine(state.line);
   How.SetText(state.texts.value(0));
   CopyHeight = state.texts.value(1);
-  Lengths.SetRows(state.texts.value(2).split(QLatin1Char('\n'), Qt::SkipEmptyParts));
+  Lengths.SetRows(state.entries);
   UpdateStatus();
 }
 

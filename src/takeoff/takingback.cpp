@@ -28,6 +28,7 @@ SheetState Moved(const SheetState& now, const SheetState& from, SheetState to) {
   for (qsizetype i = 0; i < to.texts.size(); ++i) {
     if (now.texts.value(i) != from.texts.value(i)) to.texts[i] = now.texts.value(i);
   }
+  if (now.entries != from.entries) to.entries = now.entries;
   return to;
 }
 
@@ -42,8 +43,9 @@ void TakingBack::Begin(const QString& what, const SheetScreen& screen) {
   open_->what = what;
 }
 
-void TakingBack::Measured(const std::vector<MeasuredMarks::Measured>& fields) {
-  if (open_) open_->marks = marks_.MarksOf(fields);
+void TakingBack::Measured(const std::vector<MeasuredMarks::Measured>& fields,
+                          const EnteredLine& line) {
+  if (open_) open_->marks = marks_.MarksOf(fields, line);
 }
 
 void TakingBack::Stores(const QString& path, bool shared) {

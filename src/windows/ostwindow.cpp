@@ -10,6 +10,8 @@
 #include "windows/formlayouts.h"
 #include "windows/plancanvas.h"
 #include "windows/plancolumn.h"
+#include "windows/planmarks.h"
+#include "windows/planpanels.h"
 #include "windows/plantoolbar.h"
 
 // The plan: thumbnails on the left, the plan in the middle with its tools over it, a narrow column
@@ -162,12 +164,14 @@ void LayOutOST(Builder& b) {
   PlanCanvas* canvas = Canvas(b);
   auto* row = new QHBoxLayout;
   row->setSpacing(0);
-  row->addWidget(Thumbnails(b, *canvas));
-  auto* beside = new QVBoxLayout;  // one of them at a time, as a rule
+  PlanThumbnails* thumbnails = Thumbnails(b, *canvas);
+  row->addWidget(thumbnails);
+  auto* beside = new QVBoxLayout;
   beside->setSpacing(0);
-  beside->addWidget(Browser(b));
-  beside->addWidget(ComparePanel(b));
+  beside->addWidget(PlanPanels(b, Browser(b)));
+  beside->addWidget(ComparePanel(b), 1);
   row->addLayout(beside);
+  BindPlanWays(b, *canvas, *thumbnails);
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(PlanToolBar(b, *canvas));
@@ -177,6 +181,7 @@ void LayOutOST(Builder& b) {
   middle->addWidget(Words(b));
   middle->addWidget(canvas, 1);
   middle->addWidget(FindText(b, *canvas));
+  middle->addWidget(PlanMarks(b));
   row->addLayout(middle, 1);
   row->addWidget(PlanColumn(b));
   FormWindow& window = b.Window();

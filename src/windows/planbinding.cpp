@@ -16,9 +16,21 @@ std::optional<PlanKey> PlanKeyOf(int code) {
                                                       {Qt::Key_Enter, PlanKey::Enter},
                                                       {Qt::Key_Escape, PlanKey::Escape},
                                                       {Qt::Key_Backspace, PlanKey::Backspace},
+                                                      {Qt::Key_Delete, PlanKey::Delete},
                                                       {Qt::Key_Z, PlanKey::Undo},
-                                                      {Qt::Key_Y, PlanKey::Redo},
-                                                      {Qt::Key_N, PlanKey::No}};
+                                                      {Qt::Key_Y, PlanKey::Redo}};
+  for (const auto& [known, key] : kKeys) {
+    if (known == code) return key;
+  }
+  return std::nullopt;
+}
+
+std::optional<PlanKey> LetterOf(int code) {
+  static constexpr std::pair<int, PlanKey> kKeys[] = {
+      {Qt::Key_B, PlanKey::Arc},     {Qt::Key_S, PlanKey::Snap},
+      {Qt::Key_N, PlanKey::No},      {Qt::Key_P, PlanKey::MarkBefore},
+      {Qt::Key_D, PlanKey::Compare}, {Qt::Key_2, PlanKey::TwoPoints},
+      {Qt::Key_O, PlanKey::Layer},   {Qt::Key_X, PlanKey::SwapSides}};
   for (const auto& [known, key] : kKeys) {
     if (known == code) return key;
   }
@@ -53,13 +65,8 @@ bool PlanCanvas::TakeLetter(int key) {
     desk_.Dispatch([&, tool = tool] { viewer_.PickTool(tool); });
     return true;
   }
-  static constexpr std::pair<int, PlanKey> kLetters[] = {
-      {Qt::Key_B, PlanKey::Arc},     {Qt::Key_S, PlanKey::Snap},
-      {Qt::Key_D, PlanKey::Compare}, {Qt::Key_2, PlanKey::TwoPoints},
-      {Qt::Key_O, PlanKey::Layer},   {Qt::Key_X, PlanKey::SwapSides}};
-  for (const auto& [letter, plan] : kLetters) {
-    if (letter != key) continue;
-    desk_.Dispatch([&, plan = plan] { viewer_.Key({plan, false, false}); });
+  if (const std::optional<PlanKey> plan = LetterOf(key)) {
+    desk_.Dispatch([&] { viewer_.Key({*plan, false, false}); });
     return true;
   }
   switch (key) {
@@ -91,7 +98,10 @@ bool PlanCanvas::TakeLetter(int key) {
 // Where there is nothing to snap to, Tab goes on to the next field as everywhere.
 bool PlanCanvas::TakeNextSnap() {
   bool taken = false;
-  desk_.Dispatch([&] { taken = viewer_.Snap().TakeKey(PlanKey::NextSnap); });
+  desk_.Dispatch([&] {
+    taken = viewer_.Hand().TakeKey({PlanKey::NextSnap, false, false}) ||
+            viewer_.Snap().TakeKey(PlanKey::NextSnap);
+  });
   return taken;
 }
 
@@ -108,6 +118,10 @@ bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
   if (event.modifiers().testFlag(Qt::AltModifier)) return false;
   FinishScroll();
+  if (!ctrl && shift && event.key() == Qt::Key_N) {
+    desk_.Dispatch([&] { viewer_.Key({PlanKey::No, true, false}); });
+    return true;
+  }
   if (!ctrl && TakeLetter(event.key())) return true;
   if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
     if (ctrl) return TakePairKey(event.key() == Qt::Key_PageDown);
@@ -117,7 +131,6 @@ bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   }
   const std::optional<PlanKey> key = PlanKeyOf(event.key());
   if (!key) return false;
-  if (*key == PlanKey::No && ctrl) return false;
   const bool needsCtrl = *key == PlanKey::Undo || *key == PlanKey::Redo;
   if (needsCtrl && !ctrl) return false;
   desk_.Dispatch([&] { viewer_.Key({*key, shift, ctrl}); });

@@ -15,6 +15,7 @@ namespace tamo {
 namespace {
 
 constexpr int kRest = 150;         // milliseconds after which the sheet rests
+constexpr double kStill = 3;       // pixels that a click may move
 constexpr double kWheelStep = 60;  // points for a notch of the wheel at 100 per cent
 
 }  // namespace
@@ -179,6 +180,15 @@ PagePoint PlanCanvas::Pointed(const QMouseEvent& event) {
                               event.modifiers().testFlag(Qt::AltModifier));
 }
 
+// A hand with a finger over a link, while a click on it follows it.
+void PlanCanvas::ShowPointer(const QPointF& place) {
+  const bool follows = viewer_.Tool() == PlanTool::None && !viewer_.BoxNext() && linkAt;
+  const QString link = follows ? linkAt(PageAt(place)) : QString();
+  if (viewport()->toolTip() == link) return;
+  viewport()->setToolTip(link);
+  viewport()->setCursor(link.isEmpty() ? Qt::CrossCursor : Qt::PointingHandCursor);
+}
+
 // Without a tool in hand the left button pulls the sheet, as the middle one always does.
 void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   const bool left = event->button() == Qt::LeftButton;
@@ -188,11 +198,16 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   pressedAt_ = event->position();
   const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext() || viewer_.PointNext();
   panning_ = !left || !tool;
+  pulled_ = false;
   if (!left) return;
   drawing_ = tool;
   const PagePoint at = Pointed(*event);
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
   desk_.Dispatch([&] { viewer_.Press(at, shift); });
+  // A point of the chosen mark is moved, not the sheet.
+  if (!viewer_.Hand().Holds()) return;
+  panning_ = false;
+  drawing_ = true;
 }
 
 void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
@@ -203,11 +218,16 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
     desk_.Dispatch([&] { viewer_.Release(PageAt(pressedAt_), shift); });
   }
   if (panning_ && event->buttons() != Qt::NoButton) {
+    const QPointF moved = event->position() - pressedAt_;
+    if (!pulled_ && moved.manhattanLength() < kStill) return;
+    pulled_ = true;
+    viewer_.Hand().Pulled();
     viewport()->setCursor(Qt::ClosedHandCursor);
     Pan((panFrom_ - event->position()) / Scale());
     panFrom_ = event->position();
     return;
   }
+  ShowPointer(event->position());
   const bool follows = drawing_ || viewer_.WorkFrom() || viewer_.Snap().Active();
   if (!follows && !viewer_.PointNext()) return;
   const PagePoint at = Pointed(*event);
@@ -220,7 +240,7 @@ void PlanCanvas::mouseReleaseEvent(QMouseEvent* event) {
     viewport()->setCursor(Qt::CrossCursor);
     FinishScroll();
   }
-  if (event->button() != Qt::LeftButton) return;
+  if (event->button() != Qt::LeftButton || pulled_) return;
   drawing_ = false;
   const PagePoint at = Pointed(*event);
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);

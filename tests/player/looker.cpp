@@ -5,6 +5,7 @@
 #include "common/desk.h"
 #include "common/textlines.h"
 #include "plans/comparison.h"
+#include "plans/ostform.h"
 #include "player/caret.h"
 #include "player/cast.h"
 #include "player/trouble.h"
@@ -64,6 +65,8 @@ QStringList Looker::Look(const QString& what) {
   if (what.contains(QLatin1String("OST.")) && played_ != nullptr)
     played_->GetDesk().Dispatch([this] {
       played_->Viewer().Snap().TellOfSheet(kPatience);
+      auto* ost = dynamic_cast<OSTForm*>(played_->FindForm(QStringLiteral("OST")));
+      if (ost != nullptr) ost->Ways().FinishReading(kPatience);
       played_->Viewer().Compared().Settle(kPatience);
     });
   QString text;
@@ -110,7 +113,7 @@ bool Looker::LookAtPlan(const QString& word, QString& text) {
   static const QStringList words = {QStringLiteral("marks"), QStringLiteral("tool"),
                                     QStringLiteral("pen"),   QStringLiteral("zoom"),
                                     QStringLiteral("page"),  QStringLiteral("unit"),
-                                    QStringLiteral("shown")};
+                                    QStringLiteral("shown"), QStringLiteral("chosen")};
   const qsizetype at = words.indexOf(word);
   if (at < 0) return false;
   const PdfDraw& viewer = Program().Viewer();
@@ -134,6 +137,9 @@ bool Looker::LookAtPlan(const QString& word, QString& text) {
       break;
     case 5:
       text = viewer.UnitName();
+      break;
+    case 7:
+      text = ChosenLine(viewer);
       break;
     default:
       text = viewer.ShownFile();

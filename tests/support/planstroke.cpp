@@ -14,6 +14,7 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
       {"Arc", PlanKey::Arc},       {"S", PlanKey::Snap},
       {"Tab", PlanKey::NextSnap},  {"Y", PlanKey::Yes},
       {"N", PlanKey::No},          {"A", PlanKey::All},
+      {"P", PlanKey::MarkBefore},  {"Delete", PlanKey::Delete},
       {"D", PlanKey::Compare},     {"2", PlanKey::TwoPoints},
       {"O", PlanKey::Layer},       {"X", PlanKey::SwapSides}};
   PlanStroke read;
