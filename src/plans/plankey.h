@@ -34,11 +34,13 @@ enum class PlanKey {
   No,
   All,
   MarkBefore,
-  Delete
-  //
-  // While another plan is laid over this one, No goes to the next changed place, with Shift to the
-  // one before; Layer shows both sheets, the old or the new one alone; PairNext and PairBefore lay
-  // another sheet over; TwoPoints lays the sheets over each other by hand.
+  Delete,
+  Compare,  // asks for a plan to be laid over this one
+  TwoPoints,
+  Layer,
+  SwapSides,
+  PairNext,
+  PairBefore
 };
 
 struct PlanStroke {
