@@ -23,7 +23,7 @@ QByteArray Floor(const char* number, const char* dimension, const QByteArray& mo
              "1 w 20 20 752 572 re S 600 20 172 572 re S\n"
              "100 100 400 300 re S 100 250 m 500 250 l S 300 100 m 300 400 l S\n"
              "140 130 m 260 220 l S 340 300 90 60 re S\n") +
-         Text(180, 410, dimension) + Text(620, 40, number, 24) + more;
+         Text(180, 410, dimension) + Text(620, 40, number, 24) + Text(620, 76, "FLOOR PLAN") + more;
 }
 
 PdfPage Page(const QByteArray& content, const QByteArray& boxes = "/MediaBox[0 0 792 612]") {
@@ -179,7 +179,7 @@ TEST_F(Comparing, ChangedTextsAndLinesAreListedAndWalkedThrough) {
 TEST_F(Comparing, TheSameSheetWrittenOtherwiseHasNoChanges) {
   const QByteArray plain = Floor("A-101", "8'-0\"");
   const QByteArray written = "q 0.5 0 0 0.5 30.25 -40.5 cm 2 w\n" + Text(1240, 80, "A-101", 48) +
-                             Text(360, 820, "8'", 24) +
+                             Text(1240, 152, "FLOOR PLAN", 24) + Text(360, 820, "8'", 24) +
                              "680 600 180 120 re S 280 260 m 400 350 l S 400 350 m 520 440 l S\n"
                              "600 800 m 600 500 l S 600 500 m 600 200 l S 200 500 m 1000 500 l S\n"
                              "200 200 m 1000 200 l 1000 800 l 200 800 l h S 1200 40 344 1144 re S "
