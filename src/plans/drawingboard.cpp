@@ -140,6 +140,7 @@ void DrawingBoard::PickTool(PlanTool tool) {
 void DrawingBoard::Press(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   crossHair_ = at;
+  if (pointNext_) return Raise(onPointGiven, at);
   Raise(onMousePressed);
   if (boxNext_) {
     boxing_ = true;
@@ -166,7 +167,7 @@ void DrawingBoard::Move(PagePoint at, bool shift) {
   if (OutlineActive()) return MoveOutline(at, shift);
   if (line_ != LineState::None) {
     MoveLine(LineEnd(at, shift));
-  } else if (tool_ != PlanTool::None) {
+  } else if (tool_ != PlanTool::None || pointNext_) {
     Repaint();
   } else {
     MoveFree(at, shift);
@@ -217,6 +218,12 @@ void DrawingBoard::PlaceCircle(PagePoint at) {
   if (tool_ != PlanTool::Counting) PickTool(PlanTool::Counting);
   Press(at, false);
   Release(at, false);
+}
+
+void DrawingBoard::SetPointNext(bool point) {
+  DropWork();
+  pointNext_ = point;
+  Repaint();
 }
 
 // The tool that is in hand counts, or the counting tool is taken.
@@ -283,7 +290,7 @@ void DrawingBoard::MoveCrossHair(const PlanStroke& stroke) {
 
 void DrawingBoard::PressArrow(const PlanStroke& stroke) {
   const PagePoint way = DirectionOf(stroke.key);
-  if (tool_ == PlanTool::None && !boxNext_) {
+  if (tool_ == PlanTool::None && !boxNext_ && !pointNext_) {
     ScrollBy(way.x * kScrollStep, way.y * kScrollStep);
   } else {
     MoveCrossHair(stroke);
@@ -293,13 +300,14 @@ void DrawingBoard::PressArrow(const PlanStroke& stroke) {
 // Space is the mouse button of the keyboard: it places the first point, then the second.
 void DrawingBoard::PressSpace(bool shift) {
   if (boxing_) return DrawBox(boxFrom_, crossHair_);
-  if (tool_ == PlanTool::None && !boxNext_) return;
+  if (tool_ == PlanTool::None && !boxNext_ && !pointNext_) return;
   Press(crossHair_, shift);
   if (line_ == LineState::Dragging) line_ = LineState::Placed;
   if (line_ == LineState::Closing) EndLine();
 }
 
 void DrawingBoard::Key(const PlanStroke& stroke) {
+  if (TakeOverlayKey(stroke)) return;
   if (TakeOutlineKey(stroke.key) || TakeMarkKey(stroke) || TakeSnapKey(stroke.key)) return;
   switch (stroke.key) {
     case PlanKey::Left:

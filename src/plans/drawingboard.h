@@ -70,6 +70,10 @@ class DrawingBoard : public OutlineBoard {
   void DrawBox(PagePoint from, PagePoint to);
   const std::optional<DrawnBox>& Box() const { return box_; }
 
+  // The next presses, whatever tool is in hand, give points and draw nothing.
+  void SetPointNext(bool point);
+  bool PointNext() const { return pointNext_; }
+
   // What is painted of it; nothing is worked out here.
   const LineInWork& LineWork() const { return work_; }
   PagePoint CrossHair() const { return crossHair_; }
@@ -83,6 +87,8 @@ class DrawingBoard : public OutlineBoard {
   void ClearBoard();
   void CentreCrossHair();
   void LeavePage() override { DropWork(); }
+  // True when the key was one of a plan that is laid over this one.
+  virtual bool TakeOverlayKey(const PlanStroke& /*stroke*/) { return false; }
   // True when the key was one of snapping.
   virtual bool TakeSnapKey(PlanKey /*key*/) { return false; }
   // The pointer and the keys while no tool is in hand. True when the key was taken.
@@ -116,6 +122,7 @@ class DrawingBoard : public OutlineBoard {
   enum class LineState { None, Dragging, Placed, Closing };
   LineState line_ = LineState::None;
   LineInWork work_;
+  bool pointNext_ = false;
   bool boxNext_ = false;
   BoxUse boxUse_ = BoxUse::Table;
   bool boxing_ = false;  // it is being drawn

@@ -75,6 +75,12 @@ struct OstControls : Form {
   Button MarkToLine{*this, "MarkToLine", "To Its &Takeoff Line (F7)"};
   Label MarksSummary{*this, "MarksSummary"};
   OrderedList MarksTotals{*this, "MarksTotals"};  // by system, of the sheet and of the plan
+  // Shown while another plan is laid over this one: what is compared and how.
+  Frame ComparePanel{*this, "ComparePanel"};
+  Label CompareWords{*this, "CompareWords"};
+  TextField ComparePassword{*this, "ComparePassword"};  // while the other plan wants one
+  OrderedList ChangedPlaces{*this, "ChangedPlaces"};    // of the sheet in front
+  Label PlaceWords{*this, "PlaceWords"};                // all that is said of the one in hand
 };
 
 }  // namespace tamo

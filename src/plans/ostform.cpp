@@ -34,7 +34,8 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       surfaces_(*this, scale_, measure_, takeoff),
       sheetScales_(kit, *this, viewer, scale_, record_),
       ways_(kit, *this, viewer, record_),
-      marks_(kit, *this, viewer, [this] { SaveIt(); }) {
+      marks_(kit, *this, viewer, [this] { SaveIt(); }),
+      compare_(kit, *this, viewer) {
   AddText(QStringLiteral("ViewerName"), &ViewerName);
   AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
   SetCaption(QStringLiteral("Digital Plan Takeoff"));
@@ -45,6 +46,7 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
   BindMarks();
   BindPlanKeys();
   BindSheets();
+  BindCompare();
 }
 
 void OSTForm::BindFields() {
@@ -52,7 +54,8 @@ void OSTForm::BindFields() {
     field->readOnly = true;
     field->inTabOrder = false;
   }
-  // The focus stays on the plan, so that Remove Last Mark knows that the plan was worked on.
+  // The focus stays on the plan, so that Remove Last Mark knows that the plan
+  // was worked on.
   for (Control* button : std::initializer_list<Control*>{&SetInches, &CheckDimension, &Check1,
                                                          &Command2, &Command3}) {
     button->takesFocus = false;
@@ -107,6 +110,13 @@ void OSTForm::BindMenus() {
   for (const auto scales : {InchScales(), MillimetreScales(), CentimetreScales()}) {
     for (const ScaleEntry& scale : scales) on(scale.name, [this, &scale] { ChooseScale(scale); });
   }
+}
+
+void OSTForm::BindCompare() {
+  compare_.Carry().onCarried = [this] {
+    if (!TrimmedBlanks(kit_.shared.JobID).isEmpty()) SaveIt();
+  };
+  compare_.onChoosePlan = [this] { return onChoosePlan ? onChoosePlan() : QString(); };
 }
 
 void OSTForm::BindOutlines() {
@@ -188,6 +198,7 @@ void OSTForm::BindViewer() {
     ways_.PageShown();
     viewer_.Same().Follow();
     sheetScales_.SheetChanged();
+    compare_.SheetChanged();
   });
   viewer_.onScrolled = event([this] {
     if (Visible()) record_.SaveAfterScroll();

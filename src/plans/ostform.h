@@ -7,6 +7,7 @@
 #include "common/kit.h"
 #include "plans/markspanel.h"
 #include "plans/ostcontrols.h"
+#include "plans/plancompare.h"
 #include "plans/planmeasure.h"
 #include "plans/plannotespanel.h"
 #include "plans/planopener.h"
@@ -66,6 +67,8 @@ class OSTForm : public OstControls {
   std::function<void()> onPlanPressed;  // a press on the plan; the cross hair stands there
   // What is known of the sheets, and the ways to them.
   PlanWayfinding& Ways() { return ways_; }
+  // Asks for the plan that is laid over this one; "" for none. Without it none is.
+  std::function<QString()> onChoosePlan;
 
   QString ViewerName;
 
@@ -75,6 +78,7 @@ class OSTForm : public OstControls {
   void BindViewer();
   void BindOutlines();
   void BindMarks();
+  void BindCompare();
   void BindPlanKeys();
   void BindSheets();
   void EnterOnPlan();
@@ -97,6 +101,7 @@ class OSTForm : public OstControls {
   SheetScales sheetScales_;
   PlanWayfinding ways_;
   MarksPanel marks_;
+  PlanCompare compare_;
 };
 
 }  // namespace tamo

@@ -100,6 +100,17 @@ constexpr Row kPlan[] = {
     {"RefreshLegends", "Legends &Up to Date", "MarkMenu"},
     {"RemoveLegends", "&Remove the Legends", "MarkMenu"},
     {"MarkLine", "To Its &Takeoff Line (F7)", "MarkMenu"},
+    {"CompareMenu", "Re&vis.", ""},
+    {"CompareWith", "&Compare With ... (D)", "CompareMenu"},
+    {"CompareNext", "Ne&xt Changed Place (N)", "CompareMenu"},
+    {"ComparePoints", "Lay Over by &Two Points (2)", "CompareMenu"},
+    {"CompareLayer", "&Old, New or Both (O)", "CompareMenu"},
+    {"ComparePairNext", "&Next Sheet Over This One (Ctrl+Page Down)", "CompareMenu"},
+    {"ComparePairBefore", "Sheet &Before Over This One (Ctrl+Page Up)", "CompareMenu"},
+    {"CarryMarks", "Carry the Old &Marks Over", "CompareMenu"},
+    {"CarryAllMarks", "Carry the Old Marks of &All Sheets Over", "CompareMenu"},
+    {"CompareSwap", "Other Plan Is Ne&wer (X)", "CompareMenu"},
+    {"CompareEnd", "&End Comparing (Escape)", "CompareMenu"},
 };
 
 class Bar {

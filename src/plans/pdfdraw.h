@@ -14,6 +14,7 @@
 
 namespace tamo {
 
+class Comparison;
 class PlanPainter;
 class Replacement;
 
@@ -77,6 +78,20 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   // Null when none is shown, or it is still opening.
   std::shared_ptr<EnginePlan> OpenedPlan() const;
 
+  // A plan for reading beside the one shown, not opened yet; nothing is written to it. Null when it
+  // is not there: `error` says why.
+  std::shared_ptr<EnginePlan> OpenBeside(const QString& path, int& error);
+  bool ShowsFile(const QString& path) const;
+  std::vector<PageSize> Sizes() const;
+  // Another plan laid over the one shown; it ends with it.
+  Comparison& Compared() { return *comparison_; }
+  const Comparison& Compared() const { return *comparison_; }
+  // Puts marks of another plan onto this one, each under its own name. False when the user does not
+  // want this plan to be marked.
+  bool PutMarks(const std::vector<Mark>& marks);
+  // What is in sight is to be painted anew.
+  void ShowAnew() { ViewChanged(); }
+
   // Where the pointer takes hold of the drawing while something is measured.
   SnapPointer& Snap() { return snap_; }
   // The mark that is chosen, to be changed.
@@ -113,6 +128,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void ReleaseFree(PagePoint at, bool shift) override { hand_.Release(at, shift); }
   void ToolComes() override { hand_.LetGo(); }
   void SymbolBoxed(const DrawnBox& box) override;
+  bool TakeOverlayKey(const PlanStroke& stroke) override;
 
  private:
   struct Session;
@@ -180,6 +196,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   SnapPointer snap_{*this};
   MarkHand hand_{*this};
   SameSymbols same_{*this};
+  std::unique_ptr<Comparison> comparison_;
   int patience_ = 10000;
   int patienceOutOfSight_ = 10000;
   bool inSight_ = true;

@@ -6,12 +6,11 @@
 
 #include "common/failure.h"
 #include "common/paths.h"
+#include "plans/comparison.h"
 #include "plans/plansession.h"
 
 namespace tamo {
 namespace {
-
-constexpr int kPrintPatience = 60000;
 
 QString OpenReason(int error) {
   switch (error) {
@@ -24,17 +23,6 @@ QString OpenReason(int error) {
     default:
       return QStringLiteral("the device reports a failure");
   }
-}
-
-QString GapsInWords(PageGaps gaps) {
-  QStringList words;
-  if (gaps.pictures) {
-    words << QStringLiteral(
-        "a picture on it is missing, because it is damaged or needs too much memory");
-  }
-  if (gaps.patterns) words << QStringLiteral("a hatch on it is too fine to be drawn everywhere");
-  if (gaps.contents) words << QStringLiteral("parts of it are damaged");
-  return words.join(QStringLiteral("; "));
 }
 
 }  // namespace
@@ -96,6 +84,7 @@ QString PdfDraw::ShownFile() const {
 
 // A plan begins: its pages and marks are not known yet.
 void PdfDraw::BeginPlan(const QString& path) {
+  comparison_->End();
   path_ = path;
   notices_.reservation.clear();
   notices_.caution.clear();
@@ -123,7 +112,10 @@ bool PdfDraw::MayMark() {
 // --- Opening and closing
 
 PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
-    : files_(files), engine_(engine), forms_(std::make_shared<FormsThread>(this)) {
+    : files_(files),
+      engine_(engine),
+      forms_(std::make_shared<FormsThread>(this)),
+      comparison_(std::make_unique<Comparison>(*this)) {
   snap_.Lines().onRead = [forms = forms_] {
     FormsThread::Post(forms, [](PdfDraw& draw) {
       draw.snap_.TellOfSheet();
@@ -252,6 +244,7 @@ void PdfDraw::TakeOpened() {
 void PdfDraw::StartPainting() {
   session_->painter = std::make_unique<PlanPainter>(
       session_->plan, session_->sizes, [forms = forms_] { FormsThread::PostPictures(forms); });
+  comparison_->Follow();
 }
 
 std::unique_ptr<PdfDraw> PdfDraw::SetAside() {
@@ -284,65 +277,6 @@ void PdfDraw::BringBack(PdfDraw& aside) {
   if (session_ == nullptr) return FillPlan({}, {});
   StartPainting();
   FillPlan(session_->sizes, std::move(marks));
-}
-
-// --- Pictures
-
-void PdfDraw::TellOfPages(PlanPainter& painter) {
-  for (const int page : painter.TakeFailedPages()) {
-    problem_ = QStringLiteral(
-                   "Page %1 of %2 can't be drawn: it is damaged or needs too much time or "
-                   "memory. The other pages and all marks are unaffected.")
-                   .arg(page)
-                   .arg(ShownFile());
-    Raise(onPageProblem, problem_);
-  }
-  for (const auto& [page, gaps] : painter.TakeGaps()) {
-    problem_ = QStringLiteral("Page %1 of %2 is not shown whole: %3. Marks are unaffected.")
-                   .arg(QString::number(page), ShownFile(), GapsInWords(gaps));
-    Raise(onPageProblem, problem_);
-  }
-}
-
-void PdfDraw::PicturesChanged() {
-  if (session_ != nullptr && session_->painter != nullptr) TellOfPages(*session_->painter);
-  if (onPicturesChanged) onPicturesChanged();
-  TellOfPainting();
-}
-
-void PdfDraw::Look(const PlanView& view) {
-  if (session_ != nullptr && session_->painter != nullptr) session_->painter->Look(view);
-  TellOfPainting();
-}
-
-std::vector<PlacedPicture> PdfDraw::PicturesFor(const PlanView& view) {
-  if (session_ == nullptr || session_->painter == nullptr) return {};
-  return session_->painter->PicturesFor(view);
-}
-
-std::shared_ptr<const Picture> PdfDraw::Thumbnail(int page, int longSide) {
-  if (session_ == nullptr || session_->painter == nullptr) return nullptr;
-  return session_->painter->Thumbnail(page, longSide);
-}
-
-std::shared_ptr<const Picture> PdfDraw::PrintPicture(const PlanView& part,
-                                                     const std::function<void()>& meanwhile) {
-  if (session_ == nullptr || session_->painter == nullptr) return nullptr;
-  return session_->painter->PrintPicture(part, kPrintPatience, meanwhile);
-}
-
-std::shared_ptr<EnginePlan> PdfDraw::OpenedPlan() const {
-  return session_ != nullptr && opening_ == nullptr ? session_->plan : nullptr;
-}
-
-bool PdfDraw::WaitUntilSharp(int milliseconds) {
-  return session_ != nullptr && session_->painter != nullptr &&
-         session_->painter->WaitUntilSharp(milliseconds);
-}
-
-bool PdfDraw::WaitForCoarse(int milliseconds) {
-  return session_ != nullptr && session_->painter != nullptr &&
-         session_->painter->WaitForCoarse(milliseconds);
 }
 
 }  // namespace tamo

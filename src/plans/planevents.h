@@ -57,6 +57,8 @@ struct PlanEvents {
   std::function<void(PagePoint at)> onPlainClick;
   // Whether something that is looked at is still to be painted.
   std::function<void(bool painting)> onPainting;
+  std::function<void()> onCompareKey;              // another plan is to be laid over this one
+  std::function<void(PagePoint at)> onPointGiven;  // see DrawingBoard::SetPointNext
   std::function<void()> onPrint;
   std::function<void()> onBringToFront;
   std::function<void()> onMarksChanged;  // marks, the line in work or the cross hair: paint again

@@ -12,6 +12,10 @@ namespace tamo {
 // No while nothing is asked, and MarkBefore choose a mark, one after the other, and put the tool
 // away. Of the mark that is chosen NextSnap takes a point, then the next; Left to Down move that
 // point, Delete takes the mark away, Escape lets go of it.
+//
+// While another plan is laid over this one, No goes to the next changed place, with Shift to the
+// one before; Layer shows both sheets, the old or the new one alone; PairNext and PairBefore lay
+// another sheet over; TwoPoints lays the sheets over each other by hand.
 enum class PlanKey {
   Left,
   Right,
@@ -30,7 +34,13 @@ enum class PlanKey {
   No,
   All,
   MarkBefore,
-  Delete
+  Delete,
+  Compare,  // asks for a plan to be laid over this one
+  TwoPoints,
+  Layer,
+  SwapSides,
+  PairNext,
+  PairBefore
 };
 
 struct PlanStroke {

@@ -177,6 +177,9 @@ void Program::ReadPictures(std::shared_ptr<const SheetPictures> pictures) {
 }
 void Program::ChooseFilesWith(FileChooser chooser) {
   parts_->reportSaver.onChoose = chooser;
+  parts_->ost.onChoosePlan = [chooser] {
+    return chooser({false, QStringLiteral("Compare With"), {}, {QStringLiteral("Plans (*.pdf)")}});
+  };
   parts_->systemSheets.onChoose = std::move(chooser);
 }
 void Program::DrawChartsWith(std::function<void(const ChartData& chart)> draw) {

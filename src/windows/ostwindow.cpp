@@ -4,6 +4,7 @@
 #include <QProgressDialog>
 
 #include "program/program.h"
+#include "windows/comparepanel.h"
 #include "windows/findbar.h"
 #include "windows/findonplan.h"
 #include "windows/formlayouts.h"
@@ -167,7 +168,11 @@ void LayOutOST(Builder& b) {
   row->setSpacing(0);
   PlanThumbnails* thumbnails = Thumbnails(b, *canvas);
   row->addWidget(thumbnails);
-  row->addWidget(PlanPanels(b, Browser(b)));
+  auto* beside = new QVBoxLayout;
+  beside->setSpacing(0);
+  beside->addWidget(PlanPanels(b, Browser(b)));
+  beside->addWidget(ComparePanel(b), 1);
+  row->addLayout(beside);
   BindPlanWays(b, *canvas, *thumbnails);
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);

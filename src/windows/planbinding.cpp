@@ -26,10 +26,11 @@ std::optional<PlanKey> PlanKeyOf(int code) {
 }
 
 std::optional<PlanKey> LetterOf(int code) {
-  static constexpr std::pair<int, PlanKey> kKeys[] = {{Qt::Key_B, PlanKey::Arc},
-                                                      {Qt::Key_S, PlanKey::Snap},
-                                                      {Qt::Key_N, PlanKey::No},
-                                                      {Qt::Key_P, PlanKey::MarkBefore}};
+  static constexpr std::pair<int, PlanKey> kKeys[] = {
+      {Qt::Key_B, PlanKey::Arc},     {Qt::Key_S, PlanKey::Snap},
+      {Qt::Key_N, PlanKey::No},      {Qt::Key_P, PlanKey::MarkBefore},
+      {Qt::Key_D, PlanKey::Compare}, {Qt::Key_2, PlanKey::TwoPoints},
+      {Qt::Key_O, PlanKey::Layer},   {Qt::Key_X, PlanKey::SwapSides}};
   for (const auto& [known, key] : kKeys) {
     if (known == code) return key;
   }
@@ -104,13 +105,26 @@ bool PlanCanvas::TakeNextSnap() {
   return taken;
 }
 
+// Another sheet of the plan that is laid over this one.
+bool PlanCanvas::TakePairKey(bool next) {
+  desk_.Dispatch([&] {
+    viewer_.Key({next ? PlanKey::PairNext : PlanKey::PairBefore, false, true});
+  });
+  return true;
+}
+
 bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
   if (event.modifiers().testFlag(Qt::AltModifier)) return false;
   FinishScroll();
+  if (!ctrl && shift && event.key() == Qt::Key_N) {
+    desk_.Dispatch([&] { viewer_.Key({PlanKey::No, true, false}); });
+    return true;
+  }
   if (!ctrl && TakeLetter(event.key())) return true;
   if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
+    if (ctrl) return TakePairKey(event.key() == Qt::Key_PageDown);
     const int page = viewer_.Page() + (event.key() == Qt::Key_PageDown ? 1 : -1);
     desk_.Dispatch([&] { viewer_.TurnPage(page); });
     return true;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "plans/comparison.h"
 #include "windows/look.h"
 #include "windows/planpaint.h"
 
@@ -33,6 +34,9 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
   connect(&rest_, &QTimer::timeout, this, [this] { FinishScroll(); });
   viewer_.onMarksChanged = [this] { viewport()->update(); };
   viewer_.onViewChanged = [this] { ViewChanged(); };
+  viewer_.Compared().onShowPlace = [this](const PageBox& box) {
+    PlaceInView({(box.left + box.right) / 2, (box.top + box.bottom) / 2});
+  };
   viewer_.onLookAt = [this](PagePoint at) { PlaceInView(at); };
   if (pictures_ != nullptr) {
     pictures_->onPicturesChanged = [this] {
@@ -45,6 +49,7 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
 PlanCanvas::~PlanCanvas() {
   viewer_.onMarksChanged = nullptr;
   viewer_.onViewChanged = nullptr;
+  viewer_.Compared().onShowPlace = nullptr;
   viewer_.onLookAt = nullptr;
   viewer_.onPrint = nullptr;
   viewer_.onBringToFront = nullptr;
@@ -191,7 +196,7 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   FinishScroll();
   panFrom_ = event->position();
   pressedAt_ = event->position();
-  const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext();
+  const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext() || viewer_.PointNext();
   panning_ = !left || !tool;
   pulled_ = false;
   if (!left) return;
@@ -223,7 +228,8 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
     return;
   }
   ShowPointer(event->position());
-  if (!drawing_ && !viewer_.WorkFrom() && !viewer_.Snap().Active()) return;
+  const bool follows = drawing_ || viewer_.WorkFrom() || viewer_.Snap().Active();
+  if (!follows && !viewer_.PointNext()) return;
   const PagePoint at = Pointed(*event);
   desk_.Dispatch([&] { viewer_.Move(at, shift); });
 }

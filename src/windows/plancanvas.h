@@ -81,6 +81,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void PaintChosen(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
   void PaintFound(QPainter& painter) const;
+  void PaintChanged(QPainter& painter) const;
   void PaintLikes(QPainter& painter) const;
   void Pan(const QPointF& points);
   void ZoomAbout(const QPointF& place, const std::function<void()>& zoom);
@@ -89,6 +90,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void FitTo(double pixelsPerPoint);
   bool TakeLetter(int key);
   bool TakeNextSnap();
+  bool TakePairKey(bool next);
   bool TakeAnswer(int key);
   // Where on the page the mouse takes hold.
   PagePoint Pointed(const QMouseEvent& event);

@@ -1,6 +1,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "plans/comparison.h"
 #include "windows/look.h"
 #include "windows/plancanvas.h"
 #include "windows/planpaint.h"
@@ -37,6 +38,7 @@ void PlanCanvas::paintEvent(QPaintEvent*) {
   PaintMarks(painter);
   PaintChosen(painter);
   if (foundOn) PaintFound(painter);
+  PaintChanged(painter);
   PaintLikes(painter);
   PaintWork(painter);
   painter.restore();
@@ -56,6 +58,23 @@ void PlanCanvas::PaintFound(QPainter& painter) const {
     painter.setPen(QPen(colour, (found.walked ? 3 : 1.5) * pixel));
     painter.setBrush(found.walked ? QColor(255, 200, 0, 70) : QColor(255, 220, 80, 40));
     painter.drawRect(box.adjusted(-2 * pixel, -2 * pixel, 2 * pixel, 2 * pixel));
+  }
+}
+
+// What differs from the sheet laid under this one; the place in hand is thick.
+void PlanCanvas::PaintChanged(QPainter& painter) const {
+  const Comparison& compared = viewer_.Compared();
+  const SheetsCompared* known = compared.On() ? compared.Known() : nullptr;
+  if (known == nullptr || known->page != viewer_.Page()) return;
+  const double pixel = 1 / Scale();
+  painter.setBrush(Qt::NoBrush);
+  for (size_t i = 0; i < known->places.size(); ++i) {
+    const bool walked = compared.Place() == static_cast<int>(i);
+    const PageBox& box = known->places[i].box;
+    painter.setPen(QPen(QColor(0x20, 0x50, 0xd0), (walked ? 3.5 : 1.2) * pixel));
+    const double by = 4 * pixel;
+    painter.drawRect(QRectF(QPointF(box.left, box.top), QPointF(box.right, box.bottom))
+                         .adjusted(-by, -by, by, by));
   }
 }
 
@@ -98,8 +117,8 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
     painter.drawRect(QRectF(QPointF(box->topLeft.x, box->topLeft.y),
                             QPointF(box->bottomRight.x, box->bottomRight.y)));
   }
-  const bool pointing =
-      viewer_.Tool() != PlanTool::None || viewer_.BoxNext() || viewer_.Hand().Holds();
+  const bool pointing = viewer_.Tool() != PlanTool::None || viewer_.BoxNext() ||
+                        viewer_.PointNext() || viewer_.Hand().Holds();
   if (!pointing || !hasFocus()) return;
   const PagePoint hair = viewer_.CrossHair();
   if (const std::optional<SnapHit> sign = viewer_.Snap().Sign())

@@ -56,7 +56,7 @@ TEST_F(OstForm, TheBarStandsInOrder) {
                                 "Printit &Print",         "Documentation D&ocumentation",
                                 "Settings1 &Settings",    "Exit E&xit",
                                 "ScheduleMenu Sche&d.",   "DrawMenu Dra&w",
-                                "SheetsMenu &Go"};
+                                "SheetsMenu &Go",         "CompareMenu Re&vis."};
   EXPECT_EQ(bar.filter(QRegularExpression("^(?!Spacer)")), expected);
   for (const char* spacer : {"Spacer1", "Spacer2", "Spacer3"}) {
     ASSERT_NE(ost.FindMenu(spacer), nullptr);

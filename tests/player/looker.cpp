@@ -1,7 +1,10 @@
 #include "player/looker.h"
 
+#include <algorithm>
+
 #include "common/desk.h"
 #include "common/textlines.h"
+#include "plans/comparison.h"
 #include "plans/ostform.h"
 #include "player/caret.h"
 #include "player/cast.h"
@@ -17,6 +20,25 @@ QStringList AllShown(const QStringList& texts) {
   QStringList lines;
   for (const QString& text : texts) lines += Shown(text);
   return lines;
+}
+
+// The strongest of red, green and grey.
+QString InkInWords(const Picture& picture) {
+  constexpr int kFaint = 40;
+  int red = 0;
+  int green = 0;
+  int grey = 0;
+  for (const uint32_t pixel : picture.pixels) {
+    const int r = static_cast<int>(pixel >> 16 & 255);
+    const int g = static_cast<int>(pixel >> 8 & 255);
+    const int b = static_cast<int>(pixel & 255);
+    red = std::max(red, r - std::max(g, b));
+    green = std::max(green, g - std::max(r, b));
+    grey = std::max(grey, 255 - std::max({r, g, b}));
+  }
+  if (std::max({red, green, grey}) < kFaint) return QStringLiteral("white");
+  if (std::max(red, green) < kFaint) return QStringLiteral("stayed");
+  return red > green ? QStringLiteral("gone") : QStringLiteral("come");
 }
 
 QString TakeWord(QString& rest) {
@@ -45,6 +67,7 @@ QStringList Looker::Look(const QString& what) {
       played_->Viewer().Snap().TellOfSheet(kPatience);
       auto* ost = dynamic_cast<OSTForm*>(played_->FindForm(QStringLiteral("OST")));
       if (ost != nullptr) ost->Ways().FinishReading(kPatience);
+      played_->Viewer().Compared().Settle(kPatience);
     });
   QString text;
   if (rest.isEmpty() ? LookAtPlan(word, text) || LookAtProgram(word, text)
@@ -165,6 +188,8 @@ bool Looker::LookAtState(const QString& word, const QString& rest, QString& text
     text = ControlOfKind<TextField>(Program(), rest, "field").Beside();
   } else if (is("snap")) {
     text = SnapAt(rest);
+  } else if (is("overlay")) {
+    text = OverlayAt(rest);
   } else if (is("hover")) {
     text = ControlNamed(Program(), rest).Hover();
   } else if (is("colour")) {
@@ -189,6 +214,22 @@ QString Looker::SnapAt(const QString& rest) {
   if (hits.empty()) return QStringLiteral("none");
   return SnapInWords(hits[0].kind) + QLatin1Char(' ') + ShortNumber(hits[0].at.x) +
          QLatin1Char(' ') + ShortNumber(hits[0].at.y);
+}
+
+// What the plan that is laid over shows around a place of the sheet.
+QString Looker::OverlayAt(const QString& rest) {
+  QString second = rest;
+  bool good = false;
+  bool both = false;
+  const double x = TakeWord(second).toDouble(&good);
+  const double y = second.toDouble(&both);
+  if (!good || !both) NotUnderstood(QStringLiteral("overlay X Y is expected"));
+  PdfDraw& viewer = Program().Viewer();
+  Program().GetDesk().Dispatch([&] { viewer.Compared().Settle(kPatience); });
+  const PlanView view = {viewer.Page(),           1, 0, static_cast<int>(x) - 4,
+                         static_cast<int>(y) - 4, 9, 9};
+  const std::shared_ptr<const Picture> picture = viewer.PrintPicture(view, nullptr);
+  return picture == nullptr ? QStringLiteral("nothing") : InkInWords(*picture);
 }
 
 QString Looker::MenuState(const QString& word, const QString& name) {

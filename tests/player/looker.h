@@ -24,6 +24,7 @@ class Looker {
   bool LookAtProgram(const QString& word, QString& text);
   bool LookAtState(const QString& word, const QString& rest, QString& text);
   QString SnapAt(const QString& rest);
+  QString OverlayAt(const QString& rest);
   QString MenuState(const QString& word, const QString& name);
   QString ListState(const QString& word, const QString& name);
   QString RowState(const QString& word, const QString& rest);

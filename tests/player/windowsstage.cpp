@@ -410,15 +410,30 @@ void WindowsStage::PlanDrag(PagePoint from, PagePoint to) {
 
 void WindowsStage::PlanKey(const PlanStroke& stroke) {
   static const std::pair<tamo::PlanKey, Qt::Key> keys[] = {
-      {tamo::PlanKey::Left, Qt::Key_Left},     {tamo::PlanKey::Right, Qt::Key_Right},
-      {tamo::PlanKey::Up, Qt::Key_Up},         {tamo::PlanKey::Down, Qt::Key_Down},
-      {tamo::PlanKey::Space, Qt::Key_Space},   {tamo::PlanKey::Enter, Qt::Key_Return},
-      {tamo::PlanKey::Escape, Qt::Key_Escape}, {tamo::PlanKey::Backspace, Qt::Key_Backspace},
-      {tamo::PlanKey::Undo, Qt::Key_Z},        {tamo::PlanKey::Redo, Qt::Key_Y},
-      {tamo::PlanKey::Arc, Qt::Key_B},         {tamo::PlanKey::Snap, Qt::Key_S},
-      {tamo::PlanKey::NextSnap, Qt::Key_Tab},  {tamo::PlanKey::Yes, Qt::Key_Y},
-      {tamo::PlanKey::No, Qt::Key_N},          {tamo::PlanKey::All, Qt::Key_A},
-      {tamo::PlanKey::MarkBefore, Qt::Key_P},  {tamo::PlanKey::Delete, Qt::Key_Delete}};
+      {tamo::PlanKey::Left, Qt::Key_Left},
+      {tamo::PlanKey::Right, Qt::Key_Right},
+      {tamo::PlanKey::Up, Qt::Key_Up},
+      {tamo::PlanKey::Down, Qt::Key_Down},
+      {tamo::PlanKey::Space, Qt::Key_Space},
+      {tamo::PlanKey::Enter, Qt::Key_Return},
+      {tamo::PlanKey::Escape, Qt::Key_Escape},
+      {tamo::PlanKey::Backspace, Qt::Key_Backspace},
+      {tamo::PlanKey::Undo, Qt::Key_Z},
+      {tamo::PlanKey::Redo, Qt::Key_Y},
+      {tamo::PlanKey::Arc, Qt::Key_B},
+      {tamo::PlanKey::Snap, Qt::Key_S},
+      {tamo::PlanKey::NextSnap, Qt::Key_Tab},
+      {tamo::PlanKey::Yes, Qt::Key_Y},
+      {tamo::PlanKey::No, Qt::Key_N},
+      {tamo::PlanKey::All, Qt::Key_A},
+      {tamo::PlanKey::MarkBefore, Qt::Key_P},
+      {tamo::PlanKey::Delete, Qt::Key_Delete},
+      {tamo::PlanKey::Compare, Qt::Key_D},
+      {tamo::PlanKey::TwoPoints, Qt::Key_2},
+      {tamo::PlanKey::Layer, Qt::Key_O},
+      {tamo::PlanKey::SwapSides, Qt::Key_X},
+      {tamo::PlanKey::PairNext, Qt::Key_PageDown},
+      {tamo::PlanKey::PairBefore, Qt::Key_PageUp}};
   QWidget& plan = Plan();
   plan.setFocus(Qt::ShortcutFocusReason);
   Settle();

@@ -88,10 +88,11 @@ TEST_F(ShellTest, TheMenusStandInTheirOrder) {
     if (entry->Parent() == nullptr && !entry->Name().startsWith(QLatin1String("Spacer")))
       plan += entry->Name();
   }
-  EXPECT_EQ(plan, QStringList({"ProjectS", "Pricing2", "Estimate", "Reports1", "ZoomOut", "ZoomIn",
-                               "ScaleA", "GetFiles", "LinesColor", "LastPage", "NextPage", "Save",
-                               "Printit", "Documentation", "Settings1", "Exit", "ScheduleMenu",
-                               "DrawMenu", "SheetsMenu"}));
+  EXPECT_EQ(plan,
+            QStringList({"ProjectS", "Pricing2",     "Estimate", "Reports1",      "ZoomOut",
+                         "ZoomIn",   "ScaleA",       "GetFiles", "LinesColor",    "LastPage",
+                         "NextPage", "Save",         "Printit",  "Documentation", "Settings1",
+                         "Exit",     "ScheduleMenu", "DrawMenu", "SheetsMenu",    "CompareMenu"}));
   EXPECT_EQ(Ost().FindMenu(QStringLiteral("LockProject")), nullptr)
       << "a project is locked in mode 1 only";
 }

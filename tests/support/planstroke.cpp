@@ -14,7 +14,9 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
       {"Arc", PlanKey::Arc},       {"S", PlanKey::Snap},
       {"Tab", PlanKey::NextSnap},  {"Y", PlanKey::Yes},
       {"N", PlanKey::No},          {"A", PlanKey::All},
-      {"P", PlanKey::MarkBefore},  {"Delete", PlanKey::Delete}};
+      {"P", PlanKey::MarkBefore},  {"Delete", PlanKey::Delete},
+      {"D", PlanKey::Compare},     {"2", PlanKey::TwoPoints},
+      {"O", PlanKey::Layer},       {"X", PlanKey::SwapSides}};
   PlanStroke read;
   QString rest = name.trimmed();
   for (;;) {
@@ -30,6 +32,12 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
   }
   if (read.ctrl && rest == QLatin1String("Z")) rest = QStringLiteral("Undo");
   if (read.ctrl && rest == QLatin1String("Y")) rest = QStringLiteral("Redo");
+  const bool pair = read.ctrl && rest.startsWith(QLatin1String("Page "));
+  if (pair) {
+    stroke = read;
+    stroke.key = rest == QLatin1String("Page Down") ? PlanKey::PairNext : PlanKey::PairBefore;
+    return true;
+  }
   for (const auto& [text, key] : keys) {
     if (rest == QLatin1String(text)) {
       read.key = key;

@@ -1,0 +1,48 @@
+#include "windows/comparepanel.h"
+
+namespace tamo {
+namespace {
+
+constexpr int kWidth = 38 * kGrid;
+
+// The colours of the sheet, each word in its own.
+QLabel* Legend() {
+  auto* legend = new QLabel(
+      QStringLiteral("<span style='color:#c80000'>red: gone</span> &nbsp; "
+                     "<span style='color:#007a1e'>green: new</span> &nbsp; grey: stayed"));
+  legend->setObjectName(QStringLiteral("CompareLegend"));
+  legend->setFont(PromptFont());
+  return legend;
+}
+
+}  // namespace
+
+QWidget* ComparePanel(Builder& b) {
+  QFrame* frame = b.Panel("ComparePanel");
+  frame->setFixedWidth(kWidth);
+  auto* column = new QVBoxLayout(frame);
+  column->setSpacing(kGrid);
+  column->addWidget(Section(QStringLiteral("Two revisions")));
+  column->addWidget(Legend());
+  QLabel* words = b.Text("CompareWords");
+  words->setWordWrap(true);
+  words->setTextFormat(Qt::PlainText);
+  column->addWidget(words);
+  QLineEdit* password =
+      b.Field("ComparePassword", 0, QStringLiteral("Password of the plan to compare with"));
+  password->setEchoMode(QLineEdit::Password);
+  password->setPlaceholderText(QStringLiteral("Its password, and Enter"));
+  column->addWidget(password);
+  column->addWidget(b.List("ChangedPlaces", QStringLiteral("Changed places"), 0, 3), 1);
+  QLabel* place = b.Text("PlaceWords");
+  place->setWordWrap(true);
+  place->setTextFormat(Qt::PlainText);
+  column->addWidget(place);
+  column->addWidget(FixedPrompt(
+      QStringLiteral("N, Shift+N: next place, the one before. 2: by two points.\nO: old, new or "
+                     "both. X: colours change sides.\nCtrl+Page Up, Ctrl+Page "
+                     "Down: another sheet.\nEscape ends.")));
+  return frame;
+}
+
+}  // namespace tamo
