@@ -47,6 +47,7 @@ struct RawMark {
   const char* name = nullptr;
   const char* label = nullptr;
   const char* subject = nullptr;
+  const char* group = nullptr;
 };
 
 void ReadFloats(fz_context* context, pdf_obj* array, float* into, int count) {
@@ -64,6 +65,7 @@ const AnnotationKind* KindOf(fz_context* context, pdf_obj* annotation) {
   static const AnnotationKind kinds[] = {
       {PDF_NAME(Line), Mark::Kind::Line, PDF_NAME(L)},
       {PDF_NAME(Circle), Mark::Kind::Circle, PDF_NAME(Rect)},
+      {PDF_NAME(FreeText), Mark::Kind::Total, PDF_NAME(Rect)},
       {PDF_NAME(PolyLine), Mark::Kind::Polyline, PDF_NAME(Vertices)},
       {PDF_NAME(Polygon), Mark::Kind::Area, PDF_NAME(Vertices)}};
   pdf_obj* subtype = pdf_dict_get(context, annotation, PDF_NAME(Subtype));
@@ -81,7 +83,7 @@ bool HasPlaces(fz_context* context, pdf_obj* annotation, const AnnotationKind& k
   for (int i = 0; i < std::min(count, 2 * static_cast<int>(kMostMarkPoints)); ++i) {
     if (!pdf_is_number(context, pdf_array_get(context, places, i))) return false;
   }
-  if (kind.kind == Mark::Kind::Circle || kind.kind == Mark::Kind::Line) return count == 4;
+  if (kind.places == PDF_NAME(Rect) || kind.kind == Mark::Kind::Line) return count == 4;
   return count % 2 == 0 && FitsKind(kind.kind, static_cast<size_t>(count / 2));
 }
 
@@ -103,6 +105,7 @@ bool ReadRaw(fz_context* context, pdf_obj* annotations, int index, RawMark* mark
   mark->name = pdf_to_text_string(context, pdf_dict_gets(context, annotation, "NM"));
   mark->label = pdf_dict_get_text_string(context, annotation, PDF_NAME(Contents));
   mark->subject = pdf_to_text_string(context, pdf_dict_gets(context, annotation, "Subj"));
+  mark->group = pdf_to_text_string(context, pdf_dict_gets(context, annotation, kGroupKey));
   return true;
 }
 
@@ -129,9 +132,20 @@ Mark AsMark(const RawMark& raw, const PageMap& map) {
   mark.name = QString::fromUtf8(raw.name);
   mark.colour = ColourCode(raw.colour);
   mark.width = raw.width * map.Unit();
+  mark.group = QString::fromUtf8(raw.group);
   const std::vector<float>& numbers = raw.numbers;
   if (raw.kind == Mark::Kind::Circle) {
     mark.points = {map.ToPage((numbers[0] + numbers[2]) / 2, (numbers[1] + numbers[3]) / 2)};
+    if (mark.group.isEmpty()) return mark;
+    mark.kind = Mark::Kind::Grouped;
+    mark.label = QString::fromUtf8(raw.label);
+    return mark;
+  }
+  if (raw.kind == Mark::Kind::Total) {
+    mark.label = QString::fromUtf8(raw.label);
+    const PagePoint a = map.ToPage(numbers[0], numbers[1]);
+    const PagePoint b = map.ToPage(numbers[2], numbers[3]);
+    mark.points = {{std::min(a.x, b.x), std::max(a.y, b.y) - kTotalBelow}};
     return mark;
   }
   if (raw.kind == Mark::Kind::Area) mark.kind = OutlineOfSubject(QString::fromUtf8(raw.subject));

@@ -43,6 +43,7 @@ void DrawingBoard::ClearBoard() {
   work_ = {};
   DropOutline();
   DropBox();
+  ForgetGroup();
   if (tool_ != PlanTool::None) PickTool(PlanTool::None);
 }
 
@@ -146,6 +147,7 @@ void DrawingBoard::EndLine() {
 void DrawingBoard::PickTool(PlanTool tool) {
   DropWork();
   if (tool != PlanTool::None && !MayMark()) tool = PlanTool::None;
+  if (tool == PlanTool::Grouping && Group().isEmpty()) ChooseGroup(QStringLiteral("Group 1"));
   Raise(onBeforeModeChange);
   tool_ = tool;
   Raise(onModeChanged, tool);
@@ -162,6 +164,7 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
     return;
   }
   if (tool_ != PlanTool::None && !MayMark()) return PickTool(PlanTool::None);
+  if (tool_ == PlanTool::Grouping) AddToGroup({at});
   if (tool_ == PlanTool::Counting) AddMark(NewMark(Mark::Kind::Circle, {at}));
   if (DrawsOutlines(tool_)) return PressOutline(tool_, at, shift);
   if (tool_ != PlanTool::Measuring) return;
@@ -232,18 +235,21 @@ void DrawingBoard::PlaceCircle(PagePoint at) {
 
 // The tool that is in hand counts, or the counting tool is taken.
 bool DrawingBoard::PlaceCircles(const std::vector<PagePoint>& places) {
-  if (tool_ != PlanTool::Counting) PickTool(PlanTool::Counting);
-  if (tool_ != PlanTool::Counting || !MayMark()) return false;
-  std::vector<Mark> marks;
-  for (const PagePoint at : places) {
-    if (Sane(at)) marks.push_back(NewMark(Mark::Kind::Circle, {at}));
+  if (tool_ != PlanTool::Grouping && tool_ != PlanTool::Counting) PickTool(PlanTool::Counting);
+  if (tool_ == PlanTool::None || !MayMark()) return false;
+  if (tool_ == PlanTool::Grouping) {
+    AddToGroup(places);
+    return true;
   }
+  std::vector<Mark> marks;
+  for (const PagePoint at : places) marks.push_back(NewMark(Mark::Kind::Circle, {at}));
   AddMarks(std::move(marks));
   return true;
 }
 
 bool DrawingBoard::CountsAlike(const Mark& mark) const {
-  return mark.kind == Mark::Kind::Circle;
+  if (tool_ != PlanTool::Grouping) return mark.kind == Mark::Kind::Circle;
+  return mark.kind == Mark::Kind::Grouped && mark.group == Group();
 }
 
 // --- The box around a table or a symbol

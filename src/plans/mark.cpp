@@ -5,12 +5,16 @@
 
 namespace tamo {
 
+bool IsCount(Mark::Kind kind) {
+  return kind == Mark::Kind::Circle || kind == Mark::Kind::Grouped;
+}
+
 bool IsOutline(Mark::Kind kind) {
   return kind == Mark::Kind::Area || kind == Mark::Kind::Perimeter || kind == Mark::Kind::CutOut;
 }
 
 bool FitsKind(Mark::Kind kind, size_t points) {
-  if (kind == Mark::Kind::Circle) return points == 1;
+  if (IsCount(kind) || kind == Mark::Kind::Total) return points == 1;
   if (kind == Mark::Kind::Line) return points == 2;
   return points >= (IsOutline(kind) ? 3U : 2U) && points <= kMostMarkPoints;
 }
@@ -20,12 +24,13 @@ bool IsSurface(Mark::Kind kind) {
 }
 
 QString KindInWords(Mark::Kind kind) {
-  static const char* const words[] = {"Line", "Count", "Polyline", "Area", "Perimeter", "Cut-out"};
+  static const char* const words[] = {"Line",      "Count",   "Polyline",    "Area",
+                                      "Perimeter", "Cut-out", "Group count", "Total"};
   return QLatin1String(words[static_cast<int>(kind)]);
 }
 
 double ValueOfMark(const Mark& mark) {
-  if (mark.kind == Mark::Kind::Circle) return 1;
+  if (IsCount(mark.kind)) return 1;
   const QString number = mark.label.section(QLatin1Char(' '), 0, 0);
   return QString(number).remove(QLatin1Char(',')).toDouble();
 }

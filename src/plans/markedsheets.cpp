@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include "plans/countgroups.h"
+
 namespace tamo {
 namespace {
 
@@ -35,6 +37,8 @@ std::vector<Mark> MarkedSheets::Marks() const {
 }
 
 void MarkedSheets::FillMarks(std::vector<Mark> marks) {
+  std::erase_if(marks, [](const Mark& mark) { return mark.kind == Mark::Kind::Total; });
+  SettleGroups(marks);
   marks_ = std::move(marks);
   done_.clear();
   undone_.clear();
@@ -69,29 +73,25 @@ void MarkedSheets::DeleteMark(int index) {
 
 bool MarkedSheets::Undo() {
   if (done_.empty()) return false;
-  bool circles = false;
   bool more = true;
   while (more && !done_.empty()) {
     undone_.push_back(done_.back());
     done_.pop_back();
     Put(undone_.back(), false);
-    circles = circles || undone_.back().mark.kind == Mark::Kind::Circle;
     more = undone_.back().joined;
   }
-  Tell(circles);
+  Tell(Mark(undone_.back().mark));
   return true;
 }
 
 bool MarkedSheets::Redo() {
   if (undone_.empty()) return false;
-  bool circles = false;
   do {
     done_.push_back(undone_.back());
     undone_.pop_back();
     Put(done_.back(), true);
-    circles = circles || done_.back().mark.kind == Mark::Kind::Circle;
   } while (!undone_.empty() && undone_.back().joined);
-  Tell(circles);
+  Tell(Mark(done_.back().mark));
   return true;
 }
 
@@ -120,27 +120,28 @@ bool MarkedSheets::PutBack(const Mark& mark) {
 }
 
 void MarkedSheets::AddMarks(std::vector<Mark> marks) {
-  bool circles = false;
   for (size_t i = 0; i < marks.size(); ++i) {
     Mark& mark = marks[i];
     mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-    circles = circles || mark.kind == Mark::Kind::Circle;
     done_.push_back({true, marks_.size(), std::move(mark), i > 0});
     Put(done_.back(), true);
   }
   if (marks.empty()) return;
   undone_.clear();
-  Tell(circles);
+  Tell(Mark(done_.back().mark));
 }
 
 void MarkedSheets::Do(const Step& step, bool forward) {
   Put(step, forward);
-  Tell(step.mark.kind == Mark::Kind::Circle);
+  Tell(step.mark);
 }
 
-void MarkedSheets::Tell(bool circles) {
+// Of what comes or goes together the last tells what it is.
+void MarkedSheets::Tell(const Mark& last) {
   Repaint();
-  if (circles) Raise(onCircleCountChanged, CircleCount());
+  if (last.kind == Mark::Kind::Circle) Raise(onCircleCountChanged, CircleCount());
+  if (last.kind == Mark::Kind::Grouped)
+    Raise(onGroupCountChanged, last.group, CountInGroup(marks_, last.group));
 }
 
 void MarkedSheets::Put(const Step& step, bool forward) {

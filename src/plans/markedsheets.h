@@ -32,7 +32,8 @@ class MarkedSheets : public SheetView {
   bool PutBack(const Mark& mark);
 
  protected:
-  // Takes the place of all marks; oldest first. Nothing can be taken back then.
+  // Takes the place of all marks; oldest first. Nothing can be taken back then. Totals are left
+  // out: they are made anew.
   void FillMarks(std::vector<Mark> marks);
   void ClearMarks() { marks_.clear(); }
   // A mark of the pen on the current page, without label and name; AddMark gives it its name.
@@ -50,7 +51,7 @@ class MarkedSheets : public SheetView {
   };
   void Do(const Step& step, bool forward);
   void Put(const Step& step, bool forward);
-  void Tell(bool circles);
+  void Tell(const Mark& last);
   int CircleCount() const;
 
   std::vector<Mark> marks_;

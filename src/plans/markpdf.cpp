@@ -176,6 +176,22 @@ QByteArray Places(const Mark& mark, const PageMap& map) {
          SubjectOf(mark.kind) + ')';
 }
 
+QByteArray LabelPart(const MarkShape& shape, const Mark& mark, const PageMap& map) {
+  return ColourParts(ReadableOnWhite(ColourNumber(mark.colour))) + " rg\n" + TextPart(shape, map);
+}
+
+QByteArray TotalPart(const MarkShape& shape, const Mark& mark, const PageMap& map) {
+  return "/Subtype/FreeText/Contents" + PdfText(mark.label) + "/DA(/Helv " +
+         PdfNumber(shape.textSize / map.Unit()) + " Tf " +
+         ColourParts(ReadableOnWhite(ColourNumber(mark.colour))) + " rg)";
+}
+
+// Other readers list the circles of a group by its name.
+QByteArray GroupPart(const Mark& mark) {
+  if (mark.group.isEmpty()) return {};
+  return "/Subj" + PdfText(mark.group) + "/" + kGroupKey + PdfText(mark.group);
+}
+
 }  // namespace
 
 const char* SubjectOf(Mark::Kind kind) {
@@ -205,7 +221,8 @@ double PageMap::Unit() const {
 
 MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
   const MarkShape shape = ShapeOf(mark, markerSize);
-  const double width = shape.width / map.Unit();
+  const bool bare = mark.kind == Mark::Kind::Total;
+  const double width = bare ? 0 : shape.width / map.Unit();
   MarkObjects objects;
   Box box;
   const QByteArray colour = ColourParts(ColourNumber(mark.colour));
@@ -215,17 +232,21 @@ MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
     const double radius = shape.radius / map.Unit();
     box.Take(centre, radius + width / 2);
     objects.formContent += CirclePart(centre, radius);
-    objects.annotation = "/Subtype/Circle/Contents" + PdfText(QStringLiteral("Count"));
+    objects.annotation =
+        "/Subtype/Circle/Contents" +
+        PdfText(mark.kind == Mark::Kind::Circle ? QStringLiteral("Count") : mark.label);
+    objects.formContent += LabelPart(shape, mark, map);
   } else {
     TakeStrokes(shape, map, width, box, objects.formContent);
     objects.formContent += WayPart(shape, map, box, width);
     TakeText(shape, map, box);
-    objects.formContent += ColourParts(ReadableOnWhite(ColourNumber(mark.colour))) + " rg\n";
-    objects.formContent += TextPart(shape, map);
+    objects.formContent += LabelPart(shape, mark, map);
     objects.annotation =
-        Places(mark, map) + "/Contents" + PdfText(mark.label) + Measure(mark, map.Unit());
+        mark.kind == Mark::Kind::Total
+            ? TotalPart(shape, mark, map)
+            : Places(mark, map) + "/Contents" + PdfText(mark.label) + Measure(mark, map.Unit());
   }
-  objects.annotation += Common(mark, width, box);
+  objects.annotation += Common(mark, width, box) + GroupPart(mark);
   objects.formEntries = "/Type/XObject/Subtype/Form/BBox" + box.Text() + "/Resources<<" +
                         FillState(shape) +
                         "/Font<</F1<</Type/Font/Subtype/Type1/BaseFont/Helvetica"

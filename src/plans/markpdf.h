@@ -26,6 +26,11 @@ struct MarkObjects {
 
 MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map);
 
+// The key of the group of a circle, and of a total.
+inline constexpr char kGroupKey[] = "Tamo_Group";
+// How far the box of a total reaches below its base line, in points.
+inline constexpr double kTotalBelow = 9 * 0.25;
+
 // What the annotation of a closed outline says that it is, and what outline a text stands for.
 const char* SubjectOf(Mark::Kind kind);
 Mark::Kind OutlineOfSubject(const QString& subject);

@@ -29,6 +29,7 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       opener_(kit, *this, viewer, {record_, scale_, pages_, browser_, copy_}),
       measure_(kit, *this, viewer, scale_, takeoff),
       surfaces_(*this, scale_, measure_, takeoff),
+      groups_(kit, *this, viewer, measure_),
       sheetScales_(kit, *this, viewer, scale_, record_) {
   AddText(QStringLiteral("ViewerName"), &ViewerName);
   AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
@@ -79,6 +80,7 @@ void OSTForm::BindMenus() {
   on("Save", [this] { Save(); });
   on("Printit", [this] { viewer_.Print(); });
   on("SnapToDrawing", [this] { viewer_.Key({PlanKey::Snap, false, false}); });
+  on("CountGroups", [this] { groups_.Open(); });
   on("FindSame", [this] {
     kit_.desk.Focus(picPdfDraw);
     viewer_.Same().Start();
@@ -119,6 +121,7 @@ void OSTForm::BindViewer() {
   viewer_.onModeChanged = event([this](PlanTool tool) {
     pen_.ModeChanged(tool);
     surfaces_.ToolPicked(tool);
+    groups_.ToolPicked(tool);
     viewer_.Snap().Follow();
     viewer_.Same().Leave();
     sheetScales_.ToolPicked(tool);
@@ -133,8 +136,11 @@ void OSTForm::BindViewer() {
   });
   viewer_.onSheetRead = event([this] { sheetScales_.SheetRead(); });
   viewer_.onCircleCountChanged = event([this](int count) { measure_.CirclesCounted(count); });
+  viewer_.onGroupCountChanged =
+      event([this](const QString& group, int count) { groups_.Counted(group, count); });
   viewer_.onPageChanged = event([this] {
     pages_.ShowPage();
+    groups_.ShowGroups();
     viewer_.Snap().Follow();
     viewer_.Same().Follow();
     sheetScales_.SheetChanged();

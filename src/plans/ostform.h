@@ -7,6 +7,7 @@
 #include "common/kit.h"
 #include "plans/ostcontrols.h"
 #include "plans/planmeasure.h"
+#include "plans/plangroups.h"
 #include "plans/plannotespanel.h"
 #include "plans/planopener.h"
 #include "plans/planpen.h"
@@ -83,6 +84,7 @@ class OSTForm : public OstControls {
   PlanOpener opener_;
   PlanMeasure measure_;
   PlanSurfaces surfaces_;
+  PlanGroups groups_;
   SheetScales sheetScales_;
 };
 

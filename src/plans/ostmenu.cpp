@@ -81,6 +81,7 @@ constexpr Row kPlan[] = {
     {"DrawPerimeter", "P&erimeter (E)", "DrawMenu"},
     {"SnapToDrawing", "&Snap to the Drawing (S)", "DrawMenu"},
     {"FindSame", "&Find Same (I)", "DrawMenu"},
+    {"CountGroups", "Count in &Groups (G)", "DrawMenu"},
 };
 
 class Bar {

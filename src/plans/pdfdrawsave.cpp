@@ -64,6 +64,7 @@ MarkChanges PdfDraw::Changes() const {
   for (const QString& name : session_->savedNames) {
     if (!names.contains(name)) changes.removed.push_back(name);
   }
+  AddTotals(changes);
   return changes;
 }
 
@@ -131,6 +132,7 @@ int PdfDraw::AddNow(const QString& path) {
 void PdfDraw::MarksAreSaved() {
   session_->savedNames.clear();
   for (const Mark& mark : MarksAsDrawn()) session_->savedNames.insert(mark.name);
+  session_->savedTotals = Totals();
 }
 
 // Writes to an open file, down to the disk.

@@ -27,12 +27,13 @@ void Put(WireWriter& wire, const Mark& mark) {
   wire.Text(mark.colour);
   wire.Real(mark.width);
   wire.Text(mark.label);
+  wire.Text(mark.group);
   wire.Text(mark.name);
 }
 
 void Take(WireReader& wire, Mark& mark) {
   const unsigned kind = wire.Byte();
-  if (kind > static_cast<unsigned>(Mark::Kind::CutOut)) wire.Spoil();
+  if (kind > static_cast<unsigned>(Mark::Kind::Total)) wire.Spoil();
   mark.kind = wire.Good() ? static_cast<Mark::Kind>(kind) : Mark::Kind::Line;
   mark.page = static_cast<int>(wire.Number(1, kMostPages));
   const size_t points = wire.Count(16);
@@ -45,6 +46,7 @@ void Take(WireReader& wire, Mark& mark) {
   if (!IsColourCode(mark.colour)) mark.colour = Mark().colour;
   mark.width = wire.Real();
   mark.label = wire.Text();
+  mark.group = wire.Text();
   mark.name = wire.Text();
 }
 

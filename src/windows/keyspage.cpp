@@ -45,6 +45,7 @@ constexpr Row kRows[] = {
     {"OST", "B", "The next two points of an outline make an arc"},
     {"OST", "S, Tab", "Snap to the drawing or not, the next place to snap to"},
     {"OST", "Alt", "Held: no snapping"},
+    {"OST", "G", "Count in a group: its name, then Enter"},
     {"OST", "I", "Find Same: a box around a symbol; then Y yes, N no, A all"},
     {"OST", "+, -, F, W", "Zoom in, zoom out, the whole sheet, its whole width"},
     {"OST", "T", "Turn the sheet"},

@@ -63,6 +63,9 @@ bool PlanCanvas::TakeLetter(int key) {
       return press(PlanKey::Snap);
     case Qt::Key_Tab:
       return TakeNextSnap();
+    case Qt::Key_G:
+      if (onGroups) onGroups();
+      return true;
     case Qt::Key_I:
       desk_.Dispatch([this] { viewer_.Same().Start(); });
       return true;

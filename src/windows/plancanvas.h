@@ -45,6 +45,7 @@ class PlanCanvas : public QAbstractScrollArea {
   std::function<bool(QPrinter& printer)> askForPrinter;
 
   std::function<void()> onZoomIn, onZoomOut;  // plus and minus: a step
+  std::function<void()> onGroups;             // G: groups of counting circles
   // The whole sheet, or its whole width, in sight.
   void FitPage();
   void FitWidth();

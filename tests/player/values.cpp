@@ -21,6 +21,10 @@ QString MarkLine(const Mark& mark) {
   };
   if (mark.kind == Mark::Kind::Circle)
     return QStringLiteral("circle %1 %2 %3").arg(mark.page).arg(place(0), mark.colour);
+  if (mark.kind == Mark::Kind::Grouped)
+    return QStringLiteral("count %1 %2 %3 %4")
+        .arg(mark.page)
+        .arg(place(0), mark.colour, mark.label);
   QString line = QLatin1String(IsOutline(mark.kind)                ? "polygon"
                                : mark.kind == Mark::Kind::Polyline ? "polyline"
                                                                    : "line");
