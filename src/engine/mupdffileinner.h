@@ -6,6 +6,8 @@
 #include <mupdf/fitz.h>
 #include <mupdf/pdf.h>
 
+#include <QSet>
+
 #include "engine/mupdffile.h"
 #include "plans/markpdf.h"
 #include "plans/pdfappend.h"
@@ -16,6 +18,8 @@ namespace tamo {
 struct FileMark {
   QString name;
   int object = 0;
+  int generation = 0;
+  int form = 0;  // the form that shows it, while it is being written
 };
 
 struct PageRecord {
@@ -44,7 +48,7 @@ struct MuPdfFile::Inner {
 
   bool OpenDocument(const QByteArray& password, PlanContents& contents);
   void ReadPages();
-  void ReadMarks(size_t index, std::vector<Mark>& marks);
+  void ReadMarks(size_t index, std::vector<Mark>& marks, QSet<QString>& names);
   bool ReadEnd();
   // What speaks against marking the plan, and what can't be saved of it.
   QString Reservation() const;
@@ -60,8 +64,11 @@ struct MuPdfFile::Inner {
   bool Encrypted(PdfObject& object);
   bool EncryptedStream(PdfObject& object, const QByteArray& entries, const QByteArray& content);
   bool NeedsRewrite() const;
-  void Remove(const QStringList& names, std::vector<bool>& touched);
-  bool Add(const Mark& mark, double markerSize, int& next, std::vector<PdfObject>& objects);
+  PageRecord* PageOf(const Mark& mark);
+  FileMark* Standing(const Mark& mark);
+  void Remove(const QSet<QString>& names, std::vector<bool>& touched);
+  bool Put(const Mark& mark, double markerSize, const FileMark& place,
+           std::vector<PdfObject>& objects);
   // The new and changed objects of a save.
   bool Change(const MarkChanges& changes, std::vector<PdfObject>& objects);
 };

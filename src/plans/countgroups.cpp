@@ -117,7 +117,7 @@ void SettleGroups(std::vector<Mark>& marks) {
   }
 }
 
-std::vector<Mark> TotalsOf(const std::vector<Mark>& marks, double markerSize) {
+std::vector<Mark> GroupTotalsOf(const std::vector<Mark>& marks, double markerSize) {
   struct Part {
     int count = 0;
     const Mark* first = nullptr;

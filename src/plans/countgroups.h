@@ -37,7 +37,7 @@ void SettleGroups(std::vector<Mark>& marks);
 
 // The totals as they stand on the sheets: a label beside the first circle of each group on a page,
 // "Lights: 5 of 12" where other pages have the rest. Their names tell page and group.
-std::vector<Mark> TotalsOf(const std::vector<Mark>& marks, double markerSize);
+std::vector<Mark> GroupTotalsOf(const std::vector<Mark>& marks, double markerSize);
 // A total that stands in a file is still right.
 bool SameTotal(const Mark& one, const Mark& other);
 

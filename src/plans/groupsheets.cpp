@@ -42,6 +42,24 @@ std::vector<CountGroup> GroupSheets::Groups() const {
   return groups;
 }
 
+const std::vector<Mark>& GroupSheets::Totals() const {
+  if (totalled_ != MarksRevision()) totals_ = GroupTotalsOf(MarksAsDrawn(), MarkerSize());
+  totalled_ = MarksRevision();
+  return totals_;
+}
+
+void GroupSheets::RecolourGroup(const QString& colour) {
+  if (group_.name.isEmpty() || !IsColourCode(colour)) return;
+  group_.colour = colour;
+  std::vector<Mark> marks;
+  for (const Mark& mark : MarksAsDrawn()) {
+    if (mark.kind != Mark::Kind::Grouped || mark.group != group_.name) continue;
+    marks.push_back(mark);
+    marks.back().colour = colour;
+  }
+  ChangeMarks(marks);
+}
+
 void GroupSheets::AddToGroup(const std::vector<PagePoint>& places) {
   const std::vector<int> numbers = FreeNumbers(MarksAsDrawn(), group_.name, places.size());
   std::vector<Mark> marks;

@@ -19,7 +19,7 @@ class GroupSheets : public MarkedSheets {
   void RecolourGroup(const QString& colour);
   // Those of the plan, and the chosen one.
   std::vector<CountGroup> Groups() const;
-  std::vector<Mark> Totals() const { return TotalsOf(MarksAsDrawn(), MarkerSize()); }
+  const std::vector<Mark>& Totals() const;  // as they stand on the sheets
 
  protected:
   void AddToGroup(const std::vector<PagePoint>& places);
@@ -27,6 +27,8 @@ class GroupSheets : public MarkedSheets {
 
  private:
   CountGroup group_;
+  mutable unsigned totalled_ = 0;  // the revision of the marks that the totals are of
+  mutable std::vector<Mark> totals_;
 };
 
 }  // namespace tamo

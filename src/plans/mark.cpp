@@ -9,12 +9,16 @@ bool IsCount(Mark::Kind kind) {
   return kind == Mark::Kind::Circle || kind == Mark::Kind::Grouped;
 }
 
+bool IsLabel(Mark::Kind kind) {
+  return kind == Mark::Kind::Legend || kind == Mark::Kind::Total;
+}
+
 bool IsOutline(Mark::Kind kind) {
   return kind == Mark::Kind::Area || kind == Mark::Kind::Perimeter || kind == Mark::Kind::CutOut;
 }
 
 bool FitsKind(Mark::Kind kind, size_t points) {
-  if (IsCount(kind) || kind == Mark::Kind::Total) return points == 1;
+  if (IsCount(kind) || IsLabel(kind)) return points == 1;
   if (kind == Mark::Kind::Line) return points == 2;
   return points >= (IsOutline(kind) ? 3U : 2U) && points <= kMostMarkPoints;
 }
@@ -23,14 +27,19 @@ bool IsSurface(Mark::Kind kind) {
   return kind == Mark::Kind::Area || kind == Mark::Kind::CutOut;
 }
 
+QString TitleOf(const QString& text) {
+  return text.simplified().left(kLongestTitle).trimmed();
+}
+
 QString KindInWords(Mark::Kind kind) {
-  static const char* const words[] = {"Line",      "Count",   "Polyline",    "Area",
-                                      "Perimeter", "Cut-out", "Group count", "Total"};
+  static const char* const words[] = {"Line",    "Count",  "Polyline",    "Area", "Perimeter",
+                                      "Cut-out", "Legend", "Group count", "Total"};
   return QLatin1String(words[static_cast<int>(kind)]);
 }
 
 double ValueOfMark(const Mark& mark) {
   if (IsCount(mark.kind)) return 1;
+  if (IsLabel(mark.kind)) return 0;
   const QString number = mark.label.section(QLatin1Char(' '), 0, 0);
   return QString(number).remove(QLatin1Char(',')).toDouble();
 }

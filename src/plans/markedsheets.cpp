@@ -40,6 +40,7 @@ void MarkedSheets::FillMarks(std::vector<Mark> marks) {
   std::erase_if(marks, [](const Mark& mark) { return mark.kind == Mark::Kind::Total; });
   SettleGroups(marks);
   marks_ = std::move(marks);
+  ++revision_;
   done_.clear();
   undone_.clear();
   lastNumber_ = 0;
@@ -58,15 +59,17 @@ Mark MarkedSheets::NewMark(Mark::Kind kind, std::vector<PagePoint> points) const
 
 void MarkedSheets::AddMark(Mark mark) {
   mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-  done_.push_back({true, marks_.size(), std::move(mark)});
-  undone_.clear();
-  Do(Step(done_.back()), true);
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, false});
 }
 
 void MarkedSheets::DeleteMark(int index) {
   if (index < 0 || static_cast<size_t>(index) >= marks_.size()) return;
   const size_t at = marks_.size() - 1 - static_cast<size_t>(index);
-  done_.push_back({false, at, marks_[at]});
+  TakeStep({Step::What::Deleted, at, marks_[at], {}, false});
+}
+
+void MarkedSheets::TakeStep(Step step) {
+  done_.push_back(std::move(step));
   undone_.clear();
   Do(Step(done_.back()), true);
 }
@@ -80,7 +83,7 @@ bool MarkedSheets::Undo() {
     Put(undone_.back(), false);
     more = undone_.back().joined;
   }
-  Tell(Mark(undone_.back().mark));
+  Tell(Step(undone_.back()));
   return true;
 }
 
@@ -91,13 +94,14 @@ bool MarkedSheets::Redo() {
     undone_.pop_back();
     Put(done_.back(), true);
   } while (!undone_.empty() && undone_.back().joined);
-  Tell(Mark(done_.back().mark));
+  Tell(Step(done_.back()));
   return true;
 }
 
 bool MarkedSheets::WasDrawnHere(const QString& name) const {
-  return std::any_of(done_.begin(), done_.end(),
-                     [&](const Step& step) { return step.added && step.mark.name == name; });
+  return std::any_of(done_.begin(), done_.end(), [&](const Step& step) {
+    return step.what == Step::What::Added && step.mark.name == name;
+  });
 }
 
 bool MarkedSheets::TakeOff(const QString& name, Mark& mark) {
@@ -113,9 +117,7 @@ bool MarkedSheets::PutBack(const Mark& mark) {
   if (std::any_of(marks_.begin(), marks_.end(),
                   [&](const Mark& other) { return other.name == mark.name; }))
     return false;
-  done_.push_back({true, marks_.size(), mark});
-  undone_.clear();
-  Do(Step(done_.back()), true);
+  TakeStep({Step::What::Added, marks_.size(), mark, {}, false});
   return true;
 }
 
@@ -123,30 +125,98 @@ void MarkedSheets::AddMarks(std::vector<Mark> marks) {
   for (size_t i = 0; i < marks.size(); ++i) {
     Mark& mark = marks[i];
     mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-    done_.push_back({true, marks_.size(), std::move(mark), i > 0});
+    done_.push_back({Step::What::Added, marks_.size(), std::move(mark), {}, false, i > 0});
     Put(done_.back(), true);
   }
   if (marks.empty()) return;
   undone_.clear();
-  Tell(Mark(done_.back().mark));
+  Tell(Step(done_.back()));
+}
+
+const Mark* MarkedSheets::FindMark(const QString& name) const {
+  const auto found = std::find_if(marks_.begin(), marks_.end(),
+                                  [&](const Mark& mark) { return mark.name == name; });
+  return found == marks_.end() ? nullptr : &*found;
+}
+
+void MarkedSheets::ChangeMark(const Mark& mark, bool joinLast) {
+  const Mark* found = FindMark(mark.name);
+  if (found == nullptr || *found == mark) return;
+  const auto at = static_cast<size_t>(found - marks_.data());
+  const bool joins = joinLast && !done_.empty() && done_.back().what == Step::What::Changed &&
+                     done_.back().mark.name == mark.name;
+  if (!joins) return TakeStep({Step::What::Changed, at, mark, *found, true});
+  done_.back().mark = mark;
+  undone_.clear();
+  Do(Step(done_.back()), true);
+}
+
+void MarkedSheets::ChangeMarks(const std::vector<Mark>& marks) {
+  bool joined = false;
+  for (const Mark& mark : marks) {
+    const Mark* found = FindMark(mark.name);
+    if (found == nullptr || *found == mark) continue;
+    const auto at = static_cast<size_t>(found - marks_.data());
+    done_.push_back({Step::What::Changed, at, mark, *found, true, joined});
+    Put(done_.back(), true);
+    joined = true;
+  }
+  if (!joined) return;
+  undone_.clear();
+  Tell(Step(done_.back()));
+}
+
+QString MarkedSheets::PlaceMark(Mark mark) {
+  mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
+  const QString name = mark.name;
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, true});
+  return name;
+}
+
+void MarkedSheets::RemoveMark(const QString& name) {
+  const Mark* found = FindMark(name);
+  if (found == nullptr) return;
+  const auto at = static_cast<size_t>(found - marks_.data());
+  TakeStep({Step::What::Deleted, at, *found, {}, true});
+}
+
+void MarkedSheets::KeepWith(const QString& name, const QString& kept) {
+  ++revision_;
+  const auto keep = [&](Mark& mark) {
+    if (mark.name == name) mark.kept = kept;
+  };
+  for (Mark& mark : marks_) keep(mark);
+  for (std::vector<Step>* steps : {&done_, &undone_}) {
+    for (Step& step : *steps) {
+      keep(step.mark);
+      keep(step.before);
+    }
+  }
 }
 
 void MarkedSheets::Do(const Step& step, bool forward) {
   Put(step, forward);
-  Tell(step.mark);
+  Tell(step);
 }
 
 // Of what comes or goes together the last tells what it is.
-void MarkedSheets::Tell(const Mark& last) {
+void MarkedSheets::Tell(const Step& last) {
   Repaint();
-  if (last.kind == Mark::Kind::Circle) Raise(onCircleCountChanged, CircleCount());
-  if (last.kind == Mark::Kind::Grouped)
-    Raise(onGroupCountChanged, last.group, CountInGroup(marks_, last.group));
+  const bool counts = last.what != Step::What::Changed;
+  if (counts && last.mark.kind == Mark::Kind::Circle) Raise(onCircleCountChanged, CircleCount());
+  if (counts && last.mark.kind == Mark::Kind::Grouped)
+    Raise(onGroupCountChanged, last.mark.group, CountInGroup(marks_, last.mark.group));
+  if (last.edits) Raise(onMarkEdited);
 }
 
 void MarkedSheets::Put(const Step& step, bool forward) {
+  ++revision_;
+  if (step.what == Step::What::Changed) {
+    if (step.at < marks_.size()) marks_[step.at] = forward ? step.mark : step.before;
+    return;
+  }
   const auto place = static_cast<std::ptrdiff_t>(std::min(step.at, marks_.size()));
-  if (step.added == forward) {
+  if ((step.what == Step::What::Added) == forward) {
     marks_.insert(marks_.begin() + place, step.mark);
   } else {
     marks_.erase(marks_.begin() + place);

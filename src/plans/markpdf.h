@@ -30,6 +30,9 @@ MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map);
 inline constexpr char kGroupKey[] = "Tamo_Group";
 // How far the box of a total reaches below its base line, in points.
 inline constexpr double kTotalBelow = 9 * 0.25;
+// Keys of this program's own in an annotation: the mark's title, and what is kept with it.
+inline constexpr char kTitleKey[] = "Tamo_Name";
+inline constexpr char kKeptKey[] = "Tamo_Entry";
 
 // What the annotation of a closed outline says that it is, and what outline a text stands for.
 const char* SubjectOf(Mark::Kind kind);

@@ -93,8 +93,8 @@ MarkShape ShapeOf(const Mark& mark, double markerSize) {
     ShapeCircle(shape, mark, markerSize / 2);
     return shape;
   }
-  shape.text = mark.label;
-  shape.textWidth = LetterWidth(mark.label, shape.textSize);
+  shape.text = mark.title.isEmpty() ? mark.label : mark.title + QStringLiteral(": ") + mark.label;
+  shape.textWidth = LetterWidth(shape.text, shape.textSize);
   if (mark.kind == Mark::Kind::Total) {
     shape.textAt = {mark.points[0].x + shape.textWidth / 2, mark.points[0].y};
     return shape;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/form.h"
+#include "plans/mark.h"
 #include "plans/picturebox.h"
 
 namespace tamo {
@@ -57,6 +58,13 @@ struct OstControls : Form {
   Frame GroupFrame{*this, "GroupFrame"};
   TextField GroupName{*this, "GroupName"};
   OrderedList GroupList{*this, "GroupList"};  // with their totals
+  // The marks of the plan, below it.
+  Frame MarksFrame{*this, "MarksFrame"};
+  OrderedList MarksList{*this, "MarksList"};
+  TextField MarkTitle{*this, "MarkTitle", kLongestTitle};  // of the chosen mark
+  Button MarkToLine{*this, "MarkToLine", "To Its &Takeoff Line (F7)"};
+  Label MarksSummary{*this, "MarksSummary"};
+  OrderedList MarksTotals{*this, "MarksTotals"};  // by system, of the sheet and of the plan
 };
 
 }  // namespace tamo

@@ -5,9 +5,10 @@
 #include <vector>
 
 #include "common/kit.h"
+#include "plans/markspanel.h"
 #include "plans/ostcontrols.h"
-#include "plans/planmeasure.h"
 #include "plans/plangroups.h"
+#include "plans/planmeasure.h"
 #include "plans/plannotespanel.h"
 #include "plans/planopener.h"
 #include "plans/planpen.h"
@@ -50,6 +51,11 @@ class OSTForm : public OstControls {
   void ClearXY() { Mode.SetText(QStringLiteral("Released")); }
   void ChooseScale(const ScaleEntry& scale) { scale_.Choose(scale); }
 
+  // --- The list of marks
+  // After each event; another number says that the takeoff may have become another one.
+  void FollowMarks(unsigned takeoff) { marks_.Follow(takeoff); }
+  MarksPanel& ListOfMarks() { return marks_; }
+
   // --- View
   void SetZoomByLevel(const QString& level) { pages_.SetZoomByLevel(level); }
   PdfDraw& Viewer() const { return viewer_; }
@@ -66,6 +72,7 @@ class OSTForm : public OstControls {
   void BindMenus();
   void BindViewer();
   void BindOutlines();
+  void BindMarks();
   void BindPlanKeys();
   void EnterOnPlan();
   void PlanLost(const QString& problem);
@@ -86,6 +93,7 @@ class OSTForm : public OstControls {
   PlanSurfaces surfaces_;
   PlanGroups groups_;
   SheetScales sheetScales_;
+  MarksPanel marks_;
 };
 
 }  // namespace tamo

@@ -5,6 +5,7 @@
 
 #include "common/files.h"
 #include "plans/drawingboard.h"
+#include "plans/markhand.h"
 #include "plans/planengine.h"
 #include "plans/planpictures.h"
 #include "plans/samesymbols.h"
@@ -77,6 +78,10 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   SnapPointer& Snap() { return snap_; }
   // What finds the likes of a symbol on the sheet.
   SameSymbols& Same() { return same_; }
+  // The mark that is chosen, to be changed.
+  MarkHand& Hand() { return hand_; }
+  const MarkHand& Hand() const { return hand_; }
+  bool MayMark() override;
 
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
   // background; 10 seconds when not set. A window wants 6 milliseconds.
@@ -91,9 +96,14 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool FinishOpening(int milliseconds);
 
  protected:
-  bool MayMark() override;
-  bool TakeSnapKey(PlanKey key) override { return same_.TakeKey(key) || snap_.TakeKey(key); }
   void SymbolBoxed(const DrawnBox& box) override;
+  bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
+  bool TakeAnswer(PlanKey key) override { return same_.TakeKey(key); }
+  bool TakeMarkKey(const PlanStroke& stroke) override { return hand_.TakeKey(stroke); }
+  void PressFree(PagePoint at) override { hand_.Press(at); }
+  void MoveFree(PagePoint at, bool shift) override { hand_.Move(at, shift); }
+  void ReleaseFree(PagePoint at, bool shift) override { hand_.Release(at, shift); }
+  void ToolComes() override { hand_.LetGo(); }
 
  private:
   struct Session;
@@ -159,6 +169,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool searchTold_ = false;  // it says how far it is in a moment
   SnapPointer snap_{*this};
   SameSymbols same_{*this};
+  MarkHand hand_{*this};
   int patience_ = 10000;
   int longestOpening_ = 30000;
 };

@@ -240,7 +240,7 @@ void PdfDraw::TakeOpened() {
   notices_.reservation = contents.reservation;
   notices_.caution = contents.caution;
   session_->sizes = contents.sizes;
-  for (const Mark& mark : contents.marks) session_->savedNames.insert(mark.name);
+  for (const Mark& mark : contents.marks) session_->saved.insert(mark.name, mark);
   session_->KnowTotals(contents.marks);
   StartPainting();
   // What was drawn on the blank sheet meanwhile is kept.

@@ -19,7 +19,7 @@ void PdfDraw::Session::KnowTotals(const std::vector<Mark>& marks) {
   for (const Mark& mark : marks) {
     if (mark.kind != Mark::Kind::Total) continue;
     savedTotals.push_back(mark);
-    savedNames.remove(mark.name);
+    saved.remove(mark.name);
   }
 }
 

@@ -32,7 +32,7 @@ struct PlanContents {
   std::vector<Mark> marks;  // the annotations of this program, oldest first
 };
 
-// What a save adds to and takes from the annotations of a plan.
+// What a save adds to and takes from the annotations of a plan. A mark that has changed is in both.
 struct MarkChanges {
   std::vector<Mark> added;
   QStringList removed;  // names

@@ -48,6 +48,9 @@ struct PlanEvents {
   // Something speaks against marking this plan: true when it is to be marked all the same. Asked
   // once for a plan, before its first mark.
   std::function<bool(const QString& reservation)> onReservation;
+  // A mark that was chosen is changed or removed, or that is taken back or brought back.
+  std::function<void()> onMarkEdited;
+  std::function<void()> onMarkChosen;  // another one, another point of it, or none
   std::function<void()> onPageChanged;
   std::function<void()> onScrolled;  // by the user only
   std::function<void()> onMousePressed;

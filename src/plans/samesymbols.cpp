@@ -16,6 +16,7 @@ QString Symbols(size_t count) {
 
 void SameSymbols::Start() {
   End(QString());
+  viewer_.Hand().LetGo();
   if (viewer_.OpenedPlan() == nullptr)
     return Tell(QStringLiteral("Find Same: no plan is open whose lines could be read."));
   state_ = State::Boxing;
@@ -124,7 +125,7 @@ bool SameSymbols::TakeKey(PlanKey key) {
     case PlanKey::Yes:
       Reply(Answer::Yes);
       return true;
-    case PlanKey::No:
+    case PlanKey::NextMark:
       Reply(Answer::No);
       return true;
     case PlanKey::All:

@@ -29,6 +29,8 @@ void Put(WireWriter& wire, const Mark& mark) {
   wire.Text(mark.label);
   wire.Text(mark.group);
   wire.Text(mark.name);
+  wire.Text(mark.title);
+  wire.Text(mark.kept);
 }
 
 void Take(WireReader& wire, Mark& mark) {
@@ -48,6 +50,8 @@ void Take(WireReader& wire, Mark& mark) {
   mark.label = wire.Text();
   mark.group = wire.Text();
   mark.name = wire.Text();
+  mark.title = TitleOf(wire.Text());
+  mark.kept = wire.Text().left(kLongestKept);
 }
 
 void Put(WireWriter& wire, const std::vector<Mark>& marks) {

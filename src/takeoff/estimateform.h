@@ -34,6 +34,7 @@ class EstimateForm : public TakeoffForm {
   MenuEntry PasteArea{*this, "PasteArea", " &PasteArea"};
   MenuEntry OST1{*this, "OST1", "&DSW"};
   MenuEntry Exit{*this, "Exit", "E&xit"};
+  MenuEntry ShowMarks{*this, "ShowMarks", "&Marks (F7)"};
   MenuEntry EditAreas{*this, "EditAreas", {}, nullptr, true};
   MenuEntry AreasDelete{*this, "AreasDelete", "Delete Area", &EditAreas};
   MenuEntry AreasCancel{*this, "AreasCancel", "Cancel", &EditAreas};
@@ -55,6 +56,8 @@ class EstimateForm : public TakeoffForm {
   void LoadSystem();  // the system named in eDescription
   // What is behind its file is read again; the estimator stays where he is.
   void ReadAgain();
+  // The area's line of that system comes into work, as if it was selected. Why not, in words.
+  QString GoToLine(const QString& area, const QString& system);
   SheetState State() const override;
   void ShowState(const SheetState& state) override;
   void FollowFiles(const QStringList& paths) override;
@@ -103,7 +106,7 @@ class EstimateForm : public TakeoffForm {
   void PasteLines();
 
   // estimatestate.cpp: what taking back shows, and what it calls an entry
-  void BeginQuantity();  // a length or a count is entered
+  void BeginQuantity(double total);  // a length or a count is entered; it makes the line `total`
   void LeaveArea();
 
   AutoRoomSwitch autoRoom_{AutoRoom};

@@ -28,6 +28,8 @@ class RFSForm : public RFSScreen {
   QString TargetOf(const TextField& field) const override;
   void LoadSystem();   // the system named in Description
   void EstimateRFS();  // on to the next line of the walk
+  // The room's line of that system comes into work, as if it was selected. Why not, in words.
+  QString GoToLine(const QString& room, const QString& system);
   RoomRecord& Record() { return record_; }
   SheetState State() const override;
   void ShowState(const SheetState& state) override;
@@ -72,10 +74,10 @@ class RFSForm : public RFSScreen {
   void FinishSchedule();
 
   // rfsstate.cpp: what taking back shows, and what it calls an entry
-  QString TheLine() const;  // the system and the finish area in the fields
-  void BeginLine();         // a line is entered
-  void BeginQuantity();     // a length or a count is entered
-  void SelectLine(int at);  // without beginning it
+  QString TheLine() const;           // the system and the finish area in the fields
+  void BeginLine();                  // a line is entered
+  void BeginQuantity(double total);  // a length or a count is entered; it makes the line `total`
+  void SelectLine(int at);           // without beginning it
 
   RoomRecord record_{*this, kit_, reports_, steps_};
   RoomCommands commands_{*this, record_, kit_, steps_};

@@ -10,6 +10,7 @@
 #include "windows/groupstrip.h"
 #include "windows/plancanvas.h"
 #include "windows/plancolumn.h"
+#include "windows/planmarks.h"
 #include "windows/plantoolbar.h"
 
 // The plan: thumbnails on the left, the plan in the middle with its tools over it, a narrow column
@@ -175,6 +176,7 @@ void LayOutOST(Builder& b) {
   middle->addWidget(Words(b));
   middle->addWidget(canvas, 1);
   middle->addWidget(FindText(b, *canvas));
+  middle->addWidget(PlanMarks(b));
   row->addLayout(middle, 1);
   row->addWidget(PlanColumn(b));
   FormWindow& window = b.Window();

@@ -16,6 +16,7 @@ std::optional<PlanKey> PlanKeyOf(int code) {
                                                       {Qt::Key_Enter, PlanKey::Enter},
                                                       {Qt::Key_Escape, PlanKey::Escape},
                                                       {Qt::Key_Backspace, PlanKey::Backspace},
+                                                      {Qt::Key_Delete, PlanKey::Delete},
                                                       {Qt::Key_Z, PlanKey::Undo},
                                                       {Qt::Key_Y, PlanKey::Redo}};
   for (const auto& [known, key] : kKeys) {
@@ -29,7 +30,7 @@ std::optional<PlanKey> PlanKeyOf(int code) {
 // While symbols that were found are asked about, letters answer.
 bool PlanCanvas::TakeAnswer(int key) {
   static constexpr std::pair<int, PlanKey> kAnswers[] = {
-      {Qt::Key_Y, PlanKey::Yes}, {Qt::Key_N, PlanKey::No}, {Qt::Key_A, PlanKey::All}};
+      {Qt::Key_Y, PlanKey::Yes}, {Qt::Key_N, PlanKey::NextMark}, {Qt::Key_A, PlanKey::All}};
   if (!viewer_.Same().Asking()) return false;
   for (const auto& [letter, answer] : kAnswers) {
     if (letter != key) continue;
@@ -61,6 +62,10 @@ bool PlanCanvas::TakeLetter(int key) {
       return press(PlanKey::Arc);
     case Qt::Key_S:
       return press(PlanKey::Snap);
+    case Qt::Key_N:
+      return press(PlanKey::NextMark);
+    case Qt::Key_P:
+      return press(PlanKey::MarkBefore);
     case Qt::Key_Tab:
       return TakeNextSnap();
     case Qt::Key_G:
@@ -92,7 +97,10 @@ bool PlanCanvas::TakeLetter(int key) {
 // Where there is nothing to snap to, Tab goes on to the next field as everywhere.
 bool PlanCanvas::TakeNextSnap() {
   bool taken = false;
-  desk_.Dispatch([&] { taken = viewer_.Snap().TakeKey(PlanKey::NextSnap); });
+  desk_.Dispatch([&] {
+    taken = viewer_.Hand().TakeKey({PlanKey::NextSnap, false, false}) ||
+            viewer_.Snap().TakeKey(PlanKey::NextSnap);
+  });
   return taken;
 }
 

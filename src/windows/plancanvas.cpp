@@ -14,6 +14,7 @@ namespace tamo {
 namespace {
 
 constexpr int kRest = 150;         // milliseconds after which the sheet rests
+constexpr double kClickShake = 4;  // pixels that the mouse may move within a click
 constexpr double kWheelStep = 60;  // points for a notch of the wheel at 100 per cent
 
 }  // namespace
@@ -188,6 +189,10 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   const PagePoint at = Pointed(*event);
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
   desk_.Dispatch([&] { viewer_.Press(at, shift); });
+  // A point of the chosen mark is moved, not the sheet.
+  if (!viewer_.Hand().Holds()) return;
+  panning_ = false;
+  drawing_ = true;
 }
 
 void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
@@ -199,6 +204,7 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
   }
   if (panning_ && event->buttons() != Qt::NoButton) {
     viewport()->setCursor(Qt::ClosedHandCursor);
+    if ((event->position() - pressedAt_).manhattanLength() > kClickShake) viewer_.Hand().Pulled();
     Pan((panFrom_ - event->position()) / Scale());
     panFrom_ = event->position();
     return;

@@ -76,6 +76,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void SyncBars();
   void ViewChanged();
   void PaintMarks(QPainter& painter) const;
+  void PaintChosen(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
   void PaintFound(QPainter& painter) const;
   void PaintLikes(QPainter& painter) const;

@@ -73,7 +73,7 @@ TEST(CountGroups, TotalsStandBesideTheFirstCircleOfEachPage) {
   const std::vector<Mark> marks = {Circle("Lights", "Lights 2", 1, {300, 300}),
                                    Circle("Lights", "Lights 1", 1, {100, 200}),
                                    Circle("Lights", "Lights 3", 2), Circle("Fans", "Fans 1", 2)};
-  const std::vector<Mark> totals = TotalsOf(marks, 13.5);
+  const std::vector<Mark> totals = GroupTotalsOf(marks, 13.5);
   ASSERT_EQ(totals.size(), 3U);
   EXPECT_EQ(totals[0].label.toStdString(), "Fans: 1");
   EXPECT_EQ(totals[1].label.toStdString(), "Lights: 2 of 3");
@@ -81,7 +81,7 @@ TEST(CountGroups, TotalsStandBesideTheFirstCircleOfEachPage) {
   EXPECT_NEAR(totals[1].points[0].x, 100 + 13.5 / 2 + 2, 1e-9);
   EXPECT_EQ(totals[1].points[0].y, 203);
   EXPECT_NE(totals[1].name, totals[2].name);
-  EXPECT_EQ(totals[1].name, TotalsOf(marks, 13.5)[1].name);
+  EXPECT_EQ(totals[1].name, GroupTotalsOf(marks, 13.5)[1].name);
 }
 
 TEST_F(CountingInGroups, EachCircleHasItsNumberAndEachGroupItsColour) {

@@ -85,7 +85,7 @@ bool Looker::LookAtPlan(const QString& word, QString& text) {
   static const QStringList words = {QStringLiteral("marks"), QStringLiteral("tool"),
                                     QStringLiteral("pen"),   QStringLiteral("zoom"),
                                     QStringLiteral("page"),  QStringLiteral("unit"),
-                                    QStringLiteral("shown")};
+                                    QStringLiteral("shown"), QStringLiteral("chosen")};
   const qsizetype at = words.indexOf(word);
   if (at < 0) return false;
   const PdfDraw& viewer = Program().Viewer();
@@ -109,6 +109,9 @@ bool Looker::LookAtPlan(const QString& word, QString& text) {
       break;
     case 5:
       text = viewer.UnitName();
+      break;
+    case 7:
+      text = ChosenLine(viewer);
       break;
     default:
       text = viewer.ShownFile();
