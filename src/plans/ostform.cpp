@@ -114,6 +114,8 @@ void OSTForm::BindOutlines() {
       event([this](double& area, QString& label) { surfaces_.AreaMeasured(area, label); });
   viewer_.onAreaRunning =
       event([this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
+  viewer_.onGroupCountChanged =
+      event([this](const QString& group, int count) { groups_.Counted(group, count); });
   viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
 }
 
@@ -170,8 +172,6 @@ void OSTForm::BindViewer() {
   });
   viewer_.onSheetRead = event([this] { sheetScales_.SheetRead(); });
   viewer_.onCircleCountChanged = event([this](int count) { measure_.CirclesCounted(count); });
-  viewer_.onGroupCountChanged =
-      event([this](const QString& group, int count) { groups_.Counted(group, count); });
   viewer_.onPageChanged = event([this] {
     pages_.ShowPage();
     groups_.ShowGroups();

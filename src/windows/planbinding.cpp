@@ -27,11 +27,16 @@ std::optional<PlanKey> PlanKeyOf(int code) {
 
 }  // namespace
 
-// While symbols that were found are asked about, letters answer.
-bool PlanCanvas::TakeAnswer(int key) {
+// The helpers that count; while symbols that were found are asked about, letters answer.
+bool PlanCanvas::TakeCountLetter(int key) {
   static constexpr std::pair<int, PlanKey> kAnswers[] = {
       {Qt::Key_Y, PlanKey::Yes}, {Qt::Key_N, PlanKey::NextMark}, {Qt::Key_A, PlanKey::All}};
-  if (!viewer_.Same().Asking()) return false;
+  if (key == Qt::Key_G && onGroups) {
+    onGroups();
+    return true;
+  }
+  if (key == Qt::Key_I) desk_.Dispatch([this] { viewer_.Same().Start(); });
+  if (key == Qt::Key_I || !viewer_.Same().Asking()) return key == Qt::Key_I;
   for (const auto& [letter, answer] : kAnswers) {
     if (letter != key) continue;
     desk_.Dispatch([&, answer = answer] { viewer_.Key({answer, false, false}); });
@@ -42,7 +47,7 @@ bool PlanCanvas::TakeAnswer(int key) {
 
 // The tool bar by letters, while the keys go to the plan.
 bool PlanCanvas::TakeLetter(int key) {
-  if (TakeAnswer(key)) return true;
+  if (TakeCountLetter(key)) return true;
   static constexpr std::pair<int, PlanTool> kTools[] = {
       {Qt::Key_V, PlanTool::None},     {Qt::Key_M, PlanTool::Measuring},
       {Qt::Key_C, PlanTool::Counting}, {Qt::Key_L, PlanTool::Polyline},
@@ -68,12 +73,6 @@ bool PlanCanvas::TakeLetter(int key) {
       return press(PlanKey::MarkBefore);
     case Qt::Key_Tab:
       return TakeNextSnap();
-    case Qt::Key_G:
-      if (onGroups) onGroups();
-      return true;
-    case Qt::Key_I:
-      desk_.Dispatch([this] { viewer_.Same().Start(); });
-      return true;
     case Qt::Key_T:
       TurnView();
       return true;

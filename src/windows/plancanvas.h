@@ -87,7 +87,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void FitTo(double pixelsPerPoint);
   bool TakeLetter(int key);
   bool TakeNextSnap();
-  bool TakeAnswer(int key);
+  bool TakeCountLetter(int key);
   // Where on the page the mouse takes hold.
   PagePoint Pointed(const QMouseEvent& event);
 
