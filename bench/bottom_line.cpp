@@ -4,6 +4,7 @@
 // many Enters.
 #include <vector>
 
+#include "figureline.h"
 #include "playprogram.h"
 #include "records/namelists.h"
 #include "takeoff/bottomline.h"
@@ -75,5 +76,9 @@ int main(int argc, char** argv) {
     bench::Tell("name", names);
     bench::Tell("price", prices);
     bench::Tell("bare save", saves);
+    bench::TellFigure("Enter in the name of a bottom line item, 200 items", bench::Part(names, .5),
+                      "the save of the names", bench::Part(saves, .5));
+    bench::TellFigure("Enter in the price of one", bench::Part(prices, .5), "the save of the names",
+                      bench::Part(saves, .5));
   });
 }

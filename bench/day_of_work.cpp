@@ -8,6 +8,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "figureline.h"
 #include "playprogram.h"
 #include "takeoffplay.h"
 
@@ -48,7 +49,8 @@ int main(int argc, char** argv) {
       std::printf("hour %d: %.1f MB\n", hour, last);
       std::fflush(stdout);
     }
-    std::printf("day of %d Enters: %.1f MB after %.1f MB, %.2f times\n", kHours * enters, last,
-                first, last / first);
+    bench::TellFigure("Memory after a day of " + std::to_string(kHours * enters) + " Enters and " +
+                          std::to_string(kHours * enters / 100) + " reports",
+                      last, "after its first hour", first, 1.1, "MB");
   });
 }

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "figureline.h"
 #include "plans/likefinder.h"
 #include "support/likesheets.h"
 
@@ -64,6 +65,13 @@ int main(int count, char** arguments) {
         "%zu lines, %.2f s, longest %.2f s\n",
         family.name, score.there, score.found, score.asked, score.missed, score.wrong, sum.others,
         score.doubted, sum.lines, sum.seconds / sheets, sum.longest);
+    const std::string found = "Find Same, " + std::string(family.name) + ": found (" +
+                              std::to_string(score.missed) + " missed, " +
+                              std::to_string(score.wrong) + " wrong)";
+    bench::TellFigure(found, score.found, "there", score.there, 1, "");
+    bench::TellFigure("Find Same, " + std::string(family.name) + ": the search, up to " +
+                          std::to_string(sum.lines) + " lines",
+                      sum.seconds / sheets * 1e3, "the longest", sum.longest * 1e3);
   }
   return 0;
 }

@@ -5,6 +5,7 @@
 #include <QThread>
 #include <vector>
 
+#include "figureline.h"
 #include "playprogram.h"
 #include "takeoffplay.h"
 #include "timesof.h"
@@ -28,5 +29,11 @@ int main(int argc, char** argv) {
     bench::Tell("Enter", enters);
     bench::Tell("its work", works);
     bench::Tell("bare save", saves);
+    const std::string what = "Enter with its save and the Recap Sheet anew, 20,000 lines";
+    bench::TellFigure(what + ", 99 of 100", bench::Part(enters, .99), "a frame", 16, 1);
+    bench::TellFigure(what + ", without waiting for the device, 99 of 100", bench::Part(works, .99),
+                      "a frame", 16, 1);
+    bench::TellFigure(what + ", median", bench::Part(enters, .5), "its durable save",
+                      bench::Part(saves, .5));
   });
 }

@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <fstream>
 
+#include "figureline.h"
 #include "largebid.h"
 #include "startedprogram.h"
 #include "threadwork.h"
@@ -23,6 +24,8 @@ namespace {
 
 using tamo::OrderedList;
 using tamo::bench::WorkOfThread;
+
+constexpr double kFrame = 16;  // milliseconds
 
 class Watch {
  public:
@@ -47,9 +50,10 @@ class Watch {
   void End(const char* what, int lines) {
     const qint64 made = whole_.elapsed();
     Settle();
-    std::printf("%-16s %8d lines  %6lld ms, longest silence %6.1f ms, of work %6.1f ms\n", what,
-                lines, static_cast<long long>(made), longest_, longestWork_);
-    std::fflush(stdout);
+    std::printf("%-16s longest silence %6.1f ms, of work %6.1f ms\n", what, longest_, longestWork_);
+    tamo::bench::TellFigure("The window stands still: " + std::string(what) + ", " +
+                                std::to_string(lines) + " lines in " + std::to_string(made) + " ms",
+                            longest_, "a frame", kFrame, 1);
   }
 
  private:
@@ -136,8 +140,7 @@ class Play {
     const double answered =
         pressed.isValid() ? static_cast<double>(pressed.nsecsElapsed()) / 1e6 : -1;
     watch_.End("Escape", Lines());
-    std::printf("%-16s answered in %.1f ms\n", "Escape", answered);
-    std::fflush(stdout);
+    tamo::bench::TellFigure("Escape stops the Office Copy", answered, "a frame", kFrame, 1);
   }
 
   void Memory() {
@@ -149,9 +152,8 @@ class Play {
     double text = 0;
     for (int row = 0; row < copy.Count(); ++row)
       text += static_cast<double>(copy.SharedRows().SizeOf(row));
-    std::printf("%-16s %.0f MB more for %.0f MB of text: %.2f times\n", "memory",
-                (after - before) / 1e6, text / 1e6, (after - before) / text);
-    std::fflush(stdout);
+    tamo::bench::TellFigure("Memory of the Office Copy", (after - before) / 1e6, "its text",
+                            text / 1e6, 1.5, "MB");
   }
 
  private:

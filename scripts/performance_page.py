@@ -61,35 +61,37 @@ TIMES = [
 ]
 
 
-def medians(folder):
-    runs, release = {}, True
-    for name in sorted(os.listdir(folder)):
-        if not name.endswith(".json"):
-            continue
-        try:
-            page = json.load(open(os.path.join(folder, name), encoding="utf-8"))
-        except json.JSONDecodeError:
-            continue
-        release = release and page["context"].get("library_build_type") == "release"
+class Measured:
+    """What the benchmark library left: medians in milliseconds by name, and all runs."""
+
+    def __init__(self, folder):
+        self.runs, self.release = {}, True
+        for name in sorted(os.listdir(folder)):
+            if name.endswith(".json"):
+                self.take(json.loads(text_of(folder, name)))
+        self.times = {name: statistics.median(run["real_time"] * MILLI[run["time_unit"]] for run in runs)
+                      for name, runs in self.runs.items()}
+
+    def take(self, page):
+        self.release = self.release and page["context"].get("library_build_type") == "release"
         for run in page["benchmarks"]:
             if run.get("run_type") == "iteration" and not run.get("error_occurred"):
-                runs.setdefault(run["run_name"], []).append(run)
-    times = {name: statistics.median(r["real_time"] * MILLI[r["time_unit"]] for r in all_) for name, all_ in runs.items()}
-    return times, runs, release
+                self.runs.setdefault(run["run_name"], []).append(run)
+
+    def counter(self, name, counter):
+        return statistics.median(run[counter] for run in self.runs[name])
 
 
-def waits(times, runs):
+def waits(measured):
     lines = []
     for what, name, counter, limit, peer in TIMES:
-        if name not in times:
-            continue
-        took = times[name] if counter is None else statistics.median(run[counter] for run in runs[name])
-        lines.append(row(what, shown(took), peer or "", f"{limit} ms" if limit else "", took / limit if limit else None,
-                         1 if limit else None))
-    found = statistics.median(run["times_the_save"] for run in runs["EnterBesideItsSave/real_time"]) \
-        if "EnterBesideItsSave/real_time" in runs else None
-    if found is not None:
-        lines.append(row("Enter in Length, median", "", "its durable save", "", found, 1.25))
+        if name in measured.times:
+            took = measured.times[name] if counter is None else measured.counter(name, counter)
+            lines.append(row(what, shown(took), peer or "", f"{limit} ms" if limit else "", took / limit if limit else None,
+                             1 if limit else None))
+    if "EnterBesideItsSave/real_time" in measured.runs:
+        lines.append(row("Enter in Length, median", "", "its durable save", "",
+                         measured.counter("EnterBesideItsSave/real_time", "times_the_save"), 1.25))
     return lines
 
 
@@ -118,104 +120,58 @@ def machine():
             f"{int(memory.group(1)) / 2 ** 20:.0f} GB, Linux {platform.release()}; {compiler}")
 
 
-def holds(folder):
+def told(folder, parts):
+    """The lines that programs print themselves (bench/figureline.h)."""
     lines = []
-    for what, count, made, silence, work in re.findall(
-            r"^(\w+) +(\d+) lines +(\d+) ms, longest silence +([\d.]+) ms, of work +([\d.]+) ms",
-            text_of(folder, "hold.txt"), re.M):
-        lines.append(row(f"The window stands still: {what}, {int(count):,} lines in {int(made):,} ms",
-                         f"{float(silence):.1f} ms ({float(work):.1f} of work)", "a frame", "16 ms", float(silence) / 16, 1))
-    for answered in re.findall(r"answered in ([\d.]+) ms", text_of(folder, "hold.txt")):
-        lines.append(row("Escape stops the Office Copy of 1,000,000 lines", f"{float(answered):.1f} ms", "a frame", "16 ms",
-                         float(answered) / 16, 1))
-    for more, text, ratio in re.findall(r"^memory +(\d+) MB more for (\d+) MB of text: ([\d.]+)", text_of(folder, "hold.txt"),
-                                        re.M):
-        lines.append(row("Memory of the Office Copy of 1,000,000 lines", f"{more} MB", "its text", f"{text} MB", float(ratio), 1.5))
-    for enters, last, first, ratio in re.findall(r"^day of (\d+) Enters: ([\d.]+) MB after ([\d.]+) MB, ([\d.]+) times",
-                                                 text_of(folder, "day.txt"), re.M):
-        lines.append(row(f"Memory after a day of {int(enters):,} Enters and {int(enters) // 100} reports", f"{last} MB",
-                         "after its first hour", f"{first} MB", float(ratio), 1.1))
+    for part in parts:
+        for line in text_of(folder, part + ".txt").splitlines():
+            if not line.startswith("figure\t"):
+                continue
+            _, what, takes, peer, peer_takes, limit, unit = line.split("\t")
+            takes, peer_takes, limit = float(takes), float(peer_takes), float(limit)
+            said = shown if unit == "ms" else lambda value, unit=unit: f"{value:,.1f} {unit}"
+            lines.append(row(what, said(takes), peer, said(peer_takes) if peer_takes else "",
+                             takes / peer_takes if peer_takes else None, limit or None))
     return lines
 
 
-def refresh(folder):
-    found = dict((what, (float(half), float(most))) for what, half, most in re.findall(
-        r"^(\w[\w ]*\w) +median +([\d.]+) ms, 99 of 100 within +([\d.]+) ms", text_of(folder, "refresh.txt"), re.M))
-    if "Enter" not in found:
-        return []
-    half, most = found["Enter"]
-    lines = [row("Enter with its save and the Recap Sheet anew, 20,000 lines, 99 of 100", f"{most:.1f} ms", "a frame", "16 ms",
-                 most / 16, 1)]
-    if "its work" in found:
-        half, most = found["its work"]
-        lines.append(row("The same, without what its save waits for the device", f"{most:.1f} ms", "a frame", "16 ms",
-                         most / 16, 1))
-        half = found["Enter"][0]
-    if "bare save" in found:
-        lines.append(row("The same, median", f"{half:.1f} ms", "its durable save", f"{found['bare save'][0]:.1f} ms",
-                         half / found["bare save"][0], None))
-    return lines
-
-
-def bottom_line(folder):
-    found = dict((what, float(half)) for what, half in re.findall(
-        r"^(\w[\w ]*\w) +median +([\d.]+) ms", text_of(folder, "items.txt"), re.M))
-    if "bare save" not in found:
-        return []
-    return [row(f"Enter in the {what} of a bottom line item, 200 items", f"{found[what]:.1f} ms", "the save of the names",
-                f"{found['bare save']:.1f} ms", found[what] / found["bare save"], None)
-            for what in ("name", "price") if what in found]
-
-
-def likes(folder):
-    lines = []
-    for what, there, found, asked, missed, wrong, others, doubted, count, seconds, longest in re.findall(
-            r"^([\w ]+): (\d+) there, (\d+) found, (\d+) asked, (\d+) missed, (\d+) wrong; (\d+) others, (\d+) of them asked; "
-            r"(\d+) lines, ([\d.]+) s, longest ([\d.]+) s", text_of(folder, "likes.txt"), re.M):
-        bad = int(missed) + int(wrong)
-        lines.append(row(f"Find Same, {what}: {found} of {there} found, {asked} asked about, {missed} missed, {wrong} wrong among "
-                         f"{others} others; up to {int(count):,} lines", f"{float(seconds):.2f} s",
-                         "longest", f"{float(longest):.2f} s", float(bad), 0))
-    return lines
-
-
-def start(folder):
-    lines = []
-    found = re.search(r"empty window (\d+) us, with one word (\d+) us", text_of(folder, "start.txt"))
-    if found:
-        empty, word = int(found.group(1)) / 1e3, int(found.group(2)) / 1e3
-        lines.append(row("From the start to the first frame: a window with one word, for which fonts are sought", shown(word),
-                         "an empty Qt window", shown(empty), word / empty, None))
-    for words, limit in (("Tamo", 1.5), ("Tamo with a project", 1.5), ("Tamo with a project that is open elsewhere", 1.5)):
-        found = re.search(rf"empty window (\d+) us, {words} (\d+) us", text_of(folder, "start.txt"))
-        if found:
-            empty, tamo = int(found.group(1)) / 1e3, int(found.group(2)) / 1e3
-            lines.append(row(f"From the start to the first frame: {words}", shown(tamo), "an empty Qt window", shown(empty),
-                             tamo / empty, limit))
-    return lines
+def runs_of(folder, parts):
+    """When each part was measured, and which were not."""
+    when, missing = {}, []
+    for part in parts:
+        left = [path for path in (os.path.join(folder, part + kind) for kind in (".txt", ".json")) if os.path.exists(path)]
+        if left:
+            day = datetime.datetime.fromtimestamp(os.path.getmtime(left[0])).strftime("%Y-%m-%d")
+            when.setdefault(day, []).append(part)
+        else:
+            missing.append(part)
+    days = "; ".join(f"{day}: {', '.join(of)}" if len(when) > 1 or missing else day for day, of in sorted(when.items()))
+    return days + (f"; not measured: {', '.join(missing)}" if missing else "")
 
 
 def main():
-    folder = sys.argv[1]
-    times, runs, release = medians(folder)
+    folder, parts = sys.argv[1], sys.argv[2:]
+    measured = Measured(folder)
+    library = "a release build" if measured.release else \
+        "Debian's package, which reports itself a debug build; it touches only the loop around the measured work"
     print("# Performance\n")
     print("Written by `scripts/benchmark.sh`; every figure stands beside its peer of the same run, so that the ratio says more than")
     print("the time. Medians, unless the line says something else.\n")
     print(f"- Machine: {machine()}")
-    print(f"- Date: {datetime.date.today().isoformat()}, load at the end {os.getloadavg()[1]:.1f}")
+    print(f"- Measured: {runs_of(folder, parts)}; load at the end {os.getloadavg()[1]:.1f}")
     print("- The program: release build (`bench` preset), run offscreen")
-    library = "a release build" if release else "Debian's package, which reports itself a debug build; it touches only the loop around the measured work"
     print(f"- The library that measures: {library}\n")
     print("| What | Takes | Beside | Takes | Ratio | Limit | Held |")
     print("| --- | --- | --- | --- | --- | --- | --- |")
-    for line in start(folder) + holds(folder) + refresh(folder) + waits(times, runs) + bottom_line(folder) + likes(folder):
-        print(line)
     missing = []
+    for line in told(folder, parts) + waits(measured):
+        print(line)
     for what, name, peer, words, limit in RATIOS:
-        if name not in times or peer not in times:
+        if name in measured.times and peer in measured.times:
+            took, beside = measured.times[name], measured.times[peer]
+            print(row(what, shown(took), words, shown(beside), took / beside, limit))
+        else:
             missing.append(what)
-            continue
-        print(row(what, shown(times[name]), words, shown(times[peer]), times[name] / times[peer], limit))
     if missing:
         print("\nNot measured here, because the benchmark or its peer is missing: " + "; ".join(missing) + ".")
 

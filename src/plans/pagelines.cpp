@@ -54,7 +54,7 @@ void AddLines(std::vector<Laid>& row, std::vector<PageTextLine>& lines) {
                        std::abs(last->from - laid.from) < kSamePlace * size;
     if (twice) continue;
     if (last == nullptr || laid.from - end > kColumn * size) {
-      lines.push_back({{}, NoBox(), size});
+      lines.push_back({{}, NoBox(), size, laid.piece->dx, laid.piece->dy});
       end = laid.from;
     }
     Append(lines.back(), laid, end);

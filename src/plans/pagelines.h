@@ -13,6 +13,8 @@ struct PageTextLine {
   QString text;
   PageBox box;
   double size = 0;  // of its first piece
+  double dx = 1;    // direction of the base line, as of a TextPiece
+  double dy = 0;
 };
 
 // In the order of their base lines, level ones from top to bottom. Clipped text is left out.

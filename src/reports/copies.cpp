@@ -101,14 +101,14 @@ class CopyMaker : public TakeoffVisitor {
   // A takeoff line with the lines under it.
   void AddLine(SheetKind kind, QStringView end, double quantity) {
     const QString& system = shelf_.Asked();
-    arithmetic_.Work(shelf_.Blocks(), quantity, system, standing_, figures_);
+    const int number = Number();
+    arithmetic_.Work(rows_->System(number).blocks, quantity, system, standing_, figures_);
     double dollars = 0;
     for (const CopyFigures& of : figures_) {
       manhours_ += of.manhours;
       dollars += of.materialDollars + of.laborDollars;
     }
     CheckFigures({manhours_}, system);
-    const int number = Number();
     const bool fits = rows_->AddLine(kind, number, end, quantity, figures_, dollars);
     const double worth =
         fits ? CountFitting(rows_->System(number)) : AddAsTexts(kind, end, rows_->System(number));

@@ -55,9 +55,9 @@ void CopyArithmetic::Refuse(const PricedBlock& block, const CopyFigures& figures
   CheckFigures({figures.labor, figures.laborDollars}, system);
 }
 
-void CopyArithmetic::Work(const std::vector<PricedBlock>& blocks, double quantity,
-                          const QString& system, StandingFigures& standing,
-                          std::vector<CopyFigures>& figures) const {
+void CopyArithmetic::WorkEach(const std::vector<PricedBlock>& blocks, double quantity,
+                              const QString& system, StandingFigures& standing,
+                              std::vector<CopyFigures>& figures) const {
   figures.resize(blocks.size());
   for (size_t i = 0; i < blocks.size(); ++i) {
     figures[i] = Of(blocks[i], quantity, standing);
@@ -65,6 +65,14 @@ void CopyArithmetic::Work(const std::vector<PricedBlock>& blocks, double quantit
     if (!std::isfinite(of.material + of.materialDollars + of.labor + of.laborDollars))
       Refuse(blocks[i], of, system);
   }
+}
+
+void CopyArithmetic::Work(const CopyBlocks& blocks, double quantity, const QString& system,
+                          StandingFigures& standing, std::vector<CopyFigures>& figures) const {
+  const StandingFigures before = standing;
+  if (blocks.Work(quantity, office_, markups_, standing, figures)) return;
+  standing = before;
+  WorkEach(blocks.Blocks(), quantity, system, standing, figures);
 }
 
 }  // namespace tamo

@@ -3,19 +3,11 @@
 #include <QString>
 #include <vector>
 
+#include "reports/copyblocks.h"
 #include "reports/markupfactors.h"
 #include "reports/rollup.h"
 
 namespace tamo {
-
-// What the two detail lines of one material under a takeoff line of a copy say.
-struct CopyFigures {
-  double material = 0;         // hundredths of order units
-  double materialDollars = 0;  // whole ones; Office Copy only, as the labor's
-  double labor = 0;            // hundredths of manhours
-  double laborDollars = 0;
-  double manhours = 0;  // as they are
-};
 
 // How a copy works out its figures. It stands as long as the rows of the copy.
 class CopyArithmetic {
@@ -25,10 +17,12 @@ class CopyArithmetic {
 
   // The figures of each material for `quantity` takeoff units of the system. Raises what rollup.h
   // raises.
-  void Work(const std::vector<PricedBlock>& blocks, double quantity, const QString& system,
+  void Work(const CopyBlocks& blocks, double quantity, const QString& system,
             StandingFigures& standing, std::vector<CopyFigures>& figures) const;
 
  private:
+  void WorkEach(const std::vector<PricedBlock>& blocks, double quantity, const QString& system,
+                StandingFigures& standing, std::vector<CopyFigures>& figures) const;
   CopyFigures Of(const PricedBlock& block, double quantity, StandingFigures& standing) const;
   void Refuse(const PricedBlock& block, const CopyFigures& figures, const QString& system) const;
   double MaterialDollars(double hundredths, double price) const;

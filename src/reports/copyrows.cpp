@@ -36,11 +36,10 @@ bool IsNarrow(QStringView text) {
 CopySystem::CopySystem(const QString& asked, std::shared_ptr<const PricedSystem> priced,
                        bool office)
     : name(asked), system(std::move(priced)), blocks(system->blocks) {
-  materials.reserve(blocks.size());
-  for (const PricedBlock& block : blocks) {
+  materials.reserve(system->blocks.size());
+  for (const PricedBlock& block : system->blocks) {
     materials.push_back(DetailRow::Material(block, office));
     longest = std::max(longest, materials.back().Size());
-    if (block.orderTag == OrderTag::None || block.laborTag == LaborTag::None) standsAlone = false;
   }
 }
 
@@ -97,7 +96,7 @@ bool CopyRows::Fit(const CopySystem& system, const std::vector<CopyFigures>& fig
 bool CopyRows::AddLine(SheetKind kind, int system, QStringView end, double quantity,
                        const std::vector<CopyFigures>& figures, double dollars) {
   const CopySystem& of = System(system);
-  if (!of.standsAlone || !IsNarrow(end) || !(dollars < kEndOfMoney) || !Fit(of, figures))
+  if (!of.blocks.StandAlone() || !IsNarrow(end) || !(dollars < kEndOfMoney) || !Fit(of, figures))
     return false;
   char* to = texts_.AddNarrow(end.size());
   for (const QChar c : end) *to++ = static_cast<char>(c.unicode());

@@ -19,9 +19,8 @@ struct CopySystem {
 
   QString name;
   std::shared_ptr<const PricedSystem> system;
-  const std::vector<PricedBlock>& blocks;
+  const CopyBlocks blocks;
   std::vector<DetailRow> materials;  // the line of each
-  bool standsAlone = true;           // no block takes over a figure that another one left
   qsizetype longest = 0;             // characters of a detail line
 };
 

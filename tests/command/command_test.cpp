@@ -8,6 +8,7 @@
 #include "commandbench.h"
 #include "common/failure.h"
 #include "export/tablefile.h"
+#include "support/sourcefile.h"
 
 namespace tamo::test {
 namespace {
@@ -225,7 +226,7 @@ TEST_F(Command, ChangesNeedAVersion) {
 }
 
 TEST_F(Command, ChangesAreThoseSinceTheSampleWasSent) {
-  const QString sample = QStringLiteral(TAMO_SOURCE_DIR "/data/Sample/Tamo");
+  const QString sample = test::SourceFile(QStringLiteral("data/Sample/Tamo"));
   const PlayedCommand text = Play({QStringLiteral("report"), QStringLiteral("changes"),
                                    QStringLiteral("12-2611001"), QStringLiteral("--data"), sample});
   EXPECT_EQ(text.status, ExitStatus::Done) << text.complaints.join(u'\n').toStdString();

@@ -1,4 +1,5 @@
 #include "commandbench.h"
+#include "support/sourcefile.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -52,7 +53,7 @@ QStringList Snapshot(const QString& folder) {
 }
 
 QString DataPathOf(const QString& name) {
-  return QStringLiteral(TAMO_SOURCE_DIR "/tests/data/") + name;
+  return test::SourceFile(QStringLiteral("tests/data/")) + name;
 }
 
 bool CopyFolder(const QString& from, const QString& to) {

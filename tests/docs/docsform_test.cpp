@@ -8,6 +8,7 @@
 #include "common/failure.h"
 #include "docs/topics.h"
 #include "support/room.h"
+#include "support/sourcefile.h"
 
 namespace tamo::test {
 namespace {
@@ -196,12 +197,13 @@ TEST_F(Docs, EveryTopicOfAFieldOrAReportIsShipped) {
                            "AdjustmentForm", "OST", "Reports", "Docs", "Versions", "Schedule"}) {
     for (const char* field : {"", "JobsList", "Notes", "MOH", "File1", "Price", "Scale1"}) {
       const QString file = FileOfField(form, field);
-      EXPECT_TRUE(QFile::exists(QStringLiteral(TAMO_SOURCE_DIR "/data/Docs/") + file))
+      EXPECT_TRUE(QFile::exists(test::SourceFile(QStringLiteral("data/Docs/")) + file))
           << file.toStdString();
     }
   }
   for (const char* title : {"Recap Sheet", "Quantities", "Bill Of Materials", "BreakDown"})
-    EXPECT_TRUE(QFile::exists(QStringLiteral(TAMO_SOURCE_DIR "/data/Docs/") + FileOfReport(title)));
+    EXPECT_TRUE(
+        QFile::exists(test::SourceFile(QStringLiteral("data/Docs/")) + FileOfReport(title)));
 }
 
 // A topic beside the list is shown, too; no row is selected then.

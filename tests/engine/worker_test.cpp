@@ -7,6 +7,7 @@
 #include "plans/planfixture.h"
 #include "plans/workerengine.h"
 #include "plans/workerplan.h"
+#include "support/sourcefile.h"
 
 // Plans read by a process of its own: the same pictures, and nothing lost when it ends.
 
@@ -252,7 +253,7 @@ TEST_F(Worker, KilledAtRandomThroughAMeasuredBidNothingIsLost) {
 // along with less. What can't be shown is missing; the plan stays open.
 TEST_F(Worker, MemoryStaysWithinItsLimit) {
   const Ran ran =
-      Run("python3", {QStringLiteral(TAMO_SOURCE_DIR "/scripts/make_odd_pdfs.py"), Path("odd")});
+      Run("python3", {test::SourceFile(QStringLiteral("scripts/make_odd_pdfs.py")), Path("odd")});
   if (!ran.present) GTEST_SKIP() << "python3 is not here";
   for (const char* name : {"odd/jpx_bomb.pdf", "odd/jbig2_bomb.pdf", "odd/deep_bomb.pdf",
                            "odd/lines_bomb.pdf", "odd/scan.pdf", "odd/hatch_once.pdf"}) {

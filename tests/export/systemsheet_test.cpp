@@ -6,6 +6,7 @@
 #include "export/systemsheet.h"
 #include "export/xlsxfile.h"
 #include "support/room.h"
+#include "support/sourcefile.h"
 
 namespace tamo::test {
 namespace {
@@ -22,7 +23,7 @@ class SystemSheetTest : public FormRoom, public ::testing::Test {
   static QString First(const SystemSheet& sheet) { return sheet.problems.value(0); }
   // The sample's library.
   void CopyLibrary() {
-    const QString sample = QStringLiteral(TAMO_SOURCE_DIR "/data/Sample/Tamo/");
+    const QString sample = test::SourceFile(QStringLiteral("data/Sample/Tamo/"));
     for (const QString& name : QDir(sample + QStringLiteral("Systems")).entryList(QDir::Files)) {
       QFile file(sample + QStringLiteral("Systems/") + name);
       ASSERT_TRUE(file.open(QIODevice::ReadOnly));

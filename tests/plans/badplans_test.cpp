@@ -10,6 +10,7 @@
 #include "engine/mupdfcontentreader.h"
 #include "engine/mupdfcontexts.h"
 #include "plans/planfixture.h"
+#include "support/sourcefile.h"
 
 // Damaged and hostile plans: a message or a sheet, never a crash, a hang or unbounded memory.
 
@@ -23,7 +24,7 @@ struct BadPlans : PlanFixture {
 
   void SetUp() override {
     const Ran ran =
-        Run("python3", {QStringLiteral(TAMO_SOURCE_DIR "/scripts/make_bad_pdfs.py"), bad});
+        Run("python3", {test::SourceFile(QStringLiteral("scripts/make_bad_pdfs.py")), bad});
     if (!ran.present) GTEST_SKIP() << "python3 is not here";
     ASSERT_EQ(ran.exit, 0) << ran.output.toStdString();
     ASSERT_GE(ran.output.trimmed().toInt(), 60);

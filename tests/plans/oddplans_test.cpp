@@ -7,6 +7,7 @@
 #include "common/failure.h"
 #include "engine/mupdfcontexts.h"
 #include "plans/planfixture.h"
+#include "support/sourcefile.h"
 
 // Real plans that are odd: protected, certified, scanned, finely hatched, with odd names.
 
@@ -25,7 +26,7 @@ struct OddPlans : PlanFixture {
       return;
     }
     const Ran ran =
-        Run("python3", {QStringLiteral(TAMO_SOURCE_DIR "/scripts/make_odd_pdfs.py"), odd});
+        Run("python3", {test::SourceFile(QStringLiteral("scripts/make_odd_pdfs.py")), odd});
     if (!ran.present) GTEST_SKIP() << "python3 is not here";
     ASSERT_EQ(ran.exit, 0) << ran.output.toStdString();
   }

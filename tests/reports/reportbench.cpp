@@ -3,6 +3,7 @@
 #include "common/columns.h"
 #include "common/paths.h"
 #include "common/textlines.h"
+#include "support/sourcefile.h"
 
 namespace tamo::test {
 
@@ -98,7 +99,7 @@ void FormBench::Run(void (ReportsForm::*report)()) {
 }
 
 QString DataPathOf(const QString& name) {
-  return QStringLiteral(TAMO_SOURCE_DIR "/tests/data/") + name;
+  return test::SourceFile(QStringLiteral("tests/data/")) + name;
 }
 
 QStringList LinesOf(const QString& file) {

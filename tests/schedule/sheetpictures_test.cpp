@@ -9,6 +9,7 @@
 #include "schedule/sheetpictures.h"
 #include "schedule/tesseract.h"
 #include "support/doubles.h"
+#include "support/sourcefile.h"
 
 // A scanned sheet is read by another program, when there is one and somebody wants it.
 
@@ -27,8 +28,7 @@ SheetToRead Scan() {
   SheetToRead sheet;
   RealDisk disk;
   std::shared_ptr<FileReader> file;
-  disk.OpenToRead(
-      QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/tests/data/schedules/scan.pdf"), file);
+  disk.OpenToRead(test::SourceFile(QStringLiteral("tests/data/schedules/scan.pdf")), file);
   sheet.plan = engine.NewPlan(std::make_shared<PlanSource>(file, file->Size()));
   sheet.plan->Open({});
   sheet.box = kBox;

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "support/sourcefile.h"
 #include "truesheet.h"
 
 namespace tamo {
@@ -34,7 +35,7 @@ TEST(Sheets, WhatStandsOnMadeUpSheetsIsRead) {
 }
 
 TEST(Sheets, WhatStandsOnKeptSheetsIsRead) {
-  const QDir folder(QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/tests/data/schedules"));
+  const QDir folder(test::SourceFile(QStringLiteral("tests/data/schedules")));
   const QStringList texts = folder.entryList({QStringLiteral("*.txt")});
   ASSERT_FALSE(texts.isEmpty());
   for (const QString& text : texts) ExpectRead(folder.filePath(text));

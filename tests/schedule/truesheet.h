@@ -11,6 +11,7 @@
 #include "engine/mupdfcontentreader.h"
 #include "schedule/schedulereader.h"
 #include "schedule/schedulerows.h"
+#include "support/sourcefile.h"
 
 namespace tamo {
 
@@ -116,8 +117,7 @@ inline std::vector<ScheduleTable> ReadSheet(const TrueSheet& sheet, QString& pro
 inline bool MakeSheets(const QString& folder, int count, int seed) {
   QProcess python;
   python.start(QStringLiteral("python3"),
-               {QStringLiteral("-B"),
-                QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/scripts/make_schedules.py"),
+               {QStringLiteral("-B"), test::SourceFile(QStringLiteral("scripts/make_schedules.py")),
                 folder, QString::number(count), QString::number(seed)});
   return python.waitForFinished(120000) && python.exitStatus() == QProcess::NormalExit &&
          python.exitCode() == 0;

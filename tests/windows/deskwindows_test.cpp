@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 #include <QWindow>
 
+#include "support/sourcefile.h"
 #include "windows/browserview.h"
 #include "windows/keeperroom.h"
 #include "windows/keys.h"
@@ -36,15 +37,14 @@ TEST_F(DeskWindowsTest, SettingsLieOverTheMainWindowWhenTheNumberIsMissing) {
 TEST_F(DeskWindowsTest, AWindowThatPassesBeforeTheFrontOneIsNoMoveOfTheUser) {
   Menu("Tamo", "NewProject");
   ASSERT_TRUE(QTest::qWaitFor([this] { return Window("Tamo").isActiveWindow(); }));
-  QTest::qWait(50);
+  QTest::qWait(1100);  // by then the window system counts as having answered
   QEvent activated(QEvent::WindowActivate);
   QApplication::sendEvent(&Window("Settings"), &activated);
   QApplication::sendEvent(&Window("Tamo"), &activated);
   QTest::qWait(50);
   EXPECT_EQ(desk.Active(), &FormOf("Tamo"));
   QApplication::sendEvent(&Window("Settings"), &activated);
-  QTest::qWait(50);
-  EXPECT_EQ(desk.Active(), &FormOf("Settings"));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return desk.Active() == &FormOf("Settings"); }));
 }
 
 TEST_F(DeskWindowsTest, EndAndPageDownReadOnInAReportThatWasJustOpened) {
@@ -217,7 +217,7 @@ TEST_F(DeskWindowsTest, ThePlanZoomsAboutThePointerAndTheCrossHair) {
 
 // Of pictures that the toolkit reads by itself: no plug-in is needed.
 TEST_F(DeskWindowsTest, TheProgramHasAnIconInEverySize) {
-  const QIcon icon = ProgramIcon(QStringLiteral(TAMO_SOURCE_DIR "/data"));
+  const QIcon icon = ProgramIcon(test::SourceFile(QStringLiteral("data")));
   EXPECT_EQ(icon.availableSizes().size(), 8);
   for (const int size : {16, 32, 48, 256}) {
     const QImage picture = icon.pixmap(QSize(size, size), 1.0).toImage();

@@ -17,6 +17,7 @@
 #include "player/machine.h"
 #include "player/programplayed.h"
 #include "player/windowsstage.h"
+#include "support/sourcefile.h"
 
 using namespace tamo;
 using namespace tamo::player;
@@ -27,7 +28,7 @@ class ScreenCheck : public testing::Test {
  protected:
   ScreenCheck()
       : machine(folder.filePath("program"), folder.filePath("home")), stage(MakeWindowsStage()) {
-    Machine::Copy(QStringLiteral(TAMO_SOURCE_DIR "/data"), machine.ProgramFolder());
+    Machine::Copy(test::SourceFile(QStringLiteral("data")), machine.ProgramFolder());
     Machine::WriteFile(machine.HomeFolder() + "/Tamo/Jobs.lst",
                        "07-2611001   A\r\n07-2611002   B\r\n");
     played = std::make_unique<ProgramPlayed>(machine.GetPlatform());

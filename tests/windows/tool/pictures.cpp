@@ -13,6 +13,7 @@
 #include "plans/workerengine.h"
 #include "program/program.h"
 #include "support/doubles.h"
+#include "support/sourcefile.h"
 #include "windows/look.h"
 #include "windows/reportprinter.h"
 #include "windows/windowprobe.h"
@@ -29,7 +30,7 @@ struct Pictures {
   Pictures(const QString& home, const QString& outFolder, const QString& ending)
       : platform{disk,      clock,
                  messages,  printer,
-                 clipboard, QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/data"),
+                 clipboard, test::SourceFile(QStringLiteral("data")),
                  home,      home + QStringLiteral("/config")},
         out(outFolder),
         suffix(ending) {
@@ -228,7 +229,7 @@ void Help(Pictures& p) {
 
 int TakeAll(const QString& out, const QString& variant) {
   QTemporaryDir home;
-  CopyFolder(QStringLiteral(TAMO_SOURCE_DIR) + QStringLiteral("/data/Sample/Tamo"),
+  CopyFolder(test::SourceFile(QStringLiteral("data/Sample/Tamo")),
              home.path() + QStringLiteral("/Tamo"));
   if (variant.endsWith(QLatin1String("-150"))) {
     QFont font = QApplication::font();
