@@ -46,16 +46,14 @@ void AddTo(Line& line, const MarkTie& tie, int number, size_t mark) {
 void FlagCorrected(Line& line, double now, std::vector<AccountedMark>& account) {
   std::sort(line.entries.begin(), line.entries.end(),
             [](const Entry& a, const Entry& b) { return a.number < b.number; });
-  bool corrected = false;
+  QString flag;
   double next = now;
   for (auto entry = line.entries.rbegin(); entry != line.entries.rend(); ++entry) {
-    corrected = corrected || Less(next, entry->after);
+    if (Less(next, entry->after))
+      flag = QStringLiteral("The line went down since, from %1 to %2")
+                 .arg(NumberText(entry->after), NumberText(next));
     next = entry->before;
-    if (!corrected) continue;
-    for (const size_t mark : entry->marks) {
-      account[mark].flag = QStringLiteral("The line went down since: %1 then, %2 now")
-                               .arg(NumberText(entry->after), NumberText(now));
-    }
+    for (const size_t mark : entry->marks) account[mark].flag = flag;
   }
 }
 

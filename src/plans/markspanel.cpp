@@ -10,9 +10,9 @@ namespace {
 
 constexpr int kSheetWidth = 6;
 constexpr int kKindWidth = 11;
-constexpr int kValueWidth = 16;
-constexpr int kNameWidth = 16;
-constexpr int kLineWidth = 34;
+constexpr int kValueWidth = 15;
+constexpr int kNameWidth = 18;
+constexpr int kLineWidth = 32;
 
 QString Column(const QString& text, int width) {
   return text.left(width - 1).leftJustified(width);
@@ -29,21 +29,24 @@ QString ValueInWords(const Mark& mark) {
 }  // namespace
 
 QString MarksHead() {
-  return Column(QStringLiteral("Sheet"), kSheetWidth) + Column(QStringLiteral("Kind"), kKindWidth) +
+  return QStringLiteral("  ") + Column(QStringLiteral("Sheet"), kSheetWidth) +
+         Column(QStringLiteral("Kind"), kKindWidth) +
          Column(QStringLiteral("Measure"), kValueWidth) +
-         Column(QStringLiteral("Name"), kNameWidth) +
-         Column(QStringLiteral("Entered into"), kLineWidth);
+         Column(QStringLiteral("Entered into"), kLineWidth) +
+         Column(QStringLiteral("Name"), kNameWidth);
 }
 
+// What is to be looked at has a sign at its begin, and the words at its end.
 QString MarkRow(const Mark& mark, const AccountedMark& account) {
   QString line;
   if (account.tie) line = account.tie->place.InWords() + QStringLiteral(": ") + account.tie->entry;
-  const QString row = Column(QString::number(mark.page), kSheetWidth) +
-                      Column(KindInWords(mark.kind), kKindWidth) +
-                      Column(ValueInWords(mark), kValueWidth) + Column(mark.title, kNameWidth) +
-                      Column(line, kLineWidth) +
-                      (account.flag.isEmpty() ? QString() : QStringLiteral("! ") + account.flag);
-  return row.trimmed();
+  QString row = QLatin1String(account.flag.isEmpty() ? "  " : "! ") +
+                Column(QString::number(mark.page), kSheetWidth) +
+                Column(KindInWords(mark.kind), kKindWidth) +
+                Column(ValueInWords(mark), kValueWidth) + Column(line, kLineWidth) +
+                Column(mark.title, kNameWidth) + account.flag;
+  while (row.endsWith(QLatin1Char(' '))) row.chop(1);
+  return row;
 }
 
 MarksPanel::MarksPanel(const Kit& kit, OstControls& form, PdfDraw& viewer,
@@ -111,7 +114,18 @@ void MarksPanel::ShowChosen() {
   if (!form_.MarksFrame.Shown()) return;
   const auto found =
       mark == nullptr ? names_.end() : std::find(names_.begin(), names_.end(), mark->name);
-  form_.MarksList.SetIndex(found == names_.end() ? -1 : static_cast<int>(found - names_.begin()));
+  const auto row = static_cast<size_t>(found - names_.begin());
+  form_.MarksList.SetIndex(row < names_.size() ? static_cast<int>(row) : -1);
+  ShowSummary(row < flags_.size() ? flags_[row] : QString());
+}
+
+// How many there are, and what is to be looked at with the chosen one.
+void MarksPanel::ShowSummary(const QString& flag) {
+  QString words =
+      names_.size() == 1 ? QStringLiteral("1 mark") : QStringLiteral("%1 marks").arg(names_.size());
+  if (flagged_ > 0) words += QStringLiteral(", %1 to be looked at").arg(flagged_);
+  if (!flag.isEmpty()) words += QStringLiteral(". ") + flag;
+  form_.MarksSummary.SetCaption(words);
 }
 
 void MarksPanel::Follow(unsigned takeoff) {
@@ -129,17 +143,15 @@ void MarksPanel::Fill() {
   const std::vector<AccountedMark> account = AccountOf(marks, lines);
   names_.clear();
   QStringList rows;
-  int flagged = 0;
+  flags_.clear();
+  flagged_ = 0;
   for (const size_t at : MarksInOrder(marks)) {
     names_.push_back(marks[at].name);
     rows += MarkRow(marks[at], account[at]);
-    if (!account[at].flag.isEmpty()) ++flagged;
+    flags_.push_back(account[at].flag);
+    if (!account[at].flag.isEmpty()) ++flagged_;
   }
   form_.MarksList.Refill(rows);
-  QString words =
-      rows.size() == 1 ? QStringLiteral("1 mark") : QStringLiteral("%1 marks").arg(rows.size());
-  if (flagged > 0) words += QStringLiteral(", %1 to be looked at").arg(flagged);
-  form_.MarksSummary.SetCaption(words);
   FillTotals();
   ShowChosen();
 }

@@ -41,6 +41,7 @@ class MarksPanel {
   void Fill();
   void FillTotals();
   void ShowChosen();
+  void ShowSummary(const QString& flag);
   void TakeRow();
   void TakeTitle();
   void SaveEdits();
@@ -51,6 +52,8 @@ class MarksPanel {
   PlanLegends legends_{viewer_};
   std::function<void()> save_;
   std::vector<QString> names_;  // of the rows
+  std::vector<QString> flags_;
+  int flagged_ = 0;
   unsigned filledFor_ = 0;
   int filledPage_ = 0;
   unsigned takeoff_ = 0;

@@ -8,8 +8,8 @@ namespace tamo {
 namespace {
 
 constexpr double kFromCorner = 24;  // points from the corner of what is in sight
-constexpr int kSystemWidth = 21;
-constexpr int kTotalWidth = 15;
+constexpr int kSystemWidth = 16;
+constexpr int kTotalWidth = 11;
 
 }  // namespace
 

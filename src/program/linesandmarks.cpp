@@ -20,9 +20,35 @@ constexpr qint64 kMarksAt = qint64(8) << 20;  // of a plan's end, where its mark
 QByteArray BytesOf(const TakeoffPlace& place) {
   MarkTie tie;
   tie.place = place;
-  const QString text = TextOfTie(tie);
-  const QByteArray bytes = PdfText(text.left(text.indexOf(place.system) + place.system.size()));
+  // Up to the system and the end of its line.
+  const QString text = TextOfTie(tie).section(QLatin1Char('\n'), 0, 4) + QLatin1Char('\n');
+  const QByteArray bytes = PdfText(text);
   return QByteArray("/") + kKeptKey + bytes.left(bytes.size() - 1);
+}
+
+QString SystemOf(const QString& row, bool area) {
+  return area ? AreaLine(row).System() : RoomLine(row).System();
+}
+
+// As if the estimator selected it, again if it is selected already.
+void SelectAnew(OrderedList& list, int row) {
+  if (list.Index() == row) list.SetIndex(-1);
+  list.SetIndex(row);
+}
+
+// The line comes into work. Why not, in words.
+QString Select(OrderedList& sheets, OrderedList& lines, const TakeoffPlace& place) {
+  const QString sheet =
+      WithKind(place.area ? QStringLiteral("Area") : QStringLiteral("Room"), place.sheet);
+  const int at = sheets.Find(place.sheet);
+  if (at < 0) return sheet + QStringLiteral(" is not in the project any more.");
+  SelectAnew(sheets, at);
+  for (int row = 0; row < lines.Count(); ++row) {
+    if (SystemOf(lines.Row(row), place.area) != place.system) continue;
+    SelectAnew(lines, row);
+    return {};
+  }
+  return sheet + QStringLiteral(" has no line of %1 any more.").arg(place.system);
 }
 
 }  // namespace
@@ -62,9 +88,14 @@ QString LinesAndMarks::GoToLine(const TakeoffPlace& place) {
   }
   if (!form.Visible()) return {};
   kit_.desk.FocusWithoutActivation(place.area ? areas_.Area : rooms_.Room);
-  const QString why = place.area ? areas_.GoToLine(place.sheet, place.system)
-                                 : rooms_.GoToLine(place.sheet, place.system);
-  form.StatusText.SetCaption(why.isEmpty() ? form.StatusText.Caption() : why);
+  if (place.area) {
+    areas_.LoadAreas();
+  } else {
+    rooms_.Record().LoadRooms();
+  }
+  QString why = place.area ? Select(areas_.AreasList, areas_.AreaList, place)
+                           : Select(rooms_.RoomsList, rooms_.RoomList, place);
+  if (!why.isEmpty()) form.StatusText.SetCaption(why);
   return why;
 }
 
@@ -72,8 +103,7 @@ TakeoffPlace LinesAndMarks::PlaceInWork(const TakeoffForm& form) const {
   const bool area = &form == &areas_;
   TakeoffPlace place{kit_.shared.JobID, area, {}, {}};
   place.sheet = area ? areas_.Area.Text() : rooms_.Room.Text();
-  place.system = area ? AreaLine(areas_.AreaList.Selected()).System()
-                      : RoomLine(rooms_.RoomList.Selected()).System();
+  place.system = SystemOf(area ? areas_.AreaList.Selected() : rooms_.RoomList.Selected(), area);
   return place;
 }
 
@@ -97,7 +127,7 @@ QString LinesAndMarks::PlanWithMarksOf(const TakeoffPlace& place) const {
   for (const QString& name : names) {
     if (!name.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) continue;
     std::shared_ptr<FileReader> reader;
-    const QString path = folder + name;
+    QString path = folder + name;
     if (disk.OpenToRead(kit_.files.Resolved(path), reader) != kNoError) continue;
     const qint64 from = std::max(qint64(0), reader->Size() - kMarksAt);
     if (ReadPart(*reader, from, reader->Size() - from).contains(wanted)) return path;

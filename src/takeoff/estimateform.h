@@ -56,8 +56,6 @@ class EstimateForm : public TakeoffForm {
   void LoadSystem();  // the system named in eDescription
   // What is behind its file is read again; the estimator stays where he is.
   void ReadAgain();
-  // The area's line of that system comes into work, as if it was selected. Why not, in words.
-  QString GoToLine(const QString& area, const QString& system);
   SheetState State() const override;
   void ShowState(const SheetState& state) override;
   void FollowFiles(const QStringList& paths) override;

@@ -24,21 +24,6 @@ void EstimateForm::AreaSelected() {
   GetDesk().Focus(eDescription);
 }
 
-QString EstimateForm::GoToLine(const QString& area, const QString& system) {
-  LoadAreas();
-  const int at = AreasList.Find(area);
-  if (at < 0) return NoSheet(QStringLiteral("Area"), area);
-  AreasList.SetIndex(-1);
-  AreasList.SetIndex(at);
-  for (int line = 0; line < AreaList.Count(); ++line) {
-    if (AreaLine(AreaList.Row(line)).System() != system) continue;
-    if (AreaList.Index() == line) AreaList.SetIndex(-1);
-    AreaList.SetIndex(line);
-    return {};
-  }
-  return NoLine(QStringLiteral("Area"), area, system);
-}
-
 void EstimateForm::LineSelected() {
   UpdateStatus();
   if (now_.quiet) return;

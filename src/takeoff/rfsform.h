@@ -28,8 +28,6 @@ class RFSForm : public RFSScreen {
   QString TargetOf(const TextField& field) const override;
   void LoadSystem();   // the system named in Description
   void EstimateRFS();  // on to the next line of the walk
-  // The room's line of that system comes into work, as if it was selected. Why not, in words.
-  QString GoToLine(const QString& room, const QString& system);
   RoomRecord& Record() { return record_; }
   SheetState State() const override;
   void ShowState(const SheetState& state) override;

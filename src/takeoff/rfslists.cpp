@@ -2,7 +2,6 @@
 
 #include "common/chain.h"
 #include "common/numbers.h"
-#include "records/roomline.h"
 #include "takeoff/rfsform.h"
 #include "takeoff/unitcodes.h"
 
@@ -37,21 +36,6 @@ void RFSForm::RoomSelected() {
   const bool needsHeight =
       GroupedValue(How.Text()) == 0 && Units.Text().toUpper() != QLatin1String("LF");
   GetDesk().Focus(needsHeight ? How : Length);
-}
-
-QString RFSForm::GoToLine(const QString& room, const QString& system) {
-  record_.LoadRooms();
-  const int at = RoomsList.Find(room);
-  if (at < 0) return NoSheet(QStringLiteral("Room"), room);
-  RoomsList.SetIndex(-1);
-  RoomsList.SetIndex(at);
-  for (int line = 0; line < RoomList.Count(); ++line) {
-    if (RoomLine(RoomList.Row(line)).System() != system) continue;
-    if (RoomList.Index() == line) RoomList.SetIndex(-1);
-    RoomList.SetIndex(line);
-    return {};
-  }
-  return NoLine(QStringLiteral("Room"), room, system);
 }
 
 void RFSForm::DescriptionSelected() {

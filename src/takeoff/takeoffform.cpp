@@ -106,14 +106,6 @@ QString WithKind(const QString& kind, const QString& name) {
   return name.startsWith(kind, Qt::CaseInsensitive) ? name : kind + QLatin1Char(' ') + name;
 }
 
-QString NoSheet(const QString& kind, const QString& name) {
-  return WithKind(kind, name) + QStringLiteral(" is not in the project any more.");
-}
-
-QString NoLine(const QString& kind, const QString& name, const QString& system) {
-  return WithKind(kind, name) + QStringLiteral(" has no line of %1 any more.").arg(system);
-}
-
 QString InSheet(const QString& name) {
   return QStringLiteral(" in \"%1\"").arg(name);
 }

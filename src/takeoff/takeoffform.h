@@ -75,10 +75,6 @@ class TakeoffForm : public Form, public SheetScreen {
 // "Room 101", and "Room 101" of a room that is called so itself.
 QString WithKind(const QString& kind, const QString& name);
 
-// Why a line can't be gone to: its room or area, or the line itself, is not there any more.
-QString NoSheet(const QString& kind, const QString& name);
-QString NoLine(const QString& kind, const QString& name, const QString& system);
-
 // Where an entry was made, as it is said of one that is taken back: " in "101"".
 QString InSheet(const QString& name);
 

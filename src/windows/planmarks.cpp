@@ -15,8 +15,9 @@ QHBoxLayout* TitleLine(Builder& b) {
   line->addWidget(caption);
   line->addWidget(title);
   line->addWidget(b.PushButton("MarkToLine"));
-  line->addStretch(1);
-  line->addWidget(b.Text("MarksSummary"));
+  QLabel* summary = b.Text("MarksSummary");
+  summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  line->addWidget(summary, 1);
   return line;
 }
 
@@ -46,9 +47,11 @@ QWidget* PlanMarks(Builder& b) {
   auto* lists = new QHBoxLayout;
   lists->setSpacing(kGrid);
   lists->addWidget(ListUnder(b, "MarksList", QStringLiteral("Marks of the plan"), MarksHead(), 60),
-                   3);
-  lists->addWidget(
-      ListUnder(b, "MarksTotals", QStringLiteral("Totals by system"), TotalsHead(), 30), 2);
+                   1);
+  QWidget* totals =
+      ListUnder(b, "MarksTotals", QStringLiteral("Totals by system"), TotalsHead(), 43);
+  totals->setFixedWidth(QFontMetrics(FixedFont()).horizontalAdvance(QString(46, QLatin1Char('0'))));
+  lists->addWidget(totals);
   column->addLayout(lists, 1);
   column->addLayout(TitleLine(b));
   GiveMenuKey(b, QKeySequence(Qt::Key_F6), "MarksOfPlan");

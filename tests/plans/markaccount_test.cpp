@@ -100,12 +100,11 @@ TEST_F(Account, ALineThatWentDownIsSaidOfAllBeforeIt) {
   PutRoom("101", {RoomLine::Of("Paint", "Walls", "100", "SF").Text()});
   EXPECT_EQ(
       Flags({Line(1, Tie("10.0", 0, 80)), Line(2, Tie("10.0", 80, 120))}).join("|").toStdString(),
-      "The line went down since: 80 then, 100 now|The line went down since: 120 then, 100 "
-      "now");
+      "The line went down since, from 120 to 100|The line went down since, from 120 to 100");
   // Between two entries: the later one stands.
   PutRoom("101", {RoomLine::Of("Paint", "Walls", "130", "SF").Text()});
   const QStringList flags = Flags({Line(1, Tie("10.0", 0, 80)), Line(2, Tie("10.0", 50, 130))});
-  EXPECT_TRUE(flags[0].contains("went down")) << flags[0].toStdString();
+  EXPECT_TRUE(flags[0].contains("from 80 to 50")) << flags[0].toStdString();
   EXPECT_EQ(flags[1], "");
 }
 
@@ -163,7 +162,7 @@ TEST_F(Account, OfAFreeArea) {
   tie.place = {"12-2611001", true, "East", "Base"};
   EXPECT_EQ(Flags({Line(1, tie)}).join("|"), "");
   tie.after = 20;
-  EXPECT_TRUE(Flags({Line(1, tie)}).join("|").contains("20 then, 15 now"));
+  EXPECT_TRUE(Flags({Line(1, tie)}).join("|").contains("from 20 to 15"));
 }
 
 TEST_F(Account, TenThousandMarksAreListedAtOnce) {
@@ -180,7 +179,7 @@ TEST_F(Account, TenThousandMarksAreListedAtOnce) {
   RecordProperty("milliseconds", int(since.elapsed()));
   EXPECT_EQ(rows.size(), 10000);
   EXPECT_EQ(rows[9999].toStdString(),
-            "1     Line       10.0 feet                       Room 101, Paint: 8 X 10.0");
+            "  1     Line       10.0 feet      Room 101, Paint: 8 X 10.0");
 }
 
 TEST(MarkTotals, BySystemWithHeightsOnSheetAndPlan) {
