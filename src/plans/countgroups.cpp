@@ -6,11 +6,14 @@
 #include <algorithm>
 #include <map>
 
+#include "plans/markshape.h"
+
 namespace tamo {
 namespace {
 
 constexpr double kBeside = 2;     // points between a circle and the total
 constexpr double kBaseLine = 3;   // points below the circle's middle
+constexpr double kLetters = 9;    // points, their height
 constexpr double kSamePlace = 1;  // points that a label of a file may be off
 
 bool InGroup(const Mark& mark) {
@@ -23,6 +26,28 @@ QSet<int> NumbersOf(const std::vector<Mark>& marks, const QString& group) {
     if (InGroup(mark) && mark.group == group) numbers.insert(NumberInGroup(mark));
   }
   return numbers;
+}
+
+// Beside the first circle of the group, where no other circle of the page lies: to its right if it
+// can be, else under it, over it or to its left.
+PagePoint PlaceOfTotal(const std::vector<Mark>& marks, const Mark& first, const QString& label,
+                       double radius) {
+  const PagePoint at = first.points.front();
+  const double width = LetterWidth(label, kLetters);
+  const PagePoint places[] = {{at.x + radius + kBeside, at.y + kBaseLine},
+                              {at.x - radius, at.y + radius + kLetters},
+                              {at.x - radius, at.y - radius - kBaseLine},
+                              {at.x - radius - kBeside - width, at.y + kBaseLine}};
+  for (const PagePoint place : places) {
+    const bool free = std::none_of(marks.begin(), marks.end(), [&](const Mark& other) {
+      if (!IsCount(other.kind) || other.page != first.page || &other == &first) return false;
+      const PagePoint centre = other.points.front();
+      return centre.x > place.x - radius && centre.x < place.x + width + radius &&
+             centre.y > place.y - kLetters - radius && centre.y < place.y + radius;
+    });
+    if (free && place.x >= 0 && place.y >= kLetters) return place;
+  }
+  return places[0];
 }
 
 // The same for the same page and group, so that a save finds the one it wrote before.
@@ -141,10 +166,9 @@ std::vector<Mark> GroupTotalsOf(const std::vector<Mark>& marks, double markerSiz
     total.group = group;
     total.colour = part.first->colour;
     total.name = TotalName(page, group);
-    const PagePoint circle = part.first->points.front();
-    total.points = {{circle.x + markerSize / 2 + kBeside, circle.y + kBaseLine}};
     total.label = group + QStringLiteral(": ") + QString::number(part.count);
     if (part.count != totals[group]) total.label += QStringLiteral(" of %1").arg(totals[group]);
+    total.points = {PlaceOfTotal(marks, *part.first, total.label, markerSize / 2)};
     labels.push_back(std::move(total));
   }
   return labels;

@@ -84,6 +84,14 @@ TEST(CountGroups, TotalsStandBesideTheFirstCircleOfEachPage) {
   EXPECT_EQ(totals[1].name, GroupTotalsOf(marks, 13.5)[1].name);
 }
 
+TEST(CountGroups, ATotalKeepsClearOfOtherCircles) {
+  std::vector<Mark> marks = {Circle("Lights", "Lights 1", 1, {100, 200}),
+                             Circle("Lights", "Lights 2", 1, {130, 200})};
+  EXPECT_GT(GroupTotalsOf(marks, 13.5)[0].points[0].y, 206) << "under it";
+  marks.push_back(Circle("Lights", "Lights 3", 1, {120, 215}));
+  EXPECT_LT(GroupTotalsOf(marks, 13.5)[0].points[0].y, 194) << "over it";
+}
+
 TEST_F(CountingInGroups, EachCircleHasItsNumberAndEachGroupItsColour) {
   OpenTwoPages();
   Count("Lights", {{100, 100}, {150, 100}});
