@@ -116,6 +116,7 @@ void OSTForm::BindOutlines() {
       event([this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
   viewer_.onGroupCountChanged =
       event([this](const QString& group, int count) { groups_.Counted(group, count); });
+  viewer_.onSheetRead = event([this] { sheetScales_.SheetRead(); });
   viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
 }
 
@@ -170,7 +171,6 @@ void OSTForm::BindViewer() {
     if (sheetScales_.TakeDimension(paperLength)) return;
     if (measure_.LineChecked(paperLength)) sheetScales_.WasChecked();
   });
-  viewer_.onSheetRead = event([this] { sheetScales_.SheetRead(); });
   viewer_.onCircleCountChanged = event([this](int count) { measure_.CirclesCounted(count); });
   viewer_.onPageChanged = event([this] {
     pages_.ShowPage();

@@ -47,7 +47,6 @@ bool PlanCanvas::TakeCountLetter(int key) {
 
 // The tool bar by letters, while the keys go to the plan.
 bool PlanCanvas::TakeLetter(int key) {
-  if (TakeCountLetter(key)) return true;
   static constexpr std::pair<int, PlanTool> kTools[] = {
       {Qt::Key_V, PlanTool::None},     {Qt::Key_M, PlanTool::Measuring},
       {Qt::Key_C, PlanTool::Counting}, {Qt::Key_L, PlanTool::Polyline},
@@ -108,7 +107,7 @@ bool PlanCanvas::TakeKey(const QKeyEvent& event) {
   const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
   if (event.modifiers().testFlag(Qt::AltModifier)) return false;
   FinishScroll();
-  if (!ctrl && TakeLetter(event.key())) return true;
+  if (!ctrl && (TakeCountLetter(event.key()) || TakeLetter(event.key()))) return true;
   if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
     const int page = viewer_.Page() + (event.key() == Qt::Key_PageDown ? 1 : -1);
     desk_.Dispatch([&] { viewer_.TurnPage(page); });
