@@ -5,10 +5,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
@@ -16,27 +14,17 @@
 
 #include "common/files.h"
 #include "engine/mupdfengine.h"
+#include "planfiles.h"
 #include "plans/pdfdraw.h"
 #include "plans/workerengine.h"
 
 namespace {
 
 using namespace tamo;
+using bench::PlanPath;
 
 constexpr int kPatience = 60000;
 constexpr double kScale = 96.0 / 72.0;
-
-QString PlanPath(const char* name) {
-  static const QString folder = [] {
-    const QString made = QDir::tempPath() + QStringLiteral("/tamo-bench-plans");
-    if (!QFileInfo::exists(made + QStringLiteral("/clip.pdf"))) {
-      const QString script = QStringLiteral(TAMO_SOURCE_DIR "/bench/make_plans.py");
-      QProcess::execute(QStringLiteral("python3"), {script, made});
-    }
-    return made;
-  }();
-  return folder + QLatin1Char('/') + QLatin1String(name);
-}
 
 // As the program does it, in a process of its own; with TAMO_PLANS_HERE in this one, to compare.
 PlanEngine& Engine() {

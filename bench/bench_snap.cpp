@@ -3,15 +3,13 @@
 // makes the sheet on its first run. Worst: as many lines through one place.
 #include <benchmark/benchmark.h>
 
-#include <QDir>
-#include <QFileInfo>
-#include <QProcess>
 #include <chrono>
 #include <cmath>
 #include <memory>
 #include <random>
 
 #include "common/files.h"
+#include "planfiles.h"
 #include "plans/pdfdraw.h"
 #include "plans/workerengine.h"
 #include "timesof.h"
@@ -25,22 +23,13 @@ double Milliseconds(Clock::time_point since) {
   return std::chrono::duration<double, std::milli>(Clock::now() - since).count();
 }
 
-QString Sheet() {
-  const QString folder = QDir::tempPath() + QStringLiteral("/tamo-bench-plans");
-  if (!QFileInfo::exists(folder + QStringLiteral("/clip.pdf"))) {
-    QProcess::execute(QStringLiteral("python3"),
-                      {QStringLiteral(TAMO_SOURCE_DIR "/bench/make_plans.py"), folder});
-  }
-  return folder + QStringLiteral("/sheet.pdf");
-}
-
 struct Viewer {
   RealDisk disk;
   Files files{disk};
   WorkerEngine engine{TAMO_ENGINE};
   std::unique_ptr<PdfDraw> draw = std::make_unique<PdfDraw>(files, engine);
   Viewer() {
-    draw->OpenFile(Sheet(), QString());
+    draw->OpenFile(bench::PlanPath("sheet.pdf"), QString());
     draw->PickTool(PlanTool::Measuring);
   }
 };

@@ -23,11 +23,14 @@ micros() {
 median() { sort -n | sed -n 11p; }
 
 "$bench/start_window" "$work/program" "$work/bare" >/dev/null 2>&1
+plans=${TAMO_BENCH_PLANS:-${TMPDIR:-/tmp}/tamo-bench-plans}
+[ -e "$plans/clip.pdf" ] || python3 "$(dirname "$0")/make_plans.py" "$plans"
 for _ in $(seq 21); do
   micros "$bench/empty_window" >>"$work/empty"
   micros "$bench/empty_window" Word >>"$work/word"
   micros "$bench/start_window" "$work/program" "$work/bare" >>"$work/tamo"
   micros "$bench/start_window" "$work/program" "$work/home" >>"$work/project"
+  "$bench/start_window" "$work/program" "$work/home" "$plans/set.pdf" >>"$work/plan" 2>/dev/null
 done
 empty=$(median <"$work/empty")
 # As bench/figureline.h has it: what, milliseconds, its peer, that one's, the limit of the ratio.
@@ -50,3 +53,4 @@ done
 tell "Tamo" "$(median <"$work/tamo")" 1.5
 tell "Tamo with a project" "$(median <"$work/project")" 1.5
 tell "Tamo with a project that is open elsewhere" "$(median <"$work/second")" 1.5
+printf 'figure\tFrom the first frame to the coarse picture of a plan of 60 MB\t%s\ta blink\t100\t1\tms\n' "$(median <"$work/plan")"

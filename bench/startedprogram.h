@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QString>
 #include <QTextStream>
+#include <functional>
 
 #include "common/memory.h"
 #include "common/paths.h"
@@ -29,7 +30,9 @@ class SpokenMessages : public Messages {
 // The program with its windows, as it starts at a desk, on the home folder `home`.
 class StartedProgram {
  public:
-  StartedProgram(const QString& programFolder, const QString& home)
+  // `beforeWindow`: what is done when the first window is about to be put together.
+  StartedProgram(const QString& programFolder, const QString& home,
+                 const std::function<void()>& beforeWindow = {})
       : platform_{disk_,        clock_,        messages_, silent_,
                   clipboard_,   programFolder, home,      home + QStringLiteral("/config"),
                   &historyDisk_},
@@ -37,7 +40,9 @@ class StartedProgram {
         viewer_(files_, engine_),
         program_(platform_, viewer_),
         windows_(program_, &viewer_, home + QStringLiteral("/windows.ini")) {
+    viewer_.SetPatience(6, 0);
     disk_.MakeFolder(platform_.configFolder);
+    windows_.beforeWindow = beforeWindow;
     program_.Start();
   }
 

@@ -45,6 +45,12 @@ class TakeoffPlay {
     return took;
   }
 
+  // The next line of the room is in work.
+  void NextLine() {
+    line_ = (line_ + 1) % rooms_.RoomList.Count();
+    program_.GetDesk().ClickRow(rooms_.RoomList, line_);
+  }
+
   // Another room, saved as an Enter saves it.
   double BareSave() {
     const QString path = ProjectFolder(program_.Shared()).RoomFile(QStringLiteral("Room 1"));
@@ -58,6 +64,7 @@ class TakeoffPlay {
 
   Program& program_;
   RFSForm& rooms_;
+  int line_ = 0;
 };
 
 }  // namespace tamo::bench

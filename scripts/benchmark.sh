@@ -21,7 +21,7 @@ if [ "${1:-}" = quick ]; then
   shift
 fi
 asked=("$@")
-export QT_QPA_PLATFORM=offscreen
+export QT_QPA_PLATFORM=offscreen TAMO_BENCH_PLANS=$top/$build/plans
 
 # The parts: name, seconds that it may take, targets to build, program and arguments. "measured" are those of the benchmark
 # library: each repetition is short and the peers take turns, so that both meet the same machine in the same mood.
@@ -40,7 +40,7 @@ parts() {
   part refresh 60 live_refresh $build/bench/live_refresh data 500
   part items 60 bottom_line $build/bench/bottom_line data 300
   part likes 90 find_same $build/bench/find_same $((times > 3 ? 3 : 1))
-  part day 240 day_of_work $build/bench/day_of_work data
+  part day 240 day_of_work env TMPDIR=/dev/shm $build/bench/day_of_work data
 }
 measured() {
   part "$1" "$2" "bench_$1" $build/bench/bench_$1 --benchmark_min_time=0.05 --benchmark_repetitions=$times \

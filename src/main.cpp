@@ -19,6 +19,8 @@
 #include "windows/chosenlook.h"
 #include "windows/endsignals.h"
 #include "windows/filedialog.h"
+#include "windows/fontsahead.h"
+#include "windows/look.h"
 #include "windows/qtservices.h"
 #include "windows/reportprinter.h"
 #include "windows/windowkeeper.h"
@@ -105,7 +107,16 @@ void SaveAndExit(tamo::Program& program) {
   QCoreApplication::exit();
 }
 
-void Begin(tamo::Program& program) {
+// What must stand before there is an application.
+void Prepare() {
+  tamo::KeepMemory();
+  tamo::KeepSheetForFirstWindow();
+  QCoreApplication::setApplicationName(QStringLiteral("tamo"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("tamo"));
+}
+
+void Begin(tamo::Program& program, const tamo::Platform& platform) {
+  ShowIconLater(platform);
   program.Start();
   program.BeginHomePage();
   OpenNamedPlan(QApplication::arguments(), program);
@@ -115,10 +126,10 @@ void Begin(tamo::Program& program) {
 
 int main(int argc, char** argv) {
   if (tamo::AsksForCommand(argc, argv)) return tamo::CommandMain(argc, argv);
-  tamo::KeepMemory();
-  QCoreApplication::setApplicationName(QStringLiteral("tamo"));
-  QGuiApplication::setDesktopFileName(QStringLiteral("tamo"));
+  Prepare();
+  tamo::FontsAhead fonts;
   QApplication application(argc, argv);
+  fonts.GoOn();
   QApplication::setQuitOnLastWindowClosed(false);
 
   tamo::RealDisk disk;
@@ -132,18 +143,18 @@ int main(int argc, char** argv) {
       disk,         clock,     messages,
       printer,      clipboard, tamo::FindProgramFolder(QCoreApplication::applicationDirPath()),
       HomeFolder(), config,    &historyDisk};
-  ShowIconLater(platform);
 
   tamo::Files planFiles(disk);
   tamo::WorkerEngine engine;
   tamo::PdfDraw viewer(planFiles, engine);
-  viewer.SetPatience(kPatience);
+  viewer.SetPatience(kPatience, 0);
   const tamo::Tesseract recogniser;
   tamo::Program program(platform, viewer);
   program.ReadPictures(std::make_shared<const tamo::SheetPictures>(recogniser));
   tamo::ChosenLook look(program);
   tamo::WindowKeeper windows(program, &viewer,
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
+  windows.beforeWindow = [&fonts] { fonts.Wait(); };
   printer.company = [&program] { return program.CompanyName(); };
   messages.beforeBox = [&windows] { windows.SyncNow(); };
   JoinFilesAndCharts(program, platform, messages.beforeBox);
@@ -152,7 +163,7 @@ int main(int argc, char** argv) {
   const tamo::EndSignals signals([&program] { SaveAndExit(program); });
   QTimer keeping;
   KeepWhatIsTyped(keeping, program);
-  Begin(program);
+  Begin(program, platform);
   QTimer ticks;
   LookAbout(ticks, program);
   QTimer::singleShot(0, &look, [&look] { look.FollowDesktop(); });

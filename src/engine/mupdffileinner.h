@@ -7,12 +7,16 @@
 #include <mupdf/pdf.h>
 
 #include <QSet>
+#include <map>
 
 #include "engine/mupdffile.h"
 #include "plans/markpdf.h"
 #include "plans/pdfappend.h"
+#include "plans/planguide.h"
 
 namespace tamo {
+
+struct RawTarget;
 
 // A mark of ours that stands in the file.
 struct FileMark {
@@ -45,6 +49,7 @@ struct MuPdfFile::Inner {
   PdfEnd end;
   PdfEnd endBefore;  // of the last addition, and the marks as they stood, to take it back
   std::vector<std::vector<FileMark>> ownBefore;
+  mutable std::map<int, int> pageOfObject;  // pages from 1 by their objects, once it is asked for
 
   bool OpenDocument(const QByteArray& password, PlanContents& contents);
   void ReadPages();
@@ -69,6 +74,12 @@ struct MuPdfFile::Inner {
   void Remove(const QSet<QString>& names, std::vector<bool>& touched);
   bool Put(const Mark& mark, double markerSize, const FileMark& place,
            std::vector<PdfObject>& objects);
+  // The way through the plan: mupdfguide.cpp, mupdflinks.cpp.
+  void ReadLabels(PlanGuide& guide);
+  void ReadBookmarks(PlanGuide& guide);
+  void ReadLayers(PlanGuide& guide);
+  int PageOf(const RawTarget& target) const;
+  PlanTarget TargetOf(const RawTarget& raw) const;
   // The new and changed objects of a save.
   bool Change(const MarkChanges& changes, std::vector<PdfObject>& objects);
 };

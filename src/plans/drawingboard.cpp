@@ -306,7 +306,6 @@ void DrawingBoard::PressSpace(bool shift) {
 }
 
 void DrawingBoard::Key(const PlanStroke& stroke) {
-  if (TakeAnswer(stroke.key)) return;
   if (TakeOutlineKey(stroke.key) || TakeMarkKey(stroke) || TakeSnapKey(stroke.key)) return;
   switch (stroke.key) {
     case PlanKey::Left:

@@ -59,13 +59,13 @@ Mark MarkedSheets::NewMark(Mark::Kind kind, std::vector<PagePoint> points) const
 
 void MarkedSheets::AddMark(Mark mark) {
   mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, false});
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, false, false});
 }
 
 void MarkedSheets::DeleteMark(int index) {
   if (index < 0 || static_cast<size_t>(index) >= marks_.size()) return;
   const size_t at = marks_.size() - 1 - static_cast<size_t>(index);
-  TakeStep({Step::What::Deleted, at, marks_[at], {}, false});
+  TakeStep({Step::What::Deleted, at, marks_[at], {}, false, false});
 }
 
 void MarkedSheets::TakeStep(Step step) {
@@ -117,7 +117,7 @@ bool MarkedSheets::PutBack(const Mark& mark) {
   if (std::any_of(marks_.begin(), marks_.end(),
                   [&](const Mark& other) { return other.name == mark.name; }))
     return false;
-  TakeStep({Step::What::Added, marks_.size(), mark, {}, false});
+  TakeStep({Step::What::Added, marks_.size(), mark, {}, false, false});
   return true;
 }
 
@@ -145,7 +145,7 @@ void MarkedSheets::ChangeMark(const Mark& mark, bool joinLast) {
   const auto at = static_cast<size_t>(found - marks_.data());
   const bool joins = joinLast && !done_.empty() && done_.back().what == Step::What::Changed &&
                      done_.back().mark.name == mark.name;
-  if (!joins) return TakeStep({Step::What::Changed, at, mark, *found, true});
+  if (!joins) return TakeStep({Step::What::Changed, at, mark, *found, true, false});
   done_.back().mark = mark;
   undone_.clear();
   Do(Step(done_.back()), true);
@@ -169,7 +169,7 @@ void MarkedSheets::ChangeMarks(const std::vector<Mark>& marks) {
 QString MarkedSheets::PlaceMark(Mark mark) {
   mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
   const QString name = mark.name;
-  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, true});
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, true, false});
   return name;
 }
 
@@ -177,7 +177,7 @@ void MarkedSheets::RemoveMark(const QString& name) {
   const Mark* found = FindMark(name);
   if (found == nullptr) return;
   const auto at = static_cast<size_t>(found - marks_.data());
-  TakeStep({Step::What::Deleted, at, *found, {}, true});
+  TakeStep({Step::What::Deleted, at, *found, {}, true, false});
 }
 
 void MarkedSheets::KeepWith(const QString& name, const QString& kept) {

@@ -234,6 +234,7 @@ void MarkHand::Release(PagePoint at, bool shift) {
   const bool click = Distance(*pressed, at) <= Reach() / 4;
   if (!held_) {
     if (click) ChooseAt(at);
+    if (click && Chosen() == nullptr && viewer_.onPlainClick) viewer_.onPlainClick(at);
     return;
   }
   if (!click) Move(at, shift);
@@ -262,12 +263,12 @@ bool MarkHand::Nudge(const PlanStroke& stroke) {
 }
 
 bool MarkHand::TakeKey(const PlanStroke& stroke) {
-  if (stroke.key == PlanKey::NextMark || stroke.key == PlanKey::MarkBefore) {
+  if (stroke.key == PlanKey::No || stroke.key == PlanKey::MarkBefore) {
     if (viewer_.WorkFrom().has_value()) {
       Tell(
           QStringLiteral("End what is drawn, or give it up with Escape, before a mark is chosen."));
     } else {
-      Step(stroke.key == PlanKey::NextMark ? 1 : -1);
+      Step(stroke.key == PlanKey::No ? 1 : -1);
     }
     return true;
   }

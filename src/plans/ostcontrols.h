@@ -58,6 +58,20 @@ struct OstControls : Form {
   Frame GroupFrame{*this, "GroupFrame"};
   TextField GroupName{*this, "GroupName"};
   OrderedList GroupList{*this, "GroupList"};  // with their totals
+  // To find one's way: a sheet by its number, the plan's bookmarks and the sheet's links, layers.
+  // One of the three is shown at a time, beside the plan.
+  Frame GoToFrame{*this, "GoToFrame"};
+  TextField SheetWanted{*this, "SheetWanted", 60};
+  Label SheetWords{*this, "SheetWords"};
+  OrderedList SheetList{*this, "SheetList"};
+  Frame BookmarkFrame{*this, "BookmarkFrame"};
+  Label BookmarkWords{*this, "BookmarkWords"};
+  OrderedList BookmarkList{*this, "BookmarkList"};
+  OrderedList LinkList{*this, "LinkList"};
+  Frame LayerFrame{*this, "LayerFrame"};
+  Label LayerWords{*this, "LayerWords"};
+  CheckList LayerList{*this, "LayerList"};
+  Button ShowAllLayers{*this, "ShowAllLayers", "Show &All Layers"};
   // The marks of the plan, below it.
   Frame MarksFrame{*this, "MarksFrame"};
   OrderedList MarksList{*this, "MarksList"};

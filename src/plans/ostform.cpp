@@ -34,6 +34,7 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       surfaces_(*this, scale_, measure_, takeoff),
       groups_(kit, *this, viewer, measure_),
       sheetScales_(kit, *this, viewer, scale_, record_),
+      ways_(kit, *this, viewer, record_),
       marks_(kit, *this, viewer, [this] { SaveIt(); }) {
   AddText(QStringLiteral("ViewerName"), &ViewerName);
   AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
@@ -80,7 +81,10 @@ void OSTForm::BindMenus() {
   };
   on("ZoomIn", [this] { pages_.ZoomIn(); });
   on("ZoomOut", [this] { pages_.ZoomOut(); });
-  on("GetFiles", [this] { Toggle(Frame1); });
+  on("GetFiles", [this] {
+    for (Frame* other : {&GoToFrame, &BookmarkFrame, &LayerFrame}) other->Hide();
+    Toggle(Frame1);
+  });
   on("LinesColor", [this] { Toggle(ColorFrame); });
   on("Save", [this] { Save(); });
   on("Printit", [this] { viewer_.Print(); });
@@ -131,7 +135,7 @@ void OSTForm::BindMarks() {
       viewer_.Key({key, false, false});
     };
   };
-  on(QStringLiteral("NextMark"), press(PlanKey::NextMark));
+  on(QStringLiteral("NextMark"), press(PlanKey::No));
   on(QStringLiteral("MarkBefore"), press(PlanKey::MarkBefore));
   on(QStringLiteral("NameMark"), [this] { marks_.AskTitle(); });
   on(QStringLiteral("DeleteMark"), press(PlanKey::Delete));
@@ -176,6 +180,7 @@ void OSTForm::BindViewer() {
     pages_.ShowPage();
     groups_.ShowGroups();
     viewer_.Snap().Follow();
+    ways_.PageShown();
     viewer_.Same().Follow();
     sheetScales_.SheetChanged();
   });

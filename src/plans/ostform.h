@@ -13,6 +13,7 @@
 #include "plans/planopener.h"
 #include "plans/planpen.h"
 #include "plans/plansurfaces.h"
+#include "plans/planwayfinding.h"
 #include "plans/sheetscales.h"
 
 namespace tamo {
@@ -64,6 +65,8 @@ class OSTForm : public OstControls {
   // does not go back to the field that waits.
   std::function<bool()> onEnterBox;
   std::function<void()> onPlanPressed;  // a press on the plan; the cross hair stands there
+  // What is known of the sheets, and the ways to them.
+  PlanWayfinding& Ways() { return ways_; }
 
   QString ViewerName;
 
@@ -93,6 +96,7 @@ class OSTForm : public OstControls {
   PlanSurfaces surfaces_;
   PlanGroups groups_;
   SheetScales sheetScales_;
+  PlanWayfinding ways_;
   MarksPanel marks_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <memory>
+#include <optional>
 
 #include "common/files.h"
 #include "plans/drawingboard.h"
@@ -65,6 +66,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void BringToFront() { Raise(onBringToFront); }
 
   void Look(const PlanView& view) override;
+  // The plan shows something else than before on the same pages: pictures and lines are made anew.
+  void ForgetPictures();
   std::vector<PlacedPicture> PicturesFor(const PlanView& view) override;
   std::shared_ptr<const Picture> Thumbnail(int page, int longSide) override;
   std::shared_ptr<const Picture> PrintPicture(const PlanView& part,
@@ -76,16 +79,21 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
 
   // Where the pointer takes hold of the drawing while something is measured.
   SnapPointer& Snap() { return snap_; }
-  // What finds the likes of a symbol on the sheet.
-  SameSymbols& Same() { return same_; }
   // The mark that is chosen, to be changed.
   MarkHand& Hand() { return hand_; }
   const MarkHand& Hand() const { return hand_; }
   bool MayMark() override;
+  // What finds the likes of a symbol on the sheet.
+  SameSymbols& Same() { return same_; }
 
   // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
-  // background; 10 seconds when not set. A window wants 6 milliseconds.
-  void SetPatience(int milliseconds) { patience_ = milliseconds; }
+  // background; 10 seconds when not set. A window wants 6 milliseconds; nobody waits for a plan
+  // that is not in sight.
+  void SetPatience(int milliseconds, std::optional<int> outOfSight = {}) {
+    patience_ = milliseconds;
+    patienceOutOfSight_ = outOfSight.value_or(milliseconds);
+  }
+  void SetInSight(bool inSight) { inSight_ = inSight; }
   // How long a plan may take to open at all; 30 seconds when not set.
   void SetLongestOpening(int milliseconds) { longestOpening_ = milliseconds; }
 
@@ -96,14 +104,15 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool FinishOpening(int milliseconds);
 
  protected:
-  void SymbolBoxed(const DrawnBox& box) override;
   bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
-  bool TakeAnswer(PlanKey key) override { return same_.TakeKey(key); }
-  bool TakeMarkKey(const PlanStroke& stroke) override { return hand_.TakeKey(stroke); }
+  bool TakeMarkKey(const PlanStroke& stroke) override {
+    return same_.TakeKey(stroke.key) || hand_.TakeKey(stroke);
+  }
   void PressFree(PagePoint at) override { hand_.Press(at); }
   void MoveFree(PagePoint at, bool shift) override { hand_.Move(at, shift); }
   void ReleaseFree(PagePoint at, bool shift) override { hand_.Release(at, shift); }
   void ToolComes() override { hand_.LetGo(); }
+  void SymbolBoxed(const DrawnBox& box) override;
 
  private:
   struct Session;
@@ -116,6 +125,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void Close();
   int ShowNothing(const QString& path, int error, const QString& reason);
   void PicturesChanged();
+  void TellOfPainting();
   void TellOfSearch();
   void TellOfPages(PlanPainter& painter);
   void BeginPlan(const QString& path);
@@ -146,6 +156,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool ChangedOnDisk(const QString& path);
   int TakeFromDisk(const QString& path, const MarkChanges& changes);
   int BuildUpdate(Session& session, const MarkChanges& changes, QByteArray& bytes);
+  struct Appended;
+  static int WriteDown(Disk& disk, int handle, const QByteArray& bytes, Progress& progress);
   SavePart WriteBytes(int handle, const QByteArray& bytes) const;
   SavePart CopyBytes(int handle, const QByteArray& more) const;
   void CutTornTail(const QString& path, qint64 whole);
@@ -168,9 +180,11 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool saving_ = false;
   bool searchTold_ = false;  // it says how far it is in a moment
   SnapPointer snap_{*this};
-  SameSymbols same_{*this};
   MarkHand hand_{*this};
+  SameSymbols same_{*this};
   int patience_ = 10000;
+  int patienceOutOfSight_ = 10000;
+  bool inSight_ = true;
   int longestOpening_ = 30000;
 };
 

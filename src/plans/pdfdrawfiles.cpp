@@ -201,7 +201,8 @@ int PdfDraw::OpenFile(const QString& given, const QString& password) {
   session_ = NewSession(path, password, error);
   if (session_ == nullptr) return ShowNothing(path, error, OpenReason(error));
   BeginPlan(given);
-  if (FinishOpening(patience_)) return ShownPath().isEmpty() ? kFileOther : kNoError;
+  if (FinishOpening(inSight_ ? patience_ : patienceOutOfSight_))
+    return ShownPath().isEmpty() ? kFileOther : kNoError;
   // A slow plan: a blank sheet stands for it until it is there, or has taken too long.
   FillPlan({}, {});
   FormsThread::After(forms_, longestOpening_, [opening = opening_](PdfDraw& draw) {
@@ -307,10 +308,12 @@ void PdfDraw::TellOfPages(PlanPainter& painter) {
 void PdfDraw::PicturesChanged() {
   if (session_ != nullptr && session_->painter != nullptr) TellOfPages(*session_->painter);
   if (onPicturesChanged) onPicturesChanged();
+  TellOfPainting();
 }
 
 void PdfDraw::Look(const PlanView& view) {
   if (session_ != nullptr && session_->painter != nullptr) session_->painter->Look(view);
+  TellOfPainting();
 }
 
 std::vector<PlacedPicture> PdfDraw::PicturesFor(const PlanView& view) {

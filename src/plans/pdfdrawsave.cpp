@@ -1,5 +1,6 @@
 #include <QSet>
 #include <algorithm>
+#include <atomic>
 #include <utility>
 
 #include "common/failure.h"
@@ -143,12 +144,16 @@ void PdfDraw::MarksAreSaved() {
 }
 
 // Writes to an open file, down to the disk.
+int PdfDraw::WriteDown(Disk& disk, int handle, const QByteArray& bytes, Progress& progress) {
+  const std::lock_guard<std::mutex> guard(progress.writing);
+  if (progress.left) return kFileOther;
+  const int error = bytes.isEmpty() ? kNoError : disk.Write(handle, bytes);
+  return error != kNoError ? error : disk.Sync(handle);
+}
+
 PdfDraw::SavePart PdfDraw::WriteBytes(int handle, const QByteArray& bytes) const {
   return [disk = &files_.GetDisk(), handle, bytes](Progress& progress) {
-    const std::lock_guard<std::mutex> guard(progress.writing);
-    if (progress.left) return kFileOther;
-    const int error = bytes.isEmpty() ? kNoError : disk->Write(handle, bytes);
-    return error != kNoError ? error : disk->Sync(handle);
+    return WriteDown(*disk, handle, bytes, progress);
   };
 }
 
@@ -183,29 +188,45 @@ int PdfDraw::BuildUpdate(Session& session, const MarkChanges& changes, QByteArra
   return update->needsRewrite ? kNeedsRewrite : update->error;
 }
 
-int PdfDraw::Append(const QString& path, const MarkChanges& changes) {
-  QByteArray bytes;
-  int error = BuildUpdate(*session_, changes, bytes);
-  if (error == kNeedsRewrite) return WriteAnew(path, changes);
-  if (error != kNoError) return error;
-  Disk& disk = files_.GetDisk();
-  int handle = -1;
-  bool takenBack = true;
-  error = disk.OpenAtEnd(path, handle);
-  if (error == kNoError) {
-    error = DoAside(WriteBytes(handle, bytes), kCopyPatience);
-    // What part of it arrived goes again; should that fail, too, the next opening cuts it.
-    if (error != kNoError) takenBack = disk.Truncate(handle, session_->size) == kNoError;
-    disk.Close(handle);  // all is on the disk already, or taken back
-  }
-  if (error != kNoError) {
-    ForgetUpdate();
-    SaveFailed(path, error);
-    if (!takenBack) problem_ = PartWritten(path, error);
+// An update that is built and appended in one go on the plan's thread: the window waits once.
+struct PdfDraw::Appended {
+  PlanUpdate update;
+  std::atomic<bool> built = false;  // from then on something of it may stand in the file
+
+  int Do(EnginePlan& plan, const MarkChanges& changes, Disk& disk, int handle, Progress& progress) {
+    update = plan.BuildUpdate(changes);
+    progress.problem = update.problem;
+    if (update.error != kNoError) return update.needsRewrite ? kNeedsRewrite : update.error;
+    built = true;
+    const int error = WriteDown(disk, handle, update.bytes, progress);
+    if (error != kNoError) plan.ForgetUpdate();  // it did not reach the disk
     return error;
   }
-  session_->size += bytes.size();
-  return kNoError;
+};
+
+int PdfDraw::Append(const QString& path, const MarkChanges& changes) {
+  Disk& disk = files_.GetDisk();
+  int handle = -1;
+  int error = disk.OpenAtEnd(path, handle);
+  if (error != kNoError) return SaveFailed(path, error);
+  const auto job = std::make_shared<Appended>();
+  QString problem = QStringLiteral("it takes too long");
+  error =
+      DoAside([job, plan = session_->plan, changes, disk = &disk, handle](
+                  Progress& progress) { return job->Do(*plan, changes, *disk, handle, progress); },
+              kBuildPatience + kCopyPatience, &problem);
+  bool takenBack = true;
+  // What part of it arrived goes again; should that fail, too, the next opening cuts it.
+  if (error != kNoError && job->built)
+    takenBack = disk.Truncate(handle, session_->size) == kNoError;
+  disk.Close(handle);  // all is on the disk already, or taken back
+  if (error == kNoError) {
+    session_->size += job->update.bytes.size();
+    return kNoError;
+  }
+  SaveFailed(path, error == kNeedsRewrite ? kFileOther : error, problem);
+  if (!takenBack) problem_ = PartWritten(path, error);
+  return error == kNeedsRewrite ? WriteAnew(path, changes) : error;
 }
 
 // Copies the plan and `more` behind it to an open file, down to the disk.

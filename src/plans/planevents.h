@@ -55,6 +55,10 @@ struct PlanEvents {
   std::function<void()> onScrolled;  // by the user only
   std::function<void()> onMousePressed;
   std::function<void()> onEnterKey;
+  // A press and release in one place with no tool in hand, where no mark is to be chosen.
+  std::function<void(PagePoint at)> onPlainClick;
+  // Whether something that is looked at is still to be painted.
+  std::function<void(bool painting)> onPainting;
   std::function<void()> onPrint;
   std::function<void()> onBringToFront;
   std::function<void()> onMarksChanged;  // marks, the line in work or the cross hair: paint again

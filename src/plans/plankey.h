@@ -6,13 +6,12 @@ namespace tamo {
 // with Ctrl half a point) and scroll the page otherwise; Space places a point or a circle at the
 // cross hair; Escape drops the line in work; Backspace drops its last point; Enter gives the focus
 // back, and ends an outline in work; Arc makes its next two points those of an arc; Snap turns the
-// snap to the drawing on or off, NextSnap takes the cross hair to the next place near it.
+// snap to the drawing on or off, NextSnap takes the cross hair to the next place near it; Yes, No
+// and All answer for a symbol that was found.
 //
-// NextMark and MarkBefore choose a mark, one after the other, and put the tool away. Of the mark
-// that is chosen NextSnap takes a point, then the next; Left to Down move that point, Delete takes
-// the mark away, Escape lets go of it.
-//
-// Yes and All answer for symbols that were found, NextMark says no.
+// No while nothing is asked, and MarkBefore choose a mark, one after the other, and put the tool
+// away. Of the mark that is chosen NextSnap takes a point, then the next; Left to Down move that
+// point, Delete takes the mark away, Escape lets go of it.
 enum class PlanKey {
   Left,
   Right,
@@ -27,11 +26,11 @@ enum class PlanKey {
   Arc,
   Snap,
   NextSnap,
-  NextMark,
-  MarkBefore,
-  Delete,
   Yes,
-  All
+  No,
+  All,
+  MarkBefore,
+  Delete
 };
 
 struct PlanStroke {

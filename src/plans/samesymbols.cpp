@@ -125,7 +125,7 @@ bool SameSymbols::TakeKey(PlanKey key) {
     case PlanKey::Yes:
       Reply(Answer::Yes);
       return true;
-    case PlanKey::NextMark:
+    case PlanKey::No:
       Reply(Answer::No);
       return true;
     case PlanKey::All:

@@ -64,16 +64,17 @@ bool CopyBlocks::Work(double quantity, bool office, const MarkupFactors& markups
   if (!standAlone_ || blocks_.empty()) return false;
   figures.resize(blocks_.size());
   Mask fit{-1, -1};
-  size_t at = 0;
+  CopyFigures* to = figures.data();
+  const CopyFigures* const end = to + figures.size();
   for (const Two& two : twos_) {
     Figures of = WorkTwo(two, quantity);
     if (office) AddDollars(two, markups, of);
     fit = fit & of.fit;
-    for (size_t side = 0; side < 2 && at < figures.size(); ++side, ++at) {
-      figures[at] = {of.material[side], of.materialDollars[side], of.labor[side],
-                     of.laborDollars[side], of.manhours[side]};
-      standing = {of.orderQuantity[side], of.manhours[side]};
-    }
+    *to++ = of.Left();
+    standing = {of.orderQuantity[0], of.manhours[0]};
+    if (to == end) break;
+    *to++ = of.Right();
+    standing = {of.orderQuantity[1], of.manhours[1]};
   }
   return fit[0] != 0 && fit[1] != 0;
 }

@@ -47,6 +47,13 @@ class CopyBlocks {
     Pair material, labor;
     Pair materialDollars{}, laborDollars{};
     Mask fit;
+
+    CopyFigures Left() const {
+      return {material[0], materialDollars[0], labor[0], laborDollars[0], manhours[0]};
+    }
+    CopyFigures Right() const {
+      return {material[1], materialDollars[1], labor[1], laborDollars[1], manhours[1]};
+    }
   };
 
   static Pair Whole(Pair numbers);

@@ -43,12 +43,11 @@ QString EstimateForm::TargetOf(const TextField&) const {
 
 SheetState EstimateForm::State() const {
   const bool inWork = !Area.Empty() && lines_.AreOf(Area.Text());
-  SheetState state{inWork ? ProjectFolder(kit_.shared).AreaFile(Area.Text()) : QString(),
-                   AreaList.SharedRows(),
-                   AreaList.Index(),
-                   {}};
-  state.texts << Hite.Text() << Lengths.Rows().join(QLatin1Char('\n'));
-  return state;
+  return {inWork ? ProjectFolder(kit_.shared).AreaFile(Area.Text()) : QString(),
+          AreaList.SharedRows(),
+          AreaList.Index(),
+          {Hite.Text()},
+          Lengths.Rows()};
 }
 
 void EstimateForm::ShowState(const SheetState& state) {
@@ -57,7 +56,7 @@ void EstimateForm::ShowState(const SheetState& state) {
   if (state.line != SheetState::kAsItIs) AreaList.SetIndex(state.line);
   now_.quiet = false;
   Hite.SetText(state.texts.value(0));
-  Lengths.SetRows(state.texts.value(1).split(QLatin1Char('\n'), Qt::SkipEmptyParts));
+  Lengths.SetRows(state.entries);
   UpdateStatus();
 }
 

@@ -48,9 +48,11 @@ QString RFSForm::TargetOf(const TextField& field) const {
 }
 
 SheetState RFSForm::State() const {
-  SheetState state{record_.SheetFile(), RoomList.SharedRows(), RoomList.Index(), {}};
-  state.texts << How.Text() << CopyHeight << Lengths.Rows().join(QLatin1Char('\n'));
-  return state;
+  return {record_.SheetFile(),
+          RoomList.SharedRows(),
+          RoomList.Index(),
+          {How.Text(), CopyHeight},
+          Lengths.Rows()};
 }
 
 void RFSForm::ShowState(const SheetState& state) {
@@ -58,7 +60,7 @@ void RFSForm::ShowState(const SheetState& state) {
   SelectLine(state.line);
   How.SetText(state.texts.value(0));
   CopyHeight = state.texts.value(1);
-  Lengths.SetRows(state.texts.value(2).split(QLatin1Char('\n'), Qt::SkipEmptyParts));
+  Lengths.SetRows(state.entries);
   UpdateStatus();
 }
 

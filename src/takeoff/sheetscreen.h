@@ -12,7 +12,9 @@ struct SheetState {
   QString file;  // of the lines; "" when no room or area is in work
   ListRows lines;
   int line = -1;      // the selected one; kAsItIs: whichever it is
-  QStringList texts;  // heights, and the entries of the line in work
+  QStringList texts;  // heights
+  QStringList
+      entries;  // of the line in work; shared with the list on the screen until that changes
   static constexpr int kAsItIs = -2;
 };
 

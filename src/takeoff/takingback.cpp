@@ -28,6 +28,7 @@ SheetState Moved(const SheetState& now, const SheetState& from, SheetState to) {
   for (qsizetype i = 0; i < to.texts.size(); ++i) {
     if (now.texts.value(i) != from.texts.value(i)) to.texts[i] = now.texts.value(i);
   }
+  if (now.entries != from.entries) to.entries = now.entries;
   return to;
 }
 

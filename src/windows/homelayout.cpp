@@ -14,9 +14,9 @@
 namespace tamo {
 namespace {
 
-constexpr int kLongSide = 480;        // pixels of the plan's small picture
-constexpr int kUntilItIsThere = 150;  // milliseconds between two looks for it, at first
-constexpr int kSeldom = 10'000;       // for a sheet that can't be painted
+constexpr int kLongSide = 480;       // pixels of the plan's small picture
+constexpr int kUntilItIsThere = 15;  // milliseconds between two looks for it, at first
+constexpr int kSeldom = 10'000;      // for a sheet that can't be painted
 
 // The plan's sheet in small, under its name.
 class PlanCell : public HomeCell {

@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "windows/stylesheet.h"
 #include "windows/tamostyle.h"
@@ -17,6 +18,11 @@ constexpr double kLeastContrast = 4.5;
 Look& Current() {
   static Look look = Look::Light();
   return look;
+}
+
+bool& SheetWaits() {
+  static bool waits = false;
+  return waits;
 }
 
 double Channel(double value) {
@@ -123,7 +129,15 @@ void ApplyLook(const Look& look) {
     font.setPointSizeF(kLeastPoints);
     QApplication::setFont(font);
   }
-  qApp->setStyleSheet(StyleSheetOf(look));
+  if (!SheetWaits()) qApp->setStyleSheet(StyleSheetOf(look));
+}
+
+void KeepSheetForFirstWindow() {
+  SheetWaits() = true;
+}
+
+void PutOnSheet() {
+  if (std::exchange(SheetWaits(), false)) qApp->setStyleSheet(StyleSheetOf(Current()));
 }
 
 const Look& CurrentLook() {

@@ -11,6 +11,7 @@
 #include "windows/plancanvas.h"
 #include "windows/plancolumn.h"
 #include "windows/planmarks.h"
+#include "windows/planpanels.h"
 #include "windows/plantoolbar.h"
 
 // The plan: thumbnails on the left, the plan in the middle with its tools over it, a narrow column
@@ -164,8 +165,10 @@ void LayOutOST(Builder& b) {
   PlanCanvas* canvas = Canvas(b);
   auto* row = new QHBoxLayout;
   row->setSpacing(0);
-  row->addWidget(Thumbnails(b, *canvas));
-  row->addWidget(Browser(b));
+  PlanThumbnails* thumbnails = Thumbnails(b, *canvas);
+  row->addWidget(thumbnails);
+  row->addWidget(PlanPanels(b, Browser(b)));
+  BindPlanWays(b, *canvas, *thumbnails);
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(PlanToolBar(b, *canvas));

@@ -25,12 +25,23 @@ std::optional<PlanKey> PlanKeyOf(int code) {
   return std::nullopt;
 }
 
+std::optional<PlanKey> LetterOf(int code) {
+  static constexpr std::pair<int, PlanKey> kKeys[] = {{Qt::Key_B, PlanKey::Arc},
+                                                      {Qt::Key_S, PlanKey::Snap},
+                                                      {Qt::Key_N, PlanKey::No},
+                                                      {Qt::Key_P, PlanKey::MarkBefore}};
+  for (const auto& [known, key] : kKeys) {
+    if (known == code) return key;
+  }
+  return std::nullopt;
+}
+
 }  // namespace
 
 // The helpers that count; while symbols that were found are asked about, letters answer.
 bool PlanCanvas::TakeCountLetter(int key) {
   static constexpr std::pair<int, PlanKey> kAnswers[] = {
-      {Qt::Key_Y, PlanKey::Yes}, {Qt::Key_N, PlanKey::NextMark}, {Qt::Key_A, PlanKey::All}};
+      {Qt::Key_Y, PlanKey::Yes}, {Qt::Key_N, PlanKey::No}, {Qt::Key_A, PlanKey::All}};
   if (key == Qt::Key_G && onGroups) {
     onGroups();
     return true;
@@ -57,19 +68,11 @@ bool PlanCanvas::TakeLetter(int key) {
     desk_.Dispatch([&, tool = tool] { viewer_.PickTool(tool); });
     return true;
   }
-  const auto press = [this](PlanKey plan) {
-    desk_.Dispatch([&] { viewer_.Key({plan, false, false}); });
+  if (const std::optional<PlanKey> plan = LetterOf(key)) {
+    desk_.Dispatch([&] { viewer_.Key({*plan, false, false}); });
     return true;
-  };
+  }
   switch (key) {
-    case Qt::Key_B:
-      return press(PlanKey::Arc);
-    case Qt::Key_S:
-      return press(PlanKey::Snap);
-    case Qt::Key_N:
-      return press(PlanKey::NextMark);
-    case Qt::Key_P:
-      return press(PlanKey::MarkBefore);
     case Qt::Key_Tab:
       return TakeNextSnap();
     case Qt::Key_T:

@@ -6,11 +6,14 @@
 #include <QFileInfo>
 #include <QMessageBox>
 
+#include "windows/look.h"
+
 namespace tamo {
 namespace {
 
 QMessageBox::StandardButton ShowBox(const QString& text, QMessageBox::Icon icon,
                                     QMessageBox::StandardButtons buttons) {
+  PutOnSheet();
   QMessageBox box(icon, QStringLiteral("Tamo"), text, buttons, QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -11,6 +11,7 @@
 #include "windows/accessible.h"
 #include "windows/builder.h"
 #include "windows/formlayouts.h"
+#include "windows/look.h"
 #include "windows/reportprogress.h"
 #include "windows/sidebyside.h"
 #include "windows/suggestionview.h"
@@ -101,10 +102,12 @@ SuggestionView* WindowKeeper::Offer() const {
 FormWindow& WindowKeeper::WindowOf(const Form& form) {
   std::unique_ptr<FormWindow>& window = parts_->windows[&form];
   if (window == nullptr) {
+    if (beforeWindow) beforeWindow();
     window = MakeWindow(const_cast<Form&>(form));
     window->installEventFilter(this);
     // What is hidden must be so before the window finds its size.
     parts_->display->ApplyContents();
+    PutOnSheet();
     window->resize(window->firstSize);
     parts_->places.Restore(form.Name(), *window);
     parts_->display->MarkDirty();
@@ -156,6 +159,8 @@ QString TitleOf(const Form& form, const SharedFields& shared) {
   if (is("OST")) {
     const auto* plan = dynamic_cast<const TextField*>(form.Find(QStringLiteral("PlanLocation")));
     if (plan != nullptr && !plan->Empty()) title += FileNameOf(plan->Text());
+    const QString* sheet = form.FindText(QStringLiteral("SheetTitle"));
+    if (sheet != nullptr && !sheet->isEmpty()) title += *sheet;
   }
   return title.join(QStringLiteral(" - "));
 }

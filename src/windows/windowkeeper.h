@@ -30,6 +30,8 @@ class WindowKeeper : public QObject {
                         const QString& placesFile = {});
   ~WindowKeeper() override;
 
+  // Before a window is put together.
+  std::function<void()> beforeWindow;
   // Asks the estimator for a plan, "" for none; as it stands, by the system's own dialog.
   std::function<QString(QWidget* over)> askForPlan;
 

@@ -104,7 +104,7 @@ TEST_F(ChosenMarks, NAndPStepThroughAllSheets) {
   draw->SetPage(1);
   QStringList walked;
   for (int i = 0; i < 4; ++i) {
-    Press(PlanKey::NextMark);
+    Press(PlanKey::No);
     walked << QString::fromStdString(Chosen()).section(' ', 0, 0) +
                   QString(" %1").arg(draw->Page());
   }
@@ -113,13 +113,13 @@ TEST_F(ChosenMarks, NAndPStepThroughAllSheets) {
   EXPECT_EQ(draw->Page(), 2);
   Press(PlanKey::Escape);
   EXPECT_EQ(Chosen(), "none");
-  Press(PlanKey::NextMark);
+  Press(PlanKey::No);
   EXPECT_EQ(Chosen(), "2.0 feet @ 1/4\"=1'") << "from the sheet in sight on";
 }
 
 TEST_F(ChosenMarks, WithoutMarksThatIsSaid) {
   Begin();
-  Press(PlanKey::NextMark);
+  Press(PlanKey::No);
   EXPECT_EQ(told.toStdString(), "There are no marks on this plan.");
 }
 
@@ -128,7 +128,7 @@ TEST_F(ChosenMarks, ALineInWorkIsNotGivenUpForAnotherMark) {
   DrawLine({100, 100}, {280, 100});
   draw->PickTool(PlanTool::Area);
   Click({300, 300});
-  Press(PlanKey::NextMark);
+  Press(PlanKey::No);
   EXPECT_TRUE(draw->OutlineInWork().has_value());
   EXPECT_EQ(Chosen(), "none");
   EXPECT_TRUE(told.contains("give it up")) << told.toStdString();
@@ -156,7 +156,7 @@ TEST_F(ChosenMarks, APointIsDraggedAndTheMeasureFollowsAtTheScaleOfTheMark) {
 TEST_F(ChosenMarks, WithTheKeysAlone) {
   Begin();
   DrawLine({100, 100}, {280, 100});
-  Press(PlanKey::NextMark);
+  Press(PlanKey::No);
   Press(PlanKey::Right);
   EXPECT_EQ(draw->ViewValue(ViewPart::Horizontal), 36) << "no point in hand: the sheet is scrolled";
   Press(PlanKey::NextSnap);
@@ -312,7 +312,7 @@ TEST_F(ChosenMarks, TenThousandMarksAreSteppedThroughAtOnce) {
     draw->DrawLine({10.0 + i % 100 * 5, 10.0 + i / 100 * 7},
                    {13.0 + i % 100 * 5, 10.0 + i / 100 * 7});
   draw->PickTool(PlanTool::None);
-  Press(PlanKey::NextMark);
+  Press(PlanKey::No);
   Drag({13, 10}, {14, 10});
   EXPECT_EQ(draw->SaveAs(Path("b.pdf")), 0);
   Reopen(Path("b.pdf"));

@@ -56,13 +56,13 @@ TEST_F(FindingSame, TheAcceptedOnesAreCountedAtOnceAndTakenBackAtOnce) {
       << said.toStdString();
   EXPECT_FALSE(draw->Box().has_value()) << "Enter is the answer, not a table's";
   Key(PlanKey::Enter);
-  Key(PlanKey::NextMark);
+  Key(PlanKey::No);
   Key(PlanKey::Backspace);
-  Key(PlanKey::NextMark);
+  Key(PlanKey::No);
   EXPECT_TRUE(said.startsWith("Find Same: number 3 of 5"));
   Key(PlanKey::All);
   EXPECT_TRUE(said.contains("Not sure, other lines are in it or at it.")) << said.toStdString();
-  Key(PlanKey::NextMark);
+  Key(PlanKey::No);
   EXPECT_FALSE(draw->Same().Asking());
   EXPECT_EQ(said.toStdString(), "Find Same: 3 symbols counted, 2 not.");
   EXPECT_EQ(counts, std::vector<int>{3});

@@ -416,9 +416,9 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
       {tamo::PlanKey::Escape, Qt::Key_Escape}, {tamo::PlanKey::Backspace, Qt::Key_Backspace},
       {tamo::PlanKey::Undo, Qt::Key_Z},        {tamo::PlanKey::Redo, Qt::Key_Y},
       {tamo::PlanKey::Arc, Qt::Key_B},         {tamo::PlanKey::Snap, Qt::Key_S},
-      {tamo::PlanKey::NextSnap, Qt::Key_Tab},  {tamo::PlanKey::NextMark, Qt::Key_N},
-      {tamo::PlanKey::MarkBefore, Qt::Key_P},  {tamo::PlanKey::Delete, Qt::Key_Delete},
-      {tamo::PlanKey::Yes, Qt::Key_Y},         {tamo::PlanKey::All, Qt::Key_A}};
+      {tamo::PlanKey::NextSnap, Qt::Key_Tab},  {tamo::PlanKey::Yes, Qt::Key_Y},
+      {tamo::PlanKey::No, Qt::Key_N},          {tamo::PlanKey::All, Qt::Key_A},
+      {tamo::PlanKey::MarkBefore, Qt::Key_P},  {tamo::PlanKey::Delete, Qt::Key_Delete}};
   QWidget& plan = Plan();
   plan.setFocus(Qt::ShortcutFocusReason);
   Settle();

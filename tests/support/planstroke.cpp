@@ -12,9 +12,9 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
       {"Escape", PlanKey::Escape}, {"Backspace", PlanKey::Backspace},
       {"Undo", PlanKey::Undo},     {"Redo", PlanKey::Redo},
       {"Arc", PlanKey::Arc},       {"S", PlanKey::Snap},
-      {"Tab", PlanKey::NextSnap},  {"N", PlanKey::NextMark},
-      {"P", PlanKey::MarkBefore},  {"Delete", PlanKey::Delete},
-      {"Y", PlanKey::Yes},         {"A", PlanKey::All}};
+      {"Tab", PlanKey::NextSnap},  {"Y", PlanKey::Yes},
+      {"N", PlanKey::No},          {"A", PlanKey::All},
+      {"P", PlanKey::MarkBefore},  {"Delete", PlanKey::Delete}};
   PlanStroke read;
   QString rest = name.trimmed();
   for (;;) {

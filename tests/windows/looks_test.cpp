@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFontMetrics>
+#include <QImage>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -9,6 +11,7 @@
 
 #include "windows/chosenlook.h"
 #include "windows/figurelabel.h"
+#include "windows/fontsahead.h"
 #include "windows/keeperroom.h"
 #include "windows/rowsview.h"
 #include "windows/topictext.h"
@@ -55,6 +58,34 @@ TEST_F(LooksTest, TheDesktopsSettingCountsWhereNothingIsChosen) {
   EXPECT_FALSE(CurrentLook().dark);
   Choose("LookSystem");
   EXPECT_TRUE(CurrentLook().dark);
+}
+
+TEST(FirstWindow, LooksTheSameWhenItsSheetComesLast) {
+  const test::WithApplication application;
+  const auto picture = [](bool last) {
+    if (last) {
+      qApp->setStyleSheet(QString());
+      KeepSheetForFirstWindow();
+    }
+    test::KeeperRoom room;
+    EXPECT_FALSE(qApp->styleSheet().isEmpty());
+    test::Settle();
+    // Below stands the folder of the test.
+    const QImage whole = room.Window("Tamo").grab().toImage();
+    return whole.copy(whole.rect().adjusted(0, 0, 0, -6 * kGrid));
+  };
+  const QImage last = picture(true);
+  EXPECT_EQ(last, picture(false));
+}
+
+TEST(FirstWindow, FindsItsFontsWhetherTheyWereLookedForAheadOrNot) {
+  const test::WithApplication application;
+  { const FontsAhead never; }
+  FontsAhead ahead;
+  ahead.GoOn();
+  ahead.Wait();
+  ahead.Wait();
+  EXPECT_GT(QFontMetrics(QApplication::font()).horizontalAdvance(QStringLiteral("Room")), 8);
 }
 
 TEST_F(LooksTest, MessageBoxesHaveOurSignAndButtonsNoPictures) {
