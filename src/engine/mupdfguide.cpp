@@ -76,7 +76,7 @@ struct RawBookmark {
 
 void TakeBookmark(fz_context* context, pdf_document* document, pdf_obj* item, RawBookmark* mark) {
   const char* title = pdf_to_text_string(context, pdf_dict_get(context, item, PDF_NAME(Title)));
-  mark->title = QByteArray(title).left(4 * kLongestTitle);
+  mark->title = QByteArray(title).left(4 * kLongestEntryTitle);
   fz_try(context) ReadTarget(context, document, item, &mark->target);
   fz_catch(context) mark->target = {};
 }
@@ -165,7 +165,7 @@ void MuPdfFile::Inner::ReadBookmarks(PlanGuide& guide) {
     guide.problem = QStringLiteral("only the first %1 bookmarks are shown").arg(kMostBookmarks);
   for (const RawBookmark& raw : outline.found) {
     PlanBookmark bookmark;
-    bookmark.title = OneLine(QString::fromUtf8(raw.title), kLongestTitle);
+    bookmark.title = OneLine(QString::fromUtf8(raw.title), kLongestEntryTitle);
     bookmark.depth = std::min(raw.depth, kDeepestBookmark);
     bookmark.target = TargetOf(raw.target);
     guide.bookmarks.push_back(std::move(bookmark));
@@ -186,7 +186,7 @@ void MuPdfFile::Inner::ReadLayers(PlanGuide& guide) {
     guide.problem = QStringLiteral("only the first %1 layers are listed").arg(kMostLayers);
   for (const RawLayer& raw : layers) {
     PlanLayer layer;
-    layer.name = OneLine(QString::fromUtf8(raw.name), kLongestTitle);
+    layer.name = OneLine(QString::fromUtf8(raw.name), kLongestEntryTitle);
     layer.shown = raw.shown;
     layer.locked = raw.object > 0 && locked.count(raw.object) != 0;
     guide.layers.push_back(std::move(layer));

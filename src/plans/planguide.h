@@ -62,8 +62,8 @@ inline constexpr int kMostBookmarks = 20000;
 inline constexpr int kMostLayers = 20000;
 inline constexpr int kMostLinks = 20000;  // of a page
 inline constexpr int kDeepestBookmark = 31;
-inline constexpr int kLongestLabel = 100;  // letters
-inline constexpr int kLongestTitle = 300;  // of a bookmark and a layer
+inline constexpr int kLongestLabel = 100;       // letters
+inline constexpr int kLongestEntryTitle = 300;  // of a bookmark and a layer
 inline constexpr int kLongestAddress = 500;
 
 }  // namespace tamo

@@ -50,7 +50,7 @@ void TakeBookmarks(WireReader& wire, std::vector<PlanBookmark>& bookmarks) {
   const size_t count = Count(wire, kLeastText + 8 + kLeastTarget, kMostBookmarks);
   for (size_t i = 0; i < count && wire.Good(); ++i) {
     PlanBookmark bookmark;
-    bookmark.title = OneLine(wire.Text(), kLongestTitle);
+    bookmark.title = OneLine(wire.Text(), kLongestEntryTitle);
     bookmark.depth = static_cast<int>(wire.Number(0, kDeepestBookmark));
     Take(wire, bookmark.target);
     bookmarks.push_back(std::move(bookmark));
@@ -92,7 +92,7 @@ void Take(WireReader& wire, PlanGuide& guide) {
   const size_t layers = Count(wire, kLeastText + 2, kMostLayers);
   for (size_t i = 0; i < layers && wire.Good(); ++i) {
     PlanLayer layer;
-    layer.name = OneLine(wire.Text(), kLongestTitle);
+    layer.name = OneLine(wire.Text(), kLongestEntryTitle);
     layer.shown = wire.Flag();
     layer.locked = wire.Flag();
     guide.layers.push_back(std::move(layer));

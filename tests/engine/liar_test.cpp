@@ -34,7 +34,7 @@ TEST_F(LyingWorker, HarmsNobody) {
     plan->ReadContent(1, cancel);
     plan->ReadTexts(1, cancel);
     for (const PlanBookmark& bookmark : plan->ReadGuide().bookmarks)
-      EXPECT_LE(bookmark.title.size(), kLongestTitle);
+      EXPECT_LE(bookmark.title.size(), kLongestEntryTitle);
     EXPECT_LE(plan->ReadLinks(1).size(), size_t(kMostLinks));
     plan->ShowLayers({true, false});
     const PlanUpdate update = plan->BuildUpdate({});

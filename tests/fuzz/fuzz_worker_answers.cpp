@@ -191,7 +191,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     Expect(text.places.size() == size_t(text.text.size()));
   const PlanGuide guide = plan.ReadGuide();
   for (const PlanBookmark& bookmark : guide.bookmarks)
-    Expect(bookmark.depth <= kDeepestBookmark && bookmark.title.size() <= kLongestTitle);
+    Expect(bookmark.depth <= kDeepestBookmark && bookmark.title.size() <= kLongestEntryTitle);
   for (const PageLink& link : plan.ReadLinks(1))
     Expect(link.target.kind != PlanTarget::Kind::Page || link.target.page > 0);
   plan.ShowLayers({true});
