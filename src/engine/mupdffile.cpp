@@ -47,6 +47,7 @@ struct RawMark {
   const char* name = nullptr;
   const char* label = nullptr;
   const char* subject = nullptr;
+  const char* group = nullptr;
   const char* title = nullptr;
   const char* kept = nullptr;
   int generation = 0;
@@ -109,6 +110,7 @@ bool ReadRaw(fz_context* context, pdf_obj* annotations, int index, RawMark* mark
   mark->name = pdf_to_text_string(context, pdf_dict_gets(context, annotation, "NM"));
   mark->label = pdf_dict_get_text_string(context, annotation, PDF_NAME(Contents));
   mark->subject = pdf_to_text_string(context, pdf_dict_gets(context, annotation, "Subj"));
+  mark->group = pdf_to_text_string(context, pdf_dict_gets(context, annotation, kGroupKey));
   mark->title = pdf_to_text_string(context, pdf_dict_gets(context, annotation, kTitleKey));
   mark->kept = pdf_to_text_string(context, pdf_dict_gets(context, annotation, kKeptKey));
   return true;
@@ -137,11 +139,23 @@ Mark AsMark(const RawMark& raw, const PageMap& map) {
   mark.name = QString::fromUtf8(raw.name);
   mark.colour = ColourCode(raw.colour);
   mark.width = raw.width * map.Unit();
+  mark.group = QString::fromUtf8(raw.group);
   mark.title = TitleOf(QString::fromUtf8(raw.title));
   if (strlen(raw.kept) <= kLongestKept) mark.kept = QString::fromUtf8(raw.kept);
   const std::vector<float>& numbers = raw.numbers;
   if (raw.kind == Mark::Kind::Circle) {
     mark.points = {map.ToPage((numbers[0] + numbers[2]) / 2, (numbers[1] + numbers[3]) / 2)};
+    if (mark.group.isEmpty()) return mark;
+    mark.kind = Mark::Kind::Grouped;
+    mark.label = QString::fromUtf8(raw.label);
+    return mark;
+  }
+  if (raw.kind == Mark::Kind::Legend && !mark.group.isEmpty()) {
+    mark.kind = Mark::Kind::Total;
+    mark.label = QString::fromUtf8(raw.label);
+    const PagePoint a = map.ToPage(numbers[0], numbers[1]);
+    const PagePoint b = map.ToPage(numbers[2], numbers[3]);
+    mark.points = {{std::min(a.x, b.x), std::max(a.y, b.y) - kTotalBelow}};
     return mark;
   }
   if (raw.kind == Mark::Kind::Legend) {

@@ -27,6 +27,7 @@ void DrawingBoard::ClearBoard() {
   work_ = {};
   DropOutline();
   DropBox();
+  ForgetGroup();
   if (tool_ != PlanTool::None) PickTool(PlanTool::None);
 }
 
@@ -130,6 +131,7 @@ void DrawingBoard::EndLine() {
 void DrawingBoard::PickTool(PlanTool tool) {
   DropWork();
   if (tool != PlanTool::None && !MayMark()) tool = PlanTool::None;
+  if (tool == PlanTool::Grouping && Group().isEmpty()) ChooseGroup(QStringLiteral("Group 1"));
   if (tool != PlanTool::None) ToolComes();
   Raise(onBeforeModeChange);
   tool_ = tool;
@@ -149,6 +151,7 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
   }
   if (tool_ == PlanTool::None) return PressFree(at);
   if (!MayMark()) return PickTool(PlanTool::None);
+  if (tool_ == PlanTool::Grouping) AddToGroup({at});
   if (tool_ == PlanTool::Counting) AddMark(NewMark(Mark::Kind::Circle, {at}));
   if (DrawsOutlines(tool_)) return PressOutline(tool_, at, shift);
   if (tool_ != PlanTool::Measuring) return;
@@ -228,18 +231,21 @@ void DrawingBoard::SetPointNext(bool point) {
 
 // The tool that is in hand counts, or the counting tool is taken.
 bool DrawingBoard::PlaceCircles(const std::vector<PagePoint>& places) {
-  if (tool_ != PlanTool::Counting) PickTool(PlanTool::Counting);
-  if (tool_ != PlanTool::Counting || !MayMark()) return false;
-  std::vector<Mark> marks;
-  for (const PagePoint at : places) {
-    if (Sane(at)) marks.push_back(NewMark(Mark::Kind::Circle, {at}));
+  if (tool_ != PlanTool::Grouping && tool_ != PlanTool::Counting) PickTool(PlanTool::Counting);
+  if (tool_ == PlanTool::None || !MayMark()) return false;
+  if (tool_ == PlanTool::Grouping) {
+    AddToGroup(places);
+    return true;
   }
+  std::vector<Mark> marks;
+  for (const PagePoint at : places) marks.push_back(NewMark(Mark::Kind::Circle, {at}));
   AddMarks(std::move(marks));
   return true;
 }
 
 bool DrawingBoard::CountsAlike(const Mark& mark) const {
-  return mark.kind == Mark::Kind::Circle;
+  if (tool_ != PlanTool::Grouping) return mark.kind == Mark::Kind::Circle;
+  return mark.kind == Mark::Kind::Grouped && mark.group == Group();
 }
 
 // --- The box around a table or a symbol

@@ -5,12 +5,20 @@
 
 namespace tamo {
 
+bool IsCount(Mark::Kind kind) {
+  return kind == Mark::Kind::Circle || kind == Mark::Kind::Grouped;
+}
+
+bool IsLabel(Mark::Kind kind) {
+  return kind == Mark::Kind::Legend || kind == Mark::Kind::Total;
+}
+
 bool IsOutline(Mark::Kind kind) {
   return kind == Mark::Kind::Area || kind == Mark::Kind::Perimeter || kind == Mark::Kind::CutOut;
 }
 
 bool FitsKind(Mark::Kind kind, size_t points) {
-  if (kind == Mark::Kind::Circle || kind == Mark::Kind::Legend) return points == 1;
+  if (IsCount(kind) || IsLabel(kind)) return points == 1;
   if (kind == Mark::Kind::Line) return points == 2;
   return points >= (IsOutline(kind) ? 3U : 2U) && points <= kMostMarkPoints;
 }
@@ -24,14 +32,14 @@ QString TitleOf(const QString& text) {
 }
 
 QString KindInWords(Mark::Kind kind) {
-  static const char* const words[] = {"Line",      "Count",   "Polyline", "Area",
-                                      "Perimeter", "Cut-out", "Legend"};
+  static const char* const words[] = {"Line",    "Count",  "Polyline",    "Area", "Perimeter",
+                                      "Cut-out", "Legend", "Group count", "Total"};
   return QLatin1String(words[static_cast<int>(kind)]);
 }
 
 double ValueOfMark(const Mark& mark) {
-  if (mark.kind == Mark::Kind::Circle) return 1;
-  if (mark.kind == Mark::Kind::Legend) return 0;
+  if (IsCount(mark.kind)) return 1;
+  if (IsLabel(mark.kind)) return 0;
   const QString number = mark.label.section(QLatin1Char(' '), 0, 0);
   return QString(number).remove(QLatin1Char(',')).toDouble();
 }

@@ -22,15 +22,17 @@ struct PageSize {
 // One mark on a plan: a measured line (two points), a counting circle (its centre), a way along
 // several points, or a closed outline that says its area, its perimeter, or what is cut out of an
 // area (a negative area). A legend (its top left corner) measures nothing: it says what the others
-// come to.
+// come to. A circle of a named group has its number; a total is the label that says how many
+// circles its group has, and is made anew from them.
 struct Mark {
-  enum class Kind { Line, Circle, Polyline, Area, Perimeter, CutOut, Legend };
+  enum class Kind { Line, Circle, Polyline, Area, Perimeter, CutOut, Legend, Grouped, Total };
   Kind kind = Kind::Line;
   int page = 1;  // from 1
   std::vector<PagePoint> points;
   QString colour = QStringLiteral("255000000");  // RRRGGGBBB
   double width = 0.75;                           // points
   QString label;                                 // as it stands on the plan: 10.0 feet @ 1/4"=1'
+  QString group;                                 // of a circle that belongs to one, and of a total
   QString name;   // the mark's own name inside the file; empty until it has one
   QString title;  // what the estimator calls it; mostly nothing
   QString kept;   // what this program keeps with it, as text: see MarkTie
@@ -43,6 +45,8 @@ inline constexpr int kLongestKept = 4000;
 
 // More points than anybody sets; a mark of a file that has more is no mark of this program.
 inline constexpr size_t kMostMarkPoints = 10000;
+bool IsCount(Mark::Kind kind);                  // a circle, alone or of a group
+bool IsLabel(Mark::Kind kind);                  // says what others come to: legend and total
 bool IsOutline(Mark::Kind kind);                // closed: area, perimeter, cut-out
 bool FitsKind(Mark::Kind kind, size_t points);  // a mark of this kind can have so many points
 bool IsSurface(Mark::Kind kind);                // says square feet: area and cut-out

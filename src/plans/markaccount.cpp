@@ -82,8 +82,7 @@ QString KeyOf(const TakeoffPlace& place) {
 }  // namespace
 
 QString SaidBy(const Mark& mark) {
-  return mark.kind == Mark::Kind::Circle ? QStringLiteral("1")
-                                         : mark.label.section(QLatin1Char(' '), 0, 0);
+  return IsCount(mark.kind) ? QStringLiteral("1") : mark.label.section(QLatin1Char(' '), 0, 0);
 }
 
 std::vector<AccountedMark> AccountOf(const std::vector<Mark>& marks, TakeoffLines& lines) {

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <utility>
 
+#include "plans/countgroups.h"
+
 namespace tamo {
 namespace {
 
@@ -35,6 +37,8 @@ std::vector<Mark> MarkedSheets::Marks() const {
 }
 
 void MarkedSheets::FillMarks(std::vector<Mark> marks) {
+  std::erase_if(marks, [](const Mark& mark) { return mark.kind == Mark::Kind::Total; });
+  SettleGroups(marks);
   marks_ = std::move(marks);
   ++revision_;
   done_.clear();
@@ -72,33 +76,25 @@ void MarkedSheets::TakeStep(Step step) {
 
 bool MarkedSheets::Undo() {
   if (done_.empty()) return false;
-  bool circles = false;
-  bool edits = false;
   bool more = true;
   while (more && !done_.empty()) {
     undone_.push_back(done_.back());
     done_.pop_back();
     Put(undone_.back(), false);
-    circles = circles || Counts(undone_.back());
-    edits = edits || undone_.back().edits;
     more = undone_.back().joined;
   }
-  Tell(circles, edits);
+  Tell(Step(undone_.back()));
   return true;
 }
 
 bool MarkedSheets::Redo() {
   if (undone_.empty()) return false;
-  bool circles = false;
-  bool edits = false;
   do {
     done_.push_back(undone_.back());
     undone_.pop_back();
     Put(done_.back(), true);
-    circles = circles || Counts(done_.back());
-    edits = edits || done_.back().edits;
   } while (!undone_.empty() && undone_.back().joined);
-  Tell(circles, edits);
+  Tell(Step(done_.back()));
   return true;
 }
 
@@ -125,6 +121,18 @@ bool MarkedSheets::PutBack(const Mark& mark) {
   return true;
 }
 
+void MarkedSheets::AddMarks(std::vector<Mark> marks) {
+  for (size_t i = 0; i < marks.size(); ++i) {
+    Mark& mark = marks[i];
+    mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
+    done_.push_back({Step::What::Added, marks_.size(), std::move(mark), {}, false, i > 0});
+    Put(done_.back(), true);
+  }
+  if (marks.empty()) return;
+  undone_.clear();
+  Tell(Step(done_.back()));
+}
+
 const Mark* MarkedSheets::FindMark(const QString& name) const {
   const auto found = std::find_if(marks_.begin(), marks_.end(),
                                   [&](const Mark& mark) { return mark.name == name; });
@@ -141,6 +149,21 @@ void MarkedSheets::ChangeMark(const Mark& mark, bool joinLast) {
   done_.back().mark = mark;
   undone_.clear();
   Do(Step(done_.back()), true);
+}
+
+void MarkedSheets::ChangeMarks(const std::vector<Mark>& marks) {
+  bool joined = false;
+  for (const Mark& mark : marks) {
+    const Mark* found = FindMark(mark.name);
+    if (found == nullptr || *found == mark) continue;
+    const auto at = static_cast<size_t>(found - marks_.data());
+    done_.push_back({Step::What::Changed, at, mark, *found, true, joined});
+    Put(done_.back(), true);
+    joined = true;
+  }
+  if (!joined) return;
+  undone_.clear();
+  Tell(Step(done_.back()));
 }
 
 QString MarkedSheets::PlaceMark(Mark mark) {
@@ -171,34 +194,19 @@ void MarkedSheets::KeepWith(const QString& name, const QString& kept) {
   }
 }
 
-void MarkedSheets::AddMarks(std::vector<Mark> marks) {
-  bool circles = false;
-  for (size_t i = 0; i < marks.size(); ++i) {
-    Mark& mark = marks[i];
-    mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-    circles = circles || mark.kind == Mark::Kind::Circle;
-    done_.push_back({Step::What::Added, marks_.size(), std::move(mark), {}, false, i > 0});
-    Put(done_.back(), true);
-  }
-  if (marks.empty()) return;
-  undone_.clear();
-  Tell(circles, false);
-}
-
-// A circle that was changed is still one.
-bool MarkedSheets::Counts(const Step& step) {
-  return step.what != Step::What::Changed && step.mark.kind == Mark::Kind::Circle;
-}
-
 void MarkedSheets::Do(const Step& step, bool forward) {
   Put(step, forward);
-  Tell(Counts(step), step.edits);
+  Tell(step);
 }
 
-void MarkedSheets::Tell(bool circles, bool edits) {
+// Of what comes or goes together the last tells what it is.
+void MarkedSheets::Tell(const Step& last) {
   Repaint();
-  if (circles) Raise(onCircleCountChanged, CircleCount());
-  if (edits) Raise(onMarkEdited);
+  const bool counts = last.what != Step::What::Changed;
+  if (counts && last.mark.kind == Mark::Kind::Circle) Raise(onCircleCountChanged, CircleCount());
+  if (counts && last.mark.kind == Mark::Kind::Grouped)
+    Raise(onGroupCountChanged, last.mark.group, CountInGroup(marks_, last.mark.group));
+  if (last.edits) Raise(onMarkEdited);
 }
 
 void MarkedSheets::Put(const Step& step, bool forward) {

@@ -36,6 +36,8 @@ class MarkedSheets : public SheetView {
   // The mark of the same name becomes `mark`. With `joinLast` it is taken back together with the
   // change before, if that was one of the same mark.
   void ChangeMark(const Mark& mark, bool joinLast = false);
+  // The same of several, taken back together.
+  void ChangeMarks(const std::vector<Mark>& marks);
   // A new mark, not drawn by a tool; raises onMarkEdited. Its name.
   QString PlaceMark(Mark mark);
   // Takes the mark away; raises onMarkEdited, as ChangeMark does.
@@ -44,7 +46,8 @@ class MarkedSheets : public SheetView {
   void KeepWith(const QString& name, const QString& kept);
 
  protected:
-  // Takes the place of all marks; oldest first. Nothing can be taken back then.
+  // Takes the place of all marks; oldest first. Nothing can be taken back then. Totals are left
+  // out: they are made anew.
   void FillMarks(std::vector<Mark> marks);
   void ClearMarks() {
     marks_.clear();
@@ -62,15 +65,14 @@ class MarkedSheets : public SheetView {
     What what = What::Added;
     size_t at = 0;
     Mark mark;
-    Mark before;          // of one that was changed
-    bool edits = false;   // by hand, and not by a tool
+    Mark before;  // of one that was changed
+    bool edits = false;
     bool joined = false;  // goes with the one before
   };
   void TakeStep(Step step);
   void Do(const Step& step, bool forward);
   void Put(const Step& step, bool forward);
-  void Tell(bool circles, bool edits);
-  static bool Counts(const Step& step);
+  void Tell(const Step& last);
   int CircleCount() const;
 
   std::vector<Mark> marks_;

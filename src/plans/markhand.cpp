@@ -213,7 +213,7 @@ void MarkHand::Press(PagePoint at) {
   pressed_ = at;
   const Mark* mark = Chosen();
   if (mark == nullptr || mark->page != viewer_.Page()) return;
-  const bool whole = mark->kind == Mark::Kind::Circle || mark->kind == Mark::Kind::Legend;
+  const bool whole = IsCount(mark->kind) || IsLabel(mark->kind);
   const int point = whole ? (DistanceToMark(*mark, at, viewer_.MarkerSize()) <= Reach() ? 0 : -1)
                           : PointAt(*mark, at, Reach());
   if (point < 0) return;

@@ -60,7 +60,7 @@ std::optional<double> ScaleOfLabel(const QString& label) {
 
 QString MovedLabel(const Mark& mark, const std::vector<PagePoint>& points,
                    const MeasureInForce& inForce) {
-  const bool measures = mark.kind != Mark::Kind::Circle && mark.kind != Mark::Kind::Legend;
+  const bool measures = !IsCount(mark.kind) && !IsLabel(mark.kind);
   if (mark.label.isEmpty() || !measures) return mark.label;
   const double sign = mark.kind == Mark::Kind::CutOut ? -1 : 1;
   const double before = DrawnMeasure(mark.kind, mark.points);

@@ -142,6 +142,23 @@ QByteArray Places(const Mark& mark, const PageMap& map) {
          SubjectOf(mark.kind) + ')';
 }
 
+QByteArray LabelPart(const MarkShape& shape, const Mark& mark, const PageMap& map) {
+  return ColourParts(ReadableOnWhite(ColourNumber(mark.colour))) + " rg\n" + TextPart(shape, map);
+}
+
+QByteArray TotalPart(const MarkShape& shape, const Mark& mark, const PageMap& map) {
+  return "/Subtype/FreeText/Contents" + PdfText(mark.label) + "/DA(/Helv " +
+         PdfNumber(shape.textSize / map.Unit()) + " Tf " +
+         ColourParts(ReadableOnWhite(ColourNumber(mark.colour))) + " rg)";
+}
+
+// Other readers list the circles of a group by its name.
+QByteArray GroupPart(const Mark& mark) {
+  if (mark.group.isEmpty()) return {};
+  const QByteArray subject = mark.title.isEmpty() ? "/Subj" + PdfText(mark.group) : QByteArray();
+  return subject + "/" + kGroupKey + PdfText(mark.group);
+}
+
 }  // namespace
 
 const char* SubjectOf(Mark::Kind kind) {
@@ -172,7 +189,8 @@ double PageMap::Unit() const {
 MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
   if (mark.kind == Mark::Kind::Legend) return LegendAsPdf(mark, map);
   const MarkShape shape = ShapeOf(mark, markerSize);
-  const double width = shape.width / map.Unit();
+  const bool bare = mark.kind == Mark::Kind::Total;
+  const double width = bare ? 0 : shape.width / map.Unit();
   MarkObjects objects;
   PdfBox box;
   const QByteArray colour = ColourParts(ColourNumber(mark.colour));
@@ -182,17 +200,21 @@ MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
     const double radius = shape.radius / map.Unit();
     box.Take(centre, radius + width / 2);
     objects.formContent += CirclePart(centre, radius);
-    objects.annotation = "/Subtype/Circle/Contents" + PdfText(QStringLiteral("Count"));
+    objects.annotation =
+        "/Subtype/Circle/Contents" +
+        PdfText(mark.kind == Mark::Kind::Circle ? QStringLiteral("Count") : mark.label);
+    objects.formContent += LabelPart(shape, mark, map);
   } else {
     TakeStrokes(shape, map, width, box, objects.formContent);
     objects.formContent += WayPart(shape, map, box, width);
     TakeText(shape, map, box);
-    objects.formContent += ColourParts(ReadableOnWhite(ColourNumber(mark.colour))) + " rg\n";
-    objects.formContent += TextPart(shape, map);
+    objects.formContent += LabelPart(shape, mark, map);
     objects.annotation =
-        Places(mark, map) + "/Contents" + PdfText(mark.label) + Measure(mark, map.Unit());
+        mark.kind == Mark::Kind::Total
+            ? TotalPart(shape, mark, map)
+            : Places(mark, map) + "/Contents" + PdfText(mark.label) + Measure(mark, map.Unit());
   }
-  objects.annotation += CommonEntries(mark, width, box) + OwnEntries(mark);
+  objects.annotation += CommonEntries(mark, width, box) + OwnEntries(mark) + GroupPart(mark);
   objects.formEntries = "/Type/XObject/Subtype/Form/BBox" + box.Text() + "/Resources<<" +
                         FillState(shape) + kLetters + ">>";
   return objects;

@@ -26,6 +26,10 @@ struct MarkObjects {
 
 MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map);
 
+// The key of the group of a circle, and of a total.
+inline constexpr char kGroupKey[] = "Tamo_Group";
+// How far the box of a total reaches below its base line, in points.
+inline constexpr double kTotalBelow = 9 * 0.25;
 // Keys of this program's own in an annotation: the mark's title, and what is kept with it.
 inline constexpr char kTitleKey[] = "Tamo_Name";
 inline constexpr char kKeptKey[] = "Tamo_Entry";

@@ -29,8 +29,7 @@ std::vector<QString> NamesByDistance(std::vector<Found> found) {
 double DistanceToMark(const Mark& mark, PagePoint at, double markerSize) {
   const std::vector<PagePoint>& points = mark.points;
   if (points.empty()) return std::numeric_limits<double>::max();
-  if (mark.kind == Mark::Kind::Circle)
-    return std::max(0.0, Distance(points.front(), at) - markerSize / 2);
+  if (IsCount(mark.kind)) return std::max(0.0, Distance(points.front(), at) - markerSize / 2);
   if (mark.kind == Mark::Kind::Legend) {
     const LegendShape shape = ShapeOfLegend(mark);
     const double dx = std::max({shape.at.x - at.x, at.x - shape.at.x - shape.width, 0.0});

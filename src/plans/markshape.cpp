@@ -33,6 +33,24 @@ void LabelOver(MarkShape& shape, PagePoint from, PagePoint to) {
                   (from.y + to.y) / 2 - std::cos(angle) * away};
 }
 
+// A circle of a group holds its number, as large as there is room.
+void ShapeCircle(MarkShape& shape, const Mark& mark, double radius) {
+  shape.circle = true;
+  shape.centre = mark.points[0];
+  shape.radius = radius;
+  if (mark.kind != Mark::Kind::Grouped) return;
+  constexpr double kRoom = 1.5;     // of the radius
+  constexpr double kDigits = 0.36;  // of the letters' height, from their middle to the base line
+  shape.text = mark.label.section(QLatin1Char(' '), -1);
+  shape.textSize = radius * 1.1;
+  shape.textWidth = LetterWidth(shape.text, shape.textSize);
+  if (shape.textWidth > kRoom * radius) {
+    shape.textSize *= kRoom * radius / shape.textWidth;
+    shape.textWidth = kRoom * radius;
+  }
+  shape.textAt = {shape.centre.x, shape.centre.y + kDigits * shape.textSize};
+}
+
 // A polyline's label stands over its longest part, that of an outline in its middle.
 void ShapeWay(MarkShape& shape, const Mark& mark) {
   shape.way = mark.points;
@@ -71,14 +89,16 @@ MarkShape ShapeOf(const Mark& mark, double markerSize) {
   MarkShape shape;
   shape.width = mark.width;
   if (mark.points.empty()) return shape;
-  if (mark.kind == Mark::Kind::Circle) {
-    shape.circle = true;
-    shape.centre = mark.points[0];
-    shape.radius = markerSize / 2;
+  if (IsCount(mark.kind)) {
+    ShapeCircle(shape, mark, markerSize / 2);
     return shape;
   }
   shape.text = mark.title.isEmpty() ? mark.label : mark.title + QStringLiteral(": ") + mark.label;
   shape.textWidth = LetterWidth(shape.text, shape.textSize);
+  if (mark.kind == Mark::Kind::Total) {
+    shape.textAt = {mark.points[0].x + shape.textWidth / 2, mark.points[0].y};
+    return shape;
+  }
   if (mark.kind != Mark::Kind::Line) {
     ShapeWay(shape, mark);
     return shape;

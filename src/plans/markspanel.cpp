@@ -21,6 +21,7 @@ QString Column(const QString& text, int width) {
 // "10.0 feet" of `10.0 feet @ 1/4"=1'`.
 QString ValueInWords(const Mark& mark) {
   if (mark.kind == Mark::Kind::Legend) return mark.label.section(QLatin1Char('\n'), 0, 0);
+  if (mark.kind == Mark::Kind::Grouped) return mark.label;
   return mark.kind == Mark::Kind::Circle ? QStringLiteral("1")
                                          : mark.label.section(QLatin1String(" @ "), 0, 0);
 }

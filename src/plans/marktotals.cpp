@@ -12,6 +12,7 @@ namespace {
 // "feet" of `10.0 feet @ 1/4"=1'`.
 QString UnitOf(const Mark& mark) {
   if (mark.kind == Mark::Kind::Circle) return QStringLiteral("counted");
+  if (mark.kind == Mark::Kind::Grouped) return QStringLiteral("counted, ") + mark.group;
   return mark.label.section(QLatin1String(" @ "), 0, 0).section(QLatin1Char(' '), 1);
 }
 

@@ -54,6 +54,10 @@ struct OstControls : Form {
   FileBrowser Dir1{*this, "Dir1", FileBrowser::Kind::Folder};
   FileBrowser File1{*this, "File1", FileBrowser::Kind::File, "*.pdf"};
   Frame ColorFrame{*this, "ColorFrame"};
+  // The strip in which a group of counting circles is chosen or begun.
+  Frame GroupFrame{*this, "GroupFrame"};
+  TextField GroupName{*this, "GroupName"};
+  OrderedList GroupList{*this, "GroupList"};  // with their totals
   // To find one's way: a sheet by its number, the plan's bookmarks and the sheet's links, layers.
   // One of the three is shown at a time, beside the plan.
   Frame GoToFrame{*this, "GoToFrame"};

@@ -32,6 +32,7 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       opener_(kit, *this, viewer, {record_, scale_, pages_, browser_, copy_}),
       measure_(kit, *this, viewer, scale_, takeoff),
       surfaces_(*this, scale_, measure_, takeoff),
+      groups_(kit, *this, viewer, measure_),
       sheetScales_(kit, *this, viewer, scale_, record_),
       ways_(kit, *this, viewer, record_),
       marks_(kit, *this, viewer, [this] { SaveIt(); }),
@@ -92,6 +93,7 @@ void OSTForm::BindMenus() {
   on("Save", [this] { Save(); });
   on("Printit", [this] { viewer_.Print(); });
   on("SnapToDrawing", [this] { viewer_.Key({PlanKey::Snap, false, false}); });
+  on("CountGroups", [this] { groups_.Open(); });
   on("FindSame", [this] {
     kit_.desk.Focus(picPdfDraw);
     viewer_.Same().Start();
@@ -127,6 +129,9 @@ void OSTForm::BindOutlines() {
       event([this](double& area, QString& label) { surfaces_.AreaMeasured(area, label); });
   viewer_.onAreaRunning =
       event([this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
+  viewer_.onGroupCountChanged =
+      event([this](const QString& group, int count) { groups_.Counted(group, count); });
+  viewer_.onSheetRead = event([this] { sheetScales_.SheetRead(); });
   viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
 }
 
@@ -178,6 +183,7 @@ void OSTForm::BindViewer() {
   viewer_.onModeChanged = event([this](PlanTool tool) {
     pen_.ModeChanged(tool);
     surfaces_.ToolPicked(tool);
+    groups_.ToolPicked(tool);
     viewer_.Snap().Follow();
     viewer_.Same().Leave();
     sheetScales_.ToolPicked(tool);
@@ -190,10 +196,10 @@ void OSTForm::BindViewer() {
     if (sheetScales_.TakeDimension(paperLength)) return;
     if (measure_.LineChecked(paperLength)) sheetScales_.WasChecked();
   });
-  viewer_.onSheetRead = event([this] { sheetScales_.SheetRead(); });
   viewer_.onCircleCountChanged = event([this](int count) { measure_.CirclesCounted(count); });
   viewer_.onPageChanged = event([this] {
     pages_.ShowPage();
+    groups_.ShowGroups();
     viewer_.Snap().Follow();
     ways_.PageShown();
     viewer_.Same().Follow();

@@ -8,6 +8,7 @@
 #include "plans/markspanel.h"
 #include "plans/ostcontrols.h"
 #include "plans/plancompare.h"
+#include "plans/plangroups.h"
 #include "plans/planmeasure.h"
 #include "plans/plannotespanel.h"
 #include "plans/planopener.h"
@@ -98,6 +99,7 @@ class OSTForm : public OstControls {
   PlanOpener opener_;
   PlanMeasure measure_;
   PlanSurfaces surfaces_;
+  PlanGroups groups_;
   SheetScales sheetScales_;
   PlanWayfinding ways_;
   MarksPanel marks_;

@@ -82,6 +82,7 @@ constexpr Row kPlan[] = {
     {"DrawPerimeter", "P&erimeter (E)", "DrawMenu"},
     {"SnapToDrawing", "&Snap to the Drawing (S)", "DrawMenu"},
     {"FindSame", "&Find Same (I)", "DrawMenu"},
+    {"CountGroups", "Count in &Groups (G)", "DrawMenu"},
     {"SheetsMenu", "&Go", ""},
     {"GoToSheet", "&Sheet (Ctrl+G)", "SheetsMenu"},
     {"ShowBookmarks", "&Bookmarks and Links (Ctrl+B)", "SheetsMenu"},

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "plans/markedsheets.h"
+#include "plans/groupsheets.h"
 #include "plans/outlinework.h"
 #include "plans/paperunit.h"
 #include "plans/plankey.h"
@@ -14,7 +14,7 @@ namespace tamo {
 // The tools that draw point by point: polyline, perimeter, area, rectangle and cut-out. Each press
 // sets a point; Enter or a double click ends, a closed outline also a press on its first point. A
 // drag from the first point draws a rectangle, of a polyline its first length.
-class OutlineBoard : public MarkedSheets {
+class OutlineBoard : public GroupSheets {
  public:
   virtual PaperUnit Unit() const = 0;
   // Its points so far and the pointer's, with its running measure; of the pen's colour and width.
@@ -25,7 +25,9 @@ class OutlineBoard : public MarkedSheets {
   }
   bool InArc() const { return outline_.InArc(); }
 
-  static bool DrawsOutlines(PlanTool tool) { return tool >= PlanTool::Polyline; }
+  static bool DrawsOutlines(PlanTool tool) {
+    return tool >= PlanTool::Polyline && tool <= PlanTool::Perimeter;
+  }
 
  protected:
   void PressOutline(PlanTool tool, PagePoint at, bool shift);

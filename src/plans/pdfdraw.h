@@ -148,6 +148,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
 
   MarkChanges Changes() const;
+  void AddTotals(MarkChanges& changes) const;
+  MarkChanges WithTotalsAnew(const MarkChanges& changes) const;
   void MarksAreSaved();
   int WriteChanges(const QString& path, bool same, const MarkChanges& changes);
   int Append(const QString& path, const MarkChanges& changes);

@@ -52,6 +52,7 @@ std::unique_ptr<PdfDraw::Session> PdfDraw::OpenAside(const QString& path, int& e
   aside->sizes = std::move(opening->contents.sizes);
   marks = std::move(opening->contents.marks);
   for (const Mark& mark : marks) aside->saved.insert(mark.name, mark);
+  aside->KnowTotals(marks);
   return aside;
 }
 
@@ -96,7 +97,8 @@ int PdfDraw::TakeFromDisk(const QString& path, const MarkChanges& changes) {
   std::erase_if(marks, [&](const Mark& mark) { return changes.removed.contains(mark.name); });
   marks.insert(marks.end(), changes.added.begin(), changes.added.end());
   FillPlan(session_->sizes, std::move(marks));
-  return changes.Empty() ? kNoError : Append(path, changes);
+  const MarkChanges all = WithTotalsAnew(changes);
+  return all.Empty() ? kNoError : Append(path, all);
 }
 
 }  // namespace tamo

@@ -234,6 +234,7 @@ void PdfDraw::TakeOpened() {
   notices_.caution = contents.caution;
   session_->sizes = contents.sizes;
   for (const Mark& mark : contents.marks) session_->saved.insert(mark.name, mark);
+  session_->KnowTotals(contents.marks);
   StartPainting();
   // What was drawn on the blank sheet meanwhile is kept.
   contents.marks.insert(contents.marks.end(), MarksAsDrawn().begin(), MarksAsDrawn().end());

@@ -72,6 +72,7 @@ MarkChanges PdfDraw::Changes() const {
   for (auto saved = session_->saved.keyBegin(); saved != session_->saved.keyEnd(); ++saved) {
     if (!names.contains(*saved)) changes.removed.push_back(*saved);
   }
+  AddTotals(changes);
   return changes;
 }
 
@@ -139,6 +140,7 @@ int PdfDraw::AddNow(const QString& path) {
 void PdfDraw::MarksAreSaved() {
   session_->saved.clear();
   for (const Mark& mark : MarksAsDrawn()) session_->saved.insert(mark.name, mark);
+  session_->savedTotals = Totals();
 }
 
 // Writes to an open file, down to the disk.

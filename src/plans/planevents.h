@@ -16,7 +16,8 @@ enum class PlanTool {
   Area = 4,
   Rectangle = 5,  // an area by two corners
   CutOut = 6,
-  Perimeter = 7
+  Perimeter = 7,
+  Grouping = 8  // counts in the group that is chosen
 };
 
 // What the viewer tells, synchronously inside the call that causes it, on the thread of the forms.
@@ -42,7 +43,8 @@ struct PlanEvents {
   // The lines and the printed scales of the sheet in front are known.
   std::function<void()> onSheetRead;
   std::function<void(int count)> onCircleCountChanged;  // the circles of all pages
-  std::function<void()> onPenChanged;                   // the colour or the width of the next mark
+  std::function<void(const QString& group, int count)> onGroupCountChanged;
+  std::function<void()> onPenChanged;  // the colour or the width of the next mark
   // Something speaks against marking this plan: true when it is to be marked all the same. Asked
   // once for a plan, before its first mark.
   std::function<bool(const QString& reservation)> onReservation;

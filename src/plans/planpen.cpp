@@ -60,6 +60,7 @@ void PlanPen::ShowPen() {
 void PlanPen::Choose(const QString& code) {
   form_.ColorFrame.Hide();
   form_.Line1.SetColour(code);
+  if (viewer_.Tool() == PlanTool::Grouping) return viewer_.RecolourGroup(form_.Line1.Colour());
   viewer_.SetMarkColour(form_.Line1.Colour());
   viewer_.Hand().Recolour(form_.Line1.Colour());
 }

@@ -33,8 +33,11 @@ struct PdfDraw::Session {
   std::unique_ptr<WorkThread> thread;  // opens and saves
   std::unique_ptr<PlanPainter> painter;
   std::vector<PageSize> sizes;
-  QHash<QString, Mark> saved;  // the marks as they stand in the file, by name
-  qint64 size = 0;             // bytes of the file as this program last knew it
+  QHash<QString, Mark> saved;     // the marks as they stand in the file, by name
+  std::vector<Mark> savedTotals;  // that stand there beside them
+  qint64 size = 0;                // bytes of the file as this program last knew it
+
+  void KnowTotals(const std::vector<Mark>& marks);  // of those of the file
 
   ~Session() {
     painter.reset();

@@ -16,6 +16,7 @@ QString Symbols(size_t count) {
 
 void SameSymbols::Start() {
   End(QString());
+  viewer_.Hand().LetGo();
   if (viewer_.OpenedPlan() == nullptr)
     return Tell(QStringLiteral("Find Same: no plan is open whose lines could be read."));
   state_ = State::Boxing;

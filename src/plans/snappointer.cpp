@@ -29,8 +29,7 @@ void SnapPointer::Turn(bool on) {
 bool SnapPointer::Active() const {
   const PlanTool tool = viewer_.Tool();
   const std::optional<Mark>& held = viewer_.Hand().Held();
-  if (held.has_value())
-    return on_ && held->kind != Mark::Kind::Circle && held->kind != Mark::Kind::Legend;
+  if (held.has_value()) return on_ && !IsCount(held->kind) && !IsLabel(held->kind);
   return on_ && !viewer_.BoxNext() && (tool == PlanTool::Measuring || PdfDraw::DrawsOutlines(tool));
 }
 

@@ -27,6 +27,7 @@ void Put(WireWriter& wire, const Mark& mark) {
   wire.Text(mark.colour);
   wire.Real(mark.width);
   wire.Text(mark.label);
+  wire.Text(mark.group);
   wire.Text(mark.name);
   wire.Text(mark.title);
   wire.Text(mark.kept);
@@ -34,7 +35,7 @@ void Put(WireWriter& wire, const Mark& mark) {
 
 void Take(WireReader& wire, Mark& mark) {
   const unsigned kind = wire.Byte();
-  if (kind > static_cast<unsigned>(Mark::Kind::Legend)) wire.Spoil();
+  if (kind > static_cast<unsigned>(Mark::Kind::Total)) wire.Spoil();
   mark.kind = wire.Good() ? static_cast<Mark::Kind>(kind) : Mark::Kind::Line;
   mark.page = static_cast<int>(wire.Number(1, kMostPages));
   const size_t points = wire.Count(16);
@@ -47,6 +48,7 @@ void Take(WireReader& wire, Mark& mark) {
   if (!IsColourCode(mark.colour)) mark.colour = Mark().colour;
   mark.width = wire.Real();
   mark.label = wire.Text();
+  mark.group = wire.Text();
   mark.name = wire.Text();
   mark.title = TitleOf(wire.Text());
   mark.kept = wire.Text().left(kLongestKept);

@@ -39,10 +39,12 @@ bool MarksOnPlan::IsFree(const Mark& mark) const {
 // it since; a length the newest mark that says it.
 QStringList MarksOnPlan::MarksBehind(const QString& text, const std::vector<Mark>& marks) const {
   QStringList names;
-  const bool count = !marks.empty() && marks.front().kind == Mark::Kind::Circle;
+  const bool count = !marks.empty() && IsCount(marks.front().kind);
   const QString label = text + QLatin1Char(' ');
   for (const Mark& mark : marks) {
-    if (count != (mark.kind == Mark::Kind::Circle) || !IsFree(mark)) continue;
+    if (count != IsCount(mark.kind) || !IsFree(mark)) continue;
+    // Of a group its own circles only.
+    if (count && mark.group != marks.front().group) continue;
     const bool cut = mark.kind == Mark::Kind::CutOut;
     const bool surface =
         mark.kind == Mark::Kind::Area && (!names.isEmpty() || IsNewest(mark, marks));
@@ -55,7 +57,7 @@ QStringList MarksOnPlan::MarksBehind(const QString& text, const std::vector<Mark
 
 bool MarksOnPlan::IsNewest(const Mark& mark, const std::vector<Mark>& marks) const {
   for (const Mark& other : marks) {
-    if (other.kind != Mark::Kind::Circle && IsFree(other)) return other.name == mark.name;
+    if (!IsCount(other.kind) && IsFree(other)) return other.name == mark.name;
   }
   return false;
 }

@@ -60,7 +60,8 @@ void WaitingFields::Follow() {
 QString WaitingFields::GoesTo() const {
   static const std::pair<const char*, Field> codes[] = {
       {"EL", Field::ELength}, {"EH", Field::Hite}, {"RL", Field::Length}, {"RH", Field::How}};
-  const bool counting = ost_.Viewer().Tool() == PlanTool::Counting;
+  const PlanTool tool = ost_.Viewer().Tool();
+  const bool counting = tool == PlanTool::Counting || tool == PlanTool::Grouping;
   for (const auto& [code, field] : codes) {
     const Place place = At(field);
     if (kit_.shared.IAmHere != QLatin1String(code) || !place.form.Visible()) continue;

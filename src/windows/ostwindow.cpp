@@ -8,6 +8,7 @@
 #include "windows/findbar.h"
 #include "windows/findonplan.h"
 #include "windows/formlayouts.h"
+#include "windows/groupstrip.h"
 #include "windows/plancanvas.h"
 #include "windows/plancolumn.h"
 #include "windows/planmarks.h"
@@ -144,6 +145,7 @@ PlanCanvas* Canvas(Builder& b) {
   };
   canvas->onZoomIn = choose("ZoomIn");
   canvas->onZoomOut = choose("ZoomOut");
+  canvas->onGroups = choose("CountGroups");
   FormWindow* window = &b.Window();
   viewer.onPrint = [canvas] { canvas->Print(); };
   viewer.onBringToFront = [window] { window->raise(); };
@@ -180,6 +182,7 @@ void LayOutOST(Builder& b) {
   middle->addWidget(GoesTo(b));
   middle->addWidget(Colours(b));
   middle->addWidget(Password(b));
+  middle->addWidget(GroupStrip(b));
   middle->addWidget(Words(b));
   middle->addWidget(canvas, 1);
   middle->addWidget(FindText(b, *canvas));

@@ -39,11 +39,16 @@ std::optional<PlanKey> LetterOf(int code) {
 
 }  // namespace
 
-// While symbols that were found are asked about, letters answer.
-bool PlanCanvas::TakeAnswer(int key) {
+// The helpers that count; while symbols that were found are asked about, letters answer.
+bool PlanCanvas::TakeCountLetter(int key) {
   static constexpr std::pair<int, PlanKey> kAnswers[] = {
       {Qt::Key_Y, PlanKey::Yes}, {Qt::Key_N, PlanKey::No}, {Qt::Key_A, PlanKey::All}};
-  if (!viewer_.Same().Asking()) return false;
+  if (key == Qt::Key_G && onGroups) {
+    onGroups();
+    return true;
+  }
+  if (key == Qt::Key_I) desk_.Dispatch([this] { viewer_.Same().Start(); });
+  if (key == Qt::Key_I || !viewer_.Same().Asking()) return key == Qt::Key_I;
   for (const auto& [letter, answer] : kAnswers) {
     if (letter != key) continue;
     desk_.Dispatch([&, answer = answer] { viewer_.Key({answer, false, false}); });
@@ -54,7 +59,6 @@ bool PlanCanvas::TakeAnswer(int key) {
 
 // The tool bar by letters, while the keys go to the plan.
 bool PlanCanvas::TakeLetter(int key) {
-  if (TakeAnswer(key)) return true;
   static constexpr std::pair<int, PlanTool> kTools[] = {
       {Qt::Key_V, PlanTool::None},     {Qt::Key_M, PlanTool::Measuring},
       {Qt::Key_C, PlanTool::Counting}, {Qt::Key_L, PlanTool::Polyline},
@@ -72,9 +76,6 @@ bool PlanCanvas::TakeLetter(int key) {
   switch (key) {
     case Qt::Key_Tab:
       return TakeNextSnap();
-    case Qt::Key_I:
-      desk_.Dispatch([this] { viewer_.Same().Start(); });
-      return true;
     case Qt::Key_T:
       TurnView();
       return true;
@@ -122,7 +123,7 @@ bool PlanCanvas::TakeKey(const QKeyEvent& event) {
     desk_.Dispatch([&] { viewer_.Key({PlanKey::No, true, false}); });
     return true;
   }
-  if (!ctrl && TakeLetter(event.key())) return true;
+  if (!ctrl && (TakeCountLetter(event.key()) || TakeLetter(event.key()))) return true;
   if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
     if (ctrl) return TakePairKey(event.key() == Qt::Key_PageDown);
     const int page = viewer_.Page() + (event.key() == Qt::Key_PageDown ? 1 : -1);

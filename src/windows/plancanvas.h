@@ -46,6 +46,7 @@ class PlanCanvas : public QAbstractScrollArea {
   std::function<bool(QPrinter& printer)> askForPrinter;
 
   std::function<void()> onZoomIn, onZoomOut;  // plus and minus: a step
+  std::function<void()> onGroups;             // G: groups of counting circles
   // The whole sheet, or its whole width, in sight.
   void FitPage();
   void FitWidth();
@@ -91,7 +92,7 @@ class PlanCanvas : public QAbstractScrollArea {
   bool TakeLetter(int key);
   bool TakeNextSnap();
   bool TakePairKey(bool next);
-  bool TakeAnswer(int key);
+  bool TakeCountLetter(int key);
   // Where on the page the mouse takes hold.
   PagePoint Pointed(const QMouseEvent& event);
   void ShowPointer(const QPointF& place);

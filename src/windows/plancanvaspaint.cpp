@@ -82,6 +82,9 @@ void PlanCanvas::PaintMarks(QPainter& painter) const {
   for (const Mark& mark : viewer_.MarksAsDrawn()) {
     if (mark.page == viewer_.Page()) PaintMark(painter, mark, viewer_.MarkerSize());
   }
+  for (const Mark& total : viewer_.Totals()) {
+    if (total.page == viewer_.Page()) PaintMark(painter, total, viewer_.MarkerSize());
+  }
 }
 
 // The mark as it is being moved, with a handle at each of its points; the one in hand is full.

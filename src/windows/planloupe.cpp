@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "plans/comparison.h"
 #include "windows/look.h"
 
 namespace tamo {
@@ -62,7 +63,7 @@ void PlanLoupe::FollowCrossHair() {
 bool PlanLoupe::eventFilter(QObject* object, QEvent* event) {
   if (object == &canvas_ && event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() == Qt::Key_O && key->modifiers() == Qt::NoModifier) {
+    if (key->key() == Qt::Key_O && key->modifiers() == Qt::NoModifier && !viewer_.Compared().On()) {
       Toggle();
       return true;
     }

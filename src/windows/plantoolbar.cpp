@@ -52,7 +52,7 @@ std::vector<QToolButton*> ToolButtons(PdfDraw& viewer, Desk& desk) {
 
 // The tools that draw point by point, in a list that drops from one button. It keeps the name of
 // the one used last, and a click on it takes that one again.
-QToolButton* DrawButton(PdfDraw& viewer, Desk& desk) {
+QToolButton* DrawButton(Form& form, PdfDraw& viewer, Desk& desk) {
   QToolButton* button = Tool(QStringLiteral("Area"), QStringLiteral("Areas and long ways"));
   button->setCheckable(true);
   button->setPopupMode(QToolButton::MenuButtonPopup);
@@ -63,6 +63,14 @@ QToolButton* DrawButton(PdfDraw& viewer, Desk& desk) {
     QObject::connect(action, &QAction::triggered, button, [&viewer, &desk, tool = row.tool] {
       desk.Dispatch([&] { viewer.PickTool(tool); });
     });
+  }
+  menu->addSeparator();
+  for (const auto& [name, text] :
+       {std::pair("FindSame", "Find Same"), std::pair("CountGroups", "Count in Groups")}) {
+    MenuEntry* entry = form.FindMenu(QLatin1String(name));
+    if (entry == nullptr) continue;
+    QObject::connect(menu->addAction(QLatin1String(text)), &QAction::triggered, button,
+                     [&desk, entry] { desk.ChooseMenu(*entry); });
   }
   menu->setToolTipsVisible(true);
   button->setMenu(menu);
@@ -112,7 +120,7 @@ QWidget* PlanToolBar(Builder& b, PlanCanvas& canvas) {
   line->addSpacing(kGrid / 2);
   for (QToolButton* button : PageButtons(viewer, desk, canvas)) line->addWidget(button);
   line->addSpacing(kGrid / 2);
-  QToolButton* draw = DrawButton(viewer, desk);
+  QToolButton* draw = DrawButton(b.GetForm(), viewer, desk);
   line->addWidget(draw);
   line->addStretch(1);
   // Mode changes with every tool; its field tells when to look.

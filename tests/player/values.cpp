@@ -21,6 +21,10 @@ QString MarkLine(const Mark& mark) {
   };
   if (mark.kind == Mark::Kind::Circle)
     return QStringLiteral("circle %1 %2 %3").arg(mark.page).arg(place(0), mark.colour);
+  if (mark.kind == Mark::Kind::Grouped)
+    return QStringLiteral("count %1 %2 %3 %4")
+        .arg(mark.page)
+        .arg(place(0), mark.colour, mark.label);
   if (mark.kind == Mark::Kind::Legend)
     return QStringLiteral("legend %1 %2 %3 ").arg(mark.page).arg(place(0), mark.colour) +
            QString(mark.label).replace(QLatin1Char('\n'), QStringLiteral(" | "));
