@@ -3,11 +3,19 @@
 #include <utility>
 
 #include "common/failure.h"
+#include "plans/wireguide.h"
 
 namespace tamo {
 namespace {
 
 constexpr size_t kMostPagesHeld = 64;
+
+template <typename Answer>
+QByteArray Said(const Answer& answer) {
+  WireWriter out;
+  Put(out, answer);
+  return out.Take();
+}
 
 }  // namespace
 
@@ -99,7 +107,14 @@ QByteArray EngineServer::AnswerTo(const Job& job, WireReader& wire) {
     case WireKind::Paint:
       return Paint(job, wire);
     case WireKind::ReadContent:
+    case WireKind::ReadTexts:
       return ReadContent(job, wire);
+    case WireKind::ReadGuide:
+      return Said(Plan()->ReadGuide());
+    case WireKind::ReadLinks:
+      return ReadLinks(wire);
+    case WireKind::ShowLayers:
+      return ShowLayers(wire);
     case WireKind::BuildUpdate:
       return BuildUpdate(wire);
     case WireKind::ForgetUpdate:
@@ -175,8 +190,21 @@ QByteArray EngineServer::Paint(const Job& job, WireReader& wire) {
 QByteArray EngineServer::ReadContent(const Job& job, WireReader& wire) {
   const int page = static_cast<int>(wire.Number(1, 1000000));
   if (!wire.AtEnd()) return {};
+  const bool texts = job.message.kind == WireKind::ReadTexts;
+  return Said(texts ? Plan()->ReadTexts(page, *job.cancel)
+                    : Plan()->ReadContent(page, *job.cancel));
+}
+
+QByteArray EngineServer::ReadLinks(WireReader& wire) {
+  const int page = static_cast<int>(wire.Number(1, 1000000));
+  return wire.AtEnd() ? Said(Plan()->ReadLinks(page)) : QByteArray();
+}
+
+QByteArray EngineServer::ShowLayers(WireReader& wire) {
+  std::vector<bool> shown;
+  tamo::Take(wire, shown);
   WireWriter out;
-  Put(out, Plan()->ReadContent(page, *job.cancel));
+  out.Flag(wire.AtEnd() && Plan()->ShowLayers(shown));
   return out.Take();
 }
 

@@ -49,6 +49,8 @@ class EngineServer {
   QByteArray LoadPage(const Job& job, WireReader& wire);
   QByteArray Paint(const Job& job, WireReader& wire);
   QByteArray ReadContent(const Job& job, WireReader& wire);
+  QByteArray ReadLinks(WireReader& wire);
+  QByteArray ShowLayers(WireReader& wire);
   QByteArray BuildUpdate(WireReader& wire);
   QByteArray WriteWhole(uint32_t call);
   int HandPart(uint32_t call, const QByteArray& part);

@@ -204,12 +204,11 @@ ContentGatherer::ContentGatherer(PageContent& content, const PageBox& page,
                                  const std::atomic<bool>* cancel, fz_cookie& cookie)
     : content_(content), clips_{page}, cancel_(cancel), cookie_(cookie) {}
 
-fz_device* ContentGatherer::NewDevice(fz_context* ctx) {  // a macro below wants this name
+// A macro below wants this name of the context.
+fz_device* ContentGatherer::NewDevice(fz_context* ctx, bool textsOnly) {
   auto* device = fz_new_derived_device(ctx, Device);
   device->gatherer = this;
   fz_device& calls = device->super;
-  calls.fill_path = FillPath;
-  calls.stroke_path = StrokePath;
   calls.clip_path = ClipPath;
   calls.clip_stroke_path = ClipStrokePath;
   calls.fill_text = FillText;
@@ -217,15 +216,18 @@ fz_device* ContentGatherer::NewDevice(fz_context* ctx) {  // a macro below wants
   calls.clip_text = ClipText;
   calls.clip_stroke_text = ClipStrokeText;
   calls.ignore_text = IgnoreText;
-  calls.fill_shade = FillShade;
-  calls.fill_image = FillImage;
-  calls.fill_image_mask = FillImageMask;
   calls.clip_image_mask = ClipImageMask;
   calls.pop_clip = tamo::PopClip;
   calls.begin_mask = BeginMask;
   calls.end_mask = EndMask;
   calls.begin_tile = BeginTile;
   calls.end_tile = EndTile;
+  if (textsOnly) return &calls;
+  calls.fill_path = FillPath;
+  calls.stroke_path = StrokePath;
+  calls.fill_shade = FillShade;
+  calls.fill_image = FillImage;
+  calls.fill_image_mask = FillImageMask;
   return &calls;
 }
 

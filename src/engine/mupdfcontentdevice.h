@@ -18,7 +18,7 @@ class ContentGatherer {
   ContentGatherer& operator=(const ContentGatherer&) = delete;
 
   // To be called inside a try of the engine. The gatherer outlives the device.
-  fz_device* NewDevice(fz_context* context);
+  fz_device* NewDevice(fz_context* context, bool textsOnly);
 
   enum class TextUse { Filled, Stroked, CutOut, Hidden };
   struct Ink {

@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <memory>
+#include <vector>
 
 #include "common/disk.h"
 #include "plans/pagecontent.h"
@@ -19,8 +20,13 @@ class MuPdfContentDocument {
 
   // As ReadPageContent. A reading that was cancelled leaves nothing behind.
   PageContent Read(int page, const std::atomic<bool>* cancel);
+  // The same without paths and pictures.
+  PageContent ReadTexts(int page, const std::atomic<bool>* cancel);
+  // Of each layer whether what stands on it is read from then on.
+  bool ShowLayers(const std::vector<bool>& shown);
 
  private:
+  PageContent Read(int page, bool textsOnly, const std::atomic<bool>* cancel);
   struct Inner;
   std::unique_ptr<Inner> inner_;
 };

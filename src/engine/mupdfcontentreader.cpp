@@ -7,11 +7,14 @@
 #include "engine/mupdfcontentdevice.h"
 #include "engine/mupdfcontentdocument.h"
 #include "engine/mupdfcontexts.h"
+#include "engine/mupdflayers.h"
 #include "engine/mupdfpagetree.h"
 #include "engine/mupdfrunpage.h"
 
 namespace tamo {
 namespace {
+
+constexpr unsigned kKeptOfStore = 25;  // per cent
 
 // A file that ends when the reading is cancelled, so that the engine never reads on for nothing.
 class CancellableReader : public FileReader {
@@ -72,14 +75,14 @@ bool OpenPage(Reading& reading, int index) {
   return good;
 }
 
-bool GatherPage(Reading& reading, ContentGatherer& gatherer) {
+bool GatherPage(Reading& reading, ContentGatherer& gatherer, bool textsOnly) {
   fz_context* context = reading.context;
   fz_device* device = nullptr;
   bool good = true;
   fz_var(device);
   fz_var(good);
   fz_try(context) {
-    device = gatherer.NewDevice(context);
+    device = gatherer.NewDevice(context, textsOnly);
     RunPage(context, reading.page, device, &reading.cookie);
     fz_close_device(context, device);
   }
@@ -88,12 +91,13 @@ bool GatherPage(Reading& reading, ContentGatherer& gatherer) {
   return good;
 }
 
-void Gather(Reading& reading, PageContent& content, const std::atomic<bool>* cancel) {
+void Gather(Reading& reading, PageContent& content, bool textsOnly,
+            const std::atomic<bool>* cancel) {
   const fz_rect& bounds = reading.bounds;
   content.size = {bounds.x1 - bounds.x0, bounds.y1 - bounds.y0};
   const PageBox visible = {bounds.x0, bounds.y0, bounds.x1, bounds.y1};
   ContentGatherer gatherer(content, visible, cancel, reading.cookie);
-  const bool good = GatherPage(reading, gatherer);
+  const bool good = GatherPage(reading, gatherer, textsOnly);
   const fz_cookie& cookie = reading.cookie;
   content.whole = good && cookie.abort == 0 && cookie.errors == 0 && cookie.incomplete == 0;
   if (content.whole || !content.problem.isEmpty()) return;
@@ -114,6 +118,7 @@ struct MuPdfContentDocument::Inner {
   std::shared_ptr<CancellableReader> file;
   std::shared_ptr<PlanSource> source;
   QByteArray password;
+  std::vector<bool> layers;  // as they were last shown
   Reading reading;
 
   void Forget() {
@@ -138,6 +143,23 @@ MuPdfContentDocument::~MuPdfContentDocument() {
 }
 
 PageContent MuPdfContentDocument::Read(int page, const std::atomic<bool>* cancel) {
+  return Read(page, false, cancel);
+}
+
+PageContent MuPdfContentDocument::ReadTexts(int page, const std::atomic<bool>* cancel) {
+  PageContent content = Read(page, true, cancel);
+  // Sheets are read one after the other for their texts: what they share stays, the rest goes.
+  if (inner_->reading.context != nullptr) fz_shrink_store(inner_->reading.context, kKeptOfStore);
+  return content;
+}
+
+bool MuPdfContentDocument::ShowLayers(const std::vector<bool>& shown) {
+  inner_->layers = shown;
+  const Reading& reading = inner_->reading;
+  return reading.document == nullptr || ShowLayersOf(reading.context, reading.document, shown);
+}
+
+PageContent MuPdfContentDocument::Read(int page, bool textsOnly, const std::atomic<bool>* cancel) {
   PageContent content;
   content.error = kFileOther;
   Reading& reading = inner_->reading;
@@ -146,11 +168,14 @@ PageContent MuPdfContentDocument::Read(int page, const std::atomic<bool>* cancel
     return content;
   }
   inner_->file->SetCancel(cancel);
+  const bool anew = reading.document == nullptr;
   const bool open =
       OpenDocument(reading, inner_->contexts, inner_->source, inner_->password.constData());
+  if (open && anew && !inner_->layers.empty())
+    ShowLayersOf(reading.context, reading.document, inner_->layers);
   if (open && OpenPage(reading, page - 1)) {
     content.error = kNoError;
-    Gather(reading, content, cancel);
+    Gather(reading, content, textsOnly, cancel);
   } else {
     content.problem = reading.locked ? QStringLiteral("it is locked with a password")
                                      : QStringLiteral("the page is not there or damaged");

@@ -50,6 +50,7 @@ class MuPdfPlan : public EnginePlan {
     if (pagesContext_.Get() == nullptr) return nullptr;
     if (pages_ == nullptr) {
       pages_ = std::make_unique<MuPdfPages>(pagesContext_.Get(), contexts_, source_, password_);
+      if (!layers_.empty()) pages_->ShowLayers(layers_);
     }
     return pages_->Read(page, cancel);
   }
@@ -64,11 +65,34 @@ class MuPdfPlan : public EnginePlan {
 
   PageContent ReadContent(int page, CancelFlag& cancel) override {
     const std::lock_guard<std::mutex> guard(contentLock_);
-    if (content_ == nullptr) {
-      content_ =
-          std::make_unique<MuPdfContentDocument>(source_->Reader(), source_->Size(), password_);
+    return Content().Read(page, &cancel.Value());
+  }
+  PageContent ReadTexts(int page, CancelFlag& cancel) override {
+    const std::lock_guard<std::mutex> guard(contentLock_);
+    return Content().ReadTexts(page, &cancel.Value());
+  }
+
+  PlanGuide ReadGuide() override {
+    const std::lock_guard<std::mutex> guard(structureLock_);
+    return structure_ != nullptr ? structure_->ReadGuide() : PlanGuide();
+  }
+  std::vector<PageLink> ReadLinks(int page) override {
+    const std::lock_guard<std::mutex> guard(structureLock_);
+    return structure_ != nullptr ? structure_->ReadLinks(page) : std::vector<PageLink>();
+  }
+  bool ShowLayers(const std::vector<bool>& shown) override {
+    bool good = false;
+    {
+      const std::lock_guard<std::mutex> guard(structureLock_);
+      if (structure_ == nullptr || !structure_->ShowLayers(shown)) return false;
     }
-    return content_->Read(page, &cancel.Value());
+    {
+      const std::lock_guard<std::mutex> guard(pagesLock_);
+      layers_ = shown;
+      good = pages_ == nullptr || pages_->ShowLayers(shown);
+    }
+    const std::lock_guard<std::mutex> guard(contentLock_);
+    return Content().ShowLayers(shown) && good;
   }
 
   PlanUpdate BuildUpdate(const MarkChanges& changes) override {
@@ -92,9 +116,18 @@ class MuPdfPlan : public EnginePlan {
   void Abandon() override { contexts_->Abandon(); }
 
  private:
+  MuPdfContentDocument& Content() {
+    if (content_ == nullptr) {
+      content_ =
+          std::make_unique<MuPdfContentDocument>(source_->Reader(), source_->Size(), password_);
+    }
+    return *content_;
+  }
+
   std::shared_ptr<MuPdfContexts> contexts_;
   std::shared_ptr<PlanSource> source_;
   QByteArray password_;
+  std::vector<bool> layers_;  // as they were last shown; guarded as the pages are
   std::mutex structureLock_;
   Context structureContext_{*contexts_};
   std::unique_ptr<MuPdfFile> structure_;

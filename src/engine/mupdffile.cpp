@@ -47,6 +47,9 @@ struct RawMark {
   const char* name = nullptr;
   const char* label = nullptr;
   const char* subject = nullptr;
+  const char* title = nullptr;
+  const char* kept = nullptr;
+  int generation = 0;
 };
 
 void ReadFloats(fz_context* context, pdf_obj* array, float* into, int count) {
@@ -65,7 +68,8 @@ const AnnotationKind* KindOf(fz_context* context, pdf_obj* annotation) {
       {PDF_NAME(Line), Mark::Kind::Line, PDF_NAME(L)},
       {PDF_NAME(Circle), Mark::Kind::Circle, PDF_NAME(Rect)},
       {PDF_NAME(PolyLine), Mark::Kind::Polyline, PDF_NAME(Vertices)},
-      {PDF_NAME(Polygon), Mark::Kind::Area, PDF_NAME(Vertices)}};
+      {PDF_NAME(Polygon), Mark::Kind::Area, PDF_NAME(Vertices)},
+      {PDF_NAME(FreeText), Mark::Kind::Legend, PDF_NAME(Rect)}};
   pdf_obj* subtype = pdf_dict_get(context, annotation, PDF_NAME(Subtype));
   for (const AnnotationKind& known : kinds) {
     if (pdf_name_eq(context, subtype, known.subtype)) return &known;
@@ -81,7 +85,8 @@ bool HasPlaces(fz_context* context, pdf_obj* annotation, const AnnotationKind& k
   for (int i = 0; i < std::min(count, 2 * static_cast<int>(kMostMarkPoints)); ++i) {
     if (!pdf_is_number(context, pdf_array_get(context, places, i))) return false;
   }
-  if (kind.kind == Mark::Kind::Circle || kind.kind == Mark::Kind::Line) return count == 4;
+  if (kind.kind == Mark::Kind::Line || pdf_name_eq(context, kind.places, PDF_NAME(Rect)))
+    return count == 4;
   return count % 2 == 0 && FitsKind(kind.kind, static_cast<size_t>(count / 2));
 }
 
@@ -92,6 +97,7 @@ bool ReadRaw(fz_context* context, pdf_obj* annotations, int index, RawMark* mark
   const AnnotationKind* kind = KindOf(context, annotation);
   if (kind == nullptr) return false;
   mark->object = pdf_to_num(context, annotation);
+  mark->generation = pdf_to_gen(context, annotation);
   mark->kind = kind->kind;
   pdf_obj* places = pdf_dict_get(context, annotation, kind->places);
   const int count = pdf_array_len(context, places);
@@ -103,6 +109,8 @@ bool ReadRaw(fz_context* context, pdf_obj* annotations, int index, RawMark* mark
   mark->name = pdf_to_text_string(context, pdf_dict_gets(context, annotation, "NM"));
   mark->label = pdf_dict_get_text_string(context, annotation, PDF_NAME(Contents));
   mark->subject = pdf_to_text_string(context, pdf_dict_gets(context, annotation, "Subj"));
+  mark->title = pdf_to_text_string(context, pdf_dict_gets(context, annotation, kTitleKey));
+  mark->kept = pdf_to_text_string(context, pdf_dict_gets(context, annotation, kKeptKey));
   return true;
 }
 
@@ -129,9 +137,18 @@ Mark AsMark(const RawMark& raw, const PageMap& map) {
   mark.name = QString::fromUtf8(raw.name);
   mark.colour = ColourCode(raw.colour);
   mark.width = raw.width * map.Unit();
+  mark.title = TitleOf(QString::fromUtf8(raw.title));
+  if (strlen(raw.kept) <= kLongestKept) mark.kept = QString::fromUtf8(raw.kept);
   const std::vector<float>& numbers = raw.numbers;
   if (raw.kind == Mark::Kind::Circle) {
     mark.points = {map.ToPage((numbers[0] + numbers[2]) / 2, (numbers[1] + numbers[3]) / 2)};
+    return mark;
+  }
+  if (raw.kind == Mark::Kind::Legend) {
+    const PagePoint one = map.ToPage(numbers[0], numbers[1]);
+    const PagePoint other = map.ToPage(numbers[2], numbers[3]);
+    mark.label = QString::fromUtf8(raw.label);
+    mark.points = {{std::min(one.x, other.x), std::min(one.y, other.y)}};
     return mark;
   }
   if (raw.kind == Mark::Kind::Area) mark.kind = OutlineOfSubject(QString::fromUtf8(raw.subject));
@@ -225,7 +242,7 @@ void MuPdfFile::Inner::ReadPages() {
   }
 }
 
-void MuPdfFile::Inner::ReadMarks(size_t index, std::vector<Mark>& marks) {
+void MuPdfFile::Inner::ReadMarks(size_t index, std::vector<Mark>& marks, QSet<QString>& names) {
   PageRecord& page = pages[index];
   if (page.home != index) return;
   pdf_obj* object = nullptr;
@@ -245,11 +262,10 @@ void MuPdfFile::Inner::ReadMarks(size_t index, std::vector<Mark>& marks) {
     if (!ReadAnnotation(context, annotations, i, &raw)) continue;
     Mark mark = AsMark(raw, page.map);
     mark.page = static_cast<int>(index) + 1;
-    const bool known = std::any_of(marks.begin(), marks.end(),
-                                   [&](const Mark& other) { return other.name == mark.name; });
     // A copy made by another program; it needs a name of its own to be deleted alone.
-    if (known) mark.name += QStringLiteral("#%1").arg(raw.object);
-    page.own.push_back({mark.name, raw.object});
+    if (names.contains(mark.name)) mark.name += QStringLiteral("#%1").arg(raw.object);
+    names.insert(mark.name);
+    page.own.push_back({mark.name, raw.object, raw.generation});
     marks.push_back(std::move(mark));
   }
   pdf_drop_obj(context, object);
@@ -270,9 +286,10 @@ PlanContents MuPdfFile::Open(const QString& password) {
     contents.error = 57;
     return contents;
   }
+  QSet<QString> names;
   for (size_t i = 0; i < inner_->pages.size(); ++i) {
     contents.sizes.push_back(inner_->pages[i].size);
-    inner_->ReadMarks(i, contents.marks);
+    inner_->ReadMarks(i, contents.marks, names);
   }
   // Who has marked it before was asked then.
   if (contents.marks.empty()) contents.reservation = inner_->Reservation();

@@ -18,6 +18,9 @@ class MuPdfFile {
   MuPdfFile& operator=(const MuPdfFile&) = delete;
 
   PlanContents Open(const QString& password);
+  PlanGuide ReadGuide();
+  std::vector<PageLink> ReadLinks(int page);
+  bool ShowLayers(const std::vector<bool>& shown);  // as the guide then tells them
 
   // As the calls of EnginePlan.
   PlanUpdate BuildUpdate(const MarkChanges& changes);

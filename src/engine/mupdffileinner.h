@@ -6,16 +6,24 @@
 #include <mupdf/fitz.h>
 #include <mupdf/pdf.h>
 
+#include <QSet>
+#include <map>
+
 #include "engine/mupdffile.h"
 #include "plans/markpdf.h"
 #include "plans/pdfappend.h"
+#include "plans/planguide.h"
 
 namespace tamo {
+
+struct RawTarget;
 
 // A mark of ours that stands in the file.
 struct FileMark {
   QString name;
   int object = 0;
+  int generation = 0;
+  int form = 0;  // the form that shows it, while it is being written
 };
 
 struct PageRecord {
@@ -41,10 +49,11 @@ struct MuPdfFile::Inner {
   PdfEnd end;
   PdfEnd endBefore;  // of the last addition, and the marks as they stood, to take it back
   std::vector<std::vector<FileMark>> ownBefore;
+  mutable std::map<int, int> pageOfObject;  // pages from 1 by their objects, once it is asked for
 
   bool OpenDocument(const QByteArray& password, PlanContents& contents);
   void ReadPages();
-  void ReadMarks(size_t index, std::vector<Mark>& marks);
+  void ReadMarks(size_t index, std::vector<Mark>& marks, QSet<QString>& names);
   bool ReadEnd();
   // What speaks against marking the plan, and what can't be saved of it.
   QString Reservation() const;
@@ -60,8 +69,17 @@ struct MuPdfFile::Inner {
   bool Encrypted(PdfObject& object);
   bool EncryptedStream(PdfObject& object, const QByteArray& entries, const QByteArray& content);
   bool NeedsRewrite() const;
-  void Remove(const QStringList& names, std::vector<bool>& touched);
-  bool Add(const Mark& mark, double markerSize, int& next, std::vector<PdfObject>& objects);
+  PageRecord* PageOf(const Mark& mark);
+  FileMark* Standing(const Mark& mark);
+  void Remove(const QSet<QString>& names, std::vector<bool>& touched);
+  bool Put(const Mark& mark, double markerSize, const FileMark& place,
+           std::vector<PdfObject>& objects);
+  // The way through the plan: mupdfguide.cpp, mupdflinks.cpp.
+  void ReadLabels(PlanGuide& guide);
+  void ReadBookmarks(PlanGuide& guide);
+  void ReadLayers(PlanGuide& guide);
+  int PageOf(const RawTarget& target) const;
+  PlanTarget TargetOf(const RawTarget& raw) const;
   // The new and changed objects of a save.
   bool Change(const MarkChanges& changes, std::vector<PdfObject>& objects);
 };

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <utility>
 
+#include "engine/mupdflayers.h"
 #include "engine/mupdfpagetree.h"
 #include "engine/mupdfrecord.h"
 #include "engine/mupdfrunpage.h"
@@ -199,6 +200,10 @@ std::shared_ptr<MuPdfPage> MuPdfPages::Read(int page, CancelFlag& cancel) {
   auto read = std::make_shared<MuPdfPage>(contexts_, made.list, size, gaps);
   const bool sheet = size.width >= 1 && size.height >= 1 && size.width < 1e7 && size.height < 1e7;
   return sheet ? read : nullptr;
+}
+
+bool MuPdfPages::ShowLayers(const std::vector<bool>& shown) {
+  return ShowLayersOf(context_, static_cast<pdf_document*>(document_), shown);
 }
 
 bool PaintPage(fz_context* context, const MuPdfPage& page, const PaintPart& part,

@@ -40,6 +40,8 @@ class MuPdfPages {
 
   // Null when the page can't be read or was cancelled; `page` counts from 1.
   std::shared_ptr<MuPdfPage> Read(int page, CancelFlag& cancel);
+  // Of each layer whether it is shown on the pages that are read from then on.
+  bool ShowLayers(const std::vector<bool>& shown);
 
  private:
   fz_context* context_;

@@ -146,7 +146,9 @@ bool MuPdfFile::Inner::PrintPage(PageRecord& page) {
 
 QByteArray MuPdfFile::Inner::PageBody(const PageRecord& page) const {
   QByteArray list = page.others;
-  for (const FileMark& mark : page.own) list += QByteArray::number(mark.object) + " 0 R ";
+  for (const FileMark& mark : page.own) {
+    list += QByteArray::number(mark.object) + ' ' + QByteArray::number(mark.generation) + " R ";
+  }
   return "<<" + page.entries + (list.isEmpty() ? QByteArray() : "/Annots[" + list.trimmed() + ']') +
          ">>";
 }
@@ -196,53 +198,6 @@ bool MuPdfFile::Inner::EncryptedStream(PdfObject& object, const QByteArray& entr
   }
   object.body = "<<" + entries + "/Length " + QByteArray::number(data.size()) + ">>\nstream\n" +
                 data + "\nendstream";
-  return good;
-}
-
-// Takes marks off their pages; those pages are `touched`.
-void MuPdfFile::Inner::Remove(const QStringList& names, std::vector<bool>& touched) {
-  if (names.isEmpty()) return;
-  for (size_t i = 0; i < pages.size(); ++i) {
-    const auto gone = std::erase_if(
-        pages[i].own, [&](const FileMark& mark) { return names.contains(mark.name); });
-    if (gone > 0) touched[i] = true;
-  }
-}
-
-// The form and the annotation of a new mark.
-bool MuPdfFile::Inner::Add(const Mark& mark, double markerSize, int& next,
-                           std::vector<PdfObject>& objects) {
-  const auto index = static_cast<size_t>(mark.page - 1);
-  if (index >= pages.size() || pages[index].object <= 0) return false;
-  PageRecord& page = pages[pages[index].home];
-  const MarkObjects parts = MarkAsPdf(mark, markerSize, page.map);
-  PdfObject form{next++, 0, {}};
-  bool good = EncryptedStream(form, parts.formEntries, parts.formContent);
-  const QByteArray pageRef =
-      QByteArray::number(page.object) + ' ' + QByteArray::number(page.generation) + " R";
-  PdfObject annotation{next++, 0, MarkAnnotation(parts, pageRef, form.number)};
-  good = Encrypted(annotation) && good;
-  page.own.push_back({mark.name, annotation.number});
-  objects.push_back(std::move(form));
-  objects.push_back(std::move(annotation));
-  return good;
-}
-
-bool MuPdfFile::Inner::Change(const MarkChanges& changes, std::vector<PdfObject>& objects) {
-  std::vector<bool> touched(pages.size(), false);
-  Remove(changes.removed, touched);
-  bool good = true;
-  int next = end.nextObject;
-  for (const Mark& mark : changes.added) {
-    const bool added = Add(mark, changes.markerSize, next, objects);
-    if (added) touched[pages[static_cast<size_t>(mark.page - 1)].home] = true;
-    good = added && good;
-  }
-  for (size_t i = 0; i < pages.size(); ++i) {
-    if (!touched[i]) continue;
-    good = ReadPage(pages[i]) && good;
-    objects.push_back({pages[i].object, pages[i].generation, PageBody(pages[i])});
-  }
   return good;
 }
 

@@ -5,33 +5,17 @@
 #include <utility>
 
 #include "plans/fraction.h"
+#include "plans/planway.h"
 #include "plans/scales.h"
 
 namespace tamo {
 namespace {
 
-constexpr double kCoarseStep = 9;   // points, an eighth of an inch of paper
-constexpr double kFineStep = 0.5;   // a 144th
 constexpr double kScrollStep = 36;  // half an inch
 constexpr double kClickReach = 2;   // points the hand may shake within a click
 
 bool Sane(PagePoint at) {
   return std::isfinite(at.x) && std::isfinite(at.y) && std::abs(at.x) < 1e6 && std::abs(at.y) < 1e6;
-}
-
-PagePoint Direction(PlanKey key) {
-  switch (key) {
-    case PlanKey::Left:
-      return {-1, 0};
-    case PlanKey::Right:
-      return {1, 0};
-    case PlanKey::Up:
-      return {0, -1};
-    case PlanKey::Down:
-      return {0, 1};
-    default:
-      return {0, 0};
-  }
 }
 
 }  // namespace
@@ -146,6 +130,7 @@ void DrawingBoard::EndLine() {
 void DrawingBoard::PickTool(PlanTool tool) {
   DropWork();
   if (tool != PlanTool::None && !MayMark()) tool = PlanTool::None;
+  if (tool != PlanTool::None) ToolComes();
   Raise(onBeforeModeChange);
   tool_ = tool;
   Raise(onModeChanged, tool);
@@ -161,7 +146,8 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
     boxFrom_ = at;
     return;
   }
-  if (tool_ != PlanTool::None && !MayMark()) return PickTool(PlanTool::None);
+  if (tool_ == PlanTool::None) return PressFree(at);
+  if (!MayMark()) return PickTool(PlanTool::None);
   if (tool_ == PlanTool::Counting) AddMark(NewMark(Mark::Kind::Circle, {at}));
   if (DrawsOutlines(tool_)) return PressOutline(tool_, at, shift);
   if (tool_ != PlanTool::Measuring) return;
@@ -182,6 +168,8 @@ void DrawingBoard::Move(PagePoint at, bool shift) {
     MoveLine(LineEnd(at, shift));
   } else if (tool_ != PlanTool::None) {
     Repaint();
+  } else {
+    MoveFree(at, shift);
   }
 }
 
@@ -189,6 +177,7 @@ void DrawingBoard::Release(PagePoint at, bool shift) {
   if (!Sane(at)) return;
   if (boxing_) return DrawBox(boxFrom_, at);
   if (OutlineActive()) return ReleaseOutline(at);
+  if (tool_ == PlanTool::None) return ReleaseFree(at, shift);
   if (line_ == LineState::None) return;
   work_.to = LineEnd(at, shift);
   if (line_ == LineState::Dragging && Distance(work_.from, work_.to) <= kClickReach) {
@@ -284,7 +273,7 @@ void DrawingBoard::DropBox() {
 // --- The keys
 
 void DrawingBoard::MoveCrossHair(const PlanStroke& stroke) {
-  const PagePoint way = Direction(stroke.key);
+  const PagePoint way = DirectionOf(stroke.key);
   const double step = stroke.ctrl ? kFineStep : kCoarseStep;
   const PageSize size = SizeOfPage(Page());
   Move({std::clamp(crossHair_.x + way.x * step, 0.0, size.width),
@@ -293,7 +282,7 @@ void DrawingBoard::MoveCrossHair(const PlanStroke& stroke) {
 }
 
 void DrawingBoard::PressArrow(const PlanStroke& stroke) {
-  const PagePoint way = Direction(stroke.key);
+  const PagePoint way = DirectionOf(stroke.key);
   if (tool_ == PlanTool::None && !boxNext_) {
     ScrollBy(way.x * kScrollStep, way.y * kScrollStep);
   } else {
@@ -311,7 +300,7 @@ void DrawingBoard::PressSpace(bool shift) {
 }
 
 void DrawingBoard::Key(const PlanStroke& stroke) {
-  if (TakeOutlineKey(stroke.key) || TakeSnapKey(stroke.key)) return;
+  if (TakeOutlineKey(stroke.key) || TakeMarkKey(stroke) || TakeSnapKey(stroke.key)) return;
   switch (stroke.key) {
     case PlanKey::Left:
     case PlanKey::Right:

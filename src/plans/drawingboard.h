@@ -85,6 +85,12 @@ class DrawingBoard : public OutlineBoard {
   void LeavePage() override { DropWork(); }
   // True when the key was one of snapping.
   virtual bool TakeSnapKey(PlanKey /*key*/) { return false; }
+  // The pointer and the keys while no tool is in hand. True when the key was taken.
+  virtual bool TakeMarkKey(const PlanStroke& /*stroke*/) { return false; }
+  virtual void PressFree(PagePoint /*at*/) {}
+  virtual void MoveFree(PagePoint /*at*/, bool /*shift*/) {}
+  virtual void ReleaseFree(PagePoint /*at*/, bool /*shift*/) {}
+  virtual void ToolComes() {}
   // A box was drawn around a symbol; it is gone from the board.
   virtual void SymbolBoxed(const DrawnBox& /*box*/) {}
   // Whether this plan may be marked; asks the user where it has to be asked.

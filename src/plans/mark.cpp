@@ -10,7 +10,7 @@ bool IsOutline(Mark::Kind kind) {
 }
 
 bool FitsKind(Mark::Kind kind, size_t points) {
-  if (kind == Mark::Kind::Circle) return points == 1;
+  if (kind == Mark::Kind::Circle || kind == Mark::Kind::Legend) return points == 1;
   if (kind == Mark::Kind::Line) return points == 2;
   return points >= (IsOutline(kind) ? 3U : 2U) && points <= kMostMarkPoints;
 }
@@ -19,13 +19,19 @@ bool IsSurface(Mark::Kind kind) {
   return kind == Mark::Kind::Area || kind == Mark::Kind::CutOut;
 }
 
+QString TitleOf(const QString& text) {
+  return text.simplified().left(kLongestTitle).trimmed();
+}
+
 QString KindInWords(Mark::Kind kind) {
-  static const char* const words[] = {"Line", "Count", "Polyline", "Area", "Perimeter", "Cut-out"};
+  static const char* const words[] = {"Line",      "Count",   "Polyline", "Area",
+                                      "Perimeter", "Cut-out", "Legend"};
   return QLatin1String(words[static_cast<int>(kind)]);
 }
 
 double ValueOfMark(const Mark& mark) {
   if (mark.kind == Mark::Kind::Circle) return 1;
+  if (mark.kind == Mark::Kind::Legend) return 0;
   const QString number = mark.label.section(QLatin1Char(' '), 0, 0);
   return QString(number).remove(QLatin1Char(',')).toDouble();
 }

@@ -10,6 +10,7 @@ namespace tamo {
 struct PagePoint {
   double x = 0;
   double y = 0;
+  bool operator==(const PagePoint&) const = default;
 };
 
 // Width and height of a page in points, as it is looked at.
@@ -20,23 +21,33 @@ struct PageSize {
 
 // One mark on a plan: a measured line (two points), a counting circle (its centre), a way along
 // several points, or a closed outline that says its area, its perimeter, or what is cut out of an
-// area (a negative area).
+// area (a negative area). A legend (its top left corner) measures nothing: it says what the others
+// come to.
 struct Mark {
-  enum class Kind { Line, Circle, Polyline, Area, Perimeter, CutOut };
+  enum class Kind { Line, Circle, Polyline, Area, Perimeter, CutOut, Legend };
   Kind kind = Kind::Line;
   int page = 1;  // from 1
   std::vector<PagePoint> points;
   QString colour = QStringLiteral("255000000");  // RRRGGGBBB
   double width = 0.75;                           // points
   QString label;                                 // as it stands on the plan: 10.0 feet @ 1/4"=1'
-  QString name;  // the mark's own name inside the file; empty until it has one
+  QString name;   // the mark's own name inside the file; empty until it has one
+  QString title;  // what the estimator calls it; mostly nothing
+  QString kept;   // what this program keeps with it, as text: see MarkTie
+  bool operator==(const Mark&) const = default;
 };
+
+// Longer ones are cut, or are none of this program's.
+inline constexpr int kLongestTitle = 60;
+inline constexpr int kLongestKept = 4000;
 
 // More points than anybody sets; a mark of a file that has more is no mark of this program.
 inline constexpr size_t kMostMarkPoints = 10000;
 bool IsOutline(Mark::Kind kind);                // closed: area, perimeter, cut-out
 bool FitsKind(Mark::Kind kind, size_t points);  // a mark of this kind can have so many points
 bool IsSurface(Mark::Kind kind);                // says square feet: area and cut-out
+// A title as it may stand on a plan: one line, not over kLongestTitle letters.
+QString TitleOf(const QString& text);
 // What a mark is called, and what it says as a number: 350 for "350.0 sq ft @ 1/4"=1'".
 QString KindInWords(Mark::Kind kind);
 double ValueOfMark(const Mark& mark);

@@ -36,6 +36,7 @@ std::vector<Mark> MarkedSheets::Marks() const {
 
 void MarkedSheets::FillMarks(std::vector<Mark> marks) {
   marks_ = std::move(marks);
+  ++revision_;
   done_.clear();
   undone_.clear();
   lastNumber_ = 0;
@@ -54,15 +55,17 @@ Mark MarkedSheets::NewMark(Mark::Kind kind, std::vector<PagePoint> points) const
 
 void MarkedSheets::AddMark(Mark mark) {
   mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-  done_.push_back({true, marks_.size(), std::move(mark)});
-  undone_.clear();
-  Do(Step(done_.back()), true);
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, false, false});
 }
 
 void MarkedSheets::DeleteMark(int index) {
   if (index < 0 || static_cast<size_t>(index) >= marks_.size()) return;
   const size_t at = marks_.size() - 1 - static_cast<size_t>(index);
-  done_.push_back({false, at, marks_[at]});
+  TakeStep({Step::What::Deleted, at, marks_[at], {}, false, false});
+}
+
+void MarkedSheets::TakeStep(Step step) {
+  done_.push_back(std::move(step));
   undone_.clear();
   Do(Step(done_.back()), true);
 }
@@ -70,34 +73,39 @@ void MarkedSheets::DeleteMark(int index) {
 bool MarkedSheets::Undo() {
   if (done_.empty()) return false;
   bool circles = false;
+  bool edits = false;
   bool more = true;
   while (more && !done_.empty()) {
     undone_.push_back(done_.back());
     done_.pop_back();
     Put(undone_.back(), false);
-    circles = circles || undone_.back().mark.kind == Mark::Kind::Circle;
+    circles = circles || Counts(undone_.back());
+    edits = edits || undone_.back().edits;
     more = undone_.back().joined;
   }
-  Tell(circles);
+  Tell(circles, edits);
   return true;
 }
 
 bool MarkedSheets::Redo() {
   if (undone_.empty()) return false;
   bool circles = false;
+  bool edits = false;
   do {
     done_.push_back(undone_.back());
     undone_.pop_back();
     Put(done_.back(), true);
-    circles = circles || done_.back().mark.kind == Mark::Kind::Circle;
+    circles = circles || Counts(done_.back());
+    edits = edits || done_.back().edits;
   } while (!undone_.empty() && undone_.back().joined);
-  Tell(circles);
+  Tell(circles, edits);
   return true;
 }
 
 bool MarkedSheets::WasDrawnHere(const QString& name) const {
-  return std::any_of(done_.begin(), done_.end(),
-                     [&](const Step& step) { return step.added && step.mark.name == name; });
+  return std::any_of(done_.begin(), done_.end(), [&](const Step& step) {
+    return step.what == Step::What::Added && step.mark.name == name;
+  });
 }
 
 bool MarkedSheets::TakeOff(const QString& name, Mark& mark) {
@@ -113,10 +121,54 @@ bool MarkedSheets::PutBack(const Mark& mark) {
   if (std::any_of(marks_.begin(), marks_.end(),
                   [&](const Mark& other) { return other.name == mark.name; }))
     return false;
-  done_.push_back({true, marks_.size(), mark});
+  TakeStep({Step::What::Added, marks_.size(), mark, {}, false, false});
+  return true;
+}
+
+const Mark* MarkedSheets::FindMark(const QString& name) const {
+  const auto found = std::find_if(marks_.begin(), marks_.end(),
+                                  [&](const Mark& mark) { return mark.name == name; });
+  return found == marks_.end() ? nullptr : &*found;
+}
+
+void MarkedSheets::ChangeMark(const Mark& mark, bool joinLast) {
+  const Mark* found = FindMark(mark.name);
+  if (found == nullptr || *found == mark) return;
+  const auto at = static_cast<size_t>(found - marks_.data());
+  const bool joins = joinLast && !done_.empty() && done_.back().what == Step::What::Changed &&
+                     done_.back().mark.name == mark.name;
+  if (!joins) return TakeStep({Step::What::Changed, at, mark, *found, true, false});
+  done_.back().mark = mark;
   undone_.clear();
   Do(Step(done_.back()), true);
-  return true;
+}
+
+QString MarkedSheets::PlaceMark(Mark mark) {
+  mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
+  const QString name = mark.name;
+  TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, true, false});
+  return name;
+}
+
+void MarkedSheets::RemoveMark(const QString& name) {
+  const Mark* found = FindMark(name);
+  if (found == nullptr) return;
+  const auto at = static_cast<size_t>(found - marks_.data());
+  TakeStep({Step::What::Deleted, at, *found, {}, true, false});
+}
+
+void MarkedSheets::KeepWith(const QString& name, const QString& kept) {
+  ++revision_;
+  const auto keep = [&](Mark& mark) {
+    if (mark.name == name) mark.kept = kept;
+  };
+  for (Mark& mark : marks_) keep(mark);
+  for (std::vector<Step>* steps : {&done_, &undone_}) {
+    for (Step& step : *steps) {
+      keep(step.mark);
+      keep(step.before);
+    }
+  }
 }
 
 void MarkedSheets::AddMarks(std::vector<Mark> marks) {
@@ -125,27 +177,38 @@ void MarkedSheets::AddMarks(std::vector<Mark> marks) {
     Mark& mark = marks[i];
     mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
     circles = circles || mark.kind == Mark::Kind::Circle;
-    done_.push_back({true, marks_.size(), std::move(mark), i > 0});
+    done_.push_back({Step::What::Added, marks_.size(), std::move(mark), {}, false, i > 0});
     Put(done_.back(), true);
   }
   if (marks.empty()) return;
   undone_.clear();
-  Tell(circles);
+  Tell(circles, false);
+}
+
+// A circle that was changed is still one.
+bool MarkedSheets::Counts(const Step& step) {
+  return step.what != Step::What::Changed && step.mark.kind == Mark::Kind::Circle;
 }
 
 void MarkedSheets::Do(const Step& step, bool forward) {
   Put(step, forward);
-  Tell(step.mark.kind == Mark::Kind::Circle);
+  Tell(Counts(step), step.edits);
 }
 
-void MarkedSheets::Tell(bool circles) {
+void MarkedSheets::Tell(bool circles, bool edits) {
   Repaint();
   if (circles) Raise(onCircleCountChanged, CircleCount());
+  if (edits) Raise(onMarkEdited);
 }
 
 void MarkedSheets::Put(const Step& step, bool forward) {
+  ++revision_;
+  if (step.what == Step::What::Changed) {
+    if (step.at < marks_.size()) marks_[step.at] = forward ? step.mark : step.before;
+    return;
+  }
   const auto place = static_cast<std::ptrdiff_t>(std::min(step.at, marks_.size()));
-  if (step.added == forward) {
+  if ((step.what == Step::What::Added) == forward) {
     marks_.insert(marks_.begin() + place, step.mark);
   } else {
     marks_.erase(marks_.begin() + place);

@@ -31,10 +31,25 @@ class MarkedSheets : public SheetView {
   bool TakeOff(const QString& name, Mark& mark);
   bool PutBack(const Mark& mark);
 
+  unsigned MarksRevision() const { return revision_; }  // another one when any mark is another
+  const Mark* FindMark(const QString& name) const;      // until marks come, go or change; or null
+  // The mark of the same name becomes `mark`. With `joinLast` it is taken back together with the
+  // change before, if that was one of the same mark.
+  void ChangeMark(const Mark& mark, bool joinLast = false);
+  // A new mark, not drawn by a tool; raises onMarkEdited. Its name.
+  QString PlaceMark(Mark mark);
+  // Takes the mark away; raises onMarkEdited, as ChangeMark does.
+  void RemoveMark(const QString& name);
+  // What this program keeps with a mark becomes `kept`. That is no step: taking back leaves it.
+  void KeepWith(const QString& name, const QString& kept);
+
  protected:
   // Takes the place of all marks; oldest first. Nothing can be taken back then.
   void FillMarks(std::vector<Mark> marks);
-  void ClearMarks() { marks_.clear(); }
+  void ClearMarks() {
+    marks_.clear();
+    ++revision_;
+  }
   // A mark of the pen on the current page, without label and name; AddMark gives it its name.
   Mark NewMark(Mark::Kind kind, std::vector<PagePoint> points) const;
   void AddMark(Mark mark);
@@ -43,20 +58,26 @@ class MarkedSheets : public SheetView {
 
  private:
   struct Step {
-    bool added = true;  // or deleted
+    enum class What { Added, Deleted, Changed };
+    What what = What::Added;
     size_t at = 0;
     Mark mark;
+    Mark before;          // of one that was changed
+    bool edits = false;   // by hand, and not by a tool
     bool joined = false;  // goes with the one before
   };
+  void TakeStep(Step step);
   void Do(const Step& step, bool forward);
   void Put(const Step& step, bool forward);
-  void Tell(bool circles);
+  void Tell(bool circles, bool edits);
+  static bool Counts(const Step& step);
   int CircleCount() const;
 
   std::vector<Mark> marks_;
   std::vector<Step> done_;
   std::vector<Step> undone_;
   int lastNumber_ = 0;
+  unsigned revision_ = 1;
   QString colour_ = QStringLiteral("255000000");
   double width_ = 0.75;  // points, as the next
   double markerSize_ = 13.5;

@@ -1,9 +1,9 @@
 #include "plans/markpdf.h"
 
-#include <QDateTime>
 #include <algorithm>
 #include <cmath>
 
+#include "plans/markpdfparts.h"
 #include "plans/markshape.h"
 #include "plans/outline.h"
 #include "plans/pdfappend.h"
@@ -11,33 +11,8 @@
 namespace tamo {
 namespace {
 
-// The rectangle in the page's own coordinates that holds all points given to it.
-struct Box {
-  double left = 1e9, bottom = 1e9, right = -1e9, top = -1e9;
-
-  void Take(PagePoint at, double around) {
-    left = std::min(left, at.x - around);
-    right = std::max(right, at.x + around);
-    bottom = std::min(bottom, at.y - around);
-    top = std::max(top, at.y + around);
-  }
-  QByteArray Text() const {
-    return '[' + PdfNumber(left) + ' ' + PdfNumber(bottom) + ' ' + PdfNumber(right) + ' ' +
-           PdfNumber(top) + ']';
-  }
-};
-
-QByteArray Pair(PagePoint at) {
-  return PdfNumber(at.x) + ' ' + PdfNumber(at.y);
-}
-
-QByteArray ColourParts(unsigned colour) {
-  return PdfNumber((colour >> 16 & 255) / 255.0) + ' ' + PdfNumber((colour >> 8 & 255) / 255.0) +
-         ' ' + PdfNumber((colour & 255) / 255.0);
-}
-
 // The four corners of the label on the page, from its base line's start on.
-void TakeText(const MarkShape& shape, const PageMap& map, Box& box) {
+void TakeText(const MarkShape& shape, const PageMap& map, PdfBox& box) {
   const double c = std::cos(shape.textAngle);
   const double s = std::sin(shape.textAngle);
   for (const double along : {-shape.textWidth / 2, shape.textWidth / 2}) {
@@ -122,16 +97,7 @@ QByteArray Measure(const Mark& mark, double unit) {
          format(QStringLiteral("sq ") + parts.unit, 1) + ">>";
 }
 
-QByteArray Common(const Mark& mark, double width, const Box& box) {
-  const QByteArray date =
-      "(D:" +
-      QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMddHHmmss")).toLatin1() + "Z)";
-  return "/Type/Annot/Rect" + box.Text() + "/NM" + PdfText(mark.name) + "/F 4/C[" +
-         ColourParts(ColourNumber(mark.colour)) + "]/BS<</Type/Border/W " + PdfNumber(width) +
-         "/S/S>>/T(Tamo)/M" + date + "/CreationDate" + date;
-}
-
-void TakeStrokes(const MarkShape& shape, const PageMap& map, double width, Box& box,
+void TakeStrokes(const MarkShape& shape, const PageMap& map, double width, PdfBox& box,
                  QByteArray& content) {
   for (const MarkShape::Stroke& stroke : shape.strokes) {
     const PagePoint from = map.ToFile(stroke.from);
@@ -143,7 +109,7 @@ void TakeStrokes(const MarkShape& shape, const PageMap& map, double width, Box& 
 }
 
 // The way along the points of a polyline or an outline: its light fill, then its line.
-QByteArray WayPart(const MarkShape& shape, const PageMap& map, Box& box, double width) {
+QByteArray WayPart(const MarkShape& shape, const PageMap& map, PdfBox& box, double width) {
   if (shape.way.empty()) return {};
   QByteArray way;
   for (const PagePoint at : shape.way) {
@@ -204,10 +170,11 @@ double PageMap::Unit() const {
 }
 
 MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
+  if (mark.kind == Mark::Kind::Legend) return LegendAsPdf(mark, map);
   const MarkShape shape = ShapeOf(mark, markerSize);
   const double width = shape.width / map.Unit();
   MarkObjects objects;
-  Box box;
+  PdfBox box;
   const QByteArray colour = ColourParts(ColourNumber(mark.colour));
   objects.formContent = colour + " RG " + colour + " rg " + PdfNumber(width) + " w\n";
   if (shape.circle) {
@@ -225,11 +192,9 @@ MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map) {
     objects.annotation =
         Places(mark, map) + "/Contents" + PdfText(mark.label) + Measure(mark, map.Unit());
   }
-  objects.annotation += Common(mark, width, box);
+  objects.annotation += CommonEntries(mark, width, box) + OwnEntries(mark);
   objects.formEntries = "/Type/XObject/Subtype/Form/BBox" + box.Text() + "/Resources<<" +
-                        FillState(shape) +
-                        "/Font<</F1<</Type/Font/Subtype/Type1/BaseFont/Helvetica"
-                        "/Encoding/WinAnsiEncoding>>>>>>";
+                        FillState(shape) + kLetters + ">>";
   return objects;
 }
 

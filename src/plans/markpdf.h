@@ -26,6 +26,10 @@ struct MarkObjects {
 
 MarkObjects MarkAsPdf(const Mark& mark, double markerSize, const PageMap& map);
 
+// Keys of this program's own in an annotation: the mark's title, and what is kept with it.
+inline constexpr char kTitleKey[] = "Tamo_Name";
+inline constexpr char kKeptKey[] = "Tamo_Entry";
+
 // What the annotation of a closed outline says that it is, and what outline a text stands for.
 const char* SubjectOf(Mark::Kind kind);
 Mark::Kind OutlineOfSubject(const QString& subject);

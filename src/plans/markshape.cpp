@@ -77,8 +77,8 @@ MarkShape ShapeOf(const Mark& mark, double markerSize) {
     shape.radius = markerSize / 2;
     return shape;
   }
-  shape.text = mark.label;
-  shape.textWidth = LetterWidth(mark.label, shape.textSize);
+  shape.text = mark.title.isEmpty() ? mark.label : mark.title + QStringLiteral(": ") + mark.label;
+  shape.textWidth = LetterWidth(shape.text, shape.textSize);
   if (mark.kind != Mark::Kind::Line) {
     ShapeWay(shape, mark);
     return shape;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/form.h"
+#include "plans/mark.h"
 #include "plans/picturebox.h"
 
 namespace tamo {
@@ -53,6 +54,27 @@ struct OstControls : Form {
   FileBrowser Dir1{*this, "Dir1", FileBrowser::Kind::Folder};
   FileBrowser File1{*this, "File1", FileBrowser::Kind::File, "*.pdf"};
   Frame ColorFrame{*this, "ColorFrame"};
+  // To find one's way: a sheet by its number, the plan's bookmarks and the sheet's links, layers.
+  // One of the three is shown at a time, beside the plan.
+  Frame GoToFrame{*this, "GoToFrame"};
+  TextField SheetWanted{*this, "SheetWanted", 60};
+  Label SheetWords{*this, "SheetWords"};
+  OrderedList SheetList{*this, "SheetList"};
+  Frame BookmarkFrame{*this, "BookmarkFrame"};
+  Label BookmarkWords{*this, "BookmarkWords"};
+  OrderedList BookmarkList{*this, "BookmarkList"};
+  OrderedList LinkList{*this, "LinkList"};
+  Frame LayerFrame{*this, "LayerFrame"};
+  Label LayerWords{*this, "LayerWords"};
+  CheckList LayerList{*this, "LayerList"};
+  Button ShowAllLayers{*this, "ShowAllLayers", "Show &All Layers"};
+  // The marks of the plan, below it.
+  Frame MarksFrame{*this, "MarksFrame"};
+  OrderedList MarksList{*this, "MarksList"};
+  TextField MarkTitle{*this, "MarkTitle", kLongestTitle};  // of the chosen mark
+  Button MarkToLine{*this, "MarkToLine", "To Its &Takeoff Line (F7)"};
+  Label MarksSummary{*this, "MarksSummary"};
+  OrderedList MarksTotals{*this, "MarksTotals"};  // by system, of the sheet and of the plan
 };
 
 }  // namespace tamo

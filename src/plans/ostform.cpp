@@ -1,8 +1,11 @@
 #include "plans/ostform.h"
 
+#include <span>
+
 #include "common/chain.h"
 #include "common/columns.h"
 #include "plans/ostmenu.h"
+#include "workspace/swatches.h"
 
 namespace tamo {
 namespace {
@@ -29,7 +32,9 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       opener_(kit, *this, viewer, {record_, scale_, pages_, browser_, copy_}),
       measure_(kit, *this, viewer, scale_, takeoff),
       surfaces_(*this, scale_, measure_, takeoff),
-      sheetScales_(kit, *this, viewer, scale_, record_) {
+      sheetScales_(kit, *this, viewer, scale_, record_),
+      ways_(kit, *this, viewer, record_),
+      marks_(kit, *this, viewer, [this] { SaveIt(); }) {
   AddText(QStringLiteral("ViewerName"), &ViewerName);
   AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
   SetCaption(QStringLiteral("Digital Plan Takeoff"));
@@ -37,6 +42,7 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
   BindMenus();
   BindViewer();
   BindOutlines();
+  BindMarks();
   BindPlanKeys();
 }
 
@@ -74,7 +80,10 @@ void OSTForm::BindMenus() {
   };
   on("ZoomIn", [this] { pages_.ZoomIn(); });
   on("ZoomOut", [this] { pages_.ZoomOut(); });
-  on("GetFiles", [this] { Toggle(Frame1); });
+  on("GetFiles", [this] {
+    for (Frame* other : {&GoToFrame, &BookmarkFrame, &LayerFrame}) other->Hide();
+    Toggle(Frame1);
+  });
   on("LinesColor", [this] { Toggle(ColorFrame); });
   on("Save", [this] { Save(); });
   on("Printit", [this] { viewer_.Print(); });
@@ -110,6 +119,35 @@ void OSTForm::BindOutlines() {
   viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
 }
 
+// What the menus do to the chosen mark by keys, and what follows it.
+void OSTForm::BindMarks() {
+  const auto on = [this](const QString& entry, std::function<void()> handler) {
+    FindMenu(entry)->onClick = std::move(handler);
+  };
+  const auto press = [this](PlanKey key) {
+    return [this, key] {
+      kit_.desk.Focus(picPdfDraw);
+      viewer_.Key({key, false, false});
+    };
+  };
+  on(QStringLiteral("NextMark"), press(PlanKey::No));
+  on(QStringLiteral("MarkBefore"), press(PlanKey::MarkBefore));
+  on(QStringLiteral("NameMark"), [this] { marks_.AskTitle(); });
+  on(QStringLiteral("DeleteMark"), press(PlanKey::Delete));
+  on(QStringLiteral("LegendOfSheet"), [this] { marks_.Legends().Place(false); });
+  on(QStringLiteral("LegendOfPlan"), [this] { marks_.Legends().Place(true); });
+  on(QStringLiteral("RefreshLegends"), [this] { marks_.Legends().Refresh(); });
+  on(QStringLiteral("RemoveLegends"), [this] { marks_.Legends().Remove(); });
+  on(QStringLiteral("MarkLine"), [this] { marks_.GoToLine(); });
+  on(QStringLiteral("MarksOfPlan"), [this] { marks_.Toggle(); });
+  for (const SwatchRow& row : std::span(kSwatches).first(kPlanSwatches)) {
+    on(ColourEntry(row),
+       [this, code = QString(QLatin1String(row.stored))] { viewer_.Hand().Recolour(code); });
+  }
+  viewer_.onMarkEdited = [this] { kit_.desk.Dispatch([this] { marks_.Edited(); }); };
+  viewer_.onMarkChosen = [this] { kit_.desk.Dispatch([this] { marks_.Chosen(); }); };
+}
+
 // Each event of the viewer is one of the desk: a failure in it is told there.
 void OSTForm::BindViewer() {
   const auto event = [this](auto handler) {
@@ -136,6 +174,7 @@ void OSTForm::BindViewer() {
   viewer_.onPageChanged = event([this] {
     pages_.ShowPage();
     viewer_.Snap().Follow();
+    ways_.PageShown();
     viewer_.Same().Follow();
     sheetScales_.SheetChanged();
   });

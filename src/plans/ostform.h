@@ -5,12 +5,14 @@
 #include <vector>
 
 #include "common/kit.h"
+#include "plans/markspanel.h"
 #include "plans/ostcontrols.h"
 #include "plans/planmeasure.h"
 #include "plans/plannotespanel.h"
 #include "plans/planopener.h"
 #include "plans/planpen.h"
 #include "plans/plansurfaces.h"
+#include "plans/planwayfinding.h"
 #include "plans/sheetscales.h"
 
 namespace tamo {
@@ -49,6 +51,11 @@ class OSTForm : public OstControls {
   void ClearXY() { Mode.SetText(QStringLiteral("Released")); }
   void ChooseScale(const ScaleEntry& scale) { scale_.Choose(scale); }
 
+  // --- The list of marks
+  // After each event; another number says that the takeoff may have become another one.
+  void FollowMarks(unsigned takeoff) { marks_.Follow(takeoff); }
+  MarksPanel& ListOfMarks() { return marks_; }
+
   // --- View
   void SetZoomByLevel(const QString& level) { pages_.SetZoomByLevel(level); }
   PdfDraw& Viewer() const { return viewer_; }
@@ -57,6 +64,8 @@ class OSTForm : public OstControls {
   // does not go back to the field that waits.
   std::function<bool()> onEnterBox;
   std::function<void()> onPlanPressed;  // a press on the plan; the cross hair stands there
+  // What is known of the sheets, and the ways to them.
+  PlanWayfinding& Ways() { return ways_; }
 
   QString ViewerName;
 
@@ -65,6 +74,7 @@ class OSTForm : public OstControls {
   void BindMenus();
   void BindViewer();
   void BindOutlines();
+  void BindMarks();
   void BindPlanKeys();
   void EnterOnPlan();
   void PlanLost(const QString& problem);
@@ -84,6 +94,8 @@ class OSTForm : public OstControls {
   PlanMeasure measure_;
   PlanSurfaces surfaces_;
   SheetScales sheetScales_;
+  PlanWayfinding ways_;
+  MarksPanel marks_;
 };
 
 }  // namespace tamo

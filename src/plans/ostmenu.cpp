@@ -3,6 +3,7 @@
 #include <span>
 
 #include "plans/scales.h"
+#include "workspace/swatches.h"
 
 namespace tamo {
 namespace {
@@ -81,6 +82,24 @@ constexpr Row kPlan[] = {
     {"DrawPerimeter", "P&erimeter (E)", "DrawMenu"},
     {"SnapToDrawing", "&Snap to the Drawing (S)", "DrawMenu"},
     {"FindSame", "&Find Same (I)", "DrawMenu"},
+    {"SheetsMenu", "&Go", ""},
+    {"GoToSheet", "&Sheet (Ctrl+G)", "SheetsMenu"},
+    {"ShowBookmarks", "&Bookmarks and Links (Ctrl+B)", "SheetsMenu"},
+    {"ShowLayers", "&Layers (Ctrl+L)", "SheetsMenu"},
+    {"JumpBack", "B&ack (Alt+Left)", "SheetsMenu"},
+    {"JumpForward", "&Forward (Alt+Right)", "SheetsMenu"},
+    {"MarkMenu", "&Marks", "DrawMenu"},
+    {"MarksOfPlan", "&List of the Marks (F6)", "MarkMenu"},
+    {"NextMark", "Choose the &Next Mark (N)", "MarkMenu"},
+    {"MarkBefore", "Choose the Mark &Before (P)", "MarkMenu"},
+    {"NameMark", "Na&me the Mark (F2)", "MarkMenu"},
+    {"MarkColour", "&Colour of the Mark", "MarkMenu"},
+    {"DeleteMark", "&Delete the Mark (Delete)", "MarkMenu"},
+    {"LegendOfSheet", "Legend of This &Sheet", "MarkMenu"},
+    {"LegendOfPlan", "Legend of the &Plan", "MarkMenu"},
+    {"RefreshLegends", "Legends &Up to Date", "MarkMenu"},
+    {"RemoveLegends", "&Remove the Legends", "MarkMenu"},
+    {"MarkLine", "To Its &Takeoff Line (F7)", "MarkMenu"},
 };
 
 class Bar {
@@ -106,10 +125,17 @@ class Bar {
 
 }  // namespace
 
+QString ColourEntry(const SwatchRow& row) {
+  return QStringLiteral("Mark") + QLatin1String(row.name).mid(1);
+}
+
 std::vector<std::unique_ptr<MenuEntry>> MakeOstMenu(Form& form) {
   Bar bar(form);
   bar.Add(kShell);
   bar.Add(kPlan);
+  for (const SwatchRow& row : std::span(kSwatches).first(kPlanSwatches))
+    bar.Add(ColourEntry(row).toLatin1().constData(), *row.caption == '\0' ? "Red" : row.caption,
+            "MarkColour");
   bar.Add(InchScales(), "ScaleA");
   bar.Add("Metric", "&Metric", "ScaleA");
   bar.Add(MillimetreScales(), "Metric");

@@ -5,15 +5,14 @@
 #include <utility>
 
 #include "plans/outline.h"
+#include "plans/outlinerules.h"
 #include "plans/scales.h"
 
 namespace tamo {
 namespace {
 
-constexpr double kClickReach = 2;      // points the hand may shake within a click
-constexpr double kSamePlace = 0.01;    // points; a press on the first corner closes the outline
-constexpr double kOverEdge = 2;        // points that a cut-out may reach over the edge of its area
-constexpr double kLeastSurface = 0.5;  // square points; less is a slip of the hand
+constexpr double kClickReach = 2;    // points the hand may shake within a click
+constexpr double kSamePlace = 0.01;  // points; a press on the first corner closes the outline
 
 Mark::Kind KindOf(PlanTool tool) {
   switch (tool) {
@@ -118,8 +117,7 @@ void OutlineBoard::DropOutline() {
 
 // --- Its measure
 
-QString OutlineBoard::Measured(std::vector<PagePoint> points, bool running) {
-  const Mark::Kind kind = outline_.Kind();
+QString OutlineBoard::Measured(Mark::Kind kind, std::vector<PagePoint> points, bool running) {
   QString label = UnitInWords(Unit());
   double measure = InPaperUnit(OutlineLength(points, IsOutline(kind)), Unit());
   if (!IsSurface(kind)) {
@@ -134,7 +132,8 @@ QString OutlineBoard::Measured(std::vector<PagePoint> points, bool running) {
 }
 
 void OutlineBoard::MeasureOutline() {
-  if (outline_.Active()) outline_.text = Measured(outline_.PointsWithPointer(), true);
+  if (outline_.Active())
+    outline_.text = Measured(outline_.Kind(), outline_.PointsWithPointer(), true);
   Repaint();
 }
 
@@ -151,33 +150,11 @@ QString OutlineBoard::WhyNot(const std::vector<PagePoint>& points) const {
   const Mark::Kind kind = outline_.Kind();
   if (outline_.InArc())
     return QStringLiteral("The arc has no end yet: set it, or press Backspace to take it back.");
-  if (!FitsKind(kind, points.size()))
-    return IsOutline(kind) ? QStringLiteral("It takes at least three corners: set more of them.")
-                           : QStringLiteral("It takes at least two points: set more of them.");
-  if (!IsOutline(kind)) return {};
-  if (CrossesItself(points))
-    return QStringLiteral(
-        "The outline crosses or touches itself, so it has no certain size. Backspace takes points "
-        "back.");
-  if (OutlineArea(points) < kLeastSurface)
-    return QStringLiteral("The outline holds nothing: set its corners apart.");
-  return kind == Mark::Kind::CutOut ? WhyNoCutOut(points) : QString();
-}
-
-QString OutlineBoard::WhyNoCutOut(const std::vector<PagePoint>& points) const {
-  bool inside = false;
-  for (const Mark& mark : MarksAsDrawn()) {
-    if (mark.page != outline_.Page()) continue;
-    if (mark.kind == Mark::Kind::Area)
-      inside = inside || HoldsOutline(mark.points, points, kOverEdge);
-    if (mark.kind == Mark::Kind::CutOut && (HoldsPlace(mark.points, RoomiestPlace(points), 0) ||
-                                            HoldsPlace(points, RoomiestPlace(mark.points), 0)))
-      return QStringLiteral("This place is cut out already: it would be taken off twice.");
-  }
-  if (inside) return {};
-  return QStringLiteral(
-      "A cut-out lies inside an area that is drawn already, and this one lies in none. Draw the "
-      "area first, or set the corners inside it.");
+  QString why = WhyNoOutline(kind, points);
+  if (!why.isEmpty() && IsOutline(kind) && FitsKind(kind, points.size()) && CrossesItself(points))
+    why += QStringLiteral(" Backspace takes points back.");
+  if (!why.isEmpty() || kind != Mark::Kind::CutOut) return why;
+  return WhyNoCutOut(MarksAsDrawn(), outline_.Page(), points);
 }
 
 // What can't be ended stays in work, so that it can be mended.
@@ -194,7 +171,7 @@ void OutlineBoard::MakeMark(std::vector<PagePoint> points) {
   // Made first: whoever is told may change the pen or pick another tool.
   Mark mark = NewMark(outline_.Kind(), points);
   mark.page = outline_.Page();
-  const QString label = Measured(std::move(points), false);
+  const QString label = Measured(mark.kind, std::move(points), false);
   outline_.Drop();
   mark.label = label;
   AddMark(std::move(mark));

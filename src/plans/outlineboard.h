@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "plans/markedsheets.h"
 #include "plans/outlinework.h"
@@ -17,6 +19,10 @@ class OutlineBoard : public MarkedSheets {
   virtual PaperUnit Unit() const = 0;
   // Its points so far and the pointer's, with its running measure; of the pen's colour and width.
   std::optional<Mark> OutlineInWork() const;
+  // What a mark of this kind would say here by the scale in force.
+  QString LabelInForce(Mark::Kind kind, std::vector<PagePoint> points) {
+    return Measured(kind, std::move(points), true);
+  }
   bool InArc() const { return outline_.InArc(); }
 
   static bool DrawsOutlines(PlanTool tool) { return tool >= PlanTool::Polyline; }
@@ -37,8 +43,7 @@ class OutlineBoard : public MarkedSheets {
   PagePoint Straight(PagePoint at, bool shift) const;
   bool ClosesAt(PagePoint at) const;
   QString WhyNot(const std::vector<PagePoint>& points) const;
-  QString WhyNoCutOut(const std::vector<PagePoint>& points) const;
-  QString Measured(std::vector<PagePoint> points, bool running);
+  QString Measured(Mark::Kind kind, std::vector<PagePoint> points, bool running);
   void MakeMark(std::vector<PagePoint> points);
 
   OutlineWork outline_;

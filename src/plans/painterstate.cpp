@@ -12,7 +12,6 @@ constexpr size_t kMostCoarse = 6;
 constexpr size_t kMostTilePixels = size_t(20) << 20;  // four bytes each
 constexpr size_t kMostThumbnails = 1000;
 constexpr size_t kMostSmallLists = 3;
-constexpr auto kLongestRead = std::chrono::seconds(20);
 
 }  // namespace
 
@@ -217,6 +216,7 @@ PaintJob PlanPainter::State::Next(bool reads) {
     if (!(this->*find)(reads, job)) continue;
     job.cancel = std::make_shared<CancelFlag>();
     job.began = std::chrono::steady_clock::now();
+    job.era = era;
     return job;
   }
   return {};
@@ -279,8 +279,9 @@ void PlanPainter::State::KeepCoarse(const PaintJob& job, std::shared_ptr<const P
 void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<LoadedPage> list,
                               const std::shared_ptr<const Picture>& picture) {
   using Kind = PaintJob::Kind;
+  if (job.era != era && job.kind != Kind::Print) return;
   const bool good = picture != nullptr || list != nullptr;
-  const bool overdue = std::chrono::steady_clock::now() - job.began >= kLongestRead;
+  const bool overdue = std::chrono::steady_clock::now() - job.began >= kLongestPaint;
   if (!good && (!job.cancel->Cancelled() || overdue)) Fail(job.page);
   if (job.kind == Kind::Print) {
     job.print->picture = picture;
@@ -327,12 +328,6 @@ void PlanPainter::State::StopStale() {
       stale = ListOf(view.page) == nullptr;  // the visible page has to be read first
     }
     if (stale) job->cancel->Cancel();
-  }
-}
-
-void PlanPainter::State::StopOverdue() {
-  for (PaintJob* job : working) {
-    if (std::chrono::steady_clock::now() - job->began >= kLongestRead) job->cancel->Cancel();
   }
 }
 

@@ -63,6 +63,7 @@ struct PaintJob {
   std::shared_ptr<PrintJob> print;
   std::shared_ptr<CancelFlag> cancel;
   std::chrono::steady_clock::time_point began;
+  unsigned era = 0;
 };
 
 struct PlanPainter::State {
@@ -79,6 +80,7 @@ struct PlanPainter::State {
   PlanView view;
   bool looking = false;
   unsigned clock = 0;
+  unsigned era = 0;  // what was begun before it is of no use
   std::list<std::pair<int, std::shared_ptr<LoadedPage>>> lists;          // latest first
   std::map<std::pair<int, int>, std::shared_ptr<const Picture>> coarse;  // by page and half
   std::deque<int> coarseOrder;
@@ -119,6 +121,7 @@ struct PlanPainter::State {
   bool CoarseIsThere(int page) const;
   void KeepTile(const TileKey& key, Tile tile);
   void Fail(int page);
+  void Forget();
   void NoteGaps(int page, PageGaps gaps);
 
  private:
@@ -134,6 +137,7 @@ struct PlanPainter::State {
 
 inline constexpr int kTileSide = 1024;
 inline constexpr int kCoarseSide = 1280;
+inline constexpr auto kLongestPaint = std::chrono::seconds(20);  // a page or a part of one
 
 int ScaleKey(double pixelsPerPoint);
 // The size of the whole page in pixels.

@@ -6,6 +6,7 @@
 
 #include "common/files.h"
 #include "plans/drawingboard.h"
+#include "plans/markhand.h"
 #include "plans/planengine.h"
 #include "plans/planpictures.h"
 #include "plans/samesymbols.h"
@@ -65,6 +66,8 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void BringToFront() { Raise(onBringToFront); }
 
   void Look(const PlanView& view) override;
+  // The plan shows something else than before on the same pages: pictures and lines are made anew.
+  void ForgetPictures();
   std::vector<PlacedPicture> PicturesFor(const PlanView& view) override;
   std::shared_ptr<const Picture> Thumbnail(int page, int longSide) override;
   std::shared_ptr<const Picture> PrintPicture(const PlanView& part,
@@ -76,6 +79,10 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
 
   // Where the pointer takes hold of the drawing while something is measured.
   SnapPointer& Snap() { return snap_; }
+  // The mark that is chosen, to be changed.
+  MarkHand& Hand() { return hand_; }
+  const MarkHand& Hand() const { return hand_; }
+  bool MayMark() override;
   // What finds the likes of a symbol on the sheet.
   SameSymbols& Same() { return same_; }
 
@@ -97,8 +104,14 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool FinishOpening(int milliseconds);
 
  protected:
-  bool MayMark() override;
-  bool TakeSnapKey(PlanKey key) override { return same_.TakeKey(key) || snap_.TakeKey(key); }
+  bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
+  bool TakeMarkKey(const PlanStroke& stroke) override {
+    return same_.TakeKey(stroke.key) || hand_.TakeKey(stroke);
+  }
+  void PressFree(PagePoint at) override { hand_.Press(at); }
+  void MoveFree(PagePoint at, bool shift) override { hand_.Move(at, shift); }
+  void ReleaseFree(PagePoint at, bool shift) override { hand_.Release(at, shift); }
+  void ToolComes() override { hand_.LetGo(); }
   void SymbolBoxed(const DrawnBox& box) override;
 
  private:
@@ -112,6 +125,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void Close();
   int ShowNothing(const QString& path, int error, const QString& reason);
   void PicturesChanged();
+  void TellOfPainting();
   void TellOfSearch();
   void TellOfPages(PlanPainter& painter);
   void BeginPlan(const QString& path);
@@ -164,6 +178,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool saving_ = false;
   bool searchTold_ = false;  // it says how far it is in a moment
   SnapPointer snap_{*this};
+  MarkHand hand_{*this};
   SameSymbols same_{*this};
   int patience_ = 10000;
   int patienceOutOfSight_ = 10000;

@@ -51,7 +51,7 @@ std::unique_ptr<PdfDraw::Session> PdfDraw::OpenAside(const QString& path, int& e
   if (error != kNoError) return nullptr;
   aside->sizes = std::move(opening->contents.sizes);
   marks = std::move(opening->contents.marks);
-  for (const Mark& mark : marks) aside->savedNames.insert(mark.name);
+  for (const Mark& mark : marks) aside->saved.insert(mark.name, mark);
   return aside;
 }
 

@@ -241,7 +241,7 @@ void PdfDraw::TakeOpened() {
   notices_.reservation = contents.reservation;
   notices_.caution = contents.caution;
   session_->sizes = contents.sizes;
-  for (const Mark& mark : contents.marks) session_->savedNames.insert(mark.name);
+  for (const Mark& mark : contents.marks) session_->saved.insert(mark.name, mark);
   StartPainting();
   // What was drawn on the blank sheet meanwhile is kept.
   contents.marks.insert(contents.marks.end(), MarksAsDrawn().begin(), MarksAsDrawn().end());
@@ -307,10 +307,12 @@ void PdfDraw::TellOfPages(PlanPainter& painter) {
 void PdfDraw::PicturesChanged() {
   if (session_ != nullptr && session_->painter != nullptr) TellOfPages(*session_->painter);
   if (onPicturesChanged) onPicturesChanged();
+  TellOfPainting();
 }
 
 void PdfDraw::Look(const PlanView& view) {
   if (session_ != nullptr && session_->painter != nullptr) session_->painter->Look(view);
+  TellOfPainting();
 }
 
 std::vector<PlacedPicture> PdfDraw::PicturesFor(const PlanView& view) {

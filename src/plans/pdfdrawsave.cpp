@@ -1,3 +1,4 @@
+#include <QSet>
 #include <algorithm>
 #include <atomic>
 #include <utility>
@@ -60,10 +61,16 @@ MarkChanges PdfDraw::Changes() const {
   QSet<QString> names;
   for (const Mark& mark : MarksAsDrawn()) {
     names.insert(mark.name);
-    if (!session_->savedNames.contains(mark.name)) changes.added.push_back(mark);
+    const auto saved = session_->saved.constFind(mark.name);
+    if (saved == session_->saved.constEnd()) {
+      changes.added.push_back(mark);
+    } else if (*saved != mark) {
+      changes.removed.push_back(mark.name);
+      changes.added.push_back(mark);
+    }
   }
-  for (const QString& name : session_->savedNames) {
-    if (!names.contains(name)) changes.removed.push_back(name);
+  for (auto saved = session_->saved.keyBegin(); saved != session_->saved.keyEnd(); ++saved) {
+    if (!names.contains(*saved)) changes.removed.push_back(*saved);
   }
   return changes;
 }
@@ -130,8 +137,8 @@ int PdfDraw::AddNow(const QString& path) {
 }
 
 void PdfDraw::MarksAreSaved() {
-  session_->savedNames.clear();
-  for (const Mark& mark : MarksAsDrawn()) session_->savedNames.insert(mark.name);
+  session_->saved.clear();
+  for (const Mark& mark : MarksAsDrawn()) session_->saved.insert(mark.name, mark);
 }
 
 // Writes to an open file, down to the disk.

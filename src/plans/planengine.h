@@ -11,6 +11,7 @@
 #include "plans/cancelflag.h"
 #include "plans/mark.h"
 #include "plans/pagecontent.h"
+#include "plans/planguide.h"
 #include "plans/plansource.h"
 
 // What the viewer asks of an engine for PDFs, and all that it knows of one. Nothing here shares
@@ -32,7 +33,7 @@ struct PlanContents {
   std::vector<Mark> marks;  // the annotations of this program, oldest first
 };
 
-// What a save adds to and takes from the annotations of a plan.
+// What a save adds to and takes from the annotations of a plan. A mark that has changed is in both.
 struct MarkChanges {
   std::vector<Mark> added;
   QStringList removed;  // names
@@ -95,6 +96,14 @@ class EnginePlan {
   virtual bool Paint(const LoadedPage& page, const PaintPart& part, CancelFlag& cancel,
                      uint32_t* pixels) = 0;
   virtual PageContent ReadContent(int page, CancelFlag& cancel) = 0;
+  // The same without paths and pictures, several times as fast.
+  virtual PageContent ReadTexts(int page, CancelFlag& cancel) { return ReadContent(page, cancel); }
+
+  virtual PlanGuide ReadGuide() { return {}; }
+  virtual std::vector<PageLink> ReadLinks(int /*page*/) { return {}; }
+  // Of each layer of the guide whether it is shown, in all that is loaded and read from then on.
+  // False when that can't be.
+  virtual bool ShowLayers(const std::vector<bool>& /*shown*/) { return false; }
 
   // The plan counts as having the changes from then on, until ForgetUpdate takes them back because
   // the bytes did not reach the disk.

@@ -46,10 +46,17 @@ struct PlanEvents {
   // Something speaks against marking this plan: true when it is to be marked all the same. Asked
   // once for a plan, before its first mark.
   std::function<bool(const QString& reservation)> onReservation;
+  // A mark that was chosen is changed or removed, or that is taken back or brought back.
+  std::function<void()> onMarkEdited;
+  std::function<void()> onMarkChosen;  // another one, another point of it, or none
   std::function<void()> onPageChanged;
   std::function<void()> onScrolled;  // by the user only
   std::function<void()> onMousePressed;
   std::function<void()> onEnterKey;
+  // A press and release in one place with no tool in hand, where no mark is to be chosen.
+  std::function<void(PagePoint at)> onPlainClick;
+  // Whether something that is looked at is still to be painted.
+  std::function<void(bool painting)> onPainting;
   std::function<void()> onPrint;
   std::function<void()> onBringToFront;
   std::function<void()> onMarksChanged;  // marks, the line in work or the cross hair: paint again

@@ -8,6 +8,10 @@ namespace tamo {
 // back, and ends an outline in work; Arc makes its next two points those of an arc; Snap turns the
 // snap to the drawing on or off, NextSnap takes the cross hair to the next place near it; Yes, No
 // and All answer for a symbol that was found.
+//
+// No while nothing is asked, and MarkBefore choose a mark, one after the other, and put the tool
+// away. Of the mark that is chosen NextSnap takes a point, then the next; Left to Down move that
+// point, Delete takes the mark away, Escape lets go of it.
 enum class PlanKey {
   Left,
   Right,
@@ -24,7 +28,9 @@ enum class PlanKey {
   NextSnap,
   Yes,
   No,
-  All
+  All,
+  MarkBefore,
+  Delete
 };
 
 struct PlanStroke {

@@ -27,6 +27,10 @@ class PlanPainter {
   PlanPainter& operator=(const PlanPainter&) = delete;
 
   void Look(const PlanView& view);
+  // Everything is painted anew: the plan shows something else on the same pages.
+  void Forget();
+  // Nothing that is visible, and no thumbnail asked for, is missing.
+  bool IsSharp();
   std::vector<PlacedPicture> PicturesFor(const PlanView& view);
   std::shared_ptr<const Picture> Thumbnail(int page, int longSide);
   std::shared_ptr<const Picture> PrintPicture(const PlanView& part, int milliseconds,

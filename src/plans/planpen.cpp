@@ -61,6 +61,7 @@ void PlanPen::Choose(const QString& code) {
   form_.ColorFrame.Hide();
   form_.Line1.SetColour(code);
   viewer_.SetMarkColour(form_.Line1.Colour());
+  viewer_.Hand().Recolour(form_.Line1.Colour());
 }
 
 }  // namespace tamo

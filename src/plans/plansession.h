@@ -2,8 +2,8 @@
 
 // The inside of PdfDraw, shared by its source files.
 
+#include <QHash>
 #include <QObject>
-#include <QSet>
 #include <atomic>
 #include <condition_variable>
 #include <mutex>
@@ -33,8 +33,8 @@ struct PdfDraw::Session {
   std::unique_ptr<WorkThread> thread;  // opens and saves
   std::unique_ptr<PlanPainter> painter;
   std::vector<PageSize> sizes;
-  QSet<QString> savedNames;  // marks that stand in the file
-  qint64 size = 0;           // bytes of the file as this program last knew it
+  QHash<QString, Mark> saved;  // the marks as they stand in the file, by name
+  qint64 size = 0;             // bytes of the file as this program last knew it
 
   ~Session() {
     painter.reset();

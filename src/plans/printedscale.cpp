@@ -70,8 +70,12 @@ std::optional<PrintedScale> ScaleOfText(const QString& text) {
 }
 
 std::vector<PrintedScale> ScalesOf(const PageContent& content) {
+  return ScalesOf(TextLinesOf(content));
+}
+
+std::vector<PrintedScale> ScalesOf(const std::vector<PageTextLine>& lines) {
   std::vector<PrintedScale> scales;
-  for (const PageTextLine& line : TextLinesOf(content)) {
+  for (const PageTextLine& line : lines) {
     std::optional<PrintedScale> scale = ScaleOfText(line.text);
     if (!scale.has_value()) continue;
     scale->at = {(line.box.left + line.box.right) / 2, (line.box.top + line.box.bottom) / 2};

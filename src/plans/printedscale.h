@@ -23,5 +23,6 @@ std::optional<PrintedScale> ScaleOfText(const QString& text);
 
 // All that a page states, in the order of its lines.
 std::vector<PrintedScale> ScalesOf(const PageContent& content);
+std::vector<PrintedScale> ScalesOf(const std::vector<PageTextLine>& lines);
 
 }  // namespace tamo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -19,7 +20,21 @@ class SheetTexts {
     PageBox box;  // points of the page
   };
 
+  // What was read of one sheet.
+  struct Sheet {
+    int page = 0;
+    PageSize size;
+    std::vector<PageTextLine> lines;
+    bool whole = false;
+  };
+
   ~SheetTexts() { Drop(); }
+
+  // Set before the first plan, and called by the thread that reads: takes what a sheet says, which
+  // is then not kept here; and whether the next sheet may be read, or has to wait for what the
+  // estimator looks at.
+  std::function<void(const Sheet& sheet)> onSheet;
+  std::function<bool()> mayRead;
 
   // Nothing happens when the plan is the one that is being read; another, or none, drops what there
   // is. `pages` of it, `first` first.

@@ -28,6 +28,9 @@ void SnapPointer::Turn(bool on) {
 
 bool SnapPointer::Active() const {
   const PlanTool tool = viewer_.Tool();
+  const std::optional<Mark>& held = viewer_.Hand().Held();
+  if (held.has_value())
+    return on_ && held->kind != Mark::Kind::Circle && held->kind != Mark::Kind::Legend;
   return on_ && !viewer_.BoxNext() && (tool == PlanTool::Measuring || PdfDraw::DrawsOutlines(tool));
 }
 
@@ -53,7 +56,8 @@ std::vector<SnapLine> SnapPointer::OwnLines() const {
     if (closed && points.size() > 2) lines.push_back({{points.back(), points.front()}});
   };
   for (const Mark& mark : viewer_.MarksAsDrawn()) {
-    if (mark.page == viewer_.Page()) add(mark.points, IsOutline(mark.kind));
+    const bool held = viewer_.Hand().Holds() && viewer_.Hand().Held()->name == mark.name;
+    if (mark.page == viewer_.Page() && !held) add(mark.points, IsOutline(mark.kind));
   }
   if (std::optional<Mark> work = viewer_.OutlineInWork()) {
     work->points.pop_back();

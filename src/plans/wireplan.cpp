@@ -28,11 +28,13 @@ void Put(WireWriter& wire, const Mark& mark) {
   wire.Real(mark.width);
   wire.Text(mark.label);
   wire.Text(mark.name);
+  wire.Text(mark.title);
+  wire.Text(mark.kept);
 }
 
 void Take(WireReader& wire, Mark& mark) {
   const unsigned kind = wire.Byte();
-  if (kind > static_cast<unsigned>(Mark::Kind::CutOut)) wire.Spoil();
+  if (kind > static_cast<unsigned>(Mark::Kind::Legend)) wire.Spoil();
   mark.kind = wire.Good() ? static_cast<Mark::Kind>(kind) : Mark::Kind::Line;
   mark.page = static_cast<int>(wire.Number(1, kMostPages));
   const size_t points = wire.Count(16);
@@ -46,6 +48,8 @@ void Take(WireReader& wire, Mark& mark) {
   mark.width = wire.Real();
   mark.label = wire.Text();
   mark.name = wire.Text();
+  mark.title = TitleOf(wire.Text());
+  mark.kept = wire.Text().left(kLongestKept);
 }
 
 void Put(WireWriter& wire, const std::vector<Mark>& marks) {

@@ -21,7 +21,11 @@ enum class WireKind : unsigned {
   Drop,        // call number of a page
   Answer,      // of the worker: the last word on a call
   Part,        // of the worker: a part of WriteWhole
-  Last = Part
+  ReadTexts,   // page -> PageContent without paths and pictures
+  ReadGuide,   // -> PlanGuide
+  ReadLinks,   // page -> PageLinks
+  ShowLayers,  // of each layer whether it is shown -> whether that could be done
+  Last = ShowLayers
 };
 
 // How a worker is kept from doing harm.

@@ -5,6 +5,7 @@
 
 #include "common/failure.h"
 #include "plans/additioncheck.h"
+#include "plans/wireguide.h"
 #include "plans/workerguard.h"
 
 namespace tamo {
@@ -15,6 +16,7 @@ constexpr int kOpenPatience = 40000;  // milliseconds
 constexpr int kPagePatience = 30000;
 constexpr int kContentPatience = 60000;
 constexpr int kUpdatePatience = 20000;
+constexpr int kGuidePatience = 20000;
 constexpr int kWholePatience = 120000;
 constexpr qsizetype kLongestUpdate = qsizetype(64) << 20;
 
@@ -94,7 +96,10 @@ bool WorkerPlan::Repeat(const Link& link) {
       return false;
     }
   }
-  return true;
+  if (layers_.empty()) return true;
+  WireWriter wire;
+  Put(wire, layers_);
+  return link->Call(WireKind::ShowLayers, wire.Take(), {kGuidePatience, nullptr, -1, {}}).there;
 }
 
 WorkerPlan::Link WorkerPlan::OpenLink() {
@@ -253,8 +258,16 @@ bool WorkerPlan::Paint(const LoadedPage& page, const PaintPart& whole, CancelFla
 }
 
 PageContent WorkerPlan::ReadContent(int page, CancelFlag& cancel) {
+  return ReadPage(WireKind::ReadContent, page, cancel);
+}
+
+PageContent WorkerPlan::ReadTexts(int page, CancelFlag& cancel) {
+  return ReadPage(WireKind::ReadTexts, page, cancel);
+}
+
+PageContent WorkerPlan::ReadPage(WireKind kind, int page, CancelFlag& cancel) {
   const WorkerLink::Answer answer = Ask([&](const Link& link) {
-    return link->Call(WireKind::ReadContent, Number(page), {kContentPatience, &cancel, -1, {}});
+    return link->Call(kind, Number(page), {kContentPatience, &cancel, -1, {}});
   });
   PageContent content;
   WireReader wire(answer.body);

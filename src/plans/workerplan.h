@@ -23,6 +23,10 @@ class WorkerPlan : public EnginePlan, public std::enable_shared_from_this<Worker
   bool Paint(const LoadedPage& page, const PaintPart& part, CancelFlag& cancel,
              uint32_t* pixels) override;
   PageContent ReadContent(int page, CancelFlag& cancel) override;
+  PageContent ReadTexts(int page, CancelFlag& cancel) override;
+  PlanGuide ReadGuide() override;
+  std::vector<PageLink> ReadLinks(int page) override;
+  bool ShowLayers(const std::vector<bool>& shown) override;
   PlanUpdate BuildUpdate(const MarkChanges& changes) override;
   void ForgetUpdate() override;
   int WriteWhole(const Sink& sink, QString& problem) override;
@@ -41,6 +45,7 @@ class WorkerPlan : public EnginePlan, public std::enable_shared_from_this<Worker
   Link OpenLink();
   WorkerLink::Answer OpenIn(const Link& link);
   bool Repeat(const Link& link);
+  PageContent ReadPage(WireKind kind, int page, CancelFlag& cancel);
   qint64 GrownSize() const;
   WorkerLink::Answer LoadIn(const Link& link, int number, CancelFlag& cancel, Page* page);
   WorkerLink::Answer PaintIn(const Link& link, const Page& page, const PaintPart& part,
@@ -60,6 +65,7 @@ class WorkerPlan : public EnginePlan, public std::enable_shared_from_this<Worker
     qint64 bytes = 0;
   };
   std::vector<Update> updates_;
+  std::vector<bool> layers_;  // as they were last shown, for the next worker
 };
 
 }  // namespace tamo

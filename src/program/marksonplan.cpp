@@ -1,5 +1,7 @@
 #include "program/marksonplan.h"
 
+#include "plans/markaccount.h"
+#include "plans/marktie.h"
 #include "plans/planname.h"
 
 namespace tamo {
@@ -58,13 +60,35 @@ bool MarksOnPlan::IsNewest(const Mark& mark, const std::vector<Mark>& marks) con
   return false;
 }
 
-EntryMarks MarksOnPlan::MarksOf(const std::vector<Measured>& fields) {
+// Each mark keeps the line it went into. Square yards are a ninth of what an area says; an area has
+// its height in it.
+void MarksOnPlan::Tie(const QStringList& names, const Measured& field, const EnteredLine& line) {
+  const bool height = field.field[1] == 'H';
+  for (const QString& name : names) {
+    const Mark* mark = ost_.Viewer().FindMark(name);
+    if (mark == nullptr) continue;
+    MarkTie tie{{shared_.JobID, line.area, line.sheet, line.system},
+                line.entry,
+                height,
+                SaidBy(*mark),
+                line.units,
+                line.height,
+                line.before,
+                line.after};
+    if (IsSurface(mark->kind)) tie.factor = line.units == QLatin1String("SY") ? 1 / 9.0 : 1;
+    ost_.Viewer().KeepWith(name, TextOfTie(tie));
+  }
+}
+
+EntryMarks MarksOnPlan::MarksOf(const std::vector<Measured>& fields, const EnteredLine& line) {
   EntryMarks entry{PlanName(), {}};
-  const std::vector<Mark> marks = ost_.Viewer().Marks();
+  std::vector<Mark> marks = ost_.Viewer().Marks();
+  std::erase_if(marks, [](const Mark& mark) { return mark.kind == Mark::Kind::Legend; });
   for (const Measured& field : fields) {
     if (handed_.take(QLatin1String(field.field)) != field.text || field.text.isEmpty()) continue;
     const QStringList names = MarksBehind(field.text, marks);
     for (const QString& name : names) owned_.insert(name);
+    Tie(names, field, line);
     entry.names += names;
   }
   return entry;

@@ -7,6 +7,7 @@
 #include "program/followers.h"
 #include "program/frontprint.h"
 #include "program/homepage.h"
+#include "program/linesandmarks.h"
 #include "program/menus.h"
 #include "program/planadapters.h"
 #include "program/pricingadapters.h"
@@ -56,9 +57,10 @@ struct Program::Parts {
   ProjectKeeperOnTamo projectKeeper{main};
   PlanToolsOnOst planTools{ost};
   TakeoffExitsOnForms takeoffExits{shell, main, ost};
-  MarksOnPlan entryMarks{ost};
+  MarksOnPlan entryMarks{ost, shared};
   TakingBack takingBack{kit, entryMarks, reportFollows};
   WaitingFields takeoffFields{kit, ost, rooms, areas, entryMarks};
+  LinesAndMarks linesAndMarks{kit, ost, rooms, areas};
   ProjectRecordOnTamo projectRecord{main};
   BidChangerOnForms bidChanger{kit, main, rooms, areas, bottomLine};
   ReportSaver reportSaver{kit};
@@ -114,6 +116,7 @@ struct Program::Parts {
     schedule.onSystemMade =
         systemSheets.onNewSystem = [this](const QString& name) { ListSystem(name); };
     systemSheets.Bind();
+    linesAndMarks.Bind();
     files.keepMine = [this](const QString& path, const QString& mine, const QString& theirs) {
       return desk.GetMessages().Ask(ChangedQuestion({path, mine, theirs}, pricing.MarkupTexts()));
     };
@@ -133,6 +136,7 @@ struct Program::Parts {
     suggestions.Follow();
     takingBack.EndEvent();
     takeoffFields.Follow();
+    ost.FollowMarks(linesAndMarks.Revision());
     recovery.Follow();
     home.Follow();
   }

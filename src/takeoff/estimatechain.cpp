@@ -222,17 +222,20 @@ void EstimateForm::LengthGotFocus() {
 
 // The running total is rounded at each entry, of lengths and counts too.
 void EstimateForm::AddEntry() {
-  BeginQuantity();
-  Units.SetText(TrimmedBlanks(Units.Text()));
   const AreaLine line(AreaList.Selected());
   const double entered = GroupedValue(eLength.Text());
-  if (IsLinearOrCount(Units.Text())) {
-    StoreQuantity(Rounded(line.LinearQuantity() + entered));
+  const bool linear = IsLinearOrCount(TrimmedBlanks(Units.Text()));
+  const double total =
+      Rounded(linear ? line.LinearQuantity() + entered
+                     : line.SurfaceQuantity() + GroupedValue(Hite.Text()) * entered);
+  BeginQuantity(total);
+  Units.SetText(TrimmedBlanks(Units.Text()));
+  StoreQuantity(total);
+  if (linear) {
     plan_.SetToolMode(0);
     plan_.ClearDistance();
     Lengths.Add(GrownLeft(eLength.Text(), 10));
   } else {
-    StoreQuantity(Rounded(line.SurfaceQuantity() + GroupedValue(Hite.Text()) * entered));
     measured.Entered(Hite);
     plan_.SetToolMode(0);
     Lengths.Add(Hite.Text() + QStringLiteral(" X ") + eLength.Text());

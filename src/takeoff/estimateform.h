@@ -34,6 +34,7 @@ class EstimateForm : public TakeoffForm {
   MenuEntry PasteArea{*this, "PasteArea", " &PasteArea"};
   MenuEntry OST1{*this, "OST1", "&DSW"};
   MenuEntry Exit{*this, "Exit", "E&xit"};
+  MenuEntry ShowMarks{*this, "ShowMarks", "&Marks (F7)"};
   MenuEntry EditAreas{*this, "EditAreas", {}, nullptr, true};
   MenuEntry AreasDelete{*this, "AreasDelete", "Delete Area", &EditAreas};
   MenuEntry AreasCancel{*this, "AreasCancel", "Cancel", &EditAreas};
@@ -103,7 +104,7 @@ class EstimateForm : public TakeoffForm {
   void PasteLines();
 
   // estimatestate.cpp: what taking back shows, and what it calls an entry
-  void BeginQuantity();  // a length or a count is entered
+  void BeginQuantity(double total);  // a length or a count is entered; it makes the line `total`
   void LeaveArea();
 
   AutoRoomSwitch autoRoom_{AutoRoom};

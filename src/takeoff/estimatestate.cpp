@@ -1,6 +1,8 @@
 // What taking back shows of an area, and what it calls an entry.
 
+#include "common/columns.h"
 #include "common/failure.h"
+#include "common/numbers.h"
 #include "records/areafile.h"
 #include "records/arealine.h"
 #include "records/sheetnames.h"
@@ -10,17 +12,25 @@
 
 namespace tamo {
 
-void EstimateForm::BeginQuantity() {
+void EstimateForm::BeginQuantity(double total) {
   const bool surface = !IsLinearOrCount(Units.Text());
   const AreaLine line(AreaList.Selected());
   const QString system = line.Text().isEmpty() ? eDescription.Text() : line.System();
   const QString entry =
       surface ? Hite.Text() + QStringLiteral(" X ") + eLength.Text() : eLength.Text();
+  const EnteredLine into{true,
+                         Area.Text(),
+                         system,
+                         TrimmedBlanks(Units.Text()),
+                         entry,
+                         surface ? GroupedValue(Hite.Text()) : 1,
+                         surface ? line.SurfaceQuantity() : line.LinearQuantity(),
+                         total};
   steps_.Begin(entry + QStringLiteral(" of ") + system + InSheet(Area.Text()), *this);
   if (surface) {
-    steps_.Measured({{"EL", eLength.Text()}, {"EH", Hite.Text()}});
+    steps_.Measured({{"EL", eLength.Text()}, {"EH", Hite.Text()}}, into);
   } else {
-    steps_.Measured({{"EL", eLength.Text()}});
+    steps_.Measured({{"EL", eLength.Text()}}, into);
   }
 }
 

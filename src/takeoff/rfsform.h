@@ -72,10 +72,10 @@ class RFSForm : public RFSScreen {
   void FinishSchedule();
 
   // rfsstate.cpp: what taking back shows, and what it calls an entry
-  QString TheLine() const;  // the system and the finish area in the fields
-  void BeginLine();         // a line is entered
-  void BeginQuantity();     // a length or a count is entered
-  void SelectLine(int at);  // without beginning it
+  QString TheLine() const;           // the system and the finish area in the fields
+  void BeginLine();                  // a line is entered
+  void BeginQuantity(double total);  // a length or a count is entered; it makes the line `total`
+  void SelectLine(int at);           // without beginning it
 
   RoomRecord record_{*this, kit_, reports_, steps_};
   RoomCommands commands_{*this, record_, kit_, steps_};

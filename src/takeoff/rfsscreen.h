@@ -41,6 +41,7 @@ class RFSScreen : public TakeoffForm {
   MenuEntry PasteRoom{*this, "PasteRoom", "&Paste Room"};
   MenuEntry OST1{*this, "OST1", "&DSW"};
   MenuEntry Exit{*this, "Exit", "E&xit"};
+  MenuEntry ShowMarks{*this, "ShowMarks", "&Marks (F7)"};
   MenuEntry RmsPopup{*this, "RmsPopup", {}, nullptr, true};
   MenuEntry RmsDelete{*this, "RmsDelete", "Delete Room", &RmsPopup};
   MenuEntry RmsCancel{*this, "RmsCancel", "Cancel", &RmsPopup};

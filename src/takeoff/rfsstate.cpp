@@ -1,5 +1,7 @@
 // What taking back shows of a room, and what it calls an entry.
 
+#include "common/columns.h"
+#include "common/numbers.h"
 #include "records/roomline.h"
 #include "takeoff/listchange.h"
 #include "takeoff/rfsform.h"
@@ -16,15 +18,20 @@ void RFSForm::BeginLine() {
   steps_.Begin(QStringLiteral("the line ") + TheLine() + InSheet(Room.Text()), *this);
 }
 
-void RFSForm::BeginQuantity() {
+void RFSForm::BeginQuantity(double total) {
   const bool surface = !IsLinearOrCount(Units.Text());
   const QString entry =
       surface ? How.Text() + QStringLiteral(" X ") + Length.Text() : Length.Text();
+  const RoomLine line(RoomList.Selected());
+  const EnteredLine into{false,           Room.Text(),
+                         line.System(),   TrimmedBlanks(Units.Text()),
+                         entry,           surface ? GroupedValue(How.Text()) : 1,
+                         line.Quantity(), total};
   steps_.Begin(entry + QStringLiteral(" of ") + TheLine() + InSheet(Room.Text()), *this);
   if (surface) {
-    steps_.Measured({{"RL", Length.Text()}, {"RH", How.Text()}});
+    steps_.Measured({{"RL", Length.Text()}, {"RH", How.Text()}}, into);
   } else {
-    steps_.Measured({{"RL", Length.Text()}});
+    steps_.Measured({{"RL", Length.Text()}}, into);
   }
 }
 

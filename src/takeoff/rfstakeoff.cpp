@@ -84,12 +84,16 @@ void RFSForm::TakeLength() {
 }
 
 void RFSForm::AddEntry() {
-  BeginQuantity();
   const double entered = GroupedValue(Length.Text());
   const double stands = RoomLine(RoomList.Selected()).Quantity();
-  if (IsLinearOrCount(Units.Text())) {
+  const bool linear = IsLinearOrCount(Units.Text());
+  // A surface is rounded on its running total, halves upward.
+  const double total =
+      linear ? stands + entered : Rounded(stands + GroupedValue(How.Text()) * entered);
+  BeginQuantity(total);
+  if (linear) {
     plan_.SetToolMode(0);
-    StoreQuantity(stands + entered);
+    StoreQuantity(total);
     Lengths.Add(GrownLeft(Length.Text(), 10));
     Length.Clear();
     GetDesk().Focus(Length);
@@ -97,8 +101,6 @@ void RFSForm::AddEntry() {
     plan_.SaveIt();
     return;
   }
-  // A surface is rounded on its running total, halves upward.
-  const double total = Rounded(stands + GroupedValue(How.Text()) * entered);
   plan_.SetToolMode(0);
   LoadSystem();
   StoreQuantity(total);

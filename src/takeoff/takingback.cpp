@@ -43,8 +43,9 @@ void TakingBack::Begin(const QString& what, const SheetScreen& screen) {
   open_->what = what;
 }
 
-void TakingBack::Measured(const std::vector<MeasuredMarks::Measured>& fields) {
-  if (open_) open_->marks = marks_.MarksOf(fields);
+void TakingBack::Measured(const std::vector<MeasuredMarks::Measured>& fields,
+                          const EnteredLine& line) {
+  if (open_) open_->marks = marks_.MarksOf(fields, line);
 }
 
 void TakingBack::Stores(const QString& path, bool shared) {

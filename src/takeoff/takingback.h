@@ -50,8 +50,8 @@ class TakingBack {
 
   // The event in work enters something; `what` says it behind "Taken back: ".
   void Begin(const QString& what, const SheetScreen& screen);
-  // Its numbers come from these fields.
-  void Measured(const std::vector<MeasuredMarks::Measured>& fields);
+  // Its numbers come from these fields, and go into that line.
+  void Measured(const std::vector<MeasuredMarks::Measured>& fields, const EnteredLine& line);
   // A file is about to be stored. `shared`: by all projects, so that others may change it.
   void Stores(const QString& path, bool shared = false);
   void EndEvent();

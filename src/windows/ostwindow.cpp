@@ -9,6 +9,8 @@
 #include "windows/formlayouts.h"
 #include "windows/plancanvas.h"
 #include "windows/plancolumn.h"
+#include "windows/planmarks.h"
+#include "windows/planpanels.h"
 #include "windows/plantoolbar.h"
 
 // The plan: thumbnails on the left, the plan in the middle with its tools over it, a narrow column
@@ -161,8 +163,10 @@ void LayOutOST(Builder& b) {
   PlanCanvas* canvas = Canvas(b);
   auto* row = new QHBoxLayout;
   row->setSpacing(0);
-  row->addWidget(Thumbnails(b, *canvas));
-  row->addWidget(Browser(b));
+  PlanThumbnails* thumbnails = Thumbnails(b, *canvas);
+  row->addWidget(thumbnails);
+  row->addWidget(PlanPanels(b, Browser(b)));
+  BindPlanWays(b, *canvas, *thumbnails);
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
   middle->addWidget(PlanToolBar(b, *canvas));
@@ -172,6 +176,7 @@ void LayOutOST(Builder& b) {
   middle->addWidget(Words(b));
   middle->addWidget(canvas, 1);
   middle->addWidget(FindText(b, *canvas));
+  middle->addWidget(PlanMarks(b));
   row->addLayout(middle, 1);
   row->addWidget(PlanColumn(b));
   FormWindow& window = b.Window();

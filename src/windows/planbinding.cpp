@@ -16,8 +16,20 @@ std::optional<PlanKey> PlanKeyOf(int code) {
                                                       {Qt::Key_Enter, PlanKey::Enter},
                                                       {Qt::Key_Escape, PlanKey::Escape},
                                                       {Qt::Key_Backspace, PlanKey::Backspace},
+                                                      {Qt::Key_Delete, PlanKey::Delete},
                                                       {Qt::Key_Z, PlanKey::Undo},
                                                       {Qt::Key_Y, PlanKey::Redo}};
+  for (const auto& [known, key] : kKeys) {
+    if (known == code) return key;
+  }
+  return std::nullopt;
+}
+
+std::optional<PlanKey> LetterOf(int code) {
+  static constexpr std::pair<int, PlanKey> kKeys[] = {{Qt::Key_B, PlanKey::Arc},
+                                                      {Qt::Key_S, PlanKey::Snap},
+                                                      {Qt::Key_N, PlanKey::No},
+                                                      {Qt::Key_P, PlanKey::MarkBefore}};
   for (const auto& [known, key] : kKeys) {
     if (known == code) return key;
   }
@@ -52,15 +64,11 @@ bool PlanCanvas::TakeLetter(int key) {
     desk_.Dispatch([&, tool = tool] { viewer_.PickTool(tool); });
     return true;
   }
-  const auto press = [this](PlanKey plan) {
-    desk_.Dispatch([&] { viewer_.Key({plan, false, false}); });
+  if (const std::optional<PlanKey> plan = LetterOf(key)) {
+    desk_.Dispatch([&] { viewer_.Key({*plan, false, false}); });
     return true;
-  };
+  }
   switch (key) {
-    case Qt::Key_B:
-      return press(PlanKey::Arc);
-    case Qt::Key_S:
-      return press(PlanKey::Snap);
     case Qt::Key_Tab:
       return TakeNextSnap();
     case Qt::Key_I:
@@ -89,7 +97,10 @@ bool PlanCanvas::TakeLetter(int key) {
 // Where there is nothing to snap to, Tab goes on to the next field as everywhere.
 bool PlanCanvas::TakeNextSnap() {
   bool taken = false;
-  desk_.Dispatch([&] { taken = viewer_.Snap().TakeKey(PlanKey::NextSnap); });
+  desk_.Dispatch([&] {
+    taken = viewer_.Hand().TakeKey({PlanKey::NextSnap, false, false}) ||
+            viewer_.Snap().TakeKey(PlanKey::NextSnap);
+  });
   return taken;
 }
 

@@ -14,6 +14,7 @@ namespace tamo {
 namespace {
 
 constexpr int kRest = 150;         // milliseconds after which the sheet rests
+constexpr double kStill = 3;       // pixels that a click may move
 constexpr double kWheelStep = 60;  // points for a notch of the wheel at 100 per cent
 
 }  // namespace
@@ -174,6 +175,15 @@ PagePoint PlanCanvas::Pointed(const QMouseEvent& event) {
                               event.modifiers().testFlag(Qt::AltModifier));
 }
 
+// A hand with a finger over a link, while a click on it follows it.
+void PlanCanvas::ShowPointer(const QPointF& place) {
+  const bool follows = viewer_.Tool() == PlanTool::None && !viewer_.BoxNext() && linkAt;
+  const QString link = follows ? linkAt(PageAt(place)) : QString();
+  if (viewport()->toolTip() == link) return;
+  viewport()->setToolTip(link);
+  viewport()->setCursor(link.isEmpty() ? Qt::CrossCursor : Qt::PointingHandCursor);
+}
+
 // Without a tool in hand the left button pulls the sheet, as the middle one always does.
 void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   const bool left = event->button() == Qt::LeftButton;
@@ -183,11 +193,16 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   pressedAt_ = event->position();
   const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext();
   panning_ = !left || !tool;
+  pulled_ = false;
   if (!left) return;
   drawing_ = tool;
   const PagePoint at = Pointed(*event);
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
   desk_.Dispatch([&] { viewer_.Press(at, shift); });
+  // A point of the chosen mark is moved, not the sheet.
+  if (!viewer_.Hand().Holds()) return;
+  panning_ = false;
+  drawing_ = true;
 }
 
 void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
@@ -198,11 +213,16 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
     desk_.Dispatch([&] { viewer_.Release(PageAt(pressedAt_), shift); });
   }
   if (panning_ && event->buttons() != Qt::NoButton) {
+    const QPointF moved = event->position() - pressedAt_;
+    if (!pulled_ && moved.manhattanLength() < kStill) return;
+    pulled_ = true;
+    viewer_.Hand().Pulled();
     viewport()->setCursor(Qt::ClosedHandCursor);
     Pan((panFrom_ - event->position()) / Scale());
     panFrom_ = event->position();
     return;
   }
+  ShowPointer(event->position());
   if (!drawing_ && !viewer_.WorkFrom() && !viewer_.Snap().Active()) return;
   const PagePoint at = Pointed(*event);
   desk_.Dispatch([&] { viewer_.Move(at, shift); });
@@ -214,7 +234,7 @@ void PlanCanvas::mouseReleaseEvent(QMouseEvent* event) {
     viewport()->setCursor(Qt::CrossCursor);
     FinishScroll();
   }
-  if (event->button() != Qt::LeftButton) return;
+  if (event->button() != Qt::LeftButton || pulled_) return;
   drawing_ = false;
   const PagePoint at = Pointed(*event);
   const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);

@@ -9,6 +9,7 @@
 
 #include "plans/pdfdraw.h"
 #include "plans/planpictures.h"
+#include "plans/sheetnumber.h"
 #include "windows/display.h"
 
 class QPrinter;
@@ -50,6 +51,8 @@ class PlanCanvas : public QAbstractScrollArea {
   void FitWidth();
   std::function<void()> onPictures;                        // more pictures are there
   std::function<std::vector<FoundBox>(int page)> foundOn;  // what is framed on a page; may be empty
+  // Where a link at a place of the page leads, in words; "" where there is none.
+  std::function<QString(PagePoint at)> linkAt;
   // The user's scrolling that the viewer has not been told of yet. It is told once the sheet rests,
   // since the project's record is saved each time.
   void FinishScroll();
@@ -75,6 +78,7 @@ class PlanCanvas : public QAbstractScrollArea {
   void SyncBars();
   void ViewChanged();
   void PaintMarks(QPainter& painter) const;
+  void PaintChosen(QPainter& painter) const;
   void PaintWork(QPainter& painter) const;
   void PaintFound(QPainter& painter) const;
   void PaintLikes(QPainter& painter) const;
@@ -88,6 +92,7 @@ class PlanCanvas : public QAbstractScrollArea {
   bool TakeAnswer(int key);
   // Where on the page the mouse takes hold.
   PagePoint Pointed(const QMouseEvent& event);
+  void ShowPointer(const QPointF& place);
 
   PdfDraw& viewer_;
   PlanPictures* pictures_;
@@ -96,6 +101,7 @@ class PlanCanvas : public QAbstractScrollArea {
   double lookedRatio_ = 0;  // device pixels of a pixel when the pictures were last asked for
   bool drawing_ = false;    // the left button is down with a tool in hand
   bool panning_ = false;
+  bool pulled_ = false;  // the sheet was moved by the press in work
   QPointF panFrom_;
   QPointF pressedAt_;
   QTimer rest_;
@@ -118,14 +124,18 @@ class PlanThumbnails : public QAbstractScrollArea {
   PlanThumbnails(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWidget* parent = nullptr);
   void PagesChanged();
   QSize sizeHint() const override;
+  std::function<SheetTitle(int page)> titleOf;  // what a sheet is called; may be empty
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void scrollContentsBy(int dx, int dy) override;
+  bool viewportEvent(QEvent* event) override;
 
  private:
+  int PageAt(const QPoint& place) const;  // 0 for none
+  void PaintCaption(QPainter& painter, int page, const QRect& cell) const;
   int CellHeight() const;
   int FirstInSight() const;  // pages; the last is less than the first when there is none
   int LastInSight() const;

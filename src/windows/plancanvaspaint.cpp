@@ -35,6 +35,7 @@ void PlanCanvas::paintEvent(QPaintEvent*) {
                            QTransform::fromTranslate(origin.x(), origin.y()),
                        true);
   PaintMarks(painter);
+  PaintChosen(painter);
   if (foundOn) PaintFound(painter);
   PaintLikes(painter);
   PaintWork(painter);
@@ -64,6 +65,19 @@ void PlanCanvas::PaintMarks(QPainter& painter) const {
   }
 }
 
+// The mark as it is being moved, with a handle at each of its points; the one in hand is full.
+void PlanCanvas::PaintChosen(QPainter& painter) const {
+  const MarkHand& hand = viewer_.Hand();
+  for (const Mark& mark : viewer_.MarksAsDrawn()) {
+    if (mark.page == viewer_.Page() && hand.Shown().contains(mark.name))
+      PaintHandles(painter, mark, -1, Scale());
+  }
+  const Mark* chosen = hand.Held() ? &*hand.Held() : hand.Chosen();
+  if (chosen == nullptr || chosen->page != viewer_.Page()) return;
+  if (hand.Holds()) PaintMark(painter, *chosen, viewer_.MarkerSize());
+  PaintHandles(painter, *chosen, hand.Point(), Scale());
+}
+
 void PlanCanvas::PaintWork(QPainter& painter) const {
   const LineInWork& line = viewer_.LineWork();
   if (line.active && line.page == viewer_.Page()) {
@@ -84,7 +98,8 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
     painter.drawRect(QRectF(QPointF(box->topLeft.x, box->topLeft.y),
                             QPointF(box->bottomRight.x, box->bottomRight.y)));
   }
-  const bool pointing = viewer_.Tool() != PlanTool::None || viewer_.BoxNext();
+  const bool pointing =
+      viewer_.Tool() != PlanTool::None || viewer_.BoxNext() || viewer_.Hand().Holds();
   if (!pointing || !hasFocus()) return;
   const PagePoint hair = viewer_.CrossHair();
   if (const std::optional<SnapHit> sign = viewer_.Snap().Sign())

@@ -4,7 +4,9 @@
 #include <QPainter>
 #include <numbers>
 
+#include "plans/marklegend.h"
 #include "plans/markshape.h"
+#include "windows/look.h"
 #include "windows/swatchpatch.h"
 
 namespace tamo {
@@ -49,7 +51,60 @@ void PaintWay(QPainter& painter, const MarkShape& shape, QColor colour) {
 
 }  // namespace
 
+void PaintHandles(QPainter& painter, const Mark& mark, int point, double scale) {
+  constexpr size_t kMostHandles = 400;  // more would cover the mark
+  const QColor colour = CurrentLook().accent.darker(110);
+  const double half = 4.5 / scale;
+  const size_t each = mark.points.size() / kMostHandles + 1;
+  painter.setPen(QPen(colour, 1.5 / scale));
+  for (size_t i = 0; i < mark.points.size(); ++i) {
+    const bool inHand = static_cast<int>(i) == point;
+    if (!inHand && i % each != 0) continue;
+    const QPointF at(mark.points[i].x, mark.points[i].y);
+    painter.setBrush(inHand ? colour : QColor(Qt::white));
+    painter.drawRect(QRectF(at - QPointF(half, half), at + QPointF(half, half)));
+  }
+}
+
+namespace {
+
+// Upright letters of a width that is the same in every reader; the painter works in points.
+void PaintText(QPainter& painter, const QString& text, double width, double size) {
+  // Fonts have sizes of whole pixels; a hundred of them are fine enough for any place.
+  constexpr int kFine = 100;
+  QFont font(QStringLiteral("Helvetica"));
+  font.setStyleHint(QFont::SansSerif);
+  font.setPixelSize(kFine);
+  const double wide = QFontMetricsF(font).horizontalAdvance(text);
+  if (wide <= 0) return;
+  painter.scale(width / wide, size / kFine);
+  painter.setFont(font);
+  painter.drawText(QPointF(0, 0), text);
+}
+
+void PaintLegend(QPainter& painter, const Mark& mark) {
+  const LegendShape shape = ShapeOfLegend(mark);
+  painter.setPen(QPen(ColourOf(mark.colour), 0.75));
+  painter.setBrush(Qt::white);
+  painter.drawRect(QRectF(shape.at.x, shape.at.y, shape.width, shape.height));
+  painter.drawLine(QPointF(shape.at.x, shape.underHead),
+                   QPointF(shape.at.x + shape.width, shape.underHead));
+  for (const LegendShape::Patch& patch : shape.patches)
+    painter.fillRect(QRectF(patch.at.x, patch.at.y, kLegendPatch, kLegendPatch),
+                     QColor::fromRgb(patch.colour));
+  for (const LegendShape::Text& text : shape.texts) {
+    painter.save();
+    painter.setPen(QColor::fromRgb(text.colour));
+    painter.translate(text.at.x, text.at.y);
+    PaintText(painter, text.text, text.width, kLegendLetters);
+    painter.restore();
+  }
+}
+
+}  // namespace
+
 void PaintMark(QPainter& painter, const Mark& mark, double markerSize) {
+  if (mark.kind == Mark::Kind::Legend) return PaintLegend(painter, mark);
   const MarkShape shape = ShapeOf(mark, markerSize);
   const QColor known = ColourOf(mark.colour);
   const QColor colour = known.isValid() ? known : QColor(Qt::black);
@@ -61,20 +116,12 @@ void PaintMark(QPainter& painter, const Mark& mark, double markerSize) {
   if (shape.circle)
     painter.drawEllipse(QPointF(shape.centre.x, shape.centre.y), shape.radius, shape.radius);
   if (shape.text.isEmpty()) return;
-  // Fonts have sizes of whole pixels; a hundred of them are fine enough for any place.
-  constexpr int kFine = 100;
-  QFont font(QStringLiteral("Helvetica"));
-  font.setStyleHint(QFont::SansSerif);
-  font.setPixelSize(kFine);
-  const double wide = QFontMetricsF(font).horizontalAdvance(shape.text);
-  if (wide <= 0) return;
   painter.save();
   painter.translate(shape.textAt.x, shape.textAt.y);
   painter.rotate(shape.textAngle * 180 / std::numbers::pi);
-  painter.scale(shape.textWidth / wide, shape.textSize / kFine);
-  painter.setFont(font);
+  painter.translate(-shape.textWidth / 2, 0);
   painter.setPen(QColor::fromRgb(ReadableOnWhite(ColourNumber(mark.colour))));
-  painter.drawText(QPointF(-wide / 2, 0), shape.text);
+  PaintText(painter, shape.text, shape.textWidth, shape.textSize);
   painter.restore();
 }
 

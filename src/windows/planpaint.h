@@ -20,6 +20,9 @@ QTransform PageTransform(PageSize page, int turn, double scale);
 // Paints a mark; the painter works in points of the page.
 void PaintMark(QPainter& painter, const Mark& mark, double markerSize);
 
+// The points of the chosen mark as handles, the one in hand filled; `scale` as below.
+void PaintHandles(QPainter& painter, const Mark& mark, int point, double scale);
+
 // The sign of what the cross hair has taken, with its name: a square at an end, a cross at an
 // intersection, a triangle at a middle, a right angle at a foot, a diamond on a line. The painter
 // works in points of the page, `scale` pixels each.

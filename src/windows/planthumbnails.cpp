@@ -1,6 +1,8 @@
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolTip>
 #include <algorithm>
 
 #include "windows/look.h"
@@ -10,8 +12,8 @@
 namespace tamo {
 namespace {
 
-constexpr int kSide = 14 * kGrid;  // the longer side of a thumbnail
-constexpr int kCaption = 3 * kGrid;
+constexpr int kSide = 14 * kGrid;    // the longer side of a thumbnail
+constexpr int kCaption = 5 * kGrid;  // two lines: page and number, name
 
 }  // namespace
 
@@ -95,19 +97,46 @@ void PlanThumbnails::paintEvent(QPaintEvent*) {
     const bool current = page == viewer_.Page();
     painter.setPen(QPen(current ? look.accent : look.line, current ? 3 : 1));
     painter.drawRect(sheet);
-    painter.setPen(look.text);
-    painter.setFont(current ? SectionFont() : PromptFont());
-    painter.drawText(QRect(0, top + kSide, viewport()->width(), kCaption), Qt::AlignCenter,
-                     QString::number(page));
+    PaintCaption(painter, page, QRect(0, top + kSide, viewport()->width(), kCaption));
   }
 }
 
+// "12  A-601" over "FINISH SCHEDULE", as far as they are known.
+void PlanThumbnails::PaintCaption(QPainter& painter, int page, const QRect& cell) const {
+  const bool current = page == viewer_.Page();
+  const SheetTitle title = titleOf ? titleOf(page) : SheetTitle();
+  painter.setPen(CurrentLook().text);
+  painter.setFont(current ? SectionFont() : PromptFont());
+  QString first = QString::number(page);
+  if (!title.number.isEmpty()) first += QStringLiteral("  ") + title.number;
+  const QRect upper(cell.left(), cell.top(), cell.width(), cell.height() / 2);
+  painter.drawText(upper, Qt::AlignCenter, first);
+  if (title.name.isEmpty()) return;
+  painter.setFont(PromptFont());
+  const QRect lower(cell.left() + 2, upper.bottom(), cell.width() - 4, cell.height() / 2);
+  const QString name = painter.fontMetrics().elidedText(title.name, Qt::ElideRight, lower.width());
+  painter.drawText(lower, Qt::AlignCenter, name);
+}
+
+int PlanThumbnails::PageAt(const QPoint& place) const {
+  const int page = (place.y() + verticalScrollBar()->value() - kGrid) / CellHeight() + 1;
+  return page >= 1 && page <= viewer_.PageCount() ? page : 0;
+}
+
+// The whole name, where the column has no room for it.
+bool PlanThumbnails::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QAbstractScrollArea::viewportEvent(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  const int page = PageAt(help->pos());
+  const SheetTitle title = page != 0 && titleOf ? titleOf(page) : SheetTitle();
+  QToolTip::showText(help->globalPos(), (title.number + QLatin1Char(' ') + title.name).trimmed(),
+                     this);
+  return true;
+}
+
 void PlanThumbnails::mousePressEvent(QMouseEvent* event) {
-  const int page =
-      (static_cast<int>(event->position().y()) + verticalScrollBar()->value() - kGrid) /
-          CellHeight() +
-      1;
-  if (event->button() != Qt::LeftButton || page < 1 || page > viewer_.PageCount()) return;
+  const int page = PageAt(event->position().toPoint());
+  if (event->button() != Qt::LeftButton || page == 0) return;
   desk_.Dispatch([&] { viewer_.TurnPage(page); });
 }
 

@@ -1,5 +1,7 @@
 #include "windows/takeofflayout.h"
 
+#include "windows/menukey.h"
+
 namespace tamo {
 
 QGridLayout* TakeoffFields(Builder& b, const std::vector<TakeoffField>& fields) {
@@ -79,6 +81,7 @@ QWidget* MeasureWaits(Builder& b) {
 }
 
 void TakeoffStatus(Builder& b) {
+  GiveMenuKey(b, QKeySequence(Qt::Key_F7), "ShowMarks");
   QHBoxLayout& line = b.Window().StatusLine();
   line.addWidget(b.Text("StatusText"));
   line.addStretch(1);

@@ -159,6 +159,8 @@ QString TitleOf(const Form& form, const SharedFields& shared) {
   if (is("OST")) {
     const auto* plan = dynamic_cast<const TextField*>(form.Find(QStringLiteral("PlanLocation")));
     if (plan != nullptr && !plan->Empty()) title += FileNameOf(plan->Text());
+    const QString* sheet = form.FindText(QStringLiteral("SheetTitle"));
+    if (sheet != nullptr && !sheet->isEmpty()) title += *sheet;
   }
   return title.join(QStringLiteral(" - "));
 }

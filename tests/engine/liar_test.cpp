@@ -32,6 +32,11 @@ TEST_F(LyingWorker, HarmsNobody) {
       plan->Paint(*page, {1, 0, 0, 0, 100, 100, false}, cancel, pixels.data());
     }
     plan->ReadContent(1, cancel);
+    plan->ReadTexts(1, cancel);
+    for (const PlanBookmark& bookmark : plan->ReadGuide().bookmarks)
+      EXPECT_LE(bookmark.title.size(), kLongestEntryTitle);
+    EXPECT_LE(plan->ReadLinks(1).size(), size_t(kMostLinks));
+    plan->ShowLayers({true, false});
     const PlanUpdate update = plan->BuildUpdate({});
     EXPECT_TRUE(update.bytes.isEmpty() || update.bytes.endsWith("%%EOF\n"));
     QString problem;

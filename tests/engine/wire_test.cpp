@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "plans/wireguide.h"
 #include "plans/wiresocket.h"
 
 // What one side says the other hears; what is cut short or made up is noticed, never believed.
@@ -51,6 +52,26 @@ PageContent SomeContent() {
   content.pictures.resize(1);
   content.pictures[0].width = 9;
   return content;
+}
+
+PlanGuide SomeGuide() {
+  PlanGuide guide;
+  guide.labels = {QStringLiteral("A-101"), QStringLiteral("A-102")};
+  PlanTarget inside;
+  inside.kind = PlanTarget::Kind::Page;
+  inside.page = 2;
+  inside.placed = true;
+  inside.at = {3, 4};
+  guide.bookmarks = {{QStringLiteral("Floors"), 0, {}}, {QStringLiteral("Roof"), 1, inside}};
+  guide.layers = {{QStringLiteral("A-WALL"), true, false}, {QStringLiteral("A-DIMS"), false, true}};
+  return guide;
+}
+
+std::vector<PageLink> SomeLinks() {
+  PlanTarget web;
+  web.kind = PlanTarget::Kind::Web;
+  web.outside = QStringLiteral("http://example.org");
+  return {{{1, 2, 3, 4}, web}, {{5, 6, 7, 8}, SomeGuide().bookmarks[1].target}};
 }
 
 template <typename Said>
@@ -110,7 +131,51 @@ TEST(Wire, WhatIsCutShortIsNoticed) {
   changes.added = {ALine()};
   changes.removed = {QStringLiteral("tamo-1"), QString()};
   ExpectCutsAreNoticed(changes);
+  ExpectCutsAreNoticed(SomeGuide());
+  ExpectCutsAreNoticed(SomeLinks());
+  ExpectCutsAreNoticed(std::vector<bool>{true, false, true});
   ExpectCutsAreNoticed(PlanUpdate{57, QStringLiteral("damaged"), true, "bytes"});
+}
+
+TEST(Wire, TheGuideIsHeardAsItIsSaid) {
+  const QByteArray said = Bytes(SomeGuide());
+  WireReader wire(said);
+  PlanGuide heard;
+  Take(wire, heard);
+  EXPECT_TRUE(wire.AtEnd());
+  EXPECT_EQ(Bytes(heard), said);
+  EXPECT_EQ(heard.bookmarks[1].target.at.y, 4);
+  EXPECT_TRUE(heard.layers[1].locked);
+}
+
+// Texts come to a list on the screen: one line each, and no longer than anybody reads.
+TEST(Wire, TextsOfAGuideAreOneLine) {
+  PlanGuide guide;
+  guide.labels = {QString(5000, QLatin1Char('x')), QStringLiteral("A\n\t\x1b[2J B\u202e")};
+  const QByteArray said = Bytes(guide);
+  WireReader wire(said);
+  PlanGuide heard;
+  Take(wire, heard);
+  EXPECT_TRUE(wire.AtEnd());
+  EXPECT_EQ(heard.labels[0].size(), kLongestLabel);
+  EXPECT_EQ(heard.labels[1], "A [2J B");
+}
+
+// A page of no number, a depth that no list shows, and more than anybody has, are lies.
+TEST(Wire, TargetsAndDepthsAreBounded) {
+  PlanGuide guide = SomeGuide();
+  guide.bookmarks[1].target.page = 0;
+  PlanGuide deep = SomeGuide();
+  deep.bookmarks[1].depth = kDeepestBookmark + 1;
+  PlanGuide many;
+  many.layers.resize(size_t(kMostLayers) + 1);
+  for (const PlanGuide& lie : {guide, deep, many}) {
+    const QByteArray said = Bytes(lie);
+    WireReader wire(said);
+    PlanGuide heard;
+    Take(wire, heard);
+    EXPECT_FALSE(wire.AtEnd());
+  }
 }
 
 TEST(Wire, NumbersThatNobodyMeansAreNotTaken) {

@@ -6,6 +6,7 @@
 #include "engine/mupdfcontexts.h"
 #include "engine/mupdfengine.h"
 #include "plans/filetail.h"
+#include "plans/sheetnumber.h"
 #include "support/memoryreader.h"
 
 // Opens any bytes as a plan, paints its first page small, reads its content, adds a mark, and opens
@@ -41,6 +42,12 @@ void Look(EnginePlan& plan) {
   uint32_t pixels[64 * 64];
   plan.Paint(*page, part, cancel, pixels);
   const PageContent content = plan.ReadContent(1, cancel);
+  SheetTitleOf(TextLinesOf(plan.ReadTexts(1, cancel)), content.size);
+  const PlanGuide guide = plan.ReadGuide();
+  for (const PageLink& link : plan.ReadLinks(1)) {
+    if (link.box.Empty()) __builtin_trap();
+  }
+  plan.ShowLayers(std::vector<bool>(guide.layers.size(), true));
   for (const PathPiece& path : content.paths) {
     Flattened(path);
     RectanglesOf(path);

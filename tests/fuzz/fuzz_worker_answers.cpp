@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include "plans/additioncheck.h"
+#include "plans/wireguide.h"
 #include "plans/workerplan.h"
 #include "support/memoryreader.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 using namespace tamo;
 
-constexpr int kCalls = 7;
+constexpr int kCalls = 11;
 
 PlanContents Contents() {
   PlanContents contents;
@@ -35,6 +36,17 @@ PageContent Content() {
   content.paths[0].steps.resize(2);
   content.pictures.resize(1);
   return content;
+}
+
+PlanGuide Guide() {
+  PlanGuide guide;
+  guide.labels = {QStringLiteral("A-101")};
+  PlanTarget target;
+  target.kind = PlanTarget::Kind::Page;
+  target.page = 2;
+  guide.bookmarks = {{QStringLiteral("Roof"), 1, target}};
+  guide.layers = {{QStringLiteral("A-WALL"), true, true}};
+  return guide;
 }
 
 // What an honest worker says to the calls below, in their order.
@@ -68,6 +80,18 @@ QByteArray Honest(int call) {
     case 7:
       PutOutcome(wire, 0, {});
       break;
+    case 8:
+      Put(wire, Content());
+      break;
+    case 9:
+      Put(wire, Guide());
+      break;
+    case 10:
+      Put(wire, std::vector<PageLink>{{{1, 2, 30, 40}, Guide().bookmarks[0].target}});
+      break;
+    case 11:
+      wire.Flag(true);
+      break;
     default:
       break;
   }
@@ -100,8 +124,8 @@ void Answer(int socket, int call, Bytes& bytes) {
     (void)!::write(socket, noise.constData(), size_t(noise.size()));
   }
   if (how % 8 == 1) message.body = bytes.Some(bytes.Next());
-  if (how % 8 == 2) message.call = bytes.Next() % 9;
-  if (how % 8 == 3) message.kind = static_cast<WireKind>(bytes.Next() % 14);
+  if (how % 8 == 2) message.call = bytes.Next() % 13;
+  if (how % 8 == 3) message.kind = static_cast<WireKind>(bytes.Next() % 18);
   for (unsigned i = how % 8 == 4 || how % 8 == 5 ? bytes.Next() % 8 : 0; i > 0; --i) {
     if (message.body.isEmpty()) break;
     const auto place =
@@ -163,5 +187,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     return 0;
   };
   if (plan.WriteWhole(sink, problem) == 0) Expect(written.startsWith("%PDF"));
+  for (const TextPiece& text : plan.ReadTexts(1, cancel).texts)
+    Expect(text.places.size() == size_t(text.text.size()));
+  const PlanGuide guide = plan.ReadGuide();
+  for (const PlanBookmark& bookmark : guide.bookmarks)
+    Expect(bookmark.depth <= kDeepestBookmark && bookmark.title.size() <= kLongestEntryTitle);
+  for (const PageLink& link : plan.ReadLinks(1))
+    Expect(link.target.kind != PlanTarget::Kind::Page || link.target.page > 0);
+  plan.ShowLayers({true});
   return 0;
 }

@@ -1,6 +1,7 @@
 #include <array>
 
 #include "engine/engineserver.h"
+#include "plans/wireguide.h"
 #include "support/fakeplanengine.h"
 #include "support/memoryreader.h"
 
@@ -22,6 +23,8 @@ QByteArray Honest(WireKind kind) {
       break;
     case WireKind::LoadPage:
     case WireKind::ReadContent:
+    case WireKind::ReadTexts:
+    case WireKind::ReadLinks:
     case WireKind::GoOn:
       wire.Number(1);
       break;
@@ -40,6 +43,9 @@ QByteArray Honest(WireKind kind) {
       Put(wire, changes);
       break;
     }
+    case WireKind::ShowLayers:
+      Put(wire, std::vector<bool>{true, false});
+      break;
     default:
       break;
   }
@@ -71,7 +77,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   server.Take({WireKind::Open, 1, Honest(WireKind::Open)});
   size_t at = 0;
   for (size_t i = 0; i < kMostMessages && at + 3 <= size; ++i) {
-    const auto kind = static_cast<WireKind>(1 + data[at] % 12);
+    const auto kind = static_cast<WireKind>(1 + data[at] % 16);
     const bool honest = (data[at] & 128) != 0;
     const size_t length = std::min(size_t(data[at + 2]), size - at - 3);
     const QByteArray lie(reinterpret_cast<const char*>(data + at + 3), qsizetype(length));

@@ -55,7 +55,8 @@ TEST_F(OstForm, TheBarStandsInOrder) {
                                 "NextPage &Next Page",    "Save &Save",
                                 "Printit &Print",         "Documentation D&ocumentation",
                                 "Settings1 &Settings",    "Exit E&xit",
-                                "ScheduleMenu Sche&d.",   "DrawMenu Dra&w"};
+                                "ScheduleMenu Sche&d.",   "DrawMenu Dra&w",
+                                "SheetsMenu &Go"};
   EXPECT_EQ(bar.filter(QRegularExpression("^(?!Spacer)")), expected);
   for (const char* spacer : {"Spacer1", "Spacer2", "Spacer3"}) {
     ASSERT_NE(ost.FindMenu(spacer), nullptr);

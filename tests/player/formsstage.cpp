@@ -176,6 +176,15 @@ void FormsStage::PlanPress(PagePoint at) {
   });
 }
 
+void FormsStage::PlanDrag(PagePoint from, PagePoint to) {
+  GoToPlan();
+  GetDesk().Dispatch([&] {
+    played_->Viewer().Press(from, false);
+    played_->Viewer().Move(to, false);
+    played_->Viewer().Release(to, false);
+  });
+}
+
 void FormsStage::PlanKey(const PlanStroke& stroke) {
   GoToPlan();
   Control* plan = GetDesk().Find(QStringLiteral("OST"))->Find(QStringLiteral("picPdfDraw"));

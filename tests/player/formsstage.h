@@ -33,6 +33,7 @@ class FormsStage : public Stage {
   void PlanLine(PagePoint from, PagePoint to) override;
   void PlanCircle(PagePoint at) override;
   void PlanPress(PagePoint at) override;
+  void PlanDrag(PagePoint from, PagePoint to) override;
   void PlanKey(const PlanStroke& stroke) override;
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;

@@ -2,6 +2,7 @@
 
 #include "common/desk.h"
 #include "common/textlines.h"
+#include "plans/ostform.h"
 #include "player/caret.h"
 #include "player/cast.h"
 #include "player/trouble.h"
@@ -40,7 +41,11 @@ QStringList Looker::Look(const QString& what) {
   if (LookAtMachine(word, rest, lines)) return lines;
   // What a sheet says comes from a thread of its own; a person looks when it is there.
   if (what.contains(QLatin1String("OST.")) && played_ != nullptr)
-    played_->GetDesk().Dispatch([this] { played_->Viewer().Snap().TellOfSheet(kPatience); });
+    played_->GetDesk().Dispatch([this] {
+      played_->Viewer().Snap().TellOfSheet(kPatience);
+      auto* ost = dynamic_cast<OSTForm*>(played_->FindForm(QStringLiteral("OST")));
+      if (ost != nullptr) ost->Ways().FinishReading(kPatience);
+    });
   QString text;
   if (rest.isEmpty() ? LookAtPlan(word, text) || LookAtProgram(word, text)
                      : LookAtState(word, rest, text))
@@ -85,7 +90,7 @@ bool Looker::LookAtPlan(const QString& word, QString& text) {
   static const QStringList words = {QStringLiteral("marks"), QStringLiteral("tool"),
                                     QStringLiteral("pen"),   QStringLiteral("zoom"),
                                     QStringLiteral("page"),  QStringLiteral("unit"),
-                                    QStringLiteral("shown")};
+                                    QStringLiteral("shown"), QStringLiteral("chosen")};
   const qsizetype at = words.indexOf(word);
   if (at < 0) return false;
   const PdfDraw& viewer = Program().Viewer();
@@ -109,6 +114,9 @@ bool Looker::LookAtPlan(const QString& word, QString& text) {
       break;
     case 5:
       text = viewer.UnitName();
+      break;
+    case 7:
+      text = ChosenLine(viewer);
       break;
     default:
       text = viewer.ShownFile();

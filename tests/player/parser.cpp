@@ -97,6 +97,7 @@ constexpr PlanVerb kPlanVerbs[] = {
     {"polygon", Act::PlanPolygon, kPlaces},
     {"cutout", Act::PlanCutOut, kPlaces},
     {"snap", Act::PlanSnap, 2},
+    {"drag", Act::PlanDrag, 4},
 };
 
 constexpr char kBlockStart[] = " <<END";

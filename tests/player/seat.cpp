@@ -132,6 +132,7 @@ void Seat::Do(const Step& step) {
     case Act::PlanPolyline:
     case Act::PlanPolygon:
     case Act::PlanCutOut:
+    case Act::PlanDrag:
       return DoOnPlan(step);
     default:
       return DoToControl(step);
@@ -227,6 +228,8 @@ void Seat::DoOnPlan(const Step& step) {
       return stage_->PlanCircle(point(0));
     case Act::PlanPress:
       return stage_->PlanPress(point(0));
+    case Act::PlanDrag:
+      return stage_->PlanDrag(point(0), point(2));
     case Act::PlanKey:
       return stage_->PlanKey(step.stroke);
     case Act::PlanScroll:

@@ -46,6 +46,7 @@ class Stage {
   virtual void PlanLine(PagePoint from, PagePoint to) = 0;
   virtual void PlanCircle(PagePoint at) = 0;
   virtual void PlanPress(PagePoint at) = 0;
+  virtual void PlanDrag(PagePoint from, PagePoint to) = 0;
   virtual void PlanKey(const PlanStroke& stroke) = 0;
   virtual void PlanScroll(double dx, double dy) = 0;
   virtual void PlanPage(int page) = 0;

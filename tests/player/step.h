@@ -47,6 +47,7 @@ enum class Act {
   PlanPolygon,
   PlanCutOut,
   PlanSnap,
+  PlanDrag,
   Write,
   Copy,
   Remove,

@@ -21,6 +21,9 @@ QString MarkLine(const Mark& mark) {
   };
   if (mark.kind == Mark::Kind::Circle)
     return QStringLiteral("circle %1 %2 %3").arg(mark.page).arg(place(0), mark.colour);
+  if (mark.kind == Mark::Kind::Legend)
+    return QStringLiteral("legend %1 %2 %3 ").arg(mark.page).arg(place(0), mark.colour) +
+           QString(mark.label).replace(QLatin1Char('\n'), QStringLiteral(" | "));
   QString line = QLatin1String(IsOutline(mark.kind)                ? "polygon"
                                : mark.kind == Mark::Kind::Polyline ? "polyline"
                                                                    : "line");
@@ -29,6 +32,15 @@ QString MarkLine(const Mark& mark) {
     line += QLatin1Char(' ') + place(i);
   return line + QLatin1Char(' ') + mark.colour + QLatin1Char(' ') + ShortNumber(mark.width) +
          QLatin1Char(' ') + mark.label;
+}
+
+QString ChosenLine(const PdfDraw& viewer) {
+  const Mark* mark = viewer.Hand().Chosen();
+  if (mark == nullptr) return QStringLiteral("none");
+  QString line = MarkLine(*mark);
+  if (viewer.Hand().Point() >= 0)
+    line += QStringLiteral(", point %1").arg(viewer.Hand().Point() + 1);
+  return mark->title.isEmpty() ? line : line + QStringLiteral(", \"%1\"").arg(mark->title);
 }
 
 bool PatternTakes(const FileBrowser& browser, const QString& fileName) {

@@ -5,6 +5,7 @@
 
 #include "common/control.h"
 #include "plans/mark.h"
+#include "plans/pdfdraw.h"
 
 namespace tamo::player {
 
@@ -17,6 +18,8 @@ bool PatternTakes(const FileBrowser& browser, const QString& fileName);
 // `line PAGE X1 Y1 X2 Y2 RRRGGGBBB WIDTH LABEL`, the same of a `polyline` and a `polygon` with all
 // their points, or `circle PAGE X Y RRRGGGBBB`.
 QString MarkLine(const Mark& mark);
+// The chosen mark, its point in hand from 1, and its title; "none" when none is chosen.
+QString ChosenLine(const PdfDraw& viewer);
 // Number text with at most two decimals.
 QString ShortNumber(double number);
 

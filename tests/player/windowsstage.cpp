@@ -91,6 +91,7 @@ class WindowsStage : public Stage {
   void PlanLine(PagePoint from, PagePoint to) override;
   void PlanCircle(PagePoint at) override;
   void PlanPress(PagePoint at) override;
+  void PlanDrag(PagePoint from, PagePoint to) override;
   void PlanKey(const PlanStroke& stroke) override;
   void PlanScroll(double dx, double dy) override;
   void PlanPage(int page) override;
@@ -402,6 +403,11 @@ void WindowsStage::PlanPress(PagePoint at) {
   PressOnPlan(at, at);
 }
 
+void WindowsStage::PlanDrag(PagePoint from, PagePoint to) {
+  Plan();
+  PressOnPlan(from, to);
+}
+
 void WindowsStage::PlanKey(const PlanStroke& stroke) {
   static const std::pair<tamo::PlanKey, Qt::Key> keys[] = {
       {tamo::PlanKey::Left, Qt::Key_Left},     {tamo::PlanKey::Right, Qt::Key_Right},
@@ -411,7 +417,8 @@ void WindowsStage::PlanKey(const PlanStroke& stroke) {
       {tamo::PlanKey::Undo, Qt::Key_Z},        {tamo::PlanKey::Redo, Qt::Key_Y},
       {tamo::PlanKey::Arc, Qt::Key_B},         {tamo::PlanKey::Snap, Qt::Key_S},
       {tamo::PlanKey::NextSnap, Qt::Key_Tab},  {tamo::PlanKey::Yes, Qt::Key_Y},
-      {tamo::PlanKey::No, Qt::Key_N},          {tamo::PlanKey::All, Qt::Key_A}};
+      {tamo::PlanKey::No, Qt::Key_N},          {tamo::PlanKey::All, Qt::Key_A},
+      {tamo::PlanKey::MarkBefore, Qt::Key_P},  {tamo::PlanKey::Delete, Qt::Key_Delete}};
   QWidget& plan = Plan();
   plan.setFocus(Qt::ShortcutFocusReason);
   Settle();

@@ -91,7 +91,7 @@ TEST_F(ShellTest, TheMenusStandInTheirOrder) {
   EXPECT_EQ(plan, QStringList({"ProjectS", "Pricing2", "Estimate", "Reports1", "ZoomOut", "ZoomIn",
                                "ScaleA", "GetFiles", "LinesColor", "LastPage", "NextPage", "Save",
                                "Printit", "Documentation", "Settings1", "Exit", "ScheduleMenu",
-                               "DrawMenu"}));
+                               "DrawMenu", "SheetsMenu"}));
   EXPECT_EQ(Ost().FindMenu(QStringLiteral("LockProject")), nullptr)
       << "a project is locked in mode 1 only";
 }

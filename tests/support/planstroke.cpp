@@ -13,7 +13,8 @@ bool PlanStrokeFromName(const QString& name, PlanStroke& stroke) {
       {"Undo", PlanKey::Undo},     {"Redo", PlanKey::Redo},
       {"Arc", PlanKey::Arc},       {"S", PlanKey::Snap},
       {"Tab", PlanKey::NextSnap},  {"Y", PlanKey::Yes},
-      {"N", PlanKey::No},          {"A", PlanKey::All}};
+      {"N", PlanKey::No},          {"A", PlanKey::All},
+      {"P", PlanKey::MarkBefore},  {"Delete", PlanKey::Delete}};
   PlanStroke read;
   QString rest = name.trimmed();
   for (;;) {

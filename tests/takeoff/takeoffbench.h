@@ -53,7 +53,7 @@ class RecordingRefresh : public TakeoffReportRefresh {
 // A plan whose marks have the texts that were measured as their names.
 class RecordingMarks : public MeasuredMarks {
  public:
-  EntryMarks MarksOf(const std::vector<Measured>& fields) override {
+  EntryMarks MarksOf(const std::vector<Measured>& fields, const EnteredLine&) override {
     EntryMarks found{QStringLiteral("Larkspur"), {}};
     for (const Measured& field : fields) {
       if (measured.removeOne(field.text)) found.names += field.text;

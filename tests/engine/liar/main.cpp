@@ -55,7 +55,7 @@ int main() {
   while (ReceiveMessage(kWorkerSocket, message)) {
     if (random() % 30 == 0) return 0;
     WireMessage said{WireKind::Answer, message.call, AnswerTo(message, random)};
-    if (random() % 8 == 0) said.kind = static_cast<WireKind>(random() % 14);
+    if (random() % 8 == 0) said.kind = static_cast<WireKind>(random() % 18);
     if (random() % 8 == 0) said.call += static_cast<uint32_t>(random() % 3);
     SendMessage(kWorkerSocket, said);
     if (said.call != message.call || said.kind != WireKind::Answer) {
