@@ -45,10 +45,19 @@ class TakeoffPlay {
     return took;
   }
 
-  // The next line of the room is in work.
+  // The line is ended, by nothing in its length and its height, and the next of the room is in
+  // work.
   void NextLine() {
+    Desk& desk = program_.GetDesk();
+    for (TextField* field : {&rooms_.Length, &rooms_.How}) {
+      field->Clear();
+      desk.PressKey(*field, Key::Named(Key::Name::Enter));
+    }
+    // Behind the last room it begins anew.
+    if (!rooms_.Visible()) desk.Dispatch([this] { rooms_.TakeOffRoomFinishSchedule(nullptr); });
+    if (rooms_.RoomList.Empty()) return;
     line_ = (line_ + 1) % rooms_.RoomList.Count();
-    program_.GetDesk().ClickRow(rooms_.RoomList, line_);
+    desk.ClickRow(rooms_.RoomList, line_);
   }
 
   // Another room, saved as an Enter saves it.
