@@ -2,6 +2,7 @@
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QProgressDialog>
+#include <QSplitter>
 
 #include "program/program.h"
 #include "windows/comparepanel.h"
@@ -161,6 +162,16 @@ FindBar* FindText(Builder& b, PlanCanvas& canvas) {
   return find;
 }
 
+// What stands between the thumbnails and the plan; both share its height as the user likes.
+QWidget* Beside(Builder& b) {
+  auto* beside = new QSplitter(Qt::Vertical);
+  beside->setChildrenCollapsible(false);
+  beside->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+  beside->addWidget(PlanPanels(b, Browser(b)));
+  beside->addWidget(ComparePanel(b));
+  return beside;
+}
+
 }  // namespace
 
 void LayOutOST(Builder& b) {
@@ -170,11 +181,7 @@ void LayOutOST(Builder& b) {
   row->setSpacing(0);
   PlanThumbnails* thumbnails = Thumbnails(b, *canvas);
   row->addWidget(thumbnails);
-  auto* beside = new QVBoxLayout;
-  beside->setSpacing(0);
-  beside->addWidget(PlanPanels(b, Browser(b)));
-  beside->addWidget(ComparePanel(b), 1);
-  row->addLayout(beside);
+  row->addWidget(Beside(b));
   BindPlanWays(b, *canvas, *thumbnails);
   auto* middle = new QVBoxLayout;
   middle->setSpacing(0);
