@@ -166,6 +166,7 @@ FindBar* FindText(Builder& b, PlanCanvas& canvas) {
 QWidget* Beside(Builder& b) {
   auto* beside = new QSplitter(Qt::Vertical);
   beside->setChildrenCollapsible(false);
+  beside->setHandleWidth(2);
   beside->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
   beside->addWidget(PlanPanels(b, Browser(b)));
   beside->addWidget(ComparePanel(b));
