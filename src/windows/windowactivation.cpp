@@ -35,7 +35,8 @@ void WindowActivation::Activated(FormWindow& window, bool syncing) {
     return;
   }
   if (&window.GetForm() == desk_.Active()) {
-    // It is in front after all: another one that came before was only passing, as a window just shown is.
+    // It is in front after all: another one that came before was only passing, as a window just
+    // shown is.
     reported_ = nullptr;
     reportTimer_.stop();
     return;

@@ -195,6 +195,23 @@ TEST_F(BadPlans, ABlankSheetStandsForASlowPlanUntilItIsRead) {
   EXPECT_EQ(pages, 2);
 }
 
+TEST_F(BadPlans, OnlyAPlanInSightIsWaitedFor) {
+  HeldDisk slow;
+  Files slowFiles(slow);
+  PdfDraw viewer(slowFiles, engine);
+  const QString good = Write("good.pdf", MakePdf({PdfPage(), PdfPage()}));
+  viewer.SetPatience(10000, 0);
+  viewer.SetInSight(false);
+  viewer.OpenFile(good, "");
+  EXPECT_EQ(viewer.PageCount(), 1);
+  *slow.held = false;
+  ASSERT_TRUE(viewer.FinishOpening(10000));
+  EXPECT_EQ(viewer.PageCount(), 2);
+  viewer.SetInSight(true);
+  ASSERT_EQ(viewer.OpenFile(good, ""), 0);
+  EXPECT_EQ(viewer.PageCount(), 2);
+}
+
 namespace {
 
 // Three pages of different sizes under a tree of its own making; `kids` and `count` of its root.

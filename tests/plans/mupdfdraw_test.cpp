@@ -290,19 +290,6 @@ TEST_F(RealPlan, SlowOpeningComesBackWithABlankSheetAndKeepsThePageAskedFor) {
   EXPECT_GE(pages, 2);
 }
 
-TEST_F(RealPlan, OnlyAPlanInSightIsWaitedFor) {
-  const QString three = Write("a.pdf", MakePdf({{kLetter}, {kLetter}, {kLetter}}));
-  draw->SetPatience(10000, 0);
-  draw->SetInSight(false);
-  ASSERT_EQ(draw->OpenFile(three, ""), 0);
-  EXPECT_EQ(draw->PageCount(), 1);
-  ASSERT_TRUE(draw->FinishOpening(10000));
-  EXPECT_EQ(draw->PageCount(), 3);
-  draw->SetInSight(true);
-  ASSERT_EQ(draw->OpenFile(three, ""), 0);
-  EXPECT_EQ(draw->PageCount(), 3);
-}
-
 TEST_F(RealPlan, MissingFilesAndFoldersHaveTheirNumbers) {
   EXPECT_EQ(draw->OpenFile(Path("none.pdf"), ""), kFileNotFound);
   EXPECT_EQ(draw->OpenFile(Path("no/none.pdf"), ""), kPathNotFound);
