@@ -238,6 +238,7 @@ bool DrawingBoard::PlaceCircles(const std::vector<PagePoint>& places) {
     return true;
   }
   std::vector<Mark> marks;
+  marks.reserve(places.size());
   for (const PagePoint at : places) marks.push_back(NewMark(Mark::Kind::Circle, {at}));
   AddMarks(std::move(marks));
   return true;

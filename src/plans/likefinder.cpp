@@ -106,6 +106,7 @@ void DropLinesOfOthers(std::vector<Like>& likes) {
 void FindCrowded(std::vector<Like>& likes, const LikeShape& shape) {
   const double most = kCrowded * HullArea(shape.hull);
   std::vector<Like*> byPlace;
+  byPlace.reserve(likes.size());
   for (Like& like : likes) byPlace.push_back(&like);
   std::stable_sort(byPlace.begin(), byPlace.end(),
                    [](const Like* a, const Like* b) { return a->middle.x < b->middle.x; });

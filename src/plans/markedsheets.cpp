@@ -168,7 +168,7 @@ void MarkedSheets::ChangeMarks(const std::vector<Mark>& marks) {
 
 QString MarkedSheets::PlaceMark(Mark mark) {
   mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-  const QString name = mark.name;
+  QString name = mark.name;
   TakeStep({Step::What::Added, marks_.size(), std::move(mark), {}, true, false});
   return name;
 }
