@@ -8,7 +8,8 @@ std::vector<LikeLetter> LettersOf(const PageContent& content) {
   std::vector<LikeLetter> letters;
   for (const TextPiece& piece : content.texts) {
     if (piece.hidden || piece.clipped) continue;
-    for (qsizetype i = 0; i < piece.text.size(); ++i) {
+    const auto placed = std::min(piece.text.size(), static_cast<qsizetype>(piece.places.size()));
+    for (qsizetype i = 0; i < placed; ++i) {
       const PageBox& box = piece.places[static_cast<size_t>(i)].box;
       if (piece.text[i].isSpace()) continue;
       letters.push_back(
