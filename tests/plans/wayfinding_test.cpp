@@ -36,7 +36,7 @@ struct Books : PlanFixture {
     const PlanContents contents = plan->Open("");
     ASSERT_EQ(contents.error, 0);
     book.Want(plan, int(contents.sizes.size()), 1);
-    book.Wait(20000);
+    book.Wait(120000);  // a sanitizer takes its time
   }
   static QByteArray Labelled(const QList<PdfPage>& pages, const QByteArray& labels) {
     return MakePdf(pages).replace("/Type/Catalog",
