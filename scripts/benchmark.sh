@@ -5,7 +5,7 @@
 #
 # "quick": a tenth of the repetitions. Parts: all when none is named; "list" prints them, "page" only writes the page. What a
 # part leaves stands in build-bench/figures with the time of its run, so the page can be made piece by piece; a part that does
-# not end in its time leaves nothing and is named in the page. All take at most a quarter of an hour; wants a machine at rest.
+# not end in its time leaves nothing and is named in the page. All take twenty minutes; wants a machine at rest.
 # The peers of the plans are in mupdf-tools, that of the reports in ledger; a missing peer is named in the page, too.
 #
 # A new part is one line in "The parts" below. A program that uses the benchmark library is told in a table of
