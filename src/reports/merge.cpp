@@ -4,6 +4,7 @@
 #include "common/numbers.h"
 #include "records/arealine.h"
 #include "records/roomline.h"
+#include "reports/linesystems.h"
 #include "reports/reportmemory.h"
 #include "reports/takeoffwalk.h"
 
@@ -54,10 +55,19 @@ class Merger {
     if (also_ != nullptr) also_->BeginSheet(sheet.kind, sheet.name);
     const int unread = WalkLines(source_, sheet, [&](QStringView line) {
       if (also_ != nullptr) also_->Line(sheet.kind, line);
-      Add(sheet.kind, line, memory_.NumberOf(SystemOfLine(line)), ValueOf(line, quantity));
+      Add(sheet.kind, line, NumberOf(line), ValueOf(line, quantity));
     });
     if (also_ != nullptr) also_->EndSheet(sheet.kind);
     return unread;
+  }
+
+  int NumberOf(QStringView line) {
+    int number = lines_.Find(line);
+    if (number < 0) {
+      number = memory_.NumberOf(SystemOfLine(line));
+      lines_.Keep(line, number);
+    }
+    return number;
   }
 
   // `value` is what the line adds to a system that is already listed.
@@ -89,6 +99,7 @@ class Merger {
   ReportMemory own_;  // for the numbers of the names, when the source has none
   ReportMemory& memory_;
   TakeoffVisitor* also_;
+  LineSystems lines_;       // of the memory
   std::vector<int> rowOf_;  // of each system of the memory; -1 for none
   std::vector<MergedRow> rows_;
   std::vector<bool> summed_;

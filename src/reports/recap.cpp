@@ -1,5 +1,8 @@
 #include "reports/recap.h"
 
+#include <algorithm>
+#include <initializer_list>
+
 #include "common/columns.h"
 #include "common/numbers.h"
 #include "records/itemline.h"
@@ -17,6 +20,12 @@ namespace {
 const QString kCents = QStringLiteral(".00");
 const QString kRule =
     QStringLiteral("    ") + QString(65, QLatin1Char('_'));  // over the totals of the sheet
+
+// So many blanks, or none, as a part of a line.
+QStringView Gap(qsizetype count) {
+  static const QString blanks(40, QLatin1Char(' '));
+  return QStringView(blanks).first(std::clamp<qsizetype>(count, 0, blanks.size()));
+}
 
 class RecapSheet {
  public:
@@ -75,6 +84,7 @@ class RecapSheet {
 
  private:
   void Add(const QString& line) { report_.lines += line; }
+  void AddOf(std::initializer_list<QStringView> parts) { report_.lines.Add(parts); }
   // The next line reads badly: ".00" stands behind cents.
   void NoteRow() { centRows_.push_back(static_cast<int>(report_.lines.size())); }
 
@@ -89,48 +99,49 @@ class RecapSheet {
 
   void PricedRow(const MergedRow& row) {
     const LineRollUp line = RollUpLine(shelf_.Blocks(), row.value, row.name, markups_, standing_);
-    Add(QStringLiteral("  ") + row.name + GrownBlanks(35 - row.name.size() - row.quantity.size()) +
-        row.quantity + QLatin1Char(' ') + GrownRight(row.units, 5) + QStringLiteral("EUP ") +
-        GrownLeft(line.unitPrice, 8) + GrownLeft(NumberText(line.total), 11) + kCents);
+    const QString total = NumberText(line.total);
+    AddOf({u"  ", row.name, Gap(35 - row.name.size() - row.quantity.size()), row.quantity, u" ",
+           row.units, Gap(5 - row.units.size()), u"EUP ", Gap(8 - line.unitPrice.size()),
+           line.unitPrice, Gap(11 - total.size()), total, kCents});
     if (detailed_) {
       DetailedFigures(line);
     } else {
-      Figure(QStringLiteral("Labor     "), SignedNumberText(line.rawLabor), 37);
-      Figure(QStringLiteral("Material  "), SignedNumberText(line.rawMaterial), 37);
-      Figure(QStringLiteral("Markups          "), NumberText(line.markups), 30);
+      Figure(u"     Labor     ", SignedNumberText(line.rawLabor), 37);
+      Figure(u"     Material  ", SignedNumberText(line.rawMaterial), 37);
+      Figure(u"     Markups          ", NumberText(line.markups), 30);
     }
     table_.Priced(row, line, markups_);
     total_ += line.total;
     manhours_ += line.manhours;
   }
 
-  void Figure(const QString& label, const QString& figure, int width) {
-    Add(Blanks(5) + label + GrownLeft(figure, width) + kCents);
+  void Figure(QStringView label, const QString& figure, qsizetype width) {
+    AddOf({label, Gap(width - figure.size()), figure, kCents});
   }
 
   void DetailedFigures(const LineRollUp& line) {
     const double labor = line.rawLabor;
     const double material = line.rawMaterial;
-    Detail(QStringLiteral("-Raw Labor       "), labor);
-    Detail(QStringLiteral("Labor Overhead   "), markups_.LOH * labor);
-    Detail(QStringLiteral("Labor Tax        "), markups_.LTX * labor);
-    Detail(QStringLiteral("Labor Markup     "), markups_.LMU * labor);
+    Detail(u"          -Raw Labor       ", labor);
+    Detail(u"          Labor Overhead   ", markups_.LOH * labor);
+    Detail(u"          Labor Tax        ", markups_.LTX * labor);
+    Detail(u"          Labor Markup     ", markups_.LMU * labor);
     Misc(labor);
-    Detail(QStringLiteral("-Raw Material    "), material);
-    Detail(QStringLiteral("Material Overhead"), markups_.MOH * material);
-    Detail(QStringLiteral("Material Tax     "), markups_.MTX * material);
-    Detail(QStringLiteral("Material Markup  "), markups_.MMU * material);
+    Detail(u"          -Raw Material    ", material);
+    Detail(u"          Material Overhead", markups_.MOH * material);
+    Detail(u"          Material Tax     ", markups_.MTX * material);
+    Detail(u"          Material Markup  ", markups_.MMU * material);
     Misc(material);
   }
 
   void Misc(double raw) {
-    Detail(QStringLiteral("Misc. Overhead   "), markups_.MIOH * raw);
-    Detail(QStringLiteral("Misc. Tax        "), markups_.MITX * raw);
-    Detail(QStringLiteral("Misc. Markup     "), markups_.MIMU * raw);
+    Detail(u"          Misc. Overhead   ", markups_.MIOH * raw);
+    Detail(u"          Misc. Tax        ", markups_.MITX * raw);
+    Detail(u"          Misc. Markup     ", markups_.MIMU * raw);
   }
 
-  void Detail(const QString& label, double dollars) {
-    Add(Blanks(10) + label + GrownLeft(NumberText(Truncated(dollars)), 13) + kCents);
+  void Detail(QStringView label, double dollars) {
+    Figure(label, NumberText(Truncated(dollars)), 13);
   }
 
   // The total as it stands now. A total that ends in cents is followed by ".00" like any other.

@@ -61,6 +61,11 @@ namespace {
           .arg(system, block.material, what));
 }
 
+[[noreturn]] void RefuseQuantity(const QString& system) {
+  throw RunTimeFailure(kDivisionByZero,
+                       QStringLiteral("The system \"%1\" has no quantity.").arg(system));
+}
+
 }  // namespace
 
 void RefuseOrderRatio(const PricedBlock& block, const QString& system) {
@@ -127,8 +132,8 @@ LineRollUp RollUpLine(const std::vector<PricedBlock>& blocks, double quantity,
   line.rawLabor = Rounded(labor);
   line.total = Rounded(line.rawLabor + line.rawMaterial + line.markups);
   CheckFigures({line.markups, line.total}, system);
-  line.unitPrice = UnitPriceText(Divided(
-      line.total, quantity, QStringLiteral("The system \"%1\" has no quantity.").arg(system)));
+  if (quantity == 0) RefuseQuantity(system);
+  line.unitPrice = UnitPriceText(line.total / quantity);
   return line;
 }
 

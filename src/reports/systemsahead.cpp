@@ -58,6 +58,7 @@ void SystemsAhead::Read(const QString& name, Slot& slot) {
     SystemAhead& found = slot.found;
     if (NameRefusal(name).isEmpty()) {
       found.path = source_.project.SystemFile(name);
+      if (source_.progress) slot.stamp = source_.files.GetDisk().Stamp(found.path);
       slot.whole = source_.files.ReadStored(found.path, found.text) == kNoError;
     }
     if (slot.whole && takesApart_)
@@ -71,9 +72,12 @@ void SystemsAhead::Read(const QString& name, Slot& slot) {
   slot.done.notify_one();
 }
 
-// A save that waits is read from memory, and reading well makes a former failure good.
-bool SystemsAhead::NothingPending() const {
-  return source_.files.PendingSaves().empty() && source_.files.ReadFailures().empty();
+// What was read still counts: a save that waits would be read from memory, and reading well would
+// make a former failure good.
+bool SystemsAhead::Stands(const Slot& slot) const {
+  Files& files = source_.files;
+  if (!slot.whole || !files.PendingSaves().empty() || !files.ReadFailures().empty()) return false;
+  return !slot.stamp.Known() || slot.stamp == files.GetDisk().Stamp(slot.found.path);
 }
 
 bool SystemsAhead::Take(const QString& name, SystemAhead& system) {
@@ -83,7 +87,7 @@ bool SystemsAhead::Take(const QString& name, SystemAhead& system) {
   for (int i = 0; i < kGlances && !slot.done; ++i) std::this_thread::yield();
   slot.done.wait(false);
   waiting_ -= slot.found.text.size();
-  if (!slot.whole || !NothingPending()) {
+  if (!Stands(slot)) {
     slot.found = {};
     return false;
   }

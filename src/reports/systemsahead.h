@@ -25,7 +25,8 @@ struct SystemAhead {
 // The systems of a report, read and taken apart by the thread that reads the sheets ahead while the
 // asking thread is at the sheets before them. Each file is read by one of the two, whoever comes to
 // its name first. Only what was read well is handed over: whatever is wrong with a file or a figure
-// in it, the asking thread meets itself, in its turn, and tells it.
+// in it, the asking thread meets itself, in its turn, and tells it. A report that lets the window
+// live on meanwhile reads a system again that was changed before its turn came.
 class SystemsAhead {
  public:
   // The source outlives it.
@@ -47,12 +48,13 @@ class SystemsAhead {
     std::atomic<bool> done = false;
     bool whole = false;  // the text is there
     SystemAhead found;
+    FileStamp stamp;  // before it was read, where it can change
   };
 
   bool ReadNew(QStringView line);
   Slot& SlotOf(QStringView name, bool& isNew);
   void Read(const QString& name, Slot& slot);
-  bool NothingPending() const;
+  bool Stands(const Slot& slot) const;
 
   const ReportSource& source_;
   const bool takesApart_;  // nobody remembers the systems

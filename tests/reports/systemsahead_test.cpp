@@ -14,9 +14,9 @@
 
 #include "common/failure.h"
 #include "everyreport.h"
+#include "manydisk.h"
 #include "plaincopies.h"
 #include "randomproject.h"
-#include "reportbench.h"
 #include "reports/copies.h"
 #include "reports/reportmemory.h"
 
@@ -90,59 +90,6 @@ TEST(SystemsAhead, EveryReportIsThatOfOneThread) {
   EXPECT_GT(whole, 300);
   EXPECT_GT(failures, 300);
 }
-
-// Many rooms of some systems each.
-class ManyDisk : public MemoryDisk {
- public:
-  ManyDisk(int rooms, int systems) {
-    QByteArray list;
-    for (int room = 0; room < rooms; ++room) {
-      const QByteArray name = "Room " + QByteArray::number(room);
-      list += name + "\r\nTrue\r\n";
-      QByteArray lines = "9\r\n";
-      for (int line = 0; line < 20; ++line) {
-        lines += Name((room * 20 + line * 7) % systems).leftJustified(32) +
-                 QByteArray::number(line + 1).rightJustified(14) + " SF\r\n";
-      }
-      contents.insert(S("/p/Rooms/") + QString::fromUtf8(name) + S(".rfs"), lines);
-    }
-    contents.insert(S("/p/Rooms/Rooms.tamo"), list);
-    for (int system = 0; system < systems; ++system)
-      contents.insert(PathOf(system), Text(system, 1 + system % 9));
-  }
-  static QByteArray Name(int system) { return "System " + QByteArray::number(system); }
-  static QString PathOf(int system) {
-    return S("/p/Systems/") + QString::fromUtf8(Name(system)) + S(".sys");
-  }
-  static QByteArray Text(int system, int price) {
-    return Name(system) + "\r\nSF\r\n0.00\r\n\r\n\x01\r\n\r\n\r\nBoard\r\nEA\r\n" +
-           QByteArray::number(price) +
-           ".50\r\n32\r\nupo\r\n45\r\nupm\r\n5\r\n41.50\r\n\r\n\r\n\r\n";
-  }
-
-  int Read(const QString& path, QByteArray& bytes) override {
-    const std::lock_guard lock(mutex_);
-    if (path.endsWith(S(".sys"))) {
-      ++reads[path];
-      if (std::this_thread::get_id() != asking_) ++elsewhere;
-    }
-    ++all;
-    const int error = MemoryDisk::Read(path, bytes);
-    Changed(path, bytes);
-    return error;
-  }
-
-  QHash<QString, int> reads;
-  std::atomic<int> elsewhere = 0;
-  std::atomic<int> all = 0;
-
- protected:
-  virtual void Changed(const QString&, QByteArray&) {}
-
- private:
-  const std::thread::id asking_ = std::this_thread::get_id();
-  std::mutex mutex_;
-};
 
 TEST(SystemsAhead, EachFileIsReadOnceByOneOfTheTwo) {
   int elsewhere = 0;
@@ -231,6 +178,43 @@ TEST(SystemsAhead, AWaitingSaveIsReadInsteadOfWhatWasReadBefore) {
   };
   const TakeoffCopy copy = FieldCopy(source);
   ASSERT_FALSE(files.PendingSaves().empty());  // this disk can't be written
+  int beams = 0;
+  for (qsizetype row = 0; row < copy.lines.size(); ++row)
+    beams += copy.lines[row].contains(S("Beam"));
+  EXPECT_EQ(beams, 100);
+}
+
+// So does one that was stored meanwhile.
+TEST(SystemsAhead, ASystemThatIsStoredBeforeItsTurnCountsAsItWasStored) {
+  class StampedDisk : public ManyDisk {
+   public:
+    StampedDisk() : ManyDisk(200, 40) {}
+    void Store(const QString& path, const QByteArray& text) {
+      const std::lock_guard lock(stamps_);
+      ++numbers_[path];
+      Put(path, text);
+    }
+    FileStamp Stamp(const QString& path) override {
+      const std::lock_guard lock(stamps_);
+      return {1, numbers_.value(path), 100, 1, 1, qint64(1) << 60};
+    }
+
+   private:
+    std::mutex stamps_;
+    QHash<QString, quint64> numbers_;
+  };
+  StampedDisk disk;
+  Files files(disk);
+  ReportSource source = SourceOf(files);
+  source.progress = [&](int done, int) {
+    // By now it may have been read ahead, or not.
+    if (done == 1) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(5));
+      disk.Store(ManyDisk::PathOf(38), ManyDisk::Text(38, 1).replace("Board", "Beam"));
+    }
+    return true;
+  };
+  const TakeoffCopy copy = FieldCopy(source);
   int beams = 0;
   for (qsizetype row = 0; row < copy.lines.size(); ++row)
     beams += copy.lines[row].contains(S("Beam"));
