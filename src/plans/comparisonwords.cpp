@@ -126,7 +126,7 @@ bool Comparison::TakeKey(const PlanStroke& stroke) {
 
 // What is in work goes first, then the points that were asked for, then the other plan.
 bool Comparison::TakeEscape() {
-  if (viewer_.WorkFrom() || viewer_.CheckNext() || viewer_.BoxNext() || viewer_.Box() ||
+  if (viewer_.WorkFrom() || viewer_.CheckNext() || viewer_.Box().Asked() || viewer_.Box().Drawn() ||
       viewer_.Same().Asking() || viewer_.Hand().Chosen() != nullptr)
     return false;
   if (AsksPoints()) {

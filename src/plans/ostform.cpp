@@ -226,7 +226,7 @@ void OSTForm::BindView() {
 }
 
 void OSTForm::EnterOnPlan() {
-  const bool boxed = viewer_.Tool() == PlanTool::None && viewer_.Box().has_value();
+  const bool boxed = viewer_.Tool() == PlanTool::None && viewer_.Box().Drawn().has_value();
   if (boxed && onEnterBox && onEnterBox()) return;
   measure_.ReturnFocus();
 }

@@ -182,7 +182,7 @@ PagePoint PlanCanvas::Pointed(const QMouseEvent& event) {
 
 // A hand with a finger over a link, while a click on it follows it.
 void PlanCanvas::ShowPointer(const QPointF& place) {
-  const bool follows = viewer_.Tool() == PlanTool::None && !viewer_.BoxNext() && linkAt;
+  const bool follows = viewer_.Tool() == PlanTool::None && !viewer_.Box().Asked() && linkAt;
   const QString link = follows ? linkAt(PageAt(place)) : QString();
   if (viewport()->toolTip() == link) return;
   viewport()->setToolTip(link);
@@ -196,7 +196,8 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   FinishScroll();
   panFrom_ = event->position();
   pressedAt_ = event->position();
-  const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext() || viewer_.PointNext();
+  const bool tool =
+      viewer_.Tool() != PlanTool::None || viewer_.Box().Asked() || viewer_.PointNext();
   panning_ = !left || !tool;
   pulled_ = false;
   if (!left) return;

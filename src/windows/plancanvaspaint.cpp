@@ -113,14 +113,14 @@ void PlanCanvas::PaintWork(QPainter& painter) const {
   }
   if (const std::optional<Mark> outline = viewer_.OutlineInWork())
     PaintMark(painter, *outline, viewer_.MarkerSize());
-  const std::optional<DrawnBox>& box = viewer_.Box();
+  const std::optional<DrawnBox>& box = viewer_.Box().Drawn();
   if (box.has_value() && box->page == viewer_.Page()) {
     painter.setPen(QPen(CurrentLook().accent.darker(110), 2 / Scale(), Qt::DashLine));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(QPointF(box->topLeft.x, box->topLeft.y),
-                            QPointF(box->bottomRight.x, box->bottomRight.y)));
+    painter.drawRect(QRectF(QPointF(box->place.left, box->place.top),
+                            QPointF(box->place.right, box->place.bottom)));
   }
-  const bool pointing = viewer_.Tool() != PlanTool::None || viewer_.BoxNext() ||
+  const bool pointing = viewer_.Tool() != PlanTool::None || viewer_.Box().Asked() ||
                         viewer_.PointNext() || viewer_.Hand().Holds();
   if (!pointing || !hasFocus()) return;
   const PagePoint hair = viewer_.CrossHair();
