@@ -15,6 +15,7 @@
 #include "windows/planmarks.h"
 #include "windows/planpanels.h"
 #include "windows/plantoolbar.h"
+#include "windows/roles.h"
 
 // The plan: thumbnails on the left, the plan in the middle with its tools over it, a narrow column
 // of what is looked at all the time on the right.
@@ -203,7 +204,7 @@ void LayOutOST(Builder& b) {
       QStringLiteral("On the plan: arrows move the cross hair, Space sets a point, Enter goes back "
                      "to the field."));
   keys->setFont(PromptFont());
-  keys->setProperty("role", QStringLiteral("prompt"));
+  MakeQuiet(*keys);
   window.StatusLine().addWidget(keys);
   window.firstSize = {1340, 700};
 }
