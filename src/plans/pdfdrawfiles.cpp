@@ -85,6 +85,7 @@ QString PdfDraw::ShownFile() const {
 // A plan begins: its pages and marks are not known yet.
 void PdfDraw::BeginPlan(const QString& path) {
   comparison_->End();
+  hand_.Forget();
   path_ = path;
   notices_.reservation.clear();
   notices_.caution.clear();
