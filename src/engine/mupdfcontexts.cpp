@@ -11,7 +11,7 @@ namespace tamo {
 namespace {
 
 constexpr size_t kHeader = 16;  // keeps the alignment of what follows
-constexpr size_t kStore = size_t(48) << 20;
+constexpr size_t kStore = size_t(16) << 20;  // what pages share, and parts of pictures
 constexpr int kStreamBuffer = 16384;
 
 std::atomic<qint64> memoryInUse = 0;

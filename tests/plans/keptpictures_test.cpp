@@ -1,8 +1,14 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
+#include <fstream>
 #include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -24,7 +30,7 @@ size_t AliveOf(const Pictures& pictures) {
                                            [](const auto& picture) { return !picture.expired(); }));
 }
 
-std::shared_ptr<const Picture> SquareOf(int side) {
+std::shared_ptr<Picture> SquareOf(int side) {
   auto picture = std::make_shared<Picture>();
   picture->width = picture->height = side;
   picture->pixels.resize(static_cast<size_t>(side) * static_cast<size_t>(side));
@@ -169,6 +175,42 @@ TEST(KeptPictures, APageThatNeverCanBeReadIsSaid) {
   painter.Look({2, 1, 0, 0, 0, 100, 100});
   ASSERT_TRUE(painter.WaitUntilSharp(20000));
   EXPECT_EQ(painter.TakeFailedPages(), std::vector<int>{2});
+}
+
+// Megabytes of this process that are resident.
+double Resident() {
+  double pages = 0;
+  std::ifstream("/proc/self/statm") >> pages >> pages;
+  return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+// Pictures are made on many threads and dropped on others, with smaller things between them.
+TEST(KeptPictures, TheirMemoryGoesBackToTheSystem) {
+  std::vector<std::unique_ptr<std::string>> between;
+  std::mutex mutex;
+  const double before = Resident();
+  for (int round = 0; round < 3; ++round) {
+    std::vector<std::shared_ptr<const Picture>> pictures;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 8; ++i) {
+      threads.emplace_back([&] {
+        for (int made = 0; made < 10; ++made) {
+          auto picture = SquareOf(1024);
+          picture->pixels.assign(picture->pixels.size(), 7);
+          auto small = std::make_unique<std::string>(5000, 'x');
+          const std::lock_guard<std::mutex> guard(mutex);
+          pictures.push_back(std::move(picture));
+          between.push_back(std::move(small));
+        }
+      });
+    }
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_GT(Resident() - before, 300);
+    pictures.clear();
+    EXPECT_LT(Resident() - before, 30);
+  }
+  EXPECT_EQ(SquareOf(16)->pixels[255], 0U);
+  EXPECT_EQ(SquareOf(1024)->pixels.back(), 0U);
 }
 
 }  // namespace
