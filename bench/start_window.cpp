@@ -51,7 +51,6 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   fonts.GoOn();
   QApplication::setQuitOnLastWindowClosed(false);
-  tamo::KeepSheetForFirstWindow();
   tamo::ApplyLook(tamo::Look::Of(QApplication::palette()));
   tamo::bench::StartedProgram started(QString::fromLocal8Bit(argv[1]),
                                       QString::fromLocal8Bit(argv[2]), [&fonts] { fonts.Wait(); });

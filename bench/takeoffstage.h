@@ -29,7 +29,7 @@ class Nobody : public SilentPlatform,
   void ShowMainForm() override {}
   void ShowProjectPanel() override {}
   void ShowOST() override {}
-  EntryMarks MarksOf(const std::vector<Measured>&) override { return {}; }
+  EntryMarks MarksOf(const std::vector<Measured>&, const EnteredLine&) override { return {}; }
   bool Reaches(const EntryMarks&) const override { return true; }
   void PutOn(const EntryMarks&, bool) override {}
 };

@@ -6,8 +6,8 @@ set -euo pipefail
 run_packages=(g++ cmake ninja-build ccache python3 qt6-base-dev libgl-dev libmupdf-dev libjbig2dec0-dev libopenjp2-7-dev
   libjpeg-dev libfreetype-dev libharfbuzz-dev libgumbo-dev libmujs-dev zlib1g-dev fonts-dejavu-core fonts-noto-mono
   libxlsxwriter-dev qt6-charts-dev libqt6opengl6-dev qt6-qpa-plugins xvfb xauth)
-check_packages=(git libgtest-dev libgmock-dev clang clang-tidy clang-format libclang-rt-14-dev poppler-utils qpdf
-  ghostscript file dpkg-dev lintian desktop-file-utils appstream)
+check_packages=(git libgtest-dev libgmock-dev libbenchmark-dev clang clang-tidy clang-format libclang-rt-14-dev
+  poppler-utils qpdf ghostscript file dpkg-dev lintian desktop-file-utils appstream)
 
 packages=("${run_packages[@]}")
 [ "${1:-run}" = check ] && packages+=("${check_packages[@]}")

@@ -110,7 +110,6 @@ void SaveAndExit(tamo::Program& program) {
 // What must stand before there is an application.
 void Prepare() {
   tamo::KeepMemory();
-  tamo::KeepSheetForFirstWindow();
   QCoreApplication::setApplicationName(QStringLiteral("tamo"));
   QGuiApplication::setDesktopFileName(QStringLiteral("tamo"));
 }

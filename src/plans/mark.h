@@ -13,6 +13,10 @@ struct PagePoint {
   bool operator==(const PagePoint&) const = default;
 };
 
+// What a person can mean by a length or a place on paper, in points: a number, and not a mile off.
+bool IsOnPaper(double points);
+bool IsPlace(PagePoint at);
+
 // Width and height of a page in points, as it is looked at.
 struct PageSize {
   double width = 612;
@@ -42,6 +46,11 @@ struct Mark {
 // Longer ones are cut, or are none of this program's.
 inline constexpr int kLongestTitle = 60;
 inline constexpr int kLongestKept = 4000;
+inline constexpr int kLongestMarkLabel = 400;
+inline constexpr int kLongestLegend = 40000;  // the label of a legend
+// What a file says of a mark, brought to what a mark can be: its width, and the length of its
+// texts.
+void BringToBounds(Mark& mark);
 
 // More points than anybody sets; a mark of a file that has more is no mark of this program.
 inline constexpr size_t kMostMarkPoints = 10000;
@@ -65,6 +74,7 @@ QString LengthText(double length);
 inline constexpr char kMarkPrefix[] = "tamo-";
 QString MarkName(int number, unsigned random);
 int MarkNumber(const QString& name);  // 0 when the name is none of ours
+inline constexpr int kHighestMarkNumber = 999999999;
 
 // The distance of two places in points.
 double Distance(PagePoint from, PagePoint to);

@@ -82,7 +82,8 @@ int PdfDraw::WriteAnew(const QString& path, const MarkChanges& changes) {
   anew->size += bytes.size();
   session_ = std::move(anew);
   StartPainting();
-  ViewChanged();  // the new painter learns what is in sight
+  Raise(onPageChanged);  // whoever reads of the plan reads of this one
+  ViewChanged();         // the new painter learns what is in sight
   return kNoError;
 }
 

@@ -85,6 +85,7 @@ QString PdfDraw::ShownFile() const {
 // A plan begins: its pages and marks are not known yet.
 void PdfDraw::BeginPlan(const QString& path) {
   comparison_->End();
+  hand_.Forget();
   path_ = path;
   notices_.reservation.clear();
   notices_.caution.clear();
@@ -122,6 +123,7 @@ PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
       draw.TellOfSearch();
     });
   };
+  Box().onSymbol = [this](const DrawnBox& box) { SymbolBoxed(box); };
   same_.Search().onDone = [forms = forms_] {
     FormsThread::Post(forms, [](PdfDraw& draw) { draw.TellOfSearch(); });
   };

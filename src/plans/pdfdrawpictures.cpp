@@ -96,7 +96,7 @@ std::shared_ptr<EnginePlan> PdfDraw::OpenBeside(const QString& path, int& error)
 
 bool PdfDraw::PutMarks(const std::vector<Mark>& marks) {
   if (!MayMark()) return false;
-  for (const Mark& mark : marks) PutBack(mark);
+  TakeOver(marks);
   return true;
 }
 

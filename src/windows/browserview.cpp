@@ -8,6 +8,7 @@
 
 #include "common/paths.h"
 #include "windows/look.h"
+#include "windows/roles.h"
 
 namespace tamo {
 namespace {
@@ -56,7 +57,7 @@ BrowserView::BrowserView(FileBrowser::Kind kind, QWidget* parent)
   column->addWidget(folderLabel_);
   column->addWidget(rows_);
   folderLabel_->setFont(PromptFont());
-  folderLabel_->setProperty("role", QStringLiteral("quiet"));
+  MakeQuiet(*folderLabel_);
   folderLabel_->setTextFormat(Qt::PlainText);
   folderLabel_->setVisible(kind == FileBrowser::Kind::Folder);
   folderLabel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

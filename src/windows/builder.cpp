@@ -4,6 +4,7 @@
 #include "windows/fieldbinding.h"
 #include "windows/figurelabel.h"
 #include "windows/plainbindings.h"
+#include "windows/roles.h"
 
 namespace tamo {
 namespace {
@@ -38,7 +39,7 @@ QLabel* AsCaption(QLabel* label) {
 
 QLabel* AsPrompt(QLabel* label) {
   label->setFont(PromptFont());
-  label->setProperty("role", QStringLiteral("prompt"));
+  MakeQuiet(*label);
   label->setWordWrap(true);
   return label;
 }
@@ -152,7 +153,7 @@ QWidget* Builder::Group(const char* name) {
 
 QFrame* Builder::Panel(const char* name) {
   auto* panel = Named<QFrame>(name);
-  panel->setProperty("role", QStringLiteral("panel"));
+  GiveRole(*panel, Role::Panel);
   return Bound<Frame, FrameBinding>(*this, panel);
 }
 
@@ -189,13 +190,12 @@ QLabel* FixedPrompt(const QString& text) {
 QLabel* Section(const QString& text) {
   auto* label = new QLabel(text);
   label->setFont(SectionFont());
-  label->setProperty("role", QStringLiteral("section"));
   return label;
 }
 
 QFrame* Rule() {
   auto* rule = new QFrame;
-  rule->setProperty("role", QStringLiteral("rule"));
+  GiveRole(*rule, Role::Rule);
   rule->setFixedHeight(1);
   return rule;
 }

@@ -13,6 +13,7 @@
 #include "windows/fieldmenu.h"
 #include "windows/formwindow.h"
 #include "windows/look.h"
+#include "windows/roles.h"
 
 namespace tamo {
 namespace {
@@ -223,7 +224,7 @@ void LineBinding::ShowBeside() {
   if (beside_.isNull()) {
     if (text.isEmpty()) return;
     beside_ = new QLabel(edit_.window());
-    beside_->setProperty("role", QStringLiteral("tag"));
+    GiveRole(*beside_, Role::Tag);
     beside_->setFont(PromptFont());
     beside_->setAttribute(Qt::WA_TransparentForMouseEvents);
   }

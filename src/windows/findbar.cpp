@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "windows/look.h"
+#include "windows/roles.h"
 
 namespace tamo {
 namespace {
@@ -35,7 +36,7 @@ FindBar::FindBar(std::vector<std::unique_ptr<FindPlace>> places, Display& displa
   edit_->installEventFilter(this);
   result_->setObjectName(QStringLiteral("FindResult"));
   result_->setFont(PromptFont());
-  result_->setProperty("role", QStringLiteral("prompt"));
+  MakeQuiet(*result_);
   line->addWidget(caption);
   line->addWidget(edit_);
   line->addWidget(result_, 1);

@@ -12,6 +12,7 @@
 
 #include "windows/bodyarea.h"
 #include "windows/look.h"
+#include "windows/roles.h"
 #include "windows/windowplaces.h"
 
 namespace tamo {
@@ -60,7 +61,7 @@ QLabel* NewFootLabel(const QString& text) {
 }
 
 NoticeStrip::NoticeStrip(QWidget* parent) : QFrame(parent), text_(new QLabel) {
-  setProperty("role", QStringLiteral("notice"));
+  GiveRole(*this, Role::Notice);
   setCursor(Qt::PointingHandCursor);
   auto* line = new QHBoxLayout(this);
   line->setContentsMargins(2 * kGrid, kGrid, 2 * kGrid, kGrid);
@@ -131,7 +132,7 @@ void FormWindow::UseWholeWindow() {
 QHBoxLayout& FormWindow::StatusLine() {
   if (status_ != nullptr) return *status_;
   statusFrame_ = new QFrame(this);
-  statusFrame_->setProperty("role", QStringLiteral("foot"));
+  GiveRole(*statusFrame_, Role::Foot);
   status_ = new QHBoxLayout(statusFrame_);
   status_->setContentsMargins(2 * kGrid, kGrid / 2, 2 * kGrid, kGrid / 2);
   status_->setSpacing(kGrid);
@@ -153,7 +154,7 @@ void FormWindow::SetStatus(const QString& project, bool locked, const QString& f
     lockLine->addWidget(sign);
     lockLine->addWidget(lockLabel_);
     folderLabel_ = NewFootLabel();
-    folderLabel_->setProperty("role", QStringLiteral("quiet"));
+    MakeQuiet(*folderLabel_);
     line.insertWidget(0, projectLabel_);
     line.insertWidget(1, lock);
     line.insertStretch(2, 1);

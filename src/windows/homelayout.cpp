@@ -9,6 +9,7 @@
 #include "program/program.h"
 #include "windows/homecell.h"
 #include "windows/plainbindings.h"
+#include "windows/roles.h"
 #include "windows/scrolled.h"
 
 namespace tamo {
@@ -101,11 +102,11 @@ QWidget* ProjectState(Builder& b) {
   auto* column = ColumnIn(state);
   column->addWidget(Large(b, "HomeName"));
   QLabel* number = b.Text("HomeNumber");
-  number->setProperty("role", QStringLiteral("quiet"));
+  MakeQuiet(*number);
   column->addWidget(number);
   QLabel* uncounted = b.Text("HomeUncounted");
   uncounted->setWordWrap(true);
-  uncounted->setProperty("role", QStringLiteral("tag"));
+  GiveRole(*uncounted, Role::Tag);
   column->addWidget(uncounted);
   auto* grid = new QGridLayout;
   grid->setSpacing(kGrid);

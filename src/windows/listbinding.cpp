@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "windows/look.h"
+#include "windows/roles.h"
 
 namespace tamo {
 namespace {
@@ -43,7 +44,7 @@ void ListBinding::Float(QWidget& window) {
   window_ = &window;
   view_.setParent(&window);
   view_.hide();
-  view_.setProperty("role", QStringLiteral("drop"));
+  GiveRole(view_, Role::Drop);
   window.installEventFilter(this);
 }
 

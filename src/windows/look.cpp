@@ -1,12 +1,10 @@
 #include "windows/look.h"
 
 #include <QApplication>
-#include <QFontDatabase>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
-#include "windows/stylesheet.h"
 #include "windows/tamostyle.h"
 
 namespace tamo {
@@ -18,11 +16,6 @@ constexpr double kLeastContrast = 4.5;
 Look& Current() {
   static Look look = Look::Light();
   return look;
-}
-
-bool& SheetWaits() {
-  static bool waits = false;
-  return waits;
 }
 
 double Channel(double value) {
@@ -124,20 +117,17 @@ void ApplyLook(const Look& look) {
   Current() = look;
   QApplication::setStyle(new TamoStyle);
   QApplication::setPalette(look.Palette());
+  // What stands in a field is read as well when nothing can be entered there.
+  QPalette fields = look.Palette();
+  fields.setColor(QPalette::Disabled, QPalette::Text, look.text);
+  for (const char* kind : {"QLineEdit", "QPlainTextEdit", "QListView"})
+    QApplication::setPalette(fields, kind);
+  QToolTip::setPalette(look.Palette());
   QFont font = QApplication::font();
   if (font.pointSizeF() < kLeastPoints || font.pointSizeF() > 2 * kLeastPoints) {
     font.setPointSizeF(kLeastPoints);
     QApplication::setFont(font);
   }
-  if (!SheetWaits()) qApp->setStyleSheet(StyleSheetOf(look));
-}
-
-void KeepSheetForFirstWindow() {
-  SheetWaits() = true;
-}
-
-void PutOnSheet() {
-  if (std::exchange(SheetWaits(), false)) qApp->setStyleSheet(StyleSheetOf(Current()));
 }
 
 const Look& CurrentLook() {

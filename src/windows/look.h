@@ -39,13 +39,8 @@ struct Look {
 // Contrast of two colours, 1 to 21.
 double Contrast(const QColor& one, const QColor& other);
 
-// Gives the application its style, palette, fonts and style sheet. May be called again.
+// Gives the application its style, palette and fonts. May be called again.
 void ApplyLook(const Look& look);
-// From now on ApplyLook leaves the style sheet off, until PutOnSheet: widgets that come together
-// under it are measured against its rules at each step. At the start that is half of the time that
-// the first window takes.
-void KeepSheetForFirstWindow();
-void PutOnSheet();
 const Look& CurrentLook();
 
 QFont PromptFont();   // one size smaller than the fields

@@ -3,6 +3,7 @@
 #include <QPushButton>
 
 #include "program/program.h"
+#include "windows/roles.h"
 #include "windows/scrolled.h"
 
 namespace tamo {
@@ -13,7 +14,7 @@ constexpr int kColumnWidth = 34 * kGrid;
 void Stack(QVBoxLayout& column, const QString& caption, QWidget* field) {
   auto* label = new QLabel(caption);
   label->setFont(PromptFont());
-  label->setProperty("role", QStringLiteral("prompt"));
+  MakeQuiet(*label);
   label->setBuddy(field);
   column.addWidget(label);
   column.addWidget(field);
@@ -72,7 +73,7 @@ void Sheet(Builder& b, QVBoxLayout& column) {
 void Distance(Builder& b, QVBoxLayout& column) {
   QLineEdit* distance = b.Field("DistanceText", 0, QStringLiteral("Last distance or count"));
   distance->setFont(FigureFont());
-  distance->setProperty("role", QStringLiteral("figure"));
+  distance->setFixedHeight(6 * kGrid);
   distance->setAlignment(Qt::AlignRight);
   column.addWidget(distance);
 }

@@ -2,6 +2,7 @@
 
 #include "plans/markspanel.h"
 #include "windows/menukey.h"
+#include "windows/roles.h"
 
 namespace tamo {
 namespace {
@@ -27,7 +28,7 @@ QWidget* ListUnder(Builder& b, const char* list, const QString& name, const QStr
   auto* column = ColumnIn(box, kGrid / 2);
   auto* head = new QLabel(heads);
   head->setFont(FixedFont());
-  head->setProperty("role", QStringLiteral("prompt"));
+  MakeQuiet(*head);
   head->setContentsMargins(kGrid + 2, 0, 0, 0);
   head->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   column->addWidget(head);

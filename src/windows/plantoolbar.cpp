@@ -8,6 +8,7 @@
 #include "program/program.h"
 #include "windows/look.h"
 #include "windows/plancanvas.h"
+#include "windows/stylesheet.h"
 
 namespace tamo {
 namespace {
@@ -112,6 +113,7 @@ QWidget* PlanToolBar(Builder& b, PlanCanvas& canvas) {
   PdfDraw& viewer = b.GetProgram().Viewer();
   Desk& desk = b.GetProgram().GetDesk();
   auto* bar = new QWidget;
+  GiveSheet(*bar, OwnSheet::Tools);
   auto* line = new QHBoxLayout(bar);
   line->setContentsMargins(kGrid / 2, kGrid / 2, kGrid / 2, kGrid / 2);
   line->setSpacing(kGrid / 2);

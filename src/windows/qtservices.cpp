@@ -13,7 +13,6 @@ namespace {
 
 QMessageBox::StandardButton ShowBox(const QString& text, QMessageBox::Icon icon,
                                     QMessageBox::StandardButtons buttons) {
-  PutOnSheet();
   QMessageBox box(icon, QStringLiteral("Tamo"), text, buttons, QApplication::activeWindow());
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);

@@ -80,7 +80,7 @@ void RowsView::SetFound(const QString& text) {
 }
 
 QSize RowsView::sizeHint() const {
-  const int frame = 2 * (frameWidth() + 2);
+  const int frame = 2 * (frameWidth() + 1);
   return {WidthOfColumns(wantedColumns) + frame + verticalScrollBar()->sizeHint().width(),
           wantedRows * RowHeight() + frame};
 }

@@ -8,12 +8,15 @@
 #include "program/suggestions.h"
 #include "windows/display.h"
 #include "windows/look.h"
+#include "windows/roles.h"
+#include "windows/stylesheet.h"
 
 namespace tamo {
 
 SuggestionView::SuggestionView(QWidget& window)
     : QFrame(&window), names_(new QListWidget), keys_(new QLabel) {
-  setProperty("role", QStringLiteral("offer"));
+  GiveRole(*this, Role::Offer);
+  GiveSheet(*this, OwnSheet::Offer);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(1, 1, 1, 1);
   column->setSpacing(0);
@@ -26,7 +29,6 @@ SuggestionView::SuggestionView(QWidget& window)
   names_->setAccessibleName(QStringLiteral("Suggestions"));
   keys_->setText(QStringLiteral("Down and Enter, or End, takes one"));
   keys_->setFont(PromptFont());
-  keys_->setProperty("role", QStringLiteral("prompt"));
   keys_->setContentsMargins(kGrid, 2, kGrid, 2);
   column->addWidget(names_);
   column->addWidget(keys_);

@@ -1,6 +1,7 @@
 #include "windows/takeofflayout.h"
 
 #include "windows/menukey.h"
+#include "windows/roles.h"
 
 namespace tamo {
 
@@ -38,7 +39,7 @@ QWidget* TakeoffLines(Builder& b, const char* list, const QString& accessibleNam
   auto* column = ColumnIn(box, kGrid / 2);
   auto* head = new QLabel(heads);
   head->setFont(FixedFont());
-  head->setProperty("role", QStringLiteral("prompt"));
+  MakeQuiet(*head);
   head->setContentsMargins(kGrid + 2, 0, 0, 0);
   column->addWidget(head);
   RowsView* rows = b.List(list, accessibleName, 56, 12);
@@ -86,7 +87,7 @@ void TakeoffStatus(Builder& b) {
   line.addWidget(b.Text("StatusText"));
   line.addStretch(1);
   QLabel* caption = b.Text("ScaleLabel");
-  caption->setProperty("role", QStringLiteral("quiet"));
+  MakeQuiet(*caption);
   line.addWidget(caption);
   line.addWidget(b.Text("ScaleText"));
 }

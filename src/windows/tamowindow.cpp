@@ -17,7 +17,6 @@ QWidget* ProjectList(Builder& b) {
   // Without a list on the screen the place says what to do.
   auto* hint = FixedPrompt(QString());
   hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  hint->setMinimumWidth(list->sizeHint().width());
   column->addWidget(hint, 1);
   auto* jobs = b.Find<OrderedList>("JobsList");
   const Frame* panel = b.Find<Frame>("JobNFOFrame");
@@ -32,10 +31,13 @@ QWidget* ProjectList(Builder& b) {
             : QStringLiteral("Project, Open Project shows the projects of this data "
                              "folder.\nProject, Create Project begins a new one."));
   };
-  // Without list and panel the home page has the whole window.
-  b.Window().onSynced.push_back([side, jobs, panel] {
+  // Without list and panel the home page has the whole window. How wide the list is, is asked for
+  // only then: its font is no other's.
+  b.Window().onSynced.push_back([side, hint, list, jobs, panel] {
     const bool wanted = jobs->Shown() || panel->Shown();
-    if (side->isHidden() == wanted) side->setVisible(wanted);
+    if (side->isHidden() != wanted) return;
+    if (wanted) hint->setMinimumWidth(list->sizeHint().width());
+    side->setVisible(wanted);
   });
   return side;
 }

@@ -107,7 +107,6 @@ FormWindow& WindowKeeper::WindowOf(const Form& form) {
     window->installEventFilter(this);
     // What is hidden must be so before the window finds its size.
     parts_->display->ApplyContents();
-    PutOnSheet();
     window->resize(window->firstSize);
     parts_->places.Restore(form.Name(), *window);
     parts_->display->MarkDirty();

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QImage>
+#include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -13,6 +15,7 @@
 #include "windows/figurelabel.h"
 #include "windows/fontsahead.h"
 #include "windows/keeperroom.h"
+#include "windows/roles.h"
 #include "windows/rowsview.h"
 #include "windows/topictext.h"
 
@@ -60,22 +63,60 @@ TEST_F(LooksTest, TheDesktopsSettingCountsWhereNothingIsChosen) {
   EXPECT_TRUE(CurrentLook().dark);
 }
 
-TEST(FirstWindow, LooksTheSameWhenItsSheetComesLast) {
-  const test::WithApplication application;
-  const auto picture = [](bool last) {
-    if (last) {
-      qApp->setStyleSheet(QString());
-      KeepSheetForFirstWindow();
-    }
-    test::KeeperRoom room;
-    EXPECT_FALSE(qApp->styleSheet().isEmpty());
+QColor MiddleOf(QWidget& widget) {
+  const QImage picture = widget.grab().toImage();
+  return picture.pixelColor(picture.width() - 24, picture.height() - 8);
+}
+
+TEST_F(LooksTest, NotesShowOnTheirWholeGroundWhereTheKeyboardIs) {
+  Control& panel = *FormOf("Tamo").Find(QStringLiteral("JobNFOFrame"));
+  desk.Dispatch([&] { panel.Show(); });
+  auto& notes = *qobject_cast<QPlainTextEdit*>(
+      windows.WidgetOf(*FormOf("Tamo").Find(QStringLiteral("Notes"))));
+  for (const Look& look : {Look::Light(), Look::Dark()}) {
+    ApplyLook(look);
+    desk.Dispatch([&] { desk.Focus(*FormOf("Tamo").Find(QStringLiteral("JobName"))); });
     test::Settle();
-    // Below stands the folder of the test.
-    const QImage whole = room.Window("Tamo").grab().toImage();
-    return whole.copy(whole.rect().adjusted(0, 0, 0, -6 * kGrid));
-  };
-  const QImage last = picture(true);
-  EXPECT_EQ(last, picture(false));
+    EXPECT_EQ(MiddleOf(notes), look.base);
+    desk.Dispatch([&] { desk.Focus(*FormOf("Tamo").Find(QStringLiteral("Notes"))); });
+    test::Settle();
+    EXPECT_EQ(MiddleOf(notes), look.accentGround);
+  }
+}
+
+TEST_F(LooksTest, WhatStandsInAFieldIsReadAsWellWhenNothingCanBeEnteredThere) {
+  QLineEdit field;
+  field.ensurePolished();
+  EXPECT_EQ(field.palette().color(QPalette::Disabled, QPalette::Text), Look::Light().text);
+  EXPECT_EQ(field.sizeHint().height(), kFieldHeight);
+}
+
+TEST_F(LooksTest, AMenuHasTheColoursOfTheLookWhenItIsShown) {
+  QMenu menu;
+  menu.addAction(QStringLiteral("Delete"));
+  EXPECT_TRUE(menu.styleSheet().isEmpty());
+  menu.popup({});
+  EXPECT_TRUE(menu.styleSheet().contains(Look::Light().accent.name()));
+  ApplyLook(Look::Dark());
+  EXPECT_TRUE(menu.styleSheet().contains(Look::Dark().accent.name()));
+}
+
+TEST_F(LooksTest, NoSheetIsMatchedAgainstWhatIsAlwaysOnTheScreen) {
+  EXPECT_TRUE(qApp->styleSheet().isEmpty());
+  EXPECT_TRUE(Window("Tamo").styleSheet().isEmpty());
+}
+
+TEST(Frames, LeaveTheRoomOfTheirLine) {
+  test::Application();
+  ApplyLook(Look::Light());
+  QFrame frame;
+  GiveRole(frame, Role::Notice);
+  frame.resize(100, 50);
+  EXPECT_EQ(frame.contentsRect(), QRect(0, 2, 100, 48));
+  GiveRole(frame, Role::Panel);
+  EXPECT_EQ(frame.contentsRect(), QRect(1, 1, 98, 48));
+  GiveRole(frame, Role::None);
+  EXPECT_EQ(frame.contentsRect(), QRect(0, 0, 100, 50));
 }
 
 TEST(FirstWindow, FindsItsFontsWhetherTheyWereLookedForAheadOrNot) {
