@@ -79,7 +79,7 @@ class PlanPlay {
     if (Viewer().ShowsFile(set_)) return;
     Comparison& comparison = Viewer().Compared();
     Do([&] { comparison.Begin(set_, QString()); });
-    comparison.Settle(20000);
+    comparison.Jobs().Settle(20000);
     Look();
     Do([&] { comparison.NextLayer(); });
     Look();
