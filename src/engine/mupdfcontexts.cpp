@@ -10,7 +10,7 @@
 namespace tamo {
 namespace {
 
-constexpr size_t kHeader = 16;  // keeps the alignment of what follows
+constexpr size_t kHeader = 16;               // keeps the alignment of what follows
 constexpr size_t kStore = size_t(16) << 20;  // what pages share, and parts of pictures
 constexpr int kStreamBuffer = 16384;
 
