@@ -2,9 +2,11 @@
 // reports of every kind and of plan pages that are turned, looked at closely, measured on, compared
 // and looked through, each hour like the other. The program and the process that reads its plan are
 // told after each hour, with the most that they ever had; the last hour is held against the first.
-// Arguments: the program folder, and how many Enters the day has; a hundredth of them are reports
-// and half of that pages. TMPDIR in memory spares the device.
+// Arguments: the program folder, how many Enters the day has, of which a hundredth are reports, and
+// how many plan pages it has. TMPDIR in memory spares the device.
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <iterator>
 #include <memory>
 #include <string>
@@ -21,6 +23,7 @@ using namespace tamo;
 
 constexpr int kHours = 8;
 constexpr int kWholeDay = 100'000;  // Enters
+constexpr int kPages = 500;
 constexpr int kEntriesOfLine = 20;
 // Enters: what is painted leaves nothing, and takes longer than all the rest.
 constexpr int kBetweenPaintings = 10;
@@ -33,14 +36,14 @@ class Day {
     plans_.Open();
   }
 
-  void WorkAnHour(int enters) {
+  void WorkAnHour(int enters, int pages) {
     static constexpr const char* kReports[] = {"Quantities", "BreakDown", "BillOfMaterial",
                                                "fCopy",      "oCopy",     "RecapSheet"};
     for (int i = 1; i <= enters; ++i) {
       if (i % kEntriesOfLine == 0) play_.NextLine();
       play_.Enter();
       if (i % 100 == 0) play_.Choose(kReports[++reports_ % std::size(kReports)]);
-      if (i % 200 == 0) plans_.Turn();
+      if (i % std::max(1, enters / pages) == 0) plans_.Turn();
       if (i % kBetweenPaintings == 0) QCoreApplication::processEvents();
     }
   }
@@ -78,11 +81,12 @@ void TellDay(const Day& day, int enters, const bench::DayMemory& first,
 }  // namespace
 
 int main(int argc, char** argv) {
-  return bench::PlayProgram(argc, argv, {20, 2}, kWholeDay, [](Program& program, int enters) {
+  const int pages = argc > 3 ? std::atoi(argv[3]) : kPages;
+  return bench::PlayProgram(argc, argv, {20, 2}, kWholeDay, [pages](Program& program, int enters) {
     Day day(program);
     std::unique_ptr<bench::DayMemory> first;
     for (int hour = 1; hour <= kHours; ++hour) {
-      day.WorkAnHour(enters / kHours);
+      day.WorkAnHour(enters / kHours, std::max(1, pages / kHours));
       const bench::DayMemory memory;
       if (first == nullptr) first = std::make_unique<bench::DayMemory>(memory);
       TellHour(hour, memory);
