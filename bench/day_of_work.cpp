@@ -1,20 +1,20 @@
-// What a day of work leaves in memory: hours of Enters with the report that follows them, of
-// reports of every kind and of plan pages that are turned and looked at, each hour like the other.
-// The program and the process that reads its plan are told after each; the last is held against the
-// first. Arguments: the program folder, and how many Enters the day has; a hundredth of them are
-// reports and half of that pages. TMPDIR in memory spares the device.
-#include <unistd.h>
-
-#include <QElapsedTimer>
+// What a day of work leaves in memory: eight hours of Enters with the report that follows them, of
+// reports of every kind and of plan pages that are turned, looked at closely, measured on, compared
+// and looked through, each hour like the other. The program and the process that reads its plan are
+// told after each hour, with the most that they ever had; the last hour is held against the first.
+// Arguments: the program folder, how many Enters the day has, of which a hundredth are reports, and
+// how many plan pages it has. TMPDIR in memory spares the device.
+#include <algorithm>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
+#include <cstdlib>
 #include <iterator>
+#include <memory>
 #include <string>
 
 #include "figureline.h"
-#include "planfiles.h"
+#include "planplay.h"
 #include "playprogram.h"
+#include "processmemory.h"
 #include "takeoffplay.h"
 
 namespace {
@@ -22,90 +22,75 @@ namespace {
 using namespace tamo;
 
 constexpr int kHours = 8;
+constexpr int kWholeDay = 100'000;  // Enters
+constexpr int kPages = 500;
 constexpr int kEntriesOfLine = 20;
 // Enters: what is painted leaves nothing, and takes longer than all the rest.
 constexpr int kBetweenPaintings = 10;
 
-double ResidentOf(const std::string& process) {
-  double pages = 0;
-  std::ifstream("/proc/" + process + "/statm") >> pages >> pages;
-  return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
-}
-
-// Megabytes of the program, and of the processes that it has begun.
-struct Memory {
-  double program = ResidentOf("self");
-  double workers = 0;
-  Memory() {
-    for (const auto& task : std::filesystem::directory_iterator("/proc/self/task")) {
-      std::ifstream children(task.path() / "children");
-      for (std::string child; children >> child;) workers += ResidentOf(child);
-    }
-  }
-  double Sum() const { return program + workers; }
-};
-
 class Day {
  public:
-  explicit Day(Program& program) : program_(program), play_(program) { play_.Begin(); }
-
-  void OpenPlan() {
-    program_.OpenPlan(bench::PlanPath("set.pdf"));
-    Look();
+  explicit Day(Program& program) : play_(program), plans_(program) {
+    play_.Begin();
+    program.BeginHomePage();
+    plans_.Open();
   }
 
-  void WorkAnHour(int enters) {
+  void WorkAnHour(int enters, int pages) {
     static constexpr const char* kReports[] = {"Quantities", "BreakDown", "BillOfMaterial",
                                                "fCopy",      "oCopy",     "RecapSheet"};
     for (int i = 1; i <= enters; ++i) {
       if (i % kEntriesOfLine == 0) play_.NextLine();
       play_.Enter();
       if (i % 100 == 0) play_.Choose(kReports[++reports_ % std::size(kReports)]);
-      if (i % 200 == 0) TurnPage();
+      if (i % std::max(1, enters / pages) == 0) plans_.Turn();
       if (i % kBetweenPaintings == 0) QCoreApplication::processEvents();
     }
   }
+  int Reports() const { return static_cast<int>(reports_); }
+  int Pages() const { return plans_.Turned(); }
 
  private:
-  void TurnPage() {
-    PdfDraw& viewer = program_.Viewer();
-    page_ = page_ % viewer.PageCount() + 1;
-    program_.GetDesk().Dispatch([&] { viewer.TurnPage(page_); });
-    Look();
-  }
-
-  // Until the sheet is there in full.
-  void Look() {
-    QElapsedTimer clock;
-    for (clock.start(); clock.elapsed() < 5000 && !program_.Viewer().WaitUntilSharp(0);)
-      QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-  }
-
-  Program& program_;
   bench::TakeoffPlay play_;
+  bench::PlanPlay plans_;
   size_t reports_ = 0;
-  int page_ = 1;
 };
+
+void TellHour(int hour, const bench::DayMemory& memory) {
+  const auto& [program, workers, count] = memory;
+  std::printf(
+      "hour %d: program %.1f MB (at most %.1f), %d threads, %d files; %zu for plans %.1f MB "
+      "(at most %.1f)\n",
+      hour, program.now, program.peak, program.threads, program.files, count, workers.now,
+      workers.peak);
+  std::fflush(stdout);
+}
+
+void TellDay(const Day& day, int enters, const bench::DayMemory& first,
+             const bench::DayMemory& last) {
+  const std::string part = enters < kWholeDay ? "a shortened day" : "a day";
+  const std::string work = ", after " + part + " of " + std::to_string(enters) + " Enters, " +
+                           std::to_string(day.Reports()) + " reports and " +
+                           std::to_string(day.Pages()) + " plan pages";
+  bench::TellFigure("Memory of the program" + work, last.program.now, "after its first eighth",
+                    first.program.now, 1.1, "MB");
+  bench::TellFigure("Memory of what reads the plans" + work, last.workers.now,
+                    "after its first eighth", first.workers.now, 1.1, "MB");
+}
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  return bench::PlayProgram(argc, argv, {20, 2}, 100'000, [](Program& program, int enters) {
+  const int pages = argc > 3 ? std::atoi(argv[3]) : kPages;
+  return bench::PlayProgram(argc, argv, {20, 2}, kWholeDay, [pages](Program& program, int enters) {
     Day day(program);
-    day.OpenPlan();
-    double first = 0;
-    double last = 0;
+    std::unique_ptr<bench::DayMemory> first;
     for (int hour = 1; hour <= kHours; ++hour) {
-      day.WorkAnHour(enters / kHours);
-      const Memory memory;
-      last = memory.Sum();
-      if (hour == 1) first = last;
-      std::printf("hour %d: %.1f MB, of it %.1f MB for the plan\n", hour, last, memory.workers);
-      std::fflush(stdout);
+      day.WorkAnHour(enters / kHours, std::max(1, pages / kHours));
+      const bench::DayMemory memory;
+      if (first == nullptr) first = std::make_unique<bench::DayMemory>(memory);
+      TellHour(hour, memory);
+      if (hour == kHours) TellDay(day, enters, *first, memory);
     }
-    bench::TellFigure("Memory after a day of " + std::to_string(enters) + " Enters, " +
-                          std::to_string(enters / 100) + " reports and " +
-                          std::to_string(enters / 200) + " plan pages",
-                      last, "after its first hour", first, 1.1, "MB");
   });
 }

@@ -3,9 +3,10 @@
 #
 #   scripts/benchmark.sh [quick] [part ...]
 #
-# "quick": a tenth of the repetitions. Parts: all when none is named; "list" prints them, "page" only writes the page. What a
-# part leaves stands in build-bench/figures with the time of its run, so the page can be made piece by piece; a part that does
-# not end in its time leaves nothing and is named in the page. All take twenty minutes; wants a machine at rest.
+# "quick": a tenth of the repetitions, and of the Enters and reports of the day of work (its line says so). Parts: all when none
+# is named; "list" prints them, "page" only writes the page. What a part leaves stands in build-bench/figures with the time of its
+# run, so the page can be made piece by piece; a part that does not end in its time leaves nothing and is named in the page. All
+# take some forty minutes, half of it for the day of work; wants a machine at rest.
 # The peers of the plans are in mupdf-tools, that of the reports in ledger; a missing peer is named in the page, too.
 #
 # A new part is one line in "The parts" below. A program that uses the benchmark library is told in a table of
@@ -40,7 +41,8 @@ parts() {
   part refresh 60 live_refresh $build/bench/live_refresh data 500
   part items 60 bottom_line $build/bench/bottom_line data 300
   part likes 90 find_same $build/bench/find_same $((times > 3 ? 3 : 1))
-  part day 240 day_of_work env TMPDIR=/dev/shm $build/bench/day_of_work data
+  part day $((times > 3 ? 1200 : 400)) day_of_work env TMPDIR=/dev/shm $build/bench/day_of_work data \
+    $((times > 3 ? 100000 : 10000))
 }
 # Name, seconds, and how often at most.
 measured() {

@@ -182,7 +182,8 @@ PageContent MuPdfContentDocument::Read(int page, bool textsOnly, const std::atom
   }
   ClosePage(reading);
   inner_->file->SetCancel(nullptr);
-  if (!open || (cancel != nullptr && *cancel)) inner_->Forget();
+  if (!open || (cancel != nullptr && *cancel) || inner_->contexts->ForgetsObjects())
+    inner_->Forget();
   return content;
 }
 

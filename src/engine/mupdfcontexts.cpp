@@ -10,18 +10,38 @@
 namespace tamo {
 namespace {
 
-constexpr size_t kHeader = 16;  // keeps the alignment of what follows
-constexpr size_t kStore = size_t(48) << 20;
+constexpr size_t kHeader = 16;               // keeps the alignment of what follows
+constexpr size_t kStore = size_t(16) << 20;  // what pages share, and parts of pictures
 constexpr int kStreamBuffer = 16384;
 
 std::atomic<qint64> memoryInUse = 0;
 std::atomic<qint64> memoryLimit = qint64(320) << 20;
 
-bool Take(qint64 bytes) {
+bool TakeOfAll(qint64 bytes) {
   if (memoryInUse.fetch_add(bytes) + bytes <= memoryLimit) return true;
   memoryInUse.fetch_sub(bytes);
   return false;
 }
+
+}  // namespace
+
+// The memory of one contexts, counted for it and for all.
+struct ContextsMemory {
+  static bool Take(void* user, size_t size) {
+    auto* contexts = static_cast<MuPdfContexts*>(user);
+    const auto bytes = static_cast<qint64>(size);
+    if (contexts->Abandoned() || !TakeOfAll(bytes)) return false;
+    contexts->inUse_ += bytes;
+    return true;
+  }
+  static void Give(void* user, size_t size) {
+    const auto bytes = static_cast<qint64>(size);
+    static_cast<MuPdfContexts*>(user)->inUse_ -= bytes;
+    memoryInUse -= bytes;
+  }
+};
+
+namespace {
 
 size_t SizeOf(const char* block) {
   size_t size = 0;
@@ -36,17 +56,16 @@ void* Stamp(void* block, size_t size) {
 }
 
 void* TakeMemory(void* user, size_t size) {
-  if (static_cast<MuPdfContexts*>(user)->Abandoned() || size > SIZE_MAX / 4) return nullptr;
-  if (!Take(static_cast<qint64>(size))) return nullptr;
+  if (size > SIZE_MAX / 4 || !ContextsMemory::Take(user, size)) return nullptr;
   void* block = std::malloc(size + kHeader);
-  if (block == nullptr) memoryInUse.fetch_sub(static_cast<qint64>(size));
+  if (block == nullptr) ContextsMemory::Give(user, size);
   return Stamp(block, size);
 }
 
-void FreeMemory(void* /*user*/, void* memory) {
+void FreeMemory(void* user, void* memory) {
   if (memory == nullptr) return;
   char* block = static_cast<char*>(memory) - kHeader;
-  memoryInUse.fetch_sub(static_cast<qint64>(SizeOf(block)));
+  ContextsMemory::Give(user, SizeOf(block));
   std::free(block);
 }
 
@@ -58,16 +77,14 @@ void* ResizeMemory(void* user, void* memory, size_t size) {
   }
   char* block = static_cast<char*>(memory) - kHeader;
   const size_t before = SizeOf(block);
-  if (size > before) {
-    if (static_cast<MuPdfContexts*>(user)->Abandoned() || size > SIZE_MAX / 4) return nullptr;
-    if (!Take(static_cast<qint64>(size - before))) return nullptr;
-  }
+  if (size > SIZE_MAX / 4) return nullptr;
+  if (size > before && !ContextsMemory::Take(user, size - before)) return nullptr;
   void* moved = std::realloc(block, size + kHeader);
   if (moved == nullptr) {
-    if (size > before) memoryInUse.fetch_sub(static_cast<qint64>(size - before));
+    if (size > before) ContextsMemory::Give(user, size - before);
     return nullptr;
   }
-  if (size < before) memoryInUse.fetch_sub(static_cast<qint64>(before - size));
+  if (size < before) ContextsMemory::Give(user, before - size);
   return Stamp(moved, size);
 }
 
@@ -174,7 +191,7 @@ void MuPdfContexts::SetMemoryLimit(qint64 bytes) {
 }
 
 bool MuPdfContexts::Reserve(double bytes) {
-  return bytes < static_cast<double>(memoryLimit.load()) && Take(static_cast<qint64>(bytes));
+  return bytes < static_cast<double>(memoryLimit.load()) && TakeOfAll(static_cast<qint64>(bytes));
 }
 
 void MuPdfContexts::Release(double bytes) {

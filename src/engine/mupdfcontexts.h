@@ -32,7 +32,13 @@ class MuPdfContexts : public std::enable_shared_from_this<MuPdfContexts> {
   void Abandon() { abandoned_ = true; }
   bool Abandoned() const { return abandoned_; }
 
-  static qint64 MemoryInUse();
+  qint64 InUse() const { return inUse_; }  // bytes of what shares this contexts
+  // The engine keeps each object of a document that it has ever read. Beyond so many bytes in use a
+  // document forgets those of the pages that were read before; they are read again when they are
+  // wanted.
+  static constexpr qint64 kMostWithObjects = qint64(96) << 20;
+  bool ForgetsObjects() const { return inUse_ > kMostWithObjects; }
+  static qint64 MemoryInUse();               // of all of them
   static void SetMemoryLimit(qint64 bytes);  // 320 MB when not set
   // Counts memory that a decoder will take past the engine; false when there is not so much. A
   // whole number of bytes.
@@ -44,6 +50,8 @@ class MuPdfContexts : public std::enable_shared_from_this<MuPdfContexts> {
   struct Inner;
   std::unique_ptr<Inner> inner_;
   std::atomic<bool> abandoned_ = false;
+  std::atomic<qint64> inUse_ = 0;
+  friend struct ContextsMemory;
 };
 
 // The plan as a stream of the engine. To be called inside a try of the engine; throws as it does.

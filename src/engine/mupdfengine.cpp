@@ -48,6 +48,7 @@ class MuPdfPlan : public EnginePlan {
   std::shared_ptr<LoadedPage> LoadPage(int page, CancelFlag& cancel) override {
     const std::lock_guard<std::mutex> guard(pagesLock_);
     if (pagesContext_.Get() == nullptr) return nullptr;
+    if (contexts_->ForgetsObjects()) pages_.reset();
     if (pages_ == nullptr) {
       pages_ = std::make_unique<MuPdfPages>(pagesContext_.Get(), contexts_, source_, password_);
       if (!layers_.empty()) pages_->ShowLayers(layers_);

@@ -286,6 +286,12 @@ void MuPdfFile::Inner::ReadMarks(size_t index, std::vector<Mark>& marks, QSet<QS
   pdf_drop_obj(context, object);
 }
 
+// A repaired document has objects that do not stand so in the file.
+void MuPdfFile::Inner::ForgetObjects() {
+  if (document != nullptr && document->repair_attempted == 0 && contexts->ForgetsObjects())
+    pdf_clear_xref(context, document);
+}
+
 PlanContents MuPdfFile::Open(const QString& password) {
   PlanContents contents;
   const QByteArray start = ReadPart(*inner_->source->Reader(), 0, 1024);
@@ -305,6 +311,7 @@ PlanContents MuPdfFile::Open(const QString& password) {
   for (size_t i = 0; i < inner_->pages.size(); ++i) {
     contents.sizes.push_back(inner_->pages[i].size);
     inner_->ReadMarks(i, contents.marks, names);
+    inner_->ForgetObjects();
   }
   // Who has marked it before was asked then.
   if (contents.marks.empty()) contents.reservation = inner_->Reservation();

@@ -53,6 +53,7 @@ struct MuPdfFile::Inner {
 
   bool OpenDocument(const QByteArray& password, PlanContents& contents);
   void ReadPages();
+  void ForgetObjects();  // when they take much memory; none may be held then
   void ReadMarks(size_t index, std::vector<Mark>& marks, QSet<QString>& names);
   bool ReadEnd();
   // What speaks against marking the plan, and what can't be saved of it.

@@ -97,6 +97,7 @@ std::vector<PageLink> MuPdfFile::ReadLinks(int page) {
     link.target = inner.TargetOf(raw.target);
     if (!link.box.Empty()) links.push_back(std::move(link));
   }
+  inner.ForgetObjects();
   return links;
 }
 

@@ -4,6 +4,7 @@
 
 #include "plans/overlayplan.h"
 #include "plans/picturelines.h"
+#include "plans/pixelmemory.h"
 #include "plans/sheetalign.h"
 #include "plans/sheetchanges.h"
 #include "plans/sheetnumber.h"
@@ -102,7 +103,7 @@ SheetLinework Work::PictureWork(EnginePlan& plan, const LoadedPage& page) {
   part.width = std::max(1, static_cast<int>(work.size.width * part.pixelsPerPoint));
   part.height = std::max(1, static_cast<int>(work.size.height * part.pixelsPerPoint));
   work.fineness = 1.2 / part.pixelsPerPoint;
-  std::vector<uint32_t> pixels(size_t(part.width) * size_t(part.height));
+  Pixels pixels(size_t(part.width) * size_t(part.height));
   if (plan.Paint(page, part, cancel_, pixels.data()))
     work.lines = LinesOfPicture(InkOf(pixels.data(), part.width, part.height), part.pixelsPerPoint);
   return work;

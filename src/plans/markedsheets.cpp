@@ -40,8 +40,7 @@ void MarkedSheets::FillMarks(std::vector<Mark> marks) {
   SettleGroups(marks);
   marks_ = std::move(marks);
   ++revision_;
-  done_.clear();
-  undone_.clear();
+  steps_.Clear();
   lastNumber_ = 0;
   for (const Mark& mark : marks_) lastNumber_ = std::max(lastNumber_, MarkNumber(mark.name));
 }
@@ -68,39 +67,36 @@ void MarkedSheets::DeleteMark(int index) {
 }
 
 void MarkedSheets::TakeStep(Step step) {
-  done_.push_back(std::move(step));
-  undone_.clear();
-  Do(Step(done_.back()), true);
+  Do(Step(steps_.Add(std::move(step))), true);
 }
 
 bool MarkedSheets::Undo() {
-  if (done_.empty()) return false;
-  bool more = true;
-  while (more && !done_.empty()) {
-    undone_.push_back(done_.back());
-    done_.pop_back();
-    Put(undone_.back(), false);
-    more = undone_.back().joined;
+  const Step* step = steps_.TakeBack();
+  if (step == nullptr) return false;
+  Put(*step, false);
+  const Step* first = step;
+  while (first->joined && (step = steps_.TakeBack()) != nullptr) {
+    Put(*step, false);
+    first = step;
   }
-  Tell(Step(undone_.back()));
+  Tell(Step(*first));
   return true;
 }
 
 bool MarkedSheets::Redo() {
-  if (undone_.empty()) return false;
-  do {
-    done_.push_back(undone_.back());
-    undone_.pop_back();
-    Put(done_.back(), true);
-  } while (!undone_.empty() && undone_.back().joined);
-  Tell(Step(done_.back()));
+  const Step* step = steps_.BringBack();
+  if (step == nullptr) return false;
+  Put(*step, true);
+  while (steps_.BringsMore()) {
+    step = steps_.BringBack();
+    Put(*step, true);
+  }
+  Tell(Step(*step));
   return true;
 }
 
 bool MarkedSheets::WasDrawnHere(const QString& name) const {
-  return std::any_of(done_.begin(), done_.end(), [&](const Step& step) {
-    return step.what == Step::What::Added && step.mark.name == name;
-  });
+  return steps_.Drew(name);
 }
 
 bool MarkedSheets::TakeOff(const QString& name, Mark& mark) {
@@ -133,9 +129,7 @@ void MarkedSheets::TakeOver(const std::vector<Mark>& marks) {
   for (const Mark& mark : marks) {
     if (FindMark(mark.name) != nullptr) continue;
     lastNumber_ = std::max(lastNumber_, MarkNumber(mark.name));
-    done_.push_back({Step::What::Added, marks_.size(), Settled(mark), {}, false, false});
-    Put(done_.back(), true);
-    undone_.clear();
+    Put(steps_.Add({Step::What::Added, marks_.size(), Settled(mark), {}, false, false}), true);
   }
   Repaint();
 }
@@ -144,12 +138,9 @@ void MarkedSheets::AddMarks(std::vector<Mark> marks) {
   for (size_t i = 0; i < marks.size(); ++i) {
     Mark& mark = marks[i];
     mark.name = MarkName(++lastNumber_, QRandomGenerator::global()->generate());
-    done_.push_back({Step::What::Added, marks_.size(), std::move(mark), {}, false, i > 0});
-    Put(done_.back(), true);
+    Put(steps_.Add({Step::What::Added, marks_.size(), std::move(mark), {}, false, i > 0}), true);
   }
-  if (marks.empty()) return;
-  undone_.clear();
-  Tell(Step(done_.back()));
+  if (!marks.empty()) Tell(Step(*steps_.Last()));
 }
 
 const Mark* MarkedSheets::FindMark(const QString& name) const {
@@ -162,12 +153,12 @@ void MarkedSheets::ChangeMark(const Mark& mark, bool joinLast) {
   const Mark* found = FindMark(mark.name);
   if (found == nullptr || *found == mark) return;
   const auto at = static_cast<size_t>(found - marks_.data());
-  const bool joins = joinLast && !done_.empty() && done_.back().what == Step::What::Changed &&
-                     done_.back().mark.name == mark.name;
+  const Step* last = joinLast ? steps_.Last() : nullptr;
+  const bool joins =
+      last != nullptr && last->what == Step::What::Changed && last->mark.name == mark.name;
   if (!joins) return TakeStep({Step::What::Changed, at, mark, *found, true, false});
-  done_.back().mark = mark;
-  undone_.clear();
-  Do(Step(done_.back()), true);
+  steps_.ChangeLast(mark);
+  Do(Step(*steps_.Last()), true);
 }
 
 void MarkedSheets::ChangeMarks(const std::vector<Mark>& marks) {
@@ -176,13 +167,10 @@ void MarkedSheets::ChangeMarks(const std::vector<Mark>& marks) {
     const Mark* found = FindMark(mark.name);
     if (found == nullptr || *found == mark) continue;
     const auto at = static_cast<size_t>(found - marks_.data());
-    done_.push_back({Step::What::Changed, at, mark, *found, true, joined});
-    Put(done_.back(), true);
+    Put(steps_.Add({Step::What::Changed, at, mark, *found, true, joined}), true);
     joined = true;
   }
-  if (!joined) return;
-  undone_.clear();
-  Tell(Step(done_.back()));
+  if (joined) Tell(Step(*steps_.Last()));
 }
 
 QString MarkedSheets::PlaceMark(Mark mark) {
@@ -205,12 +193,7 @@ void MarkedSheets::KeepWith(const QString& name, const QString& kept) {
     if (mark.name == name) mark.kept = kept;
   };
   for (Mark& mark : marks_) keep(mark);
-  for (std::vector<Step>* steps : {&done_, &undone_}) {
-    for (Step& step : *steps) {
-      keep(step.mark);
-      keep(step.before);
-    }
-  }
+  steps_.KeepWith(name, kept);
 }
 
 void MarkedSheets::Do(const Step& step, bool forward) {

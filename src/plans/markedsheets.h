@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "plans/mark.h"
+#include "plans/marksteps.h"
 #include "plans/sheetview.h"
 
 namespace tamo {
@@ -21,7 +22,7 @@ class MarkedSheets : public SheetView {
   std::vector<Mark> Marks() const;                                  // of all pages, newest first
   const std::vector<Mark>& MarksAsDrawn() const { return marks_; }  // the same, oldest first
   void DeleteMark(int index);  // 0 is the newest; no such mark: nothing happens
-  bool Undo();                 // false when there is nothing to take back
+  bool Undo();                 // false when there is nothing to take back (MarkSteps)
   bool Redo();
 
   // The mark of that name was drawn since the plan was opened.
@@ -63,15 +64,7 @@ class MarkedSheets : public SheetView {
   void Repaint() { Raise(onMarksChanged); }
 
  private:
-  struct Step {
-    enum class What { Added, Deleted, Changed };
-    What what = What::Added;
-    size_t at = 0;
-    Mark mark;
-    Mark before;  // of one that was changed
-    bool edits = false;
-    bool joined = false;  // goes with the one before
-  };
+  using Step = MarkStep;
   void TakeStep(Step step);
   Mark Settled(Mark mark) const;
   void Do(const Step& step, bool forward);
@@ -80,8 +73,7 @@ class MarkedSheets : public SheetView {
   int CircleCount() const;
 
   std::vector<Mark> marks_;
-  std::vector<Step> done_;
-  std::vector<Step> undone_;
+  MarkSteps steps_;
   int lastNumber_ = 0;
   unsigned revision_ = 1;
   QString colour_ = QStringLiteral("255000000");

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "common/failure.h"
+#include "plans/pixelmemory.h"
 #include "plans/twoatonce.h"
 
 namespace tamo {
@@ -180,7 +181,7 @@ Ink OverlayPlan::FittedInk(EnginePlan& plan, const LoadedPage& old, const Loaded
   const PaintPart wanted = PartUnder(way, under, part);
   Ink ink(part.width, part.height);
   if (wanted.width <= 0 || wanted.height <= 0) return ink;
-  std::vector<uint32_t> pixels(size_t(wanted.width) * size_t(wanted.height));
+  Pixels pixels(size_t(wanted.width) * size_t(wanted.height));
   if (!plan.Paint(old, wanted, cancel, pixels.data())) return {};
   const Ink painted = InkOf(pixels.data(), wanted.width, wanted.height);
   (way.Straight() ? CopyStraight : CopyTurned)(painted, wanted, way, ink);
@@ -209,7 +210,7 @@ bool OverlayPlan::Paint(const LoadedPage& page, const PaintPart& part, CancelFla
   if (old.width == 0) return false;
   Ink now(wide.width, wide.height);
   if (sheets_.layer == OverlayLayer::Both) {
-    std::vector<uint32_t> painted(now.darkness.size());
+    Pixels painted(now.darkness.size());
     if (!sheets_.now->Paint(both.Now(), wide, cancel, painted.data())) return false;
     now = InkOf(painted.data(), wide.width, wide.height);
     if (sheets_.swapped) std::swap(old, now);

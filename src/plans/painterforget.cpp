@@ -10,17 +10,24 @@ void PlanPainter::State::StopOverdue() {
   }
 }
 
+// Pages that are only kept for later must not be the reason why one has no memory.
+bool PlanPainter::State::DropOtherLists(int page) {
+  const auto other = [&](const auto& kept) {
+    return kept.first != page && kept.first != view.page;
+  };
+  return std::erase_if(lists, other) + std::erase_if(smallLists, other) > 0;
+}
+
 void PlanPainter::State::Forget() {
   ++era;
   for (PaintJob* job : working) {
     if (job->kind != PaintJob::Kind::Print) job->cancel->Cancel();
   }
   lists.clear();
-  coarse.clear();
-  coarseOrder.clear();
+  coarse.Clear();
   for (TurnedCoarse& turned : turnedCoarse) turned = {};
   tiles.clear();
-  thumbnails.clear();
+  thumbnails.Clear();
   smallLists.clear();
   failed.clear();
 }

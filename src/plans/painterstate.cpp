@@ -8,9 +8,7 @@ namespace tamo {
 namespace {
 
 constexpr size_t kMostLists = 3;
-constexpr size_t kMostCoarse = 6;
 constexpr size_t kMostTilePixels = size_t(20) << 20;  // four bytes each
-constexpr size_t kMostThumbnails = 1000;
 constexpr size_t kMostSmallLists = 3;
 
 }  // namespace
@@ -105,13 +103,14 @@ std::shared_ptr<LoadedPage> PlanPainter::State::ListOf(int page) {
   return lists.front().second;
 }
 
-bool PlanPainter::State::CoarseIsThere(int page) const {
-  return coarse.count({page, 0}) != 0 && coarse.count({page, 1}) != 0;
-}
-
 bool PlanPainter::State::Working(PaintJob::Kind kind, int page) const {
   return std::any_of(working.begin(), working.end(),
                      [&](const PaintJob* job) { return job->kind == kind && job->page == page; });
+}
+
+bool PlanPainter::State::WantsSmall(int page) const {
+  return std::any_of(wantedThumbnails.begin(), wantedThumbnails.end(),
+                     [page](const SmallKey& key) { return key.page == page; });
 }
 
 bool PlanPainter::State::WorkingOn(const TileKey& key) const {
@@ -123,7 +122,7 @@ bool PlanPainter::State::WorkingOn(const TileKey& key) const {
 bool PlanPainter::State::NextCoarse(PaintJob& job) {
   job.kind = PaintJob::Kind::Coarse;
   for (int half = 0; half < 2; ++half) {
-    if (coarse.count({job.page, half}) != 0) continue;
+    if (coarse.Has(job.page, half)) continue;
     const bool working = std::any_of(this->working.begin(), this->working.end(), [&](auto* other) {
       return other->kind == job.kind && other->page == job.page && other->half == half;
     });
@@ -191,11 +190,12 @@ bool PlanPainter::State::NextPrint(bool reads, PaintJob& job) {
 
 // One thread reads ahead while the other paints.
 bool PlanPainter::State::NextThumbnail(bool reads, PaintJob& job) {
-  for (const int page : wantedThumbnails) {
+  for (const auto& [page, side] : wantedThumbnails) {
     if (Working(PaintJob::Kind::Thumbnail, page) || Working(PaintJob::Kind::ReadSmall, page))
       continue;
     const auto small = smallLists.find(page);
     job.page = page;
+    job.side = side;
     job.list = small != smallLists.end() ? small->second : ListOf(page);
     job.kind = job.list == nullptr ? PaintJob::Kind::ReadSmall : PaintJob::Kind::Thumbnail;
     if (job.list == nullptr && !reads) continue;
@@ -204,7 +204,7 @@ bool PlanPainter::State::NextThumbnail(bool reads, PaintJob& job) {
       continue;  // the other thread paints it
     }
     if (job.list == nullptr && smallLists.size() >= kMostSmallLists) continue;
-    job.part = WholePart(SizeOf(page), thumbnailSide);
+    job.part = WholePart(SizeOf(page), side);
     return true;
   }
   return false;
@@ -224,7 +224,7 @@ PaintJob PlanPainter::State::Next(bool reads) {
 
 void PlanPainter::State::Fail(int page) {
   if (failed.insert(page).second) failedNews.push_back(page);
-  std::erase(wantedThumbnails, page);
+  std::erase_if(wantedThumbnails, [page](const SmallKey& key) { return key.page == page; });
   smallLists.erase(page);
   for (const auto& print : prints) {
     if (print->part.page == page) print->done = print->taken = true;
@@ -245,18 +245,17 @@ void PlanPainter::State::KeepTile(const TileKey& key, Tile tile) {
 }
 
 PlacedPicture PlanPainter::State::PlacedCoarse(const PlanView& of, int half) {
-  const auto found = coarse.find({of.page, half});
-  if (found == coarse.end()) return {};
+  const std::shared_ptr<const Picture> plain = coarse.Find(of.page, half);
+  if (plain == nullptr) return {};
   const PaintPart part = HalfPart(SizeOf(of.page), kCoarseSide, half);
   const double stretch = of.pixelsPerPoint / part.pixelsPerPoint;
   const double top = part.top * stretch;
   const double width = part.width * stretch;
   const double height = part.height * stretch;
-  if (of.turn == 0) return {0, top, width, height, found->second};
+  if (of.turn == 0) return {0, top, width, height, plain};
   TurnedCoarse& turned = turnedCoarse[half];
-  if (turned.of != found->second || turned.turn != of.turn) {
-    turned = {found->second, of.turn,
-              std::make_shared<const Picture>(Turned(*found->second, of.turn))};
+  if (turned.of != plain || turned.turn != of.turn) {
+    turned = {plain, of.turn, std::make_shared<const Picture>(Turned(*plain, of.turn))};
   }
   const PageSize page = SizeOf(of.page);
   const double below = page.height * of.pixelsPerPoint - top - height;
@@ -266,23 +265,15 @@ PlacedPicture PlanPainter::State::PlacedCoarse(const PlanView& of, int half) {
   return {top, page.width * of.pixelsPerPoint - width, height, width, turned.picture};
 }
 
-void PlanPainter::State::KeepCoarse(const PaintJob& job, std::shared_ptr<const Picture> picture) {
-  coarse[{job.page, job.half}] = std::move(picture);
-  if (!CoarseIsThere(job.page)) return;
-  coarseOrder.push_back(job.page);
-  while (coarseOrder.size() > kMostCoarse) {
-    for (int half = 0; half < 2; ++half) coarse.erase({coarseOrder.front(), half});
-    coarseOrder.pop_front();
-  }
-}
-
 void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<LoadedPage> list,
                               const std::shared_ptr<const Picture>& picture) {
   using Kind = PaintJob::Kind;
   if (job.era != era && job.kind != Kind::Print) return;
   const bool good = picture != nullptr || list != nullptr;
   const bool overdue = std::chrono::steady_clock::now() - job.began >= kLongestPaint;
-  if (!good && (!job.cancel->Cancelled() || overdue)) Fail(job.page);
+  const bool fails = !good && (!job.cancel->Cancelled() || overdue);
+  const bool again = fails && !overdue && job.kind != Kind::Print && DropOtherLists(job.page);
+  if (fails && !again) Fail(job.page);
   if (job.kind == Kind::Print) {
     job.print->picture = picture;
     job.print->done = true;
@@ -294,20 +285,18 @@ void PlanPainter::State::Done(const PaintJob& job, std::shared_ptr<LoadedPage> l
     while (lists.size() > kMostLists) lists.pop_back();
   } else if (job.kind == Kind::ReadSmall) {
     // What was scrolled away meanwhile would keep its place for ever.
-    if (std::count(wantedThumbnails.begin(), wantedThumbnails.end(), job.page) > 0)
-      smallLists[job.page] = std::move(list);
+    if (WantsSmall(job.page)) smallLists[job.page] = std::move(list);
   } else if (job.kind == Kind::Coarse) {
-    KeepCoarse(job, picture);
+    coarse.Keep(job.page, job.half, picture);
   } else if (job.kind == Kind::Sharp) {
     const PaintPart& part = job.part;
     KeepTile(
         job.tile,
         {{part.left, part.top, part.left + part.width, part.top + part.height}, picture, clock});
   } else if (job.kind == Kind::Thumbnail) {
-    std::erase(wantedThumbnails, job.page);
-    smallLists.erase(job.page);
-    if (thumbnails.size() >= kMostThumbnails) thumbnails.erase(thumbnails.begin());
-    thumbnails[job.page] = picture;
+    std::erase(wantedThumbnails, SmallKey{job.page, job.side});
+    if (!WantsSmall(job.page)) smallLists.erase(job.page);
+    thumbnails.Keep({job.page, job.side}, picture);
   }
 }
 
@@ -334,7 +323,7 @@ void PlanPainter::State::StopStale() {
 bool PlanPainter::State::Sharp() {
   if (!wantedThumbnails.empty()) return false;
   if (!looking || failed.count(view.page) != 0) return true;
-  if (!CoarseIsThere(view.page)) return false;
+  if (!coarse.Whole(view.page)) return false;
   for (const TileKey& key : VisibleTiles(view)) {
     const auto there = tiles.find(key);
     if (there == tiles.end() || !there->second.covered.Holds(WantedOf(key, view))) return false;

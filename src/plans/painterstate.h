@@ -12,8 +12,10 @@
 #include <mutex>
 #include <set>
 
+#include "plans/coarsepictures.h"
 #include "plans/planengine.h"
 #include "plans/planpainter.h"
+#include "plans/smallpictures.h"
 
 namespace tamo {
 
@@ -57,6 +59,7 @@ struct PaintJob {
   Kind kind = Kind::None;
   int page = 0;
   int half = 0;  // of the coarse picture, which is painted as two, one by each thread
+  int side = 0;  // of a thumbnail
   TileKey tile;
   PaintPart part;
   std::shared_ptr<LoadedPage> list;
@@ -81,9 +84,8 @@ struct PlanPainter::State {
   bool looking = false;
   unsigned clock = 0;
   unsigned era = 0;  // what was begun before it is of no use
-  std::list<std::pair<int, std::shared_ptr<LoadedPage>>> lists;          // latest first
-  std::map<std::pair<int, int>, std::shared_ptr<const Picture>> coarse;  // by page and half
-  std::deque<int> coarseOrder;
+  std::list<std::pair<int, std::shared_ptr<LoadedPage>>> lists;  // latest first
+  CoarsePictures coarse;
   // The coarse picture of the page in sight as it was last turned.
   struct TurnedCoarse {
     std::shared_ptr<const Picture> of;
@@ -92,10 +94,9 @@ struct PlanPainter::State {
   };
   TurnedCoarse turnedCoarse[2];
   std::map<TileKey, Tile> tiles;
-  std::map<int, std::shared_ptr<const Picture>> thumbnails;
-  std::deque<int> wantedThumbnails;
+  SmallPictures thumbnails;
+  std::deque<SmallKey> wantedThumbnails;
   std::map<int, std::shared_ptr<LoadedPage>> smallLists;  // read for thumbnails, not yet painted
-  int thumbnailSide = 160;
   std::deque<std::shared_ptr<PrintJob>> prints;
   std::set<int> failed;
   std::vector<int> failedNews;
@@ -118,19 +119,19 @@ struct PlanPainter::State {
   std::shared_ptr<LoadedPage> ListOf(int page);
   // Turned and stretched for the view; no picture when it is not there yet.
   PlacedPicture PlacedCoarse(const PlanView& of, int half);
-  bool CoarseIsThere(int page) const;
   void KeepTile(const TileKey& key, Tile tile);
   void Fail(int page);
+  bool DropOtherLists(int page);  // and than that in sight; true when there were any
   void Forget();
   void NoteGaps(int page, PageGaps gaps);
 
  private:
   bool Working(PaintJob::Kind kind, int page) const;
+  bool WantsSmall(int page) const;
   bool WorkingOn(const TileKey& key) const;
   bool NextVisible(bool reads, PaintJob& job);
   bool NextCoarse(PaintJob& job);
   bool NextSharp(PaintJob& job);
-  void KeepCoarse(const PaintJob& job, std::shared_ptr<const Picture> picture);
   bool NextPrint(bool reads, PaintJob& job);
   bool NextThumbnail(bool reads, PaintJob& job);
 };

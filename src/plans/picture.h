@@ -1,7 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
+
+#include "plans/pixelmemory.h"
 
 namespace tamo {
 
@@ -10,7 +11,7 @@ namespace tamo {
 struct Picture {
   int width = 0;
   int height = 0;
-  std::vector<uint32_t> pixels;  // width * height of them
+  Pixels pixels;  // width * height of them
 };
 
 // `picture` turned clockwise by 0, 90, 180 or 270 degrees.

@@ -104,6 +104,7 @@ void PlanPainter::Look(const PlanView& view) {
   state_->view = Sane(view);
   state_->looking = true;
   ++state_->clock;
+  state_->coarse.LookAt(state_->view.page);
   for (const TileKey& key : state_->VisibleTiles(state_->view)) {
     if (const auto tile = state_->tiles.find(key); tile != state_->tiles.end()) {
       tile->second.used = state_->clock;
@@ -135,20 +136,15 @@ std::vector<PlacedPicture> PlanPainter::PicturesFor(const PlanView& asked) {
 std::shared_ptr<const Picture> PlanPainter::Thumbnail(int page, int longSide) {
   const std::lock_guard<std::mutex> guard(state_->mutex);
   if (page < 1 || static_cast<size_t>(page) > state_->sizes.size()) return nullptr;
-  const int side = std::clamp(longSide, 16, 1024);
-  if (side != state_->thumbnailSide) {
-    state_->thumbnailSide = side;
-    state_->thumbnails.clear();
-  }
-  const auto there = state_->thumbnails.find(page);
-  if (there != state_->thumbnails.end()) return there->second;
+  const SmallKey key = {page, std::clamp(longSide, 16, 1024)};
+  if (auto there = state_->thumbnails.Find(key)) return there;
   auto& wanted = state_->wantedThumbnails;
   if (state_->failed.count(page) == 0 &&
-      std::find(wanted.begin(), wanted.end(), page) == wanted.end()) {
-    wanted.push_back(page);
+      std::find(wanted.begin(), wanted.end(), key) == wanted.end()) {
+    wanted.push_back(key);
     // Those asked for long ago have been scrolled away.
     if (wanted.size() > kMostWanted) {
-      state_->smallLists.erase(wanted.front());
+      state_->smallLists.erase(wanted.front().page);
       wanted.pop_front();
     }
     state_->wake.notify_all();
@@ -187,7 +183,7 @@ bool PlanPainter::WaitUntilSharp(int milliseconds) {
 bool PlanPainter::WaitForCoarse(int milliseconds) {
   std::unique_lock<std::mutex> lock(state_->mutex);
   return state_->news.wait_for(lock, std::chrono::milliseconds(milliseconds), [this] {
-    return state_->CoarseIsThere(state_->view.page) || state_->failed.count(state_->view.page) != 0;
+    return state_->coarse.Whole(state_->view.page) || state_->failed.count(state_->view.page) != 0;
   });
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "plans/overlayplan.h"
+#include "plans/pixelmemory.h"
 
 namespace tamo {
 namespace {
@@ -26,7 +27,7 @@ bool AddPart(const PaintedPair& pair, const PaintPart& part, CancelFlag& cancel,
   wide.top -= margin.top;
   wide.width += margin.left + (margin.right = kOverlayReach);
   wide.height += margin.top + (margin.bottom = kOverlayReach);
-  std::vector<uint32_t> pixels(size_t(wide.width) * size_t(wide.height));
+  Pixels pixels(size_t(wide.width) * size_t(wide.height));
   if (!pair.now.Paint(pair.nowPage, wide, cancel, pixels.data())) return false;
   const Ink now = InkOf(pixels.data(), wide.width, wide.height);
   const Ink old =

@@ -55,6 +55,7 @@ bool WorkerLink::Take(WireMessage& message) {
   if (last && left != leftSlots_.end()) {
     if (left->second >= 0) slotTaken_[left->second] = false;
     leftSlots_.erase(left);
+    dropped_.push_back(message.call);  // a page that it read after all is held for nobody
     slotFree_.notify_one();
   }
   const auto found = waiting_.find(message.call);

@@ -374,11 +374,11 @@ TEST(Picture, TurnsByQuarters) {
   // 4 5 6
   const Picture picture{3, 2, {1, 2, 3, 4, 5, 6}};
   EXPECT_EQ(Turned(picture, 0).pixels, picture.pixels);
-  EXPECT_EQ(Turned(picture, 90).pixels, (std::vector<uint32_t>{4, 1, 5, 2, 6, 3}));
+  EXPECT_EQ(Turned(picture, 90).pixels, (Pixels{4, 1, 5, 2, 6, 3}));
   EXPECT_EQ(Turned(picture, 90).width, 2);
-  EXPECT_EQ(Turned(picture, 180).pixels, (std::vector<uint32_t>{6, 5, 4, 3, 2, 1}));
+  EXPECT_EQ(Turned(picture, 180).pixels, (Pixels{6, 5, 4, 3, 2, 1}));
   EXPECT_EQ(Turned(picture, 180).height, 2);
-  EXPECT_EQ(Turned(picture, 270).pixels, (std::vector<uint32_t>{3, 6, 2, 5, 1, 4}));
+  EXPECT_EQ(Turned(picture, 270).pixels, (Pixels{3, 6, 2, 5, 1, 4}));
   EXPECT_EQ(Turned(picture, 270).height, 3);
 }
 
