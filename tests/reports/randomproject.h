@@ -6,6 +6,7 @@
 #include <random>
 
 #include "common/disk.h"
+#include "common/failure.h"
 
 namespace tamo::test {
 
@@ -20,6 +21,8 @@ class MemoryDisk : public RealDisk {
   }
   bool Exists(const QString& path) override { return contents.contains(path); }
   QStringList Names(const QString&) override { return {}; }
+  // Nothing can be made where its folders are not.
+  int MakeFolder(const QString&) override { return kNoAccess; }
 };
 
 // A project as no estimator would leave it: missing files, zero ratios, texts wider than their
