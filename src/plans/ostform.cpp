@@ -116,6 +116,7 @@ void OSTForm::BindMenus() {
 
 void OSTForm::BindCompare() {
   compare_.Carry().onCarried = [this] {
+    groups_.ShowGroups();
     if (!TrimmedBlanks(kit_.shared.JobID).isEmpty()) SaveIt();
   };
   compare_.onChoosePlan = [this] { return onChoosePlan ? onChoosePlan() : QString(); };
