@@ -76,7 +76,7 @@ struct Viewer {
 bool WaitForOverlay(Viewer& viewer, bool sharp) {
   const auto start = Clock::now();
   while (Milliseconds(start) < kPatience) {
-    viewer.draw->Compared().Settle(0);  // takes the news that is there
+    viewer.draw->Compared().Jobs().Settle(0);  // takes the news that is there
     const bool shows = viewer.draw->Compared().Shows(1);
     if (shows && (sharp ? viewer.draw->WaitUntilSharp(5) : viewer.draw->WaitForCoarse(5)))
       return true;
@@ -127,7 +127,7 @@ void EveryChange(benchmark::State& state) {
     auto viewer = std::make_unique<Viewer>();
     state.ResumeTiming();
     viewer->draw->Compared().Begin(Before(), QString());
-    viewer->draw->Compared().Settle(kPatience);
+    viewer->draw->Compared().Jobs().Settle(kPatience);
     const SheetsCompared* known = viewer->draw->Compared().Known();
     if (known == nullptr || !known->looked) state.SkipWithError("not compared");
     state.counters["places"] = known == nullptr ? 0 : double(known->places.size());
@@ -144,7 +144,7 @@ void Pan(benchmark::State& state, bool overlay) {
   Viewer viewer;
   if (overlay) {
     viewer.draw->Compared().Begin(Before(), QString());
-    viewer.draw->Compared().Settle(kPatience);
+    viewer.draw->Compared().Jobs().Settle(kPatience);
   }
   std::vector<double> times;
   int step = 0;
@@ -173,7 +173,7 @@ void SharpView(benchmark::State& state, bool overlay) {
   Viewer viewer;
   if (overlay) {
     viewer.draw->Compared().Begin(Before(), QString());
-    viewer.draw->Compared().Settle(kPatience);
+    viewer.draw->Compared().Jobs().Settle(kPatience);
   }
   int round = 0;
   for (auto _ : state) {

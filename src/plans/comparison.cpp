@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <chrono>
-#include <thread>
 #include <utility>
 
 #include "common/failure.h"
@@ -27,9 +25,8 @@ void LetPaint(const std::shared_ptr<PlanPainter>& painter, const CancelFlag& can
 }  // namespace
 
 Comparison::Comparison(PdfDraw& viewer)
-    : viewer_(viewer), pictures_([post = queue_.Poster(), told = picturesTold_, this] {
-        // Many pictures at once are one piece of news. The queue lives as long
-        // as this does.
+    : viewer_(viewer), pictures_([post = jobs_.Poster(), told = picturesTold_, this] {
+        // Many pictures at once are one piece of news.
         if (told->exchange(true)) return;
         post([this] { PicturesCame(); });
       }) {}
@@ -39,25 +36,8 @@ Comparison::~Comparison() {
   End();
 }
 
-void Comparison::Post(Work work, bool lasting) {
-  if (thread_ == nullptr) thread_ = std::make_unique<WorkThread>();
-  std::shared_ptr<Job>& job = lasting ? lasting_ : job_;
-  if (job == nullptr) job = std::make_shared<Job>();
-  ++busy_;
-  thread_->Post([this, work = std::move(work), job, post = queue_.Poster()] {
-    const TellNews tell = [&](std::function<void()> news) {
-      post([job, news = std::move(news)] {
-        if (!job->cancel.Cancelled()) news();
-      });
-    };
-    if (!job->cancel.Cancelled()) work(job->cancel, tell);
-    post([this] { --busy_; });
-  });
-}
-
 void Comparison::StopWork() {
-  if (job_ != nullptr) job_->cancel.Cancel();
-  job_.reset();
+  jobs_.LeaveSheet();
   searched_ = 0;
 }
 
@@ -76,7 +56,7 @@ void Comparison::Begin(const QString& path, const QString& password) {
   if (old_ == nullptr)
     return Fail(QStringLiteral("The plan %1 can't be compared, because %2.")
                     .arg(FileNameOf(path), ReasonText(error)));
-  Post([this, plan = old_, password](CancelFlag&, const TellNews& tell) {
+  jobs_.Post([this, plan = old_, password](CancelFlag&, const SheetJobs::TellNews& tell) {
     auto contents = std::make_shared<PlanContents>(plan->Open(password));
     tell([this, contents] { Opened(*contents); });
   });
@@ -85,8 +65,7 @@ void Comparison::Begin(const QString& path, const QString& password) {
 
 void Comparison::End() {
   StopWork();
-  if (lasting_ != nullptr) lasting_->cancel.Cancel();
-  lasting_.reset();
+  jobs_.StopAll();
   EndPoints();
   pictures_.Drop();
   if (old_ != nullptr) old_->Abandon();
@@ -176,7 +155,7 @@ void Comparison::Compare(bool anew) {
   task.keepPair = guess.byUser || guess.alignment.byHand;
   if (guess.alignment.byHand) task.byPoints = guess.alignment.fit;
   const auto painter = pictures_.Looked() ? pictures_.Painter() : nullptr;
-  Post([this, task, painter](CancelFlag& cancel, const TellNews& tell) {
+  jobs_.Post([this, task, painter](CancelFlag& cancel, const SheetJobs::TellNews& tell) {
     LetPaint(painter, cancel);
     CompareSheets(task, cancel, [&](const SheetsCompared& known, int searched) {
       tell([this, known, searched] { Took(known, searched); });
@@ -268,17 +247,6 @@ void Comparison::GoToPlace(int place) {
 const SheetsCompared* Comparison::Known() const {
   const auto there = known_.find(page_);
   return there == known_.end() ? nullptr : &there->second;
-}
-
-bool Comparison::Settle(int milliseconds) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-  queue_.Run();
-  while (busy_ > 0) {
-    if (std::chrono::steady_clock::now() >= end) return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    queue_.Run();
-  }
-  return true;
 }
 
 }  // namespace tamo

@@ -5,10 +5,10 @@
 #include <optional>
 
 #include "plans/comparework.h"
-#include "plans/formsqueue.h"
 #include "plans/overlaypictures.h"
 #include "plans/plankey.h"
-#include "plans/workthread.h"
+#include "plans/sheetjobs.h"
+#include "plans/twopoints.h"
 
 namespace tamo {
 
@@ -45,10 +45,8 @@ class Comparison {
     return swapped_ ? place.back : place.words;
   }
   // The sheets are to be laid over each other by two points on each, given by
-  // presses: the first on the new and on the old sheet, then the second on
-  // both.
+  // presses.
   void AskPoints();
-  bool AsksPoints() const { return points_.asked >= 0; }
   // Walks through the changed places of the sheet in front, round the end.
   void StepPlace(int by);
   void GoToPlace(int place);
@@ -56,12 +54,8 @@ class Comparison {
   bool TakeKey(const PlanStroke& stroke);
 
   const std::vector<Mark>& OldMarks() const { return former_.marks; }
-  // Work on the thread of the comparison, and its news on the viewer's. It is
-  // stopped when another page is in front or, when it is `lasting`, when the
-  // comparison ends.
-  using TellNews = std::function<void(std::function<void()> news)>;
-  using Work = std::function<void(CancelFlag& cancel, const TellNews& tell)>;
-  void Post(Work work, bool lasting = false);
+  // What is in work for it; all of it is stopped when the comparison ends.
+  SheetJobs& Jobs() { return jobs_; }
   // The two plans as they are compared; the pages are to be set.
   CompareTask Task() const;
 
@@ -76,14 +70,8 @@ class Comparison {
 
   std::function<void()> onChanged;                      // the words, the pairs, or what is known
   std::function<void(const PageBox& box)> onShowPlace;  // it is to come into sight
-  // Until nothing is in work any more. For tests and players: false when it
-  // takes longer.
-  bool Settle(int milliseconds);
 
  private:
-  struct Job {
-    CancelFlag cancel;
-  };
   void Opened(const PlanContents& contents);
   void Fail(const QString& words);
   void Compare(bool anew);
@@ -96,14 +84,12 @@ class Comparison {
   void TakePoint(PagePoint at);
   void EndPoints();
   void ShowAskedSheet();
-  QString AskedInWords() const;
-  QString PairInWords(const SheetsCompared& known) const;
   void Tell() const {
     if (onChanged) onChanged();
   }
 
   PdfDraw& viewer_;
-  FormsQueue queue_;
+  SheetJobs jobs_;
   std::shared_ptr<std::atomic<bool>> picturesTold_ = std::make_shared<std::atomic<bool>>(false);
   OverlayPictures pictures_;
   QString problem_;
@@ -121,15 +107,7 @@ class Comparison {
   int searched_ = 0;                     // sheets, for the one that belongs to it
   std::map<int, SheetsCompared> known_;  // by page of the plan in front
   int place_ = -1;
-  struct {
-    int asked = -1;   // which of the four; -1: none
-    PagePoint at[4];  // new, old, new, old
-    QString problem;  // why the last ones were of no use
-  } points_;
-  std::shared_ptr<Job> job_;      // of the page in front
-  std::shared_ptr<Job> lasting_;  // of the whole comparison
-  int busy_ = 0;                  // pieces of work whose end was not told yet
-  std::unique_ptr<WorkThread> thread_;
+  TwoPoints points_;
 };
 
 }  // namespace tamo

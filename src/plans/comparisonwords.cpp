@@ -53,35 +53,35 @@ QString ChangesInWords(const SheetsCompared& known) {
   return QStringLiteral("%1 changed places.").arg(places);
 }
 
-}  // namespace
-
-QString Comparison::PairInWords(const SheetsCompared& known) const {
-  const QString now = SheetInWords(known.nowNumber, known.page, viewer_.PageCount());
-  const QString file = FileNameOf(former_.path);
+// Which sheets of the two plans lie over each other, and why these.
+QString PairInWords(const SheetsCompared& known, int pages, const QString& file, int oldPages) {
+  const QString now = SheetInWords(known.nowNumber, known.page, pages);
   if (known.oldPage == 0)
     return QStringLiteral(
                "No sheet of %1 has the number %2: Ctrl+Page Down lays its sheets over "
                "this one by hand.")
         .arg(file, known.nowNumber);
-  const QString old = SheetInWords(known.oldNumber, known.oldPage, Pages());
+  const QString old = SheetInWords(known.oldNumber, known.oldPage, oldPages);
   const QString by = known.byUser     ? QStringLiteral("chosen by hand")
                      : known.byNumber ? QStringLiteral("paired by the sheet number")
                                       : QStringLiteral("paired by their pages");
   return QStringLiteral("%1 of this plan over %2 of %3, %4.").arg(now, old, file, by);
 }
 
+}  // namespace
+
 QString Comparison::Words() const {
   if (!On()) return problem_;
   if (former_.sizes.empty())
     return QStringLiteral("%1 is being opened.").arg(FileNameOf(former_.path));
-  if (AsksPoints()) return AskedInWords();
+  if (points_.Asked()) return points_.Words();
   if (searched_ > 0)
     return QStringLiteral("The sheet that belongs to this one is looked for: %1 of %2 are read.")
         .arg(searched_)
         .arg(Pages());
   const SheetsCompared* known = Known();
   if (known == nullptr) return QStringLiteral("The two sheets are being compared.");
-  QString words = PairInWords(*known);
+  QString words = PairInWords(*known, viewer_.PageCount(), FileNameOf(former_.path), Pages());
   words[0] = words[0].toUpper();
   if (known->aligned) {
     words += QLatin1Char(' ') + LieInWords(*known);
@@ -126,10 +126,10 @@ bool Comparison::TakeKey(const PlanStroke& stroke) {
 
 // What is in work goes first, then the points that were asked for, then the other plan.
 bool Comparison::TakeEscape() {
-  if (viewer_.WorkFrom() || viewer_.CheckNext() || viewer_.BoxNext() || viewer_.Box() ||
+  if (viewer_.WorkFrom() || viewer_.CheckNext() || viewer_.Box().Asked() || viewer_.Box().Drawn() ||
       viewer_.Same().Asking() || viewer_.Same().Busy() || viewer_.Hand().Chosen() != nullptr)
     return false;
-  if (AsksPoints()) {
+  if (points_.Asked()) {
     EndPoints();
     Tell();
   } else {

@@ -1,7 +1,6 @@
 #include "plans/drawingboard.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "plans/fraction.h"
@@ -14,11 +13,11 @@ namespace {
 constexpr double kScrollStep = 36;  // half an inch
 constexpr double kClickReach = 2;   // points the hand may shake within a click
 
-bool Sane(PagePoint at) {
-  return std::isfinite(at.x) && std::isfinite(at.y) && std::abs(at.x) < 1e6 && std::abs(at.y) < 1e6;
-}
-
 }  // namespace
+
+DrawingBoard::DrawingBoard() {
+  box_.onChanged = [this] { Repaint(); };
+}
 
 void DrawingBoard::ClearBoard() {
   unit_ = PaperUnit::Inches;
@@ -26,7 +25,7 @@ void DrawingBoard::ClearBoard() {
   line_ = LineState::None;
   work_ = {};
   DropOutline();
-  DropBox();
+  box_.Drop();
   ForgetGroup();
   if (tool_ != PlanTool::None) PickTool(PlanTool::None);
 }
@@ -140,15 +139,11 @@ void DrawingBoard::PickTool(PlanTool tool) {
 }
 
 void DrawingBoard::Press(PagePoint at, bool shift) {
-  if (!Sane(at)) return;
+  if (!IsPlace(at)) return;
   crossHair_ = at;
   if (pointNext_) return Raise(onPointGiven, at);
   Raise(onMousePressed);
-  if (boxNext_) {
-    boxing_ = true;
-    boxFrom_ = at;
-    return;
-  }
+  if (box_.Asked()) return box_.Begin(at);
   if (tool_ == PlanTool::None) return PressFree(at);
   if (!MayMark()) return PickTool(PlanTool::None);
   if (tool_ == PlanTool::Grouping) AddToGroup({at});
@@ -164,9 +159,9 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
 }
 
 void DrawingBoard::Move(PagePoint at, bool shift) {
-  if (!Sane(at)) return;
+  if (!IsPlace(at)) return;
   crossHair_ = at;
-  if (boxing_) return StretchBox(at);
+  if (box_.Growing()) return box_.Stretch(Page(), at);
   if (OutlineActive()) return MoveOutline(at, shift);
   if (line_ != LineState::None) {
     MoveLine(LineEnd(at, shift));
@@ -178,8 +173,8 @@ void DrawingBoard::Move(PagePoint at, bool shift) {
 }
 
 void DrawingBoard::Release(PagePoint at, bool shift) {
-  if (!Sane(at)) return;
-  if (boxing_) return DrawBox(boxFrom_, at);
+  if (!IsPlace(at)) return;
+  if (box_.Growing()) return box_.End(Page(), at);
   if (OutlineActive()) return ReleaseOutline(at);
   if (tool_ == PlanTool::None) return ReleaseFree(at, shift);
   if (line_ == LineState::None) return;
@@ -195,7 +190,7 @@ void DrawingBoard::Release(PagePoint at, bool shift) {
 }
 
 void DrawingBoard::DrawLine(PagePoint from, PagePoint to) {
-  if (!Sane(from) || !Sane(to)) return;
+  if (!IsPlace(from) || !IsPlace(to)) return;
   if (tool_ != PlanTool::Measuring) PickTool(PlanTool::Measuring);
   DropLine();
   Press(from, false);
@@ -210,7 +205,7 @@ void DrawingBoard::DoubleClick(PagePoint at, bool shift) {
 }
 
 void DrawingBoard::DrawOutline(PlanTool tool, const std::vector<PagePoint>& points) {
-  if (!DrawsOutlines(tool) || !std::all_of(points.begin(), points.end(), Sane)) return;
+  if (!DrawsOutlines(tool) || !std::all_of(points.begin(), points.end(), IsPlace)) return;
   if (tool_ != tool) PickTool(tool);
   DropOutline();
   for (const PagePoint at : points) Press(at, false);
@@ -249,41 +244,6 @@ bool DrawingBoard::CountsAlike(const Mark& mark) const {
   return mark.kind == Mark::Kind::Grouped && mark.group == Group();
 }
 
-// --- The box around a table or a symbol
-
-void DrawingBoard::SetBoxNext(bool box, BoxUse use) {
-  boxNext_ = box;
-  boxUse_ = use;
-  boxing_ = false;
-  Repaint();
-}
-
-void DrawingBoard::StretchBox(PagePoint to) {
-  box_ = DrawnBox{Page(),
-                  {std::min(boxFrom_.x, to.x), std::min(boxFrom_.y, to.y)},
-                  {std::max(boxFrom_.x, to.x), std::max(boxFrom_.y, to.y)}};
-  Repaint();
-}
-
-void DrawingBoard::DrawBox(PagePoint from, PagePoint to) {
-  if (!Sane(from) || !Sane(to)) return;
-  const bool symbol = boxNext_ && boxUse_ == BoxUse::Symbol;
-  boxNext_ = false;
-  boxing_ = false;
-  boxFrom_ = from;
-  StretchBox(to);
-  if (!symbol) return;
-  const DrawnBox box = *box_;
-  DropBox();
-  SymbolBoxed(box);
-}
-
-void DrawingBoard::DropBox() {
-  boxNext_ = false;
-  boxing_ = false;
-  box_.reset();
-}
-
 // --- The keys
 
 void DrawingBoard::MoveCrossHair(const PlanStroke& stroke) {
@@ -297,7 +257,7 @@ void DrawingBoard::MoveCrossHair(const PlanStroke& stroke) {
 
 void DrawingBoard::PressArrow(const PlanStroke& stroke) {
   const PagePoint way = DirectionOf(stroke.key);
-  if (tool_ == PlanTool::None && !boxNext_ && !pointNext_) {
+  if (tool_ == PlanTool::None && !box_.Asked() && !pointNext_) {
     ScrollBy(way.x * kScrollStep, way.y * kScrollStep);
   } else {
     MoveCrossHair(stroke);
@@ -306,8 +266,8 @@ void DrawingBoard::PressArrow(const PlanStroke& stroke) {
 
 // Space is the mouse button of the keyboard: it places the first point, then the second.
 void DrawingBoard::PressSpace(bool shift) {
-  if (boxing_) return DrawBox(boxFrom_, crossHair_);
-  if (tool_ == PlanTool::None && !boxNext_ && !pointNext_) return;
+  if (box_.Growing()) return box_.End(Page(), crossHair_);
+  if (tool_ == PlanTool::None && !box_.Asked() && !pointNext_) return;
   Press(crossHair_, shift);
   if (line_ == LineState::Dragging) line_ = LineState::Placed;
   if (line_ == LineState::Closing) EndLine();
@@ -328,7 +288,7 @@ void DrawingBoard::Key(const PlanStroke& stroke) {
       return Raise(onEnterKey);
     case PlanKey::Escape:
       work_.check = false;
-      DropBox();
+      box_.Drop();
       DropLine();
       return Repaint();
     case PlanKey::Backspace:

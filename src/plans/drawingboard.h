@@ -5,6 +5,7 @@
 
 #include "plans/outlineboard.h"
 #include "plans/plankey.h"
+#include "plans/sheetbox.h"
 
 namespace tamo {
 
@@ -18,20 +19,12 @@ struct LineInWork {
   QString text;  // its running length, as the label of the mark would say it
 };
 
-// A box that was drawn around a table or a symbol of the plan. It is no mark.
-struct DrawnBox {
-  int page = 1;
-  PagePoint topLeft;
-  PagePoint bottomRight;
-};
-
-// What a box is drawn around.
-enum class BoxUse { Table, Symbol };
-
 // The tools: what the mouse and the keys draw and measure on the sheets. Places in points on the
 // current page.
 class DrawingBoard : public OutlineBoard {
  public:
+  DrawingBoard();
+
   // --- Measuring
   // A whole number, a fraction, or a whole number, a blank and a fraction: "1 1/2" gives 1.5.
   // Anything else gives 0.
@@ -63,12 +56,9 @@ class DrawingBoard : public OutlineBoard {
   // The whole outline, with one of the tools that draw them; takes the tool first.
   void DrawOutline(PlanTool tool, const std::vector<PagePoint>& points);
 
-  // A box around a table: the next drag draws it, or Space at two corners, whatever tool is in
-  // hand. It stays until the next box, another plan or Escape. One around a symbol is handed on.
-  void SetBoxNext(bool box, BoxUse use = BoxUse::Table);
-  bool BoxNext() const { return boxNext_; }
-  void DrawBox(PagePoint from, PagePoint to);
-  const std::optional<DrawnBox>& Box() const { return box_; }
+  // The box around a table or a symbol; presses draw it while it is asked for.
+  SheetBox& Box() { return box_; }
+  const SheetBox& Box() const { return box_; }
 
   // The next presses, whatever tool is in hand, give points and draw nothing.
   void SetPointNext(bool point);
@@ -97,8 +87,6 @@ class DrawingBoard : public OutlineBoard {
   virtual void MoveFree(PagePoint /*at*/, bool /*shift*/) {}
   virtual void ReleaseFree(PagePoint /*at*/, bool /*shift*/) {}
   virtual void ToolComes() {}
-  // A box was drawn around a symbol; it is gone from the board.
-  virtual void SymbolBoxed(const DrawnBox& /*box*/) {}
   // Whether this plan may be marked; asks the user where it has to be asked.
   virtual bool MayMark() { return true; }
 
@@ -111,8 +99,6 @@ class DrawingBoard : public OutlineBoard {
   void MoveCrossHair(const PlanStroke& stroke);
   void PressArrow(const PlanStroke& stroke);
   void PressSpace(bool shift);
-  void StretchBox(PagePoint to);
-  void DropBox();
   PagePoint LineEnd(PagePoint at, bool shift) const;
   double PaperLength() const;
 
@@ -123,11 +109,7 @@ class DrawingBoard : public OutlineBoard {
   LineState line_ = LineState::None;
   LineInWork work_;
   bool pointNext_ = false;
-  bool boxNext_ = false;
-  BoxUse boxUse_ = BoxUse::Table;
-  bool boxing_ = false;  // it is being drawn
-  PagePoint boxFrom_;
-  std::optional<DrawnBox> box_;
+  SheetBox box_;
   PagePoint crossHair_ = {306, 396};
 };
 

@@ -5,6 +5,14 @@
 
 namespace tamo {
 
+bool IsOnPaper(double points) {
+  return std::isfinite(points) && std::abs(points) < 1e6;
+}
+
+bool IsPlace(PagePoint at) {
+  return IsOnPaper(at.x) && IsOnPaper(at.y);
+}
+
 bool IsCount(Mark::Kind kind) {
   return kind == Mark::Kind::Circle || kind == Mark::Kind::Grouped;
 }

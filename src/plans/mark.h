@@ -13,6 +13,10 @@ struct PagePoint {
   bool operator==(const PagePoint&) const = default;
 };
 
+// What a person can mean by a length or a place on paper, in points: a number, and not a mile off.
+bool IsOnPaper(double points);
+bool IsPlace(PagePoint at);
+
 // Width and height of a page in points, as it is looked at.
 struct PageSize {
   double width = 612;

@@ -2,7 +2,6 @@
 
 #include <QRandomGenerator>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "plans/countgroups.h"
@@ -11,7 +10,7 @@ namespace tamo {
 namespace {
 
 bool IsWidth(double points) {
-  return std::isfinite(points) && points > 0 && points < 1e6;
+  return IsOnPaper(points) && points > 0;
 }
 
 }  // namespace

@@ -14,6 +14,12 @@ void Toggle(Frame& frame) {
   frame.SetShown(!frame.Shown());
 }
 
+// An event of the viewer as one of the desk: a failure in it is told there.
+template <typename Handler>
+auto OnDesk(Desk& desk, Handler handler) {
+  return [&desk, handler](auto&&... values) { desk.Dispatch([&] { handler(values...); }); };
+}
+
 }  // namespace
 
 OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, TakeoffFields& takeoff)
@@ -37,20 +43,19 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       ways_(kit, *this, viewer, record_),
       marks_(kit, *this, viewer, [this] { copy_.SaveEdits(TrimmedBlanks(kit_.shared.JobID)); }),
       compare_(kit, *this, viewer) {
-  AddText(QStringLiteral("ViewerName"), &ViewerName);
-  AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
   SetCaption(QStringLiteral("Digital Plan Takeoff"));
   BindFields();
   BindMenus();
-  BindViewer();
-  BindOutlines();
+  BindView();
+  BindTools();
   BindMarks();
   BindPlanKeys();
-  BindSheets();
-  BindCompare();
+  JoinParts();
 }
 
 void OSTForm::BindFields() {
+  AddText(QStringLiteral("ViewerName"), &ViewerName);
+  AddText(QStringLiteral("LoadingJobNFO"), &kit_.shared.LoadingJobNFO);
   for (TextField* field : {&ProjectName, &Mode, &IsScale, &DistanceText}) {
     field->readOnly = true;
     field->inTabOrder = false;
@@ -114,36 +119,20 @@ void OSTForm::BindMenus() {
   }
 }
 
-void OSTForm::BindCompare() {
-  compare_.Carry().onCarried = [this] {
-    groups_.ShowGroups();
-    if (!TrimmedBlanks(kit_.shared.JobID).isEmpty()) SaveIt();
-  };
-  compare_.onChoosePlan = [this] { return onChoosePlan ? onChoosePlan() : QString(); };
-}
-
-void OSTForm::BindOutlines() {
-  const auto event = [this](auto handler) {
-    return [this, handler](auto&&... values) { kit_.desk.Dispatch([&] { handler(values...); }); };
-  };
-  viewer_.onAreaMeasured =
-      event([this](double& area, QString& label) { surfaces_.AreaMeasured(area, label); });
-  viewer_.onAreaRunning =
-      event([this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
-  viewer_.onGroupCountChanged =
-      event([this](const QString& group, int count) { groups_.Counted(group, count); });
-  viewer_.onSheetRead = event([this] { sheetScales_.SheetRead(); });
-  viewer_.onToolRefused = event([this](const QString& why) { surfaces_.Refused(why); });
-}
-
-// What a sheet prints is known as soon as its texts are read, long before anything is measured.
-void OSTForm::BindSheets() {
+// What one part tells another.
+void OSTForm::JoinParts() {
+  // What a sheet prints is known as soon as its texts are read, long before anything is measured.
   sheetScales_.printedOn = [this](int page) -> std::optional<std::vector<PrintedScale>> {
     const SheetBook::Sheet& sheet = ways_.Book().Of(page);
     if (!sheet.read) return std::nullopt;
     return sheet.scales;
   };
   ways_.onSheetKnown = [this] { sheetScales_.SheetRead(); };
+  compare_.Carry().onCarried = [this] {
+    groups_.ShowGroups();
+    if (!TrimmedBlanks(kit_.shared.JobID).isEmpty()) SaveIt();
+  };
+  compare_.onChoosePlan = [this] { return onChoosePlan ? onChoosePlan() : QString(); };
 }
 
 // What the menus do to the chosen mark by keys, and what follows it.
@@ -174,17 +163,15 @@ void OSTForm::BindMarks() {
       if (marks_.IsChosen()) viewer_.Hand().Recolour(code);
     });
   }
-  viewer_.onMarkEdited = [this] { kit_.desk.Dispatch([this] { marks_.Edited(); }); };
-  viewer_.onMarkChosen = [this] { kit_.desk.Dispatch([this] { marks_.Chosen(); }); };
+  viewer_.onMarkEdited = OnDesk(kit_.desk, [this] { marks_.Edited(); });
+  viewer_.onMarkChosen = OnDesk(kit_.desk, [this] { marks_.Chosen(); });
 }
 
-// Each event of the viewer is one of the desk: a failure in it is told there.
-void OSTForm::BindViewer() {
-  const auto event = [this](auto handler) {
-    return [this, handler](auto&&... values) { kit_.desk.Dispatch([&] { handler(values...); }); };
-  };
+// What is measured and counted, the tool in hand and the pen.
+void OSTForm::BindTools() {
+  Desk& desk = kit_.desk;
   viewer_.onPenChanged = [this] { pen_.ShowPen(); };
-  viewer_.onModeChanged = event([this](PlanTool tool) {
+  viewer_.onModeChanged = OnDesk(desk, [this](PlanTool tool) {
     pen_.ModeChanged(tool);
     surfaces_.ToolPicked(tool);
     groups_.ToolPicked(tool);
@@ -192,16 +179,29 @@ void OSTForm::BindViewer() {
     viewer_.Same().Leave();
     sheetScales_.ToolPicked(tool);
   });
-  viewer_.onLineMeasured =
-      event([this](double& length, QString& label) { measure_.LineMeasured(length, label); });
+  viewer_.onLineMeasured = OnDesk(
+      desk, [this](double& length, QString& label) { measure_.LineMeasured(length, label); });
   viewer_.onLineRunning =
-      event([this](double& length, QString& label) { measure_.LineRunning(length, label); });
-  viewer_.onLineChecked = event([this](double paperLength) {
+      OnDesk(desk, [this](double& length, QString& label) { measure_.LineRunning(length, label); });
+  viewer_.onLineChecked = OnDesk(desk, [this](double paperLength) {
     if (sheetScales_.TakeDimension(paperLength)) return;
     if (measure_.LineChecked(paperLength)) sheetScales_.WasChecked();
   });
-  viewer_.onCircleCountChanged = event([this](int count) { measure_.CirclesCounted(count); });
-  viewer_.onPageChanged = event([this] {
+  viewer_.onAreaMeasured =
+      OnDesk(desk, [this](double& area, QString& label) { surfaces_.AreaMeasured(area, label); });
+  viewer_.onAreaRunning =
+      OnDesk(desk, [this](double& area, QString& label) { surfaces_.AreaRunning(area, label); });
+  viewer_.onCircleCountChanged =
+      OnDesk(desk, [this](int count) { measure_.CirclesCounted(count); });
+  viewer_.onGroupCountChanged =
+      OnDesk(desk, [this](const QString& group, int count) { groups_.Counted(group, count); });
+  viewer_.onToolRefused = OnDesk(desk, [this](const QString& why) { surfaces_.Refused(why); });
+}
+
+// The sheet in front, what is pressed on it, and what is wrong with the plan.
+void OSTForm::BindView() {
+  Desk& desk = kit_.desk;
+  viewer_.onPageChanged = OnDesk(desk, [this] {
     pages_.ShowPage();
     groups_.ShowGroups();
     viewer_.Snap().Follow();
@@ -210,10 +210,10 @@ void OSTForm::BindViewer() {
     sheetScales_.SheetChanged();
     compare_.SheetChanged();
   });
-  viewer_.onScrolled = event([this] {
+  viewer_.onScrolled = OnDesk(desk, [this] {
     if (Visible()) record_.SaveAfterScroll();
   });
-  viewer_.onMousePressed = event([this] {
+  viewer_.onMousePressed = OnDesk(desk, [this] {
     kit_.desk.Focus(picPdfDraw);
     if (!sheetScales_.Calibrating() && !viewer_.Same().Boxing()) measure_.WarnOfMissingScale();
     if (onPlanPressed) onPlanPressed();
@@ -222,13 +222,15 @@ void OSTForm::BindViewer() {
     return kit_.platform.messages.Ask(reservation +
                                       QStringLiteral(" Mark your copy of it all the same?"));
   };
-  viewer_.onPageProblem = event([this](const QString& text) { PlanProblem.SetCaption(text); });
-  viewer_.onEnterKey = event([this] { EnterOnPlan(); });
-  viewer_.onProblem = event([this](const QString& text) { PlanLost(text); });
+  viewer_.onSheetRead = OnDesk(desk, [this] { sheetScales_.SheetRead(); });
+  viewer_.onPageProblem =
+      OnDesk(desk, [this](const QString& text) { PlanProblem.SetCaption(text); });
+  viewer_.onEnterKey = OnDesk(desk, [this] { EnterOnPlan(); });
+  viewer_.onProblem = OnDesk(desk, [this](const QString& text) { PlanLost(text); });
 }
 
 void OSTForm::EnterOnPlan() {
-  const bool boxed = viewer_.Tool() == PlanTool::None && viewer_.Box().has_value();
+  const bool boxed = viewer_.Tool() == PlanTool::None && viewer_.Box().Drawn().has_value();
   if (boxed && onEnterBox && onEnterBox()) return;
   measure_.ReturnFocus();
 }

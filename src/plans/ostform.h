@@ -33,9 +33,8 @@ class OSTForm : public OstControls {
   void Load();
 
   // --- Plan files
-  void LoadPDF() {
-    opener_.LoadPDF();
-  }                                    // opens the plan that PlanLocation names, or the blank page
+  // Opens the plan that PlanLocation names, or the blank page.
+  void LoadPDF() { opener_.LoadPDF(); }
   void LoadFN() { opener_.LoadFN(); }  // the same for the plan of the record that is being read
   void OpenBlank() { opener_.OpenBlank(); }
   void Save();    // the marked copy into the project, also with no project open
@@ -79,12 +78,11 @@ class OSTForm : public OstControls {
  private:
   void BindFields();
   void BindMenus();
-  void BindViewer();
-  void BindOutlines();
+  void BindView();
+  void BindTools();
   void BindMarks();
-  void BindCompare();
   void BindPlanKeys();
-  void BindSheets();
+  void JoinParts();
   void EnterOnPlan();
   void PlanLost(const QString& problem);
 

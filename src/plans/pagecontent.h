@@ -26,6 +26,7 @@ struct PageBox {
   bool Empty() const { return right <= left || bottom <= top; }
   PageBox Cut(const PageBox& other) const;
   void Take(PagePoint at);  // grows so that it holds the place; begin with NoBox()
+  bool operator==(const PageBox&) const = default;
 };
 PageBox NoBox();  // holds nothing
 

@@ -127,7 +127,6 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   void MoveFree(PagePoint at, bool shift) override { hand_.Move(at, shift); }
   void ReleaseFree(PagePoint at, bool shift) override { hand_.Release(at, shift); }
   void ToolComes() override { hand_.LetGo(); }
-  void SymbolBoxed(const DrawnBox& box) override;
   bool TakeOverlayKey(const PlanStroke& stroke) override;
 
  private:
@@ -142,6 +141,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   int ShowNothing(const QString& path, int error, const QString& reason);
   void PicturesChanged();
   void TellOfPainting();
+  void SymbolBoxed(const DrawnBox& box);
   void TellOfSearch();
   void TellOfPages(PlanPainter& painter);
   void BeginPlan(const QString& path);

@@ -123,6 +123,7 @@ PdfDraw::PdfDraw(Files& files, PlanEngine& engine)
       draw.TellOfSearch();
     });
   };
+  Box().onSymbol = [this](const DrawnBox& box) { SymbolBoxed(box); };
   same_.Search().onDone = [forms = forms_] {
     FormsThread::Post(forms, [](PdfDraw& draw) { draw.TellOfSearch(); });
   };

@@ -7,7 +7,7 @@
 namespace tamo {
 
 void PdfDraw::SymbolBoxed(const DrawnBox& box) {
-  same_.TakeBox({box.topLeft.x, box.topLeft.y, box.bottomRight.x, box.bottomRight.y});
+  same_.TakeBox(box.place);
   TellOfSearch();
 }
 

@@ -102,18 +102,16 @@ void PlanCarry::CarryAll() {
   for (const Mark& mark : comparison_.OldMarks()) pages.insert(mark.page);
   task.oldPages.assign(pages.begin(), pages.end());
   form_.PlanProblem.SetCaption(QStringLiteral("The sheets with marks are being compared."));
-  comparison_.Post(
-      [this, task](CancelFlag& cancel, const Comparison::TellNews& tell) {
-        const SheetsToCarry sheets = CompareMarkedSheets(task, cancel, [&](int done) {
-          tell([this, done, all = task.oldPages.size()] {
-            form_.PlanProblem.SetCaption(
-                QStringLiteral("%1 of %2 sheets with marks are compared.").arg(done).arg(all));
-          });
-        });
-        if (!cancel.Cancelled())
-          tell([this, sheets] { kit_.desk.Dispatch([&] { OfferAll(sheets); }); });
-      },
-      true);
+  comparison_.Jobs().PostLasting([this, task](CancelFlag& cancel, const SheetJobs::TellNews& tell) {
+    const SheetsToCarry sheets = CompareMarkedSheets(task, cancel, [&](int done) {
+      tell([this, done, all = task.oldPages.size()] {
+        form_.PlanProblem.SetCaption(
+            QStringLiteral("%1 of %2 sheets with marks are compared.").arg(done).arg(all));
+      });
+    });
+    if (!cancel.Cancelled())
+      tell([this, sheets] { kit_.desk.Dispatch([&] { OfferAll(sheets); }); });
+  });
 }
 
 void PlanCarry::OfferAll(const SheetsToCarry& sheets) {

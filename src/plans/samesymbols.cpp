@@ -21,7 +21,7 @@ void SameSymbols::Start() {
     return Tell(QStringLiteral("Find Same: no plan is open whose lines could be read."));
   state_ = State::Boxing;
   plan_ = viewer_.OpenedPlan();
-  viewer_.SetBoxNext(true, BoxUse::Symbol);
+  viewer_.Box().Ask(BoxUse::Symbol);
   viewer_.Snap().Lines().Want(viewer_.OpenedPlan(), viewer_.Page());
   Tell(
       QStringLiteral("Find Same: draw a box around one symbol, with the mouse, or with the arrows "
@@ -192,7 +192,7 @@ void SameSymbols::End(const QString& words) {
   likes_.clear();
   answers_.clear();
   counted_ = 0;
-  if (viewer_.BoxNext()) viewer_.SetBoxNext(false);
+  if (viewer_.Box().Asked()) viewer_.Box().Leave();
   if (asked || !words.isEmpty()) Tell(words);
   Repaint();
 }

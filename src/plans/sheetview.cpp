@@ -7,10 +7,6 @@
 namespace tamo {
 namespace {
 
-bool Sane(double value) {
-  return std::isfinite(value) && std::abs(value) < 1e6;
-}
-
 // A position moved by some points, kept on the page.
 int Moved(int from, double by, double most) {
   const double last = std::max(0.0, std::floor(most));
@@ -60,7 +56,7 @@ void SheetView::SetViewValue(ViewPart part, int value) {
 }
 
 void SheetView::ScrollBy(double dx, double dy) {
-  if (!Sane(dx) || !Sane(dy)) return;
+  if (!IsOnPaper(dx) || !IsOnPaper(dy)) return;
   PageSize size = SizeOfPage(page_);
   const double quarters = std::floor(ViewValue(ViewPart::Rotation) / 90.0 + 0.5);
   if (static_cast<int>(quarters) % 2 != 0) std::swap(size.width, size.height);

@@ -30,7 +30,8 @@ bool SnapPointer::Active() const {
   const PlanTool tool = viewer_.Tool();
   const std::optional<Mark>& held = viewer_.Hand().Held();
   if (held.has_value()) return on_ && !IsCount(held->kind) && !IsLabel(held->kind);
-  return on_ && !viewer_.BoxNext() && (tool == PlanTool::Measuring || PdfDraw::DrawsOutlines(tool));
+  return on_ && !viewer_.Box().Asked() &&
+         (tool == PlanTool::Measuring || PdfDraw::DrawsOutlines(tool));
 }
 
 // Tools come and go with every entry of the takeoff; the lines stay as long as the page.

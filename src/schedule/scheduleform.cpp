@@ -58,7 +58,7 @@ void ScheduleForm::BindMenus() {
   ost_.FindMenu(QStringLiteral("AddToSchedule"))->onClick = [this] { AddPart(); };
   ost_.FindMenu(QStringLiteral("DrawScheduleBox"))->onClick = [this] {
     FrameFound();
-    ost_.Viewer().SetBoxNext(true);
+    ost_.Viewer().Box().Ask(BoxUse::Table);
   };
   ost_.onEnterBox = [this] { return EnterBox(); };
   ost_.onPlanPressed = [this] { ClickedOnPlan(); };

@@ -39,9 +39,9 @@ bool ScheduleForm::TakeFromPlan() {
     return false;
   }
   std::optional<PageBox> box;
-  const std::optional<DrawnBox>& drawn = viewer.Box();
+  const std::optional<DrawnBox>& drawn = viewer.Box().Drawn();
   if (drawn.has_value() && drawn->page == viewer.Page()) {
-    box = PageBox{drawn->topLeft.x, drawn->topLeft.y, drawn->bottomRight.x, drawn->bottomRight.y};
+    box = drawn->place;
     if (box->left == boxes_.framed.left && box->top == boxes_.framed.top)
       box.reset();  // only shows a row
   }
@@ -86,13 +86,9 @@ void ScheduleForm::FrameFound() {
 
 // Enter takes a box that was not read yet: a drawn one, or the schedule that was found.
 bool ScheduleForm::EnterBox() {
-  const DrawnBox& box = *ost_.Viewer().Box();
-  const auto same = [&box](const PageBox& other) {
-    return box.topLeft.x == other.left && box.topLeft.y == other.top &&
-           box.bottomRight.x == other.right && box.bottomRight.y == other.bottom;
-  };
-  const bool offered = same(boxes_.offered);
-  if (!offered && (same(boxes_.framed) || (same(boxes_.taken) && Visible()))) return false;
+  const PageBox box = ost_.Viewer().Box().Drawn()->place;
+  const bool offered = box == boxes_.offered;
+  if (!offered && (box == boxes_.framed || (box == boxes_.taken && Visible()))) return false;
   boxes_.offered = {};
   Read();
   return true;
@@ -104,8 +100,8 @@ void ScheduleForm::FrameOnPlan(const PageBox& box, int page) {
   if (box.Empty() || viewer.ShownPath().isEmpty()) return;
   if (viewer.Page() != page) viewer.SetPage(page);
   boxes_.framed = {box.left - 2, box.top - 2, box.right + 2, box.bottom + 2};
-  viewer.DrawBox({boxes_.framed.left, boxes_.framed.top},
-                 {boxes_.framed.right, boxes_.framed.bottom});
+  viewer.Box().Draw(viewer.Page(), {boxes_.framed.left, boxes_.framed.top},
+                    {boxes_.framed.right, boxes_.framed.bottom});
 }
 
 // A click on the drawing, with no tool in hand, selects the row and the cell under it.

@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "plans/sheettexts.h"
+#include "windows/display.h"
 #include "windows/findplace.h"
 #include "windows/plancanvas.h"
 

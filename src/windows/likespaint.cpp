@@ -1,17 +1,14 @@
 #include <QPainter>
 
-#include "windows/plancanvas.h"
-
-// The symbols that were found alike, while each is asked about: the one in hand thick, those that
-// were accepted green, refused ones thin.
+#include "windows/sheetpaint.h"
 
 namespace tamo {
 
-void PlanCanvas::PaintLikes(QPainter& painter) const {
+void PaintLikes(QPainter& painter, PdfDraw& viewer, double scale) {
   using Answer = SameSymbols::Answer;
-  const SameSymbols& same = viewer_.Same();
-  if (!same.Asking() || same.Page() != viewer_.Page()) return;
-  const double pixel = 1 / Scale();
+  const SameSymbols& same = viewer.Same();
+  if (!same.Asking() || same.Page() != viewer.Page()) return;
+  const double pixel = 1 / scale;
   constexpr double kAround = 4;  // pixels
   for (size_t i = 0; i < same.Likes().size(); ++i) {
     const Like& like = same.Likes()[i];

@@ -3,6 +3,8 @@
 #include <QLineEdit>
 #include <QProgressDialog>
 #include <QSplitter>
+#include <memory>
+#include <utility>
 
 #include "program/program.h"
 #include "windows/comparepanel.h"
@@ -10,10 +12,11 @@
 #include "windows/findonplan.h"
 #include "windows/formlayouts.h"
 #include "windows/groupstrip.h"
-#include "windows/plancanvas.h"
+#include "windows/planbinding.h"
 #include "windows/plancolumn.h"
 #include "windows/planmarks.h"
 #include "windows/planpanels.h"
+#include "windows/planthumbnails.h"
 #include "windows/plantoolbar.h"
 #include "windows/roles.h"
 
@@ -138,16 +141,17 @@ PlanCanvas* Canvas(Builder& b) {
   PdfDraw& viewer = b.GetProgram().Viewer();
   Desk& desk = b.GetProgram().GetDesk();
   auto* canvas = new PlanCanvas(viewer, b.Pictures(), desk);
-  if (Control* box = b.Find("picPdfDraw")) b.Bind<PlanBinding>(*box, *canvas);
+  auto keys = std::make_unique<PlanKeys>(*canvas, viewer, desk);
   const auto choose = [&b, &desk](const char* name) {
     MenuEntry* entry = b.GetForm().FindMenu(QLatin1String(name));
     return [entry, &desk] {
       if (entry != nullptr) desk.ChooseMenu(*entry);
     };
   };
-  canvas->onZoomIn = choose("ZoomIn");
-  canvas->onZoomOut = choose("ZoomOut");
-  canvas->onGroups = choose("CountGroups");
+  keys->onZoomIn = choose("ZoomIn");
+  keys->onZoomOut = choose("ZoomOut");
+  keys->onGroups = choose("CountGroups");
+  if (Control* box = b.Find("picPdfDraw")) b.Bind<PlanBinding>(*box, *canvas, std::move(keys));
   FormWindow* window = &b.Window();
   viewer.onPrint = [canvas] { canvas->Print(); };
   viewer.onBringToFront = [window] { window->raise(); };

@@ -1,145 +1,13 @@
-#include <QKeyEvent>
-#include <optional>
+#include "windows/planbinding.h"
 
-#include "windows/plancanvas.h"
+#include <QKeyEvent>
+#include <utility>
 
 namespace tamo {
-namespace {
 
-std::optional<PlanKey> PlanKeyOf(int code) {
-  static constexpr std::pair<int, PlanKey> kKeys[] = {{Qt::Key_Left, PlanKey::Left},
-                                                      {Qt::Key_Right, PlanKey::Right},
-                                                      {Qt::Key_Up, PlanKey::Up},
-                                                      {Qt::Key_Down, PlanKey::Down},
-                                                      {Qt::Key_Space, PlanKey::Space},
-                                                      {Qt::Key_Return, PlanKey::Enter},
-                                                      {Qt::Key_Enter, PlanKey::Enter},
-                                                      {Qt::Key_Escape, PlanKey::Escape},
-                                                      {Qt::Key_Backspace, PlanKey::Backspace},
-                                                      {Qt::Key_Delete, PlanKey::Delete},
-                                                      {Qt::Key_Z, PlanKey::Undo},
-                                                      {Qt::Key_Y, PlanKey::Redo}};
-  for (const auto& [known, key] : kKeys) {
-    if (known == code) return key;
-  }
-  return std::nullopt;
-}
-
-std::optional<PlanKey> LetterOf(int code) {
-  static constexpr std::pair<int, PlanKey> kKeys[] = {
-      {Qt::Key_B, PlanKey::Arc},     {Qt::Key_S, PlanKey::Snap},
-      {Qt::Key_N, PlanKey::No},      {Qt::Key_P, PlanKey::MarkBefore},
-      {Qt::Key_D, PlanKey::Compare}, {Qt::Key_2, PlanKey::TwoPoints},
-      {Qt::Key_O, PlanKey::Layer},   {Qt::Key_X, PlanKey::SwapSides}};
-  for (const auto& [known, key] : kKeys) {
-    if (known == code) return key;
-  }
-  return std::nullopt;
-}
-
-}  // namespace
-
-// The helpers that count; while symbols that were found are asked about, letters answer.
-bool PlanCanvas::TakeCountLetter(int key) {
-  static constexpr std::pair<int, PlanKey> kAnswers[] = {
-      {Qt::Key_Y, PlanKey::Yes}, {Qt::Key_N, PlanKey::No}, {Qt::Key_A, PlanKey::All}};
-  if (key == Qt::Key_G && onGroups) {
-    onGroups();
-    return true;
-  }
-  if (key == Qt::Key_I) desk_.Dispatch([this] { viewer_.Same().Start(); });
-  if (key == Qt::Key_I || !viewer_.Same().Asking()) return key == Qt::Key_I;
-  for (const auto& [letter, answer] : kAnswers) {
-    if (letter != key) continue;
-    desk_.Dispatch([&, answer = answer] { viewer_.Key({answer, false, false}); });
-    return true;
-  }
-  return false;
-}
-
-// The tool bar by letters, while the keys go to the plan.
-bool PlanCanvas::TakeLetter(int key) {
-  static constexpr std::pair<int, PlanTool> kTools[] = {
-      {Qt::Key_V, PlanTool::None},     {Qt::Key_M, PlanTool::Measuring},
-      {Qt::Key_C, PlanTool::Counting}, {Qt::Key_L, PlanTool::Polyline},
-      {Qt::Key_A, PlanTool::Area},     {Qt::Key_R, PlanTool::Rectangle},
-      {Qt::Key_K, PlanTool::CutOut},   {Qt::Key_E, PlanTool::Perimeter}};
-  for (const auto& [letter, tool] : kTools) {
-    if (letter != key) continue;
-    desk_.Dispatch([&, tool = tool] { viewer_.PickTool(tool); });
-    return true;
-  }
-  if (const std::optional<PlanKey> plan = LetterOf(key)) {
-    desk_.Dispatch([&] { viewer_.Key({*plan, false, false}); });
-    return true;
-  }
-  switch (key) {
-    case Qt::Key_Tab:
-      return TakeNextSnap();
-    case Qt::Key_T:
-      TurnView();
-      return true;
-    case Qt::Key_Plus:
-      ZoomByKey(onZoomIn);
-      return true;
-    case Qt::Key_Minus:
-      ZoomByKey(onZoomOut);
-      return true;
-    case Qt::Key_F:
-      FitPage();
-      return true;
-    case Qt::Key_W:
-      FitWidth();
-      return true;
-    default:
-      return false;
-  }
-}
-
-// Where there is nothing to snap to, Tab goes on to the next field as everywhere.
-bool PlanCanvas::TakeNextSnap() {
-  bool taken = false;
-  desk_.Dispatch([&] {
-    taken = viewer_.Hand().TakeKey({PlanKey::NextSnap, false, false}) ||
-            viewer_.Snap().TakeKey(PlanKey::NextSnap);
-  });
-  return taken;
-}
-
-// Another sheet of the plan that is laid over this one.
-bool PlanCanvas::TakePairKey(bool next) {
-  desk_.Dispatch([&] {
-    viewer_.Key({next ? PlanKey::PairNext : PlanKey::PairBefore, false, true});
-  });
-  return true;
-}
-
-bool PlanCanvas::TakeKey(const QKeyEvent& event) {
-  const bool ctrl = event.modifiers().testFlag(Qt::ControlModifier);
-  const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
-  if (event.modifiers().testFlag(Qt::AltModifier)) return false;
-  FinishScroll();
-  if (!ctrl && shift && event.key() == Qt::Key_N) {
-    desk_.Dispatch([&] { viewer_.Key({PlanKey::No, true, false}); });
-    return true;
-  }
-  if (!ctrl && (TakeCountLetter(event.key()) || TakeLetter(event.key()))) return true;
-  if (event.key() == Qt::Key_PageDown || event.key() == Qt::Key_PageUp) {
-    if (ctrl) return TakePairKey(event.key() == Qt::Key_PageDown);
-    const int page = viewer_.Page() + (event.key() == Qt::Key_PageDown ? 1 : -1);
-    desk_.Dispatch([&] { viewer_.TurnPage(page); });
-    return true;
-  }
-  const std::optional<PlanKey> key = PlanKeyOf(event.key());
-  if (!key) return false;
-  const bool needsCtrl = *key == PlanKey::Undo || *key == PlanKey::Redo;
-  if (needsCtrl && !ctrl) return false;
-  desk_.Dispatch([&] { viewer_.Key({*key, shift, ctrl}); });
-  return true;
-}
-
-PlanBinding::PlanBinding(Display& display, Control& control, PlanCanvas& canvas)
-    : Binding(display, control, canvas), canvas_(canvas) {}
+PlanBinding::PlanBinding(Display& display, Control& control, PlanCanvas& canvas,
+                         std::unique_ptr<PlanKeys> keys)
+    : Binding(display, control, canvas), canvas_(canvas), keys_(std::move(keys)) {}
 
 bool PlanBinding::eventFilter(QObject*, QEvent* event) {
   if (event->type() != QEvent::KeyPress) {
@@ -148,14 +16,7 @@ bool PlanBinding::eventFilter(QObject*, QEvent* event) {
     return TakeCommon(event);
   }
   auto& key = static_cast<QKeyEvent&>(*event);
-  return canvas_.TakeKey(key) || GetDisplay().TakeKey(*this, key);
-}
-
-PlanCanvas* FindPlanCanvas(const QWidget& window) {
-  for (QWidget* widget : window.findChildren<QWidget*>(QStringLiteral("picPdfDraw"))) {
-    if (auto* canvas = dynamic_cast<PlanCanvas*>(widget)) return canvas;
-  }
-  return nullptr;
+  return keys_->Take(key) || GetDisplay().TakeKey(*this, key);
 }
 
 }  // namespace tamo

@@ -1,15 +1,12 @@
 #include "windows/plancanvas.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
 #include "plans/comparison.h"
-#include "windows/look.h"
-#include "windows/planpaint.h"
 
 namespace tamo {
 namespace {
@@ -57,101 +54,31 @@ PlanCanvas::~PlanCanvas() {
   if (pictures_ != nullptr) pictures_->onPicturesChanged = nullptr;
 }
 
-double PlanCanvas::Scale() const {
-  return PixelsPerPoint(viewer_.Zoom(), 1);
-}
-
-int PlanCanvas::Turn() const {
-  const int quarters = static_cast<int>(std::lround(viewer_.ViewValue(ViewPart::Rotation) / 90.0));
-  return ((quarters % 4 + 4) % 4) * 90;
-}
-
-QSizeF PlanCanvas::TurnedPage() const {
-  const PageSize size = viewer_.SizeOfPage(viewer_.Page());
-  return Turn() % 180 == 0 ? QSizeF(size.width, size.height) : QSizeF(size.height, size.width);
-}
-
-QPointF PlanCanvas::Origin() const {
-  const QSizeF page = TurnedPage() * Scale();
-  const QSizeF view = viewport()->size();
-  const auto at = [](double whole, double shown, double place) {
-    return whole <= shown ? std::floor((shown - whole) / 2)
-                          : -std::clamp(place, 0.0, whole - shown);
-  };
-  return {at(page.width(), view.width(), viewer_.ViewValue(ViewPart::Horizontal) * Scale()),
-          at(page.height(), view.height(), viewer_.ViewValue(ViewPart::Vertical) * Scale())};
-}
-
-QPointF PlanCanvas::OnTurned(PagePoint at) const {
-  const PageSize size = viewer_.SizeOfPage(viewer_.Page());
-  switch (Turn()) {
-    case 90:
-      return {size.height - at.y, at.x};
-    case 180:
-      return {size.width - at.x, size.height - at.y};
-    case 270:
-      return {at.y, size.width - at.x};
-    default:
-      return {at.x, at.y};
-  }
-}
-
-PagePoint PlanCanvas::PageAt(const QPointF& place) const {
-  const QPointF at = (place - Origin()) / Scale();
-  const PageSize size = viewer_.SizeOfPage(viewer_.Page());
-  switch (Turn()) {
-    case 90:
-      return {at.y(), size.height - at.x()};
-    case 180:
-      return {size.width - at.x(), size.height - at.y()};
-    case 270:
-      return {size.width - at.y(), at.x()};
-    default:
-      return {at.x(), at.y()};
-  }
-}
-
 QPointF PlanCanvas::PlaceInView(PagePoint at) {
-  const QPointF turned = OnTurned(at);
-  QPointF place = Origin() + turned * Scale();
-  if (!QRectF(viewport()->rect()).adjusted(8, 8, -8, -8).contains(place)) {
-    const QSizeF half = QSizeF(viewport()->size()) / (2 * Scale());
-    viewer_.SetViewValue(ViewPart::Horizontal,
-                         std::max(0, static_cast<int>(turned.x() - half.width())));
-    viewer_.SetViewValue(ViewPart::Vertical,
-                         std::max(0, static_cast<int>(turned.y() - half.height())));
-    ViewChanged();
-    place = Origin() + turned * Scale();
-  }
-  return place;
-}
-
-PlanView PlanCanvas::View() const {
-  const double ratio = devicePixelRatioF();
-  const QPointF origin = Origin();
-  PlanView view;
-  view.page = viewer_.Page();
-  view.pixelsPerPoint = PixelsPerPoint(viewer_.Zoom(), ratio);
-  view.turn = Turn();
-  view.left = static_cast<int>(std::lround(std::max(0.0, -origin.x()) * ratio));
-  view.top = static_cast<int>(std::lround(std::max(0.0, -origin.y()) * ratio));
-  view.width = static_cast<int>(std::ceil(viewport()->width() * ratio));
-  view.height = static_cast<int>(std::ceil(viewport()->height() * ratio));
-  return view;
+  const QPointF place = Sheet().InWindow(at);
+  if (QRectF(viewport()->rect()).adjusted(8, 8, -8, -8).contains(place)) return place;
+  const QPointF turned = Sheet().Turned(at);
+  const QSizeF half = Sheet().Shown() / 2;
+  viewer_.SetViewValue(ViewPart::Horizontal,
+                       std::max(0, static_cast<int>(turned.x() - half.width())));
+  viewer_.SetViewValue(ViewPart::Vertical,
+                       std::max(0, static_cast<int>(turned.y() - half.height())));
+  ViewChanged();
+  return Sheet().InWindow(at);
 }
 
 void PlanCanvas::ViewChanged() {
   SyncBars();
   lookedRatio_ = devicePixelRatioF();
-  if (pictures_ != nullptr) pictures_->Look(View());
+  if (pictures_ != nullptr) pictures_->Look(Sheet().View(lookedRatio_));
   viewport()->update();
   if (onPictures) onPictures();
 }
 
 void PlanCanvas::SyncBars() {
   syncingBars_ = true;
-  const QSizeF page = TurnedPage();
-  const QSizeF view = QSizeF(viewport()->size()) / Scale();
+  const QSizeF page = Sheet().Page();
+  const QSizeF view = Sheet().Shown();
   const auto set = [](QScrollBar* bar, double whole, double shown, int value) {
     bar->setRange(0, std::max(0, static_cast<int>(std::ceil(whole - shown))));
     bar->setPageStep(std::max(1, static_cast<int>(shown)));
@@ -176,14 +103,14 @@ void PlanCanvas::resizeEvent(QResizeEvent* event) {
 }
 
 PagePoint PlanCanvas::Pointed(const QMouseEvent& event) {
-  return viewer_.Snap().Point(PageAt(event.position()),
+  return viewer_.Snap().Point(Sheet().OnPage(event.position()),
                               event.modifiers().testFlag(Qt::AltModifier));
 }
 
 // A hand with a finger over a link, while a click on it follows it.
 void PlanCanvas::ShowPointer(const QPointF& place) {
-  const bool follows = viewer_.Tool() == PlanTool::None && !viewer_.BoxNext() && linkAt;
-  const QString link = follows ? linkAt(PageAt(place)) : QString();
+  const bool follows = viewer_.Tool() == PlanTool::None && !viewer_.Box().Asked() && linkAt;
+  const QString link = follows ? linkAt(Sheet().OnPage(place)) : QString();
   if (viewport()->toolTip() == link) return;
   viewport()->setToolTip(link);
   viewport()->setCursor(link.isEmpty() ? Qt::CrossCursor : Qt::PointingHandCursor);
@@ -196,7 +123,8 @@ void PlanCanvas::mousePressEvent(QMouseEvent* event) {
   FinishScroll();
   panFrom_ = event->position();
   pressedAt_ = event->position();
-  const bool tool = viewer_.Tool() != PlanTool::None || viewer_.BoxNext() || viewer_.PointNext();
+  const bool tool =
+      viewer_.Tool() != PlanTool::None || viewer_.Box().Asked() || viewer_.PointNext();
   panning_ = !left || !tool;
   pulled_ = false;
   if (!left) return;
@@ -215,7 +143,7 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
   if (drawing_ && event->buttons() == Qt::NoButton) {
     // The release went to a message box that the press brought up.
     drawing_ = false;
-    desk_.Dispatch([&] { viewer_.Release(PageAt(pressedAt_), shift); });
+    desk_.Dispatch([&] { viewer_.Release(Sheet().OnPage(pressedAt_), shift); });
   }
   if (panning_ && event->buttons() != Qt::NoButton) {
     const QPointF moved = event->position() - pressedAt_;
@@ -223,7 +151,7 @@ void PlanCanvas::mouseMoveEvent(QMouseEvent* event) {
     pulled_ = true;
     viewer_.Hand().Pulled();
     viewport()->setCursor(Qt::ClosedHandCursor);
-    Pan((panFrom_ - event->position()) / Scale());
+    Pan((panFrom_ - event->position()) / Sheet().Scale());
     panFrom_ = event->position();
     return;
   }
@@ -251,13 +179,13 @@ void PlanCanvas::mouseReleaseEvent(QMouseEvent* event) {
 void PlanCanvas::mouseDoubleClickEvent(QMouseEvent* event) {
   const bool ends = event->button() == Qt::LeftButton && viewer_.OutlineInWork().has_value();
   if (!ends) return mousePressEvent(event);
-  const PagePoint at = PageAt(event->position());
+  const PagePoint at = Sheet().OnPage(event->position());
   desk_.Dispatch([&] { viewer_.DoubleClick(at, false); });
 }
 
 void PlanCanvas::Pan(const QPointF& points) {
-  const QSizeF page = TurnedPage();
-  const QSizeF view = QSizeF(viewport()->size()) / Scale();
+  const QSizeF page = Sheet().Page();
+  const QSizeF view = Sheet().Shown();
   const double mostX = std::max(0.0, page.width() - view.width());
   const double mostY = std::max(0.0, page.height() - view.height());
   if (!scrolling_) {
@@ -296,16 +224,23 @@ void PlanCanvas::wheelEvent(QWheelEvent* event) {
   QPointF pixels = event->pixelDelta().isNull() ? notches * kWheelStep * PixelsPerPoint(100, 1)
                                                 : QPointF(event->pixelDelta());
   if (event->modifiers().testFlag(Qt::ShiftModifier) && pixels.x() == 0) pixels = {pixels.y(), 0};
-  Pan(-pixels / Scale());
+  Pan(-pixels / Sheet().Scale());
 }
 
 void PlanCanvas::TurnView() {
   desk_.Dispatch([this] {
-    viewer_.SetViewValue(ViewPart::Rotation, (Turn() + 90) % 360);
+    viewer_.SetViewValue(ViewPart::Rotation, (Sheet().Turn() + 90) % 360);
     viewer_.SetViewValue(ViewPart::Horizontal, 0);
     viewer_.SetViewValue(ViewPart::Vertical, 0);
   });
   ViewChanged();
+}
+
+PlanCanvas* FindPlanCanvas(const QWidget& window) {
+  for (QWidget* widget : window.findChildren<QWidget*>(QStringLiteral("picPdfDraw"))) {
+    if (auto* canvas = dynamic_cast<PlanCanvas*>(widget)) return canvas;
+  }
+  return nullptr;
 }
 
 }  // namespace tamo

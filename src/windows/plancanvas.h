@@ -5,22 +5,17 @@
 #include <QTimer>
 
 #include <functional>
-#include <map>
+#include <vector>
 
+#include "common/desk.h"
 #include "plans/pdfdraw.h"
 #include "plans/planpictures.h"
-#include "plans/sheetnumber.h"
-#include "windows/display.h"
+#include "windows/sheetinwindow.h"
+#include "windows/sheetpaint.h"
 
 class QPrinter;
 
 namespace tamo {
-
-// A text that was found on a sheet.
-struct FoundBox {
-  PageBox box;          // points of the page
-  bool walked = false;  // the one that is looked at
-};
 
 // The plan: its pictures, the marks of this program on top, the line in work with its running
 // length, and the cross hair. What the mouse and the keys do goes to the viewer inside an event of
@@ -34,10 +29,11 @@ class PlanCanvas : public QAbstractScrollArea {
   PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWidget* parent = nullptr);
   ~PlanCanvas() override;
 
+  // How the sheet lies in the viewport now.
+  SheetInWindow Sheet() const { return {viewer_, viewport()->size()}; }
   // Where a place of the page (points, before the view's turn) stands in the viewport; it is
   // scrolled into sight when it is not.
   QPointF PlaceInView(PagePoint at);
-  PagePoint PageAt(const QPointF& place) const;
 
   // Turns the view by a quarter, clockwise.
   void TurnView();
@@ -45,11 +41,11 @@ class PlanCanvas : public QAbstractScrollArea {
   // Asks for a printer; false when the user thinks better of it. The system's dialog, unless set.
   std::function<bool(QPrinter& printer)> askForPrinter;
 
-  std::function<void()> onZoomIn, onZoomOut;  // plus and minus: a step
-  std::function<void()> onGroups;             // G: groups of counting circles
   // The whole sheet, or its whole width, in sight.
   void FitPage();
   void FitWidth();
+  // Does a zoom about the cross hair while that is in sight, else about the middle.
+  void ZoomByKey(const std::function<void()>& zoom);
   std::function<void()> onPictures;                        // more pictures are there
   std::function<std::vector<FoundBox>(int page)> foundOn;  // what is framed on a page; may be empty
   // Where a link at a place of the page leads, in words; "" where there is none.
@@ -57,7 +53,6 @@ class PlanCanvas : public QAbstractScrollArea {
   // The user's scrolling that the viewer has not been told of yet. It is told once the sheet rests,
   // since the project's record is saved each time.
   void FinishScroll();
-  bool TakeKey(const QKeyEvent& event);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -70,29 +65,12 @@ class PlanCanvas : public QAbstractScrollArea {
   void scrollContentsBy(int dx, int dy) override;
 
  private:
-  double Scale() const;       // device independent pixels of a point
-  int Turn() const;           // 0, 90, 180, 270
-  QSizeF TurnedPage() const;  // points
-  QPointF Origin() const;     // where the turned page's corner stands in the viewport
-  QPointF OnTurned(PagePoint at) const;
-  PlanView View() const;
   void SyncBars();
   void ViewChanged();
-  void PaintMarks(QPainter& painter) const;
-  void PaintChosen(QPainter& painter) const;
-  void PaintWork(QPainter& painter) const;
-  void PaintFound(QPainter& painter) const;
-  void PaintChanged(QPainter& painter) const;
-  void PaintLikes(QPainter& painter) const;
   void Pan(const QPointF& points);
   void ZoomAbout(const QPointF& place, const std::function<void()>& zoom);
   void ZoomByWheel(const QPointF& place, double notches);
-  void ZoomByKey(const std::function<void()>& zoom);
   void FitTo(double pixelsPerPoint);
-  bool TakeLetter(int key);
-  bool TakeNextSnap();
-  bool TakePairKey(bool next);
-  bool TakeCountLetter(int key);
   // Where on the page the mouse takes hold.
   PagePoint Pointed(const QMouseEvent& event);
   void ShowPointer(const QPointF& place);
@@ -119,56 +97,6 @@ class PlanCanvas : public QAbstractScrollArea {
     QPoint view;
     int page = 0;
   } held_;
-};
-
-// Small pictures of all pages; a click turns to one.
-class PlanThumbnails : public QAbstractScrollArea {
- public:
-  PlanThumbnails(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWidget* parent = nullptr);
-  void PagesChanged();
-  QSize sizeHint() const override;
-  std::function<SheetTitle(int page)> titleOf;  // what a sheet is called; may be empty
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void scrollContentsBy(int dx, int dy) override;
-  bool viewportEvent(QEvent* event) override;
-
- private:
-  int PageAt(const QPoint& place) const;  // 0 for none
-  void PaintCaption(QPainter& painter, int page, const QRect& cell) const;
-  int CellHeight() const;
-  int FirstInSight() const;  // pages; the last is less than the first when there is none
-  int LastInSight() const;
-  void TakePictures();
-
-  PdfDraw& viewer_;
-  PlanPictures* pictures_;
-  Desk& desk_;
-  int shownPage_ = 0;
-  std::map<int, std::shared_ptr<const Picture>> shown_;  // the pictures in sight, by page
-};
-
-class PlanBinding : public Binding {
- public:
-  PlanBinding(Display& display, Control& control, PlanCanvas& canvas);
-  QWidget& ClickTarget() const override { return *canvas_.viewport(); }
-
- protected:
-  bool eventFilter(QObject* object, QEvent* event) override;
-
- private:
-  PlanCanvas& canvas_;
-};
-
-class ThumbnailsBinding : public Binding {
- public:
-  ThumbnailsBinding(Display& display, Control& control, PlanThumbnails& thumbnails);
-
- protected:
-  bool eventFilter(QObject* object, QEvent* event) override;
 };
 
 // The canvas inside a window, nullptr when it has none.

@@ -16,24 +16,6 @@ QImage ImageOf(const Picture& picture) {
                 picture.height, picture.width * 4, QImage::Format_RGB32);
 }
 
-QTransform PageTransform(PageSize page, int turn, double scale) {
-  QTransform transform;
-  switch (turn) {
-    case 90:
-      transform = QTransform(0, 1, -1, 0, page.height, 0);
-      break;
-    case 180:
-      transform = QTransform(-1, 0, 0, -1, page.width, page.height);
-      break;
-    case 270:
-      transform = QTransform(0, -1, 1, 0, 0, page.width);
-      break;
-    default:
-      break;
-  }
-  return transform * QTransform::fromScale(scale, scale);
-}
-
 namespace {
 
 void PaintWay(QPainter& painter, const MarkShape& shape, QColor colour) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QImage>
-#include <QTransform>
 
 #include "plans/mark.h"
 #include "plans/picture.h"
@@ -13,9 +12,6 @@ namespace tamo {
 
 // A picture as an image, without a copy; `picture` outlives it.
 QImage ImageOf(const Picture& picture);
-
-// From points of the page to pixels of the page turned by `turn` degrees at `scale`.
-QTransform PageTransform(PageSize page, int turn, double scale);
 
 // Paints a mark; the painter works in points of the page.
 void PaintMark(QPainter& painter, const Mark& mark, double markerSize);

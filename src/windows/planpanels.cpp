@@ -9,6 +9,7 @@
 #include "program/program.h"
 #include "windows/plancanvas.h"
 #include "windows/planloupe.h"
+#include "windows/planthumbnails.h"
 #include "windows/rowsview.h"
 
 namespace tamo {

@@ -6,6 +6,7 @@
 
 #include "windows/plancanvas.h"
 #include "windows/planpaint.h"
+#include "windows/sheetpaint.h"
 
 namespace tamo {
 
@@ -34,7 +35,7 @@ void PlanCanvas::Print() {
       painter.drawImage(QRectF(0, 0, size.width * scale, size.height * scale), ImageOf(*picture));
   }
   painter.scale(scale, scale);
-  PaintMarks(painter);
+  PaintMarks(painter, viewer_);
 }
 
 }  // namespace tamo

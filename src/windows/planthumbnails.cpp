@@ -1,3 +1,5 @@
+#include "windows/planthumbnails.h"
+
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -6,7 +8,6 @@
 #include <algorithm>
 
 #include "windows/look.h"
-#include "windows/plancanvas.h"
 #include "windows/planpaint.h"
 
 namespace tamo {

@@ -22,9 +22,9 @@ void PlanCanvas::ZoomAbout(const QPointF& place, const std::function<void()>& zo
     return QPoint(viewer_.ViewValue(ViewPart::Horizontal), viewer_.ViewValue(ViewPart::Vertical));
   };
   const bool again = held_.place == place && held_.view == view() && held_.page == viewer_.Page();
-  const QPointF before = again ? held_.at : (place - Origin()) / Scale();
+  const QPointF before = again ? held_.at : Sheet().TurnedAt(place);
   zoom();
-  const QPointF after = (place - Origin()) / Scale();
+  const QPointF after = Sheet().TurnedAt(place);
   Pan(before - after);
   held_ = {place, before, view(), viewer_.Page()};
 }
@@ -36,10 +36,9 @@ void PlanCanvas::ZoomByWheel(const QPointF& place, double notches) {
   ZoomAbout(place, [&] { desk_.Dispatch([&] { viewer_.SetZoom(bound); }); });
 }
 
-// About the cross hair while it is in sight, else about the middle.
 void PlanCanvas::ZoomByKey(const std::function<void()>& zoom) {
   if (!zoom) return;
-  const QPointF hair = Origin() + OnTurned(viewer_.CrossHair()) * Scale();
+  const QPointF hair = Sheet().InWindow(viewer_.CrossHair());
   const bool seen = viewer_.Tool() != PlanTool::None && QRectF(viewport()->rect()).contains(hair);
   ZoomAbout(seen ? hair : QRectF(viewport()->rect()).center(), zoom);
 }
@@ -50,12 +49,12 @@ void PlanCanvas::FitTo(double pixelsPerPoint) {
 }
 
 void PlanCanvas::FitPage() {
-  const QSizeF page = TurnedPage();
+  const QSizeF page = Sheet().Page();
   FitTo(std::min(viewport()->width() / page.width(), viewport()->height() / page.height()));
 }
 
 void PlanCanvas::FitWidth() {
-  FitTo(viewport()->width() / TurnedPage().width());
+  FitTo(viewport()->width() / Sheet().Page().width());
 }
 
 }  // namespace tamo

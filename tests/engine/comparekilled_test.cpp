@@ -69,7 +69,7 @@ TEST_F(CompareKilled, EndsInPlacesOrInWordsAndTheMarksStay) {
       }
     });
     draw->Compared().Begin(Path("old.pdf"), "");
-    EXPECT_TRUE(draw->Compared().Settle(60000));
+    EXPECT_TRUE(draw->Compared().Jobs().Settle(60000));
     over = true;
     killer.join();
     const SheetsCompared* known = draw->Compared().Known();

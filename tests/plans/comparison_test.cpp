@@ -40,7 +40,7 @@ struct Comparing : PlanFixture {
   }
   void Compare(const QString& name = "old.pdf") {
     draw->Compared().Begin(Path(name), "");
-    EXPECT_TRUE(draw->Compared().Settle(20000));
+    EXPECT_TRUE(draw->Compared().Jobs().Settle(20000));
   }
   const SheetsCompared& Known() {
     static const SheetsCompared none;
@@ -123,11 +123,11 @@ TEST_F(Comparing, SheetsArePairedByTheirNumbers) {
       << Words();
   EXPECT_EQ(Places(), QStringList());
   draw->SetPage(2);
-  EXPECT_TRUE(draw->Compared().Settle(20000));
+  EXPECT_TRUE(draw->Compared().Jobs().Settle(20000));
   EXPECT_EQ(Known().oldPage, 3);
   EXPECT_EQ(Places(), QStringList({"3'-0\" became 2'-0\"", "A102 became A-102"}));
   draw->Key({PlanKey::PairBefore, false, true});
-  EXPECT_TRUE(draw->Compared().Settle(20000));
+  EXPECT_TRUE(draw->Compared().Jobs().Settle(20000));
   EXPECT_EQ(Known().oldPage, 2);
   EXPECT_NE(Words().find("chosen by hand"), std::string::npos) << Words();
 }
@@ -140,7 +140,7 @@ TEST_F(Comparing, ASheetWithoutAPartnerSaysSo) {
             "No sheet of old.pdf has the number A-601: Ctrl+Page Down lays its sheets over "
             "this one by hand.");
   draw->Key({PlanKey::PairNext, false, true});
-  EXPECT_TRUE(draw->Compared().Settle(20000));
+  EXPECT_TRUE(draw->Compared().Jobs().Settle(20000));
   EXPECT_EQ(Known().oldPage, 1);
 }
 
@@ -150,7 +150,7 @@ TEST_F(Comparing, WithoutNumbersByTheirPages) {
   Compare();
   EXPECT_NE(Words().find("paired by their pages"), std::string::npos) << Words();
   draw->SetPage(2);
-  EXPECT_TRUE(draw->Compared().Settle(20000));
+  EXPECT_TRUE(draw->Compared().Jobs().Settle(20000));
   EXPECT_EQ(Known().oldPage, 1) << "the last there is";
 }
 
@@ -240,7 +240,7 @@ TEST_F(Comparing, TwoPointsLayWhatHasLittleInCommon) {
   press(200, 150);
   press(400, 100);
   press(350, 150);
-  EXPECT_TRUE(draw->Compared().Settle(20000));
+  EXPECT_TRUE(draw->Compared().Jobs().Settle(20000));
   EXPECT_TRUE(Known().alignment.byHand) << Words();
   EXPECT_NEAR(Known().alignment.fit.Size(), 2, 1e-3);
   const PagePoint corner = Known().alignment.fit.To({200, 612 - 250});
@@ -260,7 +260,7 @@ TEST_F(Comparing, ThePointsByKeysAlone) {
   press(PlanKey::Space, 2);
   press(PlanKey::Right, 8);
   press(PlanKey::Space, 2);
-  EXPECT_TRUE(draw->Compared().Settle(20000));
+  EXPECT_TRUE(draw->Compared().Jobs().Settle(20000));
   EXPECT_NEAR(Known().alignment.fit.Size(), 1, 1e-6) << Words();
   draw->Key({PlanKey::TwoPoints, false, false});
   press(PlanKey::Space, 4);

@@ -54,7 +54,7 @@ TEST_F(FindingSame, TheAcceptedOnesAreCountedAtOnceAndTakenBackAtOnce) {
   ASSERT_TRUE(draw->Same().Asking());
   EXPECT_TRUE(said.startsWith("Find Same: number 1 of 5, 4 of them sure. Enter or Y yes"))
       << said.toStdString();
-  EXPECT_FALSE(draw->Box().has_value()) << "Enter is the answer, not a table's";
+  EXPECT_FALSE(draw->Box().Drawn().has_value()) << "Enter is the answer, not a table's";
   Key(PlanKey::Enter);
   Key(PlanKey::No);
   Key(PlanKey::Backspace);
@@ -126,7 +126,7 @@ TEST_F(FindingSame, WhatCantBeFoundIsSaid) {
   ASSERT_NE(draw->OpenFile(Path("none.pdf"), ""), 0);
   draw->Same().Start();
   EXPECT_EQ(said.toStdString(), "Find Same: no plan is open whose lines could be read.");
-  EXPECT_FALSE(draw->BoxNext());
+  EXPECT_FALSE(draw->Box().Asked());
 }
 
 TEST_F(FindingSame, AnotherPageOrToolEndsIt) {
@@ -142,7 +142,7 @@ TEST_F(FindingSame, AnotherPageOrToolEndsIt) {
   draw->PickTool(PlanTool::Measuring);
   EXPECT_FALSE(draw->Same().Asking());
   draw->Same().Start();
-  EXPECT_TRUE(draw->BoxNext());
+  EXPECT_TRUE(draw->Box().Asked());
   Key(PlanKey::Escape);
-  EXPECT_FALSE(draw->BoxNext());
+  EXPECT_FALSE(draw->Box().Asked());
 }

@@ -208,8 +208,9 @@ void FormsStage::PlanPage(int page) {
 void FormsStage::PlanBox(PagePoint from, PagePoint to) {
   GoToPlan();
   GetDesk().Dispatch([&] {
-    played_->Viewer().DrawBox(from, to);
-    played_->Viewer().Same().Finish(kSearchPatience);
+    PdfDraw& viewer = played_->Viewer();
+    viewer.Box().Draw(viewer.Page(), from, to);
+    viewer.Same().Finish(kSearchPatience);
   });
 }
 

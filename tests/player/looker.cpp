@@ -67,7 +67,7 @@ QStringList Looker::Look(const QString& what) {
       played_->Viewer().Snap().TellOfSheet(kPatience);
       auto* ost = dynamic_cast<OSTForm*>(played_->FindForm(QStringLiteral("OST")));
       if (ost != nullptr) ost->Ways().FinishReading(kPatience);
-      played_->Viewer().Compared().Settle(kPatience);
+      played_->Viewer().Compared().Jobs().Settle(kPatience);
     });
   QString text;
   if (rest.isEmpty() ? LookAtPlan(word, text) || LookAtProgram(word, text)
@@ -225,7 +225,7 @@ QString Looker::OverlayAt(const QString& rest) {
   const double y = second.toDouble(&both);
   if (!good || !both) NotUnderstood(QStringLiteral("overlay X Y is expected"));
   PdfDraw& viewer = Program().Viewer();
-  Program().GetDesk().Dispatch([&] { viewer.Compared().Settle(kPatience); });
+  Program().GetDesk().Dispatch([&] { viewer.Compared().Jobs().Settle(kPatience); });
   const PlanView view = {viewer.Page(),           1, 0, static_cast<int>(x) - 4,
                          static_cast<int>(y) - 4, 9, 9};
   const std::shared_ptr<const Picture> picture = viewer.PrintPicture(view, nullptr);

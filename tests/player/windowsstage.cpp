@@ -461,7 +461,8 @@ void WindowsStage::PlanPage(int page) {
 // A box may reach beyond what the window shows of the sheet.
 void WindowsStage::PlanBox(PagePoint from, PagePoint to) {
   Plan();
-  GetDesk().Dispatch([&] { played_->Viewer().DrawBox(from, to); });
+  PdfDraw& viewer = played_->Viewer();
+  GetDesk().Dispatch([&] { viewer.Box().Draw(viewer.Page(), from, to); });
   FinishSearch();
 }
 

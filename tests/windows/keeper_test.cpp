@@ -149,7 +149,8 @@ TEST_F(KeeperTest, APlaceOnThePlanIsFoundAgainAtEveryTurnAndZoom) {
     for (const int zoom : {40, 100, 150, 400}) {
       viewer.SetViewValue(ViewPart::Rotation, turn);
       viewer.SetZoom(zoom);
-      const PagePoint back = plan->PageAt(windows.PlanPlace({120.5, 700.25}));
+      const QPointF place = windows.PlanPlace({120.5, 700.25});
+      const PagePoint back = plan->Sheet().OnPage(place);
       EXPECT_NEAR(back.x, 120.5, 1e-6) << turn << ' ' << zoom;
       EXPECT_NEAR(back.y, 700.25, 1e-6) << turn << ' ' << zoom;
     }
