@@ -358,6 +358,6 @@ TEST_F(Comparing, SheetsOfAMonstrousSizeTakeNoMonstrousMemory) {
   Open({Page(page + " 500000 500000 m 600000 600000 l S", boxes)}, {Page(page, boxes)});
   // As long as it takes on a busy machine.
   draw->Compared().Begin(Path("old.pdf"), "");
-  ASSERT_TRUE(draw->Compared().Settle(120000));
+  ASSERT_TRUE(draw->Compared().Jobs().Settle(120000));
   EXPECT_TRUE(Known().looked) << Words();
 }
