@@ -60,7 +60,11 @@ void GroupSheets::RecolourGroup(const QString& colour) {
   ChangeMarks(marks);
 }
 
+// In the colour of its newest circle: a change of colour may have been taken back.
 void GroupSheets::AddToGroup(const std::vector<PagePoint>& places) {
+  for (const CountGroup& group : Groups()) {
+    if (group.name == group_.name) group_.colour = group.colour;
+  }
   const std::vector<int> numbers = FreeNumbers(MarksAsDrawn(), group_.name, places.size());
   std::vector<Mark> marks;
   for (size_t i = 0; i < places.size(); ++i) {

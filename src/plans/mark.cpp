@@ -50,8 +50,8 @@ void BringToBounds(Mark& mark) {
 }
 
 QString KindInWords(Mark::Kind kind) {
-  static const char* const words[] = {"Line",    "Count",  "Polyline",    "Area", "Perimeter",
-                                      "Cut-out", "Legend", "Group count", "Total"};
+  static const char* const words[] = {"Line",    "Count",  "Polyline", "Area", "Perimeter",
+                                      "Cut-out", "Legend", "Count",    "Total"};
   return QLatin1String(words[static_cast<int>(kind)]);
 }
 

@@ -129,6 +129,7 @@ void OSTForm::JoinParts() {
   };
   ways_.onSheetKnown = [this] { sheetScales_.SheetRead(); };
   compare_.Carry().onCarried = [this] {
+    groups_.ShowGroups();
     if (!TrimmedBlanks(kit_.shared.JobID).isEmpty()) SaveIt();
   };
   compare_.onChoosePlan = [this] { return onChoosePlan ? onChoosePlan() : QString(); };

@@ -89,6 +89,7 @@ constexpr Row kPlan[] = {
     {"ShowLayers", "&Layers (Ctrl+L)", "SheetsMenu"},
     {"JumpBack", "B&ack (Alt+Left)", "SheetsMenu"},
     {"JumpForward", "&Forward (Alt+Right)", "SheetsMenu"},
+    {"ShowLoupe", "L&oupe (O)", "SheetsMenu"},
     {"MarkMenu", "&Marks", "DrawMenu"},
     {"MarksOfPlan", "&List of the Marks (F6)", "MarkMenu"},
     {"NextMark", "Choose the &Next Mark (N)", "MarkMenu"},

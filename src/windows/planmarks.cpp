@@ -16,10 +16,16 @@ QHBoxLayout* TitleLine(Builder& b) {
   line->addWidget(caption);
   line->addWidget(title);
   line->addWidget(b.PushButton("MarkToLine"));
-  QLabel* summary = b.Text("MarksSummary");
-  summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  line->addWidget(summary, 1);
+  line->addStretch(1);
   return line;
+}
+
+// In a line of its own: beside the others there is hardly any room in a small window.
+QLabel* Summary(Builder& b) {
+  QLabel* summary = b.Text("MarksSummary");
+  summary->setTextFormat(Qt::PlainText);
+  summary->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  return summary;
 }
 
 QWidget* ListUnder(Builder& b, const char* list, const QString& name, const QString& heads,
@@ -51,10 +57,11 @@ QWidget* PlanMarks(Builder& b) {
                    1);
   QWidget* totals =
       ListUnder(b, "MarksTotals", QStringLiteral("Totals by system"), TotalsHead(), 43);
-  totals->setFixedWidth(QFontMetrics(FixedFont()).horizontalAdvance(QString(46, QLatin1Char('0'))));
+  totals->setFixedWidth(QFontMetrics(FixedFont()).horizontalAdvance(QString(49, QLatin1Char('0'))));
   lists->addWidget(totals);
   column->addLayout(lists, 1);
   column->addLayout(TitleLine(b));
+  column->addWidget(Summary(b));
   GiveMenuKey(b, QKeySequence(Qt::Key_F6), "MarksOfPlan");
   GiveMenuKey(b, QKeySequence(Qt::Key_F2), "NameMark");
   GiveMenuKey(b, QKeySequence(Qt::Key_F7), "MarkLine");

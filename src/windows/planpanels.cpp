@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QPointer>
 #include <QShortcut>
 
 #include "plans/ostform.h"
@@ -78,7 +79,12 @@ void BindPlanWays(Builder& b, PlanCanvas& canvas, PlanThumbnails& thumbnails) {
     const PageLink* link = ways.Bookmarks().LinkAt(at);
     return link == nullptr ? QString() : ways.Bookmarks().TargetInWords(link->target);
   };
-  new PlanLoupe(canvas, b.GetProgram().Viewer());
+  const QPointer<PlanLoupe> loupe = new PlanLoupe(canvas, b.GetProgram().Viewer());
+  if (MenuEntry* entry = b.GetForm().FindMenu(QStringLiteral("ShowLoupe"))) {
+    entry->onClick = [loupe] {
+      if (loupe != nullptr) loupe->Toggle();
+    };
+  }
   thumbnails.titleOf = [&ways](int page) { return ways.Book().TitleOf(page); };
   ways.onBookNews = [&thumbnails] { thumbnails.viewport()->update(); };
   QObject::connect(&thumbnails, &QObject::destroyed, &thumbnails,

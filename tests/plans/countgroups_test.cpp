@@ -265,4 +265,7 @@ TEST_F(CountingInGroups, AGroupIsColouredAsOneStep) {
   EXPECT_TRUE(draw->Undo());
   EXPECT_TRUE(draw->Undo());
   EXPECT_FALSE(colours().contains("000000175"));
+  const QString before = colours()[0];
+  draw->Press({350, 100}, false);
+  EXPECT_EQ(colours().back(), before) << "the change was taken back";
 }

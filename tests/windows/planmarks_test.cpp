@@ -106,5 +106,19 @@ TEST_F(PlanMarksTest, TheChosenMarkShowsItsPoints) {
   EXPECT_EQ(picture(), before);
 }
 
+TEST_F(PlanMarksTest, TheLoupeComesByItsKeyAndByTheMenu) {
+  const auto* loupe =
+      windows.WindowOf(FormOf("OST"))->findChild<QWidget*>(QStringLiteral("PlanLoupe"));
+  ASSERT_NE(loupe, nullptr);
+  Key(Qt::Key_O);
+  EXPECT_TRUE(loupe->isVisible());
+  Key(Qt::Key_O);
+  EXPECT_FALSE(loupe->isVisible());
+  MenuEntry* entry = FormOf("OST").FindMenu(QStringLiteral("ShowLoupe"));
+  ASSERT_NE(entry, nullptr);
+  desk.ChooseMenu(*entry);
+  EXPECT_TRUE(loupe->isVisible());
+}
+
 }  // namespace
 }  // namespace tamo
