@@ -44,6 +44,10 @@ int LiveDisk::OpenNew(const QString& path, int& handle) {
   return kNoError;
 }
 
+int LiveDisk::OpenExclusive(const QString& path, int& handle) {
+  return contents.contains(path) ? kFileExists : OpenNew(path, handle);
+}
+
 int LiveDisk::Write(int, const QByteArray& bytes) {
   Overwrite(open_, contents.value(open_) + bytes);
   return kNoError;

@@ -25,13 +25,22 @@ class LiveDisk : public MemoryDisk {
   int Read(const QString& path, QByteArray& bytes) override;
   FileStamp Stamp(const QString& path) override;
   int OpenNew(const QString& path, int& handle) override;
+  int OpenExclusive(const QString& path, int& handle) override;
+  int MakeFolder(const QString&) override { return 0; }
   int Write(int handle, const QByteArray& bytes) override;
   int Sync(int) override { return 0; }
   int Close(int) override { return 0; }
   int Rename(const QString& from, const QString& to) override;
+  int RenameNew(const QString& from, const QString& to) override {
+    return Disk::RenameNew(from, to);
+  }
+  int Swap(const QString& one, const QString& other) override { return Disk::Swap(one, other); }
+  void TakeOver(int, const QString&) override {}
+  QString FollowLink(const QString& path) override { return path; }
   int SyncFolder(const QString&) override { return 0; }
   int RemoveFile(const QString& path) override;
   bool IsFolder(const QString&) override { return false; }
+  bool IsLink(const QString&) override { return false; }
   bool CanWrite(const QString&) override { return true; }
 
  private:
