@@ -77,7 +77,7 @@ class Day {
   // Until the sheet is there in full.
   void Look() {
     QElapsedTimer clock;
-    for (clock.start(); clock.elapsed() < 5000 && !program_.Viewer().WaitUntilSharp(0);)
+    for (clock.start(); clock.elapsed() < 5000 && !program_.Viewer().Pictures().WaitUntilSharp(0);)
       QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
   }
 
