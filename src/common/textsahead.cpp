@@ -15,8 +15,8 @@ constexpr size_t kBetweenCalls = 32;  // files asked for, between two calls to t
 }  // namespace
 
 TextsAhead::TextsAhead(Files& files, size_t count, std::function<QString(size_t)> pathOf,
-                       const ReadingPace& pace)
-    : files_(files), pathOf_(std::move(pathOf)), pace_(pace) {
+                       const ReadingPace& pace, Seen seen)
+    : files_(files), pathOf_(std::move(pathOf)), pace_(pace), seen_(std::move(seen)) {
   // A save that is pending is read from memory, which belongs to the asking thread.
   if (count < pace_.fewest || !files_.PendingSaves().empty()) return;
   slots_ = std::vector<Slot>(count);
@@ -46,16 +46,27 @@ void TextsAhead::ReadAhead() {
     if (stop_ || at >= slots_.size()) return;
     Slot& slot = slots_[at];
     int untouched = Untouched;
-    if (!slot.state.compare_exchange_strong(untouched, InWork)) continue;
-    try {
-      const QString path = pathOf_(at);
-      slot.error = path.isEmpty() ? kFileNotFound : files_.ReadStored(path, slot.text);
-    } catch (const std::bad_alloc&) {
-      slot.error = kFileOther;  // the asking thread reads it once more, and can tell the user
-    }
-    waiting_ += slot.text.size();
-    slot.state = Ready;
-    slot.state.notify_one();
+    if (slot.state.compare_exchange_strong(untouched, InWork)) ReadSlot(at, slot);
+  }
+}
+
+void TextsAhead::ReadSlot(size_t at, Slot& slot) {
+  QString text;
+  try {
+    const QString path = pathOf_(at);
+    slot.error = path.isEmpty() ? kFileNotFound : files_.ReadStored(path, text);
+  } catch (const std::bad_alloc&) {
+    slot.error = kFileOther;  // the asking thread reads it once more, and can tell the user
+  }
+  const bool look = seen_ && slot.error == kNoError;
+  slot.text = text;
+  waiting_ += text.size();
+  slot.state = Ready;
+  slot.state.notify_one();
+  if (!look) return;
+  try {
+    seen_(at, text, stop_);
+  } catch (const std::bad_alloc&) {  // it is only there to save time
   }
 }
 

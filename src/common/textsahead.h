@@ -29,9 +29,14 @@ struct ReadingPace {
 // BM_PlainTexts.
 class TextsAhead {
  public:
+  // Looks at each text that the other thread has read, on that thread; `stopped` when the object is
+  // about to go.
+  using Seen =
+      std::function<void(size_t at, const QString& text, const std::atomic<bool>& stopped)>;
+
   // `pathOf` gives the path of each of `count` files; it is called from both threads.
   TextsAhead(Files& files, size_t count, std::function<QString(size_t)> pathOf,
-             const ReadingPace& pace = {});
+             const ReadingPace& pace = {}, Seen seen = {});
   ~TextsAhead();
   TextsAhead(const TextsAhead&) = delete;
   TextsAhead& operator=(const TextsAhead&) = delete;
@@ -51,12 +56,14 @@ class TextsAhead {
     return at + 1 >= next + pace_.ahead || waiting_ > pace_.most;
   }
   void ReadAhead();
+  void ReadSlot(size_t at, Slot& slot);
   int ReadHere(size_t at, QString& text, bool missing = false);
 
   Files& files_;
   const Files::Look look_{files_};
   const std::function<QString(size_t)> pathOf_;
   const ReadingPace pace_;
+  const Seen seen_;
   std::vector<Slot> slots_;  // empty when there is no thread
   std::atomic<size_t> next_ = 0;
   std::atomic<qsizetype> waiting_ = 0;  // characters read and not asked for

@@ -140,7 +140,7 @@ Mark AsMark(const RawMark& raw, const PageMap& map) {
   mark.colour = ColourCode(raw.colour);
   mark.width = raw.width * map.Unit();
   mark.group = QString::fromUtf8(raw.group);
-  mark.title = TitleOf(QString::fromUtf8(raw.title));
+  mark.title = QString::fromUtf8(raw.title);
   if (strlen(raw.kept) <= kLongestKept) mark.kept = QString::fromUtf8(raw.kept);
   const std::vector<float>& numbers = raw.numbers;
   if (raw.kind == Mark::Kind::Circle) {
@@ -275,6 +275,7 @@ void MuPdfFile::Inner::ReadMarks(size_t index, std::vector<Mark>& marks, QSet<QS
     RawMark raw;
     if (!ReadAnnotation(context, annotations, i, &raw)) continue;
     Mark mark = AsMark(raw, page.map);
+    BringToBounds(mark);
     mark.page = static_cast<int>(index) + 1;
     // A copy made by another program; it needs a name of its own to be deleted alone.
     if (names.contains(mark.name)) mark.name += QStringLiteral("#%1").arg(raw.object);

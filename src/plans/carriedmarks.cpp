@@ -8,6 +8,7 @@ namespace {
 constexpr double kOff = 2;  // points that a mark may stand off the sheet
 constexpr double kBeside = 9;
 constexpr char kFlag[] = " - check: the drawing changed here";
+constexpr char kOwnFlag[] = "Check: the drawing changed here";  // of a circle without a title
 
 bool Inside(PagePoint at, const PageBox& box) {
   return at.x >= box.left && at.x <= box.right && at.y >= box.top && at.y <= box.bottom;
@@ -28,6 +29,18 @@ bool Surrounds(const std::vector<PagePoint>& outline, PagePoint at) {
 // A dimension stands beside the line that it is of.
 PageBox Around(const PageBox& box) {
   return {box.left - kBeside, box.top - kBeside, box.right + kBeside, box.bottom + kBeside};
+}
+
+// A legend says what others come to, so it is out of date at most.
+void SayDrawingChanged(Mark& mark) {
+  if (IsLabel(mark.kind) || SaysDrawingChanged(mark)) return;
+  const QString flag = QLatin1String(kFlag);
+  if (!IsCount(mark.kind)) {
+    mark.label += flag;
+    return;
+  }
+  mark.title = mark.title.isEmpty() ? QLatin1String(kOwnFlag)
+                                    : mark.title.left(kLongestTitle - flag.size()) + flag;
 }
 
 QString InWords(const Mark& mark, const QString& what) {
@@ -58,12 +71,26 @@ bool MarkTouches(const Mark& mark, const PageBox& box) {
   return IsOutline(mark.kind) && Surrounds(mark.points, box.Middle());
 }
 
+bool SaysDrawingChanged(const Mark& mark) {
+  const QLatin1String flag(kFlag);
+  return mark.label.endsWith(flag) || mark.title.endsWith(flag) ||
+         mark.title == QLatin1String(kOwnFlag);
+}
+
+void DropDrawingChanged(Mark& mark) {
+  const QLatin1String flag(kFlag);
+  for (QString* text : {&mark.label, &mark.title}) {
+    if (text->endsWith(flag)) text->chop(flag.size());
+  }
+  if (mark.title == QLatin1String(kOwnFlag)) mark.title.clear();
+}
+
 CarriedMarks CarryMarks(const std::vector<Mark>& old, const SheetsCompared& known, PageSize sheet,
                         const std::vector<Mark>& now) {
   CarriedMarks carried;
   const PageBox whole = {-kOff, -kOff, sheet.width + kOff, sheet.height + kOff};
   for (const Mark& mark : old) {
-    if (mark.page != known.oldPage) continue;
+    if (mark.page != known.oldPage || mark.kind == Mark::Kind::Total) continue;
     if (IsThere(now, mark)) {
       ++carried.there;
       continue;
@@ -81,7 +108,7 @@ CarriedMarks CarryMarks(const std::vector<Mark>& old, const SheetsCompared& know
         [&](const ChangedPlace& place) { return MarkTouches(moved, Around(place.box)); });
     if (changed != known.places.end()) {
       carried.changed += InWords(mark, changed->words);
-      if (!moved.label.endsWith(QLatin1String(kFlag))) moved.label += QLatin1String(kFlag);
+      SayDrawingChanged(moved);
     }
     carried.marks.push_back(std::move(moved));
   }

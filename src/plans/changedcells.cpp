@@ -16,6 +16,11 @@ constexpr int kNoise = 70;          // of a scan
 constexpr double kBand = 72;        // points
 constexpr double kOneSided = 0.05;  // of the other kind of ink, in a place of one kind
 
+void AddWords(QString& words, const QString& more) {
+  if (!words.isEmpty() && !more.isEmpty()) words += QStringLiteral("; ");
+  words += more;
+}
+
 // Ink that the other sheet has not a good part of near by: an edge that falls between two pixels
 // is half as dark on both.
 int Missing(int ink, int near, int floor) {
@@ -136,8 +141,8 @@ void JoinPlaces(std::vector<ChangedPlace>& places) {
       kept.box.Take({places[j].box.left, places[j].box.top});
       kept.box.Take({places[j].box.right, places[j].box.bottom});
       if (kept.kind != places[j].kind) kept.kind = ChangedPlace::Kind::Changed;
-      if (!kept.words.isEmpty() && !places[j].words.isEmpty()) kept.words += QStringLiteral("; ");
-      kept.words += places[j].words;
+      AddWords(kept.words, places[j].words);
+      AddWords(kept.back, places[j].back);
       places.erase(places.begin() + std::ptrdiff_t(j));
       j = i + 1;  // the larger one may reach others
     }

@@ -20,8 +20,9 @@ struct SheetAlignment {
 struct ChangedPlace {
   enum class Kind { Gone, Come, Changed };
   Kind kind = Kind::Changed;
-  PageBox box;    // points of the new sheet
-  QString words;  // 8'-0" became 9'-0"; "" where only lines differ
+  PageBox box;        // points of the new sheet
+  QString words;      // 8'-0" became 9'-0"; "" where only lines differ
+  QString back = {};  // the same where the other plan is the newer one: 9'-0" became 8'-0"
 };
 
 // What is known of two sheets that are laid over each other.

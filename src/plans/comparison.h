@@ -40,6 +40,10 @@ class Comparison {
   void NextLayer();
   // The plan in front is the older one, or is not.
   void Swap();
+  // What is said of a place, by which of the two plans is the newer one.
+  const QString& WordsOf(const ChangedPlace& place) const {
+    return swapped_ ? place.back : place.words;
+  }
   // The sheets are to be laid over each other by two points on each, given by
   // presses.
   void AskPoints();

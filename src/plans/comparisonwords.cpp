@@ -9,10 +9,10 @@
 namespace tamo {
 namespace {
 
-QString LayerInWords(OverlayLayer layer) {
-  if (layer == OverlayLayer::Old) return QStringLiteral(" The old sheet alone is shown.");
-  if (layer == OverlayLayer::Now) return QStringLiteral(" The new sheet alone is shown.");
-  return {};
+QString LayerInWords(OverlayLayer layer, bool swapped) {
+  if (layer == OverlayLayer::Both) return {};
+  return (layer == OverlayLayer::Old) != swapped ? QStringLiteral(" The old sheet alone is shown.")
+                                                 : QStringLiteral(" The new sheet alone is shown.");
 }
 
 // "sheet A-101 (page 2 of 7)".
@@ -89,7 +89,7 @@ QString Comparison::Words() const {
       if (!more.isEmpty()) words += QLatin1Char(' ') + more;
     }
   }
-  return words + LayerInWords(pictures_.Layer());
+  return words + LayerInWords(pictures_.Layer(), swapped_);
 }
 
 bool Comparison::TakeKey(const PlanStroke& stroke) {
@@ -97,7 +97,7 @@ bool Comparison::TakeKey(const PlanStroke& stroke) {
     if (viewer_.onCompareKey) viewer_.onCompareKey();
     return true;
   }
-  if (!On()) return false;
+  if (!On() && !(WantsPassword() && stroke.key == PlanKey::Escape)) return false;
   const int by = stroke.shift || stroke.key == PlanKey::PairBefore ? -1 : 1;
   switch (stroke.key) {
     case PlanKey::No:
@@ -127,7 +127,7 @@ bool Comparison::TakeKey(const PlanStroke& stroke) {
 // What is in work goes first, then the points that were asked for, then the other plan.
 bool Comparison::TakeEscape() {
   if (viewer_.WorkFrom() || viewer_.CheckNext() || viewer_.Box().Asked() || viewer_.Box().Drawn() ||
-      viewer_.Same().Asking() || viewer_.Hand().Chosen() != nullptr)
+      viewer_.Same().Asking() || viewer_.Same().Busy() || viewer_.Hand().Chosen() != nullptr)
     return false;
   if (points_.Asked()) {
     EndPoints();

@@ -168,4 +168,15 @@ void SealAddition(QByteArray& addition, qint64 start, qint64 xref) {
   addition += "startxref\n" + QByteArray::number(xref) + "\n%%EOF\n";
 }
 
+bool GoesOnFrom(const FileReader& file, const FileReader& plan) {
+  constexpr qint64 kCompared = 65536;
+  const qint64 shared = ReadTail(plan).whole;
+  if (file.Size() < shared) return false;
+  const auto same = [&](qint64 from, qint64 count) {
+    return ReadPart(file, from, count) == ReadPart(plan, from, count);
+  };
+  const qint64 part = std::min(shared, kCompared);
+  return same(0, part) && same(shared - part, part);
+}
+
 }  // namespace tamo

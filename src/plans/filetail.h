@@ -38,4 +38,8 @@ quint32 Crc32(quint32 sum, const char* bytes, qint64 count);
 // `count` bytes from `offset`; fewer at the file's end, none on a failure.
 QByteArray ReadPart(const FileReader& file, qint64 offset, qint64 count);
 
+// The first bytes of `file` are those of `plan`, all of them: it is a copy with additions, or the
+// same. Only the begin and the end of what they share are looked at.
+bool GoesOnFrom(const FileReader& file, const FileReader& plan);
+
 }  // namespace tamo

@@ -78,9 +78,10 @@ std::vector<double> Moves(const std::vector<Side>& old, const std::vector<Side>&
   std::vector<double> votes(size_t(middle) * 2 + 1, 0);
   for (const Side& from : old) {
     for (const Side& to : now) {
-      const int move = static_cast<int>(std::lround(to.place - from.place)) + middle;
+      const double away = std::round(to.place - from.place);
+      if (!(std::abs(away) < middle)) continue;
+      const int move = static_cast<int>(away) + middle;
       const double shorter = std::min(from.length, to.length);
-      if (move < 1 || size_t(move) + 1 >= votes.size()) continue;
       if (shorter * kLikeLength < std::max(from.length, to.length)) continue;
       votes[size_t(move)] += shorter;
       votes[size_t(move) - 1] += shorter / 2;
@@ -148,8 +149,9 @@ std::vector<SheetFit> LikelyFits(const SheetLinework& old, const SheetLinework& 
   const double nowAngle = MainAngle(now.lines);
   const SheetFit upright = Fit(1, -nowAngle, 0, 0);
   const Sides nowSides = SidesOf(now.lines, upright);
-  const double reach =
-      2 * std::max({now.size.width, now.size.height, old.size.width, old.size.height});
+  constexpr double kMostReach = 100000;  // points; a sheet is never so large
+  const double reach = std::min(
+      kMostReach, 2 * std::max({now.size.width, now.size.height, old.size.width, old.size.height}));
   std::vector<SheetFit> fits;
   for (int quarter = 0; quarter < 4; ++quarter) {
     const double turn = 90 * quarter - oldAngle;

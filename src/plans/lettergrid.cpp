@@ -44,6 +44,14 @@ void LetterGrid::Add(const SeenLetter& letter) {
 
 template <typename Visit>
 bool LetterGrid::AnyAround(const PageBox& box, Visit visit) const {
+  const auto rows = size_t(CellOf(box.bottom) - CellOf(box.top) + 1);
+  const auto columns = size_t(CellOf(box.right) - CellOf(box.left) + 1);
+  // A line of letters as large as the sheet: those that are there are fewer than its cells.
+  if (box.right >= box.left && box.bottom >= box.top && rows * columns > cells_.size()) {
+    return std::any_of(cells_.begin(), cells_.end(), [&](const auto& cell) {
+      return std::any_of(cell.second.begin(), cell.second.end(), visit);
+    });
+  }
   for (int row = CellOf(box.top); row <= CellOf(box.bottom); ++row) {
     for (int column = CellOf(box.left); column <= CellOf(box.right); ++column) {
       const auto cell = cells_.find(Key(column, row));

@@ -39,6 +39,16 @@ QString TitleOf(const QString& text) {
   return text.simplified().left(kLongestTitle).trimmed();
 }
 
+void BringToBounds(Mark& mark) {
+  constexpr double kLeastWidth = 0.01;
+  constexpr double kMostWidth = 1000;
+  if (!(mark.width >= kLeastWidth && mark.width <= kMostWidth)) mark.width = Mark().width;
+  const int longest = mark.kind == Mark::Kind::Legend ? kLongestLegend : kLongestMarkLabel;
+  if (mark.label.size() > longest) mark.label.truncate(longest);
+  if (mark.kept.size() > kLongestKept) mark.kept.clear();
+  mark.title = TitleOf(mark.title);
+}
+
 QString KindInWords(Mark::Kind kind) {
   static const char* const words[] = {"Line",    "Count",  "Polyline",    "Area", "Perimeter",
                                       "Cut-out", "Legend", "Group count", "Total"};
@@ -49,7 +59,8 @@ double ValueOfMark(const Mark& mark) {
   if (IsCount(mark.kind)) return 1;
   if (IsLabel(mark.kind)) return 0;
   const QString number = mark.label.section(QLatin1Char(' '), 0, 0);
-  return QString(number).remove(QLatin1Char(',')).toDouble();
+  const double value = QString(number).remove(QLatin1Char(',')).toDouble();
+  return std::isfinite(value) ? value : 0;
 }
 
 QString LengthText(double length) {
@@ -76,7 +87,7 @@ int MarkNumber(const QString& name) {
   const qsizetype end = name.indexOf(QLatin1Char('-'), prefix.size());
   bool ok = false;
   const int number = name.mid(prefix.size(), end < 0 ? -1 : end - prefix.size()).toInt(&ok);
-  return ok && number > 0 ? number : 0;
+  return ok && number > 0 && number <= kHighestMarkNumber ? number : 0;
 }
 
 double Distance(PagePoint from, PagePoint to) {

@@ -46,6 +46,11 @@ struct Mark {
 // Longer ones are cut, or are none of this program's.
 inline constexpr int kLongestTitle = 60;
 inline constexpr int kLongestKept = 4000;
+inline constexpr int kLongestMarkLabel = 400;
+inline constexpr int kLongestLegend = 40000;  // the label of a legend
+// What a file says of a mark, brought to what a mark can be: its width, and the length of its
+// texts.
+void BringToBounds(Mark& mark);
 
 // More points than anybody sets; a mark of a file that has more is no mark of this program.
 inline constexpr size_t kMostMarkPoints = 10000;
@@ -69,6 +74,7 @@ QString LengthText(double length);
 inline constexpr char kMarkPrefix[] = "tamo-";
 QString MarkName(int number, unsigned random);
 int MarkNumber(const QString& name);  // 0 when the name is none of ours
+inline constexpr int kHighestMarkNumber = 999999999;
 
 // The distance of two places in points.
 double Distance(PagePoint from, PagePoint to);

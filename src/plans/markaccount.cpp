@@ -3,9 +3,11 @@
 #include <QHash>
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <utility>
 
 #include "common/numbers.h"
+#include "plans/carriedmarks.h"
 #include "plans/marklegend.h"
 
 namespace tamo {
@@ -30,7 +32,9 @@ bool Less(double a, double b) {
 }
 
 void AddTo(Line& line, const MarkTie& tie, int number, size_t mark) {
-  const QString key = tie.entry + QStringLiteral("|%1|%2").arg(tie.before).arg(tie.after);
+  constexpr int kDigits = 15;
+  const QString key = tie.entry + QLatin1Char('|') + QString::number(tie.before, 'g', kDigits) +
+                      QLatin1Char('|') + QString::number(tie.after, 'g', kDigits);
   const auto known = line.known.constFind(key);
   const size_t at = known == line.known.constEnd() ? line.entries.size() : *known;
   if (at == line.entries.size()) {
@@ -66,10 +70,25 @@ QString FlagOfMark(const Mark& mark, const MarkTie& tie, const TakeoffLines& lin
   return {};
 }
 
-QString FlagOfLegend(const Mark& mark, const std::vector<Mark>& marks) {
-  const bool ofPlan = LegendOfMark(mark).ofPlan;
+// The totals of a page, worked out once for all of its legends.
+class PageTotals {
+ public:
+  explicit PageTotals(const std::vector<Mark>& marks) : marks_(marks) {}
+
+  const std::vector<MarkTotal>& Of(int page) {
+    const auto known = pages_.find(page);
+    return known != pages_.end() ? known->second
+                                 : pages_.emplace(page, TotalsOf(marks_, page)).first->second;
+  }
+
+ private:
+  const std::vector<Mark>& marks_;
+  std::map<int, std::vector<MarkTotal>> pages_;
+};
+
+QString FlagOfLegend(const Mark& mark, PageTotals& totals) {
   Mark now = mark;
-  PutLegend(now, LegendOf(TotalsOf(marks, mark.page), ofPlan, mark.page));
+  PutLegend(now, LegendOf(totals.Of(mark.page), LegendOfMark(mark).ofPlan, mark.page));
   return now.label == mark.label ? QString()
                                  : QStringLiteral("Out of date: bring it up to date in the menu");
 }
@@ -88,9 +107,10 @@ QString SaidBy(const Mark& mark) {
 std::vector<AccountedMark> AccountOf(const std::vector<Mark>& marks, TakeoffLines& lines) {
   std::vector<AccountedMark> account(marks.size());
   QHash<QString, Line> found;
+  PageTotals totals(marks);
   for (size_t i = 0; i < marks.size(); ++i) {
     if (marks[i].kind == Mark::Kind::Legend) {
-      account[i].flag = FlagOfLegend(marks[i], marks);
+      account[i].flag = FlagOfLegend(marks[i], totals);
       continue;
     }
     if (marks[i].kept.isEmpty()) continue;
@@ -117,6 +137,8 @@ std::vector<AccountedMark> AccountOf(const std::vector<Mark>& marks, TakeoffLine
   }
   // What is wrong with the mark itself says more than what is wrong with its line.
   for (size_t i = 0; i < marks.size(); ++i) {
+    if (SaysDrawingChanged(marks[i]))
+      account[i].flag = QStringLiteral("Carried over, and the drawing changed here");
     if (!account[i].tie) continue;
     const QString flag = FlagOfMark(marks[i], *account[i].tie, lines);
     if (!flag.isEmpty()) account[i].flag = flag;

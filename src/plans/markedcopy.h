@@ -18,37 +18,50 @@ class MarkedCopy {
 
   // Into the project `id`, and the record after it. Nothing when there is no plan to save.
   void Save(const QString& id);
+  // The same after a mark was changed by hand: the record is written only when it names another
+  // plan by now.
+  void SaveEdits(const QString& id);
   // Another plan comes up: marks that are not saved yet are saved into the project they were drawn
   // for. Those that can't be saved stay with their plan, and wait.
   void Leave();
   // The plan `file` comes up: with its marks when some of them wait. True when it is shown then.
   bool ComeBack(const QString& file);
   // The plan on the screen was opened for the project in force.
-  void Came() { project_ = kit_.shared.JobID; }
+  void Came();
+  // After each event: the project in force may have come to be another's, or free.
+  void Follow();
   // The same without leaving the plan. True when nothing is left to save.
   bool SaveMarks();
 
  private:
+  // Where marks are saved.
+  struct Target {
+    QString path;             // "" for nowhere
+    bool mayReplace = false;  // a copy of another drawing that stands there
+  };
   // A plan that was left with marks that are not in its file.
   struct Left {
-    QString target;  // "" when it belongs to no project
+    Target target;   // nowhere when it belongs to no project
     QString source;  // the file that was shown
     QString project;
     std::shared_ptr<PdfDraw> plan;
   };
   bool NothingToSave() const;
+  bool SaveCopy(const QString& id);  // false when it is refused
   bool ShowsBlankOrAbout() const;
-  void Write(const QString& target);
-  QString TargetOfMarks() const;
+  static int SaveTo(Files& files, PdfDraw& plan, const Target& target);
+  void Write(const Target& target);
+  Target TargetOfMarks() const;
   void ForgetSaved();
 
   const Kit kit_;
   OstControls& form_;
   PdfDraw& viewer_;
   PlanRecord& record_;
-  QString waiting_;     // a copy that could not be written yet
-  int waitingFor_ = 0;  // why
-  QString project_;     // for which the plan on the screen was opened
+  Target waiting_;         // a copy that could not be written yet
+  int waitingFor_ = 0;     // why
+  QString project_;        // for which the plan on the screen was opened
+  bool readOnly_ = false;  // nothing is written there: another program has that project
   std::vector<Left> left_;
 };
 

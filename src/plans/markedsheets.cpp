@@ -112,12 +112,32 @@ bool MarkedSheets::TakeOff(const QString& name, Mark& mark) {
   return true;
 }
 
+// A circle whose number another one has by now gets a free one.
+Mark MarkedSheets::Settled(Mark mark) const {
+  const bool taken = std::any_of(marks_.begin(), marks_.end(), [&](const Mark& other) {
+    return other.kind == mark.kind && other.group == mark.group && other.label == mark.label;
+  });
+  if (mark.kind == Mark::Kind::Grouped && taken)
+    mark.label = GroupLabel(mark.group, FreeNumbers(marks_, mark.group, 1).front());
+  return mark;
+}
+
 bool MarkedSheets::PutBack(const Mark& mark) {
-  if (std::any_of(marks_.begin(), marks_.end(),
-                  [&](const Mark& other) { return other.name == mark.name; }))
-    return false;
-  TakeStep({Step::What::Added, marks_.size(), mark, {}, false, false});
+  if (FindMark(mark.name) != nullptr) return false;
+  TakeStep({Step::What::Added, marks_.size(), Settled(mark), {}, false, false});
   return true;
+}
+
+// Marks that are drawn later are newer by their numbers, too.
+void MarkedSheets::TakeOver(const std::vector<Mark>& marks) {
+  for (const Mark& mark : marks) {
+    if (FindMark(mark.name) != nullptr) continue;
+    lastNumber_ = std::max(lastNumber_, MarkNumber(mark.name));
+    done_.push_back({Step::What::Added, marks_.size(), Settled(mark), {}, false, false});
+    Put(done_.back(), true);
+    undone_.clear();
+  }
+  Repaint();
 }
 
 void MarkedSheets::AddMarks(std::vector<Mark> marks) {

@@ -30,6 +30,9 @@ class MarkedSheets : public SheetView {
   // or there already.
   bool TakeOff(const QString& name, Mark& mark);
   bool PutBack(const Mark& mark);
+  // Marks of another plan, each under its own name; those that are there stay. Nobody counted them
+  // here: no count is told.
+  void TakeOver(const std::vector<Mark>& marks);
 
   unsigned MarksRevision() const { return revision_; }  // another one when any mark is another
   const Mark* FindMark(const QString& name) const;      // until marks come, go or change; or null
@@ -70,6 +73,7 @@ class MarkedSheets : public SheetView {
     bool joined = false;  // goes with the one before
   };
   void TakeStep(Step step);
+  Mark Settled(Mark mark) const;
   void Do(const Step& step, bool forward);
   void Put(const Step& step, bool forward);
   void Tell(const Step& last);

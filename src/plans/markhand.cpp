@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "plans/carriedmarks.h"
 #include "plans/marklabel.h"
 #include "plans/markreach.h"
 #include "plans/marktie.h"
@@ -33,9 +34,30 @@ void MarkHand::Tell(const QString& words) {
 
 // --- Choosing
 
+// A plan that is read anew may have the mark with fewer points.
+int MarkHand::Point() const {
+  const Mark* mark = Chosen();
+  return mark != nullptr && point_ < static_cast<int>(mark->points.size()) ? point_ : -1;
+}
+
+void MarkHand::Forget() {
+  name_.clear();
+  shown_.clear();
+  point_ = -1;
+  nudging_ = false;
+  pressed_.reset();
+  held_.reset();
+}
+
+bool MarkHand::MayChoose() {
+  if (!viewer_.WorkFrom().has_value()) return true;
+  Tell(QStringLiteral("End what is drawn, or give it up with Escape, before a mark is chosen."));
+  return false;
+}
+
 bool MarkHand::Choose(const QString& name) {
   const Mark* mark = viewer_.FindMark(name);
-  if (mark == nullptr) return false;
+  if (mark == nullptr || !MayChoose()) return false;
   const int page = mark->page;
   if (viewer_.Tool() != PlanTool::None) viewer_.PickTool(PlanTool::None);
   if (name_ != name) point_ = -1;
@@ -70,9 +92,9 @@ void MarkHand::Show(const std::vector<QString>& names) {
 void MarkHand::TellChosen() {
   if (const Mark* mark = Chosen()) {
     const QString point =
-        QStringLiteral("Point %1 of %2: arrows move it.").arg(point_ + 1).arg(mark->points.size());
+        QStringLiteral("Point %1 of %2: arrows move it.").arg(Point() + 1).arg(mark->points.size());
     Tell(InWords() + QStringLiteral(". ") +
-         (point_ < 0 ? QStringLiteral("Tab: its points, F2: its name.") : point));
+         (Point() < 0 ? QStringLiteral("Tab: its points, F2: its name.") : point));
   }
   if (viewer_.onMarkChosen) viewer_.onMarkChosen();
   if (viewer_.onMarksChanged) viewer_.onMarksChanged();
@@ -123,7 +145,7 @@ void MarkHand::Step(int by) {
 void MarkHand::Move(PagePoint at, bool shift) {
   if (!held_) return;
   const Mark* mark = Chosen();
-  if (mark == nullptr) return held_.reset();
+  if (mark == nullptr || Point() < 0 || mark->page != viewer_.Page()) return held_.reset();
   const auto& points = mark->points;
   if (shift && points.size() > 1) {
     const size_t before = point_ > 0              ? static_cast<size_t>(point_ - 1)
@@ -143,6 +165,7 @@ Mark MarkHand::Moved(const Mark& mark, int point, PagePoint to) const {
   moved.label = MovedLabel(mark, moved.points, [this](Mark::Kind kind, const auto& points) {
     return viewer_.LabelInForce(kind, points);
   });
+  DropDrawingChanged(moved);
   return moved;
 }
 
@@ -162,8 +185,11 @@ QString MarkHand::WhyNot(const Mark& moved) const {
   return {};
 }
 
+// A mark that another program drew askew can still be named and coloured.
 bool MarkHand::Change(const Mark& mark, bool joinLast) {
-  const QString why = WhyNot(mark);
+  const Mark* now = Chosen();
+  const bool moves = now != nullptr && now->points != mark.points;
+  const QString why = moves ? WhyNot(mark) : QString();
   if (!why.isEmpty()) {
     Tell(why + QStringLiteral(" The mark stays as it was."));
     return false;
@@ -245,32 +271,40 @@ void MarkHand::Release(PagePoint at, bool shift) {
 void MarkHand::NextPoint() {
   const Mark* mark = Chosen();
   nudging_ = false;
-  point_ = (point_ + 1) % static_cast<int>(mark->points.size());
+  point_ = (Point() + 1) % static_cast<int>(mark->points.size());
   TellChosen();
 }
 
 bool MarkHand::Nudge(const PlanStroke& stroke) {
   const Mark* mark = Chosen();
   const PagePoint way = DirectionOf(stroke.key);
-  if ((way.x == 0 && way.y == 0) || point_ < 0) return false;
+  const int point = Point();
+  if ((way.x == 0 && way.y == 0) || point < 0) return false;
   const double step = stroke.ctrl ? kFineStep : kCoarseStep;
-  const PagePoint from = mark->points[static_cast<size_t>(point_)];
+  const PagePoint from = mark->points[static_cast<size_t>(point)];
+  const Mark moved = Moved(*mark, point, {from.x + way.x * step, from.y + way.y * step});
+  if (moved.points == mark->points) return true;  // at the edge of the sheet
   const bool joins = std::exchange(nudging_, true);
-  Change(Moved(*mark, point_, {from.x + way.x * step, from.y + way.y * step}), joins);
+  if (!Change(moved, joins)) nudging_ = joins;
   return true;
 }
 
 bool MarkHand::TakeKey(const PlanStroke& stroke) {
   if (stroke.key == PlanKey::No || stroke.key == PlanKey::MarkBefore) {
-    if (viewer_.WorkFrom().has_value()) {
-      Tell(
-          QStringLiteral("End what is drawn, or give it up with Escape, before a mark is chosen."));
-    } else {
-      Step(stroke.key == PlanKey::No ? 1 : -1);
-    }
+    if (MayChoose()) Step(stroke.key == PlanKey::No ? 1 : -1);
     return true;
   }
-  if (Chosen() == nullptr || viewer_.Tool() != PlanTool::None) return false;
+  // What is taken back or brought back is a step of its own.
+  if (stroke.key == PlanKey::Undo || stroke.key == PlanKey::Redo) nudging_ = false;
+  const Mark* mark = Chosen();
+  if (mark == nullptr || viewer_.Tool() != PlanTool::None) return false;
+  // Of a mark that is not in sight nothing is moved or removed by a key.
+  if (mark->page != viewer_.Page() && stroke.key != PlanKey::Escape) {
+    if (stroke.key == PlanKey::Delete)
+      Tell(QStringLiteral("The chosen mark stands on sheet %1: turn to it, or choose another one.")
+               .arg(mark->page));
+    return stroke.key == PlanKey::Delete;
+  }
   switch (stroke.key) {
     case PlanKey::NextSnap:
       NextPoint();

@@ -22,10 +22,11 @@ class MarkHand : public FreePointer {
 
   // The mark, until marks come, go or change; null when none is chosen.
   const Mark* Chosen() const;
-  int Point() const { return Chosen() == nullptr ? -1 : point_; }  // the one in hand; -1 for none
-  // Turns to its sheet. False when there is no such mark.
+  int Point() const;  // the one in hand; -1 for none
+  // Turns to its sheet. False when there is no such mark, or something is being drawn.
   bool Choose(const QString& name);
   void LetGo() override;
+  void Forget();  // another plan comes up; nothing is told
   // These marks are shown as well, until the hand lets go.
   void Show(const std::vector<QString>& names);
   const QSet<QString>& Shown() const { return shown_; }
@@ -53,6 +54,7 @@ class MarkHand : public FreePointer {
 
  private:
   double Reach() const;
+  bool MayChoose();
   Mark Moved(const Mark& mark, int point, PagePoint to) const;
   QString WhyNot(const Mark& moved) const;
   bool Change(const Mark& mark, bool joinLast);

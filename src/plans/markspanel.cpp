@@ -26,6 +26,19 @@ QString ValueInWords(const Mark& mark) {
                                          : mark.label.section(QLatin1String(" @ "), 0, 0);
 }
 
+QString LineInWords(const AccountedMark& account) {
+  return account.tie ? account.tie->place.InWords() + QStringLiteral(": ") + account.tie->entry
+                     : QString();
+}
+
+// What the columns cut, and what is wrong.
+QString WordsOfRow(const AccountedMark& account) {
+  QStringList words;
+  if (const QString line = LineInWords(account); line.size() >= kLineWidth) words += line;
+  if (!account.flag.isEmpty()) words += account.flag;
+  return words.join(QStringLiteral(". "));
+}
+
 }  // namespace
 
 QString MarksHead() {
@@ -38,8 +51,7 @@ QString MarksHead() {
 
 // What is to be looked at has a sign at its begin, and the words at its end.
 QString MarkRow(const Mark& mark, const AccountedMark& account) {
-  QString line;
-  if (account.tie) line = account.tie->place.InWords() + QStringLiteral(": ") + account.tie->entry;
+  const QString line = LineInWords(account);
   QString row = QLatin1String(account.flag.isEmpty() ? "  " : "! ") +
                 Column(QString::number(mark.page), kSheetWidth) +
                 Column(KindInWords(mark.kind), kKindWidth) +
@@ -61,8 +73,16 @@ MarksPanel::MarksPanel(const Kit& kit, OstControls& form, PdfDraw& viewer,
   form_.MarksList.onDoubleClick = [this] { kit_.desk.Focus(form_.picPdfDraw); };
   form_.MarksList.onKey = [this](Key& key) {
     if (key.Is(Key::Name::Delete)) viewer_.Hand().Delete();
+    if (key.Is(Key::Name::Escape)) BackToPlan(key);
+    const bool back = key.Is(Key::Name::TakeBack);
+    if (!back && !key.Is(Key::Name::BringBack)) return;
+    key.Drop();
+    viewer_.Key({back ? PlanKey::Undo : PlanKey::Redo, false, false});
   };
   OnEnter(form_.MarkTitle, [this] { TakeTitle(); });
+  form_.MarkTitle.onKey = [this, enter = form_.MarkTitle.onKey](Key& key) {
+    key.Is(Key::Name::Escape) ? BackToPlan(key) : enter(key);
+  };
   form_.MarkToLine.onClick = [this] { GoToLine(); };
 }
 
@@ -74,7 +94,25 @@ void MarksPanel::Toggle() {
   kit_.desk.Focus(form_.picPdfDraw);
 }
 
+// What was typed and not entered is no name.
+void MarksPanel::BackToPlan(Key& key) {
+  key.Drop();
+  ShowChosen();
+  kit_.desk.Focus(form_.picPdfDraw);
+}
+
+void MarksPanel::Tell(const QString& words) {
+  if (viewer_.onToolRefused) viewer_.onToolRefused(words);
+}
+
+bool MarksPanel::IsChosen() {
+  if (viewer_.Hand().Chosen() != nullptr) return true;
+  Tell(QStringLiteral("Choose a mark first: click it, or press N."));
+  return false;
+}
+
 void MarksPanel::AskTitle() {
+  if (!IsChosen()) return;
   form_.MarksFrame.Show();
   Refresh();
   kit_.desk.Focus(form_.MarkTitle);
@@ -94,7 +132,8 @@ void MarksPanel::TakeTitle() {
 
 // A plan outside of any project keeps its marks until it is left, as it keeps measured ones.
 void MarksPanel::SaveEdits() {
-  if (std::exchange(unsaved_, false) && !kit_.shared.JobID.isEmpty()) save_();
+  const bool edited = std::exchange(unsaved_, false);
+  if (edited && !kit_.shared.JobID.isEmpty() && viewer_.HasUnsavedMarks()) save_();
 }
 
 void MarksPanel::Edited() {
@@ -116,16 +155,17 @@ void MarksPanel::ShowChosen() {
       mark == nullptr ? names_.end() : std::find(names_.begin(), names_.end(), mark->name);
   const auto row = static_cast<size_t>(found - names_.begin());
   form_.MarksList.SetIndex(row < names_.size() ? static_cast<int>(row) : -1);
-  ShowSummary(row < flags_.size() ? flags_[row] : QString());
+  ShowSummary(row < words_.size() ? words_[row] : QString());
 }
 
-// How many there are, and what is to be looked at with the chosen one.
-void MarksPanel::ShowSummary(const QString& flag) {
+// How many there are, and what is to be said of the chosen one.
+void MarksPanel::ShowSummary(const QString& chosen) {
   QString words =
       names_.size() == 1 ? QStringLiteral("1 mark") : QStringLiteral("%1 marks").arg(names_.size());
   if (flagged_ > 0) words += QStringLiteral(", %1 to be looked at").arg(flagged_);
-  if (!flag.isEmpty()) words += QStringLiteral(". ") + flag;
+  if (!chosen.isEmpty()) words += QStringLiteral(". ") + chosen;
   form_.MarksSummary.SetCaption(words);
+  form_.MarksSummary.SetHover(words);
 }
 
 void MarksPanel::Follow(unsigned takeoff) {
@@ -143,12 +183,12 @@ void MarksPanel::Fill() {
   const std::vector<AccountedMark> account = AccountOf(marks, lines);
   names_.clear();
   QStringList rows;
-  flags_.clear();
+  words_.clear();
   flagged_ = 0;
   for (const size_t at : MarksInOrder(marks)) {
     names_.push_back(marks[at].name);
     rows += MarkRow(marks[at], account[at]);
-    flags_.push_back(account[at].flag);
+    words_.push_back(WordsOfRow(account[at]));
     if (!account[at].flag.isEmpty()) ++flagged_;
   }
   form_.MarksList.Refill(rows);
@@ -162,18 +202,15 @@ void MarksPanel::FillTotals() {
 }
 
 void MarksPanel::GoToLine() {
+  if (!IsChosen()) return;
   const Mark* mark = viewer_.Hand().Chosen();
-  const auto tell = [this](const QString& words) {
-    if (viewer_.onToolRefused) viewer_.onToolRefused(words);
-  };
-  if (mark == nullptr) return tell(QStringLiteral("Choose a mark first: click it, or press N."));
   const std::optional<MarkTie> tie = TieOfText(mark->kept);
   if (!tie)
-    return tell(mark->kept.isEmpty()
+    return Tell(mark->kept.isEmpty()
                     ? QStringLiteral("This mark was not entered into any line of the takeoff.")
                     : QStringLiteral("What this mark was entered into can't be read."));
   const QString why = goToLine ? goToLine(tie->place) : QString();
-  if (!why.isEmpty()) tell(why);
+  if (!why.isEmpty()) Tell(why);
 }
 
 }  // namespace tamo

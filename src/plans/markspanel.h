@@ -22,6 +22,7 @@ class MarksPanel {
 
   void Toggle();
   void AskTitle();  // the field for the title, with the list
+  bool IsChosen();  // a mark is; says so when none is
   // A mark was changed by hand: it is saved as marks of entries are. Steps of the arrows are saved
   // together, when they are over.
   void Edited();
@@ -37,11 +38,13 @@ class MarksPanel {
   std::function<QString(const TakeoffPlace& place)> goToLine;
 
  private:
+  void Tell(const QString& words);
+  void BackToPlan(Key& key);
   void Refresh() { Follow(takeoff_); }
   void Fill();
   void FillTotals();
   void ShowChosen();
-  void ShowSummary(const QString& flag);
+  void ShowSummary(const QString& chosen);
   void TakeRow();
   void TakeTitle();
   void SaveEdits();
@@ -52,7 +55,7 @@ class MarksPanel {
   PlanLegends legends_{viewer_};
   std::function<void()> save_;
   std::vector<QString> names_;  // of the rows
-  std::vector<QString> flags_;
+  std::vector<QString> words_;  // said of each when it is chosen
   int flagged_ = 0;
   unsigned filledFor_ = 0;
   int filledPage_ = 0;

@@ -41,7 +41,7 @@ OSTForm::OSTForm(const Kit& kit, PdfDraw& viewer, ProjectKeeper& keeper, Takeoff
       groups_(kit, *this, viewer, measure_),
       sheetScales_(kit, *this, viewer, scale_, record_),
       ways_(kit, *this, viewer, record_),
-      marks_(kit, *this, viewer, [this] { SaveIt(); }),
+      marks_(kit, *this, viewer, [this] { copy_.SaveEdits(TrimmedBlanks(kit_.shared.JobID)); }),
       compare_(kit, *this, viewer) {
   SetCaption(QStringLiteral("Digital Plan Takeoff"));
   BindFields();
@@ -148,7 +148,9 @@ void OSTForm::BindMarks() {
   on(QStringLiteral("NextMark"), press(PlanKey::No));
   on(QStringLiteral("MarkBefore"), press(PlanKey::MarkBefore));
   on(QStringLiteral("NameMark"), [this] { marks_.AskTitle(); });
-  on(QStringLiteral("DeleteMark"), press(PlanKey::Delete));
+  on(QStringLiteral("DeleteMark"), [this, remove = press(PlanKey::Delete)] {
+    if (marks_.IsChosen()) remove();
+  });
   on(QStringLiteral("LegendOfSheet"), [this] { marks_.Legends().Place(false); });
   on(QStringLiteral("LegendOfPlan"), [this] { marks_.Legends().Place(true); });
   on(QStringLiteral("RefreshLegends"), [this] { marks_.Legends().Refresh(); });
@@ -156,8 +158,9 @@ void OSTForm::BindMarks() {
   on(QStringLiteral("MarkLine"), [this] { marks_.GoToLine(); });
   on(QStringLiteral("MarksOfPlan"), [this] { marks_.Toggle(); });
   for (const SwatchRow& row : std::span(kSwatches).first(kPlanSwatches)) {
-    on(ColourEntry(row),
-       [this, code = QString(QLatin1String(row.stored))] { viewer_.Hand().Recolour(code); });
+    on(ColourEntry(row), [this, code = QString(QLatin1String(row.stored))] {
+      if (marks_.IsChosen()) viewer_.Hand().Recolour(code);
+    });
   }
   viewer_.onMarkEdited = OnDesk(kit_.desk, [this] { marks_.Edited(); });
   viewer_.onMarkChosen = OnDesk(kit_.desk, [this] { marks_.Chosen(); });

@@ -54,7 +54,10 @@ class OSTForm : public OstControls {
 
   // --- The list of marks
   // After each event; another number says that the takeoff may have become another one.
-  void FollowMarks(unsigned takeoff) { marks_.Follow(takeoff); }
+  void FollowMarks(unsigned takeoff) {
+    copy_.Follow();
+    marks_.Follow(takeoff);
+  }
   MarksPanel& ListOfMarks() { return marks_; }
 
   // --- View

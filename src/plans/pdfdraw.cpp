@@ -45,6 +45,7 @@ bool PdfDraw::ShowsFile(const QString& path) const {
 // A plan begins: its pages and marks are not known yet.
 void PdfDraw::BeginPlan(const QString& path) {
   comparison_->End();
+  hand_.Forget();
   path_ = path;
   notices_.reservation.clear();
   notices_.caution.clear();

@@ -178,7 +178,8 @@ int PdfDraw::Write(const QString& path, bool own, const MarkChanges& changes) {
   if (anew == nullptr) return error;
   Put(std::move(anew));
   StartPainting();
-  ViewChanged();  // the new painter learns what is in sight
+  Raise(onPageChanged);  // whoever reads of the plan reads of this one
+  ViewChanged();         // the new painter learns what is in sight
   return error;
 }
 

@@ -31,6 +31,12 @@ PlanCompare::PlanCompare(const Kit& kit, OstControls& form, PdfDraw& viewer)
       comparison_.GoToPlace(form_.ChangedPlaces.Index());
   };
   OnEnter(form_.ComparePassword, [this] { Unlock(); });
+  form_.ComparePassword.onKey = [this, enter = form_.ComparePassword.onKey](Key& key) {
+    if (!key.Is(Key::Name::Escape)) return enter(key);
+    key.Drop();
+    comparison_.End();
+    kit_.desk.Focus(form_.picPdfDraw);
+  };
   BindMenu();
   comparison_.onChanged = [this] { kit_.desk.Dispatch([this] { Refresh(); }); };
   viewer_.onCompareKey = [this] { kit_.desk.Dispatch([this] { Choose(); }); };
@@ -81,12 +87,13 @@ void PlanCompare::ShowPlaces() {
   QStringList rows;
   const SheetsCompared* known = comparison_.On() ? comparison_.Known() : nullptr;
   for (size_t i = 0; known != nullptr && i < known->places.size(); ++i)
-    rows += QStringLiteral("%1  %2").arg(i + 1).arg(known->places[i].words);
+    rows += QStringLiteral("%1  %2").arg(i + 1).arg(comparison_.WordsOf(known->places[i]));
   if (rows != form_.ChangedPlaces.Rows()) form_.ChangedPlaces.SetRows(rows);
   if (form_.ChangedPlaces.Index() != comparison_.Place())
     form_.ChangedPlaces.SetIndex(comparison_.Place());
   const bool none = known == nullptr || comparison_.Place() < 0;
-  form_.PlaceWords.SetCaption(none ? QString() : known->places[size_t(comparison_.Place())].words);
+  form_.PlaceWords.SetCaption(
+      none ? QString() : comparison_.WordsOf(known->places[size_t(comparison_.Place())]));
 }
 
 // Why nothing is compared stands where all problems of plans do.
@@ -101,8 +108,12 @@ void PlanCompare::Refresh() {
   ShowPlaces();
   form_.ComparePanel.SetShown(on || locked);
   if (!locked) form_.ComparePassword.Clear();
+  const bool asks = locked && !form_.ComparePassword.Shown();
   form_.ComparePassword.SetShown(locked);
   for (const char* entry : kWhileComparing) form_.FindMenu(QLatin1String(entry))->SetEnabled(on);
+  if (locked) form_.FindMenu(QStringLiteral("CompareEnd"))->SetEnabled(true);
+  // Whoever chose the plan types its password next, if nothing else was begun meanwhile.
+  if (asks && form_.picPdfDraw.HasFocus()) kit_.desk.Focus(form_.ComparePassword);
 }
 
 }  // namespace tamo

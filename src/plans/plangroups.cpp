@@ -9,7 +9,7 @@ QString RowOf(const CountGroup& group) {
   const QString part = group.onPage == group.total
                            ? QString()
                            : QStringLiteral(" (%1 on this sheet)").arg(group.onPage);
-  return QStringLiteral("%1: %2%3").arg(group.name).arg(group.total).arg(part);
+  return QStringLiteral("%1: %2%3").arg(group.name, QString::number(group.total), part);
 }
 
 }  // namespace

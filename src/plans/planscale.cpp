@@ -48,6 +48,7 @@ MeasuredArea PlanScale::MeasuredSurface(double paperArea, const QString& label) 
 void PlanScale::Choose(const ScaleEntry& scale) {
   if (!scale.acts) return;
   saved_ = false;
+  taking_ = true;
   if (scale.text5 != nullptr) {
     form_.Text5.SetText(QLatin1String(scale.text5));
     SetUnitByText5();
@@ -56,12 +57,14 @@ void PlanScale::Choose(const ScaleEntry& scale) {
   form_.Scale1.SetText(QLatin1String(scale.scale1));
   form_.Scale2.SetText(QLatin1String(scale.scale2));
   inchesChosen_ = scale.text5 == nullptr;
+  taking_ = false;
   if (!saved_) record_.SaveUnlessLoading();
   Show();
 }
 
 void PlanScale::Take(const ScaleTexts& scale) {
   saved_ = false;
+  taking_ = true;
   if (UnitOfText(scale.text5) == PaperUnit::Inches) {
     viewer_.SetUnit(PaperUnit::Inches);
     viewer_.SetUnitName(QStringLiteral("feet"));
@@ -70,6 +73,7 @@ void PlanScale::Take(const ScaleTexts& scale) {
   SetUnitByText5();
   form_.Scale1.SetText(scale.scale1);
   form_.Scale2.SetText(scale.scale2);
+  taking_ = false;
   if (!saved_) record_.SaveUnlessLoading();
   Show();
 }
@@ -94,7 +98,8 @@ void PlanScale::Show() {
   form_.ScaleInForce.SetCaption(words);
   form_.SetInches.SetShown(differs && meant == PaperUnit::Inches);
   viewer_.ScaleChanged();
-  if (onShown) onShown();
+  // One field after the other they are no scale that anybody chose.
+  if (onShown && !taking_) onShown();
 }
 
 void PlanScale::SetViewerToInches() {

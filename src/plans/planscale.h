@@ -40,6 +40,7 @@ class PlanScale {
   PlanRecord& record_;
   bool inchesChosen_ = false;  // 1"=100' was chosen, which leaves Text5 as it was
   bool saved_ = false;         // the record, since the scale entry in work was chosen
+  bool taking_ = false;        // the fields are being filled
 };
 
 }  // namespace tamo

@@ -13,7 +13,7 @@ constexpr double kFinest = 2;         // pixels a point
 constexpr int kSide = 1024;           // of a part
 
 double FinenessFor(PageSize size) {
-  return std::clamp(std::sqrt(kMostPixels / (size.width * size.height)), 0.05, kFinest);
+  return std::min(std::sqrt(kMostPixels / (size.width * size.height)), kFinest);
 }
 
 bool AddPart(const PaintedPair& pair, const PaintPart& part, CancelFlag& cancel,
@@ -34,6 +34,11 @@ bool AddPart(const PaintedPair& pair, const PaintPart& part, CancelFlag& cancel,
   if (old.width == 0) return false;
   cells.Add(old, now, margin, part.left, part.top);
   return true;
+}
+
+ChangedPlace::Kind Back(ChangedPlace::Kind kind) {
+  if (kind == ChangedPlace::Kind::Gone) return ChangedPlace::Kind::Come;
+  return kind == ChangedPlace::Kind::Come ? ChangedPlace::Kind::Gone : kind;
 }
 
 QString LinesInWords(ChangedPlace::Kind kind) {
@@ -73,7 +78,9 @@ void NamePlaces(std::vector<ChangedPlace>& places, const std::vector<ChangedPlac
   JoinPlaces(places);
   SortPlaces(places);
   for (ChangedPlace& place : places) {
-    if (place.words.isEmpty()) place.words = LinesInWords(place.kind);
+    if (!place.words.isEmpty()) continue;
+    place.words = LinesInWords(place.kind);
+    place.back = LinesInWords(Back(place.kind));
   }
 }
 

@@ -64,7 +64,7 @@ QString SheetInWords(const SheetBook& book, int page) {
   if (words.isEmpty() && !sheet.label.isEmpty() && sheet.label != QString::number(page))
     words = sheet.label;
   if (words.isEmpty()) return QStringLiteral("Page %1").arg(page);
-  return QStringLiteral("%1  (page %2)").arg(words).arg(page);
+  return QStringLiteral("%1  (page %2)").arg(words, QString::number(page));
 }
 
 QString NoSheetInWords(const QString& typed, const SheetBook& book) {

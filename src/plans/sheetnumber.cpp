@@ -46,8 +46,11 @@ bool InBlock(const BlockLine& line, double least) {
   return line.nearRight >= least && line.nearBottom >= least;
 }
 
-// What labels of one kind name.
+// What labels of one kind name. A sheet with more of them than any title block has says nothing for
+// sure.
 std::vector<Found> Labelled(const std::vector<BlockSide>& sides, BlockLabel kind) {
+  constexpr int kMostLabels = 300;
+  int labels = 0;
   std::vector<Found> found;
   for (const BlockSide& side : sides) {
     for (const BlockLine& line : side.lines) {
@@ -57,6 +60,7 @@ std::vector<Found> Labelled(const std::vector<BlockSide>& sides, BlockLabel kind
       const bool there =
           line.nearBottom >= kBlock ? line.nearRight >= least : line.nearRight >= 0.8;
       if (!there || LabelOf(line.text, rest) != kind) continue;
+      if (++labels > kMostLabels) return {};
       const QString text = TextOfLabel(side.lines, line, rest, kind == BlockLabel::Name);
       if (text.isEmpty()) continue;
       const auto value = std::find_if(side.lines.begin(), side.lines.end(),

@@ -88,6 +88,13 @@ void SheetScales::NoteHere(const ScaleTexts& texts, bool checked) {
     known_.Note(viewer_.ShownPath(), viewer_.Page(), {texts, checked});
 }
 
+// A dimension of this sheet has proved it: that holds when it comes back.
+bool SheetScales::WasProved(const ScaleTexts& texts) const {
+  const auto known = KnownHere();
+  return known.has_value() && known->checked &&
+         Alike(FeetPerInch(known->texts), FeetPerInch(texts));
+}
+
 ScaleTexts SheetScales::InForce() const {
   return {form_.Scale1.Text(), form_.Scale2.Text(), form_.Text5.Text()};
 }
@@ -100,7 +107,7 @@ void SheetScales::ScaleChanged() {
   const bool changed =
       now.scale1 != seen_.scale1 || now.scale2 != seen_.scale2 || now.text5 != seen_.text5;
   seen_ = now;
-  if (changed && !record_.Loading() && FeetPerInch(now) > 0) NoteHere(now, false);
+  if (changed && !record_.Loading() && FeetPerInch(now) > 0) NoteHere(now, WasProved(now));
   Refresh();
 }
 
@@ -150,7 +157,7 @@ void SheetScales::TakeOffered() {
   if (!offer_.has_value()) return;
   const ScaleTexts texts = offer_->texts;
   scale_.Take(texts);
-  NoteHere(texts, false);
+  NoteHere(texts, WasProved(texts));
   Refresh();
 }
 
@@ -245,6 +252,8 @@ QString SheetScales::Note() const {
   const QString now = InWords(InForce());
   if (known && !Alike(FeetPerInch(here->texts), inForce) && inForce > 0)
     return QStringLiteral("On this sheet %1 was used; in force is %2.").arg(offer_->words, now);
+  if (known && inForce == 0)
+    return QStringLiteral("On this sheet %1 was used; no scale is set now.").arg(offer_->words);
   if (known && offer_.has_value())
     return QStringLiteral("In force is %1, but this sheet prints %2.").arg(now, offer_->words);
   if (known) return {};

@@ -38,6 +38,7 @@ class SheetScales {
 
   std::optional<KnownScales::Scale> KnownHere() const;
   void NoteHere(const ScaleTexts& texts, bool checked);
+  bool WasProved(const ScaleTexts& texts) const;
   ScaleTexts InForce() const;
   void ScaleChanged();
   void Refresh();

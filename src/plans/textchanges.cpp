@@ -111,9 +111,11 @@ void AddBecame(std::vector<Touched>& old, std::vector<Touched>& now,
     if (best == nullptr) continue;
     best->told = line.told = true;
     if (best->plain == line.plain) continue;  // set in other letters, or a little aside
-    places.push_back({ChangedPlace::Kind::Changed, Around(line.box, best->box),
-                      QStringLiteral("%1 became %2")
-                          .arg(Named(best->text, line.text), Named(line.text, best->text))});
+    const QString was = Named(best->text, line.text);
+    const QString is = Named(line.text, best->text);
+    const QString became = QStringLiteral("%1 became %2");
+    places.push_back({ChangedPlace::Kind::Changed, Around(line.box, best->box), became.arg(was, is),
+                      became.arg(is, was)});
   }
 }
 
@@ -126,15 +128,20 @@ void AddMoved(std::vector<Touched>& old, std::vector<Touched>& now,
     });
     if (same == old.end()) continue;
     same->told = line.told = true;
-    places.push_back({ChangedPlace::Kind::Changed, line.box,
-                      QStringLiteral("Moved: %1").arg(Named(line.text, {}))});
+    const QString moved = QStringLiteral("Moved: %1").arg(Named(line.text, {}));
+    places.push_back({ChangedPlace::Kind::Changed, line.box, moved, moved});
   }
 }
 
-void AddRest(const std::vector<Touched>& lines, ChangedPlace::Kind kind, const QString& words,
+void AddRest(const std::vector<Touched>& lines, ChangedPlace::Kind kind,
              std::vector<ChangedPlace>& places) {
+  const QString gone = QStringLiteral("Gone: ");
+  const QString come = QStringLiteral("New: ");
+  const bool went = kind == ChangedPlace::Kind::Gone;
   for (const Touched& line : lines) {
-    if (!line.told && line.own) places.push_back({kind, line.box, words.arg(Named(line.text, {}))});
+    if (line.told || !line.own) continue;
+    const QString text = Named(line.text, {});
+    places.push_back({kind, line.box, (went ? gone : come) + text, (went ? come : gone) + text});
   }
 }
 
@@ -159,8 +166,8 @@ std::vector<ChangedPlace> TextChangesOf(const PageContent& old, const PageConten
   std::vector<ChangedPlace> places;
   AddBecame(gone, come, places);
   AddMoved(gone, come, places);
-  AddRest(gone, ChangedPlace::Kind::Gone, QStringLiteral("Gone: %1"), places);
-  AddRest(come, ChangedPlace::Kind::Come, QStringLiteral("New: %1"), places);
+  AddRest(gone, ChangedPlace::Kind::Gone, places);
+  AddRest(come, ChangedPlace::Kind::Come, places);
   return places;
 }
 

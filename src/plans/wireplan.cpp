@@ -50,8 +50,9 @@ void Take(WireReader& wire, Mark& mark) {
   mark.label = wire.Text();
   mark.group = wire.Text();
   mark.name = wire.Text();
-  mark.title = TitleOf(wire.Text());
-  mark.kept = wire.Text().left(kLongestKept);
+  mark.title = wire.Text();
+  mark.kept = wire.Text();
+  BringToBounds(mark);
 }
 
 void Put(WireWriter& wire, const std::vector<Mark>& marks) {

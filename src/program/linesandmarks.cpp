@@ -6,6 +6,7 @@
 #include "plans/filetail.h"
 #include "plans/markpdf.h"
 #include "plans/pdfappend.h"
+#include "plans/workthread.h"
 #include "records/arealine.h"
 #include "records/datafolder.h"
 #include "records/roomline.h"
@@ -14,6 +15,7 @@ namespace tamo {
 namespace {
 
 constexpr int kOpening = 20000;               // milliseconds that a plan may take to open
+constexpr int kLooking = 5000;                // and one that is only looked at for marks
 constexpr qint64 kMarksAt = qint64(8) << 20;  // of a plan's end, where its marks are added
 
 // How every mark of the line begins what it keeps, as it stands in a plan.
@@ -118,12 +120,33 @@ std::vector<QString> LinesAndMarks::MarksOf(const TakeoffPlace& place) const {
   return names;
 }
 
-// Another marked plan of the project that has marks of the line; "" for none.
+// Whether a plan that is not shown has marks of the line: it is opened and looked at. A locked one
+// is tried with the password that was typed last.
+bool LinesAndMarks::HasMarksOf(const QString& path, const TakeoffPlace& place) const {
+  int error = 0;
+  const std::shared_ptr<EnginePlan> plan = ost_.Viewer().OpenBeside(path, error);
+  if (plan == nullptr) return false;
+  const auto contents = std::make_shared<PlanContents>();
+  WorkThread thread;
+  const bool read = thread.Run(
+      [plan, contents, password = ost_.PlanPassword.Text()] { *contents = plan->Open(password); },
+      kLooking, {});
+  plan->Abandon();
+  return read && std::any_of(contents->marks.begin(), contents->marks.end(), [&](const Mark& mark) {
+           const std::optional<MarkTie> tie = TieOfText(mark.kept);
+           return tie && tie->place == place;
+         });
+}
+
+// Another marked plan of the project that has marks of the line; "" for none. Mostly the line
+// stands at the plan's end in plain letters. In one that is encrypted, or was written anew by
+// whatever program, it does not: those are opened.
 QString LinesAndMarks::PlanWithMarksOf(const TakeoffPlace& place) const {
   const QString folder = ProjectFolder(kit_.shared).Plans();
   Disk& disk = kit_.files.GetDisk();
   const QStringList names = disk.Names(kit_.files.Resolved(folder));
   const QByteArray wanted = BytesOf(place);
+  QStringList others;
   for (const QString& name : names) {
     if (!name.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) continue;
     std::shared_ptr<FileReader> reader;
@@ -131,8 +154,12 @@ QString LinesAndMarks::PlanWithMarksOf(const TakeoffPlace& place) const {
     if (disk.OpenToRead(kit_.files.Resolved(path), reader) != kNoError) continue;
     const qint64 from = std::max(qint64(0), reader->Size() - kMarksAt);
     if (ReadPart(*reader, from, reader->Size() - from).contains(wanted)) return path;
+    others += path;
   }
-  return {};
+  const auto found = std::find_if(others.begin(), others.end(), [&](const QString& path) {
+    return !ost_.Viewer().ShowsFile(path) && HasMarksOf(path, place);
+  });
+  return found == others.end() ? QString() : *found;
 }
 
 // The plan of the project is on the screen, or else the one that has marks of the line.

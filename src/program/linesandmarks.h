@@ -30,6 +30,7 @@ class LinesAndMarks {
   TakeoffPlace PlaceInWork(const TakeoffForm& form) const;
   std::vector<QString> MarksOf(const TakeoffPlace& place) const;
   void BringUpPlan(const TakeoffPlace& place);
+  bool HasMarksOf(const QString& path, const TakeoffPlace& place) const;
   QString PlanWithMarksOf(const TakeoffPlace& place) const;
   MenuEntry* EntryTo(bool areas) const;
 

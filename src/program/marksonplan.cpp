@@ -36,10 +36,12 @@ bool MarksOnPlan::IsFree(const Mark& mark) const {
 }
 
 // A count has all circles that were counted for it; square feet their area and what was cut out of
-// it since; a length the newest mark that says it.
+// it since, negative ones only what was cut out of an area that was entered before; a length the
+// newest mark that says it.
 QStringList MarksOnPlan::MarksBehind(const QString& text, const std::vector<Mark>& marks) const {
   QStringList names;
   const bool count = !marks.empty() && IsCount(marks.front().kind);
+  const bool off = text.startsWith(QLatin1Char('-'));
   const QString label = text + QLatin1Char(' ');
   for (const Mark& mark : marks) {
     if (count != IsCount(mark.kind) || !IsFree(mark)) continue;
@@ -47,7 +49,7 @@ QStringList MarksOnPlan::MarksBehind(const QString& text, const std::vector<Mark
     if (count && mark.group != marks.front().group) continue;
     const bool cut = mark.kind == Mark::Kind::CutOut;
     const bool surface =
-        mark.kind == Mark::Kind::Area && (!names.isEmpty() || IsNewest(mark, marks));
+        mark.kind == Mark::Kind::Area && !off && (!names.isEmpty() || IsNewest(mark, marks));
     if (!count && !cut && !surface && (!names.isEmpty() || !mark.label.startsWith(label))) continue;
     names += mark.name;
     if (!count && !cut) break;
@@ -62,8 +64,7 @@ bool MarksOnPlan::IsNewest(const Mark& mark, const std::vector<Mark>& marks) con
   return false;
 }
 
-// Each mark keeps the line it went into. Square yards are a ninth of what an area says; an area has
-// its height in it.
+// Each mark keeps the line it went into. Square yards are a ninth of what an area says.
 void MarksOnPlan::Tie(const QStringList& names, const Measured& field, const EnteredLine& line) {
   const bool height = field.field[1] == 'H';
   for (const QString& name : names) {
@@ -77,7 +78,7 @@ void MarksOnPlan::Tie(const QStringList& names, const Measured& field, const Ent
                 line.height,
                 line.before,
                 line.after};
-    if (IsSurface(mark->kind)) tie.factor = line.units == QLatin1String("SY") ? 1 / 9.0 : 1;
+    if (IsSurface(mark->kind) && line.units == QLatin1String("SY")) tie.factor /= 9;
     ost_.Viewer().KeepWith(name, TextOfTie(tie));
   }
 }

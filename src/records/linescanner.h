@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QStringView>
+#include <bit>
+#include <cstring>
 
 namespace tamo {
 
@@ -9,28 +11,43 @@ namespace tamo {
 class LineScanner {
  public:
   LineScanner() = default;
-  explicit LineScanner(QStringView text) : text_(text) {}
+  explicit LineScanner(QStringView text) : at_(text.utf16()), end_(text.utf16() + text.size()) {}
 
   bool Next(QStringView& line) {
-    const qsizetype size = text_.size();
-    if (at_ >= size) return false;
-    // Both searches look at many characters at a time; the next line feed may lie lines away.
-    if (feed_ < at_) {
-      feed_ = text_.indexOf(u'\n', at_);
-      if (feed_ < 0) feed_ = size;
-    }
-    const QStringView upTo = text_.sliced(at_, feed_ - at_);
-    const qsizetype back = upTo.indexOf(u'\r');
-    line = back < 0 ? upTo : upTo.first(back);
-    at_ += line.size() + 1;
-    if (back >= 0 && at_ == feed_) ++at_;
+    if (at_ == end_) return false;
+    const char16_t* const begin = at_;
+    const char16_t* const stop = LineEnd(begin);
+    line = {begin, stop};
+    at_ = stop;
+    if (at_ != end_ && *at_++ == u'\r' && at_ != end_ && *at_ == u'\n') ++at_;
     return true;
   }
 
  private:
-  QStringView text_;
-  qsizetype at_ = 0;
-  qsizetype feed_ = -1;  // the next line feed at or behind at_, or the end of the text
+  static bool Ends(char16_t c) { return c == u'\r' || c == u'\n'; }
+
+  // The first CR or LF from `at` on. Four characters are looked at together: taking 14 from each
+  // turns the highest bit of those below 14 on, and that of the first of them is exact.
+  const char16_t* LineEnd(const char16_t* at) const {
+    constexpr quint64 kEach = 0x0001000100010001;
+    while (std::endian::native == std::endian::little && end_ - at >= 4) {
+      quint64 four = 0;
+      std::memcpy(&four, at, sizeof four);
+      const quint64 low = (four - kEach * 14) & ~four & (kEach << 15);
+      if (low == 0) {
+        at += 4;
+        continue;
+      }
+      at += std::countr_zero(low) / 16;
+      if (Ends(*at)) return at;
+      ++at;
+    }
+    while (at != end_ && !Ends(*at)) ++at;
+    return at;
+  }
+
+  const char16_t* at_ = nullptr;
+  const char16_t* end_ = nullptr;
 };
 
 }  // namespace tamo

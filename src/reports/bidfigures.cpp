@@ -5,6 +5,7 @@
 #include "common/numbers.h"
 #include "records/itemline.h"
 #include "reports/merge.h"
+#include "reports/systemshelf.h"
 
 namespace tamo {
 namespace {
@@ -19,6 +20,8 @@ bool SamePrice(const PricedBlock& a, const PricedBlock& b) {
 class Pricer {
  public:
   Pricer(const ReportSource& source, const Markups& markups) : shelf_(source), markups_(markups) {}
+
+  SystemsAhead& Systems() { return shelf_.Ahead(); }
 
   SystemFigures Price(const MergedRow& row) {
     shelf_.Load(row.name);
@@ -78,7 +81,7 @@ bool SystemFigures::PricedAs(const SystemFigures& other) const {
 BidFigures FiguresOfBid(const ReportSource& source, const Markups& markups, TakeoffVisitor* also) {
   BidFigures bid;
   Pricer pricer(source, markups);
-  ForEachRow(source, Calculate(source, also), [&](const MergedRow& row) {
+  ForEachRow(source, Calculate(source, &pricer.Systems(), also), [&](const MergedRow& row) {
     if (row.value == 0) return;
     bid.systems.push_back(pricer.Price(row));
     const SystemFigures& system = bid.systems.back();

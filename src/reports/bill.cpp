@@ -7,6 +7,7 @@
 #include "records/roomline.h"
 #include "reports/linequantity.h"
 #include "reports/rollup.h"
+#include "reports/systemshelf.h"
 #include "reports/takeoffwalk.h"
 
 namespace tamo {
@@ -48,7 +49,7 @@ class BillMaker : public TakeoffVisitor {
       : source_(source), shelf_(source), notes_(notes) {}
 
   void Line(SheetKind kind, QStringView line) override {
-    shelf_.Load(SystemOfLine(line));
+    shelf_.LoadOfLine(line);
     const std::vector<PricedBlock>& blocks = shelf_.Blocks();
     const bool firstSight = shelf_.Number() == static_cast<int>(rowsOf_.size());
     if (firstSight) {
@@ -64,6 +65,8 @@ class BillMaker : public TakeoffVisitor {
         notes_.NoteZero(blocks[i], shelf_.Asked(), BillLineOf(rowOf[i]));
     }
   }
+
+  SystemsAhead& Systems() { return shelf_.Ahead(); }
 
   std::vector<BillRow> Take(bool& partlyRead) {
     std::vector<BillRow> rows;
@@ -142,7 +145,7 @@ QString Column(const QString& text, qsizetype width, bool right, const QString& 
 
 std::vector<BillRow> GetMaterial(const ReportSource& source, NoteBook& notes, bool& partlyRead) {
   BillMaker maker(source, notes);
-  WalkTakeoff(source, maker);
+  WalkTakeoff(source, maker, &maker.Systems());
   return maker.Take(partlyRead);
 }
 

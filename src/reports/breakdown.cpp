@@ -6,6 +6,7 @@
 #include "reports/cents.h"
 #include "reports/merge.h"
 #include "reports/notebook.h"
+#include "reports/systemshelf.h"
 #include "reports/takeoffwalk.h"
 
 namespace tamo {
@@ -15,10 +16,10 @@ BreakFigures MakeBreak(const ReportSource& source, const Markups& markups,
   BreakFigures figures;
   const QStringList items = CountedItems(source);
   ReadCountedAdjustment(source, adjustmentText);
-  const std::vector<MergedRow> rows = Calculate(source);
+  SystemShelf shelf(source);
+  const std::vector<MergedRow> rows = Calculate(source, &shelf.Ahead());
   if (rows.empty()) return figures;
 
-  SystemShelf shelf(source);
   StandingFigures standing;
   ProjectRollUp sums;
   ForEachRow(source, rows, [&](const MergedRow& row) {

@@ -10,6 +10,7 @@
 #include "reports/linequantity.h"
 #include "reports/notebook.h"
 #include "reports/rollup.h"
+#include "reports/systemshelf.h"
 #include "reports/takeoffwalk.h"
 
 namespace tamo {
@@ -39,7 +40,7 @@ class CopyMaker : public TakeoffVisitor {
   void EndSheet(SheetKind) override { rows_->Add({}); }
 
   void Line(SheetKind kind, QStringView line) override {
-    shelf_.Load(SystemOfLine(line));
+    shelf_.LoadOfLine(line);
     const QString& system = shelf_.Asked();
     const int head = static_cast<int>(rows_->Count());
     notes_.NoteSystem(shelf_, system, head);
@@ -56,6 +57,8 @@ class CopyMaker : public TakeoffVisitor {
     }
     if (!paged_ && rows_->Count() >= kFirstPage) TellFirstPage();
   }
+
+  SystemsAhead& Systems() { return shelf_.Ahead(); }
 
   TakeoffCopy Take() {
     rows_->Add(QString(63, QLatin1Char('_')));
@@ -189,7 +192,7 @@ class CopyMaker : public TakeoffVisitor {
 
 TakeoffCopy MakeCopy(const ReportSource& source, const Markups& markups, bool office) {
   CopyMaker maker(source, markups, office);
-  WalkTakeoff(source, maker);
+  WalkTakeoff(source, maker, &maker.Systems());
   return maker.Take();
 }
 

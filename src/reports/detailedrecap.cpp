@@ -4,6 +4,7 @@
 #include "reports/notebook.h"
 #include "reports/recap.h"
 #include "reports/rollup.h"
+#include "reports/systemshelf.h"
 
 namespace tamo {
 namespace {
@@ -32,6 +33,8 @@ class DetailedSheet {
     Line(QStringLiteral("Recap Sheet"));
     Line({});
   }
+
+  SystemsAhead& Systems() { return shelf_.Ahead(); }
 
   void Row(const MergedRow& row) {
     if (row.value == 0) return;
@@ -106,7 +109,8 @@ class DetailedSheet {
 
 Report DetailedRecapSheet(const ReportSource& source, const Markups& markups) {
   DetailedSheet sheet(source, markups);
-  ForEachRow(source, Calculate(source), [&](const MergedRow& row) { sheet.Row(row); });
+  ForEachRow(source, Calculate(source, &sheet.Systems()),
+             [&](const MergedRow& row) { sheet.Row(row); });
   return sheet.Take();
 }
 

@@ -37,19 +37,20 @@ class DetailRow {
   Worth AddTo(TextRows& rows, double hundredths, double dollars) const;
 
  private:
-  DetailRow(bool office, const QString& name, const QString& unit, qsizetype quantityWidth,
-            qsizetype dollarsWidth);
+  // `line` is the whole line without its figures: the name up to `quantityFrom`, blanks for the
+  // quantity up to `unitFrom`, the unit up to `dollarsFrom`.
+  DetailRow(bool office, QString&& line, qsizetype quantityFrom, qsizetype unitFrom,
+            qsizetype dollarsFrom);
 
   bool office_;
-  QString name_;
-  QString unit_;
-  qsizetype quantityWidth_;
-  qsizetype dollarsWidth_;
-  QString blank_;  // the whole line without its figures
+  QString blank_;
+  qsizetype quantityFrom_;
+  qsizetype unitFrom_;
+  qsizetype dollarsFrom_;
+  bool labor_;
   // Figures of at least 0 and less than these fit.
   double endOfHundredths_ = 0;
   double endOfDollars_ = 0;
-  bool labor_;
 };
 
 }  // namespace tamo

@@ -96,9 +96,11 @@ class Merger {
 
 }  // namespace
 
-std::vector<MergedRow> Calculate(const ReportSource& source, TakeoffVisitor* also) {
+std::vector<MergedRow> Calculate(const ReportSource& source, SystemsAhead* systems,
+                                 TakeoffVisitor* also) {
   Merger merger(source, also);
-  WalkSheets(source, [&](const TakeoffSheet& sheet) { return merger.Sheet(sheet); });
+  WalkSheets(
+      source, [&](const TakeoffSheet& sheet) { return merger.Sheet(sheet); }, systems);
   return merger.Take();
 }
 

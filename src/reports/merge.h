@@ -7,6 +7,7 @@
 
 namespace tamo {
 
+class SystemsAhead;
 class TakeoffVisitor;
 
 // One system of the project with the sum of its takeoff.
@@ -18,9 +19,10 @@ struct MergedRow {
 };
 
 // All rooms, then all areas, merged into one list of systems in order of first appearance. Names
-// are told apart exactly, by case, too. Linear in the lines of the project. `also` sees every line
-// on the way.
-std::vector<MergedRow> Calculate(const ReportSource& source, TakeoffVisitor* also = nullptr);
+// are told apart exactly, by case, too. Linear in the lines of the project. `systems` look at the
+// sheets that are read ahead, `also` sees every line on the way.
+std::vector<MergedRow> Calculate(const ReportSource& source, SystemsAhead* systems = nullptr,
+                                 TakeoffVisitor* also = nullptr);
 
 // `each` for every row, telling the progress of the report.
 template <typename Each>

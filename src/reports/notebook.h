@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "reports/namerows.h"
-#include "reports/pricedsystem.h"
 #include "reports/reportsource.h"
+#include "reports/systemshelf.h"
 
 namespace tamo {
 

@@ -7,7 +7,6 @@
 #include "common/numbers.h"
 #include "common/paths.h"
 #include "records/materialblock.h"
-#include "reports/reportmemory.h"
 
 namespace tamo {
 namespace {
@@ -56,9 +55,6 @@ PricedSystem PricedSystemOf(const QString& text) {
   return system;
 }
 
-namespace {
-
-// The text of the file. That it was read here is remembered: when it is missing later, it is gone.
 int ReadSystemText(const ReportSource& source, const QString& name, QString& text) {
   if (!NameRefusal(name).isEmpty()) return kFileNotFound;
   const QString path = source.project.SystemFile(name);
@@ -71,53 +67,11 @@ int ReadSystemText(const ReportSource& source, const QString& name, QString& tex
   return error;
 }
 
-}  // namespace
-
 int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& system) {
   QString text;
   const int error = ReadSystemText(source, name, text);
   system = error == kNoError ? PricedSystemOf(text) : PricedSystem();
   return error;
-}
-
-SystemShelf::Entry SystemShelf::Read(const QString& name) const {
-  Entry entry;
-  QString text;
-  if (ReadSystemText(source_, name, text) != kNoError) {
-    entry.system = std::make_shared<PricedSystem>();
-  } else if (source_.memory != nullptr) {
-    entry.system = source_.memory->System(name, text);
-  } else {
-    entry.system = std::make_shared<PricedSystem>(PricedSystemOf(text));
-  }
-  entry.unitPrice = Value(entry.system->file.unitPrice);
-  for (const PricedBlock& block : entry.system->blocks)
-    entry.readsZero = entry.readsZero || block.ReadsZero();
-  return entry;
-}
-
-void SystemShelf::Load(QStringView name) {
-  int at = index_.Find(name);
-  if (at < 0) {
-    Entry entry = Read(name.toString());
-    at = index_.Add(name);
-    entries_.push_back(std::make_unique<Entry>(std::move(entry)));
-  }
-  if (at == number_) return;
-  number_ = at;
-  const Entry& entry = *entries_[static_cast<size_t>(at)];
-  found_ = entry.system->found;
-  readsZero_ = entry.readsZero;
-  blocks_ = &entry.system->blocks;
-  if (!found_) return;
-  const SystemFile& file = entry.system->file;
-  if (file.reached > 0) name_ = &file.description;
-  if (file.reached > 1) units_ = &file.units;
-  if (file.reached > 2) {
-    unitPriceText_ = &file.unitPrice;
-    unitPrice_ = entry.unitPrice;
-  }
-  notes_ = &file.notes;
 }
 
 }  // namespace tamo

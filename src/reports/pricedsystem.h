@@ -1,13 +1,10 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
-#include <memory>
 #include <vector>
 
 #include "records/linescanner.h"
 #include "records/systemfile.h"
-#include "reports/namerows.h"
 #include "reports/reportsource.h"
 
 namespace tamo {
@@ -47,62 +44,9 @@ struct PricedSystem {
 
 PricedSystem PricedSystemOf(const QString& text);
 
-// Reads the project's copy of the system `name`; the library is never read.
+// The text of the project's copy of the system `name`; the library is never read. What goes wrong
+// is told to the source. A file that was read is remembered: when it is missing later, it is gone.
+int ReadSystemText(const ReportSource& source, const QString& name, QString& text);
 int LoadSystem(const ReportSource& source, const QString& name, PricedSystem& system);
-
-// The systems of a report: each file is read once, and the texts of the last system stay as they
-// are when the next one has no file. So a system without a file is priced with the unit price of
-// the system before it, and has no materials; a test holds it.
-class SystemShelf {
- public:
-  explicit SystemShelf(const ReportSource& source) : source_(source) {}
-  SystemShelf(const SystemShelf&) = delete;
-  SystemShelf& operator=(const SystemShelf&) = delete;
-
-  // Makes `name` the system at hand.
-  void Load(QStringView name);
-
-  const QString& Name() const { return *name_; }
-  const QString& Units() const { return *units_; }
-  const QString& UnitPriceText() const { return *unitPriceText_; }
-  double UnitPrice() const { return unitPrice_; }
-  const QString& Notes() const { return *notes_; }
-  const std::vector<PricedBlock>& Blocks() const { return *blocks_; }
-  // The system itself, as it stands.
-  const std::shared_ptr<const PricedSystem>& AtHand() const {
-    return entries_[static_cast<size_t>(number_)]->system;
-  }
-  bool Found() const { return found_; }
-  // Some material of the system at hand reads a figure of 0.
-  bool ReadsZero() const { return readsZero_; }
-  // The name that was asked for, and its number: 0 for the first name of the report, then 1 ...
-  const QString& Asked() const { return index_.At(number_); }
-  int Number() const { return number_; }
-
- private:
-  struct Entry {
-    std::shared_ptr<const PricedSystem> system;
-    double unitPrice = 0;
-    bool readsZero = false;
-  };
-
-  Entry Read(const QString& name) const;
-
-  const ReportSource& source_;
-  NameRows index_;
-  std::vector<std::unique_ptr<Entry>> entries_;
-  std::vector<PricedBlock> none_;
-  // Each text is that of the last system that had one.
-  const QString empty_;
-  const QString* name_ = &empty_;
-  const QString* units_ = &empty_;
-  const QString* unitPriceText_ = &empty_;
-  const QString* notes_ = &empty_;
-  double unitPrice_ = 0;
-  const std::vector<PricedBlock>* blocks_ = &none_;
-  bool found_ = false;
-  bool readsZero_ = false;
-  int number_ = -1;
-};
 
 }  // namespace tamo

@@ -8,6 +8,7 @@
 #include "reports/notebook.h"
 #include "reports/recaptable.h"
 #include "reports/rollup.h"
+#include "reports/systemshelf.h"
 #include "reports/takeoffwalk.h"
 
 namespace tamo {
@@ -24,6 +25,8 @@ class RecapSheet {
     Add(QStringLiteral("Recap Sheet"));
     Add({});
   }
+
+  SystemsAhead& Systems() { return shelf_.Ahead(); }
 
   void Row(const MergedRow& row) {
     if (row.value == 0) return;
@@ -184,7 +187,8 @@ Report MinimalRecapSheet(const ReportSource& source, const Markups& markups, boo
   const QStringList items = CountedItems(source);
   ReadCountedAdjustment(source, adjustment);
   RecapSheet sheet(source, markups, detailed);
-  ForEachRow(source, Calculate(source), [&](const MergedRow& row) { sheet.Row(row); });
+  ForEachRow(source, Calculate(source, &sheet.Systems()),
+             [&](const MergedRow& row) { sheet.Row(row); });
   sheet.Totals(items, adjustment);
   return sheet.Take();
 }

@@ -46,12 +46,13 @@ const MergeSheet& ReportMemory::Lines(const TakeoffSheet& sheet) {
   return kept.lines;
 }
 
-std::shared_ptr<const PricedSystem> ReportMemory::System(const QString& name, const QString& text) {
+std::shared_ptr<const PricedSystem> ReportMemory::System(
+    const QString& name, const QString& text, std::shared_ptr<const PricedSystem> ready) {
   const auto kept = systems_.constFind(name);
   if (kept != systems_.constEnd() && kept->text == text) return kept->system;
-  auto system = std::make_shared<const PricedSystem>(PricedSystemOf(text));
-  systems_.insert(name, {text, system});
-  return system;
+  if (ready == nullptr) ready = std::make_shared<const PricedSystem>(PricedSystemOf(text));
+  systems_.insert(name, {text, ready});
+  return ready;
 }
 
 }  // namespace tamo

@@ -36,8 +36,11 @@ class ReportMemory {
 
   // The lines of a sheet. It stands until the next call.
   const MergeSheet& Lines(const TakeoffSheet& sheet);
-  // Raises what PricedSystemOf raises.
-  std::shared_ptr<const PricedSystem> System(const QString& name, const QString& text);
+  // `ready` is the system of the text, where somebody has it already. Raises what PricedSystemOf
+  // raises.
+  std::shared_ptr<const PricedSystem> System(const QString& name, const QString& text,
+                                             std::shared_ptr<const PricedSystem> ready = nullptr);
+  bool KnowsSystems() const { return !systems_.isEmpty(); }
 
   // The number of a system in the lines of the sheets.
   int NumberOf(QStringView system);

@@ -21,7 +21,8 @@ void ReportsForm::PrintReport() {
   const QString mark = bid_.Mark();
   const QString name =
       mark.isEmpty() ? kit_.shared.JobName : kit_.shared.JobName + QStringLiteral("   ") + mark;
-  PrintPages(kit_.platform.printer, WithUncounted(Reporter.SharedRows()), kit_.shared.JobID, name);
+  PrintPages(kit_.platform.printer, remarks_.Within(Reporter.SharedRows()), kit_.shared.JobID,
+             name);
   if (TitleOf(Reporter) == QLatin1String("Recap Sheet") && !bid_.Former()) OfferToKeep();
 }
 
@@ -29,7 +30,7 @@ void ReportsForm::CopyReport() {
   QString text;
   if (bid_.Former()) text = bid_.Mark() + QStringLiteral("\r\n");
   const auto copy = [&](const OrderedList& list) {
-    text += WithUncounted(list.SharedRows()).Joined();
+    text += remarks_.Within(list.SharedRows()).Joined();
     GetDesk().GetMessages().Tell(
         list.Row(0) + QStringLiteral(" has been copied to the computer clipboard.\n"
                                      "Use paste on the mouse right click to paste report into\n"
@@ -50,16 +51,7 @@ void ReportsForm::WriteProjectFile() {
   }
   const OrderedList& list = Reporter.Empty() ? Reporter1 : Reporter;
   WriteManagerFile(kit_.files, kit_.shared, kit_.shared.JobID, kit_.shared.JobName,
-                   WithUncounted(list.SharedRows()));
-}
-
-// A report that leaves the window says behind its title what it did not count.
-ListRows ReportsForm::WithUncounted(const ListRows& report) const {
-  const QStringList sentences = uncounted_.Sentences();
-  if (sentences.isEmpty() || report.Count() == 0) return report;
-  QStringList rows = report.List();
-  for (qsizetype i = 0; i < sentences.size(); ++i) rows.insert(i + 1, sentences[i]);
-  return rows;
+                   remarks_.Within(list.SharedRows()));
 }
 
 void ReportsForm::ExitReports() {
@@ -152,15 +144,11 @@ void ReportsForm::ShowProgress() {
 }
 
 void ReportsForm::NotePicked() {
-  const int note = NotesList.Index();
-  if (note < 0 || note >= static_cast<int>(notes_.size())) return;
-  const std::vector<int>& rows = notes_[static_cast<size_t>(note)].rows;
-  if (rows.empty()) return;
+  const int row = remarks_.RowMeant();
   OrderedList& list = Reporter1.Shown() ? static_cast<OrderedList&>(Reporter1) : Reporter;
-  if (rows.front() < list.Count()) {
-    list.SetTop(rows.front());
-    list.SetIndex(rows.front());
-  }
+  if (row < 0 || row >= list.Count()) return;
+  list.SetTop(row);
+  list.SetIndex(row);
 }
 
 void ReportsForm::WholeQuantitiesChanged() {

@@ -1,14 +1,12 @@
 #include "reports/reportsform.h"
 
-#include <algorithm>
-#include <iterator>
+#include <utility>
 
 #include "common/failure.h"
 #include "common/numbers.h"
 #include "records/datafolder.h"
 #include "reports/bill.h"
 #include "reports/breakdown.h"
-#include "reports/notebook.h"
 #include "reports/projectinformation.h"
 #include "reports/quantities.h"
 #include "reports/recap.h"
@@ -70,13 +68,10 @@ void ReportsForm::Clear() {
 }
 
 void ReportsForm::ClearNotes() {
-  NotesList.Hide();
   WholeQuantities.Hide();
   KeepPrinted.Hide();
   if (!bid_.Former()) VersionLabel.Hide();
-  NotesList.Clear();
-  notes_.clear();
-  uncounted_ = {};
+  remarks_.Clear();
 }
 
 void ReportsForm::Make(const std::function<void()>& report) {
@@ -96,8 +91,8 @@ void ReportsForm::Make(const std::function<void()>& report) {
 }
 
 ReportSource ReportsForm::Source() {
-  return {bid_.GetFiles(), kit_.shared, onProgress, joins_.settings.WholeQuantities(),
-          &uncounted_,     &memory_};
+  return {bid_.GetFiles(),    kit_.shared, onProgress, joins_.settings.WholeQuantities(),
+          &remarks_.Missed(), &memory_};
 }
 
 // A refresh keeps its place in the report, which may lie behind the first page.
@@ -118,20 +113,14 @@ Markups ReportsForm::LoadedMarkups() {
   for (const ReadFailure& failure : kit_.files.ReadFailures()) {
     if (failure.path == ProjectFolder(kit_.shared).Markups() ||
         failure.path == DataFolder(kit_.shared).Markups())
-      uncounted_.File(QStringLiteral("the markups as they stand now"), failure.path,
-                      failure.number);
+      remarks_.Missed().File(QStringLiteral("the markups as they stand now"), failure.path,
+                             failure.number);
   }
   return joins_.pricing.MarkupTexts();
 }
 
 void ReportsForm::TakeNotes(Report& report, bool readsQuantities) {
-  notes_.clear();
-  for (const QString& sentence : uncounted_.Sentences()) notes_.push_back({sentence, {}});
-  std::move(report.notes.begin(), report.notes.end(), std::back_inserter(notes_));
-  QStringList rows;
-  for (const ReportNote& note : notes_) rows += NoteLine(note);
-  NotesList.SetRows(rows);
-  NotesList.SetShown(!rows.isEmpty());
+  remarks_.Take(std::move(report.notes));
   const bool whole = joins_.settings.WholeQuantities();
   WholeQuantities.SetValue(whole ? 1 : 0);
   WholeQuantities.SetShown(readsQuantities && (report.partlyRead || whole));

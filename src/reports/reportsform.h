@@ -15,6 +15,7 @@
 #include "reports/reportedbid.h"
 #include "reports/reportfiles.h"
 #include "reports/reportmemory.h"
+#include "reports/reportremarks.h"
 #include "reports/reportsource.h"
 #include "workspace/frontwindows.h"
 #include "workspace/settingsform.h"
@@ -105,8 +106,6 @@ class ReportsForm : public Form {
   // Another project is opened, made or cleared: no adjustment of the one before counts.
   void ForgetProject();
 
-  const std::vector<ReportNote>& Notes() const { return notes_; }
-
   // Called while a report is made, `done` of `all` sheets or systems; false stops the report. A
   // display that lets events through here need not care for reports asked for meanwhile: they are
   // not begun.
@@ -130,7 +129,6 @@ class ReportsForm : public Form {
   ReportSource SourceOfCopy(OrderedList& list);
   Markups LoadedMarkups();
   void FocusList();
-  ListRows WithUncounted(const ListRows& report) const;
   void ShowWindow();
   void RunByTitle();
   void ShowProgress();
@@ -147,8 +145,7 @@ class ReportsForm : public Form {
   class Running;
   bool running_ = false;     // a report is being made: ticks do not count, no other begins
   bool refreshing_ = false;  // the window stays where it is
-  std::vector<ReportNote> notes_;
-  Uncounted uncounted_;                     // by the report in the window
+  ReportRemarks remarks_{NotesList};
   std::shared_ptr<const CopyRows> copied_;  // in Reporter1: its detail lines can be ticked
   ProjectProgress progress_;
   double bottomLineSum_ = 0;  // as a breakdown with an adjustment last made it

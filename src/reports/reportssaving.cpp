@@ -15,7 +15,7 @@ const QString kNothingShown =
 ShownReport ReportsForm::InWindow() {
   const OrderedList& list = Reporter.Empty() ? Reporter1 : Reporter;
   const QString mark = bid_.Mark();
-  return {kind_, WithUncounted(list.SharedRows()), kit_.shared.JobID,
+  return {kind_, remarks_.Within(list.SharedRows()), kit_.shared.JobID,
           mark.isEmpty() ? kit_.shared.JobName : kit_.shared.JobName + QStringLiteral("   ") + mark,
           [this](ReportKind kind, TableSink& table) { return WriteFigures(kind, table); }};
 }
@@ -49,7 +49,7 @@ QStringList ReportsForm::WriteFigures(ReportKind kind, TableSink& table) {
     MakeReport(kind, source, facts, adjustment);
   }
   running.whole = true;
-  QStringList remarks = uncounted_.Sentences();
+  QStringList remarks = remarks_.Missed().Sentences();
   if (bid_.Former()) remarks.prepend(bid_.Mark());
   return remarks;
 }

@@ -8,6 +8,7 @@
 #include "records/roomfile.h"
 #include "records/roomline.h"
 #include "records/sheetnames.h"
+#include "reports/systemsahead.h"
 
 namespace tamo {
 
@@ -74,15 +75,23 @@ class Sheets {
 
 }  // namespace
 
-LineScanner LinesOf(const TakeoffSheet& sheet) {
-  return sheet.kind == SheetKind::Room ? ScanRoom(sheet.text).lines : ScanArea(sheet.text);
+LineScanner LinesOf(SheetKind kind, QStringView text) {
+  return kind == SheetKind::Room ? ScanRoom(text).lines : ScanArea(text);
 }
 
 // The files of the next sheets are read meanwhile.
-void WalkSheets(const ReportSource& source, const std::function<int(const TakeoffSheet&)>& each) {
+void WalkSheets(const ReportSource& source, const std::function<int(const TakeoffSheet&)>& each,
+                SystemsAhead* systems) {
   const Sheets sheets(source);
   const size_t all = sheets.Count();
-  TextsAhead texts(source.files, all, [&sheets](size_t at) { return sheets.PathOf(at); });
+  TextsAhead::Seen seen;
+  if (systems != nullptr) {
+    seen = [&](size_t at, const QString& text, const std::atomic<bool>& stopped) {
+      systems->Look(LinesOf(sheets.KindOf(at), text), stopped);
+    };
+  }
+  TextsAhead texts(
+      source.files, all, [&sheets](size_t at) { return sheets.PathOf(at); }, {}, seen);
   for (size_t at = 0; at < all; ++at) {
     TakeoffSheet sheet{sheets.KindOf(at), at, all, sheets.NameOf(at), {}};
     const int error = texts.Next(sheet.text);
@@ -111,14 +120,15 @@ int WalkLines(const ReportSource& source, const TakeoffSheet& sheet,
   return unread;
 }
 
-void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor) {
-  WalkSheets(source, [&](const TakeoffSheet& sheet) {
+void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor, SystemsAhead* systems) {
+  const auto visit = [&](const TakeoffSheet& sheet) {
     visitor.BeginSheet(sheet.kind, sheet.name);
     const int unread =
         WalkLines(source, sheet, [&](QStringView line) { visitor.Line(sheet.kind, line); });
     visitor.EndSheet(sheet.kind);
     return unread;
-  });
+  };
+  WalkSheets(source, visit, systems);
 }
 
 }  // namespace tamo

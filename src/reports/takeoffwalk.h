@@ -10,6 +10,8 @@
 
 namespace tamo {
 
+class SystemsAhead;
+
 enum class SheetKind { Room, Area };
 
 // Who looks at the whole takeoff of a project, sheet by sheet.
@@ -22,8 +24,10 @@ class TakeoffVisitor {
 };
 
 // Every line of every room, then of every area, in their order. No rooms are visited when the list
-// of rooms can't be read. Tells its progress, also within a long sheet.
-void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor);
+// of rooms can't be read. Tells its progress, also within a long sheet. `systems`, when there are
+// any, look at the sheets that are read ahead.
+void WalkTakeoff(const ReportSource& source, TakeoffVisitor& visitor,
+                 SystemsAhead* systems = nullptr);
 
 // A sheet as its file holds it.
 struct TakeoffSheet {
@@ -33,11 +37,15 @@ struct TakeoffSheet {
   QString name;
   QString text;  // empty when it can't be read, which the source is told
 };
-LineScanner LinesOf(const TakeoffSheet& sheet);
+LineScanner LinesOf(SheetKind kind, QStringView text);
+inline LineScanner LinesOf(const TakeoffSheet& sheet) {
+  return LinesOf(sheet.kind, sheet.text);
+}
 
 // The same by whole sheets. `each` returns how many lines of its sheet lack a quantity, and tells
 // its progress within a long one.
-void WalkSheets(const ReportSource& source, const std::function<int(const TakeoffSheet&)>& each);
+void WalkSheets(const ReportSource& source, const std::function<int(const TakeoffSheet&)>& each,
+                SystemsAhead* systems = nullptr);
 
 // `each` for every line of a sheet; returns how many of them lack a quantity.
 int WalkLines(const ReportSource& source, const TakeoffSheet& sheet,

@@ -36,7 +36,7 @@ bool PutArea(const AreaFields& fields, const QString& squareFeet, QString& words
   const bool areaStands = GroupedValue(fields.height.Text()) == 1;
   const double stands = areaStands ? GroupedValue(fields.length.Text()) : 0;
   fields.height.SetText(QStringLiteral("1"));
-  const bool off = GroupedValue(entry) < 0 && stands > 0;
+  const bool off = GroupedValue(entry) < 0 && stands != 0;
   fields.length.SetText(off ? Tenths(stands + GroupedValue(entry)) : entry);
   return true;
 }

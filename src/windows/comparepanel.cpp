@@ -5,11 +5,17 @@ namespace {
 
 constexpr int kWidth = 38 * kGrid;
 
-// The colours of the sheet, each word in its own.
+// The colours of the sheet, each word in its own, on white as on paper: there they are read in the
+// dark look, too.
 QLabel* Legend() {
-  auto* legend = new QLabel(
-      QStringLiteral("<span style='color:#c80000'>red: gone</span> &nbsp; "
-                     "<span style='color:#007a1e'>green: new</span> &nbsp; grey: stayed"));
+  QString words;
+  for (const auto& [colour, word] :
+       {std::pair("#c80000", "red: gone"), std::pair("#007a1e", "green: new"),
+        std::pair("#606060", "grey: stayed")})
+    words +=
+        QStringLiteral("<span style='background-color:#ffffff;color:%1'>&nbsp;%2&nbsp;</span> ")
+            .arg(QLatin1String(colour), QLatin1String(word));
+  auto* legend = new QLabel(words);
   legend->setObjectName(QStringLiteral("CompareLegend"));
   legend->setFont(PromptFont());
   return legend;

@@ -80,3 +80,39 @@ TEST(CarriedMarks, AFlagIsNotPutTwice) {
   old[0].label += " - check: the drawing changed here";
   EXPECT_EQ(CarryMarks(old, Known({place}), kSheet, {}).marks[0].label, old[0].label);
 }
+
+TEST(CarriedMarks, ACircleKeepsItsNumberAndSaysInItsTitleThatTheDrawingChanged) {
+  const ChangedPlace place = {ChangedPlace::Kind::Gone, {0, 0, 600, 700}, "Lines gone"};
+  std::vector<Mark> old = {Drawn(Mark::Kind::Grouped, {{100, 100}}, "tamo-1-a"),
+                           Drawn(Mark::Kind::Circle, {{200, 100}}, "tamo-2-a"),
+                           Drawn(Mark::Kind::Legend, {{300, 100}}, "tamo-3-a")};
+  old[0].group = "Lights";
+  old[0].label = "Lights 12";
+  old[0].title = QString(kLongestTitle, 'x');
+  old[1].label.clear();
+  old[2].label = "Totals of the plan\nPaint\t10.0 SF";
+  const CarriedMarks carried = CarryMarks(old, Known({place}), kSheet, {});
+  ASSERT_EQ(carried.marks.size(), 3U);
+  EXPECT_EQ(carried.marks[0].label, "Lights 12");
+  EXPECT_TRUE(carried.marks[0].title.endsWith("xx - check: the drawing changed here"));
+  EXPECT_EQ(carried.marks[0].title.size(), kLongestTitle);
+  EXPECT_EQ(carried.marks[1].label, "");
+  EXPECT_EQ(carried.marks[1].title, "Check: the drawing changed here");
+  EXPECT_EQ(carried.marks[2], [&] {
+    Mark legend = old[2];
+    legend.page = 5;
+    legend.points = carried.marks[2].points;
+    return legend;
+  }()) << "a legend is out of date at most";
+  EXPECT_TRUE(SaysDrawingChanged(carried.marks[0]));
+  EXPECT_TRUE(SaysDrawingChanged(carried.marks[1]));
+  Mark looked = carried.marks[1];
+  DropDrawingChanged(looked);
+  EXPECT_EQ(looked.title, "");
+}
+
+TEST(CarriedMarks, TotalsOfGroupsAreMadeAnewAndNotCarried) {
+  const std::vector<Mark> old = {Drawn(Mark::Kind::Total, {{100, 100}}, "tamo-total-3-aa"),
+                                 Drawn(Mark::Kind::Circle, {{100, 100}}, "tamo-1-a")};
+  EXPECT_EQ(CarryMarks(old, Known(), kSheet, {}).marks.size(), 1U);
+}

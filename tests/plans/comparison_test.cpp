@@ -337,3 +337,25 @@ TEST_F(Comparing, HugelyDifferentPapersEndInWords) {
   Compare();
   EXPECT_NE(Words(), "");
 }
+
+TEST_F(Comparing, WhenTheOtherPlanIsTheNewerOneTheWordsTurnRound) {
+  Open({Page(Floor("A-101", "9'-0\"", "50 500 m 80 500 l S\n"))}, {Page(Floor("A-101", "8'-0\""))});
+  Compare();
+  draw->Compared().Swap();
+  QStringList words;
+  for (const ChangedPlace& place : Known().places) words += draw->Compared().WordsOf(place);
+  EXPECT_EQ(words, QStringList({"Lines gone", "9'-0\" became 8'-0\""}));
+  draw->Key({PlanKey::Layer, false, false});
+  EXPECT_NE(Words().find("The new sheet alone"), std::string::npos) << Words();
+  draw->Compared().Swap();
+  EXPECT_NE(Words().find("The old sheet alone"), std::string::npos) << Words();
+}
+
+TEST_F(Comparing, SheetsOfAMonstrousSizeTakeNoMonstrousMemory) {
+  const QByteArray page =
+      "1000 w 100000 100000 m 900000 100000 l S 100000 200000 m 200000 900000 l S";
+  const QByteArray boxes = "/MediaBox[0 0 2000000 2000000]";
+  Open({Page(page + " 500000 500000 m 600000 600000 l S", boxes)}, {Page(page, boxes)});
+  Compare();
+  EXPECT_TRUE(Known().looked) << Words();
+}

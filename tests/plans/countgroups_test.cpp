@@ -213,3 +213,56 @@ TEST_F(CountingInGroups, HostileValuesAreHarmless) {
   Reopen(path);
   EXPECT_EQ(draw->Groups()[0].total, 3);
 }
+
+TEST_F(CountingInGroups, ANumberThatAnotherCircleHasByNowIsGivenAnew) {
+  OpenTwoPages();
+  Count("Lights", {{100, 100}, {150, 100}});
+  Mark off;
+  ASSERT_TRUE(draw->TakeOff(QString(draw->MarksAsDrawn()[0].name), off));
+  Count("Lights", {{200, 100}});
+  EXPECT_EQ(Labels(), QStringList({"Lights 2", "Lights 1"}));
+  ASSERT_TRUE(draw->PutBack(off));
+  EXPECT_EQ(Labels(), QStringList({"Lights 2", "Lights 1", "Lights 3"}));
+}
+
+TEST_F(CountingInGroups, MarksOfAnotherPlanComeWithNumbersOfTheirOwnAndAreNotCounted) {
+  OpenTwoPages();
+  int plain = 0;
+  draw->onCircleCountChanged = [&](int) { ++plain; };
+  Count("Lights", {{100, 100}});
+  told.clear();
+  Mark light = Circle("Lights", "Lights 1", 1, {300, 300});
+  light.name = MarkName(50, 1);
+  Mark circle;
+  circle.kind = Mark::Kind::Circle;
+  circle.points = {{200, 200}};
+  circle.name = MarkName(51, 1);
+  draw->TakeOver({light, circle, light});
+  EXPECT_EQ(Labels(), QStringList({"Lights 1", "Lights 2", ""}));
+  EXPECT_TRUE(told.empty()) << "no count goes to the takeoff";
+  EXPECT_EQ(plain, 0);
+  Count("Lights", {{400, 400}});
+  EXPECT_GT(MarkNumber(draw->MarksAsDrawn().back().name), 51) << "it was drawn later";
+}
+
+TEST_F(CountingInGroups, AGroupIsColouredAsOneStep) {
+  OpenTwoPages();
+  Count("Lights", {{100, 100}, {150, 100}});
+  Count("Fans", {{200, 100}});
+  ASSERT_TRUE(draw->ChooseGroup("lights"));
+  draw->RecolourGroup("no colour");
+  draw->RecolourGroup("000000175");
+  const auto colours = [this] {
+    QStringList all;
+    for (const Mark& mark : draw->MarksAsDrawn()) all += mark.colour;
+    return all;
+  };
+  const QString fans = colours()[2];
+  EXPECT_EQ(colours(), QStringList({"000000175", "000000175", fans}));
+  EXPECT_EQ(draw->GroupColour(), "000000175");
+  Count("Lights", {{300, 100}});
+  EXPECT_EQ(colours().back(), "000000175");
+  EXPECT_TRUE(draw->Undo());
+  EXPECT_TRUE(draw->Undo());
+  EXPECT_FALSE(colours().contains("000000175"));
+}

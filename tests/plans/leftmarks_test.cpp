@@ -105,5 +105,91 @@ TEST_F(LeftMarks, WithoutAProjectStayWithTheirPlan) {
   EXPECT_EQ(viewer.Marks().size(), 1U);
 }
 
+TEST_F(LeftMarks, NothingIsWrittenIntoAProjectThatIsOnlyRead) {
+  shared.ReadOnly = QStringLiteral("Another program has it.");
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  Pick("Jobs/b.pdf");
+  EXPECT_FALSE(disk.Exists(copyOfA));
+  Pick("Jobs/a.pdf");
+  EXPECT_EQ(viewer.Marks().size(), 1U) << "they stay with their plan";
+  // Nor when another project is in force by then, which may be written.
+  shared.JobID = QStringLiteral("00-2112003");
+  shared.ReadOnly.clear();
+  QDir().mkpath(Path("Tamo/Projects/00-2112003/Plans"));
+  Pick("Jobs/b.pdf");
+  EXPECT_FALSE(disk.Exists(copyOfA));
+  Pick("Jobs/b.pdf");
+  ost.SaveMarks();
+  EXPECT_FALSE(disk.Exists(copyOfA));
+}
+
+TEST_F(LeftMarks, AProjectThatBecameFreeIsWritten) {
+  shared.ReadOnly = QStringLiteral("Another program has it.");
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  shared.ReadOnly.clear();
+  ost.FollowMarks(1);
+  Pick("Jobs/b.pdf");
+  EXPECT_EQ(MarksIn(copyOfA), 1U);
+}
+
+TEST_F(LeftMarks, AChangeOfAMarkWritesThePlanAndNotTheRecord) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  viewer.PickTool(PlanTool::None);
+  viewer.Hand().Step(1);
+  viewer.Hand().Rename("North");
+  EXPECT_EQ(keeper.record.planLocation, copyOfA) << "the plan became the project's";
+  keeper.saves = 0;
+  viewer.Hand().Rename("South");
+  EXPECT_EQ(keeper.saves, 0) << "a locked project has nothing to complain of";
+  EXPECT_FALSE(viewer.HasUnsavedMarks());
+}
+
+// The project has a copy with marks, and somebody picks the plan that it was made from again.
+TEST_F(LeftMarks, ASaveOverACopyThatHasSomeKeepsThem) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  desk.Dispatch([this] { ost.SaveIt(); });
+  Pick("Jobs/b.pdf");
+  Pick("Jobs/a.pdf");
+  ASSERT_EQ(viewer.ShownPath(), Path("Jobs/a.pdf"));
+  Draw(120);
+  desk.Dispatch([this] { ost.SaveIt(); });
+  EXPECT_EQ(MarksIn(copyOfA), 2U);
+  EXPECT_EQ(viewer.Marks().size(), 2U);
+  EXPECT_EQ(ost.PlanLocation.Text(), copyOfA);
+  EXPECT_FALSE(viewer.HasUnsavedMarks());
+}
+
+TEST_F(LeftMarks, ThoseForACopyThatHasSomeWaitForTheDiskToo) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  desk.Dispatch([this] { ost.SaveIt(); });
+  Pick("Jobs/b.pdf");
+  Pick("Jobs/a.pdf");
+  Draw(120);
+  disk.SetFull(true);
+  Pick("Jobs/b.pdf");
+  EXPECT_TRUE(Waits(copyOfA)) << "it is said that they are not saved";
+  disk.SetFull(false);
+  EXPECT_TRUE(files.TryAgain());
+  EXPECT_EQ(MarksIn(copyOfA), 2U);
+}
+
+// A copy of another drawing of that name is no copy of this plan: it is replaced.
+TEST_F(LeftMarks, AnotherDrawingOfTheSameNameTakesItsPlace) {
+  Pick("Jobs/a.pdf");
+  Draw(100);
+  desk.Dispatch([this] { ost.SaveIt(); });
+  Pick("Jobs/b.pdf");
+  Put("Other/a.pdf", "%PDF-1.5 another drawing\n");
+  Pick("Other/a.pdf");
+  Draw(120);
+  desk.Dispatch([this] { ost.SaveIt(); });
+  EXPECT_EQ(MarksIn(copyOfA), 1U);
+}
+
 }  // namespace
 }  // namespace tamo::test

@@ -31,5 +31,33 @@ TEST(ReadableOnWhite, WhatCanBeReadStaysAsItIs) {
   }
 }
 
+TEST(MarkBounds, WhatAFileSaysIsBroughtToWhatAMarkCanBe) {
+  Mark mark;
+  for (const double width : {0.0, -1.0, 1e30, std::nan(""), HUGE_VAL}) {
+    mark.width = width;
+    BringToBounds(mark);
+    EXPECT_EQ(mark.width, 0.75) << width;
+  }
+  mark.width = 2.25;
+  mark.label = QString(1000000, 'x');
+  mark.title = QString(1000000, 'x');
+  mark.kept = QString(1000000, 'x');
+  BringToBounds(mark);
+  EXPECT_EQ(mark.width, 2.25);
+  EXPECT_EQ(mark.label.size(), kLongestMarkLabel);
+  EXPECT_EQ(mark.title.size(), kLongestTitle);
+  EXPECT_EQ(mark.kept, "");
+}
+
+TEST(MarkBounds, NoNumberIsWithoutEnd) {
+  Mark mark;
+  for (const char* label : {"nan feet", "inf feet", "-inf sq ft", "1e999 feet"}) {
+    mark.label = label;
+    EXPECT_EQ(ValueOfMark(mark), 0) << label;
+  }
+  EXPECT_EQ(MarkNumber("tamo-999999999-00000001"), 999999999);
+  EXPECT_EQ(MarkNumber("tamo-2147483647-00000001"), 0) << "no mark can be drawn after it";
+}
+
 }  // namespace
 }  // namespace tamo::test

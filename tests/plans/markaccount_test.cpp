@@ -182,6 +182,41 @@ TEST_F(Account, TenThousandMarksAreListedAtOnce) {
             "  1     Line       10.0 feet      Room 101, Paint: 8 X 10.0");
 }
 
+TEST_F(Account, LargeLinesAreToldApartToTheLastDigit) {
+  // 10.0 twice, with something else in between: the line only grew.
+  PutRoom("101", {RoomLine::Of("Paint", "Walls", "1000041", "SF").Text()});
+  MarkTie other = Tie("20.0", 1000011, 1000031);
+  other.entry = "20.0";
+  EXPECT_EQ(Flags({Line(1, Tie("10.0", 1000001, 1000011)), Line(2, other, "20.0 feet @ 1/4\"=1'"),
+                   Line(3, Tie("10.0", 1000031, 1000041))})
+                .join("|")
+                .toStdString(),
+            "||");
+}
+
+TEST_F(Account, AMarkCarriedIntoAChangedPlaceIsFlagged) {
+  Mark line;
+  line.points = {{0, 0}, {1, 1}};
+  line.label = "10.0 feet @ 1/4\"=1' - check: the drawing changed here";
+  EXPECT_EQ(Flags({line}).join("|"), "Carried over, and the drawing changed here");
+}
+
+TEST_F(Account, ManyLegendsAreHeldAgainstTheTotalsOnce) {
+  std::vector<Mark> marks;
+  for (int i = 0; i < 4000; ++i) {
+    marks.push_back(Line(i + 1, Tie("10.0", 0, 80)));
+    Mark legend;
+    legend.kind = Mark::Kind::Legend;
+    legend.points = {{0, 0}};
+    legend.label = "Totals of the plan";
+    marks.push_back(legend);
+  }
+  QElapsedTimer since;
+  since.start();
+  EXPECT_TRUE(Flags(marks)[1].contains("Out of date"));
+  EXPECT_LT(since.elapsed(), 2000);
+}
+
 TEST(MarkTotals, BySystemWithHeightsOnSheetAndPlan) {
   MarkTie tie = Account::Tie("10.0", 0, 80);
   Mark line = Account::Line(1, tie);

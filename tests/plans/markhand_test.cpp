@@ -290,6 +290,118 @@ TEST_F(ChosenMarks, HostileTextsOfAMarkAreCut) {
   EXPECT_TRUE(draw->Marks()[0].kept.isEmpty());
 }
 
+TEST_F(ChosenMarks, APlanReadAnewMayHaveTheMarkWithFewerPoints) {
+  const auto plan = [](const QByteArray& places) {
+    PdfOptions options;
+    options.more = {
+        "<</Type/Annot/Subtype/PolyLine/Rect[90 590 310 700]/Contents(5.0 feet)"
+        "/NM(tamo-000001-00000001)/Vertices[" +
+        places + "]>>"};
+    return MakePdf({{"/MediaBox[0 0 612 792]/Annots[5 0 R]", "q Q"}}, options);
+  };
+  Reopen(Write("a.pdf", plan("100 692 200 692 200 592 300 592")));
+  Listen();
+  Press(PlanKey::No);
+  for (int i = 0; i < 4; ++i) Press(PlanKey::NextSnap);
+  ASSERT_EQ(draw->Hand().Point(), 3);
+  // Another program takes two of its points away; a save reads what stands there now.
+  Write("a.pdf", plan("100 692 200 692"));
+  Mark other;
+  other.points = {{10, 10}, {20, 10}};
+  other.name = MarkName(7, 7);
+  ASSERT_TRUE(draw->PutBack(other));
+  ASSERT_EQ(draw->SaveAs(Path("a.pdf")), 0) << draw->Problem().toStdString();
+  const Mark* chosen = draw->Hand().Chosen();
+  ASSERT_NE(chosen, nullptr);
+  ASSERT_EQ(chosen->points.size(), 2U);
+  EXPECT_EQ(draw->Hand().Point(), -1);
+  Press(PlanKey::Right);
+  Press(PlanKey::NextSnap);
+  EXPECT_EQ(draw->Hand().Point(), 0);
+}
+
+TEST_F(ChosenMarks, AnotherPlanHasNoneChosen) {
+  Begin();
+  DrawLine({100, 100}, {280, 100});
+  ASSERT_EQ(draw->SaveAs(Path("b.pdf")), 0);
+  Press(PlanKey::No);
+  ASSERT_EQ(draw->OpenFile(Path("a.pdf"), ""), 0);
+  ASSERT_EQ(draw->OpenFile(Path("b.pdf"), ""), 0);
+  EXPECT_EQ(Chosen(), "none");
+}
+
+TEST_F(ChosenMarks, OnAnotherSheetItIsNeitherMovedNorRemovedByAKey) {
+  Begin();
+  DrawLine({100, 100}, {280, 100});
+  Press(PlanKey::No);
+  Press(PlanKey::NextSnap);
+  draw->TurnPage(2);
+  Press(PlanKey::Right);
+  EXPECT_EQ(draw->Marks()[0].points[0], (PagePoint{100, 100}));
+  EXPECT_EQ(draw->ViewValue(ViewPart::Horizontal), 36) << "the sheet in sight is scrolled";
+  Press(PlanKey::Delete);
+  EXPECT_EQ(draw->Marks().size(), 1U);
+  EXPECT_TRUE(told.contains("stands on sheet 1")) << told.toStdString();
+  draw->TurnPage(1);
+  Press(PlanKey::Delete);
+  EXPECT_EQ(draw->Marks().size(), 0U);
+}
+
+TEST_F(ChosenMarks, AStepOfTheArrowsJoinsNoStepThatWasTakenBackInBetween) {
+  Begin();
+  DrawLine({100, 100}, {280, 100});
+  Click({200, 100});
+  Drag({280, 100}, {262, 100});
+  Press(PlanKey::Right);
+  Press(PlanKey::Undo);
+  EXPECT_EQ(draw->Marks()[0].points[1].x, 262);
+  Press(PlanKey::Right);
+  Press(PlanKey::Undo);
+  EXPECT_EQ(draw->Marks()[0].points[1].x, 262) << "the drag is a step of its own";
+  // At the edge nothing is changed, so that nothing is joined either.
+  Drag({262, 100}, {612, 100});
+  Press(PlanKey::Right);
+  Press(PlanKey::Left);
+  Press(PlanKey::Undo);
+  EXPECT_EQ(draw->Marks()[0].points[1].x, 612);
+}
+
+TEST_F(ChosenMarks, WhatAnotherProgramDrewAskewIsStillNamedAndColoured) {
+  const QByteArray page = "/MediaBox[0 0 612 792]/Annots[5 0 R]";
+  PdfOptions options;
+  options.more = {
+      "<</Type/Annot/Subtype/Polygon/Rect[90 590 210 700]/NM(tamo-000001-00000001)/Subj(Area)"
+      "/Contents(5.0 sq ft)/Vertices[100 692 200 592 200 692 100 592]>>"};
+  Reopen(Write("a.pdf", MakePdf({{page, "q Q"}}, options)));
+  Listen();
+  Press(PlanKey::No);
+  draw->Hand().Rename("Lobby");
+  draw->Hand().Recolour("000000255");
+  EXPECT_EQ(draw->Marks()[0].title, "Lobby");
+  EXPECT_EQ(draw->Marks()[0].colour, "000000255");
+  Press(PlanKey::NextSnap);
+  Press(PlanKey::Up);
+  EXPECT_TRUE(told.contains("The mark stays as it was.")) << told.toStdString();
+}
+
+TEST_F(ChosenMarks, HostileWidthsAndLabelsAreBrought) {
+  const QByteArray page = "/MediaBox[0 0 612 792]/Annots[5 0 R 6 0 R]";
+  const auto mark = [](int number, const QByteArray& more) {
+    return "<</Type/Annot/Subtype/Polygon/Subj(Cut-out)/Rect[90 690 300 700]"
+           "/Vertices[100 692 200 592 200 692]/NM(tamo-00000" +
+           QByteArray::number(number) + "-00000001)" + more + ">>";
+  };
+  PdfOptions options;
+  options.more = {mark(1, "/BS<</W 0>>/Contents(" + QByteArray(1000000, 'x') + ")"),
+                  mark(2, "/BS<</W 99999999999999999999>>/Contents(nan feet)")};
+  Reopen(Write("a.pdf", MakePdf({{page, "q Q"}}, options)));
+  ASSERT_EQ(draw->Marks().size(), 2U);
+  EXPECT_EQ(draw->Marks()[1].label.size(), kLongestMarkLabel);
+  EXPECT_EQ(draw->Marks()[1].width, 0.75);
+  EXPECT_EQ(draw->Marks()[0].width, 0.75);
+  EXPECT_FALSE(draw->HasUnsavedMarks());
+}
+
 TEST_F(ChosenMarks, OnEveryTurnOfTheSheet) {
   for (const char* turn : {"", "/Rotate 90", "/Rotate 180/UserUnit 2", "/Rotate 270"}) {
     Begin(QByteArray("/MediaBox[0 0 612 792]") + turn);

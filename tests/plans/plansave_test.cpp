@@ -233,8 +233,14 @@ TEST_F(PlanSave, ADamagedPlanIsRepairedIntoItsMarkedCopy) {
   EXPECT_EQ(draw->PageCount(), 2);
   draw->SetPage(2);
   draw->DrawLine({100, 120}, {200, 120});
+  const std::weak_ptr<EnginePlan> damaged = draw->OpenedPlan();
+  std::shared_ptr<EnginePlan> told;
+  draw->onPageChanged = [&] { told = draw->OpenedPlan(); };
   ASSERT_EQ(draw->SaveAs(marked), 0) << draw->Problem().toStdString();
   EXPECT_EQ(draw->Page(), 2);
+  EXPECT_EQ(told, draw->OpenedPlan()) << "whoever reads of the plan has to take the repaired one";
+  EXPECT_NE(damaged.lock(), draw->OpenedPlan());
+  draw->onPageChanged = nullptr;
   ExpectValid(marked);
   const QByteArray before = Read(marked);
   draw->DrawLine({100, 140}, {200, 140});

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 using namespace tamo;
 
 namespace {
@@ -179,4 +181,14 @@ TEST(SheetNumber, LabelsAndBookmarks) {
 TEST(SheetNumber, WaysToWriteOne) {
   for (const char* text : {"A-601", "a601", "A 601", "a.601"})
     EXPECT_EQ(PlainSheetNumber(text), "A601");
+}
+
+// More labels than any title block has name nothing, and take no time.
+TEST(SheetNumber, ASheetFullOfLabels) {
+  std::vector<Placed> block;
+  for (int i = 0; i < 60000; ++i)
+    block.push_back({i % 2 == 0 ? "SHEET NO." : "SHEET TITLE", 2300.0 + i % 250, 900.0 + i / 80});
+  const auto began = std::chrono::steady_clock::now();
+  EXPECT_EQ(SheetTitleOf(Lines(block), kSheet), SheetTitle());
+  EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(5));
 }

@@ -175,5 +175,35 @@ TEST(ScaleFor, UsualScalesAndOthers) {
   EXPECT_NEAR(FeetPerInch({"1", "50", QLatin1String(kMillimetreText)}), 1270, 1e-9);
 }
 
+TEST_F(SheetScalesTest, AScaleThatADimensionProvedStaysProvedWhenItComesBack) {
+  Choose("Eighth");
+  Measure();
+  Enter(ost.KnownDimension, "20");
+  Draw(180);
+  ASSERT_EQ(Note(), "");
+  for (const bool follows : {false, true}) {
+    Turn(2);
+    Choose("Twenty");
+    if (follows) desk.ClickInto(ost.FollowSheet);
+    Turn(1);
+    if (!follows) Click(ost.TakeScale);
+    EXPECT_EQ(Scale(), "1/8\" = 1'") << follows;
+    EXPECT_EQ(Note(), "") << follows;
+    EXPECT_FALSE(ost.TakeScale.Shown()) << follows;
+  }
+}
+
+TEST_F(SheetScalesTest, AScaleThatWasUsedHereIsNotCalledPrinted) {
+  Turn(4);
+  Choose("Quarter");
+  for (TextField* field : {&ost.Scale1, &ost.Scale2}) {
+    desk.UserFocus(*field);
+    field->SelectAll();
+    desk.PressKey(*field, Key::Named(Key::Name::Backspace));
+  }
+  EXPECT_EQ(Note(), "On this sheet 1/4\" = 1' was used; no scale is set now.");
+  EXPECT_TRUE(ost.TakeScale.Shown());
+}
+
 }  // namespace
 }  // namespace tamo::test

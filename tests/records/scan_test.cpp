@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <random>
+
+#include "common/textlines.h"
 #include "records/areafile.h"
 #include "records/itemline.h"
 #include "records/roomfile.h"
@@ -38,6 +42,20 @@ TEST(RoomScan, GivesTheLinesOfTheRoomThatIsCopied) {
   const QString text = QStringLiteral("8'\r\na\r\n\r\nb");
   EXPECT_EQ(RoomFileOf(text).lines, All(ScanRoom(text).lines));
   EXPECT_EQ(RoomFileOf(text).height, QStringLiteral("8'"));
+}
+
+TEST(LineScanner, GivesTheWholeLinesOfAnyText) {
+  std::mt19937 random(3);
+  const char16_t characters[] = {u'\r',     u'\n',     u'\n',     u'\t',    u'\x0e', u'\x0c',
+                                 u'\x01',   u' ',      u'a',      u'7',     u'é',    u'墙',
+                                 u'\x7fff', u'\x8000', u'\x800d', u'\xfffd'};
+  for (int i = 0; i < 20'000; ++i) {
+    QString text;
+    const unsigned kinds = 2 + random() % (std::size(characters) - 1);
+    for (unsigned size = random() % 40; size > 0; --size)
+      text += QChar(characters[random() % kinds]);
+    ASSERT_EQ(All(LineScanner(text)), WholeLines(text)) << i;
+  }
 }
 
 TEST(AreaScan, HasNoHeightAndKeepsItsCommas) {

@@ -4,7 +4,7 @@
 
 #include "common/failure.h"
 #include "reportbench.h"
-#include "reports/pricedsystem.h"
+#include "reports/systemshelf.h"
 #include "reports/takeoffwalk.h"
 
 namespace tamo::test {

@@ -6,6 +6,7 @@
 #include "common/numbers.h"
 #include "reports/linequantity.h"
 #include "reports/rollup.h"
+#include "reports/systemshelf.h"
 #include "reports/takeoffwalk.h"
 
 namespace tamo::test {

@@ -17,10 +17,11 @@ namespace {
 
 class Maker {
  public:
-  Maker(MemoryDisk& disk, std::mt19937& random) : disk_(disk), random_(random) {}
+  Maker(MemoryDisk& disk, std::mt19937& random, int sheets)
+      : disk_(disk), random_(random), sheets_(sheets) {}
 
   void Make() {
-    systems_ = Below(6) + 1;
+    systems_ = Below(6 + (sheets_ - 4) / 2) + 1;
     for (int i = 0; i < systems_; ++i) {
       if (Below(6) != 0) System(i);
     }
@@ -44,7 +45,7 @@ class Maker {
     static const char* const names[] = {
         "Wall A", "Twenty Character Sys",       "\xC3\xA9tage", "Base",
         "..",     "A Name Of Far More Than 20", "wall a",       "CON"};
-    return names[number % 8];
+    return number < 8 ? names[number] : "System " + QByteArray::number(number);
   }
 
   QByteArray Figure() {
@@ -95,7 +96,7 @@ class Maker {
   void Sheets(const QByteArray& list, const QByteArray& folder, const QByteArray& ending,
               bool room) {
     QList<QByteArray> names;
-    const int count = Below(4);
+    const int count = Below(sheets_);
     for (int i = 0; i < count; ++i) {
       const QByteArray name = Below(12) == 0 ? "../x" : "Sheet " + QByteArray::number(i);
       names << name << "True";
@@ -120,14 +121,15 @@ class Maker {
 
   MemoryDisk& disk_;
   std::mt19937& random_;
+  int sheets_;
   int systems_ = 0;
 };
 
 }  // namespace
 
-void FillWithRandomProject(MemoryDisk& disk, std::mt19937& random) {
+void FillWithRandomProject(MemoryDisk& disk, std::mt19937& random, int sheets) {
   disk.contents.clear();
-  Maker(disk, random).Make();
+  Maker(disk, random, sheets).Make();
 }
 
 }  // namespace tamo::test

@@ -24,6 +24,7 @@ class MemoryDisk : public RealDisk {
 
 // A project as no estimator would leave it: missing files, zero ratios, texts wider than their
 // columns, figures that are no numbers, names that are no file names. Below the folder "/p/".
-void FillWithRandomProject(MemoryDisk& disk, std::mt19937& random);
+// Less than `sheets` rooms and areas each, and a few systems more than a dozen for a large one.
+void FillWithRandomProject(MemoryDisk& disk, std::mt19937& random, int sheets = 4);
 
 }  // namespace tamo::test

@@ -57,5 +57,11 @@ TEST_F(MeasuredArea, ACutOutGoesOffTheAreaThatStands) {
   EXPECT_EQ(length.Text(), "-2.0") << "a length of 9 feet high is no area";
 }
 
+TEST_F(MeasuredArea, TwoCutOutsGoOffTheLineTogether) {
+  Put("SF", "-30.0");
+  EXPECT_TRUE(Put("SF", "-20.5"));
+  EXPECT_EQ(length.Text(), "-50.5");
+}
+
 }  // namespace
 }  // namespace tamo::test

@@ -66,6 +66,25 @@ TEST_F(PlanMarksTest, ListAndNameByF6AndF2) {
   Key(Qt::Key_Return);
   EXPECT_EQ(Hand().Chosen()->title.toStdString(), "w");
   EXPECT_EQ(Focus(), "OST.picPdfDraw");
+  // Escape leaves the name as it was, and the list.
+  Key(Qt::Key_F2);
+  Key(Qt::Key_X);
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Hand().Chosen()->title.toStdString(), "w");
+  EXPECT_EQ(Focus(), "OST.picPdfDraw");
+  Key(Qt::Key_F6);
+  Key(Qt::Key_F6);
+  EXPECT_EQ(Focus(), "OST.MarksList");
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Focus(), "OST.picPdfDraw");
+}
+
+TEST_F(PlanMarksTest, WithoutAChosenMarkF2SaysSoAndTheFocusStays) {
+  Key(Qt::Key_F2);
+  EXPECT_EQ(Focus(), "OST.picPdfDraw");
+  const auto* hint = dynamic_cast<Label*>(FormOf("OST").Find("ToolHint"));
+  ASSERT_NE(hint, nullptr);
+  EXPECT_TRUE(hint->Caption().startsWith("Choose a mark first")) << hint->Caption().toStdString();
 }
 
 TEST_F(PlanMarksTest, TheSheetStaysWhereItIsWhenWordsComeAndGo) {
