@@ -66,8 +66,8 @@ struct Viewer {
   Viewer() {
     draw->onPageChanged = [this] { draw->Compared().Follow(); };
     draw->OpenFile(Sheet(), QString());
-    draw->Look(Window(0, 0));
-    draw->WaitUntilSharp(kPatience);
+    draw->Pictures().Look(Window(0, 0));
+    draw->Pictures().WaitUntilSharp(kPatience);
     for (int i = 0; i < 200 && !engine.OneWaits(); ++i) QThread::msleep(20);
   }
 };
@@ -78,7 +78,8 @@ bool WaitForOverlay(Viewer& viewer, bool sharp) {
   while (Milliseconds(start) < kPatience) {
     viewer.draw->Compared().Jobs().Settle(0);  // takes the news that is there
     const bool shows = viewer.draw->Compared().Shows(1);
-    if (shows && (sharp ? viewer.draw->WaitUntilSharp(5) : viewer.draw->WaitForCoarse(5)))
+    if (shows && (sharp ? viewer.draw->Pictures().WaitUntilSharp(5)
+                        : viewer.draw->Pictures().WaitForCoarse(5)))
       return true;
     if (!shows) QThread::msleep(1);
   }
@@ -91,8 +92,8 @@ void PlainOpening(benchmark::State& state) {
     auto viewer = std::make_unique<Viewer>();
     state.ResumeTiming();
     viewer->draw->OpenFile(Before(), QString());
-    viewer->draw->Look(Window(0, 0));
-    viewer->draw->WaitForCoarse(kPatience);
+    viewer->draw->Pictures().Look(Window(0, 0));
+    viewer->draw->Pictures().WaitForCoarse(kPatience);
     state.PauseTiming();
     viewer.reset();
     state.ResumeTiming();
@@ -152,8 +153,8 @@ void Pan(benchmark::State& state, bool overlay) {
     const PlanView view = Window(step * 37 % 2000, step * 23 % 1500);
     ++step;
     const auto start = Clock::now();
-    viewer.draw->Look(view);
-    benchmark::DoNotOptimize(viewer.draw->PicturesFor(view));
+    viewer.draw->Pictures().Look(view);
+    benchmark::DoNotOptimize(viewer.draw->Pictures().PicturesFor(view));
     times.push_back(Milliseconds(start));
   }
   state.counters["p99_ms"] = bench::Part(times, .99);
@@ -179,8 +180,8 @@ void SharpView(benchmark::State& state, bool overlay) {
   for (auto _ : state) {
     PlanView view = Window(1000, 1000);
     view.pixelsPerPoint += ++round * 0.0002;
-    viewer.draw->Look(view);
-    if (!viewer.draw->WaitUntilSharp(kPatience)) state.SkipWithError("not sharp");
+    viewer.draw->Pictures().Look(view);
+    if (!viewer.draw->Pictures().WaitUntilSharp(kPatience)) state.SkipWithError("not sharp");
   }
 }
 BENCHMARK_CAPTURE(SharpView, plain, false)->UseRealTime()->Unit(benchmark::kMillisecond);

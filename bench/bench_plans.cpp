@@ -88,8 +88,9 @@ void OpenToCoarse(benchmark::State& state, const char* plan) {
     auto viewer = std::make_unique<Viewer>();
     state.ResumeTiming();
     viewer->draw->OpenFile(path, QString());
-    viewer->draw->Look(Window(0, 0));
-    if (!viewer->draw->WaitForCoarse(kPatience)) state.SkipWithError("no coarse picture");
+    viewer->draw->Pictures().Look(Window(0, 0));
+    if (!viewer->draw->Pictures().WaitForCoarse(kPatience))
+      state.SkipWithError("no coarse picture");
     state.PauseTiming();
     viewer.reset();
     state.ResumeTiming();
@@ -109,15 +110,15 @@ BENCHMARK_CAPTURE(OpenToCoarse, set, "set.pdf")
 void SharpView(benchmark::State& state) {
   Viewer viewer;
   viewer.draw->OpenFile(PlanPath("sheet.pdf"), QString());
-  viewer.draw->Look(Window(0, 0));
-  viewer.draw->WaitUntilSharp(kPatience);
+  viewer.draw->Pictures().Look(Window(0, 0));
+  viewer.draw->Pictures().WaitUntilSharp(kPatience);
   int round = 0;
   for (auto _ : state) {
     ++round;
     PlanView view = Window(1000, 1000);
     view.pixelsPerPoint += round * 0.0002;  // another zoom: other tiles
-    viewer.draw->Look(view);
-    if (!viewer.draw->WaitUntilSharp(kPatience)) state.SkipWithError("not sharp");
+    viewer.draw->Pictures().Look(view);
+    if (!viewer.draw->Pictures().WaitUntilSharp(kPatience)) state.SkipWithError("not sharp");
   }
   state.counters["peakMB"] = PeakMegabytes();
 }
@@ -135,8 +136,8 @@ void Thumbnails(benchmark::State& state) {
   for (auto _ : state) {
     Viewer viewer;
     viewer.draw->OpenFile(path, QString());
-    for (int page = 1; page <= 100; ++page) viewer.draw->Thumbnail(page, 160);
-    if (!viewer.draw->WaitUntilSharp(kPatience)) state.SkipWithError("no thumbnails");
+    for (int page = 1; page <= 100; ++page) viewer.draw->Pictures().Thumbnail(page, 160);
+    if (!viewer.draw->Pictures().WaitUntilSharp(kPatience)) state.SkipWithError("no thumbnails");
   }
   state.counters["peakMB"] = PeakMegabytes();
 }
@@ -162,8 +163,8 @@ void PanAndZoom(benchmark::State& state) {
     ++step;
     QElapsedTimer clock;
     clock.start();
-    viewer.draw->Look(view);
-    benchmark::DoNotOptimize(viewer.draw->PicturesFor(view));
+    viewer.draw->Pictures().Look(view);
+    benchmark::DoNotOptimize(viewer.draw->Pictures().PicturesFor(view));
     longest = std::max(longest, static_cast<double>(clock.nsecsElapsed()) / 1e6);
   }
   state.counters["longest_ms"] = longest;

@@ -65,7 +65,8 @@ class Watch {
 
 void UntilSharp(tamo::PdfDraw& viewer) {
   QElapsedTimer clock;
-  for (clock.start(); clock.elapsed() < 4000 && !viewer.WaitUntilSharp(0);) Watch::Settle(10);
+  for (clock.start(); clock.elapsed() < 4000 && !viewer.Pictures().WaitUntilSharp(0);)
+    Watch::Settle(10);
 }
 
 void LookAt(tamo::Program& program, const QString& path, const QString& copy, Watch& watch) {
@@ -110,7 +111,7 @@ int main(int argc, char** argv) {
   }
   QTemporaryDir home;
   tamo::bench::StartedProgram started(QString::fromLocal8Bit(argv[1]), home.path());
-  started.GetProgram().Viewer().SetPatience(6);
+  started.GetProgram().Viewer().Patience().Set(6);
   Watch watch;
   double longest = 0;
   int count = 0;

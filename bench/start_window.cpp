@@ -32,7 +32,7 @@ int TellOfPlan(tamo::Program& program, const QString& plan) {
   waited.start();
   program.OpenPlan(plan);
   tamo::PdfDraw& viewer = program.Viewer();
-  while (!first.since.isValid() || !viewer.WaitForCoarse(0) || viewer.PageCount() < 2) {
+  while (!first.since.isValid() || !viewer.Pictures().WaitForCoarse(0) || viewer.PageCount() < 2) {
     QApplication::processEvents(QEventLoop::AllEvents, 1);
     if (waited.elapsed() > 10'000) return 4;
   }

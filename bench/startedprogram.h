@@ -39,8 +39,8 @@ class StartedProgram {
         files_(disk_),
         viewer_(files_, engine_),
         program_(platform_, viewer_),
-        windows_(program_, &viewer_, home + QStringLiteral("/windows.ini")) {
-    viewer_.SetPatience(6, 0);
+        windows_(program_, &viewer_.Pictures(), home + QStringLiteral("/windows.ini")) {
+    viewer_.Patience().Set(6, 0);
     disk_.MakeFolder(platform_.configFolder);
     windows_.beforeWindow = beforeWindow;
     program_.Start();

@@ -146,12 +146,12 @@ int main(int argc, char** argv) {
   tamo::Files planFiles(disk);
   tamo::WorkerEngine engine;
   tamo::PdfDraw viewer(planFiles, engine);
-  viewer.SetPatience(kPatience, 0);
+  viewer.Patience().Set(kPatience, 0);
   const tamo::Tesseract recogniser;
   tamo::Program program(platform, viewer);
   program.ReadPictures(std::make_shared<const tamo::SheetPictures>(recogniser));
   tamo::ChosenLook look(program);
-  tamo::WindowKeeper windows(program, &viewer,
+  tamo::WindowKeeper windows(program, &viewer.Pictures(),
                              config + tamo::PlatformSeparator() + QStringLiteral("windows.ini"));
   windows.beforeWindow = [&fonts] { fonts.Wait(); };
   printer.company = [&program] { return program.CompanyName(); };

@@ -68,8 +68,7 @@ bool MarkTouches(const Mark& mark, const PageBox& box) {
     PageLine line = {mark.points[i], mark.points[(i + 1) % mark.points.size()]};
     if (CutLine(line, box)) return true;
   }
-  return IsOutline(mark.kind) &&
-         Surrounds(mark.points, {(box.left + box.right) / 2, (box.top + box.bottom) / 2});
+  return IsOutline(mark.kind) && Surrounds(mark.points, box.Middle());
 }
 
 bool SaysDrawingChanged(const Mark& mark) {

@@ -192,7 +192,8 @@ void Comparison::PicturesCame() {
                                "plans is damaged or needs too much time or memory.")
                     .arg(page_));
   }
-  if (viewer_.onPicturesChanged) viewer_.onPicturesChanged();
+  const auto& changed = viewer_.Pictures().onPicturesChanged;
+  if (changed) changed();
 }
 
 void Comparison::StepPair(int by) {

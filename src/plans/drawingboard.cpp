@@ -131,7 +131,7 @@ void DrawingBoard::PickTool(PlanTool tool) {
   DropWork();
   if (tool != PlanTool::None && !MayMark()) tool = PlanTool::None;
   if (tool == PlanTool::Grouping && Group().isEmpty()) ChooseGroup(QStringLiteral("Group 1"));
-  if (tool != PlanTool::None) ToolComes();
+  if (tool != PlanTool::None) Free().LetGo();
   Raise(onBeforeModeChange);
   tool_ = tool;
   Raise(onModeChanged, tool);
@@ -144,7 +144,7 @@ void DrawingBoard::Press(PagePoint at, bool shift) {
   if (pointNext_) return Raise(onPointGiven, at);
   Raise(onMousePressed);
   if (box_.Asked()) return box_.Begin(at);
-  if (tool_ == PlanTool::None) return PressFree(at);
+  if (tool_ == PlanTool::None) return Free().Press(at);
   if (!MayMark()) return PickTool(PlanTool::None);
   if (tool_ == PlanTool::Grouping) AddToGroup({at});
   if (tool_ == PlanTool::Counting) AddMark(NewMark(Mark::Kind::Circle, {at}));
@@ -168,7 +168,7 @@ void DrawingBoard::Move(PagePoint at, bool shift) {
   } else if (tool_ != PlanTool::None || pointNext_) {
     Repaint();
   } else {
-    MoveFree(at, shift);
+    Free().Move(at, shift);
   }
 }
 
@@ -176,7 +176,7 @@ void DrawingBoard::Release(PagePoint at, bool shift) {
   if (!IsPlace(at)) return;
   if (box_.Growing()) return box_.End(Page(), at);
   if (OutlineActive()) return ReleaseOutline(at);
-  if (tool_ == PlanTool::None) return ReleaseFree(at, shift);
+  if (tool_ == PlanTool::None) return Free().Release(at, shift);
   if (line_ == LineState::None) return;
   work_.to = LineEnd(at, shift);
   if (line_ == LineState::Dragging && Distance(work_.from, work_.to) <= kClickReach) {
@@ -275,7 +275,7 @@ void DrawingBoard::PressSpace(bool shift) {
 
 void DrawingBoard::Key(const PlanStroke& stroke) {
   if (TakeOverlayKey(stroke)) return;
-  if (TakeOutlineKey(stroke.key) || TakeMarkKey(stroke) || TakeSnapKey(stroke.key)) return;
+  if (TakeOutlineKey(stroke.key) || TakeHelperKey(stroke)) return;
   switch (stroke.key) {
     case PlanKey::Left:
     case PlanKey::Right:

@@ -3,6 +3,7 @@
 #include <QString>
 #include <optional>
 
+#include "plans/freepointer.h"
 #include "plans/outlineboard.h"
 #include "plans/plankey.h"
 #include "plans/sheetbox.h"
@@ -79,14 +80,10 @@ class DrawingBoard : public OutlineBoard {
   void LeavePage() override { DropWork(); }
   // True when the key was one of a plan that is laid over this one.
   virtual bool TakeOverlayKey(const PlanStroke& /*stroke*/) { return false; }
-  // True when the key was one of snapping.
-  virtual bool TakeSnapKey(PlanKey /*key*/) { return false; }
-  // The pointer and the keys while no tool is in hand. True when the key was taken.
-  virtual bool TakeMarkKey(const PlanStroke& /*stroke*/) { return false; }
-  virtual void PressFree(PagePoint /*at*/) {}
-  virtual void MoveFree(PagePoint /*at*/, bool /*shift*/) {}
-  virtual void ReleaseFree(PagePoint /*at*/, bool /*shift*/) {}
-  virtual void ToolComes() {}
+  // True when the key was one of those who help on the board, and not the outline's in work.
+  virtual bool TakeHelperKey(const PlanStroke& /*stroke*/) { return false; }
+  // What the pointer does while no tool is in hand.
+  virtual FreePointer& Free() = 0;
   // Whether this plan may be marked; asks the user where it has to be asked.
   virtual bool MayMark() { return true; }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "common/failure.h"
+
 namespace tamo {
 namespace {
 
@@ -130,6 +132,14 @@ QByteArray ReadPart(const FileReader& file, qint64 offset, qint64 count) {
   if (file.ReadAt(offset, bytes.data(), count, got) != 0) return {};
   bytes.truncate(static_cast<qsizetype>(got));
   return bytes;
+}
+
+void CutTornTail(Disk& disk, const QString& path, qint64 whole) {
+  int handle = -1;
+  if (!disk.CanWrite(path) || disk.OpenAtEnd(path, handle) != kNoError) return;
+  disk.Truncate(handle, whole);
+  disk.Sync(handle);
+  disk.Close(handle);
 }
 
 FileTail ReadTail(const FileReader& file) {

@@ -24,6 +24,10 @@ struct FileTail {
 // cut.
 FileTail ReadTail(const FileReader& file);
 
+// Cuts a torn addition off the file at `path`, as far as it may be written. What fails is tried
+// again when the plan is next opened.
+void CutTornTail(Disk& disk, const QString& path, qint64 whole);
+
 // Ends an addition: the sum comment, the startxref lines. `addition` is everything from the line
 // end before kAdditionHead, `start` its place in the file, `xref` the place of its cross-reference
 // part.

@@ -31,7 +31,7 @@ std::vector<SeenLetter> LettersOf(const PageContent& content, const SheetFit& fi
       const QChar letter = piece.text.at(qsizetype(i));
       if (letter.isSpace()) continue;
       const PageBox& box = piece.places[i].box;
-      const PagePoint middle = {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+      const PagePoint middle = box.Middle();
       letters.push_back({letter.unicode(), fit.To(middle), piece.size * fit.Size()});
     }
   }

@@ -1,8 +1,8 @@
 #include "plans/likesearch.h"
 
-#include <chrono>
-#include <thread>
 #include <utility>
+
+#include "plans/waituntil.h"
 
 namespace tamo {
 
@@ -48,12 +48,7 @@ bool LikeSearch::Take(LikesFound& found) {
 }
 
 bool LikeSearch::Wait(int milliseconds) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-  while (Busy()) {
-    if (std::chrono::steady_clock::now() >= end) return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  }
-  return true;
+  return WaitUntil(milliseconds, [this] { return !Busy(); });
 }
 
 }  // namespace tamo

@@ -36,7 +36,7 @@ bool Same(const LikeStroke& a, const LikeStroke& b) {
 // The strokes wholly in the box, what is drawn twice once.
 std::vector<LikeStroke> StrokesIn(const LikeSheet& sheet, const PageBox& box) {
   std::vector<LikeStroke> found;
-  const PagePoint middle = {(box.left + box.right) / 2, (box.top + box.bottom) / 2};
+  const PagePoint middle = box.Middle();
   const double reach = std::max(box.Width(), box.Height()) / 2;
   sheet.strokes.Near(middle, reach, [&](uint32_t number) {
     const LikeStroke& stroke = sheet.strokes.Strokes()[number];
@@ -154,7 +154,7 @@ LikeShape ShapeInBox(const LikeSheet& sheet, const PageBox& box) {
   }
   shape.hull = HullOf(std::move(places));
   const PageBox around = BoxAround(shape.hull);
-  shape.middle = {(around.left + around.right) / 2, (around.top + around.bottom) / 2};
+  shape.middle = around.Middle();
   const double width = WidthAcross(shape.hull, shape.size);
   shape.tolerance = std::clamp(0.02 * shape.size, kLeastTolerance, kMostTolerance);
   shape.problem = ProblemOf(shape, width);

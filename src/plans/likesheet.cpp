@@ -12,8 +12,7 @@ std::vector<LikeLetter> LettersOf(const PageContent& content) {
     for (qsizetype i = 0; i < placed; ++i) {
       const PageBox& box = piece.places[static_cast<size_t>(i)].box;
       if (piece.text[i].isSpace()) continue;
-      letters.push_back(
-          {{(box.left + box.right) / 2, (box.top + box.bottom) / 2}, piece.text[i].unicode()});
+      letters.push_back({box.Middle(), piece.text[i].unicode()});
     }
   }
   std::stable_sort(letters.begin(), letters.end(),

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <vector>
 
-#include "plans/pagecontent.h"
+#include "plans/linecells.h"
 
 namespace tamo {
 
@@ -19,18 +18,8 @@ class LineGrid {
   const std::vector<PageLine>& Lines() const { return lines_; }
 
  private:
-  template <typename Visit>
-  void CellsOf(const PageLine& line, Visit visit) const;
-  int Column(double x) const;
-  int Row(double y) const;
-
   std::vector<PageLine> lines_;
-  PageBox box_;
-  double cell_ = 8;  // points
-  int columns_ = 1;
-  int rows_ = 1;
-  std::vector<uint32_t> begins_;  // of each cell in items_, and the end
-  std::vector<uint32_t> items_;   // numbers of lines
+  LineCells cells_;
 };
 
 // Places along the lines of a sheet, evenly by length, with the direction of the line there.

@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "plans/freepointer.h"
 #include "plans/mark.h"
 #include "plans/plankey.h"
 
@@ -15,7 +16,7 @@ class PdfDraw;
 // The mark that is chosen on the sheets, to be changed: by the pointer while no tool is in hand, or
 // by keys. Its points are moved, it is named, coloured or taken away. Only marks of this program
 // can be chosen. Each change is one of the viewer's steps and raises onMarkEdited.
-class MarkHand {
+class MarkHand : public FreePointer {
  public:
   explicit MarkHand(PdfDraw& viewer) : viewer_(viewer) {}
 
@@ -24,7 +25,7 @@ class MarkHand {
   int Point() const;  // the one in hand; -1 for none
   // Turns to its sheet. False when there is no such mark, or something is being drawn.
   bool Choose(const QString& name);
-  void LetGo();
+  void LetGo() override;
   void Forget();  // another plan comes up; nothing is told
   // These marks are shown as well, until the hand lets go.
   void Show(const std::vector<QString>& names);
@@ -34,9 +35,9 @@ class MarkHand {
 
   // With no tool in hand. A press on a point of the chosen mark takes hold of it; a click elsewhere
   // chooses the mark there, again there the one below it, or none.
-  void Press(PagePoint at);
-  void Move(PagePoint at, bool shift);
-  void Release(PagePoint at, bool shift);
+  void Press(PagePoint at) override;
+  void Move(PagePoint at, bool shift) override;
+  void Release(PagePoint at, bool shift) override;
   bool Holds() const { return held_.has_value(); }
   void Pulled() { pressed_.reset(); }  // the press has become a pull at the sheet
   // The mark as it would stand where the pointer has taken its point.

@@ -23,6 +23,7 @@ struct PageBox {
 
   double Width() const { return right - left; }
   double Height() const { return bottom - top; }
+  PagePoint Middle() const { return {(left + right) / 2, (top + bottom) / 2}; }
   bool Empty() const { return right <= left || bottom <= top; }
   PageBox Cut(const PageBox& other) const;
   void Take(PagePoint at);  // grows so that it holds the place; begin with NoBox()

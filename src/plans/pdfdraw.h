@@ -1,22 +1,23 @@
 #pragma once
 
-#include <QByteArray>
+#include <QTimer>
 #include <memory>
-#include <optional>
+#include <vector>
 
 #include "common/files.h"
 #include "plans/drawingboard.h"
 #include "plans/markhand.h"
-#include "plans/planengine.h"
-#include "plans/planpictures.h"
+#include "plans/newspost.h"
+#include "plans/openingpatience.h"
+#include "plans/openplan.h"
+#include "plans/plansaver.h"
 #include "plans/samesymbols.h"
+#include "plans/shownpictures.h"
 #include "plans/snappointer.h"
 
 namespace tamo {
 
 class Comparison;
-class PlanPainter;
-class Replacement;
 
 // The plan viewer: shows one PDF at a time, pages and zooms it, marks and measures it, and saves
 // the marks as annotations inside the PDF.
@@ -28,7 +29,7 @@ class Replacement;
 //
 // Failures are numbers, as for every file: 0 done, 53 file not found, 76 path not found, 75 access
 // denied, 61 disk full, 57 anything else (a damaged or locked PDF); Problem() says it in words.
-class PdfDraw : public DrawingBoard, public PlanPictures {
+class PdfDraw : public DrawingBoard {
  public:
   // Both outlive the viewer.
   PdfDraw(Files& files, PlanEngine& engine);
@@ -42,6 +43,9 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   // why. A plan that is slow to open returns 0 with one blank page; when it is there, onPageChanged
   // comes again, or onProblem, and a page set in between is turned to.
   int OpenFile(const QString& path, const QString& password);
+  OpeningPatience& Patience() { return patience_; }
+  // Waits for a plan that is slow to open; false when it is still opening.
+  bool FinishOpening(int milliseconds);
   // Writes the plan with its marks, and goes on showing the file written. Costs nothing when the
   // target is the file shown and no mark has changed. A failure leaves the old file whole and the
   // marks unsaved.
@@ -51,6 +55,7 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   int AddTo(const QString& path);
   QString ShownFile() const;                   // without folder; empty for the blank sheet
   QString ShownPath() const { return path_; }  // the path as it was given
+  bool ShowsFile(const QString& path) const;
   bool HasUnsavedMarks() const;
   // Takes the plan with its marks off the sheet, into a viewer of its own that saves it and shows
   // nothing; a blank sheet stays. It must not outlive the engine and the files.
@@ -62,147 +67,75 @@ class PdfDraw : public DrawingBoard, public PlanPictures {
   bool WantsPassword() const { return notices_.wantsPassword; }
   // What can't be saved of the plan shown, as a sentence; empty when all can.
   QString Caution() const { return notices_.caution; }
+  // Whether this plan may be marked; asks the user where it has to be asked.
+  bool MayMark() override;
 
   void Print() { Raise(onPrint); }
   void BringToFront() { Raise(onBringToFront); }
 
-  void Look(const PlanView& view) override;
+  // What a window paints of the plan, and of another one laid over it.
+  ShownPictures& Pictures() { return pictures_; }
   // The plan shows something else than before on the same pages: pictures and lines are made anew.
   void ForgetPictures();
-  std::vector<PlacedPicture> PicturesFor(const PlanView& view) override;
-  std::shared_ptr<const Picture> Thumbnail(int page, int longSide) override;
-  std::shared_ptr<const Picture> PrintPicture(const PlanView& part,
-                                              const std::function<void()>& meanwhile) override;
+  // What is in sight is to be painted anew.
+  void ShowAnew() { ViewChanged(); }
 
   // The plan shown, as long as who asks needs it: its calls block, so not for the windows' thread.
   // Null when none is shown, or it is still opening.
   std::shared_ptr<EnginePlan> OpenedPlan() const;
-
   // A plan for reading beside the one shown, not opened yet; nothing is written to it. Null when it
   // is not there: `error` says why.
   std::shared_ptr<EnginePlan> OpenBeside(const QString& path, int& error);
-  bool ShowsFile(const QString& path) const;
-  std::vector<PageSize> Sizes() const;
+
   // Another plan laid over the one shown; it ends with it.
   Comparison& Compared() { return *comparison_; }
   const Comparison& Compared() const { return *comparison_; }
-  // Puts marks of another plan onto this one, each under its own name. False when the user does not
-  // want this plan to be marked.
-  bool PutMarks(const std::vector<Mark>& marks);
-  // What is in sight is to be painted anew.
-  void ShowAnew() { ViewChanged(); }
-
   // Where the pointer takes hold of the drawing while something is measured.
   SnapPointer& Snap() { return snap_; }
   // The mark that is chosen, to be changed.
   MarkHand& Hand() { return hand_; }
   const MarkHand& Hand() const { return hand_; }
-  bool MayMark() override;
   // What finds the likes of a symbol on the sheet.
   SameSymbols& Same() { return same_; }
 
-  // How long OpenFile waits for a plan before it comes back with a blank sheet and goes on in the
-  // background; 10 seconds when not set. A window wants 6 milliseconds; nobody waits for a plan
-  // that is not in sight.
-  void SetPatience(int milliseconds, std::optional<int> outOfSight = {}) {
-    patience_ = milliseconds;
-    patienceOutOfSight_ = outOfSight.value_or(milliseconds);
-  }
-  void SetInSight(bool inSight) { inSight_ = inSight; }
-  // How long a plan may take to open at all; 30 seconds when not set.
-  void SetLongestOpening(int milliseconds) { longestOpening_ = milliseconds; }
-
-  // Waits until everything visible is there in full sharpness, or the coarse picture is.
-  bool WaitUntilSharp(int milliseconds);
-  bool WaitForCoarse(int milliseconds);
-  // Waits for a plan that is slow to open; false when it is still opening.
-  bool FinishOpening(int milliseconds);
-
  protected:
-  bool TakeSnapKey(PlanKey key) override { return snap_.TakeKey(key); }
-  bool TakeMarkKey(const PlanStroke& stroke) override {
-    return same_.TakeKey(stroke.key) || hand_.TakeKey(stroke);
-  }
-  void PressFree(PagePoint at) override { hand_.Press(at); }
-  void MoveFree(PagePoint at, bool shift) override { hand_.Move(at, shift); }
-  void ReleaseFree(PagePoint at, bool shift) override { hand_.Release(at, shift); }
-  void ToolComes() override { hand_.LetGo(); }
   bool TakeOverlayKey(const PlanStroke& stroke) override;
+  bool TakeHelperKey(const PlanStroke& stroke) override;
+  FreePointer& Free() override { return hand_; }
 
  private:
-  struct Session;
-  struct Opening;
-  class FormsThread;
-
-  std::unique_ptr<Session> NewSession(const QString& path, const QString& password, int& error);
-  void StartPainting();
+  void Put(std::unique_ptr<OpenPlan> plan);
   void TakeOpened();
-  void Close();
   int ShowNothing(const QString& path, int error, const QString& reason);
-  void PicturesChanged();
-  void TellOfPainting();
-  void SymbolBoxed(const DrawnBox& box);
-  void TellOfSearch();
-  void TellOfPages(PlanPainter& painter);
+  void TooLong();
   void BeginPlan(const QString& path);
   void FillPlan(std::vector<PageSize> sizes, std::vector<Mark> marks);
+  void StartPainting();
 
-  MarkChanges Changes() const;
-  void AddTotals(MarkChanges& changes) const;
-  MarkChanges WithTotalsAnew(const MarkChanges& changes) const;
-  void MarksAreSaved();
-  int WriteChanges(const QString& path, bool same, const MarkChanges& changes);
-  int Append(const QString& path, const MarkChanges& changes);
-  int WriteCopy(const QString& path, const MarkChanges& changes);
-  int WriteAnew(const QString& path, const MarkChanges& changes);
-  int WriteRepaired(int handle, QString& problem);
-  struct Progress;
-  // Does a part of a save on the plan's thread and waits for it, with the window alive; kFileOther
-  // when it takes too long. The work owns what it works on.
-  using SavePart = std::function<int(Progress& progress)>;
-  int DoAside(const SavePart& work, int patience, QString* problem = nullptr);
-  std::unique_ptr<Session> OpenAside(const QString& path, int& error, std::vector<Mark>& marks);
-  void ForgetUpdate();
-  int FinishCopy(Replacement& copy, int error, const QString& path);
-  int Confirm(const QString& path);
-  // One save at a time; tells of its end.
-  int SaveAlone(const QString& given, const std::function<int()>& save);
   int SaveNow(const QString& given);
   int AddNow(const QString& path);
-  bool ChangedOnDisk(const QString& path);
+  int Write(const QString& path, bool own, const MarkChanges& changes);
   int TakeFromDisk(const QString& path, const MarkChanges& changes);
-  int BuildUpdate(Session& session, const MarkChanges& changes, QByteArray& bytes);
-  struct Appended;
-  static int WriteDown(Disk& disk, int handle, const QByteArray& bytes, Progress& progress);
-  SavePart WriteBytes(int handle, const QByteArray& bytes) const;
-  SavePart CopyBytes(int handle, const QByteArray& more) const;
-  void CutTornTail(const QString& path, qint64 whole);
-  int SaveFailed(const QString& path, int error, const QString& reason = QString());
 
   Files& files_;
   PlanEngine& engine_;
-  std::shared_ptr<FormsThread> forms_;
-  std::unique_ptr<Session> session_;
-  std::shared_ptr<Opening> opening_;  // while a slow plan is on its way
+  std::unique_ptr<OpenPlan> plan_;
   QString path_;
   QString problem_;
-  QString unsure_;  // a plan that was saved, and the device did not confirm it
-  QString password_;
   struct {
     bool wantsPassword = false;
     QString reservation;  // not answered yet
     QString caution;
   } notices_;
-  bool saving_ = false;
-  bool searchTold_ = false;  // it says how far it is in a moment
+  OpeningPatience patience_;
+  NewsPost opened_;  // a plan that was not waited for
+  QTimer tooLong_;
+  PlanSaver saver_;
   SnapPointer snap_{*this};
   MarkHand hand_{*this};
   SameSymbols same_{*this};
   std::unique_ptr<Comparison> comparison_;
-  int patience_ = 10000;
-  int patienceOutOfSight_ = 10000;
-  bool inSight_ = true;
-  int longestOpening_ = 30000;
+  ShownPictures pictures_;
 };
 
 }  // namespace tamo

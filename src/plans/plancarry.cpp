@@ -64,9 +64,8 @@ void PlanCarry::Offer(const CarriedMarks& carried, const QString& where) {
   }
   const QString come = Counted(qsizetype(carried.marks.size()), "mark of the old plan comes onto",
                                "marks of the old plan come onto");
-  if (!kit_.platform.messages.Ask(come + where + Question(carried)) ||
-      !viewer_.PutMarks(carried.marks))
-    return;
+  if (!kit_.platform.messages.Ask(come + where + Question(carried)) || !viewer_.MayMark()) return;
+  viewer_.TakeOver(carried.marks);
   form_.PlanProblem.SetCaption(QString());
   if (onCarried) onCarried();
 }

@@ -57,7 +57,7 @@ bool PlanOpener::Open(const QString& path) {
         QStringLiteral("There is no plan %1. Pick it again under Files.").arg(file));
     return false;
   }
-  viewer_.SetInSight(form_.Visible());
+  viewer_.Patience().SetSeen(form_.Visible());
   const int error = viewer_.OpenFile(file, password_);
   parts_.copy.Came();
   form_.PlanProblem.SetCaption(error == kNoError ? viewer_.Caution() : viewer_.Problem());
@@ -86,7 +86,7 @@ void PlanOpener::OpenBlank() {
 
 void PlanOpener::ShowBlank() {
   parts_.copy.Leave();
-  viewer_.SetInSight(form_.Visible());
+  viewer_.Patience().SetSeen(form_.Visible());
   viewer_.OpenFile(kit_.files.Resolved(ProgramFile(kit_.shared, "Blank.pdf")), QString());
   parts_.scale.Show();
 }

@@ -78,7 +78,7 @@ std::vector<PrintedScale> ScalesOf(const std::vector<PageTextLine>& lines) {
   for (const PageTextLine& line : lines) {
     std::optional<PrintedScale> scale = ScaleOfText(line.text);
     if (!scale.has_value()) continue;
-    scale->at = {(line.box.left + line.box.right) / 2, (line.box.top + line.box.bottom) / 2};
+    scale->at = line.box.Middle();
     scales.push_back(*scale);
   }
   return scales;

@@ -1,5 +1,6 @@
 #include "plans/samesymbols.h"
 
+#include <QAbstractEventDispatcher>
 #include <algorithm>
 
 #include "plans/likehull.h"
@@ -12,7 +13,15 @@ QString Symbols(size_t count) {
   return count == 1 ? QStringLiteral("1 symbol") : QStringLiteral("%1 symbols").arg(count);
 }
 
+constexpr int kMoment = 200;  // milliseconds
+
 }  // namespace
+
+SameSymbols::SameSymbols(PdfDraw& viewer) : viewer_(viewer), found_([this] { GoOn(); }) {
+  search_.onDone = found_.Teller();
+  moment_.setSingleShot(true);
+  QObject::connect(&moment_, &QTimer::timeout, [this] { GoOn(); });
+}
 
 void SameSymbols::Start() {
   End(QString());
@@ -38,6 +47,12 @@ void SameSymbols::TakeBox(const PageBox& box) {
 }
 
 void SameSymbols::GoOn() {
+  Step();
+  const bool waits = QAbstractEventDispatcher::instance() != nullptr;  // not in a plain thread
+  if (Busy() && waits && !moment_.isActive()) moment_.start(kMoment);
+}
+
+void SameSymbols::Step() {
   if (state_ == State::Reading && !viewer_.Snap().Lines().Reading()) Begin();
   LikesFound found;
   if (state_ == State::Looking && search_.Take(found)) TakeFound(std::move(found));

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QTimer>
 #include <vector>
 
 #include "plans/likesearch.h"
+#include "plans/newspost.h"
 #include "plans/plankey.h"
 
 namespace tamo {
@@ -16,17 +18,17 @@ class SameSymbols {
  public:
   enum class Answer { None, Yes, No };
 
-  explicit SameSymbols(PdfDraw& viewer) : viewer_(viewer) {}
+  explicit SameSymbols(PdfDraw& viewer);
 
   void Start();                      // the next box is drawn around a symbol
   void TakeBox(const PageBox& box);  // it is drawn
   void Follow();                     // another page or plan is in front: it ends
   void Leave();                      // another tool is taken: it ends
   bool TakeKey(PlanKey key);         // true when the key was one of its own
-  void GoOn();                       // the sheet is read, or the search is done
-  void Finish(int patience);         // the same, waited for
+  // The sheet is read, or the search is done. While it goes on, how far it is is told every moment.
+  void GoOn();
+  void Finish(int patience);  // the same, waited for
   bool Busy() const { return state_ == State::Reading || state_ == State::Looking; }
-  void TellProgress();
 
   bool Boxing() const { return state_ == State::Boxing; }  // the box is not drawn yet
 
@@ -37,12 +39,12 @@ class SameSymbols {
   const std::vector<Answer>& Answers() const { return answers_; }
   size_t Current() const { return current_; }
 
-  LikeSearch& Search() { return search_; }
-
  private:
   enum class State { Idle, Boxing, Reading, Looking, Asking };
 
   void Begin();
+  void Step();
+  void TellProgress();
   void TakeFound(LikesFound found);
   void DropCounted();
   void Reply(Answer answer);
@@ -56,6 +58,8 @@ class SameSymbols {
 
   PdfDraw& viewer_;
   State state_ = State::Idle;
+  NewsPost found_;  // from the thread that looks
+  QTimer moment_;   // until it is told again how far the search is
   LikeSearch search_;
   std::weak_ptr<EnginePlan> plan_;
   int page_ = 0;

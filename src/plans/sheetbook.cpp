@@ -1,8 +1,8 @@
 #include "plans/sheetbook.h"
 
-#include <chrono>
-#include <thread>
 #include <utility>
+
+#include "plans/waituntil.h"
 
 namespace tamo {
 namespace {
@@ -137,19 +137,14 @@ void SheetBook::TakeGuide(PlanGuide guide) {
 }
 
 bool SheetBook::Wait(int milliseconds) {
-  using Clock = std::chrono::steady_clock;
-  const auto end = Clock::now() + std::chrono::milliseconds(milliseconds);
   Hold(false);
   bool news = false;
-  while (reading_ != nullptr) {
+  WaitUntil(milliseconds, [&] {
+    if (reading_ == nullptr) return true;
     news = Take() || news;
-    {
-      const std::lock_guard<std::mutex> guard(reading_->mutex);
-      if (Done() && reading_->working == 0) break;
-    }
-    if (Clock::now() >= end) break;
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  }
+    const std::lock_guard<std::mutex> guard(reading_->mutex);
+    return Done() && reading_->working == 0;
+  });
   return Take() || news;
 }
 

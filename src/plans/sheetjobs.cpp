@@ -1,8 +1,8 @@
 #include "plans/sheetjobs.h"
 
-#include <chrono>
-#include <thread>
 #include <utility>
+
+#include "plans/waituntil.h"
 
 namespace tamo {
 namespace {
@@ -47,14 +47,10 @@ void SheetJobs::StopAll() {
 }
 
 bool SheetJobs::Settle(int milliseconds) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-  queue_.Run();
-  while (busy_ > 0) {
-    if (std::chrono::steady_clock::now() >= end) return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  return WaitUntil(milliseconds, [this] {
     queue_.Run();
-  }
-  return true;
+    return busy_ == 0;
+  });
 }
 
 }  // namespace tamo

@@ -1,8 +1,8 @@
 #include "plans/sheetlines.h"
 
-#include <chrono>
-#include <thread>
 #include <utility>
+
+#include "plans/waituntil.h"
 
 namespace tamo {
 namespace {
@@ -117,12 +117,7 @@ QString SheetLines::Problem() const {
 }
 
 bool SheetLines::Wait(int milliseconds) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-  while (Reading()) {
-    if (std::chrono::steady_clock::now() >= end) return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  }
-  return true;
+  return WaitUntil(milliseconds, [this] { return !Reading(); });
 }
 
 }  // namespace tamo

@@ -21,6 +21,7 @@ class SheetView : public PlanEvents {
   int Page() const { return page_; }
   int PageCount() const { return static_cast<int>(sizes_.size()); }  // at least 1
   PageSize SizeOfPage(int page) const;                               // points
+  const std::vector<PageSize>& Sizes() const { return sizes_; }      // of all pages
 
   void SetZoom(int perCent);  // brought into 5..1600
   int Zoom() const { return zoom_; }

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "plans/outline.h"
 
 namespace tamo {
 namespace {
 
-constexpr int kMostCells = 1 << 18;
-constexpr double kSmallestCell = 4;    // points
+constexpr LineCellSize kCells = {4, 4096, 1 << 18};
 constexpr size_t kMostLooked = 20000;  // entries of cells, the nearest cells first
 constexpr size_t kMostNear = 256;      // lines looked at closely
 constexpr size_t kMostCrossing = 64;   // of these, lines that are tried for intersections
@@ -132,83 +132,36 @@ QString SnapInWords(SnapKind kind) {
   return QLatin1String(words[static_cast<int>(kind)]);
 }
 
-int SnapIndex::Column(double x) const {
-  return std::clamp(static_cast<int>((x - box_.left) / cell_), 0, columns_ - 1);
-}
-
-int SnapIndex::Row(double y) const {
-  return std::clamp(static_cast<int>((y - box_.top) / cell_), 0, rows_ - 1);
-}
-
-// The cells that a line runs through, column by column.
-template <typename Visit>
-void SnapIndex::CellsOf(const PageLine& line, Visit visit) const {
-  const bool rightwards = line.from.x <= line.to.x;
-  const PagePoint a = rightwards ? line.from : line.to;
-  const PagePoint b = rightwards ? line.to : line.from;
-  const double slope = b.x > a.x ? (b.y - a.y) / (b.x - a.x) : 0;
-  const int last = Column(b.x);
-  for (int column = Column(a.x); column <= last; ++column) {
-    const double left = box_.left + column * cell_;
-    double y1 = column == Column(a.x) ? a.y : a.y + (left - a.x) * slope;
-    double y2 = column == last ? b.y : a.y + (left + cell_ - a.x) * slope;
-    if (y1 > y2) std::swap(y1, y2);
-    for (int row = Row(y1); row <= Row(y2); ++row) visit(row * columns_ + column);
-  }
-}
-
-SnapIndex::SnapIndex(std::vector<SnapLine> lines) : lines_(std::move(lines)), box_(NoBox()) {
-  for (const SnapLine& line : lines_) {
-    box_.Take(line.line.from);
-    box_.Take(line.line.to);
-  }
-  if (lines_.empty()) box_ = {0, 0, 1, 1};
-  const double size = std::max(1.0, box_.Width()) * std::max(1.0, box_.Height());
-  cell_ = std::max(
-      {kSmallestCell, std::sqrt(size / kMostCells), box_.Width() / 4096, box_.Height() / 4096});
-  columns_ = static_cast<int>(box_.Width() / cell_) + 1;
-  rows_ = static_cast<int>(box_.Height() / cell_) + 1;
-  begins_.assign(static_cast<size_t>(columns_) * static_cast<size_t>(rows_) + 1, 0);
-  for (const SnapLine& line : lines_) {
-    CellsOf(line.line, [this](int cell) { ++begins_[static_cast<size_t>(cell) + 1]; });
-  }
-  for (size_t i = 1; i < begins_.size(); ++i) begins_[i] += begins_[i - 1];
-  items_.resize(begins_.back());
-  std::vector<uint32_t> next(begins_.begin(), begins_.end() - 1);
-  for (size_t i = 0; i < lines_.size(); ++i) {
-    CellsOf(lines_[i].line, [&](int cell) {
-      items_[next[static_cast<size_t>(cell)]++] = static_cast<uint32_t>(i);
-    });
-  }
-}
+SnapIndex::SnapIndex(std::vector<SnapLine> lines)
+    : lines_(std::move(lines)),
+      cells_(
+          lines_, [](const SnapLine& line) -> const PageLine& { return line.line; }, kCells) {}
 
 // The cells within reach of a place in rings from the one it lies in outwards, until `visit` has
 // enough.
 template <typename Visit>
 void SnapIndex::VisitAround(PagePoint at, double reach, Visit visit) const {
-  const int left = Column(at.x - reach);
-  const int right = Column(at.x + reach);
-  const int top = Row(at.y - reach);
-  const int bottom = Row(at.y + reach);
-  const int column = Column(at.x);
-  const int row = Row(at.y);
+  const int left = cells_.Column(at.x - reach);
+  const int right = cells_.Column(at.x + reach);
+  const int top = cells_.Row(at.y - reach);
+  const int bottom = cells_.Row(at.y + reach);
+  const int column = cells_.Column(at.x);
+  const int row = cells_.Row(at.y);
   const int rings = std::max({column - left, right - column, row - top, bottom - row});
   for (int ring = 0; ring <= rings; ++ring) {
     for (int y = std::max(top, row - ring); y <= std::min(bottom, row + ring); ++y) {
       const bool whole = std::abs(y - row) == ring;
       for (int x = column - ring; x <= column + ring; x += whole ? 1 : std::max(1, 2 * ring)) {
         if (x < left || x > right) continue;
-        if (!visit(static_cast<size_t>(y) * static_cast<size_t>(columns_) + static_cast<size_t>(x)))
-          return;
+        if (!visit(cells_.In(x, y))) return;
       }
     }
   }
 }
 
 void SnapIndex::LinesAround(PagePoint at, double reach, std::vector<uint32_t>& numbers) const {
-  VisitAround(at, reach, [&](size_t cell) {
-    numbers.insert(numbers.end(), items_.begin() + begins_[cell],
-                   items_.begin() + begins_[cell + 1]);
+  VisitAround(at, reach, [&](std::span<const uint32_t> cell) {
+    numbers.insert(numbers.end(), cell.begin(), cell.end());
     return true;
   });
 }
@@ -223,9 +176,10 @@ std::vector<SnapHit> SnapIndex::Near(PagePoint at, double reach,
   };
   for (const SnapLine& line : more) look(line);
   size_t looked = 0;
-  VisitAround(at, reach, [&](size_t cell) {
-    for (uint32_t i = begins_[cell]; i < begins_[cell + 1] && looked < kMostLooked; ++i, ++looked)
-      look(lines_[items_[i]]);
+  VisitAround(at, reach, [&](std::span<const uint32_t> cell) {
+    cell = cell.first(std::min(cell.size(), kMostLooked - looked));
+    for (const uint32_t number : cell) look(lines_[number]);
+    looked += cell.size();
     return looked < kMostLooked;
   });
   KeepNearest(near);

@@ -6,6 +6,7 @@
 #include <span>
 #include <vector>
 
+#include "plans/linecells.h"
 #include "plans/pagecontent.h"
 
 namespace tamo {
@@ -50,19 +51,10 @@ class SnapIndex {
 
  private:
   template <typename Visit>
-  void CellsOf(const PageLine& line, Visit visit) const;
-  template <typename Visit>
   void VisitAround(PagePoint at, double reach, Visit visit) const;
-  int Column(double x) const;
-  int Row(double y) const;
 
   std::vector<SnapLine> lines_;
-  PageBox box_;
-  double cell_ = 1;  // points
-  int columns_ = 1;
-  int rows_ = 1;
-  std::vector<uint32_t> begins_;  // of each cell in items_, and the end
-  std::vector<uint32_t> items_;   // numbers of lines
+  LineCells cells_;
 };
 
 }  // namespace tamo

@@ -16,6 +16,14 @@ bool Same(PagePoint a, PagePoint b) {
 
 }  // namespace
 
+SnapPointer::SnapPointer(PdfDraw& viewer)
+    : viewer_(viewer), read_([this] {
+        TellOfSheet();
+        viewer_.Same().GoOn();
+      }) {
+  lines_.onRead = read_.Teller();
+}
+
 void SnapPointer::Turn(bool on) {
   on_ = on;
   hits_.clear();

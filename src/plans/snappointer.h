@@ -3,6 +3,7 @@
 #include <optional>
 #include <vector>
 
+#include "plans/newspost.h"
 #include "plans/plankey.h"
 #include "plans/sheetlines.h"
 
@@ -14,7 +15,7 @@ class PdfDraw;
 // sheet's lines are read when a tool that measures is first in hand on it. On from the start.
 class SnapPointer {
  public:
-  explicit SnapPointer(PdfDraw& viewer) : viewer_(viewer) {}
+  explicit SnapPointer(PdfDraw& viewer);
 
   bool On() const { return on_; }
   void Turn(bool on);
@@ -46,6 +47,7 @@ class SnapPointer {
   void TellOfLines();
 
   PdfDraw& viewer_;
+  NewsPost read_;  // from the thread that reads the lines
   SheetLines lines_;
   bool on_ = true;
   std::vector<SnapHit> hits_;

@@ -48,8 +48,7 @@ void FindOnPlan::GoTo(int row) {
     const SheetTexts::Line& line = texts_.Lines()[size_t(row)];
     if (viewer_.Page() != line.page)
       display_.GetDesk().Dispatch([&] { viewer_.TurnPage(line.page); });
-    canvas_.PlaceInView(
-        {(line.box.left + line.box.right) / 2, (line.box.top + line.box.bottom) / 2});
+    canvas_.PlaceInView(line.box.Middle());
   }
   canvas_.viewport()->update();
 }

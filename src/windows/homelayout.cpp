@@ -9,6 +9,7 @@
 #include "program/program.h"
 #include "windows/homecell.h"
 #include "windows/plainbindings.h"
+#include "windows/planpaint.h"
 #include "windows/roles.h"
 #include "windows/scrolled.h"
 
@@ -40,8 +41,7 @@ class PlanCell : public HomeCell {
       wait_ = std::min(2 * wait_, kSeldom);
       return;
     }
-    const QImage image(reinterpret_cast<const uchar*>(picture->pixels.data()), picture->width,
-                       picture->height, picture->width * 4, QImage::Format_RGB32);
+    const QImage image = ImageOf(*picture);
     const QSize size = image.size().scaled(place.size(), Qt::KeepAspectRatio);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRect(place.topLeft(), size), image);

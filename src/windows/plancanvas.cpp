@@ -31,9 +31,7 @@ PlanCanvas::PlanCanvas(PdfDraw& viewer, PlanPictures* pictures, Desk& desk, QWid
   connect(&rest_, &QTimer::timeout, this, [this] { FinishScroll(); });
   viewer_.onMarksChanged = [this] { viewport()->update(); };
   viewer_.onViewChanged = [this] { ViewChanged(); };
-  viewer_.Compared().onShowPlace = [this](const PageBox& box) {
-    PlaceInView({(box.left + box.right) / 2, (box.top + box.bottom) / 2});
-  };
+  viewer_.Compared().onShowPlace = [this](const PageBox& box) { PlaceInView(box.Middle()); };
   viewer_.onLookAt = [this](PagePoint at) { PlaceInView(at); };
   if (pictures_ != nullptr) {
     pictures_->onPicturesChanged = [this] {

@@ -231,8 +231,8 @@ TEST_F(Worker, KilledAtRandomThroughAMeasuredBidNothingIsLost) {
     view.page = draw->Page();
     view.width = 800;
     view.height = 600;
-    draw->Look(view);
-    draw->WaitForCoarse(200);
+    draw->Pictures().Look(view);
+    draw->Pictures().WaitForCoarse(200);
     draw->DrawLine({20, 20.0 + round}, {300, 21.0 + round});
     draw->PlaceCircle({50.0 + round / 2.0, 400});
     drawn += 2;

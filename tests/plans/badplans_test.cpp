@@ -1,15 +1,13 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
-#include <atomic>
-#include <chrono>
 #include <cmath>
 #include <set>
-#include <thread>
 
 #include "common/failure.h"
 #include "engine/mupdfcontentreader.h"
 #include "engine/mupdfcontexts.h"
 #include "plans/planfixture.h"
+#include "support/helddisk.h"
 #include "support/sourcefile.h"
 
 // Damaged and hostile plans: a message or a sheet, never a crash, a hang or unbounded memory.
@@ -45,33 +43,6 @@ struct BadPlans : PlanFixture {
   }
 };
 
-// A device on which every other thread waits for its bytes until they are let through.
-class HeldDisk : public RealDisk {
- public:
-  std::shared_ptr<std::atomic<bool>> held = std::make_shared<std::atomic<bool>>(true);
-
-  int OpenToRead(const QString& path, std::shared_ptr<FileReader>& reader) override {
-    const int error = RealDisk::OpenToRead(path, reader);
-    if (error == 0) reader = std::make_shared<Held>(reader, held);
-    return error;
-  }
-
- private:
-  struct Held : FileReader {
-    Held(std::shared_ptr<FileReader> of, std::shared_ptr<std::atomic<bool>> until)
-        : reader(std::move(of)), held(std::move(until)) {}
-    qint64 Size() const override { return reader->Size(); }
-    int ReadAt(qint64 offset, char* into, qint64 count, qint64& got) const override {
-      while (*held && std::this_thread::get_id() != opener)
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-      return reader->ReadAt(offset, into, count, got);
-    }
-    std::shared_ptr<FileReader> reader;
-    std::shared_ptr<std::atomic<bool>> held;
-    std::thread::id opener = std::this_thread::get_id();
-  };
-};
-
 }  // namespace
 
 TEST_F(BadPlans, EachIsAMessageOrASheetAndTheFileStaysAsItIs) {
@@ -81,7 +52,7 @@ TEST_F(BadPlans, EachIsAMessageOrASheetAndTheFileStaysAsItIs) {
     const QString path = bad + "/" + name;
     const qint64 size = QFileInfo(path).size();
     PdfDraw viewer(files, engine);
-    viewer.SetPatience(1000);
+    viewer.Patience().Set(1000);
     const int result = viewer.OpenFile(path, "");
     EXPECT_TRUE(result == 0 || result == kFileOther) << result;
     if (IsHopeless(name)) {
@@ -101,9 +72,9 @@ TEST_F(BadPlans, EachIsAMessageOrASheetAndTheFileStaysAsItIs) {
     PlanView view;
     view.width = 800;
     view.height = 600;
-    viewer.Look(view);
-    viewer.WaitUntilSharp(300);
-    viewer.PicturesFor(view);
+    viewer.Pictures().Look(view);
+    viewer.Pictures().WaitUntilSharp(300);
+    viewer.Pictures().PicturesFor(view);
     most = std::max(most, MuPdfContexts::MemoryInUse());
     EXPECT_EQ(QFileInfo(path).size(), size);
   }
@@ -115,7 +86,7 @@ TEST_F(BadPlans, MarkingOneEitherSucceedsWholeOrLeavesNothing) {
     if (name.contains("bomb") || name.contains("wide") || name.contains("many")) continue;
     SCOPED_TRACE(name.toStdString());
     PdfDraw viewer(files, engine);
-    viewer.SetPatience(1000);
+    viewer.Patience().Set(1000);
     if (viewer.OpenFile(bad + "/" + name, "") != 0) continue;
     const size_t before = viewer.Marks().size();
     viewer.DrawLine({10, 10}, {82, 10});
@@ -140,10 +111,10 @@ TEST_F(BadPlans, AGoodPlanOpensRightAfterEachHostileOne) {
   view.height = 600;
   for (const QString& name : Names().filter("bomb")) {
     draw->OpenFile(bad + "/" + name, "");
-    draw->Look(view);
+    draw->Pictures().Look(view);
     ASSERT_EQ(draw->OpenFile(good, ""), 0) << name.toStdString();
-    draw->Look(view);
-    EXPECT_TRUE(draw->WaitUntilSharp(20000)) << name.toStdString();
+    draw->Pictures().Look(view);
+    EXPECT_TRUE(draw->Pictures().WaitUntilSharp(20000)) << name.toStdString();
   }
 }
 
@@ -152,8 +123,8 @@ TEST_F(BadPlans, AHostilePlanNeverHoldsTheWindowAndTheMessageComesLater) {
   char name[] = "test";
   char* arguments[] = {name};
   QCoreApplication application(count, arguments);
-  draw->SetPatience(0);
-  draw->SetLongestOpening(300);
+  draw->Patience().Set(0);
+  draw->Patience().SetLongest(300);
   QString told;
   draw->onProblem = [&](const QString& text) { told = text; };
   for (const char* file : {"xref_stream_wide.pdf", "locked_usual.pdf"}) {
@@ -178,8 +149,8 @@ TEST_F(BadPlans, ABlankSheetStandsForASlowPlanUntilItIsRead) {
   HeldDisk slow;
   Files slowFiles(slow);
   PdfDraw viewer(slowFiles, engine);
-  viewer.SetPatience(0);
-  viewer.SetLongestOpening(30000);
+  viewer.Patience().Set(0);
+  viewer.Patience().SetLongest(30000);
   int pages = 0;
   viewer.onPageChanged = [&] { ++pages; };
   viewer.OpenFile(Write("good.pdf", MakePdf({PdfPage(), PdfPage()})), "");
@@ -200,14 +171,14 @@ TEST_F(BadPlans, OnlyAPlanInSightIsWaitedFor) {
   Files slowFiles(slow);
   PdfDraw viewer(slowFiles, engine);
   const QString good = Write("good.pdf", MakePdf({PdfPage(), PdfPage()}));
-  viewer.SetPatience(10000, 0);
-  viewer.SetInSight(false);
+  viewer.Patience().Set(10000, 0);
+  viewer.Patience().SetSeen(false);
   viewer.OpenFile(good, "");
   EXPECT_EQ(viewer.PageCount(), 1);
   *slow.held = false;
   ASSERT_TRUE(viewer.FinishOpening(10000));
   EXPECT_EQ(viewer.PageCount(), 2);
-  viewer.SetInSight(true);
+  viewer.Patience().SetSeen(true);
   ASSERT_EQ(viewer.OpenFile(good, ""), 0);
   EXPECT_EQ(viewer.PageCount(), 2);
 }
@@ -253,7 +224,7 @@ TEST_F(BadPlans, PageNIsOneSheetForEveryone) {
       part.page = page;
       part.width = 20;
       part.height = 20;
-      EXPECT_NE(draw->PrintPicture(part, {}), nullptr) << tree.kids << " page " << page;
+      EXPECT_NE(draw->Pictures().PrintPicture(part, {}), nullptr) << tree.kids << " page " << page;
     }
   }
 }

@@ -61,7 +61,7 @@ struct Comparing : PlanFixture {
     view.left = static_cast<int>(x) - 4;
     view.top = static_cast<int>(y) - 4;
     view.width = view.height = 9;
-    const auto picture = draw->PrintPicture(view, nullptr);
+    const auto picture = draw->Pictures().PrintPicture(view, nullptr);
     if (picture == nullptr) return "nothing painted";
     int red = 0;
     int green = 0;

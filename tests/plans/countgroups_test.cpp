@@ -237,7 +237,7 @@ TEST_F(CountingInGroups, MarksOfAnotherPlanComeWithNumbersOfTheirOwnAndAreNotCou
   circle.kind = Mark::Kind::Circle;
   circle.points = {{200, 200}};
   circle.name = MarkName(51, 1);
-  ASSERT_TRUE(draw->PutMarks({light, circle, light}));
+  draw->TakeOver({light, circle, light});
   EXPECT_EQ(Labels(), QStringList({"Lights 1", "Lights 2", ""}));
   EXPECT_TRUE(told.empty()) << "no count goes to the takeoff";
   EXPECT_EQ(plain, 0);

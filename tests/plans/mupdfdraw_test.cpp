@@ -162,11 +162,11 @@ TEST_F(RealPlan, OurMarksAreLeftOutOfThePicturesAndOthersAreNot) {
   PlanView view;
   view.width = 612;
   view.height = 792;
-  draw->Look(view);
-  ASSERT_TRUE(draw->WaitUntilSharp(20000));
+  draw->Pictures().Look(view);
+  ASSERT_TRUE(draw->Pictures().WaitUntilSharp(20000));
   bool other = false;
   bool ours = false;
-  for (const PlacedPicture& placed : draw->PicturesFor(view)) {
+  for (const PlacedPicture& placed : draw->Pictures().PicturesFor(view)) {
     if (placed.picture->width != int(placed.width)) continue;  // the coarse one
     const auto at = [&](int x, int y) {
       return placed.picture->pixels[size_t(y) * size_t(placed.picture->width) + size_t(x)];
@@ -279,7 +279,7 @@ TEST_F(RealPlan, APlanLockedWithAPasswordOpensWithItOnly) {
 
 TEST_F(RealPlan, SlowOpeningComesBackWithABlankSheetAndKeepsThePageAskedFor) {
   ASSERT_TRUE(draw->OpenFile(Write("a.pdf", MakePdf({{kLetter}, {kLetter}, {kLetter}})), "") == 0);
-  draw->SetPatience(0);
+  draw->Patience().Set(0);
   int pages = 0;
   draw->onPageChanged = [&] { ++pages; };
   ASSERT_EQ(draw->OpenFile(Path("a.pdf"), ""), 0);
@@ -313,12 +313,12 @@ TEST_F(RealPlan, PicturesAreSharpOnEveryTurnAndAnyZoom) {
       view.turn = corner.turn;
       view.width = int(800 * scale);
       view.height = int(800 * scale);
-      draw->Look(view);
-      ASSERT_TRUE(draw->WaitUntilSharp(20000));
+      draw->Pictures().Look(view);
+      ASSERT_TRUE(draw->Pictures().WaitUntilSharp(20000));
       bool black = false;
       const int x = int(corner.x * scale);
       const int y = int(corner.y * scale);
-      for (const PlacedPicture& placed : draw->PicturesFor(view)) {
+      for (const PlacedPicture& placed : draw->Pictures().PicturesFor(view)) {
         const int px = x - int(placed.left);
         const int py = y - int(placed.top);
         if (placed.picture->width != int(placed.width)) continue;
@@ -338,9 +338,9 @@ TEST_F(RealPlan, TheCoarsePictureStandsRightOnEveryTurn) {
   PlanView view;
   view.pixelsPerPoint = 2;
   view.width = view.height = 1600;
-  draw->Look(view);
-  ASSERT_TRUE(draw->WaitForCoarse(20000));
-  ASSERT_TRUE(draw->WaitUntilSharp(20000));
+  draw->Pictures().Look(view);
+  ASSERT_TRUE(draw->Pictures().WaitForCoarse(20000));
+  ASSERT_TRUE(draw->Pictures().WaitUntilSharp(20000));
   // At another scale nothing sharp is there yet.
   view.pixelsPerPoint = 3;
   struct Corner {
@@ -350,7 +350,7 @@ TEST_F(RealPlan, TheCoarsePictureStandsRightOnEveryTurn) {
   for (const Corner& corner : {Corner{0, 25, 25}, Corner{90, 792 - 25, 25},
                                Corner{180, 612 - 25, 792 - 25}, Corner{270, 25, 612 - 25}}) {
     view.turn = corner.turn;
-    const auto pictures = draw->PicturesFor(view);
+    const auto pictures = draw->Pictures().PicturesFor(view);
     ASSERT_EQ(pictures.size(), 2U) << corner.turn;
     int black = 0;
     double area = 0;
@@ -391,9 +391,9 @@ TEST_F(RealPlan, HairlinesStayVisibleOnASmallPicture) {
   view.pixelsPerPoint = 0.1;
   view.width = 346;
   view.height = 260;
-  draw->Look(view);
-  ASSERT_TRUE(draw->WaitUntilSharp(20000));
-  const auto pictures = draw->PicturesFor(view);
+  draw->Pictures().Look(view);
+  ASSERT_TRUE(draw->Pictures().WaitUntilSharp(20000));
+  const auto pictures = draw->Pictures().PicturesFor(view);
   ASSERT_FALSE(pictures.empty());
   const Picture& picture = *pictures.back().picture;
   unsigned darkest = 255;
@@ -405,28 +405,29 @@ TEST_F(RealPlan, HairlinesStayVisibleOnASmallPicture) {
 
 TEST_F(RealPlan, ThumbnailsScrolledAwayGiveWayToThoseAskedForLater) {
   ASSERT_EQ(draw->OpenFile(Write("a.pdf", MakePdf(QList<PdfPage>(260, PdfPage()))), ""), 0);
-  for (int page = 1; page <= 260; ++page) draw->Thumbnail(page, 64);
-  ASSERT_TRUE(draw->WaitUntilSharp(30000));
-  for (int page = 61; page <= 260; ++page) EXPECT_NE(draw->Thumbnail(page, 64), nullptr) << page;
+  for (int page = 1; page <= 260; ++page) draw->Pictures().Thumbnail(page, 64);
+  ASSERT_TRUE(draw->Pictures().WaitUntilSharp(30000));
+  for (int page = 61; page <= 260; ++page)
+    EXPECT_NE(draw->Pictures().Thumbnail(page, 64), nullptr) << page;
 }
 
 TEST_F(RealPlan, ThumbnailsAndPrintPicturesAreMade) {
   ASSERT_EQ(draw->OpenFile(Write("a.pdf", MakePdf(QList<PdfPage>(12, PdfPage()))), ""), 0);
-  for (int page = 1; page <= 12; ++page) draw->Thumbnail(page, 100);
-  ASSERT_TRUE(draw->WaitUntilSharp(20000));
+  for (int page = 1; page <= 12; ++page) draw->Pictures().Thumbnail(page, 100);
+  ASSERT_TRUE(draw->Pictures().WaitUntilSharp(20000));
   for (int page = 1; page <= 12; ++page) {
-    const auto thumbnail = draw->Thumbnail(page, 100);
+    const auto thumbnail = draw->Pictures().Thumbnail(page, 100);
     ASSERT_NE(thumbnail, nullptr);
     EXPECT_EQ(thumbnail->height, 100);
   }
-  EXPECT_EQ(draw->Thumbnail(13, 100), nullptr);
+  EXPECT_EQ(draw->Pictures().Thumbnail(13, 100), nullptr);
   PlanView part;
   part.page = 7;
   part.pixelsPerPoint = 2;
   part.top = 1000;
   part.width = 1224;
   part.height = 584;
-  const auto picture = draw->PrintPicture(part, {});
+  const auto picture = draw->Pictures().PrintPicture(part, {});
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->width, 1224);
   EXPECT_NE(picture->pixels[size_t(384) * 1224 + 400], 0xffffffffU);  // the line at 100 from below

@@ -57,9 +57,9 @@ struct OddPlans : PlanFixture {
     EXPECT_EQ(draw->Marks().size(), 2U);
   }
   std::shared_ptr<const Picture> Paint(PlanView view) {
-    draw->Look(view);
-    EXPECT_TRUE(draw->WaitUntilSharp(60000));
-    return draw->PrintPicture(view, {});
+    draw->Pictures().Look(view);
+    EXPECT_TRUE(draw->Pictures().WaitUntilSharp(60000));
+    return draw->Pictures().PrintPicture(view, {});
   }
   static unsigned At(const Picture& picture, int x, int y) {
     return picture.pixels[size_t(y) * size_t(picture.width) + size_t(x)] & 0xffffff;

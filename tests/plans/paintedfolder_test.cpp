@@ -16,8 +16,8 @@ namespace {
 
 constexpr auto kLongest = std::chrono::seconds(2);  // of one plan
 
-std::shared_ptr<EnginePlan> OpenPlan(Disk& disk, PlanEngine& engine, const QString& path,
-                                     PlanContents& contents) {
+std::shared_ptr<EnginePlan> OpenedPlan(Disk& disk, PlanEngine& engine, const QString& path,
+                                       PlanContents& contents) {
   std::shared_ptr<FileReader> reader;
   if (disk.OpenToRead(path, reader) != 0) return nullptr;
   auto plan = engine.NewPlan(std::make_shared<PlanSource>(reader, reader->Size()));
@@ -75,7 +75,7 @@ TEST_F(PaintedFolder, EachPlanIsPaintedByManyThreadsAtOnce) {
     const QString path = each.next();
     SCOPED_TRACE(path.toStdString());
     PlanContents contents;
-    const auto plan = OpenPlan(disk, engine, path, contents);
+    const auto plan = OpenedPlan(disk, engine, path, contents);
     ASSERT_NE(plan, nullptr);
     if (contents.error != 0) continue;
     CancelFlag reading;

@@ -228,7 +228,7 @@ QString Looker::OverlayAt(const QString& rest) {
   Program().GetDesk().Dispatch([&] { viewer.Compared().Jobs().Settle(kPatience); });
   const PlanView view = {viewer.Page(),           1, 0, static_cast<int>(x) - 4,
                          static_cast<int>(y) - 4, 9, 9};
-  const std::shared_ptr<const Picture> picture = viewer.PrintPicture(view, nullptr);
+  const std::shared_ptr<const Picture> picture = viewer.Pictures().PrintPicture(view, nullptr);
   return picture == nullptr ? QStringLiteral("nothing") : InkInWords(*picture);
 }
 

@@ -17,12 +17,12 @@ ProgramPlayed::ProgramPlayed(const Platform& platform)
 ProgramPlayed::~ProgramPlayed() = default;
 
 PlanPictures* ProgramPlayed::Pictures() {
-  return viewer_.get();
+  return &viewer_->Pictures();
 }
 
 void ProgramPlayed::WaitForPictures() {
   constexpr int kPatience = 5000;  // milliseconds
-  (void)viewer_->WaitUntilSharp(kPatience);
+  (void)viewer_->Pictures().WaitUntilSharp(kPatience);
 }
 
 void ProgramPlayed::Start() {

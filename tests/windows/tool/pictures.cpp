@@ -34,7 +34,7 @@ struct Pictures {
                  home,      home + QStringLiteral("/config")},
         out(outFolder),
         suffix(ending) {
-    viewer.SetPatience(2000);
+    viewer.Patience().Set(2000);
     program.Start();
     Take("Tamo", "start");
   }
@@ -83,7 +83,7 @@ struct Pictures {
   WorkerEngine engine{TAMO_ENGINE};
   PdfDraw viewer{planFiles, engine};
   Program program{platform, viewer};
-  test::WindowProbe windows{program, &viewer};
+  test::WindowProbe windows{program, &viewer.Pictures()};
   Desk& desk = program.GetDesk();
 };
 
@@ -196,7 +196,7 @@ void Plan(Pictures& p) {
   p.desk.Dispatch([&] { p.viewer.DrawLine({100, 120}, {300, 120}); });
   p.desk.UserFocus(p.At("OST", "picPdfDraw"));
   p.windows.SyncNow();
-  p.viewer.WaitUntilSharp(3000);
+  p.viewer.Pictures().WaitUntilSharp(3000);
   p.Wait(200);
   p.Take("OST", "plan");
   p.Menu("OST", "GetFiles");
