@@ -45,7 +45,7 @@ class PlanPlay {
   // Until the sheet is there in full.
   void Look() {
     QElapsedTimer clock;
-    for (clock.start(); clock.elapsed() < 5000 && !Viewer().WaitUntilSharp(0);)
+    for (clock.start(); clock.elapsed() < 5000 && !Viewer().Pictures().WaitUntilSharp(0);)
       QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
   }
 
