@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <iterator>
 
 namespace tamo {
 namespace {
@@ -44,10 +46,10 @@ void LetterGrid::Add(const SeenLetter& letter) {
 
 template <typename Visit>
 bool LetterGrid::AnyAround(const PageBox& box, Visit visit) const {
-  const auto rows = size_t(CellOf(box.bottom) - CellOf(box.top) + 1);
-  const auto columns = size_t(CellOf(box.right) - CellOf(box.left) + 1);
+  const int64_t rows = int64_t{1} + CellOf(box.bottom) - CellOf(box.top);
+  const int64_t columns = int64_t{1} + CellOf(box.right) - CellOf(box.left);
   // A line of letters as large as the sheet: those that are there are fewer than its cells.
-  if (box.right >= box.left && box.bottom >= box.top && rows * columns > cells_.size()) {
+  if (box.right >= box.left && box.bottom >= box.top && rows * columns > std::ssize(cells_)) {
     return std::any_of(cells_.begin(), cells_.end(), [&](const auto& cell) {
       return std::any_of(cell.second.begin(), cell.second.end(), visit);
     });
