@@ -16,6 +16,7 @@
 #include "plans/painterstate.h"
 #include "plans/planpainter.h"
 #include "plans/smallpictures.h"
+#include "whiteplan.h"
 
 // What a day of turning pages leaves of pictures and pages: so much and no more, and never less
 // than what is looked at.
@@ -38,34 +39,19 @@ std::shared_ptr<Picture> SquareOf(int side) {
 }
 
 // Has memory for so many pages at once.
-class NarrowPlan : public EnginePlan {
+class NarrowPlan : public WhitePlan {
  public:
   explicit NarrowPlan(int most) : most_(most) {}
   std::shared_ptr<LoadedPage> LoadPage(int /*page*/, CancelFlag& /*cancel*/) override {
     if (*held_ >= most_) return nullptr;
     ++*held_;
-    return std::shared_ptr<LoadedPage>(new White, [held = held_](LoadedPage* page) {
+    return std::shared_ptr<LoadedPage>(new WhitePage, [held = held_](LoadedPage* page) {
       --*held;
       delete page;
     });
   }
-  bool Paint(const LoadedPage& /*page*/, const PaintPart& part, CancelFlag& /*cancel*/,
-             uint32_t* pixels) override {
-    std::fill_n(pixels, static_cast<size_t>(part.width) * static_cast<size_t>(part.height),
-                0xffffffffU);
-    return true;
-  }
-  PlanContents Open(const QString& /*password*/) override { return {}; }
-  PageContent ReadContent(int /*page*/, CancelFlag& /*cancel*/) override { return {}; }
-  PlanUpdate BuildUpdate(const MarkChanges& /*changes*/) override { return {}; }
-  void ForgetUpdate() override {}
-  int WriteWhole(const Sink& /*sink*/, QString& /*problem*/) override { return 0; }
-  void Abandon() override {}
 
  private:
-  struct White : LoadedPage {
-    PageSize Size() const override { return {}; }
-  };
   const int most_;
   const std::shared_ptr<std::atomic<int>> held_ = std::make_shared<std::atomic<int>>(0);
 };

@@ -11,15 +11,13 @@
 #include <utility>
 #include <vector>
 
+#include "whiteplan.h"
+
 namespace tamo::test {
 namespace {
 
-struct BlankPage : LoadedPage {
-  PageSize Size() const override { return {}; }
-};
-
 // Reads pages only as fast as the test lets it.
-class SlowPlan : public EnginePlan {
+class SlowPlan : public WhitePlan {
  public:
   std::shared_ptr<LoadedPage> LoadPage(int /*page*/, CancelFlag& /*cancel*/) override {
     std::unique_lock lock(mutex_);
@@ -27,7 +25,7 @@ class SlowPlan : public EnginePlan {
     changed_.notify_all();
     changed_.wait(lock, [this] { return allowed_ > 0; });
     --allowed_;
-    return std::make_shared<BlankPage>();
+    return std::make_shared<WhitePage>();
   }
   // The reading of so many pages has begun.
   bool Begun(int pages) {
@@ -39,19 +37,6 @@ class SlowPlan : public EnginePlan {
     allowed_ += pages;
     changed_.notify_all();
   }
-
-  bool Paint(const LoadedPage& /*page*/, const PaintPart& part, CancelFlag& /*cancel*/,
-             uint32_t* pixels) override {
-    std::fill_n(pixels, static_cast<size_t>(part.width) * static_cast<size_t>(part.height),
-                0xffffffffU);
-    return true;
-  }
-  PlanContents Open(const QString& /*password*/) override { return {}; }
-  PageContent ReadContent(int /*page*/, CancelFlag& /*cancel*/) override { return {}; }
-  PlanUpdate BuildUpdate(const MarkChanges& /*changes*/) override { return {}; }
-  void ForgetUpdate() override {}
-  int WriteWhole(const Sink& /*sink*/, QString& /*problem*/) override { return 0; }
-  void Abandon() override {}
 
  private:
   std::mutex mutex_;
